@@ -1,0 +1,31 @@
+# What every target of the tree is compiled and linked with.
+option(HALVANE_WERROR "Treat warnings as errors" OFF)
+option(HALVANE_COVERAGE "Record line coverage" OFF)
+set(HALVANE_SANITIZE "" CACHE STRING "Sanitizers to build with, as -fsanitize= takes them")
+
+add_library(halvane_options INTERFACE)
+target_compile_options(halvane_options INTERFACE
+  -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wno-sign-conversion -Wnon-virtual-dtor)
+target_compile_definitions(halvane_options INTERFACE
+  QT_NO_KEYWORDS QT_NO_FOREACH QT_USE_QSTRINGBUILDER QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+if(HALVANE_WERROR)
+  target_compile_options(halvane_options INTERFACE -Werror)
+endif()
+if(HALVANE_COVERAGE)
+  target_compile_options(halvane_options INTERFACE --coverage -fprofile-update=atomic)
+  target_link_options(halvane_options INTERFACE --coverage)
+endif()
+if(HALVANE_SANITIZE)
+  target_compile_options(halvane_options INTERFACE
+    -fsanitize=${HALVANE_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
+  target_link_options(halvane_options INTERFACE -fsanitize=${HALVANE_SANITIZE})
+endif()
+
+find_program(MOLD mold)
+if(MOLD)
+  target_link_options(halvane_options INTERFACE -fuse-ld=mold)
+endif()
+find_program(CCACHE ccache)
+if(CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE})
+endif()

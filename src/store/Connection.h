@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QString>
+
+#include <memory>
+
+namespace SQLite {
+class Database;
+}
+
+/// The kinds of database file the program knows; each has its own schema.
+enum class DatabaseKind { Users, Foods };
+
+/// One open database file, alive from start to the quit path. Every failure is a RuntimeError with
+/// a negative number (the store's result code) and a description that names the file.
+///
+/// Journal and sync modes are chosen so that a committed row survives a kill and a power cut.
+class Connection {
+public:
+    enum State { Closed = 0, Opened = 1 };
+
+    Connection();
+    ~Connection();
+    Connection(const Connection&) = delete;
+    Connection& operator=(const Connection&) = delete;
+
+    /// Opens a file that must exist, be sound, be writable and of this or an older schema version.
+    /// An older schema is brought up to date by numbered steps, each in a transaction.
+    /// A file that is refused is left as it was, to the byte.
+    void Open(const QString& path, DatabaseKind kind);
+    void Close(); ///< does nothing where it is not open
+    State state() const;
+
+    /// The underlying database; only for the store's own code, for tools and for tests.
+    SQLite::Database& Raw();
+
+private:
+    struct Impl;
+    std::unique_ptr<Impl> impl_;
+};
+
+/// The two connections of the process.
+Connection& UserDB(); ///< users.mdb: profiles, reference intakes, logs, recipes
+Connection& FoodDB(); ///< foods.mdb: the catalogue

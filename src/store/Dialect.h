@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QString>
+
+/// Adapts statements of the old dialect to the store, at this one place: `TOP n` becomes a LIMIT,
+/// `#m/d/yyyy#` an ISO text, a comparison with a text literal ignores case, and an updatable result
+/// set gets its row handle as an extra first column. It reads tokens: text inside quotes is never
+/// touched, and what it cannot read is handed on unchanged for the store to refuse.
+namespace Dialect {
+inline constexpr auto RowHandle = "__row__"; ///< name of the handle column
+
+struct Statement {
+    QString sql;
+    QString table; ///< the table of an updatable set; empty for one that only reads
+};
+
+Statement Adapt(const QString& source, bool updatable);
+
+} // namespace Dialect

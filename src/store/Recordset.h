@@ -1,0 +1,81 @@
+#pragma once
+
+#include <QDate>
+#include <QString>
+#include <QVariant>
+
+#include <memory>
+
+class Connection;
+
+enum class Cursor { Keyset = 1, Dynamic = 2, Static = 3 };
+enum class Lock { ReadOnly = 1, Pessimistic = 2, Optimistic = 3 };
+
+/// One value of the current row. Null is null; the conversions fail with 94 on it and with 13 on
+/// text that is no number.
+class Field {
+public:
+    Field(QString name, QVariant value)
+        : name_(std::move(name))
+        , value_(std::move(value)) {}
+    const QString& Name() const { return name_; }
+    const QVariant& Value() const { return value_; }
+    bool IsNull() const;
+    QString Text() const;          ///< empty for null
+    double Number() const;         ///< strict
+    double NumberOr(double) const; ///< the given number for null
+    qint32 Integer() const;        ///< rounded half to even
+    bool Boolean() const;
+    QDate Date() const;
+
+private:
+    QString name_;
+    QVariant value_;
+};
+
+/// A result set: exactly one statement, opened, walked and closed inside one routine.
+/// A static set is a snapshot. A set opened with a lock other than ReadOnly can append, change and
+/// delete rows; a change or deletion touches exactly the current row. A read-only set is refused
+/// where its statement would write; ATTACH, PRAGMA and schema changes are refused always, and so is
+/// anything behind the first statement, before it runs. Columns are found by name without regard to
+/// case, or by position from 0. Values written are converted to the column's declared type (whole
+/// numbers round half to even). Reading or changing where there is no current row fails with 3021,
+/// an unknown name with 3265.
+class Recordset {
+public:
+    Recordset();
+    Recordset(Connection& connection, const QString& source, Cursor cursor = Cursor::Static,
+              Lock lock = Lock::ReadOnly);
+    ~Recordset();
+    Recordset(Recordset&&) noexcept;
+    Recordset& operator=(Recordset&&) noexcept;
+
+    void Open(Connection& connection, const QString& source, Cursor cursor = Cursor::Static,
+              Lock lock = Lock::ReadOnly);
+    void Close();
+    bool IsOpen() const;
+
+    int RecordCount() const;
+    bool AtStart() const; ///< before the first row
+    bool AtEnd() const;   ///< behind the last row; also true where there are none
+    void MoveFirst();
+    void MoveLast();
+    void MoveNext();
+    void MovePrevious();
+
+    int FieldCount() const;
+    QString FieldName(int position) const;
+    Field operator[](int position) const;
+    Field operator[](const QString& name) const;
+
+    void AddNew();
+    void Set(int position, const QVariant& value);
+    void Set(const QString& name, const QVariant& value);
+    void Update(); ///< commits the row; generated keys can be read from it afterwards
+    void
+    Delete(); ///< commits; the set then stands where the row was, with no current row until a move
+
+private:
+    struct Impl;
+    std::unique_ptr<Impl> impl_;
+};

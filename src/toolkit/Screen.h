@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QWidget>
+
+#include <functional>
+
+class QTimer;
+
+/// A screen of the nest. ShowScreen creates it by its registered name, lays it over the nest and
+/// calls DoWinInit each time it comes forward. Closing it destroys it; hiding keeps it. The upper
+/// left corner of the nest, 14 to 196 pixels from the left and 8 to 38 from the top, is kept free
+/// for the frame's title of the screen.
+class Screen : public QWidget {
+    Q_OBJECT
+
+public:
+    Screen(const QString& name, const QString& title, QWidget* parent = nullptr);
+
+    QString Title() const { return title_; }
+    /// Called by ShowScreen before the screen is shown: the place to take over the chosen day.
+    virtual void BeforeShow() {}
+    /// Brings the contents up to date.
+    virtual void DoWinInit() {}
+    /// Takes the hover look off all controls but the one named.
+    virtual void AllOff(const QString& except) { Q_UNUSED(except) }
+
+protected:
+    void mouseMoveEvent(QMouseEvent*) override; ///< AllOff("") where the pointer has really moved
+    void paintEvent(QPaintEvent*) override;     ///< canvas
+
+private:
+    QString title_;
+    QPoint lastMouse_{-1, -1};
+};
+
+/// The timer `cleanUp` of a form: every 250 milliseconds, calls `off` where the pointer stands
+/// outside the form. Positions on the form's edge count as inside.
+QTimer* AddCleanUp(QWidget* form, std::function<void()> off);

@@ -1,0 +1,65 @@
+#pragma once
+
+#include <QColor>
+#include <QFont>
+
+class QApplication;
+
+/// Every colour, font and measure of the program, by role. Controls paint from this table and hold
+/// no literals.
+struct Style {
+    struct Gradient {
+        QColor from;
+        QColor to; ///< downward
+    };
+    struct ButtonFace {
+        Gradient ground;
+        QColor edge;
+        QColor text;
+    };
+
+    QColor canvas;   ///< behind everything in the nest
+    QColor paper;    ///< boxes, lists, cards
+    QColor frame;    ///< box frames, focus ring, chosen day
+    QColor heading;  ///< screen titles, card titles
+    QColor ink;      ///< text
+    QColor quietInk; ///< servings, notes, captions beside values
+    QColor disabledInk;
+    QColor rule;          ///< grid lines and row separators
+    Gradient header;      ///< box headers
+    QColor mealStrip;     ///< meal headings of the day list, at rest
+    QColor mealText;      ///< their text at rest; white under the pointer
+    Gradient window;      ///< title bars
+    QColor navigation;    ///< navigation column, weekday heads
+    QColor navigationInk; ///< captions in the navigation column
+    QColor chosenRow, chosenRowText;
+    Gradient chosenDay;
+    QColor fieldEdge;         ///< edge of text fields at rest
+    QColor error;             ///< text of a refusal
+    ButtonFace button[4];     ///< by state less one: at rest, under the pointer, pressed, disabled
+    ButtonFace mainAction[4]; ///< the one main action of a screen
+    QColor raisedShadow, raisedText; ///< ucTextRaised
+
+    // The chart colours.
+    QColor gridLight, gridDark, barRowText, barRowHover;
+    QColor pieFat, pieProtein, pieCarbs;
+    QColor barNormal[8], barHover[8]; ///< rows of the bar pictures, top to bottom
+
+    QColor factsRule; ///< thin lines of the nutrition facts
+
+    // Measures, in pixels.
+    int boxGap = 8, nestEdge = 14, groupGap = 4, rowHeight = 26, tallRowHeight = 39,
+        buttonHeight = 26, buttonRadius = 4, fieldHeight = 24, headerHeight = 24, titleHeight = 34;
+
+    QFont text;        ///< 9 points, tabular figures
+    QFont small;       ///< 8 points, dense charts
+    QFont strong;      ///< 9 points semi-bold
+    QFont screenTitle; ///< 13 points semi-bold
+    QFont cardTitle;   ///< 15 points semi-bold
+};
+
+const Style& TheStyle();
+
+/// Gives the application the palette, the font and the look of the stock fields, check boxes, tips
+/// and calendar.
+void ApplyStyle(QApplication& application);

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QWidget>
+
+/// A line of smoothed text that sizes itself to its caption. An empty caption has no width.
+class ucAALBL : public QWidget {
+    Q_OBJECT
+    Q_PROPERTY(QString Caption READ Caption WRITE SetCaption)
+    Q_PROPERTY(QFont Font READ font WRITE SetFont)
+    Q_PROPERTY(QColor BackColor READ BackColor WRITE SetBackColor)
+    Q_PROPERTY(QColor ForeColor READ ForeColor WRITE SetForeColor)
+    Q_PROPERTY(bool Enabled READ isEnabled WRITE setEnabled)
+
+public:
+    explicit ucAALBL(QWidget* parent = nullptr);
+
+    QString Caption() const { return caption_; }
+    void SetCaption(const QString& caption);
+    void SetFont(const QFont& font);
+    QColor BackColor() const { return backColor_; }
+    void SetBackColor(
+        const QColor& color); ///< white by default; an invalid colour leaves the ground as it is
+    QColor ForeColor() const { return foreColor_; }
+    void SetForeColor(const QColor& color);
+    QSize sizeHint() const override;
+
+Q_SIGNALS:
+    void Click();
+    void MouseDown(int Button, int Shift, double X, double Y);
+    void MouseMove(int Button, int Shift, double X, double Y);
+    void MouseUp(int Button, int Shift, double X, double Y);
+
+protected:
+    void paintEvent(QPaintEvent*) override;
+    void mousePressEvent(QMouseEvent*) override;
+    void mouseMoveEvent(QMouseEvent*) override;
+    void mouseReleaseEvent(QMouseEvent*) override;
+
+private:
+    void Fit();
+
+    QString caption_;
+    QColor backColor_;
+    QColor foreColor_;
+};

@@ -1,0 +1,66 @@
+#pragma once
+
+#include <QWidget>
+
+/// A single-picture button whose three pictures the using screen sets, by name (see Pictures).
+/// Its state is the picture it shows. It sizes itself to `img_NORM`'s size, 24 by 24 unless
+/// PictureSize says otherwise.
+class ucButtonA : public QWidget {
+    Q_OBJECT
+    Q_PROPERTY(QString img_NORM READ img_NORM WRITE Set_img_NORM)
+    Q_PROPERTY(QString img_ROLL READ img_ROLL WRITE Set_img_ROLL)
+    Q_PROPERTY(QString img_DOWN READ img_DOWN WRITE Set_img_DOWN)
+    Q_PROPERTY(QString acToolTip READ toolTip WRITE Set_acToolTip)
+    Q_PROPERTY(QString Shown READ Shown)
+    Q_PROPERTY(bool Chosen READ Chosen WRITE SetChosen)
+
+public:
+    explicit ucButtonA(QWidget* parent = nullptr);
+
+    /// One picture in the three tones at rest, under the pointer and pressed, with tip and
+    /// accessible name.
+    void SetPictures(const QString& name, const QString& toolTip);
+    QString img_NORM() const { return normal_; }
+    void Set_img_NORM(const QString& name); ///< also shows it
+    QString img_ROLL() const { return roll_; }
+    void Set_img_ROLL(const QString& name);
+    QString img_DOWN() const { return down_; }
+    void Set_img_DOWN(const QString& name);
+    void Set_acToolTip(const QString& tip);
+    QString
+    Shown() const; ///< the picture shown at the moment: "img_NORM", "img_ROLL" or "img_DOWN"
+    bool Chosen() const {
+        return chosen_;
+    } ///< one of a row of views that is the one shown; painted lit
+    void SetChosen(bool chosen);
+    void SetPictureSize(QSize size);
+    void SetBordered(bool bordered);              ///< painted with a button's edge; off by default
+    void SetCaptionBelow(const QString& caption); ///< navigation column: caption under the picture
+    void SetTints(const QColor& rest, const QColor& roll, const QColor& down);
+    void Reset(); ///< img_NORM, if it shows anything else
+    QSize sizeHint() const override;
+
+Q_SIGNALS:
+    void Click();
+    void MouseMove(int Button, int Shift, double X, double Y);
+
+protected:
+    bool event(QEvent*) override;
+    void paintEvent(QPaintEvent*) override;
+    void mousePressEvent(QMouseEvent*) override;
+    void mouseMoveEvent(QMouseEvent*) override;
+    void mouseReleaseEvent(QMouseEvent*) override;
+    void keyPressEvent(QKeyEvent*) override;
+    void leaveEvent(QEvent*) override;
+
+private:
+    enum class Image { Normal, Roll, Down };
+    void Show(Image image);
+
+    QString normal_, roll_, down_, captionBelow_;
+    QColor tints_[3];
+    QSize pictureSize_{24, 24};
+    Image shown_ = Image::Normal;
+    bool chosen_ = false;
+    bool bordered_ = false;
+};

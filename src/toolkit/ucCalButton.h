@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QWidget>
+
+/// A captioned button of one slice, without a disabled look. Its `img_N` is the picture at rest and
+/// `img_R` the one under the pointer: the other way round from ucButton. It still looks pressed
+/// after a release, until the next move.
+class ucCalButton : public QWidget {
+    Q_OBJECT
+    Q_PROPERTY(QString Caption READ Caption WRITE SetCaption)
+    Q_PROPERTY(bool Enabled READ isEnabled WRITE setEnabled)
+    Q_PROPERTY(int State READ State)
+
+public:
+    explicit ucCalButton(QWidget* parent = nullptr);
+
+    QString Caption() const { return caption_; }
+    void SetCaption(const QString& caption);
+    int State() const { return state_; }
+    void Reset(); ///< state 1
+    QSize sizeHint() const override;
+
+Q_SIGNALS:
+    void Click();
+    void MouseMove(int Button, int Shift, double X, double Y);
+
+protected:
+    bool event(QEvent*) override;
+    void paintEvent(QPaintEvent*) override;
+    void mousePressEvent(QMouseEvent*) override;
+    void mouseMoveEvent(QMouseEvent*) override;
+    void mouseReleaseEvent(QMouseEvent*) override;
+    void keyPressEvent(QKeyEvent*) override;
+
+private:
+    void Track(bool leftButton, QPointF place);
+    void SetState(int state);
+
+    QString caption_ = QStringLiteral("Custom");
+    int state_ = 1;
+};
