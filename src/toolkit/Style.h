@@ -29,9 +29,12 @@ struct Style {
     Gradient header;      ///< box headers
     QColor mealStrip;     ///< meal headings of the day list, at rest
     QColor mealText;      ///< their text at rest; white under the pointer
+    QColor mealStripLit;  ///< the strip under the pointer, dark enough for the white text
     Gradient window;      ///< title bars
     QColor navigation;    ///< navigation column, weekday heads
     QColor navigationInk; ///< captions in the navigation column
+    QColor windowInk;     ///< captions and pictures on title bars
+    QColor navigationLit; ///< ground of a navigation button under the pointer
     QColor chosenRow, chosenRowText;
     Gradient chosenDay;
     QColor fieldEdge;         ///< edge of text fields at rest
@@ -49,13 +52,17 @@ struct Style {
 
     // Measures, in pixels.
     int boxGap = 8, nestEdge = 14, groupGap = 4, rowHeight = 26, tallRowHeight = 39,
-        buttonHeight = 26, buttonRadius = 4, fieldHeight = 24, headerHeight = 24, titleHeight = 34;
+        buttonHeight = 26, buttonRadius = 4, fieldHeight = 24, headerHeight = 24, titleHeight = 34,
+        fieldRadius = 3, boxRadius = 1, navigationWidth = 84, navigationTile = 66, scrollWidth = 16;
 
     QFont text;        ///< 9 points, tabular figures
     QFont small;       ///< 8 points, dense charts
     QFont strong;      ///< 9 points semi-bold
     QFont screenTitle; ///< 13 points semi-bold
     QFont cardTitle;   ///< 15 points semi-bold
+    QFont control;     ///< 10 points medium, captions of buttons
+    QFont title;       ///< 10 points semi-bold, title bars and strips
+    QFont raised;      ///< 14 points semi-bold, ucTextRaised
 };
 
 const Style& TheStyle();

@@ -1,0 +1,135 @@
+#include "toolkit/Style.h"
+
+#include <QApplication>
+#include <QPalette>
+
+namespace {
+
+struct PaletteRow {
+    QPalette::ColorRole role;
+    QColor Style::*colour;
+};
+
+constexpr PaletteRow paletteRows[] = {
+    {QPalette::Window, &Style::canvas},
+    {QPalette::WindowText, &Style::ink},
+    {QPalette::Base, &Style::paper},
+    {QPalette::AlternateBase, &Style::canvas},
+    {QPalette::Text, &Style::ink},
+    {QPalette::Button, &Style::canvas},
+    {QPalette::ButtonText, &Style::ink},
+    {QPalette::ToolTipBase, &Style::paper},
+    {QPalette::ToolTipText, &Style::ink},
+    {QPalette::PlaceholderText, &Style::quietInk},
+    {QPalette::Highlight, &Style::chosenRow},
+    {QPalette::HighlightedText, &Style::chosenRowText},
+    {QPalette::Link, &Style::heading},
+};
+
+constexpr QPalette::ColorRole inkRoles[] = {QPalette::WindowText, QPalette::Text,
+                                            QPalette::ButtonText};
+
+QPalette PaletteOf(const Style& style) {
+    QPalette palette;
+    for (const PaletteRow& row : paletteRows)
+        palette.setColor(row.role, style.*row.colour);
+    for (const QPalette::ColorRole role : inkRoles)
+        palette.setColor(QPalette::Disabled, role, style.disabledInk);
+    return palette;
+}
+
+/// `%name` stands for a value of the table below it.
+const char* const sheet = R"(
+QLineEdit, QPlainTextEdit {
+  background: %paper; color: %ink; border: 1px solid %fieldEdge; border-radius: %fieldRadius;
+  selection-background-color: %chosenRow; selection-color: %chosenRowText; padding: 0 5px;
+}
+QLineEdit { min-height: %fieldInner; max-height: %fieldInner; }
+QPlainTextEdit { padding: 3px 2px; }
+QLineEdit:focus, QPlainTextEdit:focus { border: 2px solid %frame; padding: 0 4px; }
+QPlainTextEdit:focus { padding: 2px 1px; }
+QLineEdit:focus { min-height: %fieldFocused; max-height: %fieldFocused; }
+QLineEdit:disabled, QPlainTextEdit:disabled {
+  background: %canvas; color: %disabledInk; border-color: %rule;
+}
+QToolTip { background: %paper; color: %ink; border: 1px solid %frame; padding: 3px 5px; }
+QCheckBox { color: %ink; spacing: 6px; background: transparent; }
+QCheckBox:disabled { color: %disabledInk; }
+QCheckBox:focus { color: %heading; }
+QCheckBox::indicator { width: 16px; height: 16px; image: url(:/assets/check-off.svg); }
+QCheckBox::indicator:hover { image: url(:/assets/check-off-lit.svg); }
+QCheckBox::indicator:focus { image: url(:/assets/check-off-focus.svg); }
+QCheckBox::indicator:checked { image: url(:/assets/check-on.svg); }
+QCheckBox::indicator:checked:focus { image: url(:/assets/check-on-focus.svg); }
+QCheckBox::indicator:disabled { image: url(:/assets/check-off-disabled.svg); }
+QCheckBox::indicator:checked:disabled { image: url(:/assets/check-on-disabled.svg); }
+QLabel { background: transparent; }
+QCalendarWidget QWidget { alternate-background-color: %canvas; }
+QCalendarWidget QWidget#qt_calendar_navigationbar { background: %navigation; }
+QCalendarWidget QToolButton {
+  color: %windowInk; background: transparent; border: none; border-radius: %fieldRadius;
+  padding: 3px 6px; margin: 2px; font-weight: 600;
+}
+QCalendarWidget QToolButton:hover, QCalendarWidget QToolButton:focus { background: %navigationLit; }
+QCalendarWidget QToolButton::menu-indicator { image: none; }
+QCalendarWidget QToolButton#qt_calendar_prevmonth { qproperty-icon: url(:/assets/arrow-left-light.svg); }
+QCalendarWidget QToolButton#qt_calendar_nextmonth { qproperty-icon: url(:/assets/arrow-right-light.svg); }
+QCalendarWidget QSpinBox { color: %ink; background: %paper; selection-background-color: %chosenRow; }
+QCalendarWidget QAbstractItemView {
+  background: %paper; color: %ink; outline: none;
+  selection-background-color: %dayTo; selection-color: %heading;
+}
+QCalendarWidget QAbstractItemView:disabled { color: %disabledInk; }
+QMenu { background: %paper; color: %ink; border: 1px solid %frame; padding: 3px; }
+QMenu::item { padding: 4px 20px 4px 12px; }
+QMenu::item:selected { background: %chosenRow; color: %chosenRowText; }
+)";
+
+struct SheetValue {
+    QLatin1String name;
+    QString text;
+};
+
+QString Pixels(int pixels) {
+    return QString::number(pixels) + "px";
+}
+
+/// Longer names stand before their own beginnings.
+QList<SheetValue> SheetValues(const Style& style) {
+    return {
+        {QLatin1String("%chosenRowText"), style.chosenRowText.name()},
+        {QLatin1String("%chosenRow"), style.chosenRow.name()},
+        {QLatin1String("%navigationLit"), style.navigationLit.name()},
+        {QLatin1String("%navigation"), style.navigation.name()},
+        {QLatin1String("%disabledInk"), style.disabledInk.name()},
+        {QLatin1String("%windowInk"), style.windowInk.name()},
+        {QLatin1String("%fieldEdge"), style.fieldEdge.name()},
+        {QLatin1String("%fieldRadius"), Pixels(style.fieldRadius)},
+        {QLatin1String("%fieldInner"), Pixels(style.fieldHeight - 2)},
+        {QLatin1String("%fieldFocused"), Pixels(style.fieldHeight - 4)},
+        {QLatin1String("%heading"), style.heading.name()},
+        {QLatin1String("%canvas"), style.canvas.name()},
+        {QLatin1String("%paper"), style.paper.name()},
+        {QLatin1String("%frame"), style.frame.name()},
+        {QLatin1String("%dayTo"), style.chosenDay.to.name()},
+        {QLatin1String("%rule"), style.rule.name()},
+        {QLatin1String("%ink"), style.ink.name()},
+    };
+}
+
+QString SheetOf(const Style& style) {
+    QString text = QString::fromLatin1(sheet);
+    for (const SheetValue& value : SheetValues(style))
+        text.replace(value.name, value.text);
+    return text;
+}
+
+} // namespace
+
+void ApplyStyle(QApplication& application) {
+    const Style& style = TheStyle();
+    QApplication::setStyle(QStringLiteral("Fusion"));
+    QApplication::setPalette(PaletteOf(style));
+    QApplication::setFont(style.text);
+    application.setStyleSheet(SheetOf(style));
+}

@@ -1,0 +1,49 @@
+#include "toolkit/Labels.h"
+
+#include "toolkit/Style.h"
+
+namespace {
+
+struct RoleLook {
+    QFont Style::*font;
+    QColor Style::*ink;
+};
+
+/// By TextRole.
+constexpr RoleLook roleLooks[] = {
+    {&Style::text, &Style::ink},
+    {&Style::text, &Style::quietInk},
+    {&Style::strong, &Style::ink},
+    {&Style::small, &Style::quietInk},
+    {&Style::screenTitle, &Style::heading},
+    {&Style::cardTitle, &Style::heading},
+};
+
+const RoleLook& LookOf(TextRole role) {
+    return roleLooks[static_cast<int>(role)];
+}
+
+} // namespace
+
+const QFont& FontOf(TextRole role) {
+    return TheStyle().*LookOf(role).font;
+}
+
+const QColor& InkOf(TextRole role) {
+    return TheStyle().*LookOf(role).ink;
+}
+
+QLabel* MakeLabel(QWidget* parent, const QString& name, const QString& text, TextRole role) {
+    auto* label = new QLabel(text, parent);
+    label->setObjectName(name);
+    label->setTextFormat(Qt::PlainText);
+    label->setFont(FontOf(role));
+    label->setMouseTracking(true);
+    QPalette inks = label->palette();
+    inks.setColor(QPalette::Active, QPalette::WindowText, InkOf(role));
+    inks.setColor(QPalette::Inactive, QPalette::WindowText, InkOf(role));
+    inks.setColor(QPalette::Disabled, QPalette::WindowText, TheStyle().disabledInk);
+    label->setPalette(inks);
+    label->adjustSize();
+    return label;
+}

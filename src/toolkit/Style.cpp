@@ -1,0 +1,118 @@
+#include "toolkit/Style.h"
+
+#include <QFontDatabase>
+#include <QGuiApplication>
+
+namespace {
+
+QString FamilyAtHand() {
+    const QStringList wanted{QStringLiteral("Inter"), QStringLiteral("Segoe UI"),
+                             QStringLiteral("Noto Sans"), QStringLiteral("DejaVu Sans")};
+    for (const QString& family : wanted)
+        if (QFontDatabase::hasFamily(family))
+            return family;
+    return QGuiApplication::font().family();
+}
+
+QFont FontAt(double points, QFont::Weight weight) {
+    static const QString family = FamilyAtHand();
+    QFont font(family);
+    font.setPointSizeF(points);
+    font.setWeight(weight);
+#if QT_VERSION >= QT_VERSION_CHECK(6, 7, 0)
+    font.setFeature("tnum", 1);
+#endif
+    return font;
+}
+
+void SetFonts(Style& style) {
+    style.text = FontAt(9, QFont::Normal);
+    style.small = FontAt(8, QFont::Normal);
+    style.strong = FontAt(9, QFont::DemiBold);
+    style.screenTitle = FontAt(13, QFont::DemiBold);
+    style.cardTitle = FontAt(15, QFont::DemiBold);
+    style.control = FontAt(10, QFont::Medium);
+    style.title = FontAt(10, QFont::DemiBold);
+    style.raised = FontAt(14, QFont::DemiBold);
+}
+
+void SetGrounds(Style& style) {
+    style.canvas = QColor(247, 242, 233);
+    style.paper = QColor(255, 253, 249);
+    style.frame = QColor(180, 105, 12);
+    style.rule = QColor(233, 217, 186);
+    style.header = {QColor(243, 228, 201), QColor(230, 207, 163)};
+    style.mealStrip = QColor(253, 247, 236);
+    style.mealStripLit = QColor(163, 92, 6);
+    style.window = {QColor(65, 86, 107), QColor(51, 69, 90)};
+    style.navigation = QColor(51, 69, 90);
+    style.navigationLit = QColor(69, 91, 115);
+    style.chosenRow = QColor(51, 69, 90);
+    style.chosenDay = {QColor(255, 241, 214), QColor(251, 220, 166)};
+    style.fieldEdge = QColor(168, 126, 66);
+    style.factsRule = QColor(120, 108, 92);
+}
+
+void SetInks(Style& style) {
+    style.heading = QColor(125, 72, 8);
+    style.ink = QColor(43, 38, 32);
+    style.quietInk = QColor(106, 97, 85);
+    style.disabledInk = QColor(112, 106, 98);
+    style.mealText = QColor(180, 105, 12);
+    style.windowInk = QColor(255, 255, 255);
+    style.navigationInk = QColor(208, 217, 227);
+    style.chosenRowText = QColor(255, 255, 255);
+    style.error = QColor(165, 32, 20);
+    style.raisedShadow = QColor(10, 75, 175);
+    style.raisedText = QColor(255, 255, 255);
+}
+
+void SetButtons(Style& style) {
+    const QColor text(61, 43, 18);
+    const QColor white(255, 255, 255);
+    const Style::ButtonFace disabled{
+        {QColor(248, 244, 237), QColor(243, 238, 230)}, QColor(206, 198, 186), style.disabledInk};
+    style.button[0] = {{QColor(255, 250, 240), QColor(240, 223, 192)}, QColor(185, 140, 75), text};
+    style.button[1] = {{QColor(255, 254, 250), QColor(248, 235, 210)}, style.frame, text};
+    style.button[2] = {{QColor(229, 208, 170), QColor(238, 221, 189)}, QColor(150, 86, 8), text};
+    style.button[3] = disabled;
+    style.mainAction[0] = {{QColor(173, 98, 10), QColor(150, 83, 4)}, QColor(126, 70, 4), white};
+    style.mainAction[1] = {{QColor(168, 96, 12), QColor(134, 74, 4)}, QColor(98, 54, 2), white};
+    style.mainAction[2] = {{QColor(117, 64, 3), QColor(134, 75, 5)}, QColor(94, 51, 2), white};
+    style.mainAction[3] = disabled;
+}
+
+void SetChartColours(Style& style) {
+    static constexpr QRgb normal[8] = {0xff787c85, 0xffa7b4df, 0xff9cabea, 0xff879beb,
+                                       0xff5b70c0, 0xff5669b5, 0xff455696, 0xff5e6068};
+    static constexpr QRgb lit[8] = {0xff7c8089, 0xffe6c3af, 0xfff1c5a4, 0xffefb98d,
+                                    0xffc0825b, 0xffb47d55, 0xff956743, 0xff5d6067};
+    for (int row = 0; row < 8; ++row) {
+        style.barNormal[row] = QColor(normal[row]);
+        style.barHover[row] = QColor(lit[row]);
+    }
+    style.gridLight = QColor(222, 222, 222);
+    style.gridDark = QColor(111, 111, 111);
+    style.barRowText = QColor(0, 0, 0);
+    style.barRowHover = QColor(181, 128, 88);
+    style.pieFat = QColor(255, 30, 30);
+    style.pieProtein = QColor(255, 133, 0);
+    style.pieCarbs = QColor(56, 250, 59);
+}
+
+Style MakeStyle() {
+    Style style;
+    SetFonts(style);
+    SetGrounds(style);
+    SetInks(style);
+    SetButtons(style);
+    SetChartColours(style);
+    return style;
+}
+
+} // namespace
+
+const Style& TheStyle() {
+    static const Style style = MakeStyle();
+    return style;
+}

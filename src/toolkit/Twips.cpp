@@ -1,0 +1,26 @@
+#include "toolkit/Twips.h"
+
+#include <QGuiApplication>
+#include <QScreen>
+#include <QtMath>
+
+namespace {
+
+constexpr double twipsPerInch = 1440;
+constexpr double standardDensity = 96;
+
+} // namespace
+
+int Twips::PerPixel() {
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    const double density = screen ? screen->logicalDotsPerInchX() : standardDensity;
+    return qMax(1, qRound(twipsPerInch / density));
+}
+
+int Twips::ToPixels(double twips) {
+    return qRound(twips / PerPixel());
+}
+
+int Twips::FromPixels(int pixels) {
+    return pixels * PerPixel();
+}
