@@ -1,0 +1,39 @@
+#include "runtime/Settings.h"
+
+#include <QSettings>
+
+namespace {
+constexpr qsizetype LongestValue = 255;
+
+#ifdef Q_OS_WIN
+constexpr QSettings::Format StoreFormat = QSettings::NativeFormat;
+#else
+constexpr QSettings::Format StoreFormat = QSettings::IniFormat;
+#endif
+
+/// A store object of its own for each call, so that a write by anybody else is seen at once.
+class Store : public QSettings {
+public:
+    Store()
+        : QSettings(StoreFormat, QSettings::UserScope, QStringLiteral("Brindlewick"),
+                    QStringLiteral("HALVANE")) {
+        setFallbacksEnabled(false);
+    }
+};
+
+QString Cut(QString text) {
+    if (const qsizetype end = text.indexOf(QChar::Null); end >= 0)
+        text.truncate(end);
+    const bool splitsPair = text.size() > LongestValue && text.at(LongestValue).isLowSurrogate() &&
+                            text.at(LongestValue - 1).isHighSurrogate();
+    return text.left(splitsPair ? LongestValue - 1 : LongestValue);
+}
+} // namespace
+
+QString GetRegValue(const QString& name) {
+    return Cut(Store().value(name).toString());
+}
+
+void SetRegValue(const QString& name, const QString& value) {
+    Store().setValue(name, value);
+}
