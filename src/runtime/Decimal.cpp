@@ -39,6 +39,11 @@ Decimal Decimal::Of(double value) {
     return decimal;
 }
 
+void Decimal::Shift(int places) {
+    if (!digits.isEmpty())
+        point += places;
+}
+
 void Decimal::RoundTo(int decimals) {
     const int kept = point + decimals;
     if (kept >= digits.size())

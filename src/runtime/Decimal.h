@@ -12,6 +12,9 @@ struct Decimal {
     /// The value must be finite.
     static Decimal Of(double value);
 
+    /// Multiplies by ten to the power of `places`.
+    void Shift(int places);
+
     /// Keeps that many decimals; halves go away from zero.
     void RoundTo(int decimals);
 

@@ -49,7 +49,7 @@ QString Format(double value, NumberMask mask) {
     const MaskParts& parts = PartsOf(mask);
     const QLocale locale;
     Decimal decimal = Decimal::Of(value);
-    decimal.point += parts.shift;
+    decimal.Shift(parts.shift);
     decimal.RoundTo(parts.decimals);
     QString text = decimal.negative ? QStringLiteral("-") : QString();
     text += WholeText(decimal, parts, locale);

@@ -39,5 +39,5 @@ qsizetype NumberText::LeadingLength(QStringView text) {
 }
 
 double NumberText::Value(QStringView number) {
-    return number.toLatin1().toDouble();
+    return number.toDouble();
 }
