@@ -3,7 +3,6 @@
 #include <QDialog>
 
 class ucTitleFlat;
-class ucButton;
 
 /// A modal dialog in the program's look: no platform title bar, a flat title of its own, canvas
 /// with a frame. Escape closes it like Cancel. The timer `cleanUp` takes the hover look off its
@@ -15,8 +14,8 @@ public:
     Dialog(const QString& name, const QString& title, QWidget* owner = nullptr);
 
     ucTitleFlat* Title() const { return title_; }
-    virtual void
-    AllOff(const QString& except); ///< resets every ucButton and ucButtonA but the one named
+    /// Resets every ucButton and ucButtonA but the one named, without regard to case.
+    virtual void AllOff(const QString& except);
 
     /// Shows it modally over its owner (or the screen's middle) and returns when it has closed.
     int ShowModal();
@@ -24,8 +23,8 @@ public:
 protected:
     void paintEvent(QPaintEvent*) override;
     void mouseMoveEvent(QMouseEvent*) override;
-    void showEvent(QShowEvent*) override;
-    QRect Inner() const; ///< below the title, inside the edges
+    void showEvent(QShowEvent*) override; ///< stands over its owner, or in the screen's middle
+    QRect Inner() const;                  ///< below the title, inside the edges
 
 private:
     ucTitleFlat* title_;

@@ -1,10 +1,10 @@
 #pragma once
 
-#include <QWidget>
+#include "toolkit/DrawnControl.h"
 
 /// What the painted panels share: a caption that repaints on setting, smoothed print, a click
 /// event.
-class PaintedPanel : public QWidget {
+class PaintedPanel : public DrawnControl {
     Q_OBJECT
     Q_PROPERTY(QString Caption READ Caption WRITE SetCaption)
 
@@ -14,15 +14,19 @@ public:
     QString Caption() const { return caption_; }
     virtual void SetCaption(const QString& caption);
 
-Q_SIGNALS:
-    void Click();
-    void MouseMove(int Button, int Shift, double X, double Y);
-
 protected:
+    /// Stretches the one-pixel column of a ground from `from` down to `to` over the whole panel.
+    void PaintGround(QPainter& painter, const QColor& from, const QColor& to) const;
+    /// The smoothed print of the caption; y is the place that centres it where none is given.
+    void PrintCaption(QPainter& painter, const QColor& ink, double x) const;
+    void PrintCaption(QPainter& painter, const QColor& ink, QPointF place) const;
+    double TextWidth() const;
+    double TextHeight() const;
     void mousePressEvent(QMouseEvent*) override;
     void mouseMoveEvent(QMouseEvent*) override;
     void mouseReleaseEvent(QMouseEvent*) override;
 
 private:
+    bool pressed_ = false;
     QString caption_ = QStringLiteral("Custom");
 };

@@ -1,15 +1,13 @@
 #pragma once
 
+#include "toolkit/CleanUp.h"
+
 #include <QWidget>
-
-#include <functional>
-
-class QTimer;
 
 /// A screen of the nest. ShowScreen creates it by its registered name, lays it over the nest and
 /// calls DoWinInit each time it comes forward. Closing it destroys it; hiding keeps it. The upper
 /// left corner of the nest, 14 to 196 pixels from the left and 8 to 38 from the top, is kept free
-/// for the frame's title of the screen.
+/// for the frame's title of the screen. Its timer `cleanUp` calls AllOff(""), too.
 class Screen : public QWidget {
     Q_OBJECT
 
@@ -32,7 +30,3 @@ private:
     QString title_;
     QPoint lastMouse_{-1, -1};
 };
-
-/// The timer `cleanUp` of a form: every 250 milliseconds, calls `off` where the pointer stands
-/// outside the form. Positions on the form's edge count as inside.
-QTimer* AddCleanUp(QWidget* form, std::function<void()> off);

@@ -20,8 +20,8 @@ public:
     ucScroll* vsResultsPane() const { return bar_; }
 
     int FrameHeight() const; ///< pixels
-    int PaneWidth()
-        const;        ///< pixels; inner width less the bar's place, whether or not the bar is shown
+    /// In pixels: the inner width less the bar's place, whether or not the bar is shown.
+    int PaneWidth() const;
     void ResetPane(); ///< pane as high as the frame, at the top, bar at 0
     void SetPaneHeight(int pixels);
     void ShowBar(); ///< sets the bar up for the present heights and shows it
@@ -37,6 +37,7 @@ protected:
 
 private:
     void OnBarChange(int value);
+    void FollowFocus(QWidget* old, QWidget* now);
 
     QWidget* box_;
     QWidget* pane_;

@@ -28,6 +28,7 @@ QFont FontAt(double points, QFont::Weight weight) {
 void SetFonts(Style& style) {
     style.text = FontAt(9, QFont::Normal);
     style.small = FontAt(8, QFont::Normal);
+    style.smallStrong = FontAt(8, QFont::DemiBold);
     style.strong = FontAt(9, QFont::DemiBold);
     style.screenTitle = FontAt(13, QFont::DemiBold);
     style.cardTitle = FontAt(15, QFont::DemiBold);
@@ -42,25 +43,31 @@ void SetGrounds(Style& style) {
     style.frame = QColor(180, 105, 12);
     style.rule = QColor(233, 217, 186);
     style.header = {QColor(243, 228, 201), QColor(230, 207, 163)};
+    style.headerEdge = QColor(196, 153, 88);
     style.mealStrip = QColor(253, 247, 236);
     style.mealStripLit = QColor(163, 92, 6);
     style.window = {QColor(65, 86, 107), QColor(51, 69, 90)};
     style.navigation = QColor(51, 69, 90);
     style.navigationLit = QColor(69, 91, 115);
+    style.navigationPressed = QColor(38, 53, 71);
     style.chosenRow = QColor(51, 69, 90);
     style.chosenDay = {QColor(255, 241, 214), QColor(251, 220, 166)};
+    style.scrollSlot = QColor(244, 237, 224);
     style.fieldEdge = QColor(168, 126, 66);
     style.factsRule = QColor(120, 108, 92);
 }
 
 void SetInks(Style& style) {
     style.heading = QColor(125, 72, 8);
+    style.headerInk = QColor(92, 54, 8);
     style.ink = QColor(43, 38, 32);
     style.quietInk = QColor(106, 97, 85);
     style.disabledInk = QColor(112, 106, 98);
     style.mealText = QColor(180, 105, 12);
     style.windowInk = QColor(255, 255, 255);
     style.navigationInk = QColor(208, 217, 227);
+    style.navigationDisabledInk = QColor(150, 164, 180);
+    style.disabledPicture = QColor(190, 182, 170);
     style.chosenRowText = QColor(255, 255, 255);
     style.error = QColor(165, 32, 20);
     style.raisedShadow = QColor(10, 75, 175);

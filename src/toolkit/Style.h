@@ -27,6 +27,8 @@ struct Style {
     QColor disabledInk;
     QColor rule;          ///< grid lines and row separators
     Gradient header;      ///< box headers
+    QColor headerInk;     ///< their captions
+    QColor headerEdge;    ///< the line below them
     QColor mealStrip;     ///< meal headings of the day list, at rest
     QColor mealText;      ///< their text at rest; white under the pointer
     QColor mealStripLit;  ///< the strip under the pointer, dark enough for the white text
@@ -35,8 +37,12 @@ struct Style {
     QColor navigationInk; ///< captions in the navigation column
     QColor windowInk;     ///< captions and pictures on title bars
     QColor navigationLit; ///< ground of a navigation button under the pointer
+    QColor navigationPressed;
+    QColor navigationDisabledInk;
+    QColor disabledPicture; ///< pictures of disabled buttons on canvas and paper
     QColor chosenRow, chosenRowText;
     Gradient chosenDay;
+    QColor scrollSlot;        ///< the track of the scroll bar
     QColor fieldEdge;         ///< edge of text fields at rest
     QColor error;             ///< text of a refusal
     ButtonFace button[4];     ///< by state less one: at rest, under the pointer, pressed, disabled
@@ -57,6 +63,7 @@ struct Style {
 
     QFont text;        ///< 9 points, tabular figures
     QFont small;       ///< 8 points, dense charts
+    QFont smallStrong; ///< 8 points semi-bold, the chosen navigation button
     QFont strong;      ///< 9 points semi-bold
     QFont screenTitle; ///< 13 points semi-bold
     QFont cardTitle;   ///< 15 points semi-bold

@@ -1,9 +1,9 @@
 #pragma once
 
-#include <QWidget>
+#include "toolkit/DrawnControl.h"
 
 /// A line of smoothed text that sizes itself to its caption. An empty caption has no width.
-class ucAALBL : public QWidget {
+class ucAALBL : public DrawnControl {
     Q_OBJECT
     Q_PROPERTY(QString Caption READ Caption WRITE SetCaption)
     Q_PROPERTY(QFont Font READ font WRITE SetFont)
@@ -18,20 +18,20 @@ public:
     void SetCaption(const QString& caption);
     void SetFont(const QFont& font);
     QColor BackColor() const { return backColor_; }
-    void SetBackColor(
-        const QColor& color); ///< white by default; an invalid colour leaves the ground as it is
-    QColor ForeColor() const { return foreColor_; }
+    /// White by default; an invalid colour leaves the ground as it is.
+    void SetBackColor(const QColor& color);
+    QColor ForeColor() const; ///< the palette's button text until one is set
     void SetForeColor(const QColor& color);
     QSize sizeHint() const override;
 
 Q_SIGNALS:
-    void Click();
     void MouseDown(int Button, int Shift, double X, double Y);
-    void MouseMove(int Button, int Shift, double X, double Y);
     void MouseUp(int Button, int Shift, double X, double Y);
 
 protected:
     void paintEvent(QPaintEvent*) override;
+    void resizeEvent(QResizeEvent*) override;
+    void changeEvent(QEvent*) override;
     void mousePressEvent(QMouseEvent*) override;
     void mouseMoveEvent(QMouseEvent*) override;
     void mouseReleaseEvent(QMouseEvent*) override;
@@ -42,4 +42,5 @@ private:
     QString caption_;
     QColor backColor_;
     QColor foreColor_;
+    bool pressed_ = false;
 };

@@ -1,14 +1,15 @@
 #pragma once
 
-#include <QWidget>
+#include "toolkit/DrawnControl.h"
 
 class ucHeader;
 
 /// A framed panel with a header on top; its contents stand in the rectangle that Inner() gives.
-class ucBox : public QWidget {
+/// With an empty caption the header is hidden and its room is the contents'.
+class ucBox : public DrawnControl {
     Q_OBJECT
     Q_PROPERTY(QString Caption READ Caption WRITE SetCaption)
-    Q_PROPERTY(QFont Font READ font WRITE setFont)
+    Q_PROPERTY(QFont Font READ Font WRITE SetFont)
     Q_PROPERTY(bool Enabled READ isEnabled WRITE setEnabled)
     Q_PROPERTY(double CurrentX MEMBER currentX_)
     Q_PROPERTY(double CurrentY MEMBER currentY_)
@@ -19,11 +20,12 @@ public:
 
     QString Caption() const;
     void SetCaption(const QString& caption);
+    QFont Font() const; ///< of the header
+    void SetFont(const QFont& font);
     ucHeader* Header() const { return header_; }
     QRect Inner() const; ///< inside the frame, below the header
 
 Q_SIGNALS:
-    void MouseMove(int Button, int Shift, double X, double Y);
     void InnerChanged(); ///< after a resize
 
 protected:

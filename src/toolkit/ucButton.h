@@ -1,11 +1,12 @@
 #pragma once
 
-#include <QWidget>
+#include "toolkit/DrawnControl.h"
+#include "toolkit/Style.h"
 
 /// A captioned button of any width: left cap, one-pixel middle column stretched, right cap.
 /// States: 1 at rest, 2 pointer over, 3 pressed, 4 disabled. A button that is told it is enabled
 /// again leaves state 4 only by Reset. Space and Return press it from the keyboard; focus is drawn.
-class ucButton : public QWidget {
+class ucButton : public DrawnControl {
     Q_OBJECT
     Q_PROPERTY(QString Caption READ Caption WRITE SetCaption)
     Q_PROPERTY(bool Enabled READ Enabled WRITE SetEnabled)
@@ -18,35 +19,41 @@ public:
 
     QString Caption() const { return caption_; }
     void SetCaption(const QString& caption);
-    bool Enabled() const;
-    void SetEnabled(bool enabled);
+    bool Enabled() const { return isEnabled(); }
+    void SetEnabled(bool enabled) { setEnabled(enabled); }
     int State() const { return state_; }
-    bool MainAction() const {
-        return mainAction_;
-    } ///< the one main action of a screen is painted so
-    void SetMainAction(bool mainAction);
-    void Reset(); ///< back to state 1, or to 4 where disabled
+    bool MainAction() const { return mainAction_; }
+    void SetMainAction(bool mainAction); ///< the one main action of a screen is painted so
+    void Reset();                        ///< back to state 1, or to 4 where disabled
     QSize sizeHint() const override;
+    void Activate() override;
 
-Q_SIGNALS:
-    void Click();
-    void MouseMove(int Button, int Shift, double X, double Y);
+    struct Layout {
+        QRect picL, picM, picR;
+    };
+    Layout layoutRects() const;
+    /// Name of the picture that a surface shows at the moment: 0 `picL`, 1 `picM`, 2 `picR`.
+    QString PictureOn(int surface) const;
 
 protected:
-    bool event(QEvent*) override;
     void paintEvent(QPaintEvent*) override;
     void mousePressEvent(QMouseEvent*) override;
     void mouseMoveEvent(QMouseEvent*) override;
     void mouseReleaseEvent(QMouseEvent*) override;
     void keyPressEvent(QKeyEvent*) override;
     void keyReleaseEvent(QKeyEvent*) override;
+    void resizeEvent(QResizeEvent*) override;
     void showEvent(QShowEvent*) override;
     void leaveEvent(QEvent*) override;
+    void focusOutEvent(QFocusEvent*) override;
+    void changeEvent(QEvent*) override;
 
 private:
     void SetState(int state);
+    const Style::ButtonFace& Face() const;
+    void PaintCaption(QPainter& painter, const QRect& picM) const;
 
-    QString caption_;
+    QString caption_ = QStringLiteral("Custom");
     int state_ = 1;
     bool mainAction_ = false;
 };

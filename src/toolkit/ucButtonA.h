@@ -1,11 +1,11 @@
 #pragma once
 
-#include <QWidget>
+#include "toolkit/DrawnControl.h"
 
 /// A single-picture button whose three pictures the using screen sets, by name (see Pictures).
 /// Its state is the picture it shows. It sizes itself to `img_NORM`'s size, 24 by 24 unless
 /// PictureSize says otherwise.
-class ucButtonA : public QWidget {
+class ucButtonA : public DrawnControl {
     Q_OBJECT
     Q_PROPERTY(QString img_NORM READ img_NORM WRITE Set_img_NORM)
     Q_PROPERTY(QString img_ROLL READ img_ROLL WRITE Set_img_ROLL)
@@ -39,23 +39,30 @@ public:
     void SetTints(const QColor& rest, const QColor& roll, const QColor& down);
     void Reset(); ///< img_NORM, if it shows anything else
     QSize sizeHint() const override;
+    void Activate() override;
 
-Q_SIGNALS:
-    void Click();
-    void MouseMove(int Button, int Shift, double X, double Y);
+    struct Layout {
+        QRect imgButton, caption;
+    };
+    Layout layoutRects() const;
 
 protected:
-    bool event(QEvent*) override;
     void paintEvent(QPaintEvent*) override;
     void mousePressEvent(QMouseEvent*) override;
     void mouseMoveEvent(QMouseEvent*) override;
     void mouseReleaseEvent(QMouseEvent*) override;
     void keyPressEvent(QKeyEvent*) override;
     void leaveEvent(QEvent*) override;
+    void changeEvent(QEvent*) override;
 
 private:
     enum class Image { Normal, Roll, Down };
     void Show(Image image);
+    void Fit();
+    QString PictureShown() const;
+    QColor InkShown() const;
+    void PaintGround(QPainter& painter) const;
+    void PaintNavigationGround(QPainter& painter) const;
 
     QString normal_, roll_, down_, captionBelow_;
     QColor tints_[3];

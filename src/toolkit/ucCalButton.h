@@ -1,11 +1,11 @@
 #pragma once
 
-#include <QWidget>
+#include "toolkit/DrawnControl.h"
 
 /// A captioned button of one slice, without a disabled look. Its `img_N` is the picture at rest and
 /// `img_R` the one under the pointer: the other way round from ucButton. It still looks pressed
 /// after a release, until the next move.
-class ucCalButton : public QWidget {
+class ucCalButton : public DrawnControl {
     Q_OBJECT
     Q_PROPERTY(QString Caption READ Caption WRITE SetCaption)
     Q_PROPERTY(bool Enabled READ isEnabled WRITE setEnabled)
@@ -19,13 +19,9 @@ public:
     int State() const { return state_; }
     void Reset(); ///< state 1
     QSize sizeHint() const override;
-
-Q_SIGNALS:
-    void Click();
-    void MouseMove(int Button, int Shift, double X, double Y);
+    QString PictureOn() const; ///< name of the picture that `picM` shows at the moment
 
 protected:
-    bool event(QEvent*) override;
     void paintEvent(QPaintEvent*) override;
     void mousePressEvent(QMouseEvent*) override;
     void mouseMoveEvent(QMouseEvent*) override;

@@ -1,10 +1,11 @@
 #pragma once
 
-#include <QWidget>
+#include "toolkit/DrawnControl.h"
 
 /// A two-state picture with a text beside it. A click turns it on and never off; where one of a set
-/// is clicked, the using screen turns the others off. Space works it from the keyboard.
-class ucRadio : public QWidget {
+/// is clicked, the using screen turns the others off. From the keyboard, Space works it and the
+/// arrow keys go through the set: the radios of one parent whose names differ only in their number.
+class ucRadio : public DrawnControl {
     Q_OBJECT
     Q_PROPERTY(bool Value READ Value WRITE SetValue)
     Q_PROPERTY(QString Caption READ Caption WRITE SetCaption)
@@ -18,24 +19,34 @@ public:
     QString Caption() const { return caption_; }
     void SetCaption(const QString& caption);
     QSize sizeHint() const override;
+    void Activate() override;
 
-Q_SIGNALS:
-    void Click();
+    struct Layout {
+        QRect imgButton, caption;
+    };
+    Layout layoutRects() const;
 
 protected:
     /// Names of the pictures: on `imgN`, off `imgD`.
-    ucRadio(const QString& imgN, const QString& imgD, const QString& caption, QWidget* parent);
-    bool event(QEvent*) override;
+    ucRadio(const QString& imgN, const QString& imgD, QSize pictureSize, const QString& caption,
+            QWidget* parent);
     void paintEvent(QPaintEvent*) override;
     void mousePressEvent(QMouseEvent*) override;
+    void mouseMoveEvent(QMouseEvent*) override;
     void mouseReleaseEvent(QMouseEvent*) override;
+    void leaveEvent(QEvent*) override;
+    void changeEvent(QEvent*) override;
     void keyPressEvent(QKeyEvent*) override;
 
 private:
-    void Press();
+    QList<ucRadio*> Set() const;
+    void GoTo(int step);
 
     QString imgN_, imgD_, caption_;
+    QSize pictureSize_;
     bool value_ = false;
+    bool pressed_ = false;
+    bool lit_ = false;
 };
 
 /// The same control with other pictures: a switch instead of a dot.

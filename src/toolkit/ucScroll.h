@@ -1,13 +1,13 @@
 #pragma once
 
-#include <QWidget>
+#include "toolkit/DrawnControl.h"
 
 class QTimer;
 
 /// The vertical scroll bar. Setting Value clamps it, raises Change even if it has not changed, and
 /// places the thumb. Max and Min only store. Arrows and slot repeat after 0.4 seconds, every 0.05
 /// seconds. The thumb's place is Value / Max of the travel: Min takes no part.
-class ucScroll : public QWidget {
+class ucScroll : public DrawnControl {
     Q_OBJECT
     Q_PROPERTY(int Value READ Value WRITE SetValue NOTIFY Change)
     Q_PROPERTY(int Max READ Max WRITE SetMax)
@@ -41,6 +41,7 @@ public:
     };
     Layout layoutRects() const;
     QSize sizeHint() const override;
+    void Wheel(QWheelEvent* event); ///< turns a wheel's steps into small steps
 
 Q_SIGNALS:
     void Change(int Value);
@@ -55,16 +56,28 @@ protected:
     void mouseReleaseEvent(QMouseEvent*) override;
     void wheelEvent(QWheelEvent*) override;
     void keyPressEvent(QKeyEvent*) override;
+    void hideEvent(QHideEvent*) override;
+    void leaveEvent(QEvent*) override;
 
 private:
+    enum class Part { None, Up, Down, Slot, Thumb };
+    Part PartAt(QPoint place) const;
+    void PressSlot(int y);
+    void DragTo(int y);
     void PlaceThumb();
     void StartRepeat(int step, int limit);
     void Repeat();
+    bool RepeatIsOver() const;
     void EndPress();
+    void PaintArrow(QPainter& painter, const QRect& place, Part part) const;
+    void PaintThumb(QPainter& painter, const QRect& place) const;
 
+    static constexpr int noDrag = -5000;
     int value_ = 1, max_ = 10, min_ = 1, largeChange_ = 20, smallChange_ = 5, backStyle_ = 1;
-    int travel_ = 0, thumbTop_ = 0, dragOffset_ = -5000;
+    int travel_ = 0, thumbTop_ = 0, dragOffset_ = noDrag;
     int repeatStep_ = 0, repeatLimit_ = 0;
-    int pressed_ = 0;
+    int wheelRest_ = 0;
+    Part pressed_ = Part::None;
+    Part lit_ = Part::None;
     QTimer* repeat_ = nullptr;
 };

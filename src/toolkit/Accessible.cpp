@@ -1,0 +1,163 @@
+#include "toolkit/Accessible.h"
+
+#include "toolkit/ucAALBL.h"
+#include "toolkit/ucBox.h"
+#include "toolkit/ucButton.h"
+#include "toolkit/ucButtonA.h"
+#include "toolkit/ucCalButton.h"
+#include "toolkit/ucHeader.h"
+#include "toolkit/ucRadio.h"
+#include "toolkit/ucScroll.h"
+#include "toolkit/ucTitleFlat.h"
+
+#include <QAccessible>
+#include <QAccessibleWidget>
+
+namespace {
+
+QString CaptionOf(const QObject* control) {
+    return control->property("Caption").toString();
+}
+
+/// Name from `accessibleName`, else the caption, else the tip; a press through Activate.
+class ControlInterface : public QAccessibleWidget {
+public:
+    ControlInterface(QWidget* control, QAccessible::Role role)
+        : QAccessibleWidget(control, role) {}
+
+    QString text(QAccessible::Text kind) const override {
+        const QString own = QAccessibleWidget::text(kind);
+        if (kind != QAccessible::Name || !own.isEmpty())
+            return own;
+        const QString caption = CaptionOf(object());
+        return caption.isEmpty() ? widget()->toolTip() : caption;
+    }
+
+    QStringList actionNames() const override {
+        QStringList names = QAccessibleWidget::actionNames();
+        if (Presses())
+            names.prepend(pressAction());
+        return names;
+    }
+
+    void doAction(const QString& name) override {
+        if (name == pressAction() && widget()->isEnabled() && Presses())
+            static_cast<DrawnControl*>(object())->Activate();
+        else
+            QAccessibleWidget::doAction(name);
+    }
+
+private:
+    bool Presses() const {
+        return role() == QAccessible::Button || role() == QAccessible::RadioButton;
+    }
+};
+
+class RadioInterface : public ControlInterface {
+public:
+    explicit RadioInterface(QWidget* control)
+        : ControlInterface(control, QAccessible::RadioButton) {}
+
+    QAccessible::State state() const override {
+        QAccessible::State state = ControlInterface::state();
+        state.checkable = true;
+        state.checked = static_cast<ucRadio*>(object())->Value();
+        return state;
+    }
+};
+
+class ViewButtonInterface : public ControlInterface {
+public:
+    explicit ViewButtonInterface(QWidget* control)
+        : ControlInterface(control, QAccessible::Button) {}
+
+    QAccessible::State state() const override {
+        QAccessible::State state = ControlInterface::state();
+        state.pressed = static_cast<ucButtonA*>(object())->Chosen();
+        return state;
+    }
+};
+
+class ScrollInterface : public ControlInterface, public QAccessibleValueInterface {
+public:
+    explicit ScrollInterface(QWidget* control)
+        : ControlInterface(control, QAccessible::ScrollBar) {}
+
+    void* interface_cast(QAccessible::InterfaceType type) override {
+        if (type == QAccessible::ValueInterface)
+            return static_cast<QAccessibleValueInterface*>(this);
+        return ControlInterface::interface_cast(type);
+    }
+    QVariant currentValue() const override { return Bar()->Value(); }
+    void setCurrentValue(const QVariant& value) override { Bar()->SetValue(value.toInt()); }
+    QVariant maximumValue() const override { return Bar()->Max(); }
+    QVariant minimumValue() const override { return Bar()->Min(); }
+    QVariant minimumStepSize() const override { return Bar()->SmallChange(); }
+    QString text(QAccessible::Text kind) const override {
+        return kind == QAccessible::Value ? QString::number(Bar()->Value())
+                                          : ControlInterface::text(kind);
+    }
+
+private:
+    ucScroll* Bar() const { return static_cast<ucScroll*>(object()); }
+};
+
+struct RoleRow {
+    const QMetaObject* kind;
+    QAccessible::Role role;
+};
+
+QAccessible::Role RoleOf(const QObject* object) {
+    static const RoleRow rows[] = {
+        {&ucButton::staticMetaObject, QAccessible::Button},
+        {&ucCalButton::staticMetaObject, QAccessible::Button},
+        {&ucAALBL::staticMetaObject, QAccessible::StaticText},
+        {&ucBox::staticMetaObject, QAccessible::Grouping},
+        {&TitleControl::staticMetaObject, QAccessible::TitleBar},
+        {&PaintedPanel::staticMetaObject, QAccessible::StaticText},
+    };
+    for (const RoleRow& row : rows)
+        if (object->metaObject()->inherits(row.kind))
+            return row.role;
+    return QAccessible::Client;
+}
+
+QAccessibleInterface* MakeInterface(const QString&, QObject* object) {
+    auto* control = qobject_cast<DrawnControl*>(object);
+    if (!control)
+        return nullptr;
+    if (qobject_cast<ucScroll*>(control))
+        return new ScrollInterface(control);
+    if (qobject_cast<ucRadio*>(control))
+        return new RadioInterface(control);
+    if (qobject_cast<ucButtonA*>(control))
+        return new ViewButtonInterface(control);
+    return new ControlInterface(control, RoleOf(control));
+}
+
+} // namespace
+
+void InstallAccessible() {
+    static const bool installed = [] {
+        QAccessible::installFactory(MakeInterface);
+        return true;
+    }();
+    Q_UNUSED(installed)
+}
+
+void TellNameChanged(QWidget* control) {
+    QAccessibleEvent event(control, QAccessible::NameChanged);
+    QAccessible::updateAccessibility(&event);
+}
+
+void TellValueChanged(QWidget* control, int value) {
+    QAccessibleValueChangeEvent event(control, value);
+    QAccessible::updateAccessibility(&event);
+}
+
+void TellChecked(QWidget* control) {
+    QAccessible::State changed;
+    changed.checked = true;
+    QAccessibleStateChangeEvent event(control, changed);
+    QAccessible::updateAccessibility(&event);
+}

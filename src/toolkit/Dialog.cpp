@@ -1,0 +1,68 @@
+#include "toolkit/Dialog.h"
+
+#include "toolkit/CleanUp.h"
+#include "toolkit/Style.h"
+#include "toolkit/ucButton.h"
+#include "toolkit/ucButtonA.h"
+#include "toolkit/ucTitleFlat.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+#include <QScreen>
+
+namespace {
+
+constexpr int edge = 1;
+
+template <class Button> void ResetAllBut(const QString& except, QWidget* form) {
+    const auto buttons = form->findChildren<Button*>();
+    for (Button* button : buttons)
+        if (except.isEmpty() || button->objectName().compare(except, Qt::CaseInsensitive) != 0)
+            button->Reset();
+}
+
+} // namespace
+
+Dialog::Dialog(const QString& name, const QString& title, QWidget* owner)
+    : QDialog(owner, Qt::Dialog | Qt::FramelessWindowHint)
+    , title_(new ucTitleFlat(this)) {
+    setObjectName(name);
+    setWindowTitle(title);
+    setMouseTracking(true);
+    title_->setObjectName(QStringLiteral("ucTitle"));
+    title_->SetCaption(title);
+    AddCleanUp(this, [this] { AllOff(QString()); });
+}
+
+void Dialog::AllOff(const QString& except) {
+    ResetAllBut<ucButton>(except, this);
+    ResetAllBut<ucButtonA>(except, this);
+}
+
+int Dialog::ShowModal() {
+    setModal(true);
+    return exec();
+}
+
+QRect Dialog::Inner() const {
+    return rect().adjusted(edge, title_->height(), -edge, -edge);
+}
+
+void Dialog::showEvent(QShowEvent* event) {
+    QDialog::showEvent(event);
+    const QWidget* owner = parentWidget() ? parentWidget()->window() : nullptr;
+    QRect place = rect();
+    place.moveCenter(owner ? owner->geometry().center() : screen()->availableGeometry().center());
+    move(place.topLeft());
+}
+
+void Dialog::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.fillRect(rect(), TheStyle().canvas);
+    painter.setPen(TheStyle().frame);
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+}
+
+void Dialog::mouseMoveEvent(QMouseEvent*) {
+    AllOff(QString());
+}

@@ -1,0 +1,60 @@
+#include "toolkit/DrawnControl.h"
+
+#include "toolkit/Accessible.h"
+#include "toolkit/Style.h"
+#include "toolkit/Twips.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+
+DrawnControl::DrawnControl(QWidget* parent)
+    : QWidget(parent) {
+    InstallAccessible();
+    setMouseTracking(true);
+}
+
+bool DrawnControl::IsInside(QPointF place) const {
+    return place.x() > 0 && place.y() > 0 && place.x() < width() && place.y() < height();
+}
+
+void DrawnControl::focusInEvent(QFocusEvent* event) {
+    focusShown_ = event->reason() != Qt::MouseFocusReason;
+    QWidget::focusInEvent(event);
+    update();
+}
+
+void DrawnControl::focusOutEvent(QFocusEvent* event) {
+    focusShown_ = false;
+    QWidget::focusOutEvent(event);
+    update();
+}
+
+void DrawnControl::RaiseMouseMove(const QMouseEvent* event) {
+    const double ratio = Twips::PerPixel();
+    Q_EMIT MouseMove(static_cast<int>(event->buttons()), ShiftOf(event),
+                     event->position().x() * ratio, event->position().y() * ratio);
+}
+
+int DrawnControl::ShiftOf(const QMouseEvent* event) {
+    const Qt::KeyboardModifiers held = event->modifiers();
+    return (held.testFlag(Qt::ShiftModifier) ? 1 : 0) +
+           (held.testFlag(Qt::ControlModifier) ? 2 : 0) + (held.testFlag(Qt::AltModifier) ? 4 : 0);
+}
+
+bool DrawnControl::IsPressKey(const QKeyEvent* event) {
+    const bool pressKey = event->key() == Qt::Key_Space || event->key() == Qt::Key_Return ||
+                          event->key() == Qt::Key_Enter;
+    return pressKey && !event->isAutoRepeat();
+}
+
+void PaintFocusRing(QPainter& painter, const QRectF& place, double radius) {
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(TheStyle().frame, 2));
+    painter.drawRoundedRect(place.adjusted(1, 1, -1, -1), radius, radius);
+    painter.setPen(QPen(TheStyle().paper, 1));
+    painter.drawRoundedRect(place.adjusted(2.5, 2.5, -2.5, -2.5), radius - 1, radius - 1);
+    painter.restore();
+}

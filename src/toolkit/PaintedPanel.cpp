@@ -1,0 +1,58 @@
+#include "toolkit/PaintedPanel.h"
+
+#include "toolkit/Accessible.h"
+#include "toolkit/Slices.h"
+#include "toolkit/SmoothedPrint.h"
+
+#include <QFontMetricsF>
+#include <QMouseEvent>
+#include <QPainter>
+
+PaintedPanel::PaintedPanel(QWidget* parent)
+    : DrawnControl(parent) {}
+
+void PaintedPanel::SetCaption(const QString& caption) {
+    caption_ = caption;
+    update();
+    TellNameChanged(this);
+}
+
+double PaintedPanel::TextWidth() const {
+    return QFontMetricsF(SmoothedFont(font())).horizontalAdvance(caption_);
+}
+
+double PaintedPanel::TextHeight() const {
+    return QFontMetricsF(SmoothedFont(font())).height();
+}
+
+void PaintedPanel::PaintGround(QPainter& painter, const QColor& from, const QColor& to) const {
+    const Style::ButtonFace face{{from, to}, Qt::transparent, QColor()};
+    StretchColumn(painter, rect(),
+                  Slices::OfFace(face, 1, 0, height(), devicePixelRatioF()).middle);
+}
+
+void PaintedPanel::PrintCaption(QPainter& painter, const QColor& ink, double x) const {
+    PrintCaption(painter, ink, QPointF(x, height() / 2.0 - TextHeight() / 2));
+}
+
+void PaintedPanel::PrintCaption(QPainter& painter, const QColor& ink, QPointF place) const {
+    painter.setPen(ink);
+    SmoothedPrint(painter, place, caption_, font());
+}
+
+void PaintedPanel::mousePressEvent(QMouseEvent* event) {
+    pressed_ = event->button() == Qt::LeftButton;
+}
+
+/// The screen below hears of the move as well.
+void PaintedPanel::mouseMoveEvent(QMouseEvent* event) {
+    RaiseMouseMove(event);
+    event->ignore();
+}
+
+void PaintedPanel::mouseReleaseEvent(QMouseEvent* event) {
+    const bool clicked = pressed_ && rect().contains(event->position().toPoint());
+    pressed_ = false;
+    if (clicked)
+        Q_EMIT Click();
+}

@@ -1,0 +1,55 @@
+#include "toolkit/TitleControl.h"
+
+#include "toolkit/Style.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+#include <QRubberBand>
+
+TitleControl::TitleControl(QWidget* parent)
+    : PaintedPanel(parent) {
+    setFont(TheStyle().title);
+}
+
+TitleControl::~TitleControl() = default;
+
+void TitleControl::mousePressEvent(QMouseEvent* event) {
+    PaintedPanel::mousePressEvent(event);
+    pressed_ = event->position().toPoint();
+}
+
+void TitleControl::mouseMoveEvent(QMouseEvent* event) {
+    const bool held = event->buttons().testFlag(Qt::LeftButton);
+    if (held && !dragging_ && event->position().toPoint().x() != pressed_.x())
+        dragging_ = true;
+    if (held && dragging_)
+        DrawOutline(event->globalPosition().toPoint());
+    PaintedPanel::mouseMoveEvent(event);
+}
+
+void TitleControl::DrawOutline(QPoint cursor) {
+    const QPoint inWindow = mapTo(window(), pressed_);
+    outline_ = QRect(cursor - inWindow, window()->size());
+    if (!band_)
+        band_ = std::make_unique<QRubberBand>(QRubberBand::Rectangle);
+    band_->setGeometry(outline_);
+    band_->show();
+}
+
+void TitleControl::mouseReleaseEvent(QMouseEvent* event) {
+    const bool moved = dragging_;
+    dragging_ = false;
+    band_.reset();
+    if (!moved)
+        return PaintedPanel::mouseReleaseEvent(event);
+    window()->move(outline_.topLeft());
+    outline_ = QRect();
+    Q_EMIT Moved();
+}
+
+void TitleControl::PaintTitle(QPoint picM, QPointF place) {
+    QPainter painter(this);
+    const Style& style = TheStyle();
+    PaintGround(painter, style.window.from, style.window.to);
+    PrintCaption(painter, style.windowInk, picM + place);
+}

@@ -1,0 +1,94 @@
+#include "toolkit/ucAALBL.h"
+
+#include "toolkit/Accessible.h"
+#include "toolkit/SmoothedPrint.h"
+#include "toolkit/Style.h"
+#include "toolkit/Twips.h"
+
+#include <QFontMetricsF>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QtMath>
+
+ucAALBL::ucAALBL(QWidget* parent)
+    : DrawnControl(parent)
+    , caption_(QStringLiteral("AntiAlias"))
+    , backColor_(Qt::white) {
+    Fit();
+}
+
+void ucAALBL::SetCaption(const QString& caption) {
+    caption_ = caption;
+    Fit();
+    TellNameChanged(this);
+}
+
+void ucAALBL::SetFont(const QFont& font) {
+    setFont(font);
+    Fit();
+}
+
+void ucAALBL::SetBackColor(const QColor& color) {
+    backColor_ = color;
+    update();
+}
+
+QColor ucAALBL::ForeColor() const {
+    return foreColor_.isValid() ? foreColor_ : palette().color(QPalette::ButtonText);
+}
+
+void ucAALBL::SetForeColor(const QColor& color) {
+    foreColor_ = color;
+    update();
+}
+
+QSize ucAALBL::sizeHint() const {
+    const QFontMetricsF metrics(SmoothedFont(font()));
+    return {qCeil(metrics.horizontalAdvance(caption_)), qCeil(metrics.height())};
+}
+
+/// Whatever size a screen gives the label, it ends up exactly around its text.
+void ucAALBL::Fit() {
+    updateGeometry();
+    resize(sizeHint());
+    update();
+}
+
+void ucAALBL::resizeEvent(QResizeEvent*) {
+    Fit();
+}
+
+void ucAALBL::changeEvent(QEvent* event) {
+    DrawnControl::changeEvent(event);
+    if (event->type() == QEvent::FontChange)
+        Fit();
+}
+
+void ucAALBL::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    if (backColor_.isValid())
+        painter.fillRect(rect(), backColor_);
+    const double textHeight = QFontMetricsF(SmoothedFont(font())).height();
+    painter.setPen(isEnabled() ? ForeColor() : TheStyle().disabledInk);
+    SmoothedPrint(painter, QPointF(0, height() / 2.0 - textHeight / 2), caption_, font());
+}
+
+void ucAALBL::mousePressEvent(QMouseEvent* event) {
+    pressed_ = event->button() == Qt::LeftButton;
+    const QPointF place = event->position() * Twips::PerPixel();
+    Q_EMIT MouseDown(static_cast<int>(event->button()), ShiftOf(event), place.x(), place.y());
+}
+
+void ucAALBL::mouseMoveEvent(QMouseEvent* event) {
+    RaiseMouseMove(event);
+    event->ignore();
+}
+
+void ucAALBL::mouseReleaseEvent(QMouseEvent* event) {
+    const QPointF place = event->position() * Twips::PerPixel();
+    const bool clicked = pressed_ && rect().contains(event->position().toPoint());
+    pressed_ = false;
+    Q_EMIT MouseUp(static_cast<int>(event->button()), ShiftOf(event), place.x(), place.y());
+    if (clicked)
+        Q_EMIT Click();
+}

@@ -1,0 +1,69 @@
+#include "toolkit/ucBox.h"
+
+#include "toolkit/Style.h"
+#include "toolkit/ucHeader.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+
+namespace {
+
+constexpr int frameWidth = 1;
+
+} // namespace
+
+ucBox::ucBox(QWidget* parent)
+    : DrawnControl(parent)
+    , header_(new ucHeader(this)) {
+    header_->SetCenterAlignText(false);
+    connect(header_, &ucHeader::Click, this, &ucBox::Click);
+}
+
+ucBox::ucBox(const QString& caption, QWidget* parent)
+    : ucBox(parent) {
+    SetCaption(caption);
+}
+
+QString ucBox::Caption() const {
+    return header_->Caption();
+}
+
+void ucBox::SetCaption(const QString& caption) {
+    header_->SetCaption(caption);
+    header_->setVisible(!caption.isEmpty());
+    setAccessibleName(caption);
+}
+
+QFont ucBox::Font() const {
+    return header_->font();
+}
+
+void ucBox::SetFont(const QFont& font) {
+    header_->setFont(font);
+    header_->update();
+}
+
+QRect ucBox::Inner() const {
+    const int top = Caption().isEmpty() ? frameWidth : frameWidth + header_->height();
+    return rect().adjusted(frameWidth, top, -frameWidth, -frameWidth);
+}
+
+void ucBox::resizeEvent(QResizeEvent*) {
+    header_->setGeometry(frameWidth, frameWidth, width() - 2 * frameWidth, TheStyle().headerHeight);
+    Q_EMIT InnerChanged();
+}
+
+void ucBox::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    const Style& style = TheStyle();
+    painter.fillRect(rect(), style.paper);
+    painter.setPen(style.frame);
+    painter.drawRoundedRect(QRectF(rect()).adjusted(.5, .5, -.5, -.5), style.boxRadius,
+                            style.boxRadius);
+}
+
+/// Moves over the header arrive here as well, as it lets them through.
+void ucBox::mouseMoveEvent(QMouseEvent* event) {
+    RaiseMouseMove(event);
+    event->ignore();
+}

@@ -1,0 +1,173 @@
+#include "toolkit/ucButton.h"
+
+#include "toolkit/Accessible.h"
+#include "toolkit/Slices.h"
+#include "toolkit/SmoothedPrint.h"
+#include "toolkit/Twips.h"
+
+#include <QFontMetricsF>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QtMath>
+
+namespace {
+
+enum ButtonState { AtRest = 1, PointerOver = 2, Pressed = 3, Disabled = 4 };
+
+/// By state less one and surface. The `_R` set is the one at rest, the `_N` set the one under the
+/// pointer.
+constexpr const char* pictureNames[4][3] = {
+    {"L_R", "M_R", "R_R"}, {"L_N", "M_N", "R_N"}, {"L_D", "M_D", "R_D"}, {"L_X", "M_X", "R_X"}};
+
+constexpr int capWidth = 10;
+constexpr double captionLeft = 30; // twips
+
+} // namespace
+
+ucButton::ucButton(QWidget* parent)
+    : DrawnControl(parent) {
+    setFocusPolicy(Qt::StrongFocus);
+    setFont(TheStyle().control);
+    resize(sizeHint());
+}
+
+ucButton::ucButton(const QString& caption, QWidget* parent)
+    : ucButton(parent) {
+    SetCaption(caption);
+    resize(sizeHint());
+}
+
+void ucButton::SetCaption(const QString& caption) {
+    caption_ = caption;
+    updateGeometry();
+    update();
+    TellNameChanged(this);
+}
+
+void ucButton::SetMainAction(bool mainAction) {
+    mainAction_ = mainAction;
+    update();
+}
+
+void ucButton::SetState(int state) {
+    if (state == state_)
+        return;
+    state_ = state;
+    update();
+}
+
+void ucButton::Reset() {
+    SetState(isEnabled() ? AtRest : Disabled);
+}
+
+void ucButton::changeEvent(QEvent* event) {
+    DrawnControl::changeEvent(event);
+    if (event->type() == QEvent::EnabledChange && !isEnabled())
+        SetState(Disabled);
+}
+
+QSize ucButton::sizeHint() const {
+    const double text = QFontMetricsF(SmoothedFont(font())).horizontalAdvance(caption_);
+    const int margins = 2 * (capWidth + Twips::ToPixels(captionLeft));
+    return {qCeil(text) + margins, TheStyle().buttonHeight};
+}
+
+ucButton::Layout ucButton::layoutRects() const {
+    const int cap = qMin(capWidth, width() / 2);
+    return {QRect(0, 0, cap, height()), QRect(cap, 0, width() - 2 * cap, height()),
+            QRect(width() - cap, 0, cap, height())};
+}
+
+QString ucButton::PictureOn(int surface) const {
+    return QLatin1String(pictureNames[state_ - 1][surface]);
+}
+
+const Style::ButtonFace& ucButton::Face() const {
+    return (mainAction_ ? TheStyle().mainAction : TheStyle().button)[state_ - 1];
+}
+
+void ucButton::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    const Layout at = layoutRects();
+    const Slices& slices =
+        Slices::OfFace(Face(), capWidth, TheStyle().buttonRadius, height(), devicePixelRatioF());
+    painter.drawPixmap(at.picL, slices.left);
+    StretchColumn(painter, at.picM, slices.middle);
+    painter.drawPixmap(at.picR, slices.right);
+    PaintCaption(painter, at.picM);
+    if (FocusShown())
+        PaintFocusRing(painter, rect(), TheStyle().buttonRadius);
+}
+
+void ucButton::PaintCaption(QPainter& painter, const QRect& picM) const {
+    const double textHeight = QFontMetricsF(SmoothedFont(font())).height();
+    const int sunk = state_ == Pressed ? 1 : 0;
+    painter.setPen(Face().text);
+    SmoothedPrint(painter,
+                  QPointF(picM.left() + Twips::ToPixels(captionLeft),
+                          picM.height() / 2.0 - textHeight / 2 + sunk),
+                  caption_, font());
+}
+
+void ucButton::mousePressEvent(QMouseEvent*) {
+    SetState(Pressed);
+}
+
+void ucButton::mouseMoveEvent(QMouseEvent* event) {
+    if (event->buttons().testFlag(Qt::LeftButton) && isEnabled())
+        SetState(IsInside(event->position()) ? Pressed : AtRest);
+    else
+        SetState(PointerOver);
+    RaiseMouseMove(event);
+}
+
+void ucButton::mouseReleaseEvent(QMouseEvent* event) {
+    const bool inside = IsInside(event->position());
+    const bool clicked = inside && state_ == Pressed && event->button() == Qt::LeftButton;
+    SetState(inside ? PointerOver : AtRest);
+    if (clicked)
+        Q_EMIT Click();
+}
+
+void ucButton::Activate() {
+    Reset();
+    Q_EMIT Click();
+}
+
+void ucButton::keyPressEvent(QKeyEvent* event) {
+    if (!IsPressKey(event))
+        DrawnControl::keyPressEvent(event);
+    else if (event->key() == Qt::Key_Space)
+        SetState(Pressed);
+    else
+        Activate();
+}
+
+void ucButton::keyReleaseEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Space && !event->isAutoRepeat() && state_ == Pressed)
+        Activate();
+    else
+        DrawnControl::keyReleaseEvent(event);
+}
+
+void ucButton::resizeEvent(QResizeEvent*) {
+    Reset();
+    update();
+}
+
+void ucButton::showEvent(QShowEvent*) {
+    Reset();
+}
+
+/// The platform tells of the pointer's leaving; the screens' AllOff does the same from outside.
+void ucButton::leaveEvent(QEvent*) {
+    if (state_ == PointerOver)
+        Reset();
+}
+
+void ucButton::focusOutEvent(QFocusEvent* event) {
+    if (state_ == Pressed)
+        Reset();
+    DrawnControl::focusOutEvent(event);
+}

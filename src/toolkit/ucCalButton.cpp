@@ -1,0 +1,100 @@
+#include "toolkit/ucCalButton.h"
+
+#include "toolkit/Accessible.h"
+#include "toolkit/Slices.h"
+#include "toolkit/SmoothedPrint.h"
+#include "toolkit/Twips.h"
+
+#include <QFontMetricsF>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QtMath>
+
+namespace {
+
+enum CalButtonState { AtRest = 1, PointerOver = 2, Pressed = 3 };
+
+constexpr const char* pictureNames[3] = {"img_N", "img_R", "img_D"};
+constexpr int cap = 4;
+constexpr double captionLeft = 30; // twips
+
+} // namespace
+
+ucCalButton::ucCalButton(QWidget* parent)
+    : DrawnControl(parent) {
+    setFocusPolicy(Qt::StrongFocus);
+    setFont(TheStyle().control);
+    resize(sizeHint());
+}
+
+void ucCalButton::SetCaption(const QString& caption) {
+    caption_ = caption;
+    updateGeometry();
+    update();
+    TellNameChanged(this);
+}
+
+QString ucCalButton::PictureOn() const {
+    return QLatin1String(pictureNames[state_ - 1]);
+}
+
+void ucCalButton::SetState(int state) {
+    if (state == state_)
+        return;
+    state_ = state;
+    update();
+}
+
+void ucCalButton::Reset() {
+    SetState(AtRest);
+}
+
+QSize ucCalButton::sizeHint() const {
+    const double text = QFontMetricsF(SmoothedFont(font())).horizontalAdvance(caption_);
+    return {qCeil(text) + 2 * Twips::ToPixels(captionLeft), TheStyle().buttonHeight};
+}
+
+void ucCalButton::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    const Style::ButtonFace& face = TheStyle().button[state_ - 1];
+    StretchColumn(painter, rect(),
+                  Slices::OfFace(face, cap, 0, height(), devicePixelRatioF()).middle);
+    const double textHeight = QFontMetricsF(SmoothedFont(font())).height();
+    painter.setPen(face.text);
+    SmoothedPrint(painter, QPointF(Twips::ToPixels(captionLeft), height() / 2.0 - textHeight / 2),
+                  caption_, font());
+    if (FocusShown())
+        PaintFocusRing(painter, rect(), 0);
+}
+
+/// One routine for press, move and release. As a release also reports the left button, the button
+/// still looks pressed until the next move.
+void ucCalButton::Track(bool leftButton, QPointF place) {
+    if (!leftButton || !isEnabled())
+        SetState(PointerOver);
+    else
+        SetState(IsInside(place) ? Pressed : AtRest);
+}
+
+void ucCalButton::mousePressEvent(QMouseEvent* event) {
+    Track(event->button() == Qt::LeftButton, event->position());
+}
+
+void ucCalButton::mouseMoveEvent(QMouseEvent* event) {
+    Track(event->buttons().testFlag(Qt::LeftButton), event->position());
+    RaiseMouseMove(event);
+}
+
+void ucCalButton::mouseReleaseEvent(QMouseEvent* event) {
+    Track(event->button() == Qt::LeftButton, event->position());
+    if (state_ == Pressed)
+        Q_EMIT Click();
+}
+
+void ucCalButton::keyPressEvent(QKeyEvent* event) {
+    if (IsPressKey(event))
+        Activate();
+    else
+        DrawnControl::keyPressEvent(event);
+}

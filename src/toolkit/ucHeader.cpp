@@ -1,0 +1,50 @@
+#include "toolkit/ucHeader.h"
+
+#include "toolkit/Slices.h"
+#include "toolkit/Twips.h"
+
+#include <QPainter>
+#include <QtMath>
+
+namespace {
+
+constexpr int capWidth = 7;
+constexpr double captionLeft = 15; // twips
+
+} // namespace
+
+ucHeader::ucHeader(QWidget* parent)
+    : PaintedPanel(parent) {
+    setFont(TheStyle().strong);
+    resize(sizeHint());
+}
+
+void ucHeader::SetCenterAlignText(bool center) {
+    centerAlignText_ = center;
+    update();
+}
+
+ucHeader::Layout ucHeader::layoutRects() const {
+    return {QRect(0, 0, capWidth, height()), QRect(capWidth, 0, width() - 2 * capWidth, height()),
+            QRect(width() - capWidth, 0, capWidth, height())};
+}
+
+QSize ucHeader::sizeHint() const {
+    return {qCeil(TextWidth()) + 2 * capWidth + 2 * Twips::ToPixels(captionLeft),
+            TheStyle().headerHeight};
+}
+
+void ucHeader::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    const Style& style = TheStyle();
+    const Layout at = layoutRects();
+    const Style::ButtonFace face{style.header, Qt::transparent, style.headerInk};
+    const Slices& slices = Slices::OfFace(face, capWidth, 0, height(), devicePixelRatioF());
+    painter.drawPixmap(at.picL, slices.left);
+    StretchColumn(painter, at.picM, slices.middle);
+    painter.drawPixmap(at.picR, slices.right);
+    painter.fillRect(0, height() - 1, width(), 1, style.headerEdge);
+    const double left =
+        centerAlignText_ ? (at.picM.width() - TextWidth()) / 2 : Twips::ToPixels(captionLeft);
+    PrintCaption(painter, face.text, at.picM.left() + left);
+}

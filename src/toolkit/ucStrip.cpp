@@ -1,0 +1,33 @@
+#include "toolkit/ucStrip.h"
+
+#include "toolkit/Style.h"
+#include "toolkit/Twips.h"
+
+#include <QPainter>
+#include <QtMath>
+
+namespace {
+
+constexpr int surfaceLeft = 7;
+constexpr double captionLeft = 15; // twips
+
+} // namespace
+
+ucStrip::ucStrip(QWidget* parent)
+    : PaintedPanel(parent) {
+    setFont(TheStyle().title);
+    resize(sizeHint());
+}
+
+QSize ucStrip::sizeHint() const {
+    return {qCeil(TextWidth()) + 2 * (surfaceLeft + Twips::ToPixels(captionLeft)),
+            TheStyle().headerHeight};
+}
+
+void ucStrip::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    const Style& style = TheStyle();
+    PaintGround(painter, style.header.from, style.header.to);
+    painter.fillRect(0, height() - 1, width(), 1, style.headerEdge);
+    PrintCaption(painter, style.headerInk, surfaceLeft + Twips::ToPixels(captionLeft));
+}

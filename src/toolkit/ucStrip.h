@@ -1,0 +1,15 @@
+#pragma once
+
+#include "toolkit/PaintedPanel.h"
+
+/// A caption strip of one slice.
+class ucStrip : public PaintedPanel {
+    Q_OBJECT
+
+public:
+    explicit ucStrip(QWidget* parent = nullptr);
+    QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent*) override;
+};

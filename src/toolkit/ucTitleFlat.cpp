@@ -1,0 +1,46 @@
+#include "toolkit/ucTitleFlat.h"
+
+#include "toolkit/Style.h"
+#include "toolkit/Twips.h"
+
+#include <QEvent>
+#include <QtMath>
+
+namespace {
+
+constexpr QPoint surface(12, 5);        // pixels
+constexpr QPointF captionPlace(15, 60); // twips, on the surface
+
+} // namespace
+
+ucTitleFlat::ucTitleFlat(QWidget* parent)
+    : TitleControl(parent) {
+    resize(sizeHint());
+    if (parent)
+        parent->installEventFilter(this);
+}
+
+QSize ucTitleFlat::sizeHint() const {
+    return {qCeil(TextWidth()) + 2 * surface.x(), TheStyle().titleHeight};
+}
+
+void ucTitleFlat::Dock() {
+    if (parentWidget())
+        setGeometry(0, 0, parentWidget()->width(), height());
+    update();
+}
+
+void ucTitleFlat::showEvent(QShowEvent*) {
+    Dock();
+}
+
+bool ucTitleFlat::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == parentWidget() && event->type() == QEvent::Resize && isVisible())
+        Dock();
+    return TitleControl::eventFilter(watched, event);
+}
+
+void ucTitleFlat::paintEvent(QPaintEvent*) {
+    PaintTitle(surface,
+               QPointF(Twips::ToPixels(captionPlace.x()), Twips::ToPixels(captionPlace.y())));
+}
