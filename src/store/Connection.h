@@ -7,6 +7,7 @@
 namespace SQLite {
 class Database;
 }
+class StatementCache;
 
 /// The kinds of database file the program knows; each has its own schema.
 enum class DatabaseKind { Users, Foods };
@@ -30,12 +31,16 @@ public:
     void Open(const QString& path, DatabaseKind kind);
     void Close(); ///< does nothing where it is not open
     State state() const;
+    QString Path() const; ///< of the open file
 
     /// The underlying database; only for the store's own code, for tools and for tests.
     SQLite::Database& Raw();
+    /// The prepared statements, for the store's own code.
+    StatementCache& Statements();
 
 private:
     struct Impl;
+    Impl& Live() const;
     std::unique_ptr<Impl> impl_;
 };
 

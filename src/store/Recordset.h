@@ -39,8 +39,9 @@ private:
 /// where its statement would write; ATTACH, PRAGMA and schema changes are refused always, and so is
 /// anything behind the first statement, before it runs. Columns are found by name without regard to
 /// case, or by position from 0. Values written are converted to the column's declared type (whole
-/// numbers round half to even). Reading or changing where there is no current row fails with 3021,
-/// an unknown name with 3265.
+/// numbers round half to even). Only Update writes: what was set is dropped by a move or a close.
+/// Reading or changing where there is no current row fails with 3021, an unknown column with 3265,
+/// changing rows that are not those of one table (`SELECT * FROM table ...`) with 3251.
 class Recordset {
 public:
     Recordset();
@@ -77,5 +78,8 @@ public:
 
 private:
     struct Impl;
+    Impl& Opened() const;
+    Field Read(int column) const;
+
     std::unique_ptr<Impl> impl_;
 };

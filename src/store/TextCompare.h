@@ -9,4 +9,8 @@ namespace TextCompare {
 int Compare(std::string_view left, std::string_view right);
 /// `%` stands for any run of characters, `_` for any one character.
 bool Like(std::string_view pattern, std::string_view text);
+
+/// Takes the next character off the text and gives it case-folded. A byte that is no UTF-8 counts
+/// as a character of its own. The text must not be empty.
+char32_t TakeFolded(std::string_view& text);
 } // namespace TextCompare

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "store/Columns.h"
+
+#include <QByteArray>
+
+#include <memory>
+
+struct sqlite3;
+struct sqlite3_stmt;
+
+/// One statement made ready by the store, finalised with its owner. Every failure is a RuntimeError
+/// that names the file.
+class Prepared {
+public:
+    /// Refuses a text that holds anything behind its first statement, or a NUL character.
+    Prepared(sqlite3* database, const QString& path, const QByteArray& sql);
+    ~Prepared();
+    Prepared(const Prepared&) = delete;
+    Prepared& operator=(const Prepared&) = delete;
+
+    const QByteArray& Sql() const { return sql_; }
+    sqlite3_stmt* Handle() const { return statement_; }
+    const std::shared_ptr<const Columns>& Shape() const { return columns_; }
+
+    void Bind(int parameter, const QVariant& stored); ///< from 1
+    bool Step();                                      ///< true while there is a row
+    void Reset(); ///< ready for the next run, its parameters null
+
+private:
+    void Check(int resultCode) const;
+
+    sqlite3* database_;
+    QString path_;
+    QByteArray sql_;
+    sqlite3_stmt* statement_ = nullptr;
+    std::shared_ptr<const Columns> columns_;
+};

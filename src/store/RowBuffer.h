@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QVariant>
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+struct sqlite3_stmt;
+
+/// The rows of a result set in memory, in few and large pieces: fixed cells, and all texts in one
+/// string behind them. Text of a row that was replaced stays until the buffer goes.
+class RowBuffer {
+public:
+    explicit RowBuffer(int columns = 0)
+        : columns_(static_cast<size_t>(columns)) {}
+
+    int Count() const { return static_cast<int>(columns_ == 0 ? 0 : cells_.size() / columns_); }
+    QVariant Value(int row, int column) const;
+
+    /// Takes the row that the statement stands on.
+    void Append(sqlite3_stmt* statement);
+    void Replace(int row, sqlite3_stmt* statement);
+    void Erase(int row);
+
+private:
+    enum class Kind : std::uint8_t { Null, Integer, Real, Text };
+    struct Cell {
+        Kind kind = Kind::Null;
+        std::uint32_t bytes = 0; ///< of a text
+        union {
+            std::int64_t integer = 0;
+            double real;
+            std::size_t offset; ///< of a text
+        };
+    };
+    Cell Take(sqlite3_stmt* statement, int column);
+    size_t First(int row) const { return static_cast<size_t>(row) * columns_; }
+
+    size_t columns_;
+    std::vector<Cell> cells_;
+    std::string texts_;
+};
