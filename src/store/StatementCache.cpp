@@ -1,5 +1,7 @@
 #include "store/StatementCache.h"
 
+#include "store/StoreError.h"
+
 #include <QScopedValueRollback>
 
 #include <algorithm>
@@ -18,7 +20,10 @@ StatementCache::~StatementCache() {
 
 Prepared& StatementCache::Query(const QString& sql) {
     const QScopedValueRollback guard(guarding_, true);
-    return Find(sql.toUtf8(), true);
+    Prepared& statement = Find(sql.toUtf8(), true);
+    if (sqlite3_stmt_readonly(statement.Handle()) == 0) // what the guard is not asked about
+        throw StoreError::Make(SQLITE_AUTH, path_, QStringLiteral("the statement would write"));
+    return statement;
 }
 
 Prepared& StatementCache::Command(const QString& sql) {
