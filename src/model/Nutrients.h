@@ -2,7 +2,6 @@
 
 #include <QString>
 
-#include <array>
 #include <span>
 
 /// The 31 nutrient quantities that the program follows, in the order of the record.
@@ -41,6 +40,13 @@ enum class Nutrient {
 };
 inline constexpr int NutrientCount = 31;
 
+/// Kilocalories in a gram, wherever energy is split between the macronutrients.
+namespace KcalPerGram {
+inline constexpr double Protein = 4;
+inline constexpr double Carbs = 4;
+inline constexpr double Fat = 9;
+} // namespace KcalPerGram
+
 /// What the program knows of one nutrient: one row of the one table.
 struct NutrientInfo {
     Nutrient id;
@@ -57,10 +63,10 @@ struct NutrientInfo {
     bool whole;               ///< held as a 32-bit integer: rounded half to even on assignment
 };
 
-const std::array<NutrientInfo, NutrientCount>& Nutrients();
+std::span<const NutrientInfo, NutrientCount> Nutrients();
 const NutrientInfo& Info(Nutrient id);
 const NutrientInfo*
-FindNutrient(const QString& name); ///< by any of its names, without regard to case; or null
+FindNutrient(const QString& name); ///< by its name or a column's, without regard to case; or null
 
 std::span<const Nutrient>
 CanonicalOrder(); ///< 31: Ash, Calcium, ... Potassium; the profile screen's

@@ -2,6 +2,8 @@
 
 #include "model/Nutrients.h"
 
+#include <array>
+
 /// One value for each of the 31 nutrients: a person's targets, a day's totals, a serving of a food.
 /// Whole-number members round half to even on assignment (overflow 6). All values start at 0.
 class Nuts {

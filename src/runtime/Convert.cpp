@@ -9,8 +9,15 @@
 #include <cmath>
 
 namespace {
-[[noreturn]] void FailMismatch() {
-    throw RuntimeError(ErrorNumber::TypeMismatch, QStringLiteral("Type mismatch"));
+constexpr qsizetype LongestQuote = 40;
+
+[[noreturn]] void Fail(int number, QStringView text, const QString& complaint) {
+    throw RuntimeError(number,
+                       u'"' + text.left(LongestQuote) + QStringLiteral("\" is ") + complaint);
+}
+
+[[noreturn]] void FailMismatch(QStringView text, const QString& kind) {
+    Fail(ErrorNumber::TypeMismatch, text, QStringLiteral("not a ") + kind + u'.');
 }
 
 bool IsNumber(QStringView text) {
@@ -21,10 +28,10 @@ bool IsNumber(QStringView text) {
 double ToDouble(QStringView text) {
     const QStringView number = text.trimmed();
     if (!IsNumber(number))
-        FailMismatch();
+        FailMismatch(text, QStringLiteral("number"));
     const double value = NumberText::Value(number);
     if (!std::isfinite(value))
-        throw RuntimeError(ErrorNumber::Overflow, QStringLiteral("Overflow"));
+        Fail(ErrorNumber::Overflow, text, QStringLiteral("too large a number."));
     return value;
 }
 
@@ -35,7 +42,7 @@ qint32 ToInteger(QStringView text) {
 QDate ToDate(QStringView text) {
     const QDate date = Dates::Parse(text);
     if (!date.isValid())
-        FailMismatch();
+        FailMismatch(text, QStringLiteral("date"));
     return date;
 }
 

@@ -2,6 +2,8 @@
 
 #include "runtime/RuntimeError.h"
 
+#include <QStringBuilder>
+
 #include <cmath>
 #include <limits>
 
@@ -10,6 +12,8 @@ qint32 Round(double value) {
     using Limits = std::numeric_limits<qint32>;
     const bool fits = rounded >= Limits::min() && rounded <= Limits::max();
     if (!fits)
-        throw RuntimeError(ErrorNumber::Overflow, QStringLiteral("Overflow"));
+        throw RuntimeError(ErrorNumber::Overflow,
+                           QString::number(value) +
+                               QStringLiteral(" is too large for a whole number."));
     return static_cast<qint32>(rounded);
 }

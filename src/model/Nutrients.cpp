@@ -1,0 +1,126 @@
+#include "model/Nutrients.h"
+
+namespace {
+// clang-format off
+constexpr NutrientInfo Table[] = {
+    {Nutrient::Selenium, "Selenium", "Selenium", "Selenium", "Selenium", "mg", "Selenium (mg)", "Selenium (mg)", "Selenium", "txtSelenium", "lblSelenium", false},
+    {Nutrient::Zinc, "Zinc", "Zinc", "Zinc", "Zinc", "mg", "Zinc (mg)", "Zinc (mg)", "Zinc", "txtZinc", "lblZinc", false},
+    {Nutrient::Water, "Water", "water", nullptr, "Water", "g", "Water (g)", "Water (g)", nullptr, "txtWater", "lblWater", false},
+    {Nutrient::VitaminC, "VitaminC", "VitaminC", "VitaminC", "VitaminC", "mg", "Vit. C (mg)", "Vit. C (mg)", "Vit. C", "txtVitC", "lblVitaminC", false},
+    {Nutrient::VitaminB12, "VitaminB12", "VitaminB12", "VitaminB12", "VitaminB12", "mcg", "Vit. B12 (mcg)", "Vit. B12 (mcg)", "Vit. B12", "txtVitB12", "lblVitaminB12", false},
+    {Nutrient::VitaminB6, "VitaminB6", "VitaminB6", "VitaminB6", "VitaminB6", "mg", "Vit. B6 (mg)", "Vit. B6 (mg)", "Vit. B6", "txtVitB6", "lblVitaminB6", false},
+    {Nutrient::VitaminE, "VitaminE", "VitaminE", "VitaminE", "VitaminE", "mg", "Vit. E (mg)", "Vit. E (mg)", "Vit. E", "txtVitE", "lblVitaminE", false},
+    {Nutrient::VitaminA, "VitaminA", "VitaminA", "VitaminA", "VitaminA", "iu", "Via. A (iu)", "Via. A (iu)", "Vit. A", "txtVitA", "lblVitaminA", false},
+    {Nutrient::Thiamin, "Thiamin", "Thiamin", "Thiamin", "Thiamin", "mg", "Thiamin (mg)", "Thiamin (mg)", "Thiamin", "txtThiamin", "lblThiamin", false},
+    {Nutrient::Riboflavin, "Riboflavin", "Riboflavin", "Riboflavin", "Riboflavin", "mg", "Riboflavin (mg)", "Riboflavin (mg)", "Riboflavin", "txtRiboflavin", "lblRiboflavin", false},
+    {Nutrient::Potassium, "Potassium", "Potassium", nullptr, "Potassium", "mg", "Potassium (mg)", "Potassium (mg)", "Potassium", "txtPotassium", "lblPotassium", true},
+    {Nutrient::Phosphorus, "Phosphorus", "Phosphorus", "Phosphorus", "Phosphorus", "mg", "Phosphorus (mg)", "Phosphorus (mg)", "Phosphorus", "txtPhosphorus", "lblPhosphorus", true},
+    {Nutrient::Panto, "Panto", "Panto", "Panto", "Panto", "mg", "Panto. Adic (mg)", "Panto. Adic (mg)", nullptr, "txtPantoAcid", "lblPantoAcid", false},
+    {Nutrient::Niacin, "Niacin", "Niacin", "Niacin", "Niacin", "mg", "Niacin (mg)", "Niacin (mg)", "Niacin", "txtNiacin", "lblNiacin", false},
+    {Nutrient::Manganese, "Manganese", "Manganese", "Manganese", "Manganese", "mg", "Manganese (mg)", "Manganese (mg)", "Manganese", "txtManganese", "lblManganese", false},
+    {Nutrient::Magnesium, "Magnesium", "Magnesium", "Magnesium", "Magnesium", "mg", "Magnesium (mg)", "Magnesium (mg)", "Magnesium", "txtMagnesium", "lblMagnesium", true},
+    {Nutrient::Iron, "Iron", "Iron", "Iron", "Iron", "mg", "Iron (mg)", "Iron (mg)", "Iron", "txtIron", "lblIron", false},
+    {Nutrient::Folate, "Folate", "Folate", "Folate", "Folate", "mcg", "Folate (mcg)", "Folate (mcg)", "Folate", "txtFolate", "lblFolate", true},
+    {Nutrient::Copper, "Copper", "Copper", "Copper", "Copper", "mg", "Copper (mg)", "Copper (mg)", "Copper", "txtCopper", "lblCopper", false},
+    {Nutrient::Calcium, "Calcium", "Calcium", "Calcium", "Calcium", "mg", "Calcium (mg)", "Calcium (mg)", "Calcium", "txtCalcium", "lblCalcium", true},
+    {Nutrient::Ash, "Ash", "ASH", "Ash", "Ash", "g", "Ash (g)", "Ash (g)", nullptr, "txtAsh", "lblAsh", false},
+    {Nutrient::Protein, "Protein", "protein", nullptr, "Protein", "g", "Protein (g)", "Protein (g)", "Protein", "txtProtein", "lblProtein", false},
+    {Nutrient::Fiber, "Fiber", "fiber", nullptr, "fiber", "g", "Dietary Fiber (g)", "Fiber (g)", "Fiber", "txtFiber", "lblFiber", false},
+    {Nutrient::Carbs, "Carbs", "carbs", nullptr, "carbs", "g", "Total Carbohydrates (g)", "Carbohydrates (g)", "Carbohydrates", "txtCarbs", "lblCarbs", false},
+    {Nutrient::Sodium, "Sodium", "sodium", nullptr, "Sodium", "mg", "Sodium (mg)", "Sodium (mg)", "Sodium", "txtSodium", "lblSodium", true},
+    {Nutrient::Cholesterol, "Cholesterol", "Cholesterol", "Cholesterol", "Cholesterol", "mg", "Cholesterol (mg)", "Cholesterol (mg)", "Cholesterol", "txtCholesterol", "lblCholesterol", true},
+    {Nutrient::MonoFat, "MonoFat", "MonoFat", nullptr, "MonoFat", "g", "Monounsaturated Fat (g)", "Monounsaturated Fat (g)", "Monounsaturated Fat", "txtMonoFat", "lblMonoFat", false},
+    {Nutrient::PolyFat, "PolyFat", "PolyFat", nullptr, "PolyFat", "g", "Polyunsaturated Fat (g)", "Polyunsaturated Fat (g)", "Polyunsaturated Fat", "txtPolyFat", "lblPolyFat", false},
+    {Nutrient::SatFat, "SatFat", "SatFat", nullptr, "SatFat", "g", "Saturated Fat (g)", "Saturated Fat (g)", "Saturated Fat", "txtSatFat", "lblSatFat", false},
+    {Nutrient::TotalFat, "TotalFat", "TotalFat", nullptr, "TotalFat", "g", "Total Fat (g)", "Total Fat (g)", "Total Fat", "txtTotalFat", "lblTotalFat", false},
+    {Nutrient::Calories, "Calories", "Calories", nullptr, "Calories", "kcal", "Calories", "Calories", "Calories", "txtCals", "lblCalories", true},
+};
+// clang-format on
+static_assert(std::size(Table) == NutrientCount, "one row for each nutrient");
+
+constexpr bool StandsInOrder() {
+    for (size_t i = 0; i < std::size(Table); ++i)
+        if (Table[i].id != static_cast<Nutrient>(i))
+            return false;
+    return true;
+}
+static_assert(StandsInOrder(), "a row stands at the place of its nutrient");
+
+using enum Nutrient;
+
+constexpr Nutrient Canonical[] = {
+    Ash,       Calcium,    Cholesterol, Copper,     Fiber,      Folate,   Iron,     Magnesium,
+    Manganese, Niacin,     Panto,       Phosphorus, Riboflavin, Selenium, Sodium,   Thiamin,
+    VitaminA,  VitaminB12, VitaminB6,   VitaminC,   VitaminE,   Zinc,     Water,    Protein,
+    Carbs,     TotalFat,   SatFat,      PolyFat,    MonoFat,    Calories, Potassium};
+static_assert(std::size(Canonical) == NutrientCount);
+
+constexpr Nutrient Profile[] = {
+    Ash,        Calcium,   Cholesterol, Copper,    Folate,     Iron,     Magnesium, Manganese,
+    Niacin,     Panto,     Phosphorus,  Potassium, Riboflavin, Selenium, Thiamin,   VitaminA,
+    VitaminB12, VitaminB6, VitaminC,    VitaminE,  Zinc,       Water,    Sodium,    Fiber,
+    Protein,    Carbs,     TotalFat,    SatFat,    PolyFat,    MonoFat,  Calories};
+static_assert(std::size(Profile) == NutrientCount);
+
+constexpr Nutrient Reference[] = {Ash,        Calcium,    Cholesterol, Copper,   Folate,
+                                  Iron,       Magnesium,  Manganese,   Niacin,   Panto,
+                                  Phosphorus, Riboflavin, Selenium,    Thiamin,  VitaminA,
+                                  VitaminB12, VitaminB6,  VitaminC,    VitaminE, Zinc};
+
+constexpr Nutrient Chart[] = {Calories,   TotalFat,   SatFat,    PolyFat,   MonoFat,  Cholesterol,
+                              Sodium,     Carbs,      Fiber,     Protein,   Calcium,  Copper,
+                              Folate,     Iron,       Magnesium, Manganese, Niacin,   Phosphorus,
+                              Potassium,  Riboflavin, Thiamin,   Selenium,  VitaminA, VitaminB6,
+                              VitaminB12, VitaminC,   VitaminE,  Zinc};
+
+/// The blanks after some of the commas belong to the statement.
+constexpr auto SumTemplate =
+    "SELECT Sum(%1.VitaminC) AS [VitaminC],Sum(%1.VitaminE) AS [VitaminE],Sum(%1.VitaminB12) AS "
+    "[VitaminB12],"
+    " Sum(%1.VitaminB6) AS [VitaminB6],Sum(%1.VitaminA) AS [VitaminA],Sum(%1.SatFat) AS "
+    "[SatFat],Sum(%1.Potassium) AS [Potassium],Sum(%1.PolyFat) AS [PolyFat],Sum(%1.MonoFat) AS "
+    "[MonoFat],"
+    " Sum(%1.Folate) AS [Folate],Sum(%1.Water) AS [Water],"
+    " Sum(%1.Calories) AS [Calories],Sum(%1.Protein) AS [Protein],"
+    " Sum(%1.TotalFat) AS [TotalFat],Sum(%1.carbs) AS [carbs],"
+    " Sum(%1.fiber) AS [fiber],Sum(%1.Ash) AS [Ash],"
+    " Sum(%1.Calcium) AS [Calcium],Sum(%1.Phosphorus) AS [Phosphorus],"
+    " Sum(%1.Iron) AS [Iron],Sum(%1.Sodium) AS [Sodium],"
+    " Sum(%1.Magnesium) AS [Magnesium],Sum(%1.Panto) AS [Panto],"
+    " Sum(%1.Zinc) AS [Zinc],Sum(%1.Copper) AS [Copper],"
+    " Sum(%1.Manganese) AS [Manganese],Sum(%1.Selenium) AS [Selenium],"
+    " Sum(%1.Thiamin) AS [Thiamin],Sum(%1.Riboflavin) AS [Riboflavin],"
+    " Sum(%1.Niacin) AS [Niacin],Sum(%1.Cholesterol) AS [Cholesterol]";
+} // namespace
+
+const NutrientInfo& Info(Nutrient id) {
+    return Table[static_cast<size_t>(id)];
+}
+
+std::span<const NutrientInfo, NutrientCount> Nutrients() {
+    return Table;
+}
+
+const NutrientInfo* FindNutrient(const QString& name) {
+    for (const NutrientInfo& info : Table)
+        if (name.compare(QLatin1String(info.property), Qt::CaseInsensitive) == 0)
+            return &info;
+    return nullptr;
+}
+
+std::span<const Nutrient> CanonicalOrder() {
+    return Canonical;
+}
+std::span<const Nutrient> ProfileOrder() {
+    return Profile;
+}
+std::span<const Nutrient> ReferenceOrder() {
+    return Reference;
+}
+std::span<const Nutrient> ChartOrder() {
+    return Chart;
+}
+
+QString NutrientSumSQL(const QString& table) {
+    return QString::fromLatin1(SumTemplate).arg(table);
+}

@@ -1,0 +1,110 @@
+#include "model/User.h"
+
+#include "model/EnergyTargets.h"
+#include "model/ReferenceIntake.h"
+#include "runtime/AppState.h"
+#include "runtime/Convert.h"
+#include "runtime/Round.h"
+#include "runtime/RuntimeError.h"
+#include "store/Connection.h"
+#include "store/Recordset.h"
+
+namespace {
+constexpr double DailyWater = 1792;
+constexpr double DailySodium = 2400;
+constexpr double DailyPotassium = 3500;
+constexpr double LeastFiber = 25;
+
+QString Column(Nutrient id) {
+    return QString::fromLatin1(Info(id).profileColumn);
+}
+
+void ReadReferenceValues(Nuts& targets, const Recordset& row, double age) {
+    if (row.AtEnd())
+        throw RuntimeError(ErrorNumber::NoCurrentRecord,
+                           QStringLiteral("There are no reference intakes for an age of ") +
+                               DecimalText(age) + QStringLiteral(" years."));
+    for (Nutrient id : ReferenceOrder())
+        targets.Set(id, row[QString::fromLatin1(Info(id).rdiColumn)].Number());
+}
+
+/// Below the least amount there is no target: the derivation fails, and nobody catches it.
+double FiberTarget(double age, double calories) {
+    if (age <= 10)
+        return age + 5;
+    const double fiber = calories / 100 * 5;
+    if (fiber < LeastFiber)
+        throw RuntimeError(
+            ErrorNumber::NoSuchMember,
+            QStringLiteral("No fiber target can be derived from an energy target of ") +
+                DecimalText(calories) + QStringLiteral(" kcal."));
+    return fiber;
+}
+
+void MakeTotalTheSumOfThirds(Nuts& targets) {
+    const double sum =
+        targets[Nutrient::MonoFat] + targets[Nutrient::SatFat] + targets[Nutrient::PolyFat];
+    targets.Set(Nutrient::TotalFat, Round(sum));
+}
+
+void WriteEnergyTargets(const User& user) {
+    Recordset row(UserDB(),
+                  QStringLiteral("SELECT * FROM profiles WHERE UID=") + QString::number(user.UID),
+                  Cursor::Dynamic, Lock::Optimistic);
+    using enum Nutrient;
+    for (Nutrient id : {Calories, Carbs, Protein, TotalFat, SatFat, MonoFat, PolyFat})
+        row.Set(Column(id), user.RDIs[id]);
+    row.Set(QStringLiteral("Current_Weight"), user.CurrentWeight);
+    row.Update();
+    row.Close();
+}
+} // namespace
+
+void User::GetUserProfile(qint32 uid) {
+    Recordset row(UserDB(),
+                  QStringLiteral("SELECT * FROM profiles WHERE UID = ") + QString::number(uid));
+    Gender = row[QStringLiteral("gender")].Integer();
+    ActivityLevel = row[QStringLiteral("activity_level")].Integer();
+    Age = row[QStringLiteral("age")].Number();
+    FlagCholesterol = row[QStringLiteral("FlagCholesterol")].Boolean();
+    FlagSodium = row[QStringLiteral("FlagSodium")].Boolean();
+    sodiumMAX = row[QStringLiteral("sodiumMAX")].Integer();
+    cholesterolMAX = row[QStringLiteral("cholesterolMAX")].Integer();
+    Height = row[QStringLiteral("height")].Integer();
+    CurrentWeight = row[QStringLiteral("current_weight")].Integer();
+    DesiredWeight = row[QStringLiteral("desired_weight")].Integer();
+    UserName = row[QStringLiteral("UserName")].Text();
+    for (Nutrient id : ProfileOrder())
+        RDIs.Set(id, row[Column(id)].Number());
+    row.Close();
+}
+
+void User::CreateDefaultRDIs() {
+    Recordset row(UserDB(), ReferenceStatement(*this), Cursor::Static, Lock::ReadOnly);
+    DeriveEnergyTargets(*this);
+    MakeTotalTheSumOfThirds(RDIs);
+    ReadReferenceValues(RDIs, row, Age);
+    RDIs.Set(Nutrient::Water, DailyWater);
+    RDIs.Set(Nutrient::Sodium, DailySodium);
+    RDIs.Set(Nutrient::Potassium, DailyPotassium);
+    RDIs.Set(Nutrient::Fiber, FiberTarget(Age, RDIs.Calories()));
+    row.Close();
+}
+
+User& User::Current() {
+    static User user;
+    return user;
+}
+
+void User::ResetCurrent() {
+    Current() = User();
+}
+
+void RecalcTargets() {
+    if (!App().AppInfo.AUTOUPDATERDI)
+        return;
+    User& user = User::Current();
+    DeriveEnergyTargets(user);
+    WriteEnergyTargets(user);
+    user.GetUserProfile(user.UID);
+}
