@@ -1,0 +1,73 @@
+#include "catalogue/FoodColumns.h"
+
+#include "runtime/RuntimeError.h"
+
+#include <QRegularExpression>
+
+namespace {
+
+constexpr int VitaminE = 41;
+constexpr int MicrogramsToMilligrams = -3;
+
+constexpr FoodColumn Columns[] = {
+    {"Calories", 4},    {"TotalFat", 6},
+    {"SatFat", 43},     {"MonoFat", 44},
+    {"PolyFat", 45},    {"Cholesterol", 46},
+    {"sodium", 16},     {"carbs", 8},
+    {"fiber", 9},       {"protein", 5},
+    {"Calcium", 11},    {"Copper", 18},
+    {"Folate", 30, 27}, {"Iron", 12},
+    {"Magnesium", 13},  {"Manganese", 19},
+    {"Niacin", 24},     {"Panto", 25},
+    {"Phosphorus", 14}, {"Potassium", 15},
+    {"Riboflavin", 23}, {"Selenium", 20, 0, MicrogramsToMilligrams},
+    {"Thiamin", 22},    {"VitaminA", 33},
+    {"VitaminB12", 32}, {"VitaminB6", 26},
+    {"VitaminC", 21},   {"VitaminE", VitaminE},
+    {"Zinc", 17},       {"ASH", 7},
+    {"water", 3},
+};
+static_assert(std::size(Columns) == 31);
+
+bool IsDecimal(const QString& text) {
+    static const QRegularExpression decimal(QStringLiteral("^(\\d+\\.?\\d*|\\.\\d+)$"));
+    return decimal.match(text).hasMatch();
+}
+
+} // namespace
+
+std::span<const FoodColumn> FoodColumns() {
+    return Columns;
+}
+
+const QString& AbbrevField(const ReleaseTable::Record& record, int field) {
+    const int added = int(record.fields.size()) - ShortLayout;
+    return record.Field(field > VitaminE ? field + added : field);
+}
+
+QString ColumnValue(const ReleaseTable::Record& record, const FoodColumn& column) {
+    QString value = AbbrevField(record, column.field);
+    if (value.isEmpty() && column.fallback)
+        value = AbbrevField(record, column.fallback);
+    if (!value.isEmpty() && !IsDecimal(value))
+        throw RuntimeError(ErrorNumber::TypeMismatch, u"line " + QString::number(record.line) +
+                                                          u": " + QLatin1String(column.name) +
+                                                          u" is \"" + value + u'"');
+    return value.isEmpty() || !column.decimalShift ? value
+                                                   : ShiftDecimal(value, column.decimalShift);
+}
+
+QString ShiftDecimal(const QString& number, int places) {
+    const qsizetype point = number.indexOf(u'.');
+    const qsizetype decimals = point < 0 ? 0 : number.size() - point - 1;
+    QString digits = number;
+    digits.remove(u'.');
+    const qsizetype wanted = decimals - places;
+    if (wanted <= 0)
+        return digits + QString(-wanted, u'0');
+    digits = digits.rightJustified(wanted + 1, u'0');
+    digits.insert(digits.size() - wanted, u'.');
+    while (digits.size() > 1 && digits[0] == u'0' && digits[1] != u'.')
+        digits.remove(0, 1);
+    return digits;
+}

@@ -1,0 +1,107 @@
+#include "delivery/DeliveredDatabases.h"
+
+#include "common/TsvTable.h"
+#include "runtime/RuntimeError.h"
+#include "store/Connection.h"
+#include "store/Schema.h"
+
+#include <QDir>
+#include <QFile>
+
+#include <SQLiteCpp/SQLiteCpp.h>
+
+#include <filesystem>
+#include <functional>
+
+namespace {
+
+using Fill = std::function<void(SQLite::Database&)>;
+
+/// Every value goes in as its decimal text: the declared type of the column makes it a number.
+void Insert(SQLite::Database& database, const std::string& table, const TsvTable& data) {
+    const QStringList places(data.Columns().size(), QStringLiteral("?"));
+    const QString sql = u"INSERT INTO " + QString::fromStdString(table) + u" (" +
+                        data.Columns().join(u',') + u") VALUES (" + places.join(u',') + u')';
+    SQLite::Statement insert(database, sql.toStdString());
+    for (const QStringList& row : data.Rows()) {
+        insert.reset();
+        insert.clearBindings();
+        for (int i = 0; i < int(row.size()); ++i)
+            if (!row[i].isEmpty())
+                insert.bind(i + 1, row[i].toStdString());
+        insert.exec();
+    }
+}
+
+void RemoveWithJournals(const QString& path) {
+    for (const char* ending : {"", "-wal", "-shm", "-journal"})
+        QFile::remove(path + QLatin1String(ending));
+}
+
+void FillInOneTransaction(const QString& path, const Fill& fill) {
+    SQLite::Database database(path.toStdString(), SQLite::OPEN_READWRITE);
+    SQLite::Transaction transaction(database);
+    fill(database);
+    transaction.commit();
+}
+
+/// The file appears under its name only when it is whole.
+void MakeFile(const QString& path, DatabaseKind kind, const Fill& fill) {
+    const QString unfinished = path + u".new";
+    RemoveWithJournals(unfinished);
+    Schema::Create(unfinished, kind);
+    FillInOneTransaction(unfinished, fill);
+    RemoveWithJournals(path);
+    std::filesystem::rename(unfinished.toStdString(), path.toStdString());
+}
+
+} // namespace
+
+DeliveredDatabases::DeliveredDatabases(QString dataFolder)
+    : dataFolder_(std::move(dataFolder)) {}
+
+void DeliveredDatabases::Build(const QString& folder) const {
+    const QDir target(folder);
+    target.mkpath(QStringLiteral("."));
+    MakeUsers(target.filePath(QStringLiteral("users.mdb")));
+    MakeFoods(target.filePath(QStringLiteral("foods.mdb")));
+}
+
+void DeliveredDatabases::Update(const QString& folder) const {
+    const QDir target(folder);
+    target.mkpath(QStringLiteral("."));
+    const QString users = target.filePath(QStringLiteral("users.mdb"));
+    const QString foods = target.filePath(QStringLiteral("foods.mdb"));
+    if (!QFile::exists(users))
+        MakeUsers(users);
+    if (QFile::exists(foods))
+        UpdateFoods(foods);
+    else
+        MakeFoods(foods);
+}
+
+void DeliveredDatabases::MakeUsers(const QString& path) const {
+    const TsvTable intakes =
+        TsvTable::Read(QDir(dataFolder_).filePath(QStringLiteral("reference-intakes.tsv")));
+    MakeFile(path, DatabaseKind::Users,
+             [&](SQLite::Database& database) { Insert(database, "RDI", intakes); });
+}
+
+void DeliveredDatabases::MakeFoods(const QString& path) const {
+    const TsvTable foods = TsvTable::Read(QDir(dataFolder_).filePath(QStringLiteral("foods.tsv")));
+    MakeFile(path, DatabaseKind::Foods,
+             [&](SQLite::Database& database) { Insert(database, "FOODS", foods); });
+}
+
+void DeliveredDatabases::UpdateFoods(const QString& path) const {
+    const TsvTable foods = TsvTable::Read(QDir(dataFolder_).filePath(QStringLiteral("foods.tsv")));
+    Connection connection;
+    connection.Open(path, DatabaseKind::Foods);
+    SQLite::Database& database = connection.Raw();
+    SQLite::Transaction transaction(database);
+    SQLite::Statement removal(database, "DELETE FROM FOODS WHERE ID <= ?");
+    removal.bind(1, Schema::LastStockFood);
+    removal.exec();
+    Insert(database, "FOODS", foods);
+    transaction.commit();
+}
