@@ -69,6 +69,8 @@ void Catalogue::Number() {
     const auto twice = std::ranges::adjacent_find(foods_, {}, byNumber);
     if (twice != foods_.end())
         throw RuntimeError(ErrorNumber::TypeMismatch, u"food " + twice->number + u" stands twice");
+    if (foods_.isEmpty())
+        throw RuntimeError(ErrorNumber::TypeMismatch, QStringLiteral("the release holds no foods"));
     if (foods_.size() > Schema::LastStockFood)
         throw RuntimeError(ErrorNumber::Overflow, QStringLiteral("more foods than stock keys"));
     int id = Schema::LastStockFood - int(foods_.size());

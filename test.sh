@@ -1,0 +1,11 @@
+#!/usr/bin/env bash
+# Installs what is missing, builds and runs every test. It can be run again at any time.
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")"
+source tools/setup.sh
+
+install_packages build test
+cmake --preset dev
+cmake --build --preset dev
+export QT_QPA_PLATFORM=offscreen
+exec ctest --test-dir build/dev -j2 --output-on-failure

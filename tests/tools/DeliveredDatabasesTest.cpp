@@ -1,0 +1,165 @@
+#include "delivery/DeliveredDatabases.h"
+#include "common/TsvTable.h"
+#include "runtime/RuntimeError.h"
+#include "store/Connection.h"
+#include "support/HalvaneTest.h"
+
+#include <QDir>
+#include <QFile>
+
+#include <SQLiteCpp/SQLiteCpp.h>
+
+namespace {
+
+const QString DataFolder = QStringLiteral(HALVANE_SOURCE_DIR "/data");
+const QString BuiltFolder = QStringLiteral(HALVANE_BUILD_DIR "/delivered");
+
+QByteArray Bytes(const QString& path) {
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
+    return file.readAll();
+}
+
+void Put(const QString& path, const QByteArray& bytes) {
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    ASSERT_EQ(file.write(bytes), bytes.size());
+}
+
+class DeliveredDatabasesTest : public HalvaneTest {
+protected:
+    QString UsersPath() const { return Folder() + QStringLiteral("/users.mdb"); }
+    QString FoodsPath() const { return Folder() + QStringLiteral("/foods.mdb"); }
+    void CopyBuilt() {
+        ASSERT_TRUE(QFile::copy(BuiltFolder + QStringLiteral("/users.mdb"), UsersPath()));
+        ASSERT_TRUE(QFile::copy(BuiltFolder + QStringLiteral("/foods.mdb"), FoodsPath()));
+    }
+    void Change(const QString& path, const char* statements) {
+        SQLite::Database database(path.toStdString(), SQLite::OPEN_READWRITE);
+        database.exec(statements);
+    }
+    QVariant Ask(const QString& path, const std::string& sql) {
+        SQLite::Database database(path.toStdString(), SQLite::OPEN_READONLY);
+        SQLite::Statement statement(database, sql);
+        if (!statement.executeStep() || statement.isColumnNull(0))
+            return {};
+        return QString::fromStdString(statement.getColumn(0).getString());
+    }
+    void Update() { DeliveredDatabases(DataFolder).Update(Folder()); }
+};
+
+} // namespace
+
+TEST_F(DeliveredDatabasesTest, FoodsHoldEveryDeliveredRowColumnByColumn) {
+    const TsvTable foods = TsvTable::Read(DataFolder + QStringLiteral("/foods.tsv"));
+    SQLite::Database database((BuiltFolder + QStringLiteral("/foods.mdb")).toStdString());
+    SQLite::Statement rows(database, "SELECT " + foods.Columns().join(u',').toStdString() +
+                                         " FROM FOODS ORDER BY ID");
+    qsizetype row = 0;
+    const qsizetype texts = foods.Position(QStringLiteral("FoodName"));
+    for (; rows.executeStep(); ++row)
+        for (int i = 0; i < rows.getColumnCount(); ++i) {
+            const QString expected = foods.Rows().value(row).value(i);
+            const SQLite::Column value = rows.getColumn(i);
+            ASSERT_EQ(value.isNull(), expected.isEmpty());
+            if (i < texts || foods.Columns()[i].startsWith(QStringLiteral("Serv_GM")))
+                ASSERT_TRUE(value.isNull() ||
+                            (!value.isText() && value.getDouble() == expected.toDouble()));
+            else
+                ASSERT_EQ(QString::fromStdString(value.getString()), expected);
+        }
+    EXPECT_EQ(row, 7413);
+}
+
+TEST_F(DeliveredDatabasesTest, ReferenceIntakesAreThe22LifeStages) {
+    const TsvTable intakes = TsvTable::Read(DataFolder + QStringLiteral("/reference-intakes.tsv"));
+    const QStringList keys = {
+        "INFANT_0_6 ",     "INFANT_7_12 ",    "CHILD_1_3",        "CHILD_4_8",
+        "MALE_9_13",       "MALE_14_18",      "MALE_19_30",       "MALE_31_50",
+        "MALE_51_70",      "MALE_71_999",     "FEMALE_9_13",      "FEMALE_14_18",
+        "FEMALE_19_30",    "FEMALE_31_50",    "FEMALE_51_70",     "FEMALE_71_999",
+        "LACTATION_0_18",  "LACTATION_19_30", "LACTATION_31_999", "PREGNANCY_0_18",
+        "PREGNANCY_19_30", "PREGNANCY_31_999"};
+    SQLite::Database users((BuiltFolder + QStringLiteral("/users.mdb")).toStdString());
+    SQLite::Statement count(users, "SELECT COUNT(*) FROM RDI");
+    ASSERT_TRUE(count.executeStep());
+    EXPECT_EQ(count.getColumn(0).getInt(), keys.size());
+    ASSERT_EQ(intakes.Rows().size(), keys.size());
+    const std::string columns = intakes.Columns().join(u',').toStdString();
+    for (qsizetype i = 0; i < keys.size(); ++i) {
+        EXPECT_EQ(intakes.Rows()[i].first(), keys[i]);
+        SQLite::Statement row(users, "SELECT " + columns + " FROM RDI WHERE Profile = ?");
+        row.bind(1, keys[i].toStdString());
+        ASSERT_TRUE(row.executeStep()) << keys[i].toStdString();
+        for (int column = 1; column < row.getColumnCount(); ++column)
+            EXPECT_EQ(row.getColumn(column).getDouble(), intakes.Rows()[i][column].toDouble());
+    }
+}
+
+TEST_F(DeliveredDatabasesTest, NoJournalIsLeftBesideTheFiles) {
+    CopyBuilt();
+    Update();
+    QDir(Folder()).remove(QStringLiteral("users.mdb"));
+    Update();
+    EXPECT_EQ(QDir(Folder()).entryList(QDir::Files),
+              (QStringList{QStringLiteral("foods.mdb"), QStringLiteral("users.mdb")}));
+}
+
+TEST_F(DeliveredDatabasesTest, BuildMakesFilesThatTheProgramOpens) {
+    DeliveredDatabases(DataFolder).Build(Folder());
+    Connection users, foods;
+    users.Open(UsersPath(), DatabaseKind::Users);
+    foods.Open(FoodsPath(), DatabaseKind::Foods);
+    EXPECT_EQ(users.state(), Connection::Opened);
+    EXPECT_EQ(foods.state(), Connection::Opened);
+}
+
+TEST_F(DeliveredDatabasesTest, UpdateReplacesStockFoodsAndLeavesCustomFoodsAlone) {
+    CopyBuilt();
+    Change(FoodsPath(), "UPDATE FOODS SET FoodName = 'Old name' WHERE ID = 23508;"
+                        "UPDATE FOODS SET ID = 5, FoodName = 'Withdrawn' WHERE ID = 16096;"
+                        "INSERT INTO FOODS (ID, FoodName, Calories) VALUES (23509, 'My soup', 77)");
+    Update();
+    EXPECT_EQ(Ask(FoodsPath(), "SELECT FoodName FROM FOODS WHERE ID = 23508"),
+              QStringLiteral("Turtle, green, raw"));
+    EXPECT_EQ(Ask(FoodsPath(), "SELECT FoodName FROM FOODS WHERE ID = 16096"),
+              QStringLiteral("Butter, salted"));
+    EXPECT_EQ(Ask(FoodsPath(), "SELECT FoodName || Calories FROM FOODS WHERE ID = 23509"),
+              QStringLiteral("My soup77"));
+    EXPECT_EQ(Ask(FoodsPath(), "SELECT COUNT(*) FROM FOODS"), QStringLiteral("7414"));
+}
+
+TEST_F(DeliveredDatabasesTest, UpdateNeverTouchesAnExistingUsersFile) {
+    CopyBuilt();
+    Change(UsersPath(), "INSERT INTO profiles (UserName) VALUES ('Anna')");
+    const QByteArray before = Bytes(UsersPath());
+    Update();
+    EXPECT_EQ(Bytes(UsersPath()), before);
+}
+
+TEST_F(DeliveredDatabasesTest, UpdateLeavesEvenADamagedUsersFileAsItIs) {
+    CopyBuilt();
+    Put(UsersPath(), "not a database");
+    Update();
+    EXPECT_EQ(Bytes(UsersPath()), QByteArray("not a database"));
+}
+
+TEST_F(DeliveredDatabasesTest, UpdateMakesWhatIsMissing) {
+    Update();
+    EXPECT_EQ(Ask(UsersPath(), "SELECT COUNT(*) FROM RDI"), QStringLiteral("22"));
+    EXPECT_EQ(Ask(FoodsPath(), "SELECT COUNT(*) FROM FOODS"), QStringLiteral("7413"));
+}
+
+TEST_F(DeliveredDatabasesTest, DamagedFoodsFileIsRefusedAndLeftAsItIs) {
+    Put(FoodsPath(), "not a database");
+    EXPECT_THROW(Update(), RuntimeError);
+    EXPECT_EQ(Bytes(FoodsPath()), QByteArray("not a database"));
+}
+
+TEST_F(DeliveredDatabasesTest, FailedUpdateLeavesTheFoodsAsTheyWere) {
+    CopyBuilt();
+    QDir(Folder()).mkdir(QStringLiteral("data"));
+    Put(Folder() + QStringLiteral("/data/foods.tsv"), "ID\tNoSuchColumn\n1\t2\n");
+    EXPECT_ANY_THROW(DeliveredDatabases(Folder() + QStringLiteral("/data")).Update(Folder()));
+    EXPECT_EQ(Ask(FoodsPath(), "SELECT COUNT(*) FROM FOODS"), QStringLiteral("7413"));
+}
