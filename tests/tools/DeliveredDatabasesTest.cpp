@@ -12,7 +12,10 @@
 namespace {
 
 const QString DataFolder = QStringLiteral(HALVANE_SOURCE_DIR "/data");
-const QString BuiltFolder = QStringLiteral(HALVANE_BUILD_DIR "/delivered");
+
+QString Built(const char* name) {
+    return QStringLiteral(HALVANE_BUILD_DIR "/delivered/") + QLatin1String(name);
+}
 
 QByteArray Bytes(const QString& path) {
     QFile file(path);
@@ -31,8 +34,8 @@ protected:
     QString UsersPath() const { return Folder() + QStringLiteral("/users.mdb"); }
     QString FoodsPath() const { return Folder() + QStringLiteral("/foods.mdb"); }
     void CopyBuilt() {
-        ASSERT_TRUE(QFile::copy(BuiltFolder + QStringLiteral("/users.mdb"), UsersPath()));
-        ASSERT_TRUE(QFile::copy(BuiltFolder + QStringLiteral("/foods.mdb"), FoodsPath()));
+        ASSERT_TRUE(QFile::copy(Built("users.mdb"), UsersPath()));
+        ASSERT_TRUE(QFile::copy(Built("foods.mdb"), FoodsPath()));
     }
     void Change(const QString& path, const char* statements) {
         SQLite::Database database(path.toStdString(), SQLite::OPEN_READWRITE);
@@ -52,7 +55,7 @@ protected:
 
 TEST_F(DeliveredDatabasesTest, FoodsHoldEveryDeliveredRowColumnByColumn) {
     const TsvTable foods = TsvTable::Read(DataFolder + QStringLiteral("/foods.tsv"));
-    SQLite::Database database((BuiltFolder + QStringLiteral("/foods.mdb")).toStdString());
+    SQLite::Database database(Built("foods.mdb").toStdString());
     SQLite::Statement rows(database, "SELECT " + foods.Columns().join(u',').toStdString() +
                                          " FROM FOODS ORDER BY ID");
     qsizetype row = 0;
@@ -80,7 +83,7 @@ TEST_F(DeliveredDatabasesTest, ReferenceIntakesAreThe22LifeStages) {
         "FEMALE_19_30",    "FEMALE_31_50",    "FEMALE_51_70",     "FEMALE_71_999",
         "LACTATION_0_18",  "LACTATION_19_30", "LACTATION_31_999", "PREGNANCY_0_18",
         "PREGNANCY_19_30", "PREGNANCY_31_999"};
-    SQLite::Database users((BuiltFolder + QStringLiteral("/users.mdb")).toStdString());
+    SQLite::Database users(Built("users.mdb").toStdString());
     SQLite::Statement count(users, "SELECT COUNT(*) FROM RDI");
     ASSERT_TRUE(count.executeStep());
     EXPECT_EQ(count.getColumn(0).getInt(), keys.size());
