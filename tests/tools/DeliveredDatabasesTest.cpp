@@ -163,6 +163,7 @@ TEST_F(DeliveredDatabasesTest, FailedUpdateLeavesTheFoodsAsTheyWere) {
     CopyBuilt();
     QDir(Folder()).mkdir(QStringLiteral("data"));
     Put(Folder() + QStringLiteral("/data/foods.tsv"), "ID\tNoSuchColumn\n1\t2\n");
-    EXPECT_ANY_THROW(DeliveredDatabases(Folder() + QStringLiteral("/data")).Update(Folder()));
+    EXPECT_THROW(DeliveredDatabases(Folder() + QStringLiteral("/data")).Update(Folder()),
+                 RuntimeError);
     EXPECT_EQ(Ask(FoodsPath(), "SELECT COUNT(*) FROM FOODS"), QStringLiteral("7413"));
 }

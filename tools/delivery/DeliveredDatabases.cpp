@@ -1,16 +1,15 @@
 #include "delivery/DeliveredDatabases.h"
 
-#include "common/TsvTable.h"
 #include "runtime/RuntimeError.h"
 #include "store/Connection.h"
 #include "store/Schema.h"
+#include "store/StoreError.h"
 
 #include <QDir>
 #include <QFile>
 
 #include <SQLiteCpp/SQLiteCpp.h>
 
-#include <filesystem>
 #include <functional>
 
 namespace {
@@ -38,11 +37,14 @@ void RemoveWithJournals(const QString& path) {
         QFile::remove(path + QLatin1String(ending));
 }
 
-void FillInOneTransaction(const QString& path, const Fill& fill) {
-    SQLite::Database database(path.toStdString(), SQLite::OPEN_READWRITE);
-    SQLite::Transaction transaction(database);
-    fill(database);
-    transaction.commit();
+void InOneTransaction(const QString& path, DatabaseKind kind, const Fill& fill) {
+    Connection connection;
+    connection.Open(path, kind);
+    StoreError::Guarded(path, [&] {
+        SQLite::Transaction transaction(connection.Raw());
+        fill(connection.Raw());
+        transaction.commit();
+    });
 }
 
 /// The file appears under its name only when it is whole.
@@ -50,9 +52,16 @@ void MakeFile(const QString& path, DatabaseKind kind, const Fill& fill) {
     const QString unfinished = path + u".new";
     RemoveWithJournals(unfinished);
     Schema::Create(unfinished, kind);
-    FillInOneTransaction(unfinished, fill);
+    InOneTransaction(unfinished, kind, fill);
     RemoveWithJournals(path);
-    std::filesystem::rename(unfinished.toStdString(), path.toStdString());
+    if (!QFile::rename(unfinished, path))
+        throw RuntimeError(ErrorNumber::FileNotFound, path + u" cannot be written");
+}
+
+void RemoveStockFoods(SQLite::Database& database) {
+    SQLite::Statement removal(database, "DELETE FROM FOODS WHERE ID <= ?");
+    removal.bind(1, Schema::LastStockFood);
+    removal.exec();
 }
 
 } // namespace
@@ -81,27 +90,25 @@ void DeliveredDatabases::Update(const QString& folder) const {
 }
 
 void DeliveredDatabases::MakeUsers(const QString& path) const {
-    const TsvTable intakes =
-        TsvTable::Read(QDir(dataFolder_).filePath(QStringLiteral("reference-intakes.tsv")));
+    const TsvTable intakes = Table("reference-intakes.tsv");
     MakeFile(path, DatabaseKind::Users,
              [&](SQLite::Database& database) { Insert(database, "RDI", intakes); });
 }
 
 void DeliveredDatabases::MakeFoods(const QString& path) const {
-    const TsvTable foods = TsvTable::Read(QDir(dataFolder_).filePath(QStringLiteral("foods.tsv")));
+    const TsvTable foods = Table("foods.tsv");
     MakeFile(path, DatabaseKind::Foods,
              [&](SQLite::Database& database) { Insert(database, "FOODS", foods); });
 }
 
 void DeliveredDatabases::UpdateFoods(const QString& path) const {
-    const TsvTable foods = TsvTable::Read(QDir(dataFolder_).filePath(QStringLiteral("foods.tsv")));
-    Connection connection;
-    connection.Open(path, DatabaseKind::Foods);
-    SQLite::Database& database = connection.Raw();
-    SQLite::Transaction transaction(database);
-    SQLite::Statement removal(database, "DELETE FROM FOODS WHERE ID <= ?");
-    removal.bind(1, Schema::LastStockFood);
-    removal.exec();
-    Insert(database, "FOODS", foods);
-    transaction.commit();
+    const TsvTable foods = Table("foods.tsv");
+    InOneTransaction(path, DatabaseKind::Foods, [&](SQLite::Database& database) {
+        RemoveStockFoods(database);
+        Insert(database, "FOODS", foods);
+    });
+}
+
+TsvTable DeliveredDatabases::Table(const char* name) const {
+    return TsvTable::Read(QDir(dataFolder_).filePath(QLatin1String(name)));
 }

@@ -1,9 +1,8 @@
 #pragma once
 
-#include <QString>
+#include "common/TsvTable.h"
 
-class Connection;
-enum class DatabaseKind;
+#include <QString>
 
 /// Makes users.mdb and foods.mdb from the delivered tables of the data folder. Every file is closed
 /// when a call returns, with no journal left beside it.
@@ -23,6 +22,7 @@ private:
     void MakeUsers(const QString& path) const;
     void MakeFoods(const QString& path) const;
     void UpdateFoods(const QString& path) const;
+    TsvTable Table(const char* name) const;
 
     QString dataFolder_;
 };
