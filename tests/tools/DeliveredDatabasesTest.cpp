@@ -2,12 +2,15 @@
 #include "common/TsvTable.h"
 #include "runtime/RuntimeError.h"
 #include "store/Connection.h"
-#include "support/HalvaneTest.h"
 
 #include <QDir>
 #include <QFile>
+#include <QTemporaryDir>
+#include <QVariant>
 
 #include <SQLiteCpp/SQLiteCpp.h>
+
+#include <gtest/gtest.h>
 
 namespace {
 
@@ -29,8 +32,9 @@ void Put(const QString& path, const QByteArray& bytes) {
     ASSERT_EQ(file.write(bytes), bytes.size());
 }
 
-class DeliveredDatabasesTest : public HalvaneTest {
+class DeliveredDatabasesTest : public ::testing::Test {
 protected:
+    QString Folder() const { return folder_.path(); }
     QString UsersPath() const { return Folder() + QStringLiteral("/users.mdb"); }
     QString FoodsPath() const { return Folder() + QStringLiteral("/foods.mdb"); }
     void CopyBuilt() {
@@ -49,6 +53,8 @@ protected:
         return QString::fromStdString(statement.getColumn(0).getString());
     }
     void Update() { DeliveredDatabases(DataFolder).Update(Folder()); }
+
+    QTemporaryDir folder_;
 };
 
 } // namespace
@@ -127,7 +133,8 @@ TEST_F(DeliveredDatabasesTest, UpdateReplacesStockFoodsAndLeavesCustomFoodsAlone
               QStringLiteral("Turtle, green, raw"));
     EXPECT_EQ(Ask(FoodsPath(), "SELECT FoodName FROM FOODS WHERE ID = 16096"),
               QStringLiteral("Butter, salted"));
-    EXPECT_EQ(Ask(FoodsPath(), "SELECT FoodName || Calories FROM FOODS WHERE ID = 23509"),
+    EXPECT_EQ(Ask(FoodsPath(),
+                  "SELECT FoodName || CAST(Calories AS INTEGER) FROM FOODS WHERE ID = 23509"),
               QStringLiteral("My soup77"));
     EXPECT_EQ(Ask(FoodsPath(), "SELECT COUNT(*) FROM FOODS"), QStringLiteral("7414"));
 }
