@@ -1,0 +1,205 @@
+#include "model/Nuts.h"
+#include "runtime/RuntimeError.h"
+
+#include <QSet>
+#include <QStringList>
+
+#include <gtest/gtest.h>
+
+namespace {
+QStringList Names(std::span<const Nutrient> order) {
+    QStringList names;
+    for (Nutrient id : order)
+        names << QString::fromLatin1(Info(id).property);
+    return names;
+}
+
+/// What `name` gives for each of the 31, those without one left out.
+QSet<QString> Distinct(const char* NutrientInfo::*name) {
+    QSet<QString> names;
+    for (const NutrientInfo& info : Nutrients())
+        if (info.*name)
+            names << QString::fromLatin1(info.*name).toLower();
+    return names;
+}
+} // namespace
+
+TEST(Nutrients, AreThirtyOneWithNamesOfTheirOwn) {
+    EXPECT_EQ(Nutrients().size(), 31U);
+    for (auto name :
+         {&NutrientInfo::property, &NutrientInfo::profileColumn, &NutrientInfo::logColumn,
+          &NutrientInfo::factsCaption, &NutrientInfo::editCaption, &NutrientInfo::textField,
+          &NutrientInfo::factsLabel})
+        EXPECT_EQ(Distinct(name).size(), 31);
+}
+
+TEST(Nutrients, StandAtTheirPlaceInTheTable) {
+    for (const NutrientInfo& info : Nutrients())
+        EXPECT_EQ(&Info(info.id), &info);
+}
+
+TEST(Nutrients, EightAreWholeNumbers) {
+    QStringList whole;
+    for (const NutrientInfo& info : Nutrients())
+        if (info.whole)
+            whole << QString::fromLatin1(info.property);
+    whole.sort();
+    EXPECT_EQ(whole, QStringList({"Calcium", "Calories", "Cholesterol", "Folate", "Magnesium",
+                                  "Phosphorus", "Potassium", "Sodium"}));
+}
+
+TEST(Nutrients, ElevenAreNeverReadFromTheReferenceTable) {
+    QSet<QString> without;
+    for (const NutrientInfo& info : Nutrients())
+        if (!info.rdiColumn)
+            without << QString::fromLatin1(info.property);
+    EXPECT_EQ(without, QSet<QString>({"Water", "Potassium", "Sodium", "Fiber", "Protein", "Carbs",
+                                      "MonoFat", "PolyFat", "SatFat", "TotalFat", "Calories"}));
+    EXPECT_EQ(Names(ReferenceOrder()),
+              QStringList({"Ash",        "Calcium",    "Cholesterol", "Copper",   "Folate",
+                           "Iron",       "Magnesium",  "Manganese",   "Niacin",   "Panto",
+                           "Phosphorus", "Riboflavin", "Selenium",    "Thiamin",  "VitaminA",
+                           "VitaminB12", "VitaminB6",  "VitaminC",    "VitaminE", "Zinc"}));
+    for (Nutrient id : ReferenceOrder())
+        EXPECT_NE(Info(id).rdiColumn, nullptr);
+}
+
+TEST(Nutrients, StandInTheCanonicalOrder) {
+    EXPECT_EQ(
+        Names(CanonicalOrder()),
+        QStringList({"Ash",        "Calcium",   "Cholesterol", "Copper",  "Fiber",    "Folate",
+                     "Iron",       "Magnesium", "Manganese",   "Niacin",  "Panto",    "Phosphorus",
+                     "Riboflavin", "Selenium",  "Sodium",      "Thiamin", "VitaminA", "VitaminB12",
+                     "VitaminB6",  "VitaminC",  "VitaminE",    "Zinc",    "Water",    "Protein",
+                     "Carbs",      "TotalFat",  "SatFat",      "PolyFat", "MonoFat",  "Calories",
+                     "Potassium"}));
+}
+
+TEST(Nutrients, StandInTheOrderOfAProfileRow) {
+    QStringList columns;
+    for (Nutrient id : ProfileOrder())
+        columns << QString::fromLatin1(Info(id).profileColumn);
+    EXPECT_EQ(columns,
+              QStringList({"ASH",        "Calcium",    "Cholesterol", "Copper",   "Folate",
+                           "Iron",       "Magnesium",  "Manganese",   "Niacin",   "Panto",
+                           "Phosphorus", "Potassium",  "Riboflavin",  "Selenium", "Thiamin",
+                           "VitaminA",   "VitaminB12", "VitaminB6",   "VitaminC", "VitaminE",
+                           "Zinc",       "water",      "sodium",      "fiber",    "protein",
+                           "carbs",      "TotalFat",   "SatFat",      "PolyFat",  "MonoFat",
+                           "Calories"}));
+}
+
+TEST(Nutrients, ChartsLeaveThreeOut) {
+    const QStringList names = Names(ChartOrder());
+    EXPECT_EQ(names.size(), 28);
+    EXPECT_EQ(names.first(), QStringLiteral("Calories"));
+    EXPECT_EQ(names.last(), QStringLiteral("Zinc"));
+    for (const NutrientInfo& info : Nutrients())
+        EXPECT_EQ(info.chartCaption != nullptr, names.contains(QString::fromLatin1(info.property)));
+    for (const char* left : {"Ash", "Panto", "Water"})
+        EXPECT_FALSE(names.contains(QString::fromLatin1(left)));
+}
+
+TEST(Nutrients, ColumnsOfTheLogKeepTheirForm) {
+    EXPECT_STREQ(Info(Nutrient::Carbs).logColumn, "carbs");
+    EXPECT_STREQ(Info(Nutrient::Fiber).logColumn, "fiber");
+    EXPECT_STREQ(Info(Nutrient::Ash).logColumn, "Ash");
+    EXPECT_STREQ(Info(Nutrient::Sodium).logColumn, "Sodium");
+    EXPECT_STREQ(Info(Nutrient::Water).logColumn, "Water");
+}
+
+TEST(Nutrients, CaptionsDifferFromViewToView) {
+    EXPECT_STREQ(Info(Nutrient::Carbs).factsCaption, "Total Carbohydrates (g)");
+    EXPECT_STREQ(Info(Nutrient::Carbs).editCaption, "Carbohydrates (g)");
+    EXPECT_STREQ(Info(Nutrient::Fiber).factsCaption, "Dietary Fiber (g)");
+    EXPECT_STREQ(Info(Nutrient::Fiber).editCaption, "Fiber (g)");
+    EXPECT_STREQ(Info(Nutrient::Panto).editCaption, "Panto. Adic (mg)");
+    EXPECT_STREQ(Info(Nutrient::VitaminA).editCaption, "Via. A (iu)");
+    EXPECT_STREQ(Info(Nutrient::VitaminA).chartCaption, "Vit. A");
+}
+
+TEST(Nutrients, AreFoundByAnyFormOfTheirName) {
+    for (const char* name : {"ASH", "Ash", "ash"})
+        EXPECT_EQ(FindNutrient(QString::fromLatin1(name)), &Info(Nutrient::Ash));
+    for (const NutrientInfo& info : Nutrients()) {
+        EXPECT_EQ(FindNutrient(QString::fromLatin1(info.profileColumn)), &info);
+        EXPECT_EQ(FindNutrient(QString::fromLatin1(info.logColumn)), &info);
+    }
+    for (const char* other : {"", "FOODNAME", "QTY", "Fat"})
+        EXPECT_EQ(FindNutrient(QString::fromLatin1(other)), nullptr);
+}
+
+TEST(Nutrients, SumStatementKeepsItsIrregularBlanks) {
+    const QString text = NutrientSumSQL(QStringLiteral("USER_FOODS"));
+    EXPECT_EQ(
+        text.toStdString(),
+        "SELECT Sum(USER_FOODS.VitaminC) AS [VitaminC],Sum(USER_FOODS.VitaminE) AS [VitaminE],"
+        "Sum(USER_FOODS.VitaminB12) AS [VitaminB12], Sum(USER_FOODS.VitaminB6) AS [VitaminB6],"
+        "Sum(USER_FOODS.VitaminA) AS [VitaminA],Sum(USER_FOODS.SatFat) AS [SatFat],"
+        "Sum(USER_FOODS.Potassium) AS [Potassium],Sum(USER_FOODS.PolyFat) AS [PolyFat],"
+        "Sum(USER_FOODS.MonoFat) AS [MonoFat], Sum(USER_FOODS.Folate) AS [Folate],"
+        "Sum(USER_FOODS.Water) AS [Water], Sum(USER_FOODS.Calories) AS [Calories],"
+        "Sum(USER_FOODS.Protein) AS [Protein], Sum(USER_FOODS.TotalFat) AS [TotalFat],"
+        "Sum(USER_FOODS.carbs) AS [carbs], Sum(USER_FOODS.fiber) AS [fiber],"
+        "Sum(USER_FOODS.Ash) AS [Ash], Sum(USER_FOODS.Calcium) AS [Calcium],"
+        "Sum(USER_FOODS.Phosphorus) AS [Phosphorus], Sum(USER_FOODS.Iron) AS [Iron],"
+        "Sum(USER_FOODS.Sodium) AS [Sodium], Sum(USER_FOODS.Magnesium) AS [Magnesium],"
+        "Sum(USER_FOODS.Panto) AS [Panto], Sum(USER_FOODS.Zinc) AS [Zinc],"
+        "Sum(USER_FOODS.Copper) AS [Copper], Sum(USER_FOODS.Manganese) AS [Manganese],"
+        "Sum(USER_FOODS.Selenium) AS [Selenium], Sum(USER_FOODS.Thiamin) AS [Thiamin],"
+        "Sum(USER_FOODS.Riboflavin) AS [Riboflavin], Sum(USER_FOODS.Niacin) AS [Niacin],"
+        "Sum(USER_FOODS.Cholesterol) AS [Cholesterol]");
+}
+
+TEST(Nutrients, SumStatementNamesTheTableThroughout) {
+    const QString text = NutrientSumSQL(QStringLiteral("Ingredients"));
+    EXPECT_EQ(text.count(QStringLiteral("Sum(Ingredients.")), 31);
+    EXPECT_EQ(QString(text).replace("Ingredients", "USER_FOODS"),
+              NutrientSumSQL(QStringLiteral("USER_FOODS")));
+}
+
+TEST(Nuts, StartAtZero) {
+    const Nuts nuts;
+    for (const NutrientInfo& info : Nutrients())
+        EXPECT_EQ(nuts[info.id], 0) << info.property;
+}
+
+TEST(Nuts, WholeNumberMembersRoundHalvesToTheEvenNeighbour) {
+    Nuts nuts;
+    nuts.Set(Nutrient::Calories, 2.5);
+    EXPECT_EQ(nuts.Calories(), 2);
+    nuts.Set(Nutrient::Calories, 3.5);
+    EXPECT_EQ(nuts.Calories(), 4);
+    nuts.Set(Nutrient::Sodium, 0.4);
+    EXPECT_EQ(nuts[Nutrient::Sodium], 0);
+}
+
+TEST(Nuts, OtherMembersKeepTheirFraction) {
+    Nuts nuts;
+    nuts.Set(Nutrient::Protein, 2.5);
+    nuts.Set(Nutrient::Carbs, 0.125);
+    nuts.Set(Nutrient::TotalFat, -1.5);
+    EXPECT_EQ(nuts.Protein(), 2.5);
+    EXPECT_EQ(nuts.Carbs(), 0.125);
+    EXPECT_EQ(nuts.TotalFat(), -1.5);
+}
+
+TEST(Nuts, AWholeNumberMemberOverflows) {
+    Nuts nuts;
+    nuts.Set(Nutrient::Calcium, 5);
+    try {
+        nuts.Set(Nutrient::Calcium, 3e9);
+        FAIL() << "no overflow";
+    } catch (const RuntimeError& error) {
+        EXPECT_EQ(error.Number(), ErrorNumber::Overflow);
+    }
+    EXPECT_EQ(nuts[Nutrient::Calcium], 5);
+}
+
+TEST(Nuts, AreCopiedByValue) {
+    Nuts first;
+    first.Set(Nutrient::Iron, 8);
+    const Nuts second = first;
+    first.Set(Nutrient::Iron, 9);
+    EXPECT_EQ(second[Nutrient::Iron], 8);
+}
