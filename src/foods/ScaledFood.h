@@ -28,9 +28,8 @@ public:
     static ScaledFood FromRecipe(qint32 recipeID, double qty);
 
 private:
+    const Entry* Find(const QString& key) const;
+
     QList<Entry> entries_;
 };
 Q_DECLARE_METATYPE(ScaledFood)
-
-/// The sums of a recipe's ingredients, one column a nutrient.
-QString RecipeSumSQL(qint32 recipeID);

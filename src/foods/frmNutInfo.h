@@ -1,9 +1,15 @@
 #pragma once
 
 #include "foods/ScaledFood.h"
+#include "model/Nutrients.h"
 #include "toolkit/Dialog.h"
 
-/// The nutrition facts of one serving line at the quantity typed: it only shows, the amounts arrive
+class ElidedLabel;
+class QLabel;
+class ucButton;
+
+/// The nutrition facts of one serving line at the quantity typed, as on a package: seven headline
+/// amounts against the current user's targets, then the others. It only shows: the amounts arrive
 /// scaled.
 class frmNutInfo : public Dialog {
     Q_OBJECT
@@ -13,4 +19,30 @@ public:
 
     /// Fills the labels and shows the panel modally. Where filling fails the panel is not shown.
     void showFood(const ScaledFood& item);
+
+protected:
+    void paintEvent(QPaintEvent*) override;
+
+private:
+    static constexpr int headlineCount = 7;
+
+    void BuildName();
+    void BuildCalories();
+    void BuildHeadlines();
+    void BuildOthers();
+    void BuildDone();
+    QLabel* AddCaption(const QRect& place, const QString& name, const QString& text);
+    QLabel* AddFigure(const QRect& place, const QString& name);
+    QLabel* AddAmount(const QRect& place, Nutrient id);
+
+    void Fill(const ScaledFood& item);
+    void FillPercents(const ScaledFood& item);
+    void CapFatCalories();
+
+    ElidedLabel* aaFoodName_ = nullptr;
+    ElidedLabel* aaServSize_ = nullptr;
+    QLabel* lblFatCals_ = nullptr;
+    std::array<QLabel*, NutrientCount> amounts_{};
+    std::array<QLabel*, headlineCount> percents_{};
+    ucButton* cmdDone_ = nullptr;
 };

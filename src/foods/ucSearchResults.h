@@ -1,11 +1,21 @@
 #pragma once
 
+#include "foods/FoodList.h"
 #include "foods/ScaledFood.h"
+#include "toolkit/DrawnControl.h"
 
-#include <QWidget>
+class Connection;
+class QCheckBox;
+class ResultRows;
+class SearchProgress;
+class TermField;
+class ucButton;
+class ucRadio;
 
-/// The search panel: term, sources and meal above, one row a food below.
-class ucSearchResults : public QWidget {
+/// The search panel: term, meal and sources above, one row a food below. What was ticked and typed
+/// last outlives it in the settings. It writes nothing to the store: the host decides what becomes
+/// of a chosen food.
+class ucSearchResults : public DrawnControl {
     Q_OBJECT
     Q_PROPERTY(bool RecipeMode READ RecipeMode WRITE SetRecipeMode)
     Q_PROPERTY(int meal READ meal WRITE SetMeal)
@@ -14,9 +24,9 @@ public:
     explicit ucSearchResults(QWidget* parent = nullptr);
     ~ucSearchResults() override;
 
-    bool RecipeMode() const;
-    void SetRecipeMode(bool on);
-    int meal() const;
+    bool RecipeMode() const { return recipeMode_; }
+    void SetRecipeMode(bool on); ///< an ingredient has no meal: hides all options but the first
+    int meal() const { return meal_; }
     void SetMeal(int meal); ///< 0 Breakfast to 3 Snacks; ticks the option
     void SearchFoodsDB();
     void ShowResults();
@@ -25,5 +35,42 @@ public:
 Q_SIGNALS:
     void FoodChosen(const QString& Meal, const ScaledFood& Item);
     void FoodExamined(const ScaledFood& Item);
-    void MouseMove(int Button, int Shift, double X, double Y);
+
+protected:
+    bool eventFilter(QObject*, QEvent*) override;
+    void mouseMoveEvent(QMouseEvent*) override;
+    void paintEvent(QPaintEvent*) override;
+    void resizeEvent(QResizeEvent*) override;
+
+private:
+    void BuildTerm();
+    void BuildMeals();
+    void BuildSources();
+    void BuildResults();
+    void Watch(QWidget* control); ///< its mouse moves count as the panel's own
+    void RestoreState();
+    void StoreState() const;
+
+    int TickedMeal() const; ///< the first that is ticked, or -1
+    void TickMeal(int meal);
+    bool StepMeal(const QObject* option, int key);
+
+    void ReadSources();
+    void ReadSource(Connection& connection, const QString& source, bool recipes);
+
+    void LogChosenFood(int Index, qint32 ID, const QString& Serv, double QTY, bool isRecipe);
+    void ExamineChosenFood(int Index, qint32 ID, const QString& Serv, double QTY, bool isRecipe);
+    void Refuse(const QString& message);
+
+    TermField* txtSearchString_ = nullptr;
+    ucButton* cmdGo_ = nullptr;
+    ucRadio* opMeal_[4] = {};
+    QCheckBox* ckStock_ = nullptr;
+    QCheckBox* ckCustom_ = nullptr;
+    QCheckBox* ckRecipes_ = nullptr;
+    ResultRows* rows_ = nullptr;
+    SearchProgress* picStatus_ = nullptr;
+    FoodList foods_;
+    int meal_ = 0;
+    bool recipeMode_ = false;
 };

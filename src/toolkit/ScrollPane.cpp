@@ -96,8 +96,9 @@ void ScrollPane::EnsureVisible(const QRect& place) {
         bar_->SetValue(qCeil((place.bottom() + 1 - FrameHeight()) * valuesPerPixel));
 }
 
+/// A press of the mouse moves nothing: what it met would slip away before the release.
 void ScrollPane::FollowFocus(QWidget*, QWidget* now) {
-    if (now && pane_->isAncestorOf(now))
+    if (QGuiApplication::mouseButtons() == Qt::NoButton && now && pane_->isAncestorOf(now))
         EnsureVisible(QRect(now->mapTo(pane_, QPoint()), now->size()));
 }
 

@@ -54,7 +54,7 @@ void SetGrounds(Style& style) {
     style.chosenDay = {QColor(255, 241, 214), QColor(251, 220, 166)};
     style.scrollSlot = QColor(244, 237, 224);
     style.fieldEdge = QColor(168, 126, 66);
-    style.factsRule = QColor(120, 108, 92);
+    style.factsRule = QColor(200, 200, 200);
 }
 
 void SetInks(Style& style) {

@@ -1,0 +1,20 @@
+#include "foods/FormatNutrient.h"
+
+#include "runtime/Convert.h"
+#include "runtime/Format.h"
+
+#include <QLocale>
+
+QString FormatNutrient(double value) {
+    if (value == 0)
+        return QStringLiteral("0");
+    return Format(value, value < 100 ? NumberMask::UpToTwoDecimals : NumberMask::Thousands);
+}
+
+qint32 WholeNumber(const QString& caption) {
+    const QLocale locale;
+    QString digits = caption;
+    digits.remove(locale.groupSeparator());
+    digits.replace(locale.decimalPoint(), QStringLiteral("."));
+    return ToInteger(digits);
+}

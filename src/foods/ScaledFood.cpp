@@ -1,0 +1,79 @@
+#include "foods/ScaledFood.h"
+
+#include "foods/Logix.h"
+#include "model/Nutrients.h"
+#include "runtime/RuntimeError.h"
+#include "store/Connection.h"
+#include "store/Recordset.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr int unknownKey = 5;
+constexpr int keyInUse = 457;
+
+constexpr double hundredGrams = 100;
+
+/// The amounts of the 31 fields from position `first` on. The order of the operations is part of
+/// the result: the log holds these doubles to the last bit.
+void AddAmounts(ScaledFood& item, const Recordset& row, int first, double grams, double qty) {
+    for (int position = first; position < first + NutrientCount; ++position) {
+        const Field field = row[position];
+        item.Add(field.Name(), field.NumberOr(0) / 100 * grams * qty);
+    }
+}
+
+void AddIdentity(ScaledFood& item, const QString& name, const QString& serving, qint32 id,
+                 double qty) {
+    item.Add(QStringLiteral("FOODNAME"), name);
+    item.Add(QStringLiteral("SERVING"), serving);
+    item.Add(QStringLiteral("ID"), id);
+    item.Add(QStringLiteral("QTY"), qty);
+}
+
+} // namespace
+
+void ScaledFood::Add(const QString& key, const QVariant& value) {
+    if (Find(key))
+        throw RuntimeError(keyInUse, u"The chosen food holds '" + key + u"' already.");
+    entries_.append({key, value});
+}
+
+QVariant ScaledFood::Item(const QString& key) const {
+    if (const Entry* entry = Find(key))
+        return entry->value;
+    throw RuntimeError(unknownKey, u"The chosen food holds no '" + key + u"'.");
+}
+
+const ScaledFood::Entry* ScaledFood::Find(const QString& key) const {
+    const auto found = std::find_if(entries_.begin(), entries_.end(), [&key](const Entry& entry) {
+        return entry.key.compare(key, Qt::CaseInsensitive) == 0;
+    });
+    return found == entries_.end() ? nullptr : &*found;
+}
+
+ScaledFood ScaledFood::FromCatalogue(qint32 id, const QString& serv, double qty) {
+    const QString source = u"SELECT * FROM foods WHERE ID = " + QString::number(id);
+    const Recordset row(FoodDB(), source);
+    const QString weight =
+        serv == u"A" ? QStringLiteral("Serv_GM_WT_A") : QStringLiteral("Serv_GM_WT_B");
+    ScaledFood item;
+    AddAmounts(item, row, 1, row[weight].NumberOr(hundredGrams), qty);
+    const QString name = row[QStringLiteral("FoodName")].Text();
+    const Field serving = row[QStringLiteral("Serv_Desc_") + serv];
+    AddIdentity(item, name, serving.IsNull() ? QStringLiteral("100 grams") : serving.Text(),
+                row[QStringLiteral("ID")].Integer(), qty);
+    return item;
+}
+
+ScaledFood ScaledFood::FromRecipe(qint32 recipeID, double qty) {
+    ScaledFood item;
+    AddAmounts(item, Recordset(UserDB(), RecipeSumSQL(recipeID)), 0, hundredGrams, qty);
+    const QString source = u"SELECT * FROM Recipes WHERE RecipeID = " + QString::number(recipeID);
+    const Recordset row(UserDB(), source);
+    AddIdentity(item, row[QStringLiteral("RecipeName")].Text(),
+                row[QStringLiteral("ServingName")].Text(),
+                row[QStringLiteral("RecipeID")].Integer(), qty);
+    return item;
+}

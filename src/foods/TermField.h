@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QLineEdit>
+
+/// The field of the search term. Typed double quotes, asterisks and apostrophes are swallowed,
+/// since the term goes into the statement as it stands; pasted ones are not. Enter starts the
+/// search.
+class TermField : public QLineEdit {
+    Q_OBJECT
+
+public:
+    using QLineEdit::QLineEdit;
+
+Q_SIGNALS:
+    void SearchAsked();
+
+protected:
+    void keyPressEvent(QKeyEvent*) override;
+    void inputMethodEvent(QInputMethodEvent*) override;
+};

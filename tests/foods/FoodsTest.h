@@ -1,0 +1,43 @@
+#pragma once
+
+#include "support/HalvaneTest.h"
+
+#include <QMap>
+
+class QLineEdit;
+class ucFood;
+class ucSearchResults;
+
+/// What a test row of the catalogue holds; unset numbers are null.
+struct FoodRow {
+    qint32 id = 0;
+    QString name;
+    QVariant servA = QStringLiteral("1 cup");
+    QVariant servB = QStringLiteral("1 oz");
+    QVariant gramsA = 100.0;
+    QVariant gramsB = 28.0;
+    QMap<QString, double> nutrients = {};
+};
+
+/// Empty databases to which a test adds the foods and recipes that it needs.
+class FoodsTest : public HalvaneTest {
+protected:
+    void SetUp() override;
+
+    void AddFood(const FoodRow& food);
+    void AddFoods(int count, int firstId, const QString& name); ///< "name 001" and so on
+    qint32 AddRecipe(const QString& name, const QString& serving);
+    void AddIngredient(qint32 recipe, const QMap<QString, double>& nutrients);
+
+    /// Writes the term, ticks nothing, and presses the search button.
+    void Search(ucSearchResults& panel, const QString& term);
+    static QList<ucFood*> Rows(const ucSearchResults& panel);
+    static QStringList NamesShown(const ucSearchResults& panel);
+    using HalvaneTest::Rows;
+
+    /// Nothing that the user keeps has grown.
+    void ExpectNothingWritten();
+};
+
+/// The number of the failure that `action` ends in, 0 where it succeeds.
+int FailureOf(const std::function<void()>& action);
