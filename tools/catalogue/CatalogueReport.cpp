@@ -34,26 +34,33 @@ QString Introduction() {
         "converted, from mcg to mg, by moving the decimal point.\n\n");
 }
 
-QString Records(const Catalogue& catalogue) {
-    const auto mapped = catalogue.Foods().size();
+int FilledMeasures(const Catalogue& catalogue) {
     int filled = 0;
     for (const CatalogueFood& food : catalogue.Foods())
         filled += food.servings.filledMeasures;
-    QString text =
-        QStringLiteral("## Records\n\n| file | read | mapped | left |\n|---|---:|---:|---:|\n");
-    const auto line = [&](const char* file, int read, qsizetype used) {
-        text += Row({QLatin1String(file), Count(read), Count(used), Count(read - used)});
-    };
-    line("ABBREV.txt", catalogue.ValuesRead(), mapped);
-    line("FOOD_DES.txt", catalogue.DescriptionsRead(), mapped);
-    line("WEIGHT.txt", catalogue.WeightsRead(), filled);
-    text += u"\nKeys: " + QString::number(catalogue.Foods().first().id) + u" to " +
-            QString::number(catalogue.Foods().last().id) +
-            u". Foods left because they have no full description: " +
-            (catalogue.Unnamed().isEmpty() ? QStringLiteral("none")
-                                           : catalogue.Unnamed().join(QStringLiteral(", "))) +
-            u".\n\n";
-    return text;
+    return filled;
+}
+
+QString RecordsOf(const char* file, int read, qsizetype mapped) {
+    return Row({QLatin1String(file), Count(read), Count(mapped), Count(read - mapped)});
+}
+
+QString ListOrNone(const QStringList& list) {
+    return list.isEmpty() ? QStringLiteral("none") : list.join(QStringLiteral(", "));
+}
+
+QString Records(const Catalogue& catalogue) {
+    const auto foods = catalogue.Foods().size();
+    return u"## Records\n\n| file | read | mapped | left |\n|---|---:|---:|---:|\n" +
+           RecordsOf("ABBREV.txt", catalogue.ValuesRead(), foods) +
+           RecordsOf("FOOD_DES.txt", catalogue.DescriptionsRead(), foods) +
+           RecordsOf("WEIGHT.txt", catalogue.WeightsRead(), FilledMeasures(catalogue)) +
+           u"\nKeys: " + QString::number(catalogue.Foods().first().id) + u" to " +
+           QString::number(catalogue.Foods().last().id) +
+           u". Foods left because they have no full description: " +
+           ListOrNone(catalogue.Unnamed()) +
+           u". The weights left are measures that `ABBREV.txt` gives already, or further ones of "
+           "foods that have two.\n\n";
 }
 
 QString Source(const FoodColumn& column) {
@@ -111,9 +118,6 @@ QString ServingCounts(const Catalogue& catalogue) {
 }
 
 QString ServingSection(const Catalogue& catalogue) {
-    int filled = 0;
-    for (const CatalogueFood& food : catalogue.Foods())
-        filled += food.servings.filledMeasures;
     const int secondOnly = CountIf(
         catalogue.Foods(), [](const CatalogueFood& food) { return food.servings.secondOnly; });
     return u"## Servings\n\nServing A is a food's first household measure, serving B its second. "
@@ -121,8 +125,8 @@ QString ServingSection(const Catalogue& catalogue) {
            "its sequence (amount, blank, measure). A food with one measure gets \"100 grams\" as "
            "B, a food without any gets it as A and has no B.\n\n" +
            ServingCounts(catalogue) + u"\nFoods with the second measure only, which is then A: " +
-           Count(secondOnly) + u". Measures filled from `WEIGHT.txt`: " + Count(filled) +
-           u", for these foods:\n\n" + Filled(catalogue);
+           Count(secondOnly) + u". Measures filled from `WEIGHT.txt`: " +
+           Count(FilledMeasures(catalogue)) + u", for these foods:\n\n" + Filled(catalogue);
 }
 
 } // namespace
