@@ -1,0 +1,74 @@
+#include "analysis/PieChart.h"
+
+#include "toolkit/Style.h"
+#include "toolkit/ucAALBL.h"
+
+#include <QPainter>
+
+namespace {
+constexpr int LegendGap = 20;
+constexpr int LegendLine = 24;
+constexpr int LegendWidth = 112; ///< swatch, gap and the longest caption
+constexpr int SwatchSize = 12;
+constexpr int SwatchGap = 8;
+} // namespace
+
+PieChart::PieChart(PieForm form, QWidget* parent)
+    : QWidget(parent)
+    , picture_(new PiePicture(std::move(form), this)) {
+    picture_->setObjectName(QStringLiteral("picPIE"));
+    AddLabels();
+}
+
+void PieChart::AddLabels() {
+    constexpr std::array names{"aafat", "aaprotein", "aacarbs"};
+    for (size_t i = 0; i < labels_.size(); ++i) {
+        labels_[i] = new ucAALBL(this);
+        labels_[i]->setObjectName(QLatin1String(names[i]));
+        labels_[i]->SetBackColor(QColor());
+        labels_[i]->SetForeColor(TheStyle().ink);
+        labels_[i]->SetFont(TheStyle().text);
+    }
+    ShowCaptions();
+}
+
+void PieChart::DrawPie(double fat, double protein, double carbs) {
+    picture_->DrawPie(fat, protein, carbs);
+    ShowCaptions();
+}
+
+void PieChart::ShowNoData() {
+    picture_->ShowNoData();
+    ShowCaptions();
+}
+
+void PieChart::ShowCaptions() {
+    const auto& captions = picture_->pie().Captions();
+    for (size_t i = 0; i < labels_.size(); ++i)
+        if (labels_[i]->Caption() != captions[i])
+            labels_[i]->SetCaption(captions[i]);
+}
+
+QRect PieChart::Swatch(size_t i) const {
+    const int left = (width() - LegendWidth) / 2;
+    const int top = picture_->geometry().bottom() + 1 + LegendGap + int(i) * LegendLine;
+    return {left, top + (LegendLine - SwatchSize) / 2, SwatchSize, SwatchSize};
+}
+
+void PieChart::resizeEvent(QResizeEvent*) {
+    const int legend = LegendGap + int(labels_.size()) * LegendLine;
+    const int free = height() - picture_->height() - legend;
+    picture_->move((width() - picture_->width()) / 2, qMax(0, free * 2 / 5));
+    const int line = QFontMetrics(TheStyle().text).height();
+    for (size_t i = 0; i < labels_.size(); ++i) {
+        const QRect swatch = Swatch(i);
+        labels_[i]->move(swatch.right() + 1 + SwatchGap, swatch.center().y() - line / 2);
+    }
+}
+
+void PieChart::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    const auto colours = picture_->pie().ShownColours();
+    for (size_t i = 0; i < labels_.size(); ++i)
+        painter.fillRect(Swatch(i), colours[i]);
+}

@@ -1,0 +1,279 @@
+#include "analysis/Pie.h"
+#include "analysis/PieChart.h"
+#include "support/HalvaneTest.h"
+#include "toolkit/Style.h"
+#include "toolkit/ucAALBL.h"
+
+#include <QtMath>
+
+namespace {
+
+class PieTest : public HalvaneTest {
+protected:
+    static PieForm Small() {
+        PieForm form;
+        form.size = QSize(108, 108);
+        form.centre = QPointF(54, 54);
+        form.radius = 48;
+        form.noDataPlace = QPointF(12, 35);
+        form.overlayWithoutData = true;
+        form.noDataCaptions = {"Total Fat --", "Protein --", "Carbs. --"};
+        form.ground = TheStyle().paper;
+        return form;
+    }
+
+    /// The pixel in the direction of that percent of the circle, at that part of the radius.
+    static QRgb At(const QImage& picture, const PieForm& form, double percent, double part = 0.6) {
+        const double angle = percent * 6.28318530718 / 100;
+        const QPointF place = form.centre + QPointF(qCos(angle), -qSin(angle)) * form.radius * part;
+        return picture.pixel(qFloor(place.x()), qFloor(place.y())) | 0xff000000;
+    }
+
+    static QRgb Laid(QRgb over, QRgb ground) {
+        const auto mix = [](int a, int b) { return (a * 153 + b * 102 + 127) / 255; };
+        return qRgb(mix(qRed(over), qRed(ground)), mix(qGreen(over), qGreen(ground)),
+                    mix(qBlue(over), qBlue(ground)));
+    }
+
+    static int PixelsUnlike(const QImage& picture, const QRect& place, QRgb ground) {
+        int count = 0;
+        for (int y = place.top(); y <= place.bottom(); ++y)
+            for (int x = place.left(); x <= place.right(); ++x)
+                count += (picture.pixel(x, y) | 0xff000000) != ground;
+        return count;
+    }
+
+    static std::array<QString, 3> Captions(const char* fat, const char* protein,
+                                           const char* carbs) {
+        return {QString::fromLatin1(fat), QString::fromLatin1(protein), QString::fromLatin1(carbs)};
+    }
+
+    const QRgb paper = TheStyle().paper.rgb();
+    const QRgb red = qRgb(255, 30, 30);
+    const QRgb orange = qRgb(255, 133, 0);
+    const QRgb green = qRgb(56, 250, 59);
+};
+
+TEST_F(PieTest, SectorsRunCounterClockwiseFromTheRight) {
+    Pie pie(Small());
+    pie.DrawPie(0.25, 0.25, 0.5);
+    const QImage temp = pie.temp();
+    EXPECT_EQ(At(temp, Small(), 12), red);
+    EXPECT_EQ(At(temp, Small(), 24), red);
+    EXPECT_EQ(At(temp, Small(), 26), orange);
+    EXPECT_EQ(At(temp, Small(), 49), orange);
+    EXPECT_EQ(At(temp, Small(), 51), green);
+    EXPECT_EQ(At(temp, Small(), 99), green);
+}
+
+TEST_F(PieTest, TheCircleFillsItsRadiusAndNoMore) {
+    Pie pie(Small());
+    pie.DrawPie(1, 1, 1);
+    const QImage temp = pie.temp();
+    for (int percent = 1; percent < 100; percent += 4) {
+        EXPECT_NE(At(temp, Small(), percent, 46.0 / 48), paper) << percent;
+        EXPECT_EQ(At(temp, Small(), percent, 51.0 / 48), paper) << percent;
+    }
+}
+
+TEST_F(PieTest, TheDrawnPieIsLaidOverThePictureWithAlpha153) {
+    Pie pie(Small());
+    pie.DrawPie(0.25, 0.25, 0.5);
+    const QImage shown = pie.picPIE();
+    EXPECT_EQ(At(shown, Small(), 12), Laid(red, paper));
+    EXPECT_EQ(At(shown, Small(), 37), Laid(orange, paper));
+    EXPECT_EQ(At(shown, Small(), 75), Laid(green, paper));
+    EXPECT_EQ(shown.pixel(2, 2) | 0xff000000, paper);
+}
+
+TEST_F(PieTest, AFurtherOverlayBlendsAgain) {
+    Pie pie(Small());
+    pie.DrawPie(0.25, 0.25, 0.5);
+    pie.picPIE();
+    pie.AddOverLay();
+    EXPECT_EQ(At(pie.picPIE(), Small(), 12), Laid(red, Laid(red, paper)));
+}
+
+TEST_F(PieTest, LegendColoursAreThoseThatAreSeen) {
+    const Pie pie(Small());
+    const auto colours = pie.ShownColours();
+    EXPECT_EQ(colours[0].rgb(), Laid(red, paper));
+    EXPECT_EQ(colours[1].rgb(), Laid(orange, paper));
+    EXPECT_EQ(colours[2].rgb(), Laid(green, paper));
+}
+
+TEST_F(PieTest, SharesAreTakenAgainstTheirSum) {
+    Pie pie(Small());
+    pie.DrawPie(0.2, 0.1, 0.1);
+    EXPECT_EQ(pie.Captions(), Captions("Fat 50%", "Protein 25%", "Carbs. 25%"));
+    EXPECT_EQ(pie.Summary(), QStringLiteral("Fat 50%, Protein 25%, Carbs. 25%"));
+}
+
+TEST_F(PieTest, RoundedSharesNeedNotAddUp) {
+    Pie pie(Small());
+    pie.DrawPie(0.33, 0.33, 0.33);
+    EXPECT_EQ(pie.Captions(), Captions("Fat 33%", "Protein 33%", "Carbs. 33%"));
+}
+
+TEST_F(PieTest, PureFatLeavesSliversForTheOthers) {
+    Pie pie(Small());
+    pie.DrawPie(1, 0, 0);
+    EXPECT_EQ(pie.Captions(), Captions("Fat 100%", "Protein 0%", "Carbs. 0%"));
+    EXPECT_EQ(At(pie.temp(), Small(), 50), red);
+    const QRgb sliver = At(pie.temp(), Small(), 99.9, 0.95);
+    EXPECT_GT(qGreen(sliver), qRed(sliver));
+}
+
+TEST_F(PieTest, FatOf999IsClampedButProteinOf999IsNot) {
+    // With 99.9 % of fat the sector ends at 99.8 %; with 99.9 % of protein it does not.
+    Pie fat(Small());
+    fat.DrawPie(999, 0.5, 0.5);
+    Pie protein(Small());
+    protein.DrawPie(0.5, 999, 0.5);
+    EXPECT_EQ(fat.Shares()[0], 99.8);
+    EXPECT_EQ(protein.Shares()[1], 999.0 / 1000 * 100);
+}
+
+TEST_F(PieTest, ProteinAbove999IsClamped) {
+    Pie pie(Small());
+    pie.DrawPie(0.0004, 999.6, 0);
+    EXPECT_EQ(pie.Shares()[1], 99.8);
+    pie.DrawPie(0, 0, 5);
+    EXPECT_EQ(pie.Shares()[2], 99.8);
+}
+
+TEST_F(PieTest, WhereTheFormSaysSoAllThreeAreClampedFrom999) {
+    PieForm form = Small();
+    form.clampAllFrom999 = true;
+    Pie pie(form);
+    pie.DrawPie(0.5, 999, 0.5);
+    EXPECT_EQ(pie.Shares()[1], 99.8);
+}
+
+TEST_F(PieTest, WithoutAnyShareNoSectorIsDrawnAndCaptionsStay) {
+    Pie pie(Small());
+    pie.DrawPie(0.5, 0.25, 0.25);
+    pie.DrawPie(0, 0, 0);
+    EXPECT_EQ(pie.Captions(), Captions("Fat 50%", "Protein 25%", "Carbs. 25%"));
+    EXPECT_EQ(PixelsUnlike(pie.temp(), QRect(0, 0, 108, 108), paper), 0);
+    EXPECT_EQ(PixelsUnlike(pie.picPIE(), QRect(0, 0, 108, 108), paper), 0);
+    EXPECT_EQ(pie.Summary(), QString());
+}
+
+TEST_F(PieTest, ASumJustAboveNothingIsDrawn) {
+    Pie pie(Small());
+    pie.DrawPie(0.0002, 0.0001, 0.0001);
+    EXPECT_EQ(pie.Captions(), Captions("Fat 50%", "Protein 25%", "Carbs. 25%"));
+}
+
+TEST_F(PieTest, SharesThatAreNoNumbersDrawNothingAndDoNotFail) {
+    Pie pie(Small());
+    pie.DrawPie(qInf(), 1, 1);
+    EXPECT_EQ(pie.picPIE().size(), QSize(108, 108));
+}
+
+TEST_F(PieTest, NoDataIsPrintedAtItsPlaceAndTheBlankPieLaidOverIt) {
+    Pie pie(Small());
+    pie.DrawPie(1, 1, 1);
+    pie.ShowNoData();
+    EXPECT_EQ(pie.Captions(), Captions("Total Fat --", "Protein --", "Carbs. --"));
+    EXPECT_EQ(pie.Summary(), QStringLiteral("No data to chart"));
+    EXPECT_EQ(PixelsUnlike(pie.temp(), QRect(0, 0, 108, 108), paper), 0);
+    const QImage shown = pie.picPIE();
+    EXPECT_GT(PixelsUnlike(shown, QRect(12, 35, 90, 16), paper), 50);
+    EXPECT_EQ(PixelsUnlike(shown, QRect(0, 0, 108, 35), paper), 0);
+    EXPECT_EQ(PixelsUnlike(shown, QRect(0, 55, 108, 53), paper), 0);
+    EXPECT_EQ(PixelsUnlike(shown, QRect(0, 0, 12, 108), paper), 0);
+    EXPECT_EQ(PixelsUnlike(shown, QRect(104, 0, 4, 108), paper), 0);
+}
+
+TEST_F(PieTest, TheOverlayWithoutDataIsOfTheForm) {
+    const auto darkest = [](const QImage& picture) {
+        int least = 255;
+        for (int y = 0; y < picture.height(); ++y)
+            for (int x = 0; x < picture.width(); ++x)
+                least = qMin(least, qGray(picture.pixel(x, y)));
+        return least;
+    };
+    PieForm plain = Small();
+    plain.overlayWithoutData = false;
+    Pie withOverlay(Small());
+    withOverlay.ShowNoData();
+    Pie without(plain);
+    without.ShowNoData();
+    EXPECT_GE(darkest(withOverlay.picPIE()), 145);
+    EXPECT_LT(darkest(without.picPIE()), 100);
+}
+
+TEST_F(PieTest, NoDataWithoutAPlaceIsCentred) {
+    PieForm form = Small();
+    form.noDataPlace.reset();
+    Pie pie(form);
+    pie.ShowNoData();
+    const QImage shown = pie.picPIE();
+    EXPECT_GT(PixelsUnlike(shown, QRect(8, 44, 92, 20), paper), 50);
+    EXPECT_EQ(PixelsUnlike(shown, QRect(0, 0, 108, 44), paper), 0);
+    EXPECT_EQ(PixelsUnlike(shown, QRect(0, 64, 108, 44), paper), 0);
+}
+
+TEST_F(PieTest, GeometryIsOfTheForm) {
+    PieForm form = Small();
+    form.size = QSize(252, 242);
+    form.centre = QPointF(126, 121);
+    form.radius = 112;
+    Pie pie(form);
+    pie.DrawPie(1, 1, 2);
+    EXPECT_EQ(pie.picPIE().size(), QSize(252, 242));
+    EXPECT_EQ(At(pie.temp(), form, 12, 0.95), red);
+    EXPECT_EQ(At(pie.temp(), form, 75, 0.95), green);
+}
+
+TEST_F(PieTest, ADenserScreenGetsADenserPicture) {
+    Pie pie(Small());
+    pie.DrawPie(1, 1, 2);
+    const QImage shown = pie.picPIE(2);
+    EXPECT_EQ(shown.size(), QSize(216, 216));
+    EXPECT_EQ(shown.pixel(108 + 20, 108 - 20) | 0xff000000, Laid(red, paper));
+}
+
+TEST_F(PieTest, BlendMixesByAlphaOf255) {
+    QImage onto(3, 2, QImage::Format_RGB32);
+    QImage over(3, 2, QImage::Format_RGB32);
+    onto.fill(qRgb(0, 100, 255));
+    over.fill(qRgb(255, 200, 0));
+    ASSERT_TRUE(Pie::Blend(onto, over, 153));
+    EXPECT_EQ(onto.pixel(2, 1), qRgb(153, 160, 102));
+}
+
+TEST_F(PieTest, BlendRefusesPicturesThatDoNotFit) {
+    QImage onto(3, 2, QImage::Format_RGB32);
+    onto.fill(qRgb(1, 2, 3));
+    const QImage before = onto;
+    EXPECT_FALSE(Pie::Blend(onto, QImage(2, 2, QImage::Format_RGB32), 153));
+    EXPECT_FALSE(Pie::Blend(onto, QImage(3, 2, QImage::Format_Mono), 153));
+    EXPECT_EQ(onto, before);
+    QImage none;
+    EXPECT_FALSE(Pie::Blend(none, QImage(), 153));
+}
+
+TEST_F(PieTest, TheChartStandsInTheMiddleWithASwatchBeforeEachLabel) {
+    PieChart chart(Small());
+    chart.resize(336, 420);
+    chart.DrawPie(0.5, 0.25, 0.25);
+    chart.show();
+    const QImage shown = Grab(&chart);
+    const auto* picture = Find(&chart, QStringLiteral("picPIE"));
+    EXPECT_EQ(picture->x(), (336 - 108) / 2);
+    const std::array names{"aafat", "aaprotein", "aacarbs"};
+    const std::array colours{red, orange, green};
+    for (size_t i = 0; i < 3; ++i) {
+        const auto* label = Find<ucAALBL>(&chart, QString::fromLatin1(names[i]));
+        EXPECT_EQ(label->Caption(),
+                  picture->accessibleDescription().split(QStringLiteral(", "))[int(i)]);
+        EXPECT_GT(label->y(), picture->geometry().bottom());
+        EXPECT_EQ(shown.pixel(label->x() - 14, label->geometry().center().y()),
+                  Laid(colours[i], paper));
+    }
+}
+
+} // namespace
