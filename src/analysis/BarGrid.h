@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QWidget>
+
+/// The view that percent bars stand in: a line every 10 % of the target, a dark one every 50 %.
+/// 100 % is 1500 twips, 0 % stands at Origin.
+class BarGrid : public QWidget {
+    Q_OBJECT
+
+public:
+    static constexpr int Origin = 60;    ///< twips
+    static constexpr int Step = 150;     ///< twips between lines
+    static constexpr int DarkStep = 750; ///< twips between dark lines
+    static constexpr int Foot = 30;      ///< twips below the lines
+
+    explicit BarGrid(QWidget* parent = nullptr);
+
+protected:
+    void paintEvent(QPaintEvent*) override;
+
+private:
+    void DrawGrid(QPainter& painter) const;
+};

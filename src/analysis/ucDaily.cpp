@@ -1,0 +1,345 @@
+#include "analysis/ucDaily.h"
+
+#include "analysis/BarGrid.h"
+#include "analysis/ChartBar.h"
+#include "analysis/ChartLabel.h"
+#include "analysis/PieChart.h"
+#include "analysis/ScaleCaption.h"
+#include "model/User.h"
+#include "runtime/AppState.h"
+#include "runtime/Clock.h"
+#include "runtime/Dates.h"
+#include "runtime/Format.h"
+#include "runtime/Settings.h"
+#include "store/Connection.h"
+#include "store/Recordset.h"
+#include "toolkit/Style.h"
+#include "toolkit/Twips.h"
+#include "toolkit/ucAALBL.h"
+#include "toolkit/ucButtonA.h"
+#include "toolkit/ucHeader.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+
+namespace {
+
+constexpr int ViewModes = 3;
+constexpr const char* Modes[ViewModes] = {"RDI", "VALS", "PIE"};
+constexpr const char* StripCaptions[ViewModes] = {" Percent RDI", " Nutrient Values",
+                                                  " Caloric Breakdown"};
+const QString ModeSetting = QStringLiteral("DAILYMODE");
+
+// Pixels.
+constexpr int PanelWidth = 338;
+constexpr int PanelHeight = 476;
+constexpr int ButtonsHeight = 34;
+constexpr int PictureSize = 16;
+constexpr int LabelsWidth = 119;
+constexpr int RowCount = 28;
+constexpr int RowsMargin = 2; ///< below the last row
+
+PieForm DailyPie() {
+    PieForm form;
+    form.size = QSize(108, 108);
+    form.centre = QPointF(54, 54);
+    form.radius = 48;
+    form.noDataPlace = QPointF(12, 35);
+    form.overlayWithoutData = true;
+    form.noDataCaptions = {"Total Fat --", "Protein --", "Carbs. --"};
+    form.ground = TheStyle().paper;
+    return form;
+}
+
+int ModeNumber(const QString& mode) {
+    for (int i = 0; i < ViewModes; ++i)
+        if (mode.compare(QLatin1String(Modes[i]), Qt::CaseInsensitive) == 0)
+            return i;
+    return 0;
+}
+
+} // namespace
+
+ucDaily::ucDaily(QWidget* parent)
+    : DrawnControl(parent)
+    , date_(Dates::Parse(FormatShortDate(Clock::Today()))) {
+    setAccessibleName(QStringLiteral("Daily summary"));
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    AddHead();
+    AddViews();
+    AddRows();
+    AddPie();
+    WatchPointer(this, {.row = 0, .raises = true});
+    resize(sizeHint());
+    PlaceAll();
+    Toggle(ModeNumber(GetRegValue(ModeSetting)));
+}
+
+ucDaily::~ucDaily() {
+    SetRegValue(ModeSetting, mode_);
+}
+
+void ucDaily::AddHead() {
+    strip_ = new ucStrip(this);
+    strip_->setObjectName(QStringLiteral("ucStrip"));
+    WatchPointer(strip_);
+    buttons_ = new QWidget(this);
+    buttons_->setObjectName(QStringLiteral("Picture1"));
+    WatchPointer(buttons_);
+    viewButtons_ = {AddViewButton(0, "cmdBar", "bars", "Bar chart of percent RDI"),
+                    AddViewButton(1, "cmdVals", "values", "Numeric daily totals"),
+                    AddViewButton(2, "cmdPIEChart", "pie", "Pie chart of caloric breakdown")};
+    lblPercents_ = new ScaleCaption(this);
+    lblPercents_->setObjectName(QStringLiteral("lblPercents"));
+    lblPercents_->SetCaption(QStringLiteral("0%        50%     100%"));
+    WatchPointer(lblPercents_);
+}
+
+ucButtonA* ucDaily::AddViewButton(int mode, const char* name, const char* picture,
+                                  const char* tip) {
+    auto* button = new ucButtonA(buttons_);
+    button->setObjectName(QLatin1String(name));
+    button->SetPictures(QLatin1String(picture), QLatin1String(tip));
+    button->SetPictureSize(QSize(PictureSize, PictureSize));
+    button->SetBordered(true);
+    const QString lowerName = button->objectName().toLower();
+    connect(button, &ucButtonA::Click, this, [this, mode] { Toggle(mode); });
+    connect(button, &ucButtonA::MouseMove, this, [this, lowerName] { AllOff(lowerName); });
+    return button;
+}
+
+void ucDaily::AddViews() {
+    labels_ = new QWidget(this);
+    labels_->setObjectName(QStringLiteral("picLabels"));
+    WatchPointer(labels_, {.row = 0, .raises = true});
+    picRDIs_ = new BarGrid(this);
+    picRDIs_->setObjectName(QStringLiteral("picRDIs"));
+    WatchPointer(picRDIs_);
+    picVals_ = new QWidget(this);
+    picVals_->setObjectName(QStringLiteral("picVals"));
+    WatchPointer(picVals_, {.row = 0, .raises = true});
+}
+
+void ucDaily::AddRows() {
+    labels_->resize(LabelsWidth, 0);
+    for (const Nutrient nutrient : ChartOrder()) {
+        const int i = int(rows_.size()) + 1;
+        rows_.push_back(
+            std::make_unique<DailyRow>(i, nutrient, DailyRow::Views{labels_, picRDIs_, picVals_}));
+        WatchPointer(rows_.back()->lbl(), {.row = i, .raises = true});
+        WatchPointer(rows_.back()->imgBar(), {.row = i, .raises = false});
+        WatchPointer(rows_.back()->lblVal(), {.row = i, .raises = true});
+    }
+}
+
+void ucDaily::AddPie() {
+    picPieChart_ = new PieChart(DailyPie(), this);
+    picPieChart_->setObjectName(QStringLiteral("picPieChart"));
+    WatchPointer(picPieChart_);
+    WatchPointer(picPieChart_->picPIE());
+    for (ucAALBL* label : picPieChart_->Labels())
+        WatchPointer(label);
+}
+
+QSize ucDaily::sizeHint() const {
+    return {PanelWidth, PanelHeight};
+}
+
+ucDaily::Layout ucDaily::layoutRects() const {
+    const int inner = width() - 2;
+    const int buttonsTop = 1 + TheStyle().headerHeight;
+    const int top = buttonsTop + ButtonsHeight + 1;
+    const int rows = DailyRow::Top(RowCount + 1) + RowsMargin;
+    Layout layout;
+    layout.strip = QRect(1, 1, inner, TheStyle().headerHeight);
+    layout.buttons = QRect(1, buttonsTop, inner, ButtonsHeight);
+    layout.labels = QRect(1, top, LabelsWidth, rows);
+    layout.view = QRect(1 + LabelsWidth, top, inner - LabelsWidth, rows);
+    layout.pie = QRect(1, top, inner, height() - 1 - top);
+    return layout;
+}
+
+void ucDaily::resizeEvent(QResizeEvent*) {
+    PlaceAll();
+    for (const auto& row : rows_)
+        row->FitBar();
+}
+
+void ucDaily::PlaceAll() {
+    const Layout layout = layoutRects();
+    strip_->setGeometry(layout.strip);
+    buttons_->setGeometry(layout.buttons);
+    labels_->setGeometry(layout.labels);
+    picRDIs_->setGeometry(layout.view);
+    picVals_->setGeometry(layout.view);
+    picPieChart_->setGeometry(layout.pie);
+    PlaceButtons();
+    PlaceScale(layout);
+}
+
+void ucDaily::PlaceButtons() {
+    constexpr int left = 6;
+    int x = left;
+    for (ucButtonA* button : viewButtons_) {
+        button->resize(button->sizeHint());
+        button->move(x, (ButtonsHeight - button->height()) / 2);
+        x += button->width() + TheStyle().groupGap;
+    }
+}
+
+void ucDaily::PlaceScale(const Layout& layout) {
+    const ucButtonA* last = viewButtons_.back();
+    const int left = layout.buttons.left() + last->geometry().right() + 1;
+    lblPercents_->setGeometry(left, layout.buttons.top(), layout.view.right() - left,
+                              ButtonsHeight);
+    QList<int> marks;
+    for (int n = 0; n < 3; ++n)
+        marks << layout.view.left() - left +
+                     Twips::ToPixels(BarGrid::Origin + n * BarGrid::DarkStep);
+    lblPercents_->SetMarks(marks);
+}
+
+void ucDaily::paintEvent(QPaintEvent*) {
+    const Style& style = TheStyle();
+    QPainter painter(this);
+    painter.fillRect(rect(), style.paper);
+    painter.fillRect(1, layoutRects().buttons.bottom() + 1, width() - 2, 1, style.rule);
+    painter.setPen(style.frame);
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+}
+
+void ucDaily::showEvent(QShowEvent*) {
+    updateCharts();
+    picRDIs_->update();
+}
+
+void ucDaily::setDate(QDate date) {
+    date_ = date;
+    updateCharts();
+}
+
+void ucDaily::updateCharts() {
+    if (!App().AppStarted)
+        return;
+    const std::optional<Nuts> sums = DaySums();
+    if (!sums)
+        return ShowNoData();
+    sums_ = *sums;
+    ShowSums();
+    if (sums_.Calories() < 1)
+        return ShowNoData();
+    picPieChart_->DrawPie(sums_.TotalFat() * 9 / sums_.Calories(),
+                          sums_.Protein() * 4 / sums_.Calories(),
+                          sums_.Carbs() * 4 / sums_.Calories());
+}
+
+/// What the day sums to, or nothing where it has no row.
+std::optional<Nuts> ucDaily::DaySums() const {
+    static const QString sumSQL = NutrientSumSQL(QStringLiteral("USER_FOODS"));
+    Recordset day(UserDB(),
+                  sumSQL + " FROM USER_FOODS " +
+                      " WHERE UID=" + QString::number(User::Current().UID) + " AND UDate = #" +
+                      Dates::ShortText(date_) + "#",
+                  Cursor::Static, Lock::ReadOnly);
+    if (day[QStringLiteral("Calories")].IsNull())
+        return std::nullopt;
+    Nuts sums;
+    for (const NutrientInfo& nutrient : Nutrients())
+        sums.Set(nutrient.id, day[QLatin1String(nutrient.logColumn)].NumberOr(0));
+    day.Close();
+    return sums;
+}
+
+void ucDaily::ShowSums() {
+    const Nuts& targets = User::Current().RDIs;
+    for (const auto& row : rows_)
+        row->Show(sums_[row->nutrient()], targets[row->nutrient()]);
+    FitValues();
+}
+
+void ucDaily::ShowNoData() {
+    for (const auto& row : rows_)
+        row->ShowNothing();
+    FitValues();
+    picPieChart_->ShowNoData();
+}
+
+void ucDaily::FitValues() {
+    if (mode_ != QLatin1String(Modes[1]))
+        return;
+    for (const auto& row : rows_)
+        row->FitValue();
+}
+
+/// The width that bars may take is that of the view that they stand in.
+double ucDaily::barWidth(double value, double rdi) const {
+    return DailyRow::barWidth(value, rdi, picRDIs_->width());
+}
+
+void ucDaily::Toggle(int mode) {
+    if (mode < 0 || mode >= ViewModes)
+        return;
+    mode_ = QLatin1String(Modes[mode]);
+    strip_->SetCaption(QLatin1String(StripCaptions[mode]));
+    picRDIs_->setVisible(mode == 0);
+    lblPercents_->setVisible(mode == 0);
+    picVals_->setVisible(mode == 1);
+    picPieChart_->setVisible(mode == 2);
+    labels_->setVisible(mode != 2);
+    for (int i = 0; i < ViewModes; ++i)
+        viewButtons_[size_t(i)]->SetChosen(i == mode);
+    FitValues();
+}
+
+void ucDaily::AddOverLay() {
+    picPieChart_->AddOverLay();
+}
+
+void ucDaily::hilite(int row) {
+    if (hilited_ == row)
+        return;
+    if (hilited_ != 0)
+        rows_[size_t(hilited_ - 1)]->SetLit(false);
+    if (row != 0)
+        rows_[size_t(row - 1)]->SetLit(true);
+    hilited_ = row;
+}
+
+void ucDaily::Unhilite() {
+    hilite(0);
+}
+
+void ucDaily::AllOff(const QString& name) {
+    for (ucButtonA* button : viewButtons_)
+        if (button->objectName().toLower() != name)
+            button->Reset();
+    Unhilite();
+}
+
+void ucDaily::leaveEvent(QEvent*) {
+    AllOff({});
+}
+
+void ucDaily::WatchPointer(QWidget* control, Hover hover) {
+    hovers_.insert(control, hover);
+    control->setMouseTracking(true);
+    control->installEventFilter(this);
+}
+
+bool ucDaily::eventFilter(QObject* watched, QEvent* event) {
+    const auto hover = hovers_.constFind(watched);
+    if (event->type() != QEvent::MouseMove || hover == hovers_.cend())
+        return DrawnControl::eventFilter(watched, event);
+    OnPointer(*hover, static_cast<QMouseEvent*>(event));
+    return true;
+}
+
+/// The host is told first: it answers by taking every highlight off.
+void ucDaily::OnPointer(const Hover& hover, const QMouseEvent* move) {
+    if (hover.row == 0)
+        AllOff({});
+    if (hover.raises)
+        RaiseMouseMove(move);
+    if (hover.row != 0)
+        hilite(hover.row);
+}
