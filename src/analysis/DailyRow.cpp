@@ -16,7 +16,7 @@ const QString Leader = QStringLiteral(".......................");
 const QString EmptyValue = QStringLiteral("..............................0");
 
 // Pixels.
-constexpr int LabelLeft = 8;
+constexpr int LabelLeft = 7;
 constexpr int RowHeight = 14;
 constexpr int FirstTop = 2;
 
@@ -44,7 +44,8 @@ DailyRow::DailyRow(int i, Nutrient nutrient, const Views& views)
     , lblVal_(new ChartLabel(views.values)) {
     lbl_->setObjectName(QStringLiteral("lbl%1").arg(i));
     lbl_->SetCaption(QLatin1String(Info(nutrient).chartCaption));
-    lbl_->setGeometry(LabelLeft, Top(i), views.labels->width() - LabelLeft, RowHeight);
+    lbl_->setGeometry(LabelLeft, Top(i), views.labels->width() - LabelLeft,
+                      RowHeight + Twips::ToPixels(ValueDrop));
     lbl_->SetSpokenValue([this] { return SpokenValue(); });
     imgBar_->setObjectName(QStringLiteral("imgBar%1").arg(i));
     imgBar_->setAccessibleName(lbl_->Caption());

@@ -8,9 +8,14 @@
 namespace {
 constexpr int LegendGap = 20;
 constexpr int LegendLine = 24;
-constexpr int LegendWidth = 112; ///< swatch, gap and the longest caption
 constexpr int SwatchSize = 12;
 constexpr int SwatchGap = 8;
+
+int LegendWidth() {
+    const QString longest = QStringLiteral("Protein 100%");
+    return SwatchSize + SwatchGap + QFontMetrics(TheStyle().text).horizontalAdvance(longest);
+}
+
 } // namespace
 
 PieChart::PieChart(PieForm form, QWidget* parent)
@@ -50,7 +55,7 @@ void PieChart::ShowCaptions() {
 }
 
 QRect PieChart::Swatch(size_t i) const {
-    const int left = (width() - LegendWidth) / 2;
+    const int left = (width() - LegendWidth()) / 2;
     const int top = picture_->geometry().bottom() + 1 + LegendGap + int(i) * LegendLine;
     return {left, top + (LegendLine - SwatchSize) / 2, SwatchSize, SwatchSize};
 }

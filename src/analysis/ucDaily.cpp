@@ -35,7 +35,7 @@ constexpr int PanelWidth = 338;
 constexpr int PanelHeight = 476;
 constexpr int ButtonsHeight = 34;
 constexpr int PictureSize = 16;
-constexpr int LabelsWidth = 119;
+constexpr int LabelsWidth = 124;
 constexpr int RowCount = 28;
 constexpr int RowsMargin = 2; ///< below the last row
 

@@ -312,6 +312,12 @@ TEST_F(ucDailyTest, ValueTextsHaveNoThousandsSeparator) {
     EXPECT_EQ(Value(panel, 14)->Caption(), Leader + QStringLiteral("1005000 mg"));
 }
 
+TEST_F(ucDailyTest, EachNameHasRoomForItsText) {
+    ucDaily panel;
+    for (int row = 1; row <= 28; ++row)
+        EXPECT_LE(Name(panel, row)->sizeHint().width(), Name(panel, row)->width()) << row;
+}
+
 // ---- bars
 
 TEST_F(ucDailyTest, OnePercentOfTheTargetIsOnePixel) {
