@@ -14,38 +14,44 @@ build() {
 }
 
 helpers=()
-end_helpers() {
+notes=$(mktemp -d)
+clean_up() {
     [ ${#helpers[@]} -eq 0 ] || kill "${helpers[@]}" 2>/dev/null || true
+    wait
+    rm -rf "$notes"
+}
+
+# wait_for_line FILE PATTERN WHAT: until the helper has written what it was started for
+wait_for_line() {
+    for _ in {1..100}; do
+        grep -q "$2" "$1" 2>/dev/null && return
+        sleep 0.1
+    done
+    echo "$3 did not start." >&2
+    exit 1
 }
 
 start_display() {
-    local number
-    number=$(mktemp)
-    Xvfb -displayfd 3 -screen 0 1280x800x24 -nolisten tcp 3>"$number" 2>/dev/null &
+    Xvfb -displayfd 3 -screen 0 1280x800x24 -nolisten tcp 3>"$notes/display" 2>/dev/null &
     helpers+=($!)
-    for _ in {1..100}; do
-        [ -s "$number" ] && break
-        sleep 0.1
-    done
-    export DISPLAY=:$(cat "$number")
-    rm -f "$number"
-    [ "$DISPLAY" != : ] || { echo "The virtual display did not start." >&2; exit 1; }
+    wait_for_line "$notes/display" '[0-9]' "The virtual display"
+    export DISPLAY=:$(cat "$notes/display")
 }
 
 serve_display() {
-    local port=${HALVANE_VNC_PORT:-5900}
-    x11vnc -display "$DISPLAY" -localhost -rfbport "$port" -forever -shared -nopw -quiet \
-        >/dev/null 2>&1 &
+    x11vnc -display "$DISPLAY" -localhost -autoport "${HALVANE_VNC_PORT:-5900}" -forever -shared \
+        -nopw -quiet >"$notes/vnc" 2>/dev/null &
     helpers+=($!)
-    echo "There is no display here. Halvane's window is served over VNC on this machine alone:"
-    echo "point a viewer at 127.0.0.1:$port. Press Ctrl+C here to end it."
+    wait_for_line "$notes/vnc" '^PORT=' "The VNC server"
+    echo "There is no display here, so Halvane's window is served over VNC to this machine alone:"
+    echo "point a viewer at 127.0.0.1:$(sed -n 's/^PORT=//p' "$notes/vnc"). Ctrl+C ends it."
 }
 
+trap clean_up EXIT
 install_packages build
 build
 if [ -z "${DISPLAY:-}" ] && [ -z "${WAYLAND_DISPLAY:-}" ]; then
     install_packages display
-    trap end_helpers EXIT
     start_display
     serve_display
 fi
