@@ -43,6 +43,11 @@ ScrollPane::ScrollPane(QWidget* parent)
     connect(qApp, &QApplication::focusChanged, this, &ScrollPane::FollowFocus);
 }
 
+/// The focus leaves a child that is destroyed after this part of the object is gone.
+ScrollPane::~ScrollPane() {
+    disconnect(qApp, nullptr, this, nullptr);
+}
+
 int ScrollPane::FrameHeight() const {
     return box_->height();
 }

@@ -14,6 +14,7 @@ class ScrollPane : public QWidget {
 
 public:
     explicit ScrollPane(QWidget* parent = nullptr);
+    ~ScrollPane() override;
 
     QWidget* picResultsBox() const { return box_; }
     QWidget* picResultsPane() const { return pane_; }
