@@ -1,0 +1,180 @@
+#include "intake/AtePane.h"
+
+#include "intake/ucAte.h"
+#include "runtime/Convert.h"
+#include "toolkit/Twips.h"
+#include "toolkit/ucButtonA.h"
+#include "toolkit/ucScroll.h"
+
+#include <QApplication>
+
+namespace {
+
+constexpr int headingEdge = -15; // twips: the edges of headings lie outside the pane
+
+} // namespace
+
+AtePane::AtePane(QWidget* parent)
+    : ScrollPane(parent) {
+    picResultsPane()->installEventFilter(this);
+    picResultsBox()->installEventFilter(this);
+    ucAte* pattern = MakeLine();
+    pattern->setObjectName(QStringLiteral("ucAte0"));
+}
+
+AtePane::Redraw::Redraw(AtePane& pane, bool resetPane)
+    : pane_(pane) {
+    pane_.Begin(resetPane);
+}
+
+AtePane::Redraw::~Redraw() {
+    pane_.End();
+}
+
+/// Painting is held back rather than the pane hidden: hiding would take the focus out of it.
+void AtePane::Begin(bool resetPane) {
+    picResultsPane()->setUpdatesEnabled(false);
+    used_ = 0;
+    runningHeight_ = 0;
+    headings_.clear();
+    chain_.clear();
+    if (resetPane)
+        ResetPane();
+}
+
+void AtePane::End() {
+    KeepFocus();
+    Release(used_ + 1);
+    SizePane();
+    ChainFocus();
+    picResultsPane()->setUpdatesEnabled(true);
+}
+
+void AtePane::ClearList() {
+    used_ = 0;
+    Release(1);
+}
+
+void AtePane::Release(int from) {
+    for (int i = from; i < rows_.size() && !rows_[i]->isHidden(); ++i) {
+        rows_[i]->hide();
+        rows_[i]->setObjectName(QString());
+    }
+}
+
+ucAte* AtePane::MakeLine() {
+    auto* line = new ucAte(picResultsPane());
+    line->hide();
+    connect(line, &ucAte::RemoveFood, this, &AtePane::RemoveFood);
+    connect(line, &ucAte::MouseMove, this, &AtePane::LineMove);
+    rows_ << line;
+    return line;
+}
+
+ucAte* AtePane::NextLine() {
+    ++used_;
+    ucAte* line = used_ < rows_.size() ? rows_[used_] : MakeLine();
+    if (line->isHidden()) {
+        line->setObjectName("ucAte" + QString::number(used_));
+        line->show();
+    }
+    return line;
+}
+
+void AtePane::showFood(const QString& FoodName, const QString& Serving, qint32 ID, double QTY,
+                       int mostLines) {
+    if (mostLines != Unlimited && used_ >= mostLines)
+        return;
+    ucAte* line = NextLine();
+    line->SetFoodName(FoodName);
+    line->SetServ(Serving);
+    line->SetQTY("(x " + DecimalText(QTY) + u')');
+    line->SetID(QString::number(ID));
+    line->move(0, Twips::ToPixels(runningHeight_));
+    chain_ << line->imgTrash();
+    AddHeight(line);
+}
+
+void AtePane::PlaceHeading(QWidget* heading) {
+    const int top = runningHeight_ == 0 ? headingEdge : runningHeight_;
+    heading->move(Twips::ToPixels(headingEdge), Twips::ToPixels(top));
+    heading->show();
+    headings_ << heading;
+    chain_ << heading;
+    AddHeight(heading);
+}
+
+void AtePane::AddBlankLine() {
+    AddHeight(rows_.first());
+}
+
+void AtePane::AddHeight(const QWidget* placed) {
+    runningHeight_ += Twips::FromPixels(placed->height());
+}
+
+/// A list that fits stands at the top without a bar, and has the bar's room as well.
+void AtePane::SizePane() {
+    const int height = Twips::ToPixels(runningHeight_);
+    const bool fits = FrameHeight() >= height;
+    if (fits && vsResultsPane()->Value() != 0)
+        ResetPane();
+    picResultsPane()->resize(fits ? picResultsBox()->width() : PaneWidth(),
+                             qMax(height, FrameHeight()));
+    FitWidths();
+    if (fits)
+        HideBar();
+    else
+        ShowBar();
+}
+
+void AtePane::FitWidths() {
+    const int width = picResultsPane()->width();
+    for (QWidget* heading : std::as_const(headings_))
+        heading->resize(width, heading->height());
+    for (int i = 1; i <= used_; ++i)
+        rows_[i]->resize(width, rows_[i]->height());
+}
+
+/// The line that takes the place of a removed one takes the focus over; where there is none, the
+/// last one does.
+void AtePane::KeepFocus() {
+    auto* trash = qobject_cast<ucButtonA*>(QApplication::focusWidget());
+    if (!trash || rows_.indexOf(static_cast<ucAte*>(trash->parentWidget())) <= used_)
+        return;
+    QWidget* next = used_ > 0 ? rows_[used_]->imgTrash() : chain_.value(0);
+    if (next)
+        next->setFocus(trash->FocusShown() ? Qt::TabFocusReason : Qt::MouseFocusReason);
+}
+
+void AtePane::ChainFocus() {
+    if (chain_ == lastChain_)
+        return;
+    QWidget* before = picResultsPane();
+    for (QWidget* stop : std::as_const(chain_)) {
+        setTabOrder(before, stop);
+        before = stop;
+    }
+    lastChain_ = chain_;
+}
+
+void AtePane::resizeEvent(QResizeEvent* event) {
+    ScrollPane::resizeEvent(event);
+    SizePane();
+}
+
+bool AtePane::eventFilter(QObject* watched, QEvent* event) {
+    const auto* mouse = static_cast<const QMouseEvent*>(event);
+    if (event->type() == QEvent::MouseMove) {
+        Q_EMIT PaneMove(mouse);
+        return true;
+    }
+    if (event->type() == QEvent::MouseButtonPress)
+        pressed_ = mouse->button() == Qt::LeftButton;
+    if (event->type() != QEvent::MouseButtonRelease)
+        return ScrollPane::eventFilter(watched, event);
+    const bool inside =
+        static_cast<QWidget*>(watched)->rect().contains(mouse->position().toPoint());
+    if (std::exchange(pressed_, false) && inside)
+        Q_EMIT Click();
+    return true;
+}

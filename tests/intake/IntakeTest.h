@@ -1,0 +1,27 @@
+#pragma once
+
+#include "foods/ScaledFood.h"
+#include "intake/ucAte.h"
+#include "support/HalvaneTest.h"
+
+#include <QDate>
+
+/// A user with an empty log and both databases open; the chosen day is 4 March 2002.
+class IntakeTest : public HalvaneTest {
+protected:
+    void SetUp() override;
+
+    static const QDate day;
+
+    /// A food of 31 amounts, of which `Calories` is given and all others are 1.
+    static ScaledFood Scaled(const QString& name, double calories = 100, double quantity = 1,
+                             const QString& serving = QStringLiteral("1 cup"));
+    /// Writes a row of the log with plain SQL.
+    void Log(const QString& name, const QString& meal, QDate on = day, double calories = 100,
+             double quantity = 1, const QString& serving = QStringLiteral("1 cup"));
+    int LogCount(const QString& condition = QStringLiteral("1"));
+
+    /// The lines under `root` from top to bottom, as they can be seen.
+    static QList<ucAte*> Lines(const QWidget* root);
+    static QStringList Names(const QWidget* root);
+};
