@@ -2,7 +2,19 @@
 
 #include "toolkit/Screen.h"
 
-/// The screen "Daily Details": the chosen day's foods, totals and weight.
+class DayCalendar;
+class ucAALBL;
+class ucBox;
+class ucButton;
+class ucButtonA;
+class ucDaily;
+class ucMyFood;
+class QLabel;
+class WeightField;
+
+/// The screen "Daily Details": the chosen day's foods, its totals against the targets, its weight,
+/// and a calendar to choose another day. The day shown is the process-wide chosen day, which stays
+/// when the screen closes. The screen owns both ends of what its parts tell each other.
 class frmDay : public Screen {
     Q_OBJECT
 
@@ -10,7 +22,53 @@ public:
     explicit frmDay(QWidget* parent = nullptr);
 
     void BeforeShow() override; ///< passes the chosen day to the list and the panel
+    /// Loads the day's weight. A weight there is becomes the current user's, whatever day it is of.
     void DoWinInit() override;
     void AllOff(const QString& except) override;
     void buildDate();
+
+protected:
+    void resizeEvent(QResizeEvent*) override;
+    void hideEvent(QHideEvent*) override;
+    void keyPressEvent(QKeyEvent*) override;
+
+private:
+    void AddDateLine();
+    void AddWeightField();
+    void AddFoodBox();
+    void AddPanel();
+    void AddButtons();
+    ucButton* AddButton(const QString& name, const QString& caption, void (frmDay::*onClick)());
+    void AddCalendar();
+
+    void PlaceDateLine();
+    void PlaceBoxes();
+    void PlaceButtons();
+
+    void PassDay();
+    void PickDay(QDate day);
+    void OpenCalendar();
+    void CloseCalendar();
+    void ChooseFoods(int meal);
+    void EatFoods() { ChooseFoods(-1); }
+    void ClearFoods();
+    void GoHome();
+    void OfferHome();
+    void SaveWeight();
+    void TakeWeight(double weight);
+    bool HasMoved(double x, double y);
+
+    ucAALBL* aadate_;
+    ucButtonA* cmdCal_;
+    QLabel* lblWeight_;
+    WeightField* txtWeight_;
+    ucBox* box_;
+    ucMyFood* myFood_;
+    ucDaily* daily_;
+    ucButton* cmdAddFoods_;
+    ucButton* cmdClear_;
+    ucButton* cmdDone_;
+    DayCalendar* picCal_;
+    qint32 lastX_ = -1;
+    qint32 lastY_ = -1;
 };

@@ -1,0 +1,72 @@
+#include "intake/DayCalendar.h"
+
+#include "toolkit/Style.h"
+
+#include <QApplication>
+#include <QCalendarWidget>
+#include <QTextCharFormat>
+
+DayCalendar::DayCalendar(QWidget* parent)
+    : ucBox(QStringLiteral("Select a date"), parent)
+    , smCal_(new QCalendarWidget(this)) {
+    setObjectName(QStringLiteral("picCal"));
+    setFocusPolicy(Qt::ClickFocus);
+    smCal_->setObjectName(QStringLiteral("smCal"));
+    smCal_->setAccessibleName(QStringLiteral("Select a date"));
+    DressCalendar();
+    connect(smCal_, &QCalendarWidget::clicked, this, &DayCalendar::OnPick);
+    connect(smCal_, &QCalendarWidget::activated, this, &DayCalendar::OnPick);
+    connect(qApp, &QApplication::focusChanged, this, &DayCalendar::FollowFocus);
+    hide();
+}
+
+/// The focus leaves a child that is destroyed after this part of the object is gone.
+DayCalendar::~DayCalendar() {
+    disconnect(qApp, nullptr, this, nullptr);
+}
+
+void DayCalendar::DressCalendar() {
+    const Style& style = TheStyle();
+    smCal_->setLocale(QLocale(QLocale::English, QLocale::UnitedStates));
+    smCal_->setFirstDayOfWeek(Qt::Sunday);
+    smCal_->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
+    QTextCharFormat heads;
+    heads.setForeground(style.windowInk);
+    heads.setBackground(style.navigation);
+    smCal_->setHeaderTextFormat(heads);
+    QTextCharFormat days;
+    days.setForeground(style.ink);
+    smCal_->setWeekdayTextFormat(Qt::Saturday, days);
+    smCal_->setWeekdayTextFormat(Qt::Sunday, days);
+}
+
+QSize DayCalendar::sizeHint() const {
+    return smCal_->sizeHint() + QSize(2, TheStyle().headerHeight + 2);
+}
+
+void DayCalendar::resizeEvent(QResizeEvent* event) {
+    ucBox::resizeEvent(event);
+    smCal_->setGeometry(Inner());
+}
+
+void DayCalendar::Open(QDate day) {
+    show();
+    raise();
+    smCal_->setFocus();
+    smCal_->setCurrentPage(day.year(), day.month());
+    smCal_->setSelectedDate(day);
+}
+
+/// A click can come with an activation: the first of the two counts.
+void DayCalendar::OnPick(QDate day) {
+    if (isHidden())
+        return;
+    hide();
+    Q_EMIT Picked(day);
+}
+
+/// Another program in front leaves the focus where it is.
+void DayCalendar::FollowFocus(QWidget*, QWidget* now) {
+    if (now && now != this && !isAncestorOf(now))
+        hide();
+}

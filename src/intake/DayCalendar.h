@@ -1,0 +1,33 @@
+#pragma once
+
+#include "toolkit/ucBox.h"
+
+#include <QDate>
+
+class QCalendarWidget;
+
+/// The panel `picCal` "Select a date" with the month calendar `smCal` in it. It is hidden unless
+/// opened, and hides where the focus goes elsewhere.
+class DayCalendar : public ucBox {
+    Q_OBJECT
+
+public:
+    explicit DayCalendar(QWidget* parent = nullptr);
+    ~DayCalendar() override;
+
+    void Open(QDate day); ///< shows that day and takes the focus
+    QSize sizeHint() const override;
+
+Q_SIGNALS:
+    void Picked(QDate day);
+
+protected:
+    void resizeEvent(QResizeEvent*) override;
+
+private:
+    void DressCalendar();
+    void OnPick(QDate day);
+    void FollowFocus(QWidget* old, QWidget* now);
+
+    QCalendarWidget* smCal_;
+};
