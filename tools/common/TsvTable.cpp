@@ -11,12 +11,11 @@ QString Unquoted(const QString& field) {
 }
 
 QString Quoted(const QString& field) {
-    const bool asItStands = !field.startsWith(u'"') && field == field.trimmed();
-    const QString text = asItStands ? field : QString(u'"' + field + u'"');
     if (field.contains(u'\t') || field.contains(u'\n'))
         throw RuntimeError(ErrorNumber::TypeMismatch,
                            u"a tab or line break within \"" + field + u'"');
-    return text;
+    const bool asItStands = !field.startsWith(u'"') && field == field.trimmed();
+    return asItStands ? field : QString(u'"' + field + u'"');
 }
 
 QStringList Fields(const QString& line) {
