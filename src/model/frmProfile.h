@@ -2,10 +2,20 @@
 
 #include "toolkit/Screen.h"
 
+#include <QPoint>
+
+class ProfileBasics;
+class ProfileTargets;
+class Recordset;
+class User;
+class ucButton;
+class ucTitleFlat;
+
 /// Where a person's profile is created and edited: the first user modally, one more user, or an
-/// edit in the nest.
+/// edit in the nest. The page of targets lies under `picCover`, which holds the basic page.
 class frmProfile : public Screen {
     Q_OBJECT
+    Q_PROPERTY(QString Tag READ Tag) ///< "0" while `picCover` covers the targets, else "1"
 
 public:
     explicit frmProfile(QWidget* parent = nullptr);
@@ -16,4 +26,47 @@ public:
 
     bool SaveNewUser(); ///< True if the profile was saved
     void SaveChanges();
+
+    QString Tag() const { return tag_; }
+    void DoWinInit() override;
+    void AllOff(const QString& except) override;
+
+protected:
+    void closeEvent(QCloseEvent*) override;
+    void keyPressEvent(QKeyEvent*) override;
+    void mousePressEvent(QMouseEvent*) override;
+    void mouseMoveEvent(QMouseEvent*) override;
+    void mouseReleaseEvent(QMouseEvent*) override;
+
+private:
+    void MakePages();
+    void MakeButtons();
+    ucButton* MakeButton(const char* name, const char* caption, void (frmProfile::*pressed)());
+    void LayOut();
+    void ShowModally();
+    void LoadUser(qint32 uid);
+    void cmdAdvanced_Click();
+    void cmdSave_Click();
+    void cmdCancel_Click();
+    void Cover(bool covered);
+    bool PassesTests();
+    bool IsTaken(const QString& statement, const char* verb);
+    User EnteredUser() const;
+    void WritePerson(Recordset& row) const;
+    qint32 AppendProfile(const User& user) const;
+    void Leave();
+
+    ucTitleFlat* title_;
+    ProfileBasics* basics_ = nullptr;
+    ProfileTargets* targets_ = nullptr;
+    ucButton* cmdAdvanced_ = nullptr;
+    ucButton* cmdSave_ = nullptr;
+    ucButton* cmdCancel_ = nullptr;
+    QString tag_;
+    bool newUser_ = false;
+    bool firstUser_ = false;
+    bool leaving_ = false; ///< saved, or the process is ending: the form may close
+    qint32 uid_ = -1;
+    QPoint grip_; ///< where the form is held while it is dragged
+    bool dragging_ = false;
 };
