@@ -14,11 +14,10 @@
 #include <span>
 
 namespace {
-constexpr int numberWidth = 64;
-constexpr int captionWidth = 112;
-constexpr int rowGap = 16;
+constexpr int numberWidth = 56;
+constexpr int captionWidth = 100;
+constexpr int rowGap = 22;
 constexpr int margin = 16;
-constexpr int noteIndent = 28;
 constexpr int lastColumn = 5; // takes the room that is left over
 constexpr int inchesInAFoot = 12;
 
@@ -36,6 +35,13 @@ constexpr Choice activities[] = {
 
 QString Text(const char* text) {
     return QString::fromUtf8(text);
+}
+
+/// A box that takes the width its column gives it, so that columns stand equally wide.
+ucBox* MakeBox(QWidget* parent, const char* caption) {
+    auto* box = new ucBox(Text(caption), parent);
+    box->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    return box;
 }
 
 /// Room for the contents of a box, below its header.
@@ -79,6 +85,20 @@ void AddCaptions(QGridLayout* grid) {
     }
 }
 
+/// What the figures are for, at the foot of the box.
+void AddNote(QGridLayout* grid) {
+    QLabel* note = MakeLabel(
+        grid->parentWidget(), QStringLiteral("lblNote"),
+        QStringLiteral("Your recommended daily intake is worked out from these figures when the "
+                       "profile is created. After that, your weight adjusts it if the preferences "
+                       "say so."),
+        TextRole::Quiet);
+    note->setWordWrap(true);
+    const int foot = grid->rowCount();
+    grid->setRowStretch(foot, 1);
+    grid->addWidget(note, foot, 0, 1, lastColumn + 1, Qt::AlignBottom);
+}
+
 /// A click on one of the radios clears the others.
 void Group(std::span<ucRadio* const> radios) {
     for (ucRadio* chosen : radios)
@@ -100,11 +120,11 @@ void AddRadios(ucBox* box, const QString& stem, std::span<const Choice> choices,
         if (*choices[i].note) {
             QLabel* note = MakeLabel(box, u"lbl" + radios[i]->objectName(), Text(choices[i].note),
                                      TextRole::Quiet);
-            note->setIndent(noteIndent);
+            note->setIndent(radios[i]->layoutRects().caption.left());
             column->addWidget(note);
             radios[i]->setAccessibleDescription(note->text());
         }
-        column->addSpacing(rowGap / 2);
+        column->addSpacing(TheStyle().boxGap);
     }
     column->addStretch();
     Group(radios);
@@ -122,19 +142,18 @@ ProfileBasics::ProfileBasics(QWidget* parent)
     : QWidget(parent) {
     setObjectName(QStringLiteral("picCover"));
     setMouseTracking(true);
-    auto* columns = new QGridLayout(this);
+    auto* columns = new QHBoxLayout(this);
     columns->setContentsMargins(0, 0, 0, 0);
     columns->setSpacing(TheStyle().boxGap);
-    columns->addWidget(MakePersonBox(), 0, 0, 2, 1);
-    columns->addWidget(MakeGenderBox(), 0, 1);
-    columns->addWidget(MakeActivityBox(), 1, 1);
-    columns->setColumnStretch(0, 1);
-    columns->setColumnStretch(1, 1);
-    columns->setRowStretch(1, 1);
+    columns->addWidget(MakePersonBox(), 1);
+    auto* choices = new QVBoxLayout;
+    choices->addWidget(MakeGenderBox());
+    choices->addWidget(MakeActivityBox(), 1);
+    columns->addLayout(choices, 1);
 }
 
 QWidget* ProfileBasics::MakePersonBox() {
-    auto* box = new ucBox(QStringLiteral("Profile"), this);
+    auto* box = MakeBox(this, "Profile");
     auto* grid = LayOut<QGridLayout>(box);
     grid->setHorizontalSpacing(TheStyle().boxGap);
     grid->setVerticalSpacing(rowGap);
@@ -152,18 +171,18 @@ QWidget* ProfileBasics::MakePersonBox() {
                            "Enter your current weight in pounds", "Pounds");
     txtDWeight_ = AddNumber(grid, {1, 4}, "txtDWeight", "Desired Weight",
                             "Enter your desired weight in pounds", "Pounds");
-    grid->setRowStretch(grid->rowCount(), 1);
+    AddNote(grid);
     return box;
 }
 
 QWidget* ProfileBasics::MakeGenderBox() {
-    auto* box = new ucBox(QStringLiteral("Gender"), this);
+    auto* box = MakeBox(this, "Gender");
     AddRadios(box, QStringLiteral("opGender"), genders, opGender_);
     return box;
 }
 
 QWidget* ProfileBasics::MakeActivityBox() {
-    auto* box = new ucBox(QStringLiteral("Activity Level"), this);
+    auto* box = MakeBox(this, "Activity Level");
     AddRadios(box, QStringLiteral("opAct"), activities, opAct_);
     return box;
 }
@@ -186,7 +205,7 @@ void ProfileBasics::Fill(const Recordset& row) {
 }
 
 void ProfileBasics::FocusFirst() {
-    txtUserName_->setFocus();
+    txtUserName_->setFocus(Qt::TabFocusReason);
 }
 
 QString ProfileBasics::FirstProblem() const {

@@ -12,9 +12,9 @@
 #include <cmath>
 
 namespace {
-constexpr int numberWidth = 72;
+constexpr int numberWidth = 66;
 constexpr int margin = 12;
-constexpr int longestGroup = 11;
+constexpr int lineGap = 15; // the longest group fills its box
 
 using enum Nutrient;
 
@@ -43,17 +43,13 @@ ProfileTargets::ProfileTargets(QWidget* parent)
     row->addWidget(MakeGroup("Vitamins", vitamins), 1);
 }
 
-/// All groups have as many lines, so that they stand level.
 QWidget* ProfileTargets::MakeGroup(const char* caption, std::span<const Nutrient> nutrients) {
     auto* box = new ucBox(QString::fromLatin1(caption), this);
+    box->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     auto* grid = new QGridLayout(box);
     grid->setContentsMargins(margin, TheStyle().headerHeight + margin, margin, margin);
-    grid->setVerticalSpacing(TheStyle().groupGap);
+    grid->setVerticalSpacing(lineGap);
     grid->setColumnStretch(0, 1);
-    for (int line = 0; line < longestGroup; ++line) {
-        grid->setRowMinimumHeight(line, TheStyle().fieldHeight);
-        grid->setRowStretch(line, 1);
-    }
     int line = 0;
     for (Nutrient id : nutrients) {
         const NutrientInfo& nutrient = Info(id);
@@ -61,6 +57,7 @@ QWidget* ProfileTargets::MakeGroup(const char* caption, std::span<const Nutrient
         grid->addWidget(MakeLabel(box, label, QString::fromLatin1(nutrient.editCaption)), line, 0);
         grid->addWidget(MakeField(box, nutrient), line++, 1);
     }
+    grid->setRowStretch(line, 1);
     return box;
 }
 
@@ -75,8 +72,11 @@ QLineEdit* ProfileTargets::MakeField(QWidget* box, const NutrientInfo& nutrient)
 }
 
 void ProfileTargets::Fill(const Recordset& row) {
-    for (Nutrient id : CanonicalOrder())
-        fields_[static_cast<size_t>(id)]->setText(row[Column(Info(id))].Text());
+    for (Nutrient id : CanonicalOrder()) {
+        QLineEdit* field = fields_[static_cast<size_t>(id)];
+        field->setText(row[Column(Info(id))].Text());
+        field->setCursorPosition(0);
+    }
 }
 
 void ProfileTargets::Write(Recordset& row) const {

@@ -17,6 +17,7 @@
 #include <QEventLoop>
 #include <QGridLayout>
 #include <QKeyEvent>
+#include <QPainter>
 #include <QPointer>
 #include <QScreen>
 
@@ -276,6 +277,16 @@ void frmProfile::SaveChanges() {
         return;
     User::Current().GetUserProfile(uid_);
     RecalcTargets();
+}
+
+/// Where it is a window of its own, an edge sets it off from what lies below.
+void frmProfile::paintEvent(QPaintEvent* event) {
+    Screen::paintEvent(event);
+    if (!isWindow())
+        return;
+    QPainter painter(this);
+    painter.setPen(TheStyle().frame);
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 
 /// The first user cannot do without a profile: closing the window asks like Cancel.

@@ -33,6 +33,7 @@ public:
 
 protected:
     void closeEvent(QCloseEvent*) override;
+    void paintEvent(QPaintEvent*) override;
     void keyPressEvent(QKeyEvent*) override;
     void mousePressEvent(QMouseEvent*) override;
     void mouseMoveEvent(QMouseEvent*) override;
