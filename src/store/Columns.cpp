@@ -117,7 +117,8 @@ int Columns::Find(QStringView name) const {
     const size_t hash = NameHash(name);
     for (int i = 0; i < Count(); ++i) {
         const Column& column = columns_[static_cast<size_t>(i)];
-        if (column.hash == hash && name.compare(column.name, Qt::CaseInsensitive) == 0)
+        if (column.hash == hash &&
+            (name == column.name || name.compare(column.name, Qt::CaseInsensitive) == 0))
             return i;
     }
     return -1;
@@ -147,6 +148,8 @@ QVariant Columns::Read(int position, const QVariant& stored) const {
     const Type type = columns_[static_cast<size_t>(position)].type;
     if (type == Type::Boolean && IsNumber(stored))
         return stored.toDouble() != 0;
+    if (type == Type::Real && IsNumber(stored)) // a whole number may come back as one
+        return stored.toDouble();
     if (type == Type::Date && stored.typeId() == QMetaType::QString) {
         const QDate date = QDate::fromString(stored.toString(), Qt::ISODate);
         return date.isValid() ? QVariant(date) : stored;

@@ -68,15 +68,17 @@ QString AddHandle(Tokens& tokens) {
     return NameOf(tokens[3]);
 }
 
+bool IsCompared(const Tokens& tokens, size_t at) {
+    return tokens[at + 1].kind == Kind::Comparison ||
+           (at > 0 && tokens[at - 1].kind == Kind::Comparison);
+}
+
 /// The columns fold A to Z alone, as any tool can; a comparison with a text folds every letter.
 void CollateTexts(Tokens& tokens) {
-    for (size_t i = 1; i + 1 < tokens.size(); ++i) {
-        const bool compared =
-            tokens[i - 1].kind == Kind::Comparison || tokens[i + 1].kind == Kind::Comparison;
-        if (tokens[i].kind == Kind::Text && compared)
-            tokens[i].written =
-                tokens[i].text + u" COLLATE " + QLatin1String(TextFunctions::Collation);
-    }
+    const QString collate = u" COLLATE " + QLatin1String(TextFunctions::Collation) + u')';
+    for (size_t i = 0; i + 1 < tokens.size(); ++i)
+        if (tokens[i].kind == Kind::Text && IsCompared(tokens, i))
+            tokens[i].written = u'(' + tokens[i].text + collate;
 }
 
 void AddLimit(Tokens& tokens, const QString& count) {

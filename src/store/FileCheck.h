@@ -8,12 +8,10 @@ namespace FileCheck {
 /// Whether changes wait beside the file in a journal, as a process leaves them that was killed.
 bool HasJournal(const QString& path);
 
-/// The header: the file is there, a database, of that kind and of no newer version.
-void Header(const QString& path, DatabaseKind kind);
-
-/// The inside: whole in length, its tables readable, of no newer version.
-void Inside(SQLite::Database& database, const QString& path);
-
-/// Both, with the file opened for reading alone where no journal belongs to it.
+/// The file is there, a database, of that kind, of no newer version. Where no journal belongs to it
+/// also: whole in length, its tables readable.
 void Untouched(const QString& path, DatabaseKind kind);
+
+/// The tables are readable, and of no newer version.
+void Inside(SQLite::Database& database, const QString& path);
 } // namespace FileCheck

@@ -3,22 +3,22 @@
 #include "store/TextCompare.h"
 
 #include <algorithm>
+#include <cstring>
 
 namespace {
 // Behind the last character of Unicode, so that no text can hold them.
 constexpr char32_t AnyRun = 0x110000;
 constexpr char32_t AnyOne = 0x110001;
 
-constexpr std::array<unsigned char, 256> FoldTable() {
-    std::array<unsigned char, 256> table{};
-    for (unsigned i = 0; i < 256; ++i)
-        table[i] = static_cast<unsigned char>(i >= 'A' && i <= 'Z' ? i + 32 : i);
-    return table;
-}
-constexpr auto Folded = FoldTable();
+/// The characters of names, the most frequent first. What is missing here is rarer still.
+constexpr std::string_view ByFrequency = "e anortiscldhupwm,fkgbyv";
 
-unsigned char Fold(char byte) {
-    return Folded[static_cast<unsigned char>(byte)];
+char Fold(char byte) {
+    return byte >= 'A' && byte <= 'Z' ? static_cast<char>(byte + 32) : byte;
+}
+
+char Upper(char byte) {
+    return byte >= 'a' && byte <= 'z' ? static_cast<char>(byte - 32) : byte;
 }
 
 char32_t TakeOfPattern(std::string_view& pattern) {
@@ -31,11 +31,6 @@ bool IsPlain(char32_t character) {
     return character < 0x80;
 }
 
-bool IsAscii(std::string_view text) {
-    return std::all_of(text.begin(), text.end(),
-                       [](char byte) { return static_cast<unsigned char>(byte) < 0x80; });
-}
-
 /// The case-folded text, in a buffer that is used again by the next call.
 std::u32string_view FoldedText(std::string_view text) {
     thread_local std::u32string buffer;
@@ -44,50 +39,70 @@ std::u32string_view FoldedText(std::string_view text) {
         buffer.push_back(TextCompare::TakeFolded(text));
     return buffer;
 }
+
+size_t RarestPlace(std::string_view word) {
+    const auto rarer = [](char a, char b) { return ByFrequency.find(a) < ByFrequency.find(b); };
+    return static_cast<size_t>(std::max_element(word.begin(), word.end(), rarer) - word.begin());
+}
 } // namespace
 
 LikePattern::LikePattern(std::string_view pattern) {
-    while (!pattern.empty())
-        folded_.push_back(TakeOfPattern(pattern));
-    PrepareWord();
+    while (!pattern.empty()) {
+        const char32_t next = TakeOfPattern(pattern);
+        if (next != AnyRun || folded_.empty() || folded_.back() != AnyRun)
+            folded_.push_back(next);
+    }
+    TakeWord();
 }
 
-void LikePattern::PrepareWord() {
-    if (folded_.size() < 3 || folded_.front() != AnyRun || folded_.back() != AnyRun)
-        return;
-    const auto inner = std::u32string_view(folded_).substr(1, folded_.size() - 2);
-    if (!std::all_of(inner.begin(), inner.end(), IsPlain))
-        return;
-    word_.assign(inner.begin(), inner.end());
-    const size_t last = word_.size() - 1;
-    skip_.fill(static_cast<std::uint8_t>(std::min<size_t>(word_.size(), 255)));
-    for (size_t i = 0; i < last; ++i) {
-        const auto step = static_cast<std::uint8_t>(std::min<size_t>(last - i, 255));
-        const auto letter = static_cast<unsigned char>(word_[i]);
-        skip_[letter] = step;
-        skip_[letter >= 'a' && letter <= 'z' ? letter - 32U : letter] = step;
+void LikePattern::TakeWord() {
+    for (auto at = folded_.begin(); at != folded_.end();) {
+        const auto first = std::find_if(at, folded_.end(), IsPlain);
+        at = std::find_if_not(first, folded_.end(), IsPlain);
+        if (static_cast<size_t>(at - first) > word_.size())
+            word_.assign(first, at);
     }
+    anchor_ = RarestPlace(word_);
+    wordAlone_ =
+        folded_.size() == word_.size() + 2 && folded_.front() == AnyRun && folded_.back() == AnyRun;
+    foldsToWord_ = word_.find_first_of("ks") != std::string::npos;
 }
 
 bool LikePattern::Matches(std::string_view text) const {
-    if (word_.empty())
-        return MatchesFolded(FoldedText(text));
-    // A few letters beyond ASCII fold to one within, so that a text with any is looked at in full.
-    return FindWord(text) || (!IsAscii(text) && MatchesFolded(FoldedText(text)));
+    if (folded_.size() == 1 && folded_.front() == AnyRun)
+        return true;
+    const bool found = FindWord(text);
+    if (found && wordAlone_)
+        return true;
+    return (found || MayFoldToWord(text)) && MatchesFolded(FoldedText(text));
 }
 
 bool LikePattern::FindWord(std::string_view text) const {
-    const size_t length = word_.size();
-    const auto tail = static_cast<unsigned char>(word_.back());
-    for (size_t end = length; end <= text.size();) {
-        const char at = text[end - 1];
-        if (Fold(at) == tail &&
-            std::equal(word_.begin(), word_.end(), text.begin() + static_cast<long>(end - length),
-                       [](char a, char b) { return static_cast<unsigned char>(a) == Fold(b); }))
+    if (word_.empty())
+        return true;
+    const char anchor = word_[anchor_];
+    return FindWordAt(text, anchor) || (Upper(anchor) != anchor && FindWordAt(text, Upper(anchor)));
+}
+
+bool LikePattern::FindWordAt(std::string_view text, char anchor) const {
+    const size_t behind = word_.size() - anchor_; // from the anchor to the end of the word
+    for (size_t at = text.find(anchor, anchor_); at != std::string_view::npos;
+         at = text.find(anchor, at + 1)) {
+        if (text.size() - at < behind)
+            return false;
+        const std::string_view candidate = text.substr(at - anchor_, word_.size());
+        if (std::equal(word_.begin(), word_.end(), candidate.begin(),
+                       [](char letter, char byte) { return letter == Fold(byte); }))
             return true;
-        end += skip_[static_cast<unsigned char>(at)];
     }
     return false;
+}
+
+/// Of all letters beyond ASCII only the long s and the kelvin sign fold to one within; these are
+/// the bytes that they start with.
+bool LikePattern::MayFoldToWord(std::string_view text) const {
+    return foldsToWord_ && (text.find('\xC5') != std::string_view::npos ||
+                            text.find('\xE2') != std::string_view::npos);
 }
 
 bool LikePattern::MatchesFolded(std::u32string_view text) const {

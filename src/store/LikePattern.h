@@ -1,23 +1,26 @@
 #pragma once
 
-#include <array>
-#include <cstdint>
 #include <string>
 #include <string_view>
 
-/// A LIKE pattern made ready to be held against many texts. The common pattern, a word of plain
-/// letters between two `%`, is searched for with skips and without decoding the text.
+/// A LIKE pattern made ready to be held against many texts. The longest run of plain letters in it
+/// is looked for first, without decoding the text; for the common pattern, a word between two `%`,
+/// that is all.
 class LikePattern {
 public:
     explicit LikePattern(std::string_view pattern);
     bool Matches(std::string_view text) const;
 
 private:
-    void PrepareWord();
+    void TakeWord();
     bool FindWord(std::string_view text) const;
+    bool FindWordAt(std::string_view text, char anchor) const;
+    bool MayFoldToWord(std::string_view text) const;
     bool MatchesFolded(std::u32string_view text) const;
 
-    std::u32string folded_; ///< the pattern case-folded, with marks for its wildcards
-    std::string word_;      ///< the plain word between two `%`; empty where there is none
-    std::array<std::uint8_t, 256> skip_{};
+    std::u32string folded_;    ///< the pattern case-folded, with marks for its wildcards
+    std::string word_;         ///< its longest run of plain characters
+    size_t anchor_ = 0;        ///< place of the character of the word that texts hold least
+    bool wordAlone_ = false;   ///< nothing but the word between two `%`
+    bool foldsToWord_ = false; ///< the word holds a letter that one beyond ASCII folds to
 };

@@ -33,15 +33,19 @@ private:
     QVariant value_;
 };
 
-/// A result set: exactly one statement, opened, walked and closed inside one routine.
-/// A static set is a snapshot. A set opened with a lock other than ReadOnly can append, change and
-/// delete rows; a change or deletion touches exactly the current row. A read-only set is refused
-/// where its statement would write; ATTACH, PRAGMA and schema changes are refused always, and so is
-/// anything behind the first statement, before it runs. Columns are found by name without regard to
-/// case, or by position from 0. Values written are converted to the column's declared type (whole
-/// numbers round half to even). Only Update writes: what was set is dropped by a move or a close.
-/// Reading or changing where there is no current row fails with 3021, an unknown column with 3265,
-/// changing rows that are not those of one table (`SELECT * FROM table ...`) with 3251.
+/// A result set: exactly one statement, opened, walked and closed inside one routine. Its rows are
+/// read when it is opened: what happens to the table afterwards does not change them.
+///
+/// A set opened with a lock other than ReadOnly on `SELECT * FROM table ...` can append, change and
+/// delete rows; each touches exactly the current row, and only Update writes: what was set is
+/// dropped by a move or a close. Values written are converted to the column's declared type (whole
+/// numbers round half to even). Under every lock the statement itself only reads: one that would
+/// write, ATTACH, PRAGMA, transactions and schema changes are refused, and so is anything behind
+/// the first statement, before it runs.
+///
+/// Columns are found by name without regard to case, or by position from 0. Reading or changing
+/// where there is no current row fails with 3021, an unknown column with 3265, changing rows that
+/// are not those of one table with 3251.
 class Recordset {
 public:
     Recordset();

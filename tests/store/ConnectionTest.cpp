@@ -1,0 +1,406 @@
+#include "StoreTest.h"
+
+#include "store/Schema.h"
+#include "store/StoreError.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <SQLiteCpp/SQLiteCpp.h>
+
+#include <unistd.h>
+
+namespace {
+constexpr int Busy = -5;
+constexpr int ReadOnly = -8;
+constexpr int Corrupt = -11;
+constexpr int CannotOpen = -14;
+constexpr int NoDatabase = -26;
+
+/// Takes the rights of the administrator away for a while, as they pass over every permission.
+class OrdinaryUser {
+public:
+    OrdinaryUser()
+        : was_(geteuid()) {
+        if (was_ == 0) {
+            EXPECT_EQ(seteuid(65534), 0);
+        }
+    }
+    ~OrdinaryUser() { EXPECT_EQ(seteuid(was_), 0); }
+    OrdinaryUser(const OrdinaryUser&) = delete;
+    OrdinaryUser& operator=(const OrdinaryUser&) = delete;
+
+private:
+    uid_t was_;
+};
+
+constexpr auto All = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner | QFile::ReadGroup |
+                     QFile::WriteGroup | QFile::ExeGroup | QFile::ReadOther | QFile::WriteOther |
+                     QFile::ExeOther;
+constexpr auto NoWriting = All & ~(QFile::WriteOwner | QFile::WriteGroup | QFile::WriteOther);
+} // namespace
+
+class ConnectionTest : public StoreTest {
+protected:
+    void SetUp() override {
+        StoreTest::SetUp();
+        Run(foods_, "BEGIN");
+        for (int i = 1; i <= 300; ++i)
+            AddFood(i, QStringLiteral("Food %1 with a name long enough to fill some pages").arg(i));
+        Run(foods_, "COMMIT");
+        foods_.Close();
+        users_.Close();
+        sound_ = Contents(FoodsFile());
+    }
+
+    void Write(const QString& path, const QByteArray& bytes) {
+        QFile file(path);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        ASSERT_EQ(file.write(bytes), bytes.size());
+    }
+
+    QStringList Listing() const {
+        return QDir(folder_.path()).entryList(QDir::Files | QDir::Hidden);
+    }
+
+    /// Opens foods.mdb with the content given: it must be refused so, and nothing may change.
+    void ExpectRefused(const QByteArray& content, int number, const char* saying) {
+        Write(FoodsFile(), content);
+        ExpectRefused(number, saying);
+        EXPECT_TRUE(Contents(FoodsFile()) == content);
+    }
+    void ExpectRefused(int number, const char* saying, DatabaseKind kind = DatabaseKind::Foods) {
+        const QStringList before = Listing();
+        QString text;
+        const int got = ErrorOf([&] {
+            try {
+                foods_.Open(FoodsFile(), kind);
+            } catch (const RuntimeError& error) {
+                text = error.Description();
+                throw;
+            }
+        });
+        EXPECT_EQ(got, number) << text.toStdString();
+        EXPECT_TRUE(text.contains("foods.mdb")) << text.toStdString();
+        EXPECT_TRUE(text.contains(saying)) << text.toStdString();
+        EXPECT_EQ(foods_.state(), Connection::Closed);
+        EXPECT_EQ(Listing(), before);
+    }
+
+    /// A copy of the open foods.mdb and its journal, as a kill leaves them.
+    void CopyAsKilled(const QString& name, const QString& journal) {
+        ASSERT_TRUE(QFile::copy(FoodsFile(), File(name)));
+        ASSERT_TRUE(QFile::copy(FoodsFile() + journal, File(name) + journal));
+    }
+
+    QByteArray sound_;
+};
+
+TEST_F(ConnectionTest, OpensClosesAndOpensAgain) {
+    EXPECT_EQ(foods_.state(), Connection::Closed);
+    for (int i = 0; i < 3; ++i) {
+        foods_.Open(FoodsFile(), DatabaseKind::Foods);
+        EXPECT_EQ(foods_.state(), Connection::Opened);
+        EXPECT_EQ(foods_.state(), 1);
+        EXPECT_EQ(foods_.Path(), FoodsFile());
+        EXPECT_EQ(First(foods_, "SELECT count(*) FROM FOODS"), 300);
+        foods_.Close();
+        EXPECT_EQ(foods_.state(), Connection::Closed);
+    }
+    foods_.Close();
+}
+
+TEST_F(ConnectionTest, AClosedConnectionCannotBeUsed) {
+    EXPECT_EQ(ErrorOf([&] { foods_.Raw(); }), StoreError::NotOpen);
+    EXPECT_EQ(ErrorOf([&] { foods_.Statements(); }), StoreError::NotOpen);
+    EXPECT_EQ(ErrorOf([&] { (void)foods_.Path(); }), StoreError::NotOpen);
+}
+
+TEST_F(ConnectionTest, OpeningAnOpenConnectionClosesItFirst) {
+    users_.Open(UsersFile(), DatabaseKind::Users);
+    users_.Open(FoodsFile(), DatabaseKind::Foods);
+    EXPECT_EQ(First(users_, "SELECT count(*) FROM FOODS"), 300);
+}
+
+TEST_F(ConnectionTest, ClosedFilesStandAlone) {
+    users_.Open(UsersFile(), DatabaseKind::Users);
+    foods_.Open(FoodsFile(), DatabaseKind::Foods);
+    Run(users_, "INSERT INTO profiles (UserName) VALUES ('Anna')");
+    const Recordset set(users_, "SELECT * FROM profiles");
+    users_.Close();
+    foods_.Close();
+    EXPECT_EQ(Listing(), QStringList({"foods.mdb", "users.mdb"}));
+}
+
+TEST_F(ConnectionTest, ACommitReachesTheDisk) {
+    foods_.Open(FoodsFile(), DatabaseKind::Foods);
+    EXPECT_EQ(First(foods_, "PRAGMA journal_mode"), "wal");
+    EXPECT_EQ(First(foods_, "PRAGMA synchronous"), 2);
+}
+
+TEST_F(ConnectionTest, PathsOfEveryKindOpen) {
+    for (const char* name : {"with blank.mdb", "per%20cent.mdb", "question?mark#.mdb",
+                             "crème 🍞.mdb", "quote'.mdb", "file:x"}) {
+        const QString path = File(QString::fromUtf8(name));
+        Write(path, sound_);
+        foods_.Open(path, DatabaseKind::Foods);
+        EXPECT_EQ(First(foods_, "SELECT count(*) FROM FOODS"), 300) << name;
+        foods_.Close();
+    }
+}
+
+TEST_F(ConnectionTest, ARelativePathOpens) {
+    const QString before = QDir::currentPath();
+    ASSERT_TRUE(QDir::setCurrent(folder_.path()));
+    foods_.Open("foods.mdb", DatabaseKind::Foods);
+    EXPECT_EQ(First(foods_, "SELECT count(*) FROM FOODS"), 300);
+    foods_.Close();
+    ASSERT_TRUE(QDir::setCurrent(before));
+}
+
+TEST_F(ConnectionTest, AMissingFileIsRefusedAndNotMade) {
+    ASSERT_TRUE(QFile::remove(FoodsFile()));
+    ExpectRefused(CannotOpen, "not there");
+    EXPECT_FALSE(QFile::exists(FoodsFile()));
+}
+
+TEST_F(ConnectionTest, AFolderIsRefused) {
+    ASSERT_TRUE(QFile::remove(FoodsFile()));
+    ASSERT_TRUE(QDir().mkdir(FoodsFile()));
+    ExpectRefused(CannotOpen, "not a file");
+}
+
+TEST_F(ConnectionTest, AnEmptyFileIsRefused) {
+    ExpectRefused("", NoDatabase, "empty");
+}
+
+TEST_F(ConnectionTest, AFileThatIsNoDatabaseIsRefused) {
+    ExpectRefused("x", NoDatabase, "not a database");
+    ExpectRefused(QByteArray(100000, 'x'), NoDatabase, "not a database");
+    ExpectRefused(QByteArray(4096, '\0'), NoDatabase, "not a database");
+    ExpectRefused("SQLite format 3 is a fine format", NoDatabase, "not a database");
+}
+
+TEST_F(ConnectionTest, AFileCutShortIsRefusedWhereverItIsCut) {
+    const qsizetype size = sound_.size();
+    for (const qsizetype length : {size - 1, size - 4096, size / 2, size / 2 + 1, qsizetype(4096),
+                                   qsizetype(4095), qsizetype(1024), qsizetype(100)})
+        ExpectRefused(sound_.first(length), Corrupt, "damaged");
+    ExpectRefused(sound_.first(99), Corrupt, "damaged");
+    ExpectRefused(sound_.first(16), Corrupt, "damaged");
+    ExpectRefused(sound_.first(15), NoDatabase, "not a database");
+}
+
+TEST_F(ConnectionTest, AFileWithADamagedSchemaIsRefused) {
+    QByteArray damaged = sound_;
+    damaged.replace(100, 8, QByteArray(8, '\x7F'));
+    ExpectRefused(damaged, Corrupt, "damaged");
+    QByteArray garbled = sound_;
+    garbled.replace("CREATE TABLE FOODS", "CREATE TABLE (((((");
+    ExpectRefused(garbled, Corrupt, "damaged");
+}
+
+TEST_F(ConnectionTest, AFileOfAnotherKindIsRefused) {
+    ExpectRefused(NoDatabase, "another kind", DatabaseKind::Users);
+    ASSERT_TRUE(QFile::remove(FoodsFile()));
+    ASSERT_TRUE(QFile::copy(UsersFile(), FoodsFile()));
+    ExpectRefused(NoDatabase, "another kind");
+}
+
+TEST_F(ConnectionTest, ADatabaseOfAnotherProgramIsRefused) {
+    ASSERT_TRUE(QFile::remove(FoodsFile()));
+    {
+        SQLite::Database other(FoodsFile().toStdString(),
+                               SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
+        other.exec("CREATE TABLE FOODS (ID)");
+    }
+    ExpectRefused(NoDatabase, "another kind");
+}
+
+TEST_F(ConnectionTest, ADatabaseWithoutTablesIsRefused) {
+    ASSERT_TRUE(QFile::remove(FoodsFile()));
+    {
+        SQLite::Database bare(FoodsFile().toStdString(),
+                              SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
+        bare.exec("PRAGMA application_id = " +
+                  std::to_string(Schema::ApplicationId(DatabaseKind::Foods)));
+        bare.exec("VACUUM");
+    }
+    ExpectRefused(NoDatabase, "no tables");
+}
+
+TEST_F(ConnectionTest, ANewerSchemaIsRefused) {
+    {
+        SQLite::Database database(FoodsFile().toStdString(), SQLite::OPEN_READWRITE);
+        database.exec("PRAGMA user_version = " + std::to_string(Schema::Version + 1));
+        database.exec("PRAGMA wal_checkpoint(TRUNCATE)");
+    }
+    const QByteArray before = Contents(FoodsFile());
+    ExpectRefused(NoDatabase, "newer version");
+    EXPECT_TRUE(Contents(FoodsFile()) == before);
+}
+
+TEST_F(ConnectionTest, AFileThatCannotBeWrittenIsRefused) {
+    ASSERT_TRUE(QFile::setPermissions(folder_.path(), All));
+    ASSERT_TRUE(QFile::setPermissions(FoodsFile(), NoWriting));
+    {
+        const OrdinaryUser user;
+        ExpectRefused(ReadOnly, "cannot be written");
+    }
+    EXPECT_TRUE(Contents(FoodsFile()) == sound_);
+}
+
+TEST_F(ConnectionTest, AFileThatCannotBeReadIsRefused) {
+    ASSERT_TRUE(QFile::setPermissions(folder_.path(), All));
+    ASSERT_TRUE(QFile::setPermissions(FoodsFile(), {}));
+    {
+        const OrdinaryUser user;
+        ExpectRefused(CannotOpen, "reading it is not allowed");
+    }
+    EXPECT_TRUE(Contents(FoodsFile()) == sound_);
+}
+
+TEST_F(ConnectionTest, AFolderThatCannotBeWrittenIsRefused) {
+    ASSERT_TRUE(QFile::setPermissions(FoodsFile(), All));
+    ASSERT_TRUE(QFile::setPermissions(folder_.path(), NoWriting));
+    {
+        const OrdinaryUser user;
+        ExpectRefused(CannotOpen, "folder");
+    }
+    ASSERT_TRUE(QFile::setPermissions(folder_.path(), All));
+    EXPECT_TRUE(Contents(FoodsFile()) == sound_);
+}
+
+TEST_F(ConnectionTest, ANewFileInAFolderThatCannotBeWrittenIsRefused) {
+    ASSERT_TRUE(QFile::remove(FoodsFile()));
+    Schema::Create(FoodsFile(), DatabaseKind::Foods);
+    const QByteArray before = Contents(FoodsFile());
+    ASSERT_TRUE(QFile::setPermissions(FoodsFile(), All));
+    ASSERT_TRUE(QFile::setPermissions(folder_.path(), NoWriting));
+    {
+        const OrdinaryUser user;
+        ExpectRefused(CannotOpen, "folder");
+    }
+    ASSERT_TRUE(QFile::setPermissions(folder_.path(), All));
+    EXPECT_TRUE(Contents(FoodsFile()) == before);
+}
+
+TEST_F(ConnectionTest, AFileLockedByAnotherProgramIsRefused) {
+    SQLite::Database other(FoodsFile().toStdString(), SQLite::OPEN_READWRITE);
+    other.exec("PRAGMA journal_mode = DELETE");
+    other.exec("BEGIN EXCLUSIVE");
+    ExpectRefused(Busy, "Another program");
+}
+
+TEST_F(ConnectionTest, ARefusalDoesNotCloseTheOtherConnection) {
+    users_.Open(UsersFile(), DatabaseKind::Users);
+    ExpectRefused("", NoDatabase, "empty");
+    EXPECT_EQ(First(users_, "SELECT count(*) FROM profiles"), 0);
+    Write(FoodsFile(), sound_);
+    foods_.Open(FoodsFile(), DatabaseKind::Foods);
+    EXPECT_EQ(First(foods_, "SELECT count(*) FROM FOODS"), 300);
+}
+
+TEST_F(ConnectionTest, WhatAKilledProcessCommittedIsThere) {
+    foods_.Open(FoodsFile(), DatabaseKind::Foods);
+    AddFood(23509, "Mine");
+    CopyAsKilled("killed.mdb", "-wal");
+    Connection killed;
+    killed.Open(File("killed.mdb"), DatabaseKind::Foods);
+    EXPECT_EQ(First(killed, "SELECT FoodName FROM FOODS WHERE ID = 23509"), "Mine");
+    EXPECT_EQ(First(killed, "PRAGMA integrity_check"), "ok");
+    killed.Close();
+    EXPECT_FALSE(QFile::exists(File("killed.mdb-wal")));
+    EXPECT_FALSE(QFile::exists(File("killed.mdb-shm")));
+}
+
+TEST_F(ConnectionTest, WhatAKilledProcessDidNotCommitIsNotThere) {
+    foods_.Open(FoodsFile(), DatabaseKind::Foods);
+    Run(foods_, "BEGIN");
+    AddFood(23509, "Mine");
+    Run(foods_, "PRAGMA cache_spill = 1");
+    Run(foods_, "PRAGMA cache_size = 1");
+    Run(foods_, "UPDATE FOODS SET FoodName = FoodName || ' changed'");
+    CopyAsKilled("killed.mdb", "-wal");
+    Run(foods_, "ROLLBACK");
+    Connection killed;
+    killed.Open(File("killed.mdb"), DatabaseKind::Foods);
+    EXPECT_EQ(First(killed, "SELECT count(*) FROM FOODS"), 300);
+    EXPECT_EQ(First(killed, "SELECT count(*) FROM FOODS WHERE FoodName LIKE '%changed'"), 0);
+    EXPECT_EQ(First(killed, "PRAGMA integrity_check"), "ok");
+}
+
+TEST_F(ConnectionTest, AJournalOfAnotherToolIsRolledBack) {
+    {
+        SQLite::Database other(FoodsFile().toStdString(), SQLite::OPEN_READWRITE);
+        other.exec("PRAGMA journal_mode = DELETE");
+        other.exec("PRAGMA cache_size = 1");
+        other.exec("BEGIN");
+        other.exec("UPDATE FOODS SET FoodName = FoodName || ' changed'");
+        CopyAsKilled("killed.mdb", "-journal");
+        other.exec("ROLLBACK");
+    }
+    Connection killed;
+    killed.Open(File("killed.mdb"), DatabaseKind::Foods);
+    EXPECT_EQ(First(killed, "SELECT count(*) FROM FOODS WHERE FoodName LIKE '%changed'"), 0);
+    EXPECT_EQ(First(killed, "PRAGMA integrity_check"), "ok");
+}
+
+TEST_F(ConnectionTest, ANewerSchemaInTheJournalIsRefusedUnchanged) {
+    foods_.Open(FoodsFile(), DatabaseKind::Foods);
+    Run(foods_, "PRAGMA user_version = 99");
+    CopyAsKilled("killed.mdb", "-wal");
+    const QByteArray file = Contents(File("killed.mdb"));
+    const QByteArray journal = Contents(File("killed.mdb-wal"));
+    Connection killed;
+    EXPECT_EQ(ErrorOf([&] { killed.Open(File("killed.mdb"), DatabaseKind::Foods); }), NoDatabase);
+    EXPECT_TRUE(Contents(File("killed.mdb")) == file);
+    EXPECT_TRUE(Contents(File("killed.mdb-wal")) == journal);
+}
+
+TEST_F(ConnectionTest, AJournalThatIsGarbageIsPassedOver) {
+    Write(FoodsFile() + "-wal", QByteArray(10000, 'x'));
+    foods_.Open(FoodsFile(), DatabaseKind::Foods);
+    EXPECT_EQ(First(foods_, "SELECT count(*) FROM FOODS"), 300);
+    EXPECT_EQ(First(foods_, "PRAGMA integrity_check"), "ok");
+}
+
+TEST_F(ConnectionTest, AFileCutShortBesideAJournalIsRefused) {
+    foods_.Open(FoodsFile(), DatabaseKind::Foods);
+    foods_.Close();
+    Write(FoodsFile(), sound_.first(sound_.size() / 2));
+    Write(FoodsFile() + "-wal", QByteArray(10000, 'x'));
+    EXPECT_EQ(ErrorOf([&] { foods_.Open(FoodsFile(), DatabaseKind::Foods); }), Corrupt);
+    EXPECT_EQ(Contents(FoodsFile()).size(), sound_.size() / 2);
+}
+
+TEST_F(ConnectionTest, DamageBehindTheSchemaFailsAtTheStatement) {
+    QByteArray damaged = sound_;
+    damaged.replace(4096 * 2, damaged.size() - 4096 * 2,
+                    QByteArray(damaged.size() - 4096 * 2, '\x7F'));
+    Write(FoodsFile(), damaged);
+    foods_.Open(FoodsFile(), DatabaseKind::Foods);
+    EXPECT_EQ(ErrorOf([&] { Recordset(foods_, "SELECT * FROM FOODS"); }), Corrupt);
+}
+
+TEST_F(ConnectionTest, TheTwoConnectionsOfTheProcessAreApart) {
+    EXPECT_EQ(UserDB().state(), Connection::Closed);
+    UserDB().Open(UsersFile(), DatabaseKind::Users);
+    EXPECT_EQ(FoodDB().state(), Connection::Closed);
+    FoodDB().Open(FoodsFile(), DatabaseKind::Foods);
+    EXPECT_EQ(Recordset(UserDB(), "SELECT * FROM profiles").RecordCount(), 0);
+    EXPECT_EQ(Recordset(FoodDB(), "SELECT * FROM FOODS").RecordCount(), 300);
+    UserDB().Close();
+    FoodDB().Close();
+}
+
+TEST_F(ConnectionTest, EveryWordingNamesTheFile) {
+    for (int code = 1; code <= 28; ++code) {
+        const RuntimeError error = StoreError::Make(code, "folder/users.mdb", "why %1 %2");
+        EXPECT_EQ(error.Number(), -code);
+        EXPECT_TRUE(error.Description().contains("users.mdb")) << code;
+    }
+    EXPECT_EQ(StoreError::Make(14 | (3 << 8), "x", "why").Number(), -14);
+    EXPECT_TRUE(StoreError::Make(14, "x%2", "why").Description().contains("x%2"));
+}
