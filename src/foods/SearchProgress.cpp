@@ -8,8 +8,8 @@
 namespace {
 
 constexpr int frameMilliseconds = 16;
-constexpr QSize barSize(240, 12);
-constexpr QSize panelSize(280, 60);
+constexpr QSize barSize(280, 12);
+constexpr QSize panelSize(320, 64);
 
 /// The trough; its fill is the part of the picture that the fraction gives.
 class Bar : public QWidget {
@@ -55,6 +55,9 @@ SearchProgress::SearchProgress(QWidget* parent)
     picHome_->setObjectName(QStringLiteral("picHome"));
     picHome_->setAccessibleName(caption_->text());
     resize(panelSize);
+    const int left = (width() - barSize.width()) / 2;
+    caption_->setGeometry(left, 11, barSize.width(), 18);
+    picHome_->setGeometry(QRect(QPoint(left, 36), barSize));
     hide();
 }
 
@@ -84,10 +87,4 @@ void SearchProgress::paintEvent(QPaintEvent*) {
     painter.fillRect(rect(), TheStyle().paper);
     painter.setPen(TheStyle().frame);
     painter.drawRect(rect().adjusted(0, 0, -1, -1));
-}
-
-void SearchProgress::resizeEvent(QResizeEvent*) {
-    const int left = (width() - barSize.width()) / 2;
-    caption_->setGeometry(left, 10, barSize.width(), 18);
-    picHome_->setGeometry(QRect(QPoint(left, 34), barSize));
 }

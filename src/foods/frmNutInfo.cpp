@@ -6,7 +6,6 @@
 #include "runtime/Convert.h"
 #include "runtime/Format.h"
 #include "runtime/RuntimeError.h"
-#include "toolkit/Labels.h"
 #include "toolkit/Style.h"
 #include "toolkit/Twips.h"
 #include "toolkit/ucButton.h"
@@ -31,16 +30,17 @@ constexpr int othersLines = 11;
 // In pixels.
 constexpr QSize panelSize(324, 494);
 constexpr int cardBottom = 448;
-constexpr int heavyRule = 4;
-constexpr int nameTop = 36, nameHeight = 22;
-constexpr int servingTop = 57, servingHeight = 14;
-constexpr int nameRuleTop = 72;
-constexpr int headingTop = 74, headingHeight = 13;
-constexpr int caloriesTop = 84, caloriesHeight = 14;
+constexpr int titleHeight = 30;
+constexpr int heavyRule = 3;
+constexpr int nameTop = 31, nameHeight = 22;
+constexpr int servingTop = 51, servingHeight = 15;
+constexpr int nameRuleTop = 67;
+constexpr int headingTop = 70, headingHeight = 13;
+constexpr int caloriesTop = 83, caloriesHeight = 15;
 constexpr int othersRuleTop = 224;
 constexpr int amountRight = 228;
-constexpr int leftColumnRight = 178;
-constexpr int rightColumnLeft = 188;
+constexpr int leftColumnRight = 179;
+constexpr int rightColumnLeft = 189;
 
 struct Headline {
     Nutrient id;
@@ -94,6 +94,7 @@ double Percentage(double amount, double target) {
 frmNutInfo::frmNutInfo(QWidget* owner)
     : Dialog(QStringLiteral("frmNutInfo"), QStringLiteral("Details"), owner) {
     Title()->setObjectName(QStringLiteral("ucTitleFlat1"));
+    Title()->setFixedHeight(titleHeight);
     setFixedSize(panelSize);
     BuildName();
     BuildCalories();
@@ -105,13 +106,13 @@ frmNutInfo::frmNutInfo(QWidget* owner)
 void frmNutInfo::BuildName() {
     const Style& style = TheStyle();
     aaFoodName_ = new ElidedLabel(this, QStringLiteral("aaFoodName"));
-    aaFoodName_->SetLook({style.cardTitle, style.screenTitle, style.strong}, style.heading);
+    aaFoodName_->SetLook({style.screenTitle, style.strong}, style.heading);
     aaFoodName_->setGeometry(Left(), nameTop, Right() - Left(), nameHeight);
     const QRect serving(Left(), servingTop, Right() - Left(), servingHeight);
-    const int caption =
-        AddCaption(serving, QStringLiteral("lblServSize"), QStringLiteral("Serving Size"))
-            ->sizeHint()
-            .width();
+    const int caption = AddCaption(serving, QStringLiteral("lblServSize"),
+                                   QStringLiteral("Serving Size"), TextRole::Quiet)
+                            ->sizeHint()
+                            .width();
     aaServSize_ = new ElidedLabel(this, QStringLiteral("aaServSize"));
     aaServSize_->SetLook({style.text, style.small}, style.ink);
     aaServSize_->setGeometry(serving.adjusted(caption + style.boxGap, 0, 0, 0));
@@ -119,24 +120,24 @@ void frmNutInfo::BuildName() {
 
 void frmNutInfo::BuildCalories() {
     const QRect heading(Left(), headingTop, Right() - Left(), headingHeight);
-    MakeLabel(this, QStringLiteral("lblAmount"), QStringLiteral("Amount Per Serving"),
-              TextRole::Small)
-        ->setGeometry(heading);
-    QLabel* percent = MakeLabel(this, QStringLiteral("lblDailyValue"),
-                                QStringLiteral("% Daily Value"), TextRole::Small);
-    percent->setGeometry(heading);
-    percent->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    AddCaption(heading, QStringLiteral("lblAmount"), QStringLiteral("Amount Per Serving"),
+               TextRole::Small);
+    AddCaption(heading, QStringLiteral("lblDailyValue"), QStringLiteral("% Daily Value"),
+               TextRole::Small)
+        ->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     const int middle = (Left() + Right()) / 2;
     const QRect row(Left(), caloriesTop, middle - Left() - TheStyle().boxGap, caloriesHeight);
-    AddAmount(row, Nutrient::Calories);
+    AddAmount(row, Nutrient::Calories, TextRole::Strong);
     const QRect fat = row.translated(middle - Left() + TheStyle().boxGap, 0);
-    AddCaption(fat, QStringLiteral("lblFatCalsCaption"), QStringLiteral("Calories from fat"));
+    AddCaption(fat, QStringLiteral("lblFatCalsCaption"), QStringLiteral("Calories from fat"),
+               TextRole::Text);
     lblFatCals_ = AddFigure(fat, QStringLiteral("lblFatCals"));
 }
 
 void frmNutInfo::BuildHeadlines() {
     for (int row = 0; row < headlineCount; ++row) {
-        AddAmount(RowPlace(headlineTop, row, Left(), amountRight), headlines[row].id);
+        AddAmount(RowPlace(headlineTop, row, Left(), amountRight), headlines[row].id,
+                  TextRole::Text);
         const QRect place = RowPlace(headlineTop, row, amountRight, Right());
         percents_[size_t(row)] = AddFigure(place, QString::fromLatin1(headlines[row].percentLabel));
     }
@@ -147,7 +148,7 @@ void frmNutInfo::BuildOthers() {
         const bool inLeft = i < othersRows;
         AddAmount(RowPlace(othersTop, i % othersRows, inLeft ? Left() : rightColumnLeft,
                            inLeft ? leftColumnRight : Right()),
-                  others[i]);
+                  others[i], TextRole::Small);
     }
 }
 
@@ -160,8 +161,9 @@ void frmNutInfo::BuildDone() {
     connect(cmdDone_, &ucButton::Click, this, &QDialog::accept);
 }
 
-QLabel* frmNutInfo::AddCaption(const QRect& place, const QString& name, const QString& text) {
-    QLabel* caption = MakeLabel(this, name, text);
+QLabel* frmNutInfo::AddCaption(const QRect& place, const QString& name, const QString& text,
+                               TextRole role) {
+    QLabel* caption = MakeLabel(this, name, text, role);
     caption->setGeometry(place);
     return caption;
 }
@@ -173,13 +175,12 @@ QLabel* frmNutInfo::AddFigure(const QRect& place, const QString& name) {
     return figure;
 }
 
-QLabel* frmNutInfo::AddAmount(const QRect& place, Nutrient id) {
+void frmNutInfo::AddAmount(const QRect& place, Nutrient id, TextRole captionRole) {
     const QString name = QString::fromLatin1(Info(id).factsLabel);
-    AddCaption(place, name + u"Caption", QString::fromLatin1(Info(id).factsCaption));
+    AddCaption(place, name + u"Caption", QString::fromLatin1(Info(id).factsCaption), captionRole);
     QLabel* amount = AddFigure(place, name);
     amount->setAccessibleName(QString::fromLatin1(Info(id).factsCaption));
     amounts_[size_t(id)] = amount;
-    return amount;
 }
 
 void frmNutInfo::showFood(const ScaledFood& item) {

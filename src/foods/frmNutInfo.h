@@ -3,9 +3,9 @@
 #include "foods/ScaledFood.h"
 #include "model/Nutrients.h"
 #include "toolkit/Dialog.h"
+#include "toolkit/Labels.h"
 
 class ElidedLabel;
-class QLabel;
 class ucButton;
 
 /// The nutrition facts of one serving line at the quantity typed, as on a package: seven headline
@@ -31,9 +31,9 @@ private:
     void BuildHeadlines();
     void BuildOthers();
     void BuildDone();
-    QLabel* AddCaption(const QRect& place, const QString& name, const QString& text);
+    QLabel* AddCaption(const QRect& place, const QString& name, const QString& text, TextRole role);
     QLabel* AddFigure(const QRect& place, const QString& name);
-    QLabel* AddAmount(const QRect& place, Nutrient id);
+    void AddAmount(const QRect& place, Nutrient id, TextRole captionRole);
 
     void Fill(const ScaledFood& item);
     void FillPercents(const ScaledFood& item);

@@ -42,6 +42,7 @@ constexpr int resultsBelow = 30;
 constexpr int captionTop = 0;
 constexpr int captionHeight = 15;
 constexpr int fieldTop = 16;
+constexpr int termWidth = 196;
 constexpr int sourceTop = 46;
 constexpr int sourceHeight = 22;
 
@@ -79,25 +80,25 @@ void ucSearchResults::BuildTerm() {
     txtSearchString_ = new TermField(this);
     txtSearchString_->setObjectName(QStringLiteral("txtSearchString"));
     txtSearchString_->setAccessibleName(QStringLiteral("Food name"));
-    txtSearchString_->setGeometry(1, fieldTop, 212, TheStyle().fieldHeight);
+    txtSearchString_->setGeometry(1, fieldTop, termWidth, TheStyle().fieldHeight);
     Watch(txtSearchString_);
     cmdGo_ = new ucButton(QStringLiteral("Search"), this);
     cmdGo_->setObjectName(QStringLiteral("cmdGo"));
     cmdGo_->SetMainAction(true);
-    cmdGo_->move(221, fieldTop - 1);
+    cmdGo_->move(txtSearchString_->geometry().right() + TheStyle().boxGap, fieldTop - 1);
     connect(txtSearchString_, &TermField::SearchAsked, this, &ucSearchResults::SearchFoodsDB);
     connect(cmdGo_, &ucButton::Click, this, &ucSearchResults::SearchFoodsDB);
 }
 
 void ucSearchResults::BuildMeals() {
-    int left = 316;
+    int left = cmdGo_->geometry().right() + 20;
     Watch(CaptionAt(this, "lblMeals", "Add foods to meal:", {left, captionTop}));
     for (int i = 0; i < mealCount; ++i) {
         opMeal_[i] = new ucRadio(QLatin1String(meals[i]), this);
         opMeal_[i]->setObjectName(Named("opMeal", i));
         const QSize size = opMeal_[i]->sizeHint();
         opMeal_[i]->setGeometry(left, fieldTop, size.width(), TheStyle().fieldHeight);
-        left += size.width() + 10;
+        left += size.width() + 2;
         connect(opMeal_[i], &ucRadio::Click, this, [this, i] { TickMeal(i); });
         Watch(opMeal_[i]);
     }
@@ -260,6 +261,13 @@ void ucSearchResults::resizeEvent(QResizeEvent*) {
     rows_->setGeometry(left, top, width() - 2 * left,
                        height() - top - Twips::ToPixels(resultsBelow));
     picStatus_->move(rows_->geometry().center() - picStatus_->rect().center());
+}
+
+/// The term waits, ready to be searched for or typed over.
+void ucSearchResults::showEvent(QShowEvent* event) {
+    DrawnControl::showEvent(event);
+    txtSearchString_->setFocus();
+    txtSearchString_->selectAll();
 }
 
 void ucSearchResults::paintEvent(QPaintEvent*) {

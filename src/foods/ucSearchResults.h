@@ -41,6 +41,7 @@ protected:
     void mouseMoveEvent(QMouseEvent*) override;
     void paintEvent(QPaintEvent*) override;
     void resizeEvent(QResizeEvent*) override;
+    void showEvent(QShowEvent*) override;
 
 private:
     void BuildTerm();

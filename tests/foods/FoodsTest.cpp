@@ -63,6 +63,13 @@ void FoodsTest::AddFoods(int count, int firstId, const QString& name) {
     transaction.commit();
 }
 
+void FoodsTest::AddRecipes(int count, const QString& name) {
+    SQLite::Transaction transaction(UserDB().Raw());
+    for (int i = 0; i < count; ++i)
+        AddRecipe(name, QStringLiteral("1 bowl"));
+    transaction.commit();
+}
+
 qint32 FoodsTest::AddRecipe(const QString& name, const QString& serving) {
     Insert(UserDB(), QStringLiteral("Recipes"), {"RecipeName", "ServingName", "RecipeYield"},
            {name, serving, 4});

@@ -26,10 +26,11 @@ protected:
 
     void AddFood(const FoodRow& food);
     void AddFoods(int count, int firstId, const QString& name); ///< "name 001" and so on
+    void AddRecipes(int count, const QString& name);
     qint32 AddRecipe(const QString& name, const QString& serving);
     void AddIngredient(qint32 recipe, const QMap<QString, double>& nutrients);
 
-    /// Writes the term, ticks nothing, and presses the search button.
+    /// Writes the term and presses the search button.
     void Search(ucSearchResults& panel, const QString& term);
     static QList<ucFood*> Rows(const ucSearchResults& panel);
     static QStringList NamesShown(const ucSearchResults& panel);
