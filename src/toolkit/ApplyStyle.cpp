@@ -75,11 +75,7 @@ QCalendarWidget QToolButton::menu-indicator { image: none; }
 QCalendarWidget QToolButton#qt_calendar_prevmonth { qproperty-icon: url(:/assets/arrow-left-light.svg); }
 QCalendarWidget QToolButton#qt_calendar_nextmonth { qproperty-icon: url(:/assets/arrow-right-light.svg); }
 QCalendarWidget QSpinBox { color: %ink; background: %paper; selection-background-color: %chosenRow; }
-QCalendarWidget QAbstractItemView {
-  background: %paper; color: %ink; outline: none;
-  selection-background-color: %dayTo; selection-color: %heading;
-}
-QCalendarWidget QAbstractItemView:disabled { color: %disabledInk; }
+QCalendarWidget QAbstractItemView { background: %paper; color: %ink; outline: none; border: none; }
 QMenu { background: %paper; color: %ink; border: 1px solid %frame; padding: 3px; }
 QMenu::item { padding: 4px 20px 4px 12px; }
 QMenu::item:selected { background: %chosenRow; color: %chosenRowText; }
@@ -111,7 +107,6 @@ QList<SheetValue> SheetValues(const Style& style) {
         {QLatin1String("%canvas"), style.canvas.name()},
         {QLatin1String("%paper"), style.paper.name()},
         {QLatin1String("%frame"), style.frame.name()},
-        {QLatin1String("%dayTo"), style.chosenDay.to.name()},
         {QLatin1String("%rule"), style.rule.name()},
         {QLatin1String("%ink"), style.ink.name()},
     };

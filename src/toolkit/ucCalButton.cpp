@@ -60,6 +60,8 @@ void ucCalButton::paintEvent(QPaintEvent*) {
     const Style::ButtonFace& face = TheStyle().button[state_ - 1];
     StretchColumn(painter, rect(),
                   Slices::OfFace(face, cap, 0, height(), devicePixelRatioF()).middle);
+    painter.fillRect(0, 0, 1, height(), face.edge);
+    painter.fillRect(width() - 1, 0, 1, height(), face.edge);
     const double textHeight = QFontMetricsF(SmoothedFont(font())).height();
     painter.setPen(face.text);
     SmoothedPrint(painter, QPointF(Twips::ToPixels(captionLeft), height() / 2.0 - textHeight / 2),

@@ -36,6 +36,7 @@ ucScroll::ucScroll(QWidget* parent)
     : DrawnControl(parent)
     , repeat_(new QTimer(this)) {
     setFocusPolicy(Qt::TabFocus);
+    repeat_->setTimerType(Qt::PreciseTimer);
     connect(repeat_, &QTimer::timeout, this, &ucScroll::Repeat);
     resize(sizeHint());
 }
