@@ -19,7 +19,11 @@ bool DrawnControl::IsInside(QPointF place) const {
 }
 
 void DrawnControl::focusInEvent(QFocusEvent* event) {
-    focusShown_ = event->reason() != Qt::MouseFocusReason;
+    const Qt::FocusReason reason = event->reason();
+    const bool comesBack = reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason;
+    if (!comesBack)
+        focusFromMouse_ = reason == Qt::MouseFocusReason;
+    focusShown_ = !focusFromMouse_;
     QWidget::focusInEvent(event);
     update();
 }

@@ -3,7 +3,7 @@
 #include <QWidget>
 
 /// What all drawn controls share: the click and mouse-move events, the test whether a place counts
-/// as inside, and the focus ring, which is shown where the keyboard brought the focus.
+/// as inside, and the focus ring, which is shown unless the mouse brought the focus.
 class DrawnControl : public QWidget {
     Q_OBJECT
 
@@ -30,6 +30,7 @@ protected:
 
 private:
     bool focusShown_ = false;
+    bool focusFromMouse_ = false;
 };
 
 /// The ring that shows the focus.

@@ -66,7 +66,7 @@ void SetInks(Style& style) {
     style.mealText = QColor(180, 105, 12);
     style.windowInk = QColor(255, 255, 255);
     style.navigationInk = QColor(208, 217, 227);
-    style.navigationDisabledInk = QColor(150, 164, 180);
+    style.navigationDisabledInk = QColor(168, 179, 192);
     style.disabledPicture = QColor(190, 182, 170);
     style.chosenRowText = QColor(255, 255, 255);
     style.error = QColor(165, 32, 20);

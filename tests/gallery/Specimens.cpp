@@ -72,7 +72,7 @@ void AddStates(QList<Specimen>& list, const char* control, const Maker& make,
                const QList<StateRow>& rows, bool tabStop) {
     for (const StateRow& row : rows)
         list << Specimen{QLatin1String(control), QLatin1String(row.state), make, row.apply,
-                         tabStop && qstrcmp(row.state, disabled.state) != 0};
+                         tabStop && !QLatin1String(row.state).contains(QLatin1String("disabled"))};
 }
 
 template <class Kind> Change With(void (*change)(Kind*)) {
