@@ -1,19 +1,17 @@
 #include "intake/DayCalendar.h"
 
+#include "toolkit/MonthCalendar.h"
 #include "toolkit/Style.h"
 
 #include <QApplication>
-#include <QCalendarWidget>
-#include <QTextCharFormat>
 
 DayCalendar::DayCalendar(QWidget* parent)
     : ucBox(QStringLiteral("Select a date"), parent)
-    , smCal_(new QCalendarWidget(this)) {
+    , smCal_(new MonthCalendar(this)) {
     setObjectName(QStringLiteral("picCal"));
     setFocusPolicy(Qt::ClickFocus);
     smCal_->setObjectName(QStringLiteral("smCal"));
     smCal_->setAccessibleName(QStringLiteral("Select a date"));
-    DressCalendar();
     connect(smCal_, &QCalendarWidget::clicked, this, &DayCalendar::OnPick);
     connect(smCal_, &QCalendarWidget::activated, this, &DayCalendar::OnPick);
     connect(qApp, &QApplication::focusChanged, this, &DayCalendar::FollowFocus);
@@ -23,21 +21,6 @@ DayCalendar::DayCalendar(QWidget* parent)
 /// The focus leaves a child that is destroyed after this part of the object is gone.
 DayCalendar::~DayCalendar() {
     disconnect(qApp, nullptr, this, nullptr);
-}
-
-void DayCalendar::DressCalendar() {
-    const Style& style = TheStyle();
-    smCal_->setLocale(QLocale(QLocale::English, QLocale::UnitedStates));
-    smCal_->setFirstDayOfWeek(Qt::Sunday);
-    smCal_->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
-    QTextCharFormat heads;
-    heads.setForeground(style.windowInk);
-    heads.setBackground(style.navigation);
-    smCal_->setHeaderTextFormat(heads);
-    QTextCharFormat days;
-    days.setForeground(style.ink);
-    smCal_->setWeekdayTextFormat(Qt::Saturday, days);
-    smCal_->setWeekdayTextFormat(Qt::Sunday, days);
 }
 
 QSize DayCalendar::sizeHint() const {

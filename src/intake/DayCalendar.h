@@ -4,7 +4,7 @@
 
 #include <QDate>
 
-class QCalendarWidget;
+class MonthCalendar;
 
 /// The panel `picCal` "Select a date" with the month calendar `smCal` in it. It is hidden unless
 /// opened, and hides where the focus goes elsewhere.
@@ -25,9 +25,8 @@ protected:
     void resizeEvent(QResizeEvent*) override;
 
 private:
-    void DressCalendar();
     void OnPick(QDate day);
     void FollowFocus(QWidget* old, QWidget* now);
 
-    QCalendarWidget* smCal_;
+    MonthCalendar* smCal_;
 };

@@ -33,10 +33,8 @@ MonthCalendar::MonthCalendar(QWidget* parent)
     heads.setForeground(style.windowInk);
     heads.setFont(style.smallStrong);
     setHeaderTextFormat(heads);
-    QTextCharFormat day;
-    day.setForeground(style.ink);
     for (const Qt::DayOfWeek weekend : {Qt::Saturday, Qt::Sunday})
-        setWeekdayTextFormat(weekend, day);
+        setWeekdayTextFormat(weekend, QTextCharFormat());
 }
 
 void MonthCalendar::paintCell(QPainter* painter, const QRect& place, QDate date) const {

@@ -97,7 +97,6 @@ TEST_F(StyleTest, EdgesAndPicturesThatCarryMeaningHaveThreeToOne) {
                             {"focus ring on canvas", style.frame, style.canvas},
                             {"picture at rest", style.quietInk, style.paper},
                             {"picture under the pointer", style.frame, style.paper},
-                            {"facts rule", style.factsRule, style.paper},
                             {"dark grid", style.gridDark, style.paper}};
     for (const Pair& pair : pairs)
         EXPECT_GE(Contrast(pair.over, pair.ground), 3) << pair.what;
