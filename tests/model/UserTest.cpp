@@ -1,4 +1,5 @@
 #include "model/User.h"
+#include "model/EnergyTargets.h"
 #include "model/ReferenceIntake.h"
 #include "runtime/AppState.h"
 #include "runtime/RuntimeError.h"
@@ -236,9 +237,11 @@ User ManOf(qint32 calories) {
         for (double age = 31; age <= 50; ++age)
             for (qint32 height = 40; height < 80; ++height) {
                 User user = Person(1, age, height, weight, weight, 0);
+                DeriveEnergyTargets(user);
+                if (user.RDIs.Calories() != calories)
+                    continue;
                 user.CreateDefaultRDIs();
-                if (user.RDIs.Calories() == calories)
-                    return user;
+                return user;
             }
     ADD_FAILURE() << "no such man";
     return Man();

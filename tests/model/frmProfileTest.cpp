@@ -6,6 +6,7 @@
 #include "runtime/Seams.h"
 #include "store/Connection.h"
 #include "support/HalvaneTest.h"
+#include "toolkit/Style.h"
 #include "toolkit/Twips.h"
 #include "toolkit/ucButton.h"
 #include "toolkit/ucRadio.h"
@@ -764,6 +765,19 @@ TEST_F(ProfileTest, EverythingFitsTheNest) {
         const QRect place(field->mapTo(form, QPoint()), field->size());
         EXPECT_TRUE(QRect(14, 42, 738, 476).contains(place)) << info.property;
     }
+}
+
+TEST_F(ProfileTest, AnEdgeIsDrawnOnlyAroundAWindowOfItsOwn) {
+    frmProfile* form = Edit(AddUser("Anna"));
+    EXPECT_EQ(Grab(form).pixelColor(0, 300), TheStyle().frame);
+    QWidget nest;
+    nest.resize(form->size());
+    form->setParent(&nest);
+    form->show();
+    EXPECT_EQ(Grab(form).pixelColor(0, 300), TheStyle().canvas);
+    QTest::keyClick(form, Qt::Key_Escape);
+    EXPECT_FALSE(form->isHidden());
+    form->setParent(nullptr);
 }
 
 // Dragging
