@@ -165,7 +165,8 @@ void ucSearchResults::SetRecipeMode(bool on) {
 
 void ucSearchResults::SetMeal(int meal) {
     meal_ = meal;
-    TickMeal(meal);
+    if (meal >= 0 && meal < mealCount)
+        TickMeal(meal);
 }
 
 int ucSearchResults::TickedMeal() const {

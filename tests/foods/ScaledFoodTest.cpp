@@ -146,7 +146,7 @@ TEST_F(ScaledFoodTest, ARecipeWithoutIngredientsIsAllZeros) {
     }
 }
 
-TEST(LogixTest, TheSumStatementStandsAsItIsLaidOut) {
+TEST(LogixTest, TheSumStatementIsOneTextWithTheKeyAtItsEnd) {
     EXPECT_EQ(
         RecipeSumSQL(42),
         "SELECT Sum(Ingredients.VitaminC) AS [VitaminC],Sum(Ingredients.VitaminE) AS "

@@ -296,6 +296,15 @@ TEST_F(SearchTest, ATermOfTenThousandCharactersFindsNothing) {
     EXPECT_TRUE(Names().isEmpty());
 }
 
+TEST_F(SearchTest, ATermOfThousandsOfWordsEndsAndLeavesEverythingAsItWas) {
+    AddFood({.id = 1, .name = "Milk"});
+    Term()->setText(QString("m ").repeated(5000));
+    EXPECT_LE(FailureOf([&] { panel_->SearchFoodsDB(); }), 0);
+    EXPECT_FALSE(MousePointer::IsBusy());
+    SearchFor("milk");
+    EXPECT_EQ(Names(), QStringList{"Milk"});
+}
+
 TEST_F(SearchTest, AnEmbeddedNulEndsInARefusalOrNoMatchAndWritesNothing) {
     AddFood({.id = 1, .name = "Milk"});
     Term()->setText(QStringLiteral("mi") + QChar(0) + QStringLiteral("lk"));
@@ -377,6 +386,13 @@ TEST_F(SearchTest, SettingTheMealTicksItsOptionAndOverridesTheSettings) {
     EXPECT_TRUE(panel_->setProperty("meal", 3));
     EXPECT_EQ(panel_->property("meal").toInt(), 3);
     EXPECT_EQ(Meal(), 3);
+}
+
+TEST_F(SearchTest, AMealThatDoesNotExistIsStoredAndTicksNothingNew) {
+    panel_->SetMeal(2);
+    panel_->SetMeal(7);
+    EXPECT_EQ(panel_->meal(), 7);
+    EXPECT_EQ(Meal(), 2);
 }
 
 TEST_F(SearchTest, AClickOnAMealTakesTheTickOffTheOthers) {
