@@ -17,7 +17,7 @@
 #include "toolkit/Twips.h"
 #include "toolkit/ucAALBL.h"
 #include "toolkit/ucButtonA.h"
-#include "toolkit/ucHeader.h"
+#include "toolkit/ucStrip.h"
 
 #include <QMouseEvent>
 #include <QPainter>

@@ -1,14 +1,13 @@
 #include "toolkit/Accessible.h"
 
+#include "toolkit/TitleControl.h"
 #include "toolkit/ucAALBL.h"
 #include "toolkit/ucBox.h"
 #include "toolkit/ucButton.h"
 #include "toolkit/ucButtonA.h"
 #include "toolkit/ucCalButton.h"
-#include "toolkit/ucHeader.h"
 #include "toolkit/ucRadio.h"
 #include "toolkit/ucScroll.h"
-#include "toolkit/ucTitleFlat.h"
 
 #include <QAccessible>
 #include <QAccessibleWidget>

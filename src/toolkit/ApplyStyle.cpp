@@ -76,6 +76,14 @@ QCalendarWidget QToolButton#qt_calendar_prevmonth { qproperty-icon: url(:/assets
 QCalendarWidget QToolButton#qt_calendar_nextmonth { qproperty-icon: url(:/assets/arrow-right-light.svg); }
 QCalendarWidget QSpinBox { color: %ink; background: %paper; selection-background-color: %chosenRow; }
 QCalendarWidget QAbstractItemView { background: %paper; color: %ink; outline: none; border: none; }
+QScrollBar:vertical { background: %scrollSlot; width: %scrollWidth; margin: 0; border: none; }
+QScrollBar::handle:vertical {
+  background: %buttonGround; border: 1px solid %buttonEdge; border-radius: %fieldRadius;
+  min-height: 24px; margin: 0 1px 0 2px;
+}
+QScrollBar::handle:vertical:hover { border-color: %frame; }
+QScrollBar::add-line, QScrollBar::sub-line { height: 0; }
+QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
 QMenu { background: %paper; color: %ink; border: 1px solid %frame; padding: 3px; }
 QMenu::item { padding: 4px 20px 4px 12px; }
 QMenu::item:selected { background: %chosenRow; color: %chosenRowText; }
@@ -103,6 +111,10 @@ QList<SheetValue> SheetValues(const Style& style) {
         {QLatin1String("%fieldRadius"), Pixels(style.fieldRadius)},
         {QLatin1String("%fieldInner"), Pixels(style.fieldHeight - 2)},
         {QLatin1String("%fieldFocused"), Pixels(style.fieldHeight - 4)},
+        {QLatin1String("%scrollSlot"), style.scrollSlot.name()},
+        {QLatin1String("%scrollWidth"), Pixels(style.scrollWidth)},
+        {QLatin1String("%buttonGround"), style.button[0].ground.to.name()},
+        {QLatin1String("%buttonEdge"), style.button[0].edge.name()},
         {QLatin1String("%heading"), style.heading.name()},
         {QLatin1String("%canvas"), style.canvas.name()},
         {QLatin1String("%paper"), style.paper.name()},

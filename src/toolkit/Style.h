@@ -68,7 +68,7 @@ struct Style {
     QFont screenTitle; ///< 13 points semi-bold
     QFont cardTitle;   ///< 15 points semi-bold
     QFont control;     ///< 10 points medium, captions of buttons
-    QFont title;       ///< 10 points semi-bold, title bars and strips
+    QFont title;       ///< 10 points semi-bold, title bars, headers and strips
     QFont raised;      ///< 14 points semi-bold, ucTextRaised
 };
 

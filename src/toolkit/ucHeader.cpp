@@ -15,7 +15,7 @@ constexpr double captionLeft = 15; // twips
 
 ucHeader::ucHeader(QWidget* parent)
     : PaintedPanel(parent) {
-    setFont(TheStyle().strong);
+    setFont(TheStyle().title);
     resize(sizeHint());
 }
 

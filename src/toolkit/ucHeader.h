@@ -1,8 +1,6 @@
 #pragma once
 
 #include "toolkit/PaintedPanel.h"
-#include "toolkit/ucStrip.h"
-#include "toolkit/ucTextRaised.h"
 
 /// A section header of three slices.
 class ucHeader : public PaintedPanel {

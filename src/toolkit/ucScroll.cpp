@@ -218,7 +218,7 @@ void ucScroll::paintEvent(QPaintEvent*) {
     painter.setPen(TheStyle().rule);
     painter.drawLine(0, 0, 0, height());
     if (FocusShown())
-        PaintFocusRing(painter, rect(), TheStyle().fieldRadius);
+        PaintFocusRing(painter, at.picTB.adjusted(1, 0, 0, 0), TheStyle().fieldRadius);
     Q_EMIT SlotPainted();
 }
 
@@ -227,7 +227,7 @@ void ucScroll::PaintArrow(QPainter& painter, const QRect& place, Part part) cons
     const bool down = pressed_ == part;
     if (down || lit_ == part)
         painter.fillRect(place, down ? style.rule : style.header.from);
-    const QRect picture = place.adjusted(3, 3, -3, -3).translated(0, down ? 1 : 0);
+    const QRect picture = place.adjusted(2, 2, -2, -2).translated(0, down ? 1 : 0);
     const QString name =
         part == Part::Up ? QStringLiteral("arrow-up") : QStringLiteral("arrow-down");
     Pictures::Paint(painter, picture, name, lit_ == part ? style.heading : style.quietInk);

@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr int surfaceLeft = 7;
+constexpr int surfaceLeft = 4;
 constexpr double captionLeft = 15; // twips
 
 } // namespace

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "toolkit/TitleControl.h"
-#include "toolkit/ucTitleBar.h"
 
 /// The title of a dialog: docks itself across the top of its parent whenever it is shown.
 class ucTitleFlat : public TitleControl {

@@ -13,7 +13,7 @@
 #include "toolkit/Style.h"
 #include "toolkit/ucAALBL.h"
 #include "toolkit/ucButtonA.h"
-#include "toolkit/ucHeader.h"
+#include "toolkit/ucStrip.h"
 
 #include <QAccessible>
 #include <QLocale>
