@@ -1,0 +1,31 @@
+#include "core/ButtonRow.h"
+
+#include "toolkit/Style.h"
+#include "toolkit/ucButton.h"
+
+#include <ranges>
+
+namespace {
+
+constexpr int leastWidth = 76;
+
+} // namespace
+
+ucButton* MakeButton(QWidget* dialog, const QString& name, const QString& caption) {
+    auto* button = new ucButton(caption, dialog);
+    button->setObjectName(name);
+    button->resize(qMax(leastWidth, button->sizeHint().width()), button->sizeHint().height());
+    return button;
+}
+
+QRect LayButtonRow(const QRect& inner, const QList<ucButton*>& buttons) {
+    const Style& style = TheStyle();
+    const int top = inner.bottom() + 1 - style.nestEdge - style.buttonHeight;
+    int right = inner.right() + 1 - style.nestEdge;
+    for (ucButton* button : buttons | std::views::reverse) {
+        button->move(right - button->width(), top);
+        right -= button->width() + style.boxGap;
+    }
+    const QRect above(inner.topLeft(), QPoint(inner.right(), top - 1));
+    return above.adjusted(style.nestEdge, style.nestEdge, -style.nestEdge, -style.boxGap);
+}

@@ -1,0 +1,13 @@
+#pragma once
+
+/// Names of the settings that start, end and preferences read and write.
+namespace SettingNames {
+inline constexpr auto Fast = "FAST";
+inline constexpr auto Agreement = "EULA";
+inline constexpr auto DropShadows = "DROPSHADOWS";
+inline constexpr auto Left = "UILEFT";
+inline constexpr auto Top = "UITOP";
+inline constexpr auto AutoRDI = "AUTORDI";
+inline constexpr auto Limit50 = "LIMIT50";
+inline constexpr auto TipNumber = "TIPNUM";
+} // namespace SettingNames

@@ -1,0 +1,47 @@
+#include "core/Tips.h"
+
+#include "core/SettingNames.h"
+#include "core/TextFile.h"
+#include "runtime/Convert.h"
+#include "runtime/Round.h"
+#include "runtime/RuntimeError.h"
+#include "runtime/Settings.h"
+
+namespace {
+
+constexpr int subscriptOutOfRange = 9;
+
+/// The number of the tip to show of `count`. One that the store holds may be anything.
+qint32 NextNumber(qsizetype count) {
+    const double last = qMax(0.0, NumberOrZero(GetRegValue(SettingNames::TipNumber)));
+    const double next = last + 1;
+    return next > double(count) ? 1 : Round(next);
+}
+
+} // namespace
+
+QList<QByteArrayView> Tips::Lines(QByteArrayView text) {
+    QList<QByteArrayView> lines;
+    qsizetype start = 0;
+    for (qsizetype at = 0; at < text.size(); ++at) {
+        if (text[at] != '\n' && text[at] != '\r')
+            continue;
+        lines << text.sliced(start, at - start);
+        if (text[at] == '\r' && at + 1 < text.size() && text[at + 1] == '\n')
+            ++at;
+        start = at + 1;
+    }
+    if (start < text.size())
+        lines << text.sliced(start);
+    return lines;
+}
+
+QString Tips::Next() {
+    const QByteArray text = TextFile::ReadBeside(QStringLiteral("tips.txt"));
+    const QList<QByteArrayView> lines = Lines(text);
+    const qint32 number = NextNumber(lines.size());
+    if (number > lines.size())
+        throw RuntimeError(subscriptOutOfRange, QStringLiteral("the file holds no tip"));
+    SetRegValue(SettingNames::TipNumber, QString::number(number));
+    return QString::fromUtf8(lines[number - 1]);
+}
