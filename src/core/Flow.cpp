@@ -1,0 +1,176 @@
+#include "core/Flow.h"
+
+#include "core/Navigation.h"
+#include "core/SettingNames.h"
+#include "core/SingleInstance.h"
+#include "core/StartFailure.h"
+#include "core/StartSettings.h"
+#include "core/Tips.h"
+#include "core/frmEULA.h"
+#include "core/frmHOME.h"
+#include "core/frmSplash.h"
+#include "core/frmWelcome.h"
+#include "model/User.h"
+#include "runtime/AppPath.h"
+#include "runtime/AppState.h"
+#include "runtime/RuntimeError.h"
+#include "runtime/Seams.h"
+#include "runtime/Settings.h"
+#include "store/Connection.h"
+#include "store/Recordset.h"
+#include "toolkit/Twips.h"
+
+#include <QApplication>
+#include <QScopedValueRollback>
+
+namespace {
+
+/// A step of the start: the file it depends on, and what it does. False ends the start there.
+struct Step {
+    const char* file;
+    bool (*run)();
+};
+
+bool OpenUsers() {
+    UserDB().Open(FileBeside(QStringLiteral("users.mdb")), DatabaseKind::Users);
+    return true;
+}
+
+bool OpenFoods() {
+    FoodDB().Open(FileBeside(QStringLiteral("foods.mdb")), DatabaseKind::Foods);
+    return true;
+}
+
+bool ReadFirstSettings() {
+    StartSettings::ReadFirst(App().AppInfo);
+    return true;
+}
+
+bool AskAgreement() {
+    if (StartSettings::Agreed() || frmEULA::Ask())
+        return true;
+    EndProcess(0);
+    return false;
+}
+
+bool ShowSplash() {
+    frmSplash().exec();
+    return true;
+}
+
+bool ReadSettings() {
+    StartSettings::ReadRest(App().AppInfo);
+    return true;
+}
+
+bool ChooseTip() {
+    App().TipOfTheDay = Tips::Next();
+    return true;
+}
+
+/// The first row's user is loaded; nothing chooses between several profiles.
+bool LoadFirstUser() {
+    User::ResetCurrent();
+    Recordset profiles(UserDB(), QStringLiteral("SELECT * FROM profiles"), Cursor::Static,
+                       Lock::ReadOnly);
+    if (profiles.RecordCount() == 0)
+        return true;
+    User& user = User::Current();
+    user.UID = profiles[QStringLiteral("UID")].Integer();
+    user.GetUserProfile(user.UID);
+    return true;
+}
+
+bool ShowFirstWindow() {
+    frmHOME* frame = TheNavigation().Frame();
+    QObject::connect(frame, &frmHOME::QuitRequested, frame, &Flow::QuitApp);
+    if (User::Current().UID != -1)
+        ShowHome();
+    else
+        frmWelcome::Open();
+    return true;
+}
+
+constexpr Step steps[] = {
+    {"users.mdb", OpenUsers},    {"foods.mdb", OpenFoods},     {"settings", ReadFirstSettings},
+    {"agreement", AskAgreement}, {"splash", ShowSplash},       {"settings", ReadSettings},
+    {"tips.txt", ChooseTip},     {"users.mdb", LoadFirstUser}, {"first window", ShowFirstWindow},
+};
+
+void StorePosition() {
+    if (!TheNavigation().HasFrame())
+        return;
+    const QPoint place = TheNavigation().Frame()->Place();
+    SetRegValue(SettingNames::Left, QString::number(Twips::FromPixels(place.x())));
+    SetRegValue(SettingNames::Top, QString::number(Twips::FromPixels(place.y())));
+}
+
+void CloseForms() {
+    TheNavigation().CloseAll();
+    QApplication::closeAllWindows();
+}
+
+void CloseConnections() {
+    UserDB().Close();
+    FoodDB().Close();
+}
+
+/// The frame where it stands open, else whichever window does.
+QWidget* AnyWindow() {
+    if (TheNavigation().HasFrame() && TheNavigation().Frame()->isVisible())
+        return TheNavigation().Frame();
+    for (QWidget* window : QApplication::topLevelWidgets())
+        if (window->isVisible())
+            return window;
+    return nullptr;
+}
+
+bool quitting = false;
+
+} // namespace
+
+int Flow::Main(SingleInstance& instance) {
+    if (!instance.Claim())
+        return 0;
+    QObject::connect(&instance, &SingleInstance::Activated, qApp, &Flow::BringForward);
+    App().AppStarted = true;
+    for (const Step& step : steps) {
+        try {
+            if (!step.run())
+                return 0;
+        } catch (const std::exception& error) {
+            StartFailure::Report(error, QString::fromLatin1(step.file));
+            return 1;
+        }
+    }
+    return 0;
+}
+
+void Flow::QuitApp() {
+    if (quitting)
+        return;
+    const QScopedValueRollback<bool> once(quitting, true);
+    try {
+        StorePosition();
+        CloseForms();
+        CloseConnections();
+    } catch (const RuntimeError&) {
+        if (HasWindow())
+            return;
+    }
+    QCoreApplication::quit();
+}
+
+bool Flow::HasWindow() {
+    return AnyWindow() != nullptr;
+}
+
+void Flow::BringForward() {
+    QWidget* modal = QApplication::activeModalWidget();
+    QWidget* window = modal ? modal : AnyWindow();
+    if (!window)
+        return;
+    window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
+    window->raise();
+    window->activateWindow();
+}

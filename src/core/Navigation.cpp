@@ -1,0 +1,194 @@
+#include "core/Navigation.h"
+
+#include "core/CurrentDay.h"
+#include "core/ScreenNames.h"
+#include "core/frmAlert.h"
+#include "core/frmHOME.h"
+#include "runtime/AppState.h"
+#include "runtime/RuntimeError.h"
+#include "runtime/Seams.h"
+#include "toolkit/MousePointer.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QScopedValueRollback>
+
+namespace {
+
+/// Takes over what is being typed, as if the person had left the field.
+void LeaveField(const QWidget* within) {
+    QWidget* field = QApplication::focusWidget();
+    if (field && within && within->isAncestorOf(field))
+        field->clearFocus();
+}
+
+} // namespace
+
+Navigation& TheNavigation() {
+    static Navigation navigation;
+    return navigation;
+}
+
+Navigation::Navigation() = default;
+Navigation::~Navigation() = default;
+
+void Navigation::Register(const QString& name, Factory factory) {
+    factories_.insert(name, std::move(factory));
+}
+
+void Navigation::InstallSeams() {
+    Seams& seams = TheSeams();
+    seams.ShowAlert = &frmAlert::Ask;
+    seams.LoadScreen = [this](const QString& name) { return LoadScreen(name); };
+    seams.ShowScreen = [this](const QString& name) { return ShowScreen(name); };
+    seams.HasScreen = [this](const QString& name) { return HasScreen(name); };
+    seams.ShowHome = [this] { ShowHome(); };
+}
+
+frmHOME* Navigation::Frame() {
+    if (!frame_) {
+        frame_ = new frmHOME;
+        connect(frame_, &frmHOME::Gather, this, &Navigation::GatherWindows);
+        frame_->Load();
+    }
+    return frame_;
+}
+
+bool Navigation::HasScreen(const QString& name) const {
+    return factories_.contains(name);
+}
+
+Screen* Navigation::LoadScreen(const QString& name) {
+    QPointer<Screen>& screen = loaded_[name];
+    if (!screen && HasScreen(name)) {
+        screen = factories_[name](Frame());
+        screen->setAttribute(Qt::WA_DeleteOnClose);
+        screen->setGeometry(Frame()->picNest()->geometry());
+        screen->hide();
+        screen->installEventFilter(this);
+    }
+    return screen;
+}
+
+/// A failure in a step skips the rest of them, and leaves the pointer as it is.
+Screen* Navigation::ShowScreen(const QString& asked) {
+    const bool standsIn = asked == ScreenNames::Home && !HasScreen(asked);
+    const QString name = standsIn ? ScreenNames::Day : asked;
+    if (!HasScreen(name))
+        return nullptr;
+    if (standsIn)
+        EnsureCurrentDate();
+    Screen* screen = nullptr;
+    try {
+        MousePointer::SetBusy();
+        if (name == ScreenNames::Profile)
+            Cover(LoadScreen(name));
+        else
+            LeaveOthers();
+        screen = LoadScreen(name);
+        screen->BeforeShow();
+        Bring(screen);
+        ShowTitle(screen->Title());
+        screen->DoWinInit();
+        MousePointer::SetNormal();
+    } catch (const RuntimeError&) {
+        return screen;
+    }
+    return screen;
+}
+
+/// All loaded screens, the one to be shown among them, are closed, or only hidden where the setting
+/// says so. One that is closed here comes up anew.
+void Navigation::LeaveOthers() {
+    LeaveField(frame_);
+    const QScopedValueRollback<bool> own(arranging_, true);
+    beneath_.clear();
+    front_.clear();
+    for (const QPointer<Screen>& screen : loaded_.values())
+        if (screen && App().AppInfo.FAST)
+            screen->hide();
+        else if (screen)
+            Close(screen);
+}
+
+void Navigation::Cover(Screen* next) {
+    if (!front_ || front_ == next)
+        return;
+    LeaveField(frame_);
+    const QScopedValueRollback<bool> own(arranging_, true);
+    beneath_ = front_;
+    beneath_->hide();
+}
+
+void Navigation::Bring(Screen* screen) {
+    front_ = screen;
+    screen->setGeometry(Frame()->picNest()->geometry());
+    screen->show();
+    screen->raise();
+    screen->update();
+}
+
+/// What the closed screen has covered comes back as it was left, unless another has come instead.
+void Navigation::Uncover() {
+    if (front_)
+        return;
+    const QPointer<Screen> screen = beneath_;
+    beneath_.clear();
+    if (screen)
+        Bring(screen);
+    ShowTitle(screen ? screen->Title() : QString());
+}
+
+void Navigation::Close(Screen* screen) {
+    loaded_.remove(screen->objectName());
+    screen->close();
+    screen->setParent(nullptr);
+}
+
+void Navigation::ShowTitle(const QString& title) {
+    App().WindowTitle = title;
+    Frame()->ShowFront(front_ ? front_->objectName() : QString());
+}
+
+void Navigation::ShowHome() {
+    Frame()->show();
+    Frame()->raise();
+    Frame()->activateWindow();
+    Frame()->update();
+}
+
+void Navigation::GatherWindows() {
+    for (const QPointer<Screen>& screen : std::as_const(loaded_))
+        if (screen)
+            screen->setGeometry(Frame()->picNest()->geometry());
+}
+
+void Navigation::CloseAll() {
+    LeaveField(frame_);
+    const QScopedValueRollback<bool> own(arranging_, true);
+    for (const QPointer<Screen>& screen : loaded_.values())
+        if (screen)
+            Close(screen);
+    loaded_.clear();
+    if (frame_)
+        frame_->close();
+}
+
+void Navigation::Reset() {
+    CloseAll();
+    delete frame_;
+    factories_.clear();
+}
+
+/// A screen that goes away by itself is forgotten. What it covered comes back when the routine that
+/// closed it has ended, so that it shows what that routine has changed.
+bool Navigation::eventFilter(QObject* watched, QEvent* event) {
+    if (arranging_ || event->type() != QEvent::HideToParent)
+        return false;
+    loaded_.remove(watched->objectName());
+    if (watched != front_)
+        return false;
+    front_.clear();
+    QMetaObject::invokeMethod(this, &Navigation::Uncover, Qt::QueuedConnection);
+    return false;
+}

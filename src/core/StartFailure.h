@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QString>
+
+#include <exception>
+
+/// How a start that has failed ends: one line on standard error that says which file and why, and
+/// above number 400 a message box, after which the process ends. All others end in silence.
+namespace StartFailure {
+/// Where the message sends the person for a newer program.
+inline constexpr auto downloadPage = "https://www.brindlewick.example/halvane/download";
+
+void Report(const std::exception& error, const QString& file);
+} // namespace StartFailure

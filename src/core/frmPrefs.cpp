@@ -1,0 +1,92 @@
+#include "core/frmPrefs.h"
+
+#include "core/ButtonRow.h"
+#include "core/SettingNames.h"
+#include "runtime/AppState.h"
+#include "runtime/Settings.h"
+#include "toolkit/Labels.h"
+#include "toolkit/Style.h"
+#include "toolkit/ucButton.h"
+
+#include <QCheckBox>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr QSize prefsSize(460, 344);
+constexpr int noteIndent = 22; ///< notes stand below the captions, clear of the boxes
+
+void Store(const QCheckBox* box, const char* name, bool& inMemory) {
+    SetRegValue(name, QLatin1String(box->isChecked() ? "True" : "False"));
+    inMemory = box->isChecked();
+}
+
+} // namespace
+
+frmPrefs::frmPrefs(QWidget* owner)
+    : Dialog(QStringLiteral("frmPrefs"), QStringLiteral("Preferences"), owner) {
+    setFixedSize(prefsSize);
+    auto* save = MakeButton(this, QStringLiteral("cmdSave"), QStringLiteral("Save"));
+    auto* cancel = MakeButton(this, QStringLiteral("cmdCancel"), QStringLiteral("Cancel"));
+    LayBoxes(LayButtonRow(Inner(), {save, cancel}));
+    setTabOrder(ckDrop_, save);
+    setTabOrder(save, cancel);
+    save->SetMainAction(true);
+    connect(save, &ucButton::Click, this, &frmPrefs::Save);
+    connect(cancel, &ucButton::Click, this, &QDialog::reject);
+    Read();
+}
+
+void frmPrefs::LayBoxes(const QRect& place) {
+    auto* area = new QWidget(this);
+    area->setGeometry(place);
+    area->setMouseTracking(true);
+    auto* column = new QVBoxLayout(area);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(TheStyle().groupGap);
+    ckFast_ = AddBox(column, "ckFast", "Use more memory to increase performance", "");
+    ckLimit_ = AddBox(column, "ckLimit", "Limit search results to 50",
+                      "Check this box to speed up search results or if you are seeing graphical "
+                      "problems with your search results.");
+    ckAUTO_ = AddBox(column, "ckAUTO", "Automatically adjust intake needs",
+                     "Checking this box will force Halvane to adjust your caloric need and RDIs "
+                     "for protein carbohydrates and fat each time you weigh in.");
+    ckDrop_ = AddBox(column, "ckDrop", "Use drop shadows behind windows",
+                     "may cause Halvane to repaint incorrectly on computers with insufficient "
+                     "RAM.");
+    column->addStretch();
+}
+
+QCheckBox* frmPrefs::AddBox(QVBoxLayout* column, const char* name, const char* caption,
+                            const char* note) {
+    QWidget* area = column->parentWidget();
+    auto* box = new QCheckBox(QLatin1String(caption), area);
+    box->setObjectName(QLatin1String(name));
+    box->setAccessibleName(box->text());
+    box->setAccessibleDescription(QLatin1String(note));
+    column->addWidget(box);
+    if (*note) {
+        QLabel* text =
+            MakeLabel(area, box->objectName() + "Note", QLatin1String(note), TextRole::Quiet);
+        text->setWordWrap(true);
+        text->setContentsMargins(noteIndent, 0, 0, 0);
+        column->addWidget(text);
+    }
+    column->addSpacing(TheStyle().boxGap);
+    return box;
+}
+
+/// The stored texts are compared exactly here, unlike at start.
+void frmPrefs::Read() {
+    ckAUTO_->setChecked(GetRegValue(SettingNames::AutoRDI) != QLatin1String("False"));
+    ckLimit_->setChecked(App().AppInfo.LIMITRESULTS);
+    ckFast_->setChecked(GetRegValue(SettingNames::Fast) == QLatin1String("True"));
+}
+
+void frmPrefs::Save() {
+    AppInfo& info = App().AppInfo;
+    Store(ckLimit_, SettingNames::Limit50, info.LIMITRESULTS);
+    Store(ckAUTO_, SettingNames::AutoRDI, info.AUTOUPDATERDI);
+    Store(ckFast_, SettingNames::Fast, info.FAST);
+    accept();
+}

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QDialog>
+
+class QTimer;
+
+/// The picture at start. It closes by itself after two seconds, and at a click or a key; as the
+/// About box, with the timer off, at a click or a key alone.
+class frmSplash : public QDialog {
+    Q_OBJECT
+
+public:
+    explicit frmSplash(QWidget* owner = nullptr);
+
+    QTimer* tmrClose() const { return tmrClose_; }
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    void LayTexts();
+
+    QTimer* tmrClose_;
+};

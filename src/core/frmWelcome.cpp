@@ -1,0 +1,60 @@
+#include "core/frmWelcome.h"
+
+#include "core/ButtonRow.h"
+#include "model/frmProfile.h"
+#include "runtime/Seams.h"
+#include "toolkit/Labels.h"
+#include "toolkit/Pictures.h"
+#include "toolkit/ucButton.h"
+
+#include <QPainter>
+
+namespace {
+
+constexpr QSize welcomeSize(480, 260);
+constexpr QRect picture(24, 62, 96, 96);
+constexpr int textLeft = 144;
+constexpr auto text =
+    "In order to begin using Halvane, you will need to create a user profile. In the following "
+    "screen you can enter your profile information. This information can be changed later by "
+    "using the Profile Manager which can be found under the \"Edit\" menu.";
+
+} // namespace
+
+frmWelcome::frmWelcome()
+    : Dialog(QStringLiteral("frmWelcome"), QStringLiteral("Welcome to Halvane")) {
+    setFixedSize(welcomeSize);
+    setAttribute(Qt::WA_DeleteOnClose);
+    auto* begin = MakeButton(this, QStringLiteral("cmdBegin"), QStringLiteral("Begin"));
+    LayText(LayButtonRow(Inner(), {begin}));
+    begin->SetMainAction(true);
+    begin->setFocus(Qt::OtherFocusReason);
+    connect(begin, &ucButton::Click, this, &frmWelcome::Begin);
+}
+
+void frmWelcome::Open() {
+    (new frmWelcome)->show();
+}
+
+void frmWelcome::LayText(const QRect& place) {
+    QLabel* label = MakeLabel(this, QStringLiteral("lblWelcome"), QLatin1String(text));
+    label->setWordWrap(true);
+    label->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    label->setGeometry(QRect(QPoint(textLeft, place.top()), place.bottomRight()));
+}
+
+void frmWelcome::Begin() {
+    accept();
+    frmProfile::CreateFirstUser();
+}
+
+void frmWelcome::reject() {
+    Dialog::reject();
+    EndProcess(0);
+}
+
+void frmWelcome::paintEvent(QPaintEvent* event) {
+    Dialog::paintEvent(event);
+    QPainter painter(this);
+    Pictures::Paint(painter, picture, QStringLiteral("logo"));
+}
