@@ -1,0 +1,130 @@
+#include "core/CoreTest.h"
+
+#include "core/Application.h"
+#include "core/FailureText.h"
+#include "runtime/RuntimeError.h"
+#include "store/Connection.h"
+#include "toolkit/MousePointer.h"
+
+#include <QMessageBox>
+#include <QTimer>
+
+#include <new>
+
+namespace {
+
+/// Fails when it is told to, as a handler of a screen does.
+class Failing : public QObject {
+public:
+    explicit Failing(std::function<void()> fail)
+        : fail_(std::move(fail)) {}
+    bool event(QEvent*) override {
+        fail_();
+        return true;
+    }
+
+private:
+    std::function<void()> fail_;
+};
+
+void Raise(const std::function<void()>& fail) {
+    Failing receiver(fail);
+    QEvent event(QEvent::User);
+    QCoreApplication::sendEvent(&receiver, &event);
+}
+
+} // namespace
+
+class ApplicationTest : public CoreTest {
+protected:
+    /// The text of the message that the failure brings.
+    QString MessageOf(const std::function<void()>& fail) {
+        QString text;
+        testing::internal::CaptureStderr();
+        WithModal(
+            [&](QWidget* window) {
+                auto* box = qobject_cast<QMessageBox*>(window);
+                ASSERT_NE(box, nullptr);
+                text = box->text();
+                EXPECT_EQ(box->textFormat(), Qt::PlainText);
+                box->accept();
+            },
+            [&] { Raise(fail); });
+        line_ = QString::fromStdString(testing::internal::GetCapturedStderr());
+        return text;
+    }
+    QString line_;
+};
+
+TEST_F(ApplicationTest, AnUnhandledFailureSaysWhatFailedWithItsNumberAndEndsTheProcess) {
+    const QString text = MessageOf([] { throw RuntimeError(13, QStringLiteral("Type mismatch")); });
+    EXPECT_TRUE(text.contains(QStringLiteral("Type mismatch")));
+    EXPECT_TRUE(text.contains(QStringLiteral("enter a plain number")));
+    EXPECT_TRUE(text.endsWith(QStringLiteral("Error 13")));
+    EXPECT_EQ(endings, QList<int>{1});
+    EXPECT_TRUE(line_.startsWith(QStringLiteral("halvane: Type mismatch (13)\n")));
+}
+
+TEST_F(ApplicationTest, EachKindOfFailureSaysWhatThePersonCanDo) {
+    const auto text = [](int number) {
+        return FailureText::Unhandled(RuntimeError(number, QStringLiteral("why")));
+    };
+    EXPECT_TRUE(text(6).contains(QStringLiteral("smaller")));
+    EXPECT_TRUE(text(53).contains(QStringLiteral("put it back")));
+    EXPECT_TRUE(text(94).contains(QStringLiteral("no value")));
+    EXPECT_TRUE(text(3021).contains(QStringLiteral("no longer there")));
+    EXPECT_TRUE(text(-1).contains(QStringLiteral("apostrophe")));
+    EXPECT_TRUE(text(438).contains(QStringLiteral("start Halvane again")));
+}
+
+TEST_F(ApplicationTest, RunningOutOfMemoryTakesTheSamePath) {
+    const QString text = MessageOf([] { throw std::bad_alloc(); });
+    EXPECT_TRUE(text.contains(QStringLiteral("out of memory")));
+    EXPECT_TRUE(text.endsWith(QStringLiteral("Error 7")));
+    EXPECT_EQ(endings, QList<int>{1});
+}
+
+TEST_F(ApplicationTest, AFailureWhileTheMessageStandsStaysUnsaid) {
+    int messages = 0;
+    testing::internal::CaptureStderr();
+    WithModal(
+        [&](QWidget* box) {
+            ++messages;
+            Raise([] { throw RuntimeError(94, QStringLiteral("Invalid use of Null")); });
+            EXPECT_EQ(QApplication::activeModalWidget(), box);
+            box->close();
+        },
+        [] { Raise([] { throw RuntimeError(6, QStringLiteral("Overflow")); }); });
+    testing::internal::GetCapturedStderr();
+    EXPECT_EQ(messages, 1);
+    EXPECT_EQ(endings, QList<int>{1});
+}
+
+TEST_F(ApplicationTest, TheBusyPointerDoesNotStayOverTheMessage) {
+    MousePointer::SetBusy();
+    bool busy = true;
+    testing::internal::CaptureStderr();
+    WithModal([&](QWidget*) { busy = MousePointer::IsBusy(); },
+              [] { Raise([] { throw RuntimeError(6, QStringLiteral("Overflow")); }); });
+    testing::internal::GetCapturedStderr();
+    EXPECT_FALSE(busy);
+}
+
+TEST_F(ApplicationTest, WhatWasCommittedBeforeAFailureStays) {
+    OpenDatabases();
+    const qint32 uid = AddUser(QStringLiteral("Anna"));
+    MessageOf([this] {
+        Users(QStringLiteral("INSERT INTO USER_WEIGHTS (UID, UDate, Weight) "
+                             "VALUES (1, '2026-11-21', 150)"));
+        throw RuntimeError(-1, QStringLiteral("syntax error"));
+    });
+    EXPECT_EQ(uid, 1);
+    EXPECT_EQ(Users(QStringLiteral("SELECT Weight FROM USER_WEIGHTS")).toDouble(), 150);
+}
+
+TEST_F(ApplicationTest, EventsThatDoNotFailPassThrough) {
+    bool met = false;
+    Raise([&] { met = true; });
+    EXPECT_TRUE(met);
+    EXPECT_TRUE(endings.isEmpty());
+}

@@ -1,0 +1,132 @@
+#include "core/CoreTest.h"
+
+#include "core/Flow.h"
+#include "core/Navigation.h"
+#include "core/SingleInstance.h"
+#include "core/frmHOME.h"
+#include "runtime/AppPath.h"
+#include "runtime/RuntimeError.h"
+#include "runtime/Seams.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QTest>
+#include <QTimer>
+
+QStringList& ScreenLog() {
+    static QStringList log;
+    return log;
+}
+
+LoggedScreen::LoggedScreen(const QString& name, const QString& title, QWidget* parent)
+    : Screen(name, title, parent) {
+    Note("made");
+}
+
+LoggedScreen::~LoggedScreen() {
+    Note("gone");
+}
+
+void LoggedScreen::BeforeShow() {
+    Note("BeforeShow");
+}
+
+void LoggedScreen::DoWinInit() {
+    Note("DoWinInit");
+    if (failing == objectName())
+        throw RuntimeError(ErrorNumber::NoCurrentRecord, QStringLiteral("no current record"));
+}
+
+void LoggedScreen::showEvent(QShowEvent* event) {
+    Screen::showEvent(event);
+    Note("shown");
+}
+
+void LoggedScreen::hideEvent(QHideEvent* event) {
+    Screen::hideEvent(event);
+    Note("hidden");
+}
+
+void LoggedScreen::Note(const char* what) {
+    ScreenLog() << QString(objectName() + u' ' + QLatin1String(what));
+}
+
+void CoreTest::SetUp() {
+    HalvaneTest::SetUp();
+    const auto queue = TheSeams().ShowAlert;
+    TheNavigation().InstallSeams();
+    TheSeams().ShowAlert = queue;
+    ScreenLog().clear();
+    LoggedScreen::failing.clear();
+    const auto close = [](QWidget* window) { window->close(); };
+    answers[QStringLiteral("frmSplash")] = [](QWidget* splash) { Click(splash); };
+    answers[QStringLiteral("frmEULA")] = [](QWidget* agreement) {
+        Click(Find(agreement, QStringLiteral("cmdAccept")));
+    };
+    answers[QString()] = close;
+}
+
+void CoreTest::TearDown() {
+    TheNavigation().Reset();
+    for (QWidget* window : QApplication::topLevelWidgets())
+        window->hide();
+    RunDeferredDeletes();
+    HalvaneTest::TearDown();
+}
+
+void CoreTest::Activate(QWidget* window) {
+    window->activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(window));
+}
+
+void CoreTest::RunDeferredDeletes() {
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+void CoreTest::Deliver() {
+    for (const char* name : {"users.mdb", "foods.mdb", "tips.txt", "agreement.txt"})
+        ASSERT_TRUE(QFile::copy(QStringLiteral(HALVANE_BUILD_DIR "/delivered/") + name,
+                                FileBeside(QLatin1String(name))));
+}
+
+void CoreTest::WriteFile(const QString& name, const QByteArray& bytes) {
+    QFile file(FileBeside(name));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+    file.write(bytes);
+}
+
+QByteArray CoreTest::ReadFile(const QString& name) {
+    QFile file(FileBeside(name));
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << name.toStdString();
+    return file.readAll();
+}
+
+void CoreTest::AddLoggedScreen(const QString& name, const QString& title) {
+    TheNavigation().Register(
+        name, [name, title](QWidget* parent) { return new LoggedScreen(name, title, parent); });
+}
+
+int CoreTest::RunMain() {
+    QTimer watch;
+    QObject::connect(&watch, &QTimer::timeout, [&] {
+        QWidget* modal = QApplication::activeModalWidget();
+        if (!modal || !modal->isVisible())
+            return;
+        modals << modal->objectName();
+        answers.value(modal->objectName(), answers[QString()])(modal);
+    });
+    watch.start(0);
+    SingleInstance instance(Folder());
+    testing::internal::CaptureStderr();
+    const int exitCode = Flow::Main(instance);
+    stderrText = QString::fromStdString(testing::internal::GetCapturedStderr());
+    return exitCode;
+}
+
+QWidget* CoreTest::Window(const QString& name) {
+    for (QWidget* window : QApplication::topLevelWidgets())
+        if (window->objectName() == name && window->isVisible())
+            return window;
+    return nullptr;
+}

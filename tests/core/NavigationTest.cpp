@@ -1,0 +1,258 @@
+#include "core/CoreTest.h"
+
+#include "core/Navigation.h"
+#include "core/frmHOME.h"
+#include "runtime/AppState.h"
+#include "runtime/Clock.h"
+#include "runtime/Seams.h"
+#include "toolkit/MousePointer.h"
+
+#include <QCoreApplication>
+#include <QLineEdit>
+#include <QTest>
+
+class NavigationTest : public CoreTest {
+protected:
+    void SetUp() override {
+        CoreTest::SetUp();
+        AddLoggedScreen(QStringLiteral("frmDay"), QStringLiteral("Daily Details"));
+        AddLoggedScreen(QStringLiteral("frmReport"), QStringLiteral("Reports"));
+        AddLoggedScreen(QStringLiteral("frmProfile"), QStringLiteral("My Profile"));
+        ::ShowHome();
+        ScreenLog().clear();
+    }
+    void TearDown() override {
+        MousePointer::SetNormal();
+        CoreTest::TearDown();
+    }
+    Screen* Show(const char* name) {
+        QObject* screen = ::ShowScreen(QLatin1String(name));
+        RunDeferredDeletes();
+        return qobject_cast<Screen*>(screen);
+    }
+    void CloseFront() {
+        TheNavigation().Front()->close();
+        QCoreApplication::sendPostedEvents();
+        RunDeferredDeletes();
+    }
+    frmHOME* Frame() { return TheNavigation().Frame(); }
+    QString Title() {
+        return Find(Frame(), QStringLiteral("aaWindow"))->property("Caption").toString();
+    }
+    QStringList TakeLog() { return std::exchange(ScreenLog(), {}); }
+};
+
+using Log = QStringList;
+
+TEST_F(NavigationTest, AScreenIsMadeShownTitledAndBroughtUpToDateInThisOrder) {
+    Screen* day = Show("frmDay");
+    ASSERT_NE(day, nullptr);
+    EXPECT_EQ(TakeLog(),
+              (Log{"frmDay made", "frmDay BeforeShow", "frmDay shown", "frmDay DoWinInit"}));
+    EXPECT_TRUE(day->isVisible());
+    EXPECT_EQ(Title(), QStringLiteral("Daily Details"));
+    EXPECT_EQ(App().WindowTitle, QStringLiteral("Daily Details"));
+    EXPECT_EQ(day->geometry(), Frame()->picNest()->geometry());
+    EXPECT_FALSE(MousePointer::IsBusy());
+}
+
+TEST_F(NavigationTest, WithoutFastLeavingAScreenClosesItAndReturningRebuildsIt) {
+    Show("frmDay");
+    Show("frmReport");
+    TakeLog();
+    Show("frmDay");
+    EXPECT_EQ(TakeLog(), (Log{"frmReport hidden", "frmDay made", "frmDay BeforeShow",
+                              "frmDay shown", "frmDay DoWinInit", "frmReport gone"}));
+    EXPECT_EQ(Frame()->findChildren<Screen*>().size(), 1);
+}
+
+TEST_F(NavigationTest, WithoutFastTheScreenInFrontIsRebuiltToo) {
+    const QPointer<Screen> first = Show("frmDay");
+    const QPointer<Screen> second = Show("frmDay");
+    EXPECT_TRUE(first.isNull());
+    EXPECT_FALSE(second.isNull());
+}
+
+TEST_F(NavigationTest, WithFastScreensStayLoadedAndHidden) {
+    App().AppInfo.FAST = true;
+    Screen* day = Show("frmDay");
+    Screen* report = Show("frmReport");
+    EXPECT_FALSE(day->isVisible());
+    EXPECT_TRUE(report->isVisible());
+    TakeLog();
+    EXPECT_EQ(Show("frmDay"), day);
+    EXPECT_EQ(TakeLog(),
+              (Log{"frmReport hidden", "frmDay BeforeShow", "frmDay shown", "frmDay DoWinInit"}));
+    EXPECT_EQ(Frame()->findChildren<Screen*>().size(), 2);
+}
+
+TEST_F(NavigationTest, ANewValueOfFastCountsAtTheNextChangeOfScreen) {
+    const QPointer<Screen> day = Show("frmDay");
+    App().AppInfo.FAST = true;
+    Show("frmReport");
+    ASSERT_FALSE(day.isNull());
+    App().AppInfo.FAST = false;
+    Show("frmReport");
+    EXPECT_TRUE(day.isNull());
+}
+
+class ProfileOverDay : public NavigationTest, public ::testing::WithParamInterface<bool> {
+protected:
+    void SetUp() override {
+        NavigationTest::SetUp();
+        App().AppInfo.FAST = GetParam();
+    }
+};
+INSTANTIATE_TEST_SUITE_P(FastOffAndOn, ProfileOverDay, ::testing::Bool());
+
+TEST_P(ProfileOverDay, ClosingItShowsTheDayAgainWithItsTitle) {
+    Screen* day = Show("frmDay");
+    Show("frmProfile");
+    EXPECT_EQ(Title(), QStringLiteral("My Profile"));
+    EXPECT_FALSE(day->isVisible());
+    TakeLog();
+    CloseFront();
+    EXPECT_EQ(TheNavigation().Front(), day);
+    EXPECT_TRUE(day->isVisible());
+    EXPECT_EQ(TakeLog(), (Log{"frmProfile hidden", "frmDay shown", "frmProfile gone"}));
+    EXPECT_EQ(Title(), QStringLiteral("Daily Details"));
+    EXPECT_EQ(App().WindowTitle, QStringLiteral("Daily Details"));
+    EXPECT_TRUE(Find(Frame(), QStringLiteral("cmdDay"))->property("Chosen").toBool());
+}
+
+TEST_P(ProfileOverDay, OpeningItAgainKeepsTheDayBeneath) {
+    Screen* day = Show("frmDay");
+    Screen* profile = Show("frmProfile");
+    EXPECT_EQ(Show("frmProfile"), profile);
+    CloseFront();
+    EXPECT_EQ(TheNavigation().Front(), day);
+    EXPECT_TRUE(day->isVisible());
+}
+
+TEST_P(ProfileOverDay, LeavingItForAnotherScreenForgetsWhatItCovered) {
+    Show("frmDay");
+    Show("frmProfile");
+    Screen* report = Show("frmReport");
+    EXPECT_EQ(TheNavigation().Front(), report);
+    EXPECT_TRUE(report->isVisible());
+    for (Screen* other : Frame()->findChildren<Screen*>())
+        EXPECT_EQ(other->isVisible(), other == report);
+    EXPECT_EQ(Title(), QStringLiteral("Reports"));
+}
+
+TEST_P(ProfileOverDay, AScreenThatComesInsteadIsNotCovered) {
+    Show("frmDay");
+    Show("frmProfile");
+    TheNavigation().Front()->close();
+    Screen* report = qobject_cast<Screen*>(::ShowScreen(QStringLiteral("frmReport")));
+    QCoreApplication::sendPostedEvents();
+    EXPECT_EQ(TheNavigation().Front(), report);
+    EXPECT_TRUE(report->isVisible());
+    EXPECT_EQ(Title(), QStringLiteral("Reports"));
+}
+
+TEST_F(NavigationTest, AScreenThatClosesWithNothingBeneathLeavesAnEmptyTitle) {
+    Show("frmProfile");
+    CloseFront();
+    EXPECT_EQ(TheNavigation().Front(), nullptr);
+    EXPECT_EQ(Title(), QString());
+    EXPECT_NE(Show("frmProfile"), nullptr);
+}
+
+TEST_F(NavigationTest, HidingTheFrameForgetsNoScreen) {
+    Screen* day = Show("frmDay");
+    Frame()->hide();
+    Frame()->show();
+    EXPECT_EQ(TheNavigation().Front(), day);
+    EXPECT_EQ(::LoadScreen(QStringLiteral("frmDay")), day);
+}
+
+TEST_F(NavigationTest, GatherWindowsPlacesHiddenScreensToo) {
+    App().AppInfo.FAST = true;
+    Screen* day = Show("frmDay");
+    Screen* report = Show("frmReport");
+    day->move(5, 5);
+    report->move(7, 7);
+    TheNavigation().GatherWindows();
+    EXPECT_EQ(day->geometry(), Frame()->picNest()->geometry());
+    EXPECT_EQ(report->geometry(), Frame()->picNest()->geometry());
+}
+
+TEST_F(NavigationTest, MovingTheFrameKeepsTheScreenInTheNest) {
+    Screen* day = Show("frmDay");
+    Frame()->move(240, 130);
+    EXPECT_EQ(day->mapToGlobal(QPoint()), Frame()->picNest()->mapToGlobal(QPoint()));
+}
+
+TEST_F(NavigationTest, LoadScreenMakesItWithoutShowingIt) {
+    QObject* report = ::LoadScreen(QStringLiteral("frmReport"));
+    ASSERT_NE(report, nullptr);
+    EXPECT_EQ(TakeLog(), (Log{"frmReport made"}));
+    EXPECT_EQ(::LoadScreen(QStringLiteral("frmReport")), report);
+}
+
+TEST_F(NavigationTest, AScreenThatIsNotRegisteredIsNull) {
+    EXPECT_FALSE(::HasScreen(QStringLiteral("frmRecipeManager")));
+    EXPECT_EQ(::LoadScreen(QStringLiteral("frmRecipeManager")), nullptr);
+    Screen* day = Show("frmDay");
+    EXPECT_EQ(Show("frmRecipeManager"), nullptr);
+    EXPECT_EQ(TheNavigation().Front(), day);
+    EXPECT_FALSE(MousePointer::IsBusy());
+}
+
+TEST_F(NavigationTest, WithoutAHomeScreenTheDayStandsInForTodayWhereNoDayIsSet) {
+    Clock::SetToday(QDate(2026, 11, 21));
+    EXPECT_FALSE(::HasScreen(QStringLiteral("frmMain")));
+    EXPECT_EQ(Show("frmMain")->objectName(), QStringLiteral("frmDay"));
+    EXPECT_EQ(App().CurrentDate, QDate(2026, 11, 21));
+}
+
+TEST_F(NavigationTest, ADayBeforeDecember1992CountsAsUnset) {
+    Clock::SetToday(QDate(2026, 11, 21));
+    App().CurrentDate = QDate(1992, 11, 30);
+    Show("frmMain");
+    EXPECT_EQ(App().CurrentDate, QDate(2026, 11, 21));
+    App().CurrentDate = QDate(1992, 12, 1);
+    Show("frmMain");
+    EXPECT_EQ(App().CurrentDate, QDate(1992, 12, 1));
+}
+
+TEST_F(NavigationTest, AHomeScreenThatIsRegisteredIsShownItself) {
+    AddLoggedScreen(QStringLiteral("frmMain"), QStringLiteral("Main"));
+    EXPECT_EQ(Show("frmMain")->objectName(), QStringLiteral("frmMain"));
+}
+
+TEST_F(NavigationTest, AFailureInAStepSkipsTheRestWithoutAMessageAndLeavesThePointer) {
+    LoggedScreen::failing = QStringLiteral("frmReport");
+    Show("frmReport");
+    EXPECT_EQ(Title(), QStringLiteral("Reports"));
+    EXPECT_TRUE(MousePointer::IsBusy());
+    EXPECT_NE(Show("frmDay"), nullptr);
+    EXPECT_FALSE(MousePointer::IsBusy());
+    EXPECT_EQ(Title(), QStringLiteral("Daily Details"));
+}
+
+TEST_F(NavigationTest, WhatIsBeingTypedIsTakenOverBeforeTheScreenGoes) {
+    Screen* day = Show("frmDay");
+    auto* field = new QLineEdit(day);
+    field->show();
+    Activate(Frame());
+    field->setFocus();
+    ASSERT_TRUE(field->hasFocus());
+    QTest::keyClicks(field, QStringLiteral("150"));
+    int left = 0;
+    QObject::connect(field, &QLineEdit::editingFinished, [&] {
+        ++left;
+        EXPECT_TRUE(day->isVisible());
+    });
+    Show("frmReport");
+    EXPECT_EQ(left, 1);
+}
+
+TEST_F(NavigationTest, TheTitleFloatsAboveTheScreen) {
+    Screen* day = Show("frmDay");
+    auto* title = Find(Frame(), QStringLiteral("aaWindow"));
+    const QObjectList children = Frame()->children();
+    EXPECT_GT(children.indexOf(title), children.indexOf(day));
+    EXPECT_TRUE(day->geometry().contains(title->geometry()));
+}

@@ -1,0 +1,264 @@
+#include "core/CoreTest.h"
+
+#include "core/FramePlace.h"
+#include "core/Navigation.h"
+#include "core/frmHOME.h"
+#include "model/User.h"
+#include "model/frmProfile.h"
+#include "runtime/AppState.h"
+#include "runtime/Seams.h"
+#include "toolkit/Twips.h"
+#include "toolkit/ucButtonA.h"
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QScreen>
+#include <QTest>
+#include <QTimer>
+
+namespace {
+
+struct ButtonRow {
+    const char* name;
+    const char* screen;
+    const char* hover;
+};
+
+constexpr ButtonRow screenButtons[] = {
+    {"cmdCal", "frmMain", "Main"},
+    {"cmdDay", "frmDay", "Daily Details"},
+    {"cmdReport", "frmReport", "Reports"},
+    {"cmdCustomFoods", "frmFoodList", "Custom Foods"},
+    {"cmdRecipes", "frmRecipeManager", "Recipe Manager"},
+};
+
+} // namespace
+
+class frmHOMETest : public CoreTest {
+protected:
+    void RegisterAll() {
+        for (const ButtonRow& row : screenButtons)
+            AddLoggedScreen(QLatin1String(row.screen), QLatin1String(row.hover));
+    }
+    frmHOME* Open() {
+        ::ShowHome();
+        return Frame();
+    }
+    frmHOME* Frame() { return TheNavigation().Frame(); }
+    ucButtonA* Button(const char* name) { return Find<ucButtonA>(Frame(), QLatin1String(name)); }
+    QString Title() {
+        return Find(Frame(), QStringLiteral("aaWindow"))->property("Caption").toString();
+    }
+};
+
+TEST_F(frmHOMETest, TheFrameIsBorderlessAndOfItsFixedSize) {
+    Open();
+    EXPECT_EQ(Frame()->size(), QSize(850, 620));
+    EXPECT_TRUE(Frame()->windowFlags().testFlag(Qt::FramelessWindowHint));
+    EXPECT_EQ(Frame()->windowTitle(), QStringLiteral("Halvane"));
+    EXPECT_EQ(Frame()->picNest()->geometry(), QRect(84, 58, 850 - 84, 620 - 58));
+    EXPECT_FALSE(Frame()->windowIcon().isNull());
+}
+
+TEST_F(frmHOMETest, EachButtonBringsItsScreenAndIsThenChosen) {
+    RegisterAll();
+    Open();
+    for (const ButtonRow& row : screenButtons) {
+        Click(Button(row.name));
+        EXPECT_EQ(TheNavigation().Front()->objectName(), QLatin1String(row.screen));
+        for (const ButtonRow& other : screenButtons)
+            EXPECT_EQ(Button(other.name)->Chosen(), &other == &row) << row.name << other.name;
+    }
+}
+
+TEST_F(frmHOMETest, AButtonWhoseScreenIsNotRegisteredIsDisabledAndSaysWhy) {
+    AddLoggedScreen(QStringLiteral("frmDay"), QStringLiteral("Daily Details"));
+    Open();
+    EXPECT_TRUE(Button("cmdDay")->isEnabled());
+    for (const char* name :
+         {"cmdCal", "cmdReport", "cmdCustomFoods", "cmdRecipes", "cmdCommunity", "cmdLogo"}) {
+        EXPECT_FALSE(Button(name)->isEnabled()) << name;
+        EXPECT_TRUE(Button(name)->toolTip().contains(QStringLiteral("later version"))) << name;
+        EXPECT_EQ(Button(name)->accessibleDescription(), Button(name)->toolTip()) << name;
+        EXPECT_FALSE(Button(name)->accessibleName().isEmpty()) << name;
+        Click(Button(name));
+    }
+    EXPECT_EQ(TheNavigation().Front(), nullptr);
+}
+
+TEST_F(frmHOMETest, TheDayButtonIsChosenWhereTheDayStandsInForTheHomeScreen) {
+    AddLoggedScreen(QStringLiteral("frmDay"), QStringLiteral("Daily Details"));
+    Open();
+    ::ShowScreen(QStringLiteral("frmMain"));
+    EXPECT_TRUE(Button("cmdDay")->Chosen());
+    EXPECT_FALSE(Button("cmdCal")->Chosen());
+}
+
+TEST_F(frmHOMETest, HoveringAButtonShowsItsTextAndTakesTheHighlightOffTheOthers) {
+    RegisterAll();
+    Open();
+    ::ShowScreen(QStringLiteral("frmDay"));
+    for (const ButtonRow& row : screenButtons) {
+        Hover(Button(row.name));
+        EXPECT_EQ(Title(), QLatin1String(row.hover));
+        for (const ButtonRow& other : screenButtons)
+            EXPECT_EQ(Button(other.name)->Shown(),
+                      &other == &row ? QStringLiteral("img_ROLL") : QStringLiteral("img_NORM"))
+                << row.name << other.name;
+    }
+}
+
+TEST_F(frmHOMETest, LeavingAButtonBringsTheScreensTitleBack) {
+    RegisterAll();
+    Open();
+    ::ShowScreen(QStringLiteral("frmDay"));
+    Hover(Button("cmdReport"));
+    QEvent leave(QEvent::Leave);
+    QCoreApplication::sendEvent(Button("cmdReport"), &leave);
+    EXPECT_EQ(Title(), QStringLiteral("Daily Details"));
+    EXPECT_EQ(Button("cmdReport")->Shown(), QStringLiteral("img_NORM"));
+}
+
+TEST_F(frmHOMETest, MovingOverTheTitleTheBandOrTheTitleBarTakesAllHighlightsOff) {
+    RegisterAll();
+    Open();
+    ::ShowScreen(QStringLiteral("frmDay"));
+    for (const char* name : {"aaWindow", "picFrameTop", "ucTitle"}) {
+        Hover(Button("cmdReport"));
+        EXPECT_EQ(Title(), QStringLiteral("Reports"));
+        Hover(Find(Frame(), QLatin1String(name)), QPoint(300, 5));
+        EXPECT_EQ(Title(), QStringLiteral("Daily Details")) << name;
+        EXPECT_EQ(Button("cmdReport")->Shown(), QStringLiteral("img_NORM")) << name;
+    }
+}
+
+TEST_F(frmHOMETest, AllOffComparesNamesWithoutRegardToCaseAndKeepsTheTitle) {
+    RegisterAll();
+    Open();
+    ::ShowScreen(QStringLiteral("frmDay"));
+    Hover(Button("cmdCal"));
+    Frame()->AllOff(QStringLiteral("cmdcal"));
+    EXPECT_EQ(Button("cmdCal")->Shown(), QStringLiteral("img_ROLL"));
+    EXPECT_EQ(Title(), QStringLiteral("Main"));
+    Frame()->AllOff(QString());
+    EXPECT_EQ(Button("cmdCal")->Shown(), QStringLiteral("img_NORM"));
+    EXPECT_EQ(Title(), QStringLiteral("Daily Details"));
+}
+
+TEST_F(frmHOMETest, ItsTimerTakesTheHighlightsOffWhereThePointerIsOutside) {
+    RegisterAll();
+    Open()->move(400, 300);
+    QCursor::setPos(1, 1);
+    auto* cleanUp = Find<QTimer>(Frame(), QStringLiteral("cleanUp"));
+    EXPECT_EQ(cleanUp->interval(), 250);
+    Hover(Button("cmdCal"));
+    EXPECT_TRUE(
+        QTest::qWaitFor([&] { return Button("cmdCal")->Shown() == QStringLiteral("img_NORM"); }));
+}
+
+TEST_F(frmHOMETest, TheMinimiseButtonMinimisesAndThePlaceIsKept) {
+    Open()->move(120, 90);
+    Click(Button("cmdMin"));
+    EXPECT_TRUE(Frame()->isMinimized());
+    EXPECT_EQ(Frame()->Place(), QPoint(120, 90));
+}
+
+TEST_F(frmHOMETest, EveryWayToCloseAsksToQuit) {
+    Open();
+    int asked = 0;
+    QObject::connect(Frame(), &frmHOME::QuitRequested, [&] { ++asked; });
+    Click(Button("cmdQuit"));
+    EXPECT_EQ(asked, 1);
+    Activate(Frame());
+    QTest::keyClick(Frame(), Qt::Key_Q, Qt::ControlModifier);
+    EXPECT_EQ(asked, 2);
+    QTest::keyClick(Frame(), Qt::Key_F4, Qt::AltModifier);
+    EXPECT_EQ(asked, 3);
+    Frame()->close();
+    EXPECT_EQ(asked, 4);
+}
+
+TEST_F(frmHOMETest, ThePreferencesOpenOverItFromTheBandAndByTheKeyboard) {
+    Open();
+    const auto close = [this](QWidget* dialog) {
+        EXPECT_EQ(dialog->objectName(), QStringLiteral("frmPrefs"));
+        EXPECT_EQ(dialog->parentWidget(), Frame());
+        dialog->close();
+    };
+    WithModal(close, [this] { Click(Find(Frame(), QStringLiteral("cmdPreferences"))); });
+    Activate(Frame());
+    WithModal(close, [this] { QTest::keyClick(Frame(), Qt::Key_Comma, Qt::ControlModifier); });
+    auto* button = Find(Frame(), QStringLiteral("cmdPreferences"));
+    WithModal(close, [button] { QTest::keyClick(button, Qt::Key_Return); });
+    WithModal(close, [button] { QTest::keyClick(button, Qt::Key_Space); });
+}
+
+TEST_F(frmHOMETest, ItTakesItsStoredPlaceInTwips) {
+    App().AppInfo.UILEFT = Twips::FromPixels(37);
+    App().AppInfo.UITOP = Twips::FromPixels(21);
+    Open();
+    EXPECT_EQ(Frame()->pos(), QPoint(37, 21));
+}
+
+TEST_F(frmHOMETest, AnEmptyStorePlacesItInTheUpperLeftCorner) {
+    Open();
+    EXPECT_EQ(Frame()->pos(), QPoint(0, 0));
+}
+
+TEST_F(frmHOMETest, AStoredPlaceOutsideEveryScreenBecomesTheMiddleOfThePrimaryOne) {
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    const QSize size(850, 620);
+    for (const QPoint far :
+         {QPoint(100000, 0), QPoint(0, 100000), QPoint(-900, 0), QPoint(0, -40),
+          QPoint(screen.right() - 10, 0), QPoint(-2147483, -2147483), QPoint(0, screen.bottom())}) {
+        const QPoint place = PlaceOnScreens(far, size, 34);
+        EXPECT_EQ(QRect(place, size).center(), screen.center()) << far.x() << ' ' << far.y();
+    }
+    for (const QPoint near : {QPoint(0, 0), QPoint(-700, 10), QPoint(screen.right() - 100, 5)})
+        EXPECT_EQ(PlaceOnScreens(near, size, 34), near) << near.x() << ' ' << near.y();
+}
+
+TEST_F(frmHOMETest, ItShowsTheFirstScreenOnlyWhereThereIsAUser) {
+    AddLoggedScreen(QStringLiteral("frmDay"), QStringLiteral("Daily Details"));
+    Open();
+    EXPECT_EQ(TheNavigation().Front(), nullptr);
+    TheNavigation().Reset();
+    AddLoggedScreen(QStringLiteral("frmDay"), QStringLiteral("Daily Details"));
+    User::Current().UID = 5;
+    Open();
+    ASSERT_NE(TheNavigation().Front(), nullptr);
+    EXPECT_TRUE(TheNavigation().Front()->isVisible());
+}
+
+TEST_F(frmHOMETest, TabWalksTitleBarBandAndColumnInReadingOrder) {
+    RegisterAll();
+    Activate(Open());
+    Button("cmdMin")->setFocus(Qt::TabFocusReason);
+    QStringList names;
+    for (int step = 0; step < 9; ++step) {
+        names << QApplication::focusWidget()->objectName();
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    }
+    const QStringList wanted{QStringLiteral("cmdMin"),         QStringLiteral("cmdQuit"),
+                             QStringLiteral("cmdEditProfile"), QStringLiteral("cmdPreferences"),
+                             QStringLiteral("cmdCal"),         QStringLiteral("cmdDay"),
+                             QStringLiteral("cmdReport"),      QStringLiteral("cmdCustomFoods"),
+                             QStringLiteral("cmdRecipes")};
+    EXPECT_EQ(names, wanted);
+}
+
+TEST_F(frmHOMETest, TheCommandOfTheProfileEditsTheCurrentUserAndCancelLeadsBack) {
+    OpenDatabases();
+    AddUser(QStringLiteral("Anna"));
+    AddLoggedScreen(QStringLiteral("frmDay"), QStringLiteral("Daily Details"));
+    TheNavigation().Register<frmProfile>(QStringLiteral("frmProfile"));
+    Open();
+    Click(Find(Frame(), QStringLiteral("cmdEditProfile")));
+    Screen* profile = TheNavigation().Front();
+    ASSERT_EQ(profile->objectName(), QStringLiteral("frmProfile"));
+    EXPECT_EQ(Find<QLineEdit>(profile, QStringLiteral("txtUserName"))->text(),
+              QStringLiteral("Anna"));
+    Click(Find(profile, QStringLiteral("cmdCancel")));
+    QCoreApplication::sendPostedEvents();
+    EXPECT_EQ(TheNavigation().Front()->objectName(), QStringLiteral("frmDay"));
+}
