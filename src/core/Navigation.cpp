@@ -45,6 +45,10 @@ void Navigation::InstallSeams() {
     seams.ShowHome = [this] { ShowHome(); };
 }
 
+bool Navigation::HasFrame() const {
+    return frame_ != nullptr;
+}
+
 frmHOME* Navigation::Frame() {
     if (!frame_) {
         frame_ = new frmHOME;

@@ -28,7 +28,7 @@ public:
     }
     void InstallSeams(); ///< makes this what the seams of the lower floors reach
 
-    bool HasFrame() const { return frame_ != nullptr; }
+    bool HasFrame() const;
     frmHOME* Frame(); ///< loaded on first use
     Screen* Front() const { return front_; }
 
