@@ -5,6 +5,8 @@
 
 #include <QApplication>
 
+static constexpr QSize calendarSize(280, 212);
+
 DayCalendar::DayCalendar(QWidget* parent)
     : ucBox(QStringLiteral("Select a date"), parent)
     , smCal_(new MonthCalendar(this)) {
@@ -24,7 +26,7 @@ DayCalendar::~DayCalendar() {
 }
 
 QSize DayCalendar::sizeHint() const {
-    return smCal_->sizeHint() + QSize(2, TheStyle().headerHeight + 2);
+    return calendarSize + QSize(2, TheStyle().headerHeight + 2);
 }
 
 void DayCalendar::resizeEvent(QResizeEvent* event) {
@@ -42,10 +44,8 @@ void DayCalendar::Open(QDate day) {
 
 /// A click can come with an activation: the first of the two counts.
 void DayCalendar::OnPick(QDate day) {
-    if (isHidden())
-        return;
-    hide();
-    Q_EMIT Picked(day);
+    if (!isHidden())
+        Q_EMIT Picked(day);
 }
 
 /// Another program in front leaves the focus where it is.

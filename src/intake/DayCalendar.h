@@ -19,7 +19,7 @@ public:
     QSize sizeHint() const override;
 
 Q_SIGNALS:
-    void Picked(QDate day);
+    void Picked(QDate day); ///< the host closes the panel
 
 protected:
     void resizeEvent(QResizeEvent*) override;

@@ -66,7 +66,7 @@ void MealHeading::paintEvent(QPaintEvent*) {
         QRect(width() - signRight - signSide, (height() - signSide) / 2, signSide, signSide),
         QStringLiteral("add"), ForeColor());
     if (FocusShown())
-        PaintFocusRing(painter, rect(), style.fieldRadius);
+        PaintFocusRing(painter, rect().adjusted(2, 1, -1, -1), style.fieldRadius);
 }
 
 void MealHeading::mousePressEvent(QMouseEvent* event) {

@@ -17,6 +17,7 @@ public:
     bool Lit() const { return lit_; }
     void SetLit(bool lit);
     QSize sizeHint() const override;
+    QAccessible::Role AccessibleRole() const override { return QAccessible::Button; }
 
 protected:
     void paintEvent(QPaintEvent*) override;

@@ -3,7 +3,9 @@
 #include <QFocusEvent>
 
 WeightField::WeightField(QWidget* parent)
-    : QLineEdit(parent) {}
+    : QLineEdit(parent) {
+    connect(this, &QLineEdit::textEdited, this, [this] { entered_ = true; });
+}
 
 void WeightField::focusInEvent(QFocusEvent* event) {
     QLineEdit::focusInEvent(event);

@@ -10,7 +10,7 @@ class WeightField : public QLineEdit {
 public:
     explicit WeightField(QWidget* parent = nullptr);
 
-    bool HoldsUnsaved() const { return entered_ && isModified(); }
+    bool HoldsUnsaved() const { return isModified(); }
     void Leave(); ///< as if the focus went; nothing where the field is not being edited
 
 Q_SIGNALS:

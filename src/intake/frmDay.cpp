@@ -235,6 +235,8 @@ void frmDay::OpenCalendar() {
     picCal_->Open(App().CurrentDate);
 }
 
+/// The button takes the focus first: hiding the panel with the focus in it would send that on into
+/// another control.
 void frmDay::CloseCalendar() {
     cmdCal_->setFocus();
     picCal_->hide();
@@ -242,7 +244,7 @@ void frmDay::CloseCalendar() {
 
 /// Month first, whatever the machine's date settings.
 void frmDay::PickDay(QDate day) {
-    cmdCal_->setFocus();
+    CloseCalendar();
     App().CurrentDate =
         ToDate(QString(QString::number(day.month()) + u'/' + QString::number(day.day()) + u'/' +
                        QString::number(day.year())));

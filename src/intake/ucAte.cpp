@@ -13,6 +13,7 @@
 #include <QPainter>
 #include <QTextDocument>
 #include <QToolTip>
+#include <QtMath>
 
 namespace {
 
@@ -38,8 +39,12 @@ QString OneLine(const QString& text) {
     return text.left(longestShown).remove(QChar::Null).simplified();
 }
 
+int WidthOf(const QString& text, const QFont& font) {
+    return qCeil(QFontMetricsF(SmoothedFont(font)).horizontalAdvance(text));
+}
+
 void Print(QPainter& painter, const QRect& place, const QString& text, const QFont& font) {
-    const QFontMetrics metrics(SmoothedFont(font));
+    const QFontMetricsF metrics(SmoothedFont(font));
     SmoothedPrint(painter, place.topLeft(),
                   metrics.elidedText(OneLine(text), Qt::ElideRight, place.width()), font);
 }
@@ -116,6 +121,10 @@ QSize ucAte::sizeHint() const {
     return {textLeft + textRight + trashSide + trashRight, TheStyle().tallRowHeight};
 }
 
+QRect ucAte::TrashPlace() const {
+    return {width() - trashRight - trashSide, (height() - trashSide) / 2, trashSide, trashSide};
+}
+
 QRect ucAte::TextPlace() const {
     const int left = textLeft + (foodIcon_.isEmpty() ? 0 : iconSide + TheStyle().groupGap);
     const int right = width() - trashRight - trashSide - textRight;
@@ -129,21 +138,18 @@ ucAte::Layout ucAte::layoutRects() const {
     const QRect texts = TextPlace();
     const int top = (height() - name.height() - small.height()) / 2;
     const int gap = Twips::ToPixels(quantityGap);
-    const int qtyWidth = qMin(small.horizontalAdvance(qty_), texts.width());
+    const int qtyWidth = qMin(WidthOf(qty_, TheStyle().small), texts.width());
     const int servWidth =
-        qMin(small.horizontalAdvance(OneLine(serv_)), qMax(0, texts.width() - gap - qtyWidth));
+        qMin(WidthOf(OneLine(serv_), TheStyle().small), qMax(0, texts.width() - gap - qtyWidth));
     const int second = top + name.height();
-    return {
-        QRect(textLeft, (height() - iconSide) / 2, iconSide, iconSide),
-        QRect(texts.left(), top, texts.width(), name.height()),
-        QRect(texts.left(), second, servWidth, small.height()),
-        QRect(texts.left() + servWidth + gap, second, qtyWidth, small.height()),
-        QRect(width() - trashRight - trashSide, (height() - trashSide) / 2, trashSide, trashSide)};
+    return {QRect(textLeft, (height() - iconSide) / 2, iconSide, iconSide),
+            QRect(texts.left(), top, texts.width(), name.height()),
+            QRect(texts.left(), second, servWidth, small.height()),
+            QRect(texts.left() + servWidth + gap, second, qtyWidth, small.height()), TrashPlace()};
 }
 
 void ucAte::resizeEvent(QResizeEvent*) {
-    imgTrash_->setGeometry(
-        QRect(width() - trashRight - trashSide, (height() - trashSide) / 2, trashSide, trashSide));
+    imgTrash_->setGeometry(TrashPlace());
 }
 
 void ucAte::paintEvent(QPaintEvent*) {

@@ -53,6 +53,7 @@ public:
     };
     Layout layoutRects() const;
     QSize sizeHint() const override;
+    QAccessible::Role AccessibleRole() const override { return QAccessible::ListItem; }
 
 Q_SIGNALS:
     void RemoveFood(qint32 ID);
@@ -67,6 +68,7 @@ protected:
 
 private:
     QString QuantityShown() const { return qty_; }
+    QRect TrashPlace() const;
     QRect TextPlace() const;
     void ShowTip(QPoint place, QPoint globalPlace);
     void PaintGround(QPainter& painter) const;

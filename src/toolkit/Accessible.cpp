@@ -106,7 +106,7 @@ struct RoleRow {
     QAccessible::Role role;
 };
 
-QAccessible::Role RoleOf(const QObject* object) {
+QAccessible::Role RoleOf(const DrawnControl* control) {
     static const RoleRow rows[] = {
         {&ucButton::staticMetaObject, QAccessible::Button},
         {&ucCalButton::staticMetaObject, QAccessible::Button},
@@ -116,9 +116,9 @@ QAccessible::Role RoleOf(const QObject* object) {
         {&PaintedPanel::staticMetaObject, QAccessible::StaticText},
     };
     for (const RoleRow& row : rows)
-        if (object->metaObject()->inherits(row.kind))
+        if (control->metaObject()->inherits(row.kind))
             return row.role;
-    return QAccessible::Client;
+    return control->AccessibleRole();
 }
 
 QAccessibleInterface* MakeInterface(const QString&, QObject* object) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QAccessible>
 #include <QWidget>
 
 /// What all drawn controls share: the click and mouse-move events, the test whether a place counts
@@ -15,6 +16,8 @@ public:
     bool IsInside(QPointF place) const;
     /// What a press from the keyboard or an assistive tool does.
     virtual void Activate() { Q_EMIT Click(); }
+    /// What assistive tools take it for, where the toolkit does not know the kind.
+    virtual QAccessible::Role AccessibleRole() const { return QAccessible::Client; }
 
 Q_SIGNALS:
     void Click();

@@ -13,6 +13,7 @@
 #include "toolkit/ucBox.h"
 #include "toolkit/ucButton.h"
 #include "toolkit/ucButtonA.h"
+#include "toolkit/ucRadio.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
@@ -532,6 +533,7 @@ TEST_F(frmDayTest, HeadingOpensTheDialogWithItsMealTicked) {
             [&](QWidget* dialog) {
                 EXPECT_EQ(dialog->objectName(), "frmFoodSearch");
                 EXPECT_EQ(Find<ucSearchResults>(dialog, "ucSearchResults1")->meal(), meal);
+                EXPECT_TRUE(Find<ucRadio>(dialog, "opMeal" + QString::number(meal))->Value());
             },
             [&] { Click(Heading(headings[meal])); });
 }
@@ -539,7 +541,7 @@ TEST_F(frmDayTest, HeadingOpensTheDialogWithItsMealTicked) {
 TEST_F(frmDayTest, ButtonAndEmptyPaneLeaveTheMealAsItWas) {
     Open();
     const auto dinnerIsTicked = [](QWidget* dialog) {
-        EXPECT_EQ(Find<ucSearchResults>(dialog, "ucSearchResults1")->meal(), 2);
+        EXPECT_TRUE(Find<ucRadio>(dialog, "opMeal2")->Value());
     };
     WithModal([](QWidget*) {}, [&] { Click(Heading("lblDinner")); });
     WithModal(dinnerIsTicked, [&] { Click(Button("cmdAddFoods")); });

@@ -1,10 +1,12 @@
 #include "IntakeTest.h"
 
 #include "runtime/RuntimeError.h"
+#include "toolkit/SmoothedPrint.h"
 #include "toolkit/Style.h"
 #include "toolkit/Twips.h"
 #include "toolkit/ucButtonA.h"
 
+#include <QFontMetricsF>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -28,6 +30,16 @@ TEST_F(ucAteTest, QuantityStandsRightBehindTheServing) {
     EXPECT_EQ(at.lblQTY.left(), at.lblServ.left() + at.lblServ.width() + Twips::ToPixels(120));
     EXPECT_GT(at.lblServ.width(), 0);
     EXPECT_EQ(at.lblServ.left(), at.lblFood.left());
+}
+
+TEST_F(ucAteTest, ServingAndQuantityThatFitAreShownWhole) {
+    for (const char* serving : {"1 cup", "3 oz", "1/2 cup, sliced", "1 medium (2-3/4\" dia)", ""}) {
+        line.SetServ(QLatin1String(serving));
+        const QFontMetricsF metrics(SmoothedFont(TheStyle().small));
+        const ucAte::Layout at = line.layoutRects();
+        EXPECT_EQ(metrics.elidedText(serving, Qt::ElideRight, at.lblServ.width()), serving);
+        EXPECT_EQ(metrics.elidedText("(x 1.5)", Qt::ElideRight, at.lblQTY.width()), "(x 1.5)");
+    }
 }
 
 TEST_F(ucAteTest, LongServingIsCutBeforeTheQuantity) {

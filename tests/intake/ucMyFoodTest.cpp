@@ -15,6 +15,7 @@
 #include "toolkit/ucButtonA.h"
 #include "toolkit/ucScroll.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QSignalSpy>
 #include <QTest>
@@ -434,6 +435,18 @@ TEST_F(ucMyFoodTest, HeadingsWorkFromTheKeyboard) {
     QTest::keyClick(Heading("lblDinner"), Qt::Key_Space);
     ASSERT_EQ(asked.size(), 2);
     EXPECT_EQ(asked[1][0].toInt(), 2);
+}
+
+TEST_F(ucMyFoodTest, HeadingIsAButtonToAssistiveTools) {
+    list.setDate(day);
+    QSignalSpy asked(&list, &ucMyFood::AddRequested);
+    QAccessibleInterface* heading = QAccessible::queryAccessibleInterface(Heading("lblLunch"));
+    ASSERT_NE(heading, nullptr);
+    EXPECT_EQ(heading->role(), QAccessible::Button);
+    EXPECT_EQ(heading->text(QAccessible::Name), "Lunch");
+    heading->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    ASSERT_EQ(asked.size(), 1);
+    EXPECT_EQ(asked[0][0].toInt(), 1);
 }
 
 TEST_F(ucMyFoodTest, ClickOnTheEmptyPaneAsksToAddWithTheMealLeftAsItIs) {
