@@ -5,6 +5,14 @@
 
 #include <algorithm>
 
+/// What the settings keep of a term, and few enough words for one statement.
+static constexpr int longestTerm = 255;
+
+TermField::TermField(QWidget* parent)
+    : QLineEdit(parent) {
+    setMaxLength(longestTerm);
+}
+
 static bool IsRefused(QChar typed) {
     return typed == u'"' || typed == u'*' || typed == u'\'';
 }

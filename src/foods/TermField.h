@@ -9,7 +9,7 @@ class TermField : public QLineEdit {
     Q_OBJECT
 
 public:
-    using QLineEdit::QLineEdit;
+    explicit TermField(QWidget* parent = nullptr);
 
 Q_SIGNALS:
     void SearchAsked();

@@ -1,5 +1,6 @@
 #include "foods/ucSearchResults.h"
 
+#include "foods/FoodSearch.h"
 #include "foods/ResultRows.h"
 #include "foods/SearchProgress.h"
 #include "foods/SearchTerms.h"
@@ -10,8 +11,6 @@
 #include "runtime/Seams.h"
 #include "runtime/Settings.h"
 #include "runtime/Val.h"
-#include "store/Connection.h"
-#include "store/Recordset.h"
 #include "toolkit/Labels.h"
 #include "toolkit/MousePointer.h"
 #include "toolkit/Style.h"
@@ -29,7 +28,6 @@ namespace {
 constexpr const char* meals[] = {"Breakfast", "Lunch", "Dinner", "Snacks"};
 constexpr int mealCount = std::size(meals);
 
-constexpr int lastRowRead = 200;
 constexpr int limitedRows = 50;
 constexpr double mostLogged = 99;
 
@@ -224,28 +222,10 @@ void ucSearchResults::SearchFoodsDB() {
     MousePointer::SetBusy();
     const MousePointer::NormalAtEnd normal;
     picStatus_->Begin();
-    ReadSources();
+    foods_ =
+        FoodSearch::Find(SearchTerms(txtSearchString_->text()),
+                         {ckRecipes_->isChecked(), ckCustom_->isChecked(), ckStock_->isChecked()});
     ShowResults();
-}
-
-void ucSearchResults::ReadSources() {
-    const SearchTerms terms(txtSearchString_->text());
-    if (ckRecipes_->isChecked())
-        ReadSource(UserDB(), terms.RecipeSQL(), true);
-    if (ckCustom_->isChecked())
-        ReadSource(FoodDB(), terms.CustomSQL(), false);
-    if (ckStock_->isChecked())
-        ReadSource(FoodDB(), terms.StockSQL(), false);
-}
-
-/// Name, key and servings stand at the same positions in all three statements; a recipe has one
-/// serving.
-void ucSearchResults::ReadSource(Connection& connection, const QString& source, bool recipes) {
-    Recordset rows(connection, source);
-    const int last = std::min(rows.RecordCount() - 1, lastRowRead);
-    for (int row = 0; row <= last; ++row, rows.MoveNext())
-        foods_.Add(rows[0].Text(), recipes, rows[1].Integer(), rows[2].Value(),
-                   recipes ? QVariant(QString()) : rows[3].Value());
 }
 
 void ucSearchResults::ShowResults() {

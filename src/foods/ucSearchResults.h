@@ -4,7 +4,6 @@
 #include "foods/ScaledFood.h"
 #include "toolkit/DrawnControl.h"
 
-class Connection;
 class QCheckBox;
 class ResultRows;
 class SearchProgress;
@@ -55,9 +54,6 @@ private:
     int TickedMeal() const; ///< the first that is ticked, or -1
     void TickMeal(int meal);
     bool StepMeal(const QObject* option, int key);
-
-    void ReadSources();
-    void ReadSource(Connection& connection, const QString& source, bool recipes);
 
     void LogChosenFood(int Index, qint32 ID, const QString& Serv, double QTY, bool isRecipe);
     void ExamineChosenFood(int Index, qint32 ID, const QString& Serv, double QTY, bool isRecipe);

@@ -1,0 +1,32 @@
+#include "foods/FoodSearch.h"
+
+#include "foods/SearchTerms.h"
+#include "store/Connection.h"
+#include "store/Recordset.h"
+
+#include <algorithm>
+
+namespace {
+constexpr int lastRowRead = 200;
+
+/// Name, key and servings stand at the same positions in all three statements; a recipe has one
+/// serving.
+void ReadSource(FoodList& foods, Connection& connection, const QString& source, bool recipes) {
+    Recordset rows(connection, source);
+    const int last = std::min(rows.RecordCount() - 1, lastRowRead);
+    for (int row = 0; row <= last; ++row, rows.MoveNext())
+        foods.Add(rows[0].Text(), recipes, rows[1].Integer(), rows[2].Value(),
+                  recipes ? QVariant(QString()) : rows[3].Value());
+}
+} // namespace
+
+FoodList FoodSearch::Find(const SearchTerms& terms, const Sources& sources) {
+    FoodList foods;
+    if (sources.recipes)
+        ReadSource(foods, UserDB(), terms.RecipeSQL(), true);
+    if (sources.custom)
+        ReadSource(foods, FoodDB(), terms.CustomSQL(), false);
+    if (sources.stock)
+        ReadSource(foods, FoodDB(), terms.StockSQL(), false);
+    return foods;
+}
