@@ -1,0 +1,11 @@
+#include "core/Screens.h"
+
+#include "core/Navigation.h"
+#include "core/ScreenNames.h"
+#include "intake/frmDay.h"
+#include "model/frmProfile.h"
+
+void RegisterScreens(Navigation& navigation) {
+    navigation.Register<frmDay>(ScreenNames::Day);
+    navigation.Register<frmProfile>(ScreenNames::Profile);
+}
