@@ -1,0 +1,70 @@
+#include "foods/ScaledFood.h"
+#include "intake/frmDay.h"
+#include "intake/ucMyFood.h"
+#include "model/User.h"
+#include "runtime/AppPath.h"
+#include "runtime/AppState.h"
+#include "store/Connection.h"
+#include "store/Recordset.h"
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QTest>
+
+#include <cstdio>
+
+/// log_worker FOLDER FIRST: logs foods and weights through the day screen until it is killed,
+/// numbering them from FIRST on. Each number is acknowledged on standard output once the screen has
+/// returned from saving it.
+
+namespace {
+void Acknowledge(const char* kind, int number) {
+    std::printf("%s %d\n", kind, number);
+    std::fflush(stdout);
+}
+
+void OpenFolder(const QString& folder) {
+    SetApplicationPath(folder);
+    UserDB().Open(FileBeside(QStringLiteral("users.mdb")), DatabaseKind::Users);
+    FoodDB().Open(FileBeside(QStringLiteral("foods.mdb")), DatabaseKind::Foods);
+    App().AppStarted = true;
+    App().CurrentDate = QDate(2026, 11, 21);
+    const Recordset first(UserDB(), QStringLiteral("SELECT * FROM profiles"));
+    User::Current().UID = first[QStringLiteral("UID")].Integer();
+    User::Current().GetUserProfile(User::Current().UID);
+}
+
+void LogFood(frmDay& day, int number) {
+    day.findChild<ucMyFood*>()->AddFood(
+        ScaledFood::FromCatalogue(23508, QStringLiteral("A"), number), QStringLiteral("Lunch"));
+    Acknowledge("food", number);
+}
+
+/// A weight a day, from the year 2000 on: the number is the weight and counts the days.
+void LogWeight(frmDay& day, int number) {
+    App().CurrentDate = QDate(2000, 1, 1).addDays(number);
+    day.DoWinInit();
+    auto* weight = day.findChild<QLineEdit*>(QStringLiteral("txtWeight"));
+    weight->setFocus();
+    weight->setText(QString::number(number));
+    weight->clearFocus();
+    Acknowledge("weight", number);
+}
+} // namespace
+
+int main(int argc, char** argv) {
+    if (argc < 3)
+        return 2;
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication application(argc, argv);
+    OpenFolder(QString::fromLocal8Bit(argv[1]));
+    frmDay day;
+    day.BeforeShow();
+    day.show();
+    day.DoWinInit();
+    QApplication::setActiveWindow(&day);
+    for (int number = QByteArray(argv[2]).toInt();; ++number) {
+        LogFood(day, number);
+        LogWeight(day, number);
+    }
+}

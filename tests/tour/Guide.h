@@ -1,0 +1,61 @@
+#pragma once
+
+#include <QDir>
+#include <QQueue>
+#include <QString>
+#include <QVariant>
+#include <QWidget>
+
+#include <functional>
+
+class Connection;
+
+/// Leads through the real program with real input: finds controls by name, answers modal windows in
+/// the order in which they are foreseen, takes pictures and checks what the databases hold. A check
+/// that fails is told and counted.
+class Guide : public QObject {
+public:
+    explicit Guide(const QString& pictures);
+
+    /// The next modal window must bear that object name; `visit` works in it and must close it.
+    void Foresee(const QString& window, std::function<void(QWidget*)> visit);
+
+    /// The same, before all that are foreseen already.
+    void ForeseeNext(const QString& window, std::function<void(QWidget*)> visit);
+
+    template <class T = QWidget> T* Find(const QWidget* root, const QString& name) {
+        T* found = root->findChild<T*>(name);
+        Check(found != nullptr, QStringLiteral("a control named ") + name);
+        return found;
+    }
+    QWidget* Window(const QString& name); ///< the visible window or screen of that name
+
+    void Press(QWidget* root, const QString& button);
+    void Type(QWidget* root, const QString& field,
+              const QString& text); ///< replaces the field's text
+    void HoverOver(QWidget* root, const QString& control);
+    void Picture(QWidget* window, const QString& name);
+    void Settle(); ///< lets pending paints and events run
+
+    void Check(bool holds, const QString& what);
+    void CheckValue(Connection& connection, const QString& sql, const QVariant& expected);
+
+    bool eventFilter(QObject* watched,
+                     QEvent* event) override; ///< notes the modal windows that open
+
+    int Failures() const { return failures_; }
+    bool AllForeseenCame() const { return foreseen_.isEmpty(); }
+
+private:
+    struct Stop {
+        QString window;
+        std::function<void(QWidget*)> work;
+    };
+    void Visit(QWidget* modal);
+    void TakeInput(QWidget* control);
+
+    QDir pictures_;
+    QQueue<Stop> foreseen_;
+    int failures_ = 0;
+    int taken_ = 0;
+};

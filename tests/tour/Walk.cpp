@@ -1,0 +1,323 @@
+#include "tour/Walk.h"
+
+#include "tour/Guide.h"
+
+#include "core/Application.h"
+#include "core/Flow.h"
+#include "core/Navigation.h"
+#include "core/Screens.h"
+#include "model/User.h"
+#include "runtime/AppPath.h"
+#include "runtime/AppState.h"
+#include "runtime/Clock.h"
+#include "store/Connection.h"
+
+#include <QApplication>
+#include <QCalendarWidget>
+#include <QFile>
+#include <QLineEdit>
+#include <QSettings>
+#include <QTest>
+
+namespace {
+const QString Delivered = QStringLiteral(HALVANE_BUILD_DIR "/delivered/");
+const QDate ThatDay(2026, 11, 21);
+
+struct Bite {
+    const char* heading;
+    const char* term;
+    const char* quantity;
+};
+const Bite Meals[] = {
+    {"lblBreakfast", "oats water", "1"},
+    {"lblBreakfast", "milk 2% vitamin", ".5"},
+    {"lblBreakfast", "blueberries raw", ".5"},
+    {"lblLunch", "bread whole-wheat", "2"},
+    {"lblLunch", "turkey breast roasted", "1"},
+    {"lblLunch", "apples raw skin", "1"},
+    {"lblDinner", "salmon atlantic cooked", "1.5"},
+    {"lblDinner", "broccoli cooked", "1"},
+    {"lblSnack", "almonds", "1"},
+};
+} // namespace
+
+Walk::Walk(Guide& guide, const QString& folder)
+    : guide_(guide)
+    , folder_(folder) {}
+
+void Walk::Go() {
+    UseFolder();
+    LayOut();
+    FirstStart();
+    WeighIn();
+    LogMeals();
+    LookAtDay();
+    LookAtViews();
+    RemoveOneFood();
+    KeepFoods();
+    ChangeDay();
+    EditProfile();
+    Preferences();
+    Quit();
+    guide_.Check(guide_.AllForeseenCame(), QStringLiteral("every foreseen window came"));
+}
+
+void Walk::UseFolder() {
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, folder_);
+    SetApplicationPath(folder_);
+    Clock::SetToday(ThatDay);
+}
+
+void Walk::Start() {
+    RegisterScreens(TheNavigation());
+    TheNavigation().InstallSeams();
+    Flow::Main(static_cast<Application*>(qApp)->Instance());
+}
+
+void Walk::LayOut() {
+    for (const char* name : {"users.mdb", "foods.mdb", "tips.txt", "agreement.txt"})
+        guide_.Check(QFile::copy(Delivered + name, folder_ + u'/' + name),
+                     QStringLiteral("laid out: ") + name);
+}
+
+void Walk::FirstStart() {
+    guide_.Foresee(QStringLiteral("frmEULA"), [this](QWidget* agreement) {
+        guide_.Picture(agreement, QStringLiteral("agreement"));
+        guide_.Press(agreement, QStringLiteral("cmdAccept"));
+    });
+    guide_.Foresee(QStringLiteral("frmSplash"), [this](QWidget* splash) {
+        guide_.Picture(splash, QStringLiteral("splash"));
+        QTest::mouseClick(splash, Qt::LeftButton);
+    });
+    Start();
+    QWidget* welcome = guide_.Window(QStringLiteral("frmWelcome"));
+    guide_.Picture(welcome, QStringLiteral("welcome"));
+    guide_.Foresee(QStringLiteral("frmProfile"),
+                   [this](QWidget* profile) { CreateProfile(profile); });
+    guide_.Foresee(QStringLiteral("frmAlert"), [this](QWidget* alert) {
+        guide_.Picture(alert, QStringLiteral("profile-created"));
+        guide_.Press(alert, QStringLiteral("cmdOK"));
+    });
+    guide_.Press(welcome, QStringLiteral("cmdBegin"));
+    guide_.CheckValue(
+        UserDB(),
+        QStringLiteral("SELECT UserName || ' ' || Calories || ' ' || protein FROM profiles"),
+        QStringLiteral("Tom 3149 236.0"));
+}
+
+void Walk::CreateProfile(QWidget* profile) {
+    guide_.Picture(profile, QStringLiteral("profile-empty"));
+    guide_.ForeseeNext(QStringLiteral("frmAlert"), [this](QWidget* alert) {
+        guide_.Picture(alert, QStringLiteral("alert-name-missing"));
+        guide_.Press(alert, QStringLiteral("cmdOK"));
+    });
+    guide_.Press(profile, QStringLiteral("cmdSave"));
+    guide_.CheckValue(UserDB(), QStringLiteral("SELECT count(*) FROM profiles"), 0);
+    FillProfile(profile);
+    guide_.Picture(profile, QStringLiteral("profile-filled"));
+    guide_.Press(profile, QStringLiteral("cmdSave"));
+}
+
+void Walk::FillProfile(QWidget* profile) {
+    const std::pair<const char*, const char*> fields[] = {
+        {"txtUserName", "Tom"}, {"txtAge", "40"},     {"txtFeet", "5"},
+        {"txtInches", "10"},    {"txtWeight", "200"}, {"txtDWeight", "170"}};
+    for (const auto& [field, text] : fields)
+        guide_.Type(profile, field, text);
+    guide_.Press(profile, QStringLiteral("opGender1"));
+    guide_.Press(profile, QStringLiteral("opAct2"));
+}
+
+QWidget* Walk::Day() {
+    return guide_.Window(QStringLiteral("frmDay"));
+}
+
+void Walk::WeighIn() {
+    QWidget* frame = guide_.Window(QStringLiteral("frmHOME"));
+    guide_.Picture(frame, QStringLiteral("day-empty"));
+    guide_.HoverOver(frame, QStringLiteral("cmdReport"));
+    guide_.Picture(frame, QStringLiteral("frame-hover"));
+    guide_.Foresee(QStringLiteral("frmAlert"), [this](QWidget* alert) {
+        guide_.Picture(alert, QStringLiteral("alert-weight"));
+        guide_.Press(alert, QStringLiteral("cmdOK"));
+    });
+    guide_.Type(Day(), QStringLiteral("txtWeight"), QStringLiteral("0"));
+    QTest::keyClick(guide_.Find<QWidget>(Day(), QStringLiteral("txtWeight")), Qt::Key_Tab);
+    guide_.Settle();
+    guide_.CheckValue(UserDB(), QStringLiteral("SELECT count(*) FROM USER_WEIGHTS"), 0);
+    guide_.Type(Day(), QStringLiteral("txtWeight"), QStringLiteral("198.5"));
+    QTest::keyClick(guide_.Find<QWidget>(Day(), QStringLiteral("txtWeight")), Qt::Key_Tab);
+    guide_.Settle();
+    guide_.CheckValue(UserDB(), QStringLiteral("SELECT UDate || ' ' || Weight FROM USER_WEIGHTS"),
+                      QStringLiteral("2026-11-21 198.5"));
+    guide_.CheckValue(UserDB(), QStringLiteral("SELECT current_weight FROM profiles"), 198);
+}
+
+void Walk::LogMeals() {
+    int logged = 0;
+    for (const Bite& bite : Meals) {
+        guide_.Foresee(QStringLiteral("frmFoodSearch"), [this, &bite, logged](QWidget* search) {
+            if (logged == 0) {
+                guide_.Picture(search, QStringLiteral("search-empty"));
+                NothingFound(search);
+                EmptyTerm(search);
+            }
+            LogFirst(search, bite.term, bite.quantity);
+            if (logged == 0) {
+                guide_.Picture(search, QStringLiteral("search-results"));
+                RefusedQuantity(search);
+                ExamineFirst(search);
+            }
+            guide_.Press(search, QStringLiteral("cmdDone"));
+        });
+        guide_.Press(Day(), bite.heading);
+        guide_.CheckValue(UserDB(), QStringLiteral("SELECT count(*) FROM USER_FOODS"), ++logged);
+    }
+    guide_.CheckValue(UserDB(), QStringLiteral("SELECT count(DISTINCT Meal) FROM USER_FOODS"), 4);
+}
+
+void Walk::NothingFound(QWidget* search) {
+    guide_.Type(search, QStringLiteral("txtSearchString"), QStringLiteral("no such food"));
+    guide_.Press(search, QStringLiteral("cmdGo"));
+    guide_.Picture(search, QStringLiteral("search-nothing-found"));
+}
+
+void Walk::EmptyTerm(QWidget* search) {
+    guide_.ForeseeNext(QStringLiteral("frmAlert"), [this](QWidget* alert) {
+        guide_.Picture(alert, QStringLiteral("alert-search-term"));
+        guide_.Press(alert, QStringLiteral("cmdOK"));
+    });
+    guide_.Type(search, QStringLiteral("txtSearchString"), QString());
+    guide_.Press(search, QStringLiteral("cmdGo"));
+}
+
+void Walk::LogFirst(QWidget* search, const QString& term, const QString& quantity) {
+    guide_.Type(search, QStringLiteral("txtSearchString"), term);
+    guide_.Press(search, QStringLiteral("cmdGo"));
+    QWidget* row = guide_.Find(search, QStringLiteral("ucFood1"));
+    if (!row)
+        return;
+    guide_.Type(row, QStringLiteral("txtQTY_A"), quantity);
+    guide_.Press(row, QStringLiteral("cmdEAT_a"));
+    guide_.CheckValue(UserDB(),
+                      QStringLiteral("SELECT FoodName FROM USER_FOODS ORDER BY RecID DESC LIMIT 1"),
+                      row->property("FoodName"));
+}
+
+void Walk::RefusedQuantity(QWidget* search) {
+    guide_.ForeseeNext(QStringLiteral("frmAlert"), [this](QWidget* alert) {
+        guide_.Picture(alert, QStringLiteral("alert-quantity"));
+        guide_.Press(alert, QStringLiteral("cmdOK"));
+    });
+    QWidget* row = guide_.Find(search, QStringLiteral("ucFood1"));
+    guide_.Type(row, QStringLiteral("txtQTY_A"), QStringLiteral("99.01"));
+    guide_.Press(row, QStringLiteral("cmdEAT_a"));
+    guide_.CheckValue(UserDB(), QStringLiteral("SELECT count(*) FROM USER_FOODS"), 1);
+    guide_.Type(row, QStringLiteral("txtQTY_A"), QStringLiteral("1"));
+}
+
+void Walk::ExamineFirst(QWidget* search) {
+    guide_.ForeseeNext(QStringLiteral("frmNutInfo"), [this](QWidget* facts) {
+        guide_.Picture(facts, QStringLiteral("facts"));
+        guide_.Press(facts, QStringLiteral("cmdDone"));
+    });
+    guide_.Press(guide_.Find(search, QStringLiteral("ucFood1")), QStringLiteral("imgInfo_W_A"));
+}
+
+void Walk::LookAtDay() {
+    QWidget* frame = guide_.Window(QStringLiteral("frmHOME"));
+    guide_.HoverOver(frame, QStringLiteral("aadate"));
+    guide_.Picture(frame, QStringLiteral("day"));
+    guide_.HoverOver(frame, QStringLiteral("lblLunch"));
+    guide_.Picture(frame, QStringLiteral("day-heading-hover"));
+    guide_.HoverOver(frame, QStringLiteral("lbl2"));
+    guide_.Picture(frame, QStringLiteral("day-bar-hover"));
+    guide_.HoverOver(frame, QStringLiteral("cmdClear"));
+    guide_.Picture(frame, QStringLiteral("day-button-hover"));
+}
+
+void Walk::LookAtViews() {
+    QWidget* frame = guide_.Window(QStringLiteral("frmHOME"));
+    guide_.Press(frame, QStringLiteral("cmdVals"));
+    guide_.Picture(frame, QStringLiteral("day-values"));
+    guide_.Press(frame, QStringLiteral("cmdPIEChart"));
+    guide_.Picture(frame, QStringLiteral("day-pie"));
+    guide_.Press(frame, QStringLiteral("cmdBar"));
+}
+
+void Walk::RemoveOneFood() {
+    QWidget* row = guide_.Find(Day(), QStringLiteral("ucAte1"));
+    guide_.Press(row, QStringLiteral("imgTrash"));
+    guide_.CheckValue(UserDB(), QStringLiteral("SELECT count(*) FROM USER_FOODS"),
+                      int(std::size(Meals)) - 1);
+}
+
+void Walk::KeepFoods() {
+    guide_.Foresee(QStringLiteral("frmAlert"), [this](QWidget* alert) {
+        guide_.Picture(alert, QStringLiteral("alert-clear"));
+        guide_.Press(alert, QStringLiteral("cmdCancel"));
+    });
+    guide_.Press(Day(), QStringLiteral("cmdClear"));
+    guide_.CheckValue(UserDB(), QStringLiteral("SELECT count(*) FROM USER_FOODS"),
+                      int(std::size(Meals)) - 1);
+}
+
+void Walk::ChangeDay() {
+    QWidget* frame = guide_.Window(QStringLiteral("frmHOME"));
+    QWidget* day = Day();
+    guide_.Press(day, QStringLiteral("cmdCal"));
+    guide_.Picture(frame, QStringLiteral("day-calendar"));
+    auto* calendar = guide_.Find<QCalendarWidget>(day, QStringLiteral("smCal"));
+    Q_EMIT calendar->clicked(ThatDay.addDays(-1));
+    guide_.Settle();
+    guide_.Picture(frame, QStringLiteral("day-before"));
+    guide_.Check(App().CurrentDate == ThatDay.addDays(-1),
+                 QStringLiteral("the day before is chosen"));
+    Q_EMIT calendar->clicked(ThatDay);
+    guide_.Settle();
+}
+
+void Walk::EditProfile() {
+    QWidget* frame = guide_.Window(QStringLiteral("frmHOME"));
+    guide_.Press(frame, QStringLiteral("cmdEditProfile"));
+    QWidget* profile = guide_.Window(QStringLiteral("frmProfile"));
+    guide_.Picture(frame, QStringLiteral("profile-edit"));
+    guide_.Press(profile, QStringLiteral("cmdAdvanced"));
+    guide_.Picture(frame, QStringLiteral("profile-advanced"));
+    guide_.Type(profile, QStringLiteral("txtFiber"), QStringLiteral("-30"));
+    guide_.Press(profile, QStringLiteral("cmdSave"));
+    guide_.CheckValue(UserDB(), QStringLiteral("SELECT CAST(fiber AS INTEGER) FROM profiles"), 30);
+    guide_.Picture(frame, QStringLiteral("day-after-profile"));
+}
+
+void Walk::Preferences() {
+    guide_.Foresee(QStringLiteral("frmPrefs"), [this](QWidget* preferences) {
+        guide_.Picture(preferences, QStringLiteral("preferences"));
+        guide_.Press(preferences, QStringLiteral("cmdSave"));
+    });
+    guide_.Press(guide_.Window(QStringLiteral("frmHOME")), QStringLiteral("cmdPreferences"));
+}
+
+void Walk::Quit() {
+    Flow::QuitApp();
+    guide_.Settle();
+    guide_.Check(UserDB().state() == Connection::Closed,
+                 QStringLiteral("the databases are closed"));
+}
+
+void Walk::GoAgain() {
+    UseFolder();
+    guide_.Foresee(QStringLiteral("frmSplash"),
+                   [](QWidget* splash) { QTest::keyClick(splash, Qt::Key_Space); });
+    Start();
+    guide_.Settle();
+    guide_.Picture(guide_.Window(QStringLiteral("frmHOME")), QStringLiteral("day-second-start"));
+    guide_.Check(User::Current().UserName == QStringLiteral("Tom"),
+                 QStringLiteral("the profile is there"));
+    guide_.CheckValue(UserDB(), QStringLiteral("SELECT count(*) FROM USER_FOODS"),
+                      int(std::size(Meals)) - 1);
+    guide_.Check(guide_.Find<QLineEdit>(Day(), QStringLiteral("txtWeight"))->text() ==
+                     QStringLiteral("198.5"),
+                 QStringLiteral("the weight is there"));
+    Quit();
+}

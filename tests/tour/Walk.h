@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QString>
+
+class Guide;
+class QWidget;
+
+/// The way of a new user, one function a stage.
+class Walk {
+public:
+    Walk(Guide& guide, const QString& folder);
+    void Go();      ///< the first start, up to leaving the program
+    void GoAgain(); ///< the second start finds everything there
+
+private:
+    void UseFolder();
+    void LayOut();
+    void Start();
+    void Quit();
+    void FirstStart();
+    void CreateProfile(QWidget* profile);
+    void FillProfile(QWidget* profile);
+    void WeighIn();
+    void LogMeals();
+    void SearchInDialog(QWidget* search);
+    void RefusedQuantity(QWidget* search);
+    void ExamineFirst(QWidget* search);
+    void NothingFound(QWidget* search);
+    void EmptyTerm(QWidget* search);
+    void LogFirst(QWidget* search, const QString& term, const QString& quantity);
+    void LookAtDay();
+    void LookAtViews();
+    void RemoveOneFood();
+    void KeepFoods();
+    void ChangeDay();
+    void EditProfile();
+    void Preferences();
+    QWidget* Day();
+
+    Guide& guide_;
+    QString folder_;
+};

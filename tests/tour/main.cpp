@@ -1,0 +1,50 @@
+#include "tour/Guide.h"
+#include "tour/Walk.h"
+
+#include "core/Application.h"
+
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <cstdio>
+
+namespace {
+/// A start of its own, as a person makes it.
+bool Start(const QString& stage, const QString& pictures, const QString& folder) {
+    QProcess start;
+    start.setProcessChannelMode(QProcess::ForwardedChannels);
+    start.start(QCoreApplication::applicationFilePath(), {pictures, folder, stage});
+    return start.waitForFinished(-1) && start.exitStatus() == QProcess::NormalExit &&
+           start.exitCode() == 0;
+}
+
+int WalkStage(const QStringList& arguments) {
+    Guide guide(arguments[1]);
+    Walk walk(guide, arguments[2]);
+    if (arguments[3] == u"first")
+        walk.Go();
+    else
+        walk.GoAgain();
+    return guide.Failures() ? 1 : 0;
+}
+} // namespace
+
+/// tour PICTURES: walks the whole way through the real screens on a fresh folder, from the
+/// agreement to a day's food set against the targets, then starts the program again and finds
+/// everything there. Pictures go to that folder.
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    std::setvbuf(stdout, nullptr, _IOLBF, 0);
+    const QTemporaryDir fresh;
+    qputenv("XDG_RUNTIME_DIR", fresh.path().toLocal8Bit());
+    Application application(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    const QStringList arguments = QCoreApplication::arguments();
+    if (arguments.size() == 4)
+        return WalkStage(arguments);
+    const QString pictures = arguments.value(1, fresh.filePath(QStringLiteral("pictures")));
+    const bool through = Start(QStringLiteral("first"), pictures, fresh.path()) &&
+                         Start(QStringLiteral("again"), pictures, fresh.path());
+    std::printf("%s\n", through ? "the tour went through" : "the tour failed");
+    return through ? 0 : 1;
+}
