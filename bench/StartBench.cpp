@@ -1,0 +1,57 @@
+#include "StartBench.h"
+
+#include "Ground.h"
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <algorithm>
+#include <cstdio>
+#include <vector>
+
+namespace {
+constexpr int Runs = 11;
+
+struct Medians {
+    double milliseconds;
+    double megabytes;
+};
+
+double Median(std::vector<double> values) {
+    std::sort(values.begin(), values.end());
+    return values[values.size() / 2];
+}
+
+Medians Measure(const QString& probe, const QStringList& arguments) {
+    std::vector<double> times;
+    std::vector<double> sizes;
+    for (int run = 0; run < Runs; ++run) {
+        QProcess process;
+        QElapsedTimer clock;
+        clock.start();
+        process.start(QCoreApplication::applicationDirPath() + u'/' + probe, arguments);
+        process.waitForReadyRead();
+        times.push_back(double(clock.nsecsElapsed()) / 1e6);
+        process.waitForFinished();
+        sizes.push_back(process.readAllStandardOutput().trimmed().toDouble() / 1024);
+    }
+    return {Median(times), Median(sizes)};
+}
+} // namespace
+
+void MeasureStart() {
+    const QTemporaryDir settings;
+    qputenv("XDG_CONFIG_HOME", settings.path().toLocal8Bit());
+    qputenv("XDG_RUNTIME_DIR", settings.path().toLocal8Bit());
+    Ground::LayOut(settings.path());
+    const Medians bare = Measure(QStringLiteral("bare_window"), {});
+    const Medians ours = Measure(QStringLiteral("start_probe"), {settings.path()});
+    std::printf("\n%-46s %12s %12s %8s %8s\n", "whole process, median of 11", "ours", "bare window",
+                "more", "aim");
+    std::printf("%-46s %12.1f %12.1f %8.1f %8.1f\n", "start to the painted frame (ms)",
+                ours.milliseconds, bare.milliseconds, ours.milliseconds - bare.milliseconds, 100.0);
+    std::printf("%-46s %12.1f %12.1f %8.1f %8.1f\n", "memory with the day screen open (MB)",
+                ours.megabytes, bare.megabytes, ours.megabytes - bare.megabytes, 30.0);
+}

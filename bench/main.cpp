@@ -1,0 +1,22 @@
+#include "StartBench.h"
+#include "Table.h"
+
+#include "core/Application.h"
+
+#include <vector>
+
+/// Measures each path that a person waits for beside its limit and prints a table of both.
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    Application application(argc, argv);
+    std::vector<char*> arguments(argv, argv + argc);
+    std::string flags[] = {"--benchmark_repetitions=5", "--benchmark_min_time=0.2"};
+    for (std::string& flag : flags)
+        arguments.insert(arguments.begin() + 1, flag.data());
+    int count = int(arguments.size());
+    benchmark::Initialize(&count, arguments.data());
+    Table table;
+    benchmark::RunSpecifiedBenchmarks(&table);
+    MeasureStart();
+    return 0;
+}

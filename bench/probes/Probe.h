@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QApplication>
+#include <QEvent>
+#include <QFile>
+#include <QTimer>
+#include <QWidget>
+
+#include <cstdio>
+
+/// Once the window has been painted and events have settled: prints the process's resident memory
+/// in KiB and ends.
+class ReportFirstPaint : public QObject {
+public:
+    explicit ReportFirstPaint(QWidget* window) { window->installEventFilter(this); }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::Paint && !painted_) {
+            painted_ = true;
+            QTimer::singleShot(0, this, &ReportFirstPaint::End);
+        }
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    static long ResidentKiB() {
+        QFile status(QStringLiteral("/proc/self/status"));
+        if (!status.open(QIODevice::ReadOnly))
+            return 0;
+        for (const QByteArray& line : status.readAll().split('\n'))
+            if (line.startsWith("VmRSS:"))
+                return line.mid(6).trimmed().split(' ').first().toLong();
+        return 0;
+    }
+
+    void End() {
+        std::printf("%ld\n", ResidentKiB());
+        std::fflush(stdout);
+        QApplication::exit(0);
+    }
+
+    bool painted_ = false;
+};

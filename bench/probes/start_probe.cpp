@@ -1,0 +1,28 @@
+#include "probes/Probe.h"
+
+#include "core/Application.h"
+#include "core/Flow.h"
+#include "core/Navigation.h"
+#include "core/Screens.h"
+#include "runtime/AppPath.h"
+
+/// start_probe FOLDER: the whole start on that folder, agreement accepted, the splash closed at
+/// once, up to the frame painted.
+int main(int argc, char** argv) {
+    Application application(argc, argv);
+    SetApplicationPath(QString::fromLocal8Bit(argv[1]));
+    QTimer splash;
+    splash.callOnTimeout([] {
+        if (QWidget* modal = QApplication::activeModalWidget())
+            modal->close();
+    });
+    splash.start(0);
+    RegisterScreens(TheNavigation());
+    TheNavigation().InstallSeams();
+    Flow::Main(application.Instance());
+    splash.stop();
+    for (QWidget* window : QApplication::topLevelWidgets())
+        if (window->objectName() == QStringLiteral("frmHOME"))
+            new ReportFirstPaint(window);
+    return QApplication::exec();
+}
