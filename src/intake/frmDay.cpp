@@ -29,7 +29,7 @@ namespace {
 constexpr auto homeScreen = "frmMain";
 
 // Measures in pixels.
-constexpr QRect dateLine(204, 8, 548, 30);
+constexpr QRect dateLine(204, 8, 548, 24); ///< right of the frame's title of the screen
 constexpr int boxesTop = 42;
 constexpr int boxesBottom = 44; // from the lower edge
 constexpr int panelWidth = 338;
@@ -284,8 +284,9 @@ void frmDay::OfferHome() {
     const bool there = HasScreen(homeScreen);
     cmdDone_->SetEnabled(there);
     cmdDone_->Reset();
-    cmdDone_->setToolTip(there ? QString()
-                               : QStringLiteral("The home screen is not part of this build"));
+    cmdDone_->setToolTip(
+        there ? QString()
+              : QStringLiteral("The home screen comes with a later version of Halvane"));
 }
 
 /// Both must differ: a redraw under a resting pointer sends moves as well.

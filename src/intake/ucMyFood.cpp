@@ -124,8 +124,13 @@ void ucMyFood::AddFood(const ScaledFood& item, const QString& meal) {
     rows.Close();
 }
 
-/// Where the row cannot be deleted, the line stays until the next redraw.
 void ucMyFood::RemoveFood(qint32 recID) {
+    if (DeleteRow(recID))
+        Q_EMIT FoodRemoved();
+}
+
+/// Where the row cannot be deleted, the line stays until the next redraw.
+bool ucMyFood::DeleteRow(qint32 recID) {
     MousePointer::SetBusy();
     const MousePointer::NormalAtEnd normalAtEnd;
     try {
@@ -134,11 +139,10 @@ void ucMyFood::RemoveFood(qint32 recID) {
         row.Delete();
         DisplayFoods(false);
         row.Close();
+        return true;
     } catch (const RuntimeError&) {
-        return;
+        return false;
     }
-    MousePointer::SetNormal();
-    Q_EMIT FoodRemoved();
 }
 
 void ucMyFood::AllOff(const QString& except) {

@@ -46,6 +46,7 @@ private:
     void OnHeadingMove(MealHeading* heading);
     void OnPaneMove(const QMouseEvent* move);
     void RemoveFood(qint32 recID);
+    bool DeleteRow(qint32 recID);
 
     QDate date_;
     AtePane* pane_;
