@@ -13,12 +13,19 @@
 #include <cstdio>
 #include <cstdlib>
 
+namespace {
+
+constexpr QSize iconSize(64, 64);
+
+} // namespace
+
 Application::Application(int& argc, char** argv)
     : QApplication(argc, argv) {
     setApplicationName(QStringLiteral("Halvane"));
     setApplicationVersion(QStringLiteral(HALVANE_VERSION));
     setDesktopFileName(QStringLiteral("halvane"));
     setQuitOnLastWindowClosed(false); // closing the frame runs QuitApp, and that ends the process
+    setWindowIcon(QIcon(Pictures::Get(QStringLiteral("logo"), iconSize)));
     ApplyStyle(*this);
     TheSeams().EndProcess = [this](int exitCode) { EndNow(exitCode); };
 }

@@ -5,16 +5,9 @@
 
 #include <ranges>
 
-namespace {
-
-constexpr int leastWidth = 76;
-
-} // namespace
-
 ucButton* MakeButton(QWidget* dialog, const QString& name, const QString& caption) {
     auto* button = new ucButton(caption, dialog);
     button->setObjectName(name);
-    button->resize(qMax(leastWidth, button->sizeHint().width()), button->sizeHint().height());
     return button;
 }
 

@@ -130,11 +130,13 @@ void Navigation::Bring(Screen* screen) {
     screen->show();
     screen->raise();
     screen->update();
+    if (!screen->isAncestorOf(QApplication::focusWidget()))
+        screen->setFocus(Qt::OtherFocusReason); // Tab then leads to its first control
 }
 
 /// What the closed screen has covered comes back as it was left, unless another has come instead.
 void Navigation::Uncover() {
-    if (front_)
+    if (front_ || !frame_)
         return;
     const QPointer<Screen> screen = beneath_;
     beneath_.clear();
@@ -174,6 +176,7 @@ void Navigation::CloseAll() {
         if (screen)
             Close(screen);
     loaded_.clear();
+    beneath_.clear();
     if (frame_)
         frame_->close();
 }

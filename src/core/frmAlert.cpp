@@ -2,16 +2,19 @@
 
 #include "core/ButtonRow.h"
 #include "toolkit/Labels.h"
+#include "toolkit/Pictures.h"
+#include "toolkit/Style.h"
 #include "toolkit/ucButton.h"
 
+#include <QPainter>
 #include <QPointer>
 #include <QScrollArea>
 
-#include <memory>
-
 namespace {
 
-constexpr QSize alertSize(420, 214);
+constexpr QSize alertSize(420, 196);
+constexpr int pictureSize = 32;
+constexpr int pictureGap = 14;
 
 /// The window over which an owner's message stands: none where it cannot be seen.
 QWidget* WindowOf(QObject* owner) {
@@ -28,16 +31,19 @@ frmAlert::frmAlert(const QString& message, bool showCancel, QWidget* owner)
     , cmdCancel_(MakeButton(this, QStringLiteral("cmdCancel"), QStringLiteral("Cancel"))) {
     setFixedSize(alertSize);
     setAccessibleDescription(message);
-    const QRect above =
-        LayButtonRow(Inner(), showCancel ? QList{cmdOK_, cmdCancel_} : QList{cmdOK_});
-    LayMessage(above, message);
+    const QList<ucButton*> row = showCancel ? QList{cmdOK_, cmdCancel_} : QList{cmdOK_};
+    const QRect above = LayButtonRow(Inner(), row);
+    picture_ = QRect(QPoint(), QSize(pictureSize, pictureSize));
+    picture_.moveCenter(QPoint(above.left() + pictureSize / 2, above.center().y()));
+    LayMessage(above.adjusted(pictureSize + pictureGap, 0, 0, 0), message);
     LayButtons(showCancel);
 }
 
 void frmAlert::LayMessage(const QRect& place, const QString& message) {
     QLabel* lblMSG = MakeLabel(this, QStringLiteral("lblMSG"), message);
     lblMSG->setWordWrap(true);
-    lblMSG->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    lblMSG->setContentsMargins(0, 0, TheStyle().groupGap, 0);
+    lblMSG->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     auto* area = new QScrollArea(this);
     area->setFrameShape(QFrame::NoFrame);
     area->setWidgetResizable(true);
@@ -46,6 +52,8 @@ void frmAlert::LayMessage(const QRect& place, const QString& message) {
     area->setWidget(lblMSG);
     lblMSG->setAutoFillBackground(false);
     area->setGeometry(place);
+    const bool fits = lblMSG->heightForWidth(place.width()) <= place.height();
+    area->setFocusPolicy(fits ? Qt::NoFocus : Qt::StrongFocus);
 }
 
 void frmAlert::LayButtons(bool showCancel) {
@@ -61,6 +69,13 @@ void frmAlert::LayButtons(bool showCancel) {
 void frmAlert::showEvent(QShowEvent* event) {
     Dialog::showEvent(event);
     (cmdCancel_->isVisibleTo(this) ? cmdCancel_ : cmdOK_)->setFocus(Qt::OtherFocusReason);
+}
+
+void frmAlert::paintEvent(QPaintEvent* event) {
+    Dialog::paintEvent(event);
+    QPainter painter(this);
+    const auto name = cmdCancel_->isVisible() ? QStringLiteral("question") : QStringLiteral("info");
+    Pictures::Paint(painter, picture_, name, TheStyle().heading);
 }
 
 /// The owner may go while the message stands over it, and take the dialog along.

@@ -21,6 +21,7 @@ public:
 
 protected:
     void showEvent(QShowEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
 
 private:
     void LayButtons(bool showCancel);
@@ -28,5 +29,6 @@ private:
 
     ucButton* cmdOK_;
     ucButton* cmdCancel_;
+    QRect picture_;
     bool result_ = false;
 };

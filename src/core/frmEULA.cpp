@@ -38,6 +38,7 @@ void frmEULA::LayText(const QRect& place) {
     eu->setTabChangesFocus(true);
     eu->setGeometry(place);
     setTabOrder(eu, findChild<ucButton*>(QStringLiteral("cmdAccept")));
+    eu->setFocus(Qt::OtherFocusReason); // reading comes before choosing
 }
 
 void frmEULA::Accept() {

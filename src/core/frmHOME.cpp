@@ -9,7 +9,6 @@
 #include "runtime/AppState.h"
 #include "runtime/Seams.h"
 #include "toolkit/CleanUp.h"
-#include "toolkit/Pictures.h"
 #include "toolkit/Style.h"
 #include "toolkit/Twips.h"
 #include "toolkit/ucAALBL.h"
@@ -17,7 +16,6 @@
 #include "toolkit/ucTitleBar.h"
 
 #include <QCloseEvent>
-#include <QIcon>
 #include <QPainter>
 #include <QShortcut>
 
@@ -31,7 +29,7 @@ constexpr int bandLeft = 8;
 constexpr int titleButton = 32;
 constexpr int titlePicture = 16;
 constexpr QSize logoSize(22, 22);
-constexpr QPoint titleInNest(14, 8); ///< of the screen's title, from the nest's corner
+constexpr QRect titleInNest(14, 8, 182, 30); ///< kept free by the screens for their title
 
 /// One of the buttons that bring a screen: the last one stands in the title bar.
 struct NavigationButton {
@@ -75,7 +73,6 @@ frmHOME::frmHOME()
                            Qt::WindowMinimizeButtonHint) {
     setObjectName(QStringLiteral("frmHOME"));
     setWindowTitle(QStringLiteral("Halvane"));
-    setWindowIcon(QIcon(Pictures::Get(QStringLiteral("logo"), QSize(64, 64))));
     setFixedSize(homeSize);
     setMouseTracking(true);
     setAttribute(Qt::WA_DeleteOnClose);
@@ -181,8 +178,9 @@ void frmHOME::LayNest() {
     aaWindow_->SetFont(style.screenTitle);
     aaWindow_->SetBackColor(style.canvas);
     aaWindow_->SetForeColor(style.heading);
+    const QRect line = titleInNest.translated(corner);
+    aaWindow_->move(line.left(), line.center().y() + 1 - aaWindow_->sizeHint().height() / 2);
     aaWindow_->SetCaption(QString());
-    aaWindow_->move(corner + titleInNest);
 }
 
 void frmHOME::AddShortcuts() {

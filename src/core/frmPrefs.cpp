@@ -13,7 +13,7 @@
 
 namespace {
 
-constexpr QSize prefsSize(460, 344);
+constexpr QSize prefsSize(460, 318);
 constexpr int noteIndent = 22; ///< notes stand below the captions, clear of the boxes
 
 void Store(const QCheckBox* box, const char* name, bool& inMemory) {

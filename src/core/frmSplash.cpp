@@ -55,7 +55,7 @@ void frmSplash::paintEvent(QPaintEvent*) {
     painter.fillRect(rect(), style.canvas);
     Pictures::Paint(painter, picture, QStringLiteral("logo"));
     painter.setPen(style.frame);
-    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    painter.drawRect(QRectF(rect()).adjusted(.5, .5, -.5, -.5));
 }
 
 void frmSplash::mousePressEvent(QMouseEvent*) {

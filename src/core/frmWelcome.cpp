@@ -11,8 +11,8 @@
 
 namespace {
 
-constexpr QSize welcomeSize(480, 260);
-constexpr QRect picture(24, 62, 96, 96);
+constexpr QSize welcomeSize(480, 226);
+constexpr QRect picture(24, 64, 96, 96);
 constexpr int textLeft = 144;
 constexpr auto text =
     "In order to begin using Halvane, you will need to create a user profile. In the following "
@@ -40,7 +40,9 @@ void frmWelcome::LayText(const QRect& place) {
     QLabel* label = MakeLabel(this, QStringLiteral("lblWelcome"), QLatin1String(text));
     label->setWordWrap(true);
     label->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    label->setGeometry(QRect(QPoint(textLeft, place.top()), place.bottomRight()));
+    QRect beside(QPoint(textLeft, place.top()), place.bottomRight());
+    beside.moveCenter(QPoint(beside.center().x(), picture.center().y()));
+    label->setGeometry(beside);
 }
 
 void frmWelcome::Begin() {

@@ -63,6 +63,12 @@ QCheckBox::indicator:checked { image: url(:/assets/check-on.svg); }
 QCheckBox::indicator:checked:focus { image: url(:/assets/check-on-focus.svg); }
 QCheckBox::indicator:disabled { image: url(:/assets/check-off-disabled.svg); }
 QCheckBox::indicator:checked:disabled { image: url(:/assets/check-on-disabled.svg); }
+QPushButton {
+  background: %buttonGround; color: %ink; border: 1px solid %buttonEdge;
+  border-radius: %fieldRadius; padding: 4px 14px; min-width: 46px;
+}
+QPushButton:hover { background: %paper; border-color: %frame; }
+QPushButton:focus { border: 2px solid %frame; padding: 3px 13px; }
 QLabel { background: transparent; }
 QCalendarWidget QWidget { alternate-background-color: %canvas; }
 QCalendarWidget QWidget#qt_calendar_navigationbar { background: %navigation; }

@@ -60,7 +60,7 @@ void Dialog::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.fillRect(rect(), TheStyle().canvas);
     painter.setPen(TheStyle().frame);
-    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    painter.drawRect(QRectF(rect()).adjusted(.5, .5, -.5, -.5));
 }
 
 void Dialog::mouseMoveEvent(QMouseEvent*) {

@@ -1,12 +1,15 @@
 #include "support/HalvaneTest.h"
 
 #include <QDir>
+#include <QDirIterator>
 #include <QFile>
 #include <QProcess>
 #include <QProcessEnvironment>
 #include <QTest>
 
 #include <memory>
+
+#include <unistd.h>
 
 /// Starts the built program itself, in a folder with its own files, settings and run-time folder.
 class ProcessTest : public HalvaneTest {
@@ -32,6 +35,24 @@ protected:
         QFile file(Path("config/Brindlewick/HALVANE.ini"));
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
+    /// Root may write everywhere: the tests of what may not be written run as nobody.
+    void HandOverToNobody() {
+        if (geteuid() != 0)
+            return;
+        QDirIterator files(Folder(), QDir::AllEntries | QDir::NoDotAndDotDot,
+                           QDirIterator::Subdirectories);
+        while (files.hasNext())
+            ASSERT_EQ(chown(QFile::encodeName(files.next()), nobody, nobody), 0);
+        ASSERT_EQ(chown(QFile::encodeName(Folder()), nobody, nobody), 0);
+        user_ = nobody;
+    }
+    void ExpectOneLineAbout(QProcess& process, const char* file) {
+        ASSERT_TRUE(process.waitForFinished());
+        EXPECT_EQ(process.exitCode(), 1);
+        const QByteArray said = process.readAllStandardError();
+        EXPECT_EQ(said.count('\n'), 1) << said.toStdString();
+        EXPECT_TRUE(said.contains(file)) << said.toStdString();
+    }
     std::unique_ptr<QProcess> Start() const {
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert(QStringLiteral("XDG_CONFIG_HOME"), Path("config"));
@@ -40,6 +61,11 @@ protected:
         environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
         auto process = std::make_unique<QProcess>();
         process->setProcessEnvironment(environment);
+        if (user_ != 0)
+            process->setChildProcessModifier([user = user_] {
+                if (setgid(user) != 0 || setuid(user) != 0)
+                    _exit(99);
+            });
         process->start(Path("halvane"), QStringList());
         EXPECT_TRUE(process->waitForStarted());
         return process;
@@ -49,17 +75,40 @@ protected:
         return QTest::qWaitFor([&] { return Settings().contains("TIPNUM=1"); }, 20000) &&
                process.state() == QProcess::Running;
     }
+    static constexpr uid_t nobody = 65534;
+    uid_t user_ = 0;
 };
+
+TEST_F(ProcessTest, AReadOnlyUsersFileEndsWithOneLineAndStaysAsItIs) {
+    HandOverToNobody();
+    QFile file(Path("users.mdb"));
+    ASSERT_TRUE(file.setPermissions(QFile::ReadOwner | QFile::ReadUser));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QByteArray before = file.readAll();
+    ExpectOneLineAbout(*Start(), "users.mdb");
+    file.seek(0);
+    EXPECT_EQ(file.readAll(), before);
+}
+
+TEST_F(ProcessTest, AReadOnlyFoodsFileEndsWithOneLine) {
+    HandOverToNobody();
+    ASSERT_TRUE(QFile::setPermissions(Path("foods.mdb"), QFile::ReadOwner | QFile::ReadUser));
+    ExpectOneLineAbout(*Start(), "foods.mdb");
+}
+
+TEST_F(ProcessTest, AFolderWithoutWritePermissionEndsWithOneLineAndKeepsItsFiles) {
+    HandOverToNobody();
+    const QStringList before = QDir(Folder()).entryList(QDir::AllEntries, QDir::Name);
+    ASSERT_TRUE(QFile::setPermissions(Folder(), QFile::ReadOwner | QFile::ExeOwner));
+    ExpectOneLineAbout(*Start(), "users.mdb");
+    EXPECT_EQ(QDir(Folder()).entryList(QDir::AllEntries, QDir::Name), before);
+    QFile::setPermissions(Folder(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+}
 
 TEST_F(ProcessTest, AStartThatFailsEndsWithOneLineAndAnExitCode) {
     QFile::remove(Path("users.mdb"));
     const auto process = Start();
-    ASSERT_TRUE(process->waitForFinished());
-    EXPECT_EQ(process->exitCode(), 1);
-    const QByteArray said = process->readAllStandardError();
-    EXPECT_EQ(said.count('\n'), 1) << said.toStdString();
-    EXPECT_TRUE(said.contains("users.mdb")) << said.toStdString();
-    EXPECT_TRUE(said.startsWith("halvane: could not start")) << said.toStdString();
+    ExpectOneLineAbout(*process, "halvane: could not start: users.mdb: ");
     EXPECT_FALSE(QFile::exists(Path("users.mdb")));
 }
 
