@@ -33,10 +33,9 @@ void ElidedLabel::SetLook(const QList<QFont>& fonts, const QColor& ink) {
 void ElidedLabel::Print(QPainter& painter, const QRect& place, const QString& text,
                         const QFont& font, const QColor& ink) {
     const QFontMetrics metrics(SmoothedFont(font));
-    const QString shown = metrics.elidedText(text, Qt::ElideRight, place.width());
     painter.setPen(ink);
     SmoothedPrint(painter, QPointF(place.x(), place.y() + (place.height() - metrics.height()) / 2),
-                  shown, font);
+                  FittingText(text, font, place.width()), font);
 }
 
 bool ElidedLabel::Fits(const QFont& font) const {

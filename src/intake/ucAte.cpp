@@ -44,9 +44,7 @@ int WidthOf(const QString& text, const QFont& font) {
 }
 
 void Print(QPainter& painter, const QRect& place, const QString& text, const QFont& font) {
-    const QFontMetricsF metrics(SmoothedFont(font));
-    SmoothedPrint(painter, place.topLeft(),
-                  metrics.elidedText(OneLine(text), Qt::ElideRight, place.width()), font);
+    SmoothedPrint(painter, place.topLeft(), FittingText(OneLine(text), font, place.width()), font);
 }
 
 } // namespace

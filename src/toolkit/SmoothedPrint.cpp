@@ -27,3 +27,11 @@ void SmoothedPrint(QPainter& painter, QPointF place, const QString& text, QFont 
     painter.drawText(place + QPointF(0, ascent), text);
     painter.setFont(previous);
 }
+
+// Measured first, because the ellipsis is worked out from unhinted widths: text that fits to the
+// pixel would be cut.
+QString FittingText(const QString& text, const QFont& font, double width) {
+    const QFontMetricsF metrics(SmoothedFont(font));
+    const bool fits = metrics.horizontalAdvance(text) <= width;
+    return fits ? text : metrics.elidedText(text, Qt::ElideRight, width);
+}

@@ -2,9 +2,9 @@
 
 #include <QFont>
 #include <QPointF>
+#include <QString>
 
 class QPainter;
-class QString;
 
 /// Prints text with the font's smoothing on from platform family 2 up, plain below; size, weight
 /// and style are the font's. `place` is the upper left corner of the text.
@@ -12,3 +12,6 @@ void SmoothedPrint(QPainter& painter, QPointF place, const QString& text, QFont 
 
 /// The font as the smoothed print uses it, for measuring.
 QFont SmoothedFont(QFont font);
+
+/// The text as it is where it fits that width in that font, else cut with an ellipsis.
+QString FittingText(const QString& text, const QFont& font, double width);

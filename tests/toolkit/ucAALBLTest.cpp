@@ -131,3 +131,16 @@ TEST_F(ucAALBLTest, PrintingLeavesThePaintersFontAsItWas) {
     SmoothedPrint(painter, QPointF(), QStringLiteral("x"), TheStyle().cardTitle);
     EXPECT_EQ(painter.font(), TheStyle().small);
 }
+
+TEST(FittingTextTest, ATextThatFitsToThePixelIsNotCut) {
+    const QFont font = TheStyle().small;
+    for (const char* text : {"1 cup", "(x 0.5)", "(x 1)", "1 serving"}) {
+        const QString whole = QString::fromLatin1(text);
+        const int width = qCeil(QFontMetricsF(SmoothedFont(font)).horizontalAdvance(whole));
+        EXPECT_EQ(FittingText(whole, font, width), whole);
+    }
+}
+
+TEST(FittingTextTest, ATextTooLongEndsInAnEllipsis) {
+    EXPECT_TRUE(FittingText(QString(200, u'm'), TheStyle().small, 60).endsWith(QChar(0x2026)));
+}
