@@ -25,7 +25,7 @@ public:
         : QAccessibleWidget(control, role) {}
 
     QString text(QAccessible::Text kind) const override {
-        const QString own = QAccessibleWidget::text(kind);
+        QString own = QAccessibleWidget::text(kind);
         if (kind != QAccessible::Name || !own.isEmpty())
             return own;
         const QString caption = CaptionOf(object());

@@ -20,9 +20,9 @@ QFont SmoothedFont(QFont font) {
     return font;
 }
 
-void SmoothedPrint(QPainter& painter, QPointF place, const QString& text, QFont font) {
+void SmoothedPrint(QPainter& painter, QPointF place, const QString& text, const QFont& font) {
     const QFont previous = painter.font();
-    painter.setFont(SmoothedFont(std::move(font)));
+    painter.setFont(SmoothedFont(font));
     const double ascent = QFontMetricsF(painter.font(), painter.device()).ascent();
     painter.drawText(place + QPointF(0, ascent), text);
     painter.setFont(previous);

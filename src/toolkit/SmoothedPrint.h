@@ -8,7 +8,7 @@ class QPainter;
 
 /// Prints text with the font's smoothing on from platform family 2 up, plain below; size, weight
 /// and style are the font's. `place` is the upper left corner of the text.
-void SmoothedPrint(QPainter& painter, QPointF place, const QString& text, QFont font);
+void SmoothedPrint(QPainter& painter, QPointF place, const QString& text, const QFont& font);
 
 /// The font as the smoothed print uses it, for measuring.
 QFont SmoothedFont(QFont font);

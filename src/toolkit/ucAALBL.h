@@ -22,7 +22,7 @@ public:
     void SetBackColor(const QColor& color);
     QColor ForeColor() const; ///< the palette's button text until one is set
     void SetForeColor(const QColor& color);
-    QSize sizeHint() const override;
+    QSize sizeHint() const final;
 
 Q_SIGNALS:
     void MouseDown(int Button, int Shift, double X, double Y);

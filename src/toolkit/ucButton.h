@@ -25,7 +25,7 @@ public:
     bool MainAction() const { return mainAction_; }
     void SetMainAction(bool mainAction); ///< the one main action of a screen is painted so
     void Reset();                        ///< back to state 1, or to 4 where disabled
-    QSize sizeHint() const override;
+    QSize sizeHint() const final;
     void Activate() override;
 
     struct Layout {

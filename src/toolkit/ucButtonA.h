@@ -38,7 +38,7 @@ public:
     void SetCaptionBelow(const QString& caption); ///< navigation column: caption under the picture
     void SetTints(const QColor& rest, const QColor& roll, const QColor& down);
     void Reset(); ///< img_NORM, if it shows anything else
-    QSize sizeHint() const override;
+    QSize sizeHint() const final;
     void Activate() override;
 
     struct Layout {

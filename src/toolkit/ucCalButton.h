@@ -18,7 +18,7 @@ public:
     void SetCaption(const QString& caption);
     int State() const { return state_; }
     void Reset(); ///< state 1
-    QSize sizeHint() const override;
+    QSize sizeHint() const final;
     QString PictureOn() const; ///< name of the picture that `picM` shows at the moment
 
 protected:

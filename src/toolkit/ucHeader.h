@@ -16,7 +16,7 @@ public:
         QRect picL, picM, picR;
     };
     Layout layoutRects() const;
-    QSize sizeHint() const override;
+    QSize sizeHint() const final;
 
 protected:
     void paintEvent(QPaintEvent*) override;

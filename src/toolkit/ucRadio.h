@@ -18,7 +18,7 @@ public:
     void SetValue(bool value);
     QString Caption() const { return caption_; }
     void SetCaption(const QString& caption);
-    QSize sizeHint() const override;
+    QSize sizeHint() const final;
     void Activate() override;
 
     struct Layout {

@@ -40,7 +40,7 @@ public:
         QRect imgUp, imgDown, picSlot, picTB;
     };
     Layout layoutRects() const;
-    QSize sizeHint() const override;
+    QSize sizeHint() const final;
     void Wheel(QWheelEvent* event); ///< turns a wheel's steps into small steps
 
 Q_SIGNALS:

@@ -8,7 +8,7 @@ class ucStrip : public PaintedPanel {
 
 public:
     explicit ucStrip(QWidget* parent = nullptr);
-    QSize sizeHint() const override;
+    QSize sizeHint() const final;
 
 protected:
     void paintEvent(QPaintEvent*) override;

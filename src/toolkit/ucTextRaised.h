@@ -13,7 +13,7 @@ public:
     explicit ucTextRaised(QWidget* parent = nullptr);
     QPixmap Picture() const { return picture_; }
     void SetPicture(const QPixmap& picture);
-    QSize sizeHint() const override;
+    QSize sizeHint() const final;
 
 protected:
     void paintEvent(QPaintEvent*) override;

@@ -9,7 +9,7 @@ class ucTitleBar : public TitleControl {
 public:
     explicit ucTitleBar(QWidget* parent = nullptr);
     void SetSurfaceLeft(int pixels); ///< where the caption begins
-    QSize sizeHint() const override;
+    QSize sizeHint() const final;
 
 protected:
     void paintEvent(QPaintEvent*) override;

@@ -8,7 +8,7 @@ class ucTitleFlat : public TitleControl {
 
 public:
     explicit ucTitleFlat(QWidget* parent = nullptr);
-    QSize sizeHint() const override;
+    QSize sizeHint() const final;
 
 protected:
     void paintEvent(QPaintEvent*) override;
