@@ -1,11 +1,6 @@
 #include "toolkit/Accessible.h"
 
-#include "toolkit/TitleControl.h"
-#include "toolkit/ucAALBL.h"
-#include "toolkit/ucBox.h"
-#include "toolkit/ucButton.h"
 #include "toolkit/ucButtonA.h"
-#include "toolkit/ucCalButton.h"
 #include "toolkit/ucRadio.h"
 #include "toolkit/ucScroll.h"
 
@@ -21,8 +16,8 @@ QString CaptionOf(const QObject* control) {
 /// Name from `accessibleName`, else the caption, else the tip; a press through Activate.
 class ControlInterface : public QAccessibleWidget {
 public:
-    ControlInterface(QWidget* control, QAccessible::Role role)
-        : QAccessibleWidget(control, role) {}
+    explicit ControlInterface(DrawnControl* control)
+        : QAccessibleWidget(control, control->AccessibleRole()) {}
 
     QString text(QAccessible::Text kind) const override {
         QString own = QAccessibleWidget::text(kind);
@@ -54,8 +49,7 @@ private:
 
 class RadioInterface : public ControlInterface {
 public:
-    explicit RadioInterface(QWidget* control)
-        : ControlInterface(control, QAccessible::RadioButton) {}
+    using ControlInterface::ControlInterface;
 
     QAccessible::State state() const override {
         QAccessible::State state = ControlInterface::state();
@@ -67,8 +61,7 @@ public:
 
 class ViewButtonInterface : public ControlInterface {
 public:
-    explicit ViewButtonInterface(QWidget* control)
-        : ControlInterface(control, QAccessible::Button) {}
+    using ControlInterface::ControlInterface;
 
     QAccessible::State state() const override {
         QAccessible::State state = ControlInterface::state();
@@ -79,8 +72,7 @@ public:
 
 class ScrollInterface : public ControlInterface, public QAccessibleValueInterface {
 public:
-    explicit ScrollInterface(QWidget* control)
-        : ControlInterface(control, QAccessible::ScrollBar) {}
+    using ControlInterface::ControlInterface;
 
     void* interface_cast(QAccessible::InterfaceType type) override {
         if (type == QAccessible::ValueInterface)
@@ -101,26 +93,6 @@ private:
     ucScroll* Bar() const { return static_cast<ucScroll*>(object()); }
 };
 
-struct RoleRow {
-    const QMetaObject* kind;
-    QAccessible::Role role;
-};
-
-QAccessible::Role RoleOf(const DrawnControl* control) {
-    static const RoleRow rows[] = {
-        {&ucButton::staticMetaObject, QAccessible::Button},
-        {&ucCalButton::staticMetaObject, QAccessible::Button},
-        {&ucAALBL::staticMetaObject, QAccessible::StaticText},
-        {&ucBox::staticMetaObject, QAccessible::Grouping},
-        {&TitleControl::staticMetaObject, QAccessible::TitleBar},
-        {&PaintedPanel::staticMetaObject, QAccessible::StaticText},
-    };
-    for (const RoleRow& row : rows)
-        if (control->metaObject()->inherits(row.kind))
-            return row.role;
-    return control->AccessibleRole();
-}
-
 QAccessibleInterface* MakeInterface(const QString&, QObject* object) {
     auto* control = qobject_cast<DrawnControl*>(object);
     if (!control)
@@ -131,7 +103,7 @@ QAccessibleInterface* MakeInterface(const QString&, QObject* object) {
         return new RadioInterface(control);
     if (qobject_cast<ucButtonA*>(control))
         return new ViewButtonInterface(control);
-    return new ControlInterface(control, RoleOf(control));
+    return new ControlInterface(control);
 }
 
 } // namespace

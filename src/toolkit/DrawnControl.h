@@ -16,7 +16,7 @@ public:
     bool IsInside(QPointF place) const;
     /// What a press from the keyboard or an assistive tool does.
     virtual void Activate() { Q_EMIT Click(); }
-    /// What assistive tools take it for, where the toolkit does not know the kind.
+    /// What assistive tools take it for.
     virtual QAccessible::Role AccessibleRole() const { return QAccessible::Client; }
 
 Q_SIGNALS:

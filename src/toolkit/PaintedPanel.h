@@ -13,6 +13,7 @@ public:
 
     QString Caption() const { return caption_; }
     virtual void SetCaption(const QString& caption);
+    QAccessible::Role AccessibleRole() const override { return QAccessible::StaticText; }
 
 protected:
     /// Stretches the one-pixel column of a ground from `from` down to `to` over the whole panel.

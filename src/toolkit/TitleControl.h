@@ -19,6 +19,7 @@ public:
     explicit TitleControl(QWidget* parent = nullptr);
     ~TitleControl() override;
     bool Dragging() const { return dragging_; }
+    QAccessible::Role AccessibleRole() const override { return QAccessible::TitleBar; }
     QRect Outline() const { return outline_; } ///< the last one drawn, null before
 
 Q_SIGNALS:

@@ -23,6 +23,7 @@ public:
     QColor ForeColor() const; ///< the palette's button text until one is set
     void SetForeColor(const QColor& color);
     QSize sizeHint() const final;
+    QAccessible::Role AccessibleRole() const override { return QAccessible::StaticText; }
 
 Q_SIGNALS:
     void MouseDown(int Button, int Shift, double X, double Y);

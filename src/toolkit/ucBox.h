@@ -23,6 +23,7 @@ public:
     QFont Font() const; ///< of the header
     void SetFont(const QFont& font);
     ucHeader* Header() const { return header_; }
+    QAccessible::Role AccessibleRole() const override { return QAccessible::Grouping; }
     QRect Inner() const; ///< inside the frame, below the header
 
 Q_SIGNALS:

@@ -27,6 +27,7 @@ public:
     void Reset();                        ///< back to state 1, or to 4 where disabled
     QSize sizeHint() const final;
     void Activate() override;
+    QAccessible::Role AccessibleRole() const override { return QAccessible::Button; }
 
     struct Layout {
         QRect picL, picM, picR;

@@ -40,6 +40,7 @@ public:
     void Reset(); ///< img_NORM, if it shows anything else
     QSize sizeHint() const final;
     void Activate() override;
+    QAccessible::Role AccessibleRole() const override { return QAccessible::Button; }
 
     struct Layout {
         QRect imgButton, caption;

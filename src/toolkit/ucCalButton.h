@@ -19,6 +19,7 @@ public:
     int State() const { return state_; }
     void Reset(); ///< state 1
     QSize sizeHint() const final;
+    QAccessible::Role AccessibleRole() const override { return QAccessible::Button; }
     QString PictureOn() const; ///< name of the picture that `picM` shows at the moment
 
 protected:

@@ -20,6 +20,7 @@ public:
     void SetCaption(const QString& caption);
     QSize sizeHint() const final;
     void Activate() override;
+    QAccessible::Role AccessibleRole() const override { return QAccessible::RadioButton; }
 
     struct Layout {
         QRect imgButton, caption;

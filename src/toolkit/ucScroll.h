@@ -41,6 +41,7 @@ public:
     };
     Layout layoutRects() const;
     QSize sizeHint() const final;
+    QAccessible::Role AccessibleRole() const override { return QAccessible::ScrollBar; }
     void Wheel(QWheelEvent* event); ///< turns a wheel's steps into small steps
 
 Q_SIGNALS:
