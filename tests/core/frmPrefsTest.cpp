@@ -18,7 +18,7 @@ protected:
     std::unique_ptr<frmPrefs> dialog_;
 };
 
-TEST_F(frmPrefsTest, CaptionsAndNotesStandAsLaidDown) {
+TEST_F(frmPrefsTest, CaptionsAndNotesReadRight) {
     Open();
     EXPECT_EQ(Box("ckFast")->text(), QStringLiteral("Use more memory to increase performance"));
     EXPECT_EQ(Box("ckLimit")->text(), QStringLiteral("Limit search results to 50"));
