@@ -36,7 +36,7 @@ QString TakeTop(Tokens& tokens) {
     if (top + 1 >= tokens.size() || !tokens[top].Is(QLatin1String("TOP")) ||
         !IsWholeNumber(tokens[top + 1]))
         return {};
-    const QString count = tokens[top + 1].text.toString();
+    QString count = tokens[top + 1].text.toString();
     const auto first = tokens.begin() + static_cast<std::ptrdiff_t>(top);
     tokens.erase(first, first + 2);
     return count;

@@ -2,6 +2,8 @@
 
 #include "store/StoreError.h"
 
+#include <algorithm>
+
 #include <sqlite3.h>
 
 namespace {

@@ -8,6 +8,7 @@
 
 #include <QStringList>
 
+#include <algorithm>
 #include <map>
 
 namespace {
@@ -45,8 +46,10 @@ struct Recordset::Impl {
     void SetColumn(int column, const QVariant& value);
     QStringList PendingNames() const;
     void BindPending(Prepared& statement) const;
+    RowBuffer Write(Prepared& statement) const;
     void Insert();
     void Change();
+    void Remove();
 };
 
 Recordset::Impl::Impl(Connection& on, const QString& source, bool updatable)
@@ -121,8 +124,15 @@ void Recordset::Impl::BindPending(Prepared& statement) const {
         statement.Bind(++parameter, value);
 }
 
-/// The statement gives back the row as it is stored, with generated keys and defaults. It commits
-/// as it ends.
+/// Runs a statement that writes one row, to its end, where it commits. Gives the row as it is
+/// stored, with generated keys and defaults; none where there was no row to write to.
+RowBuffer Recordset::Impl::Write(Prepared& statement) const {
+    RowBuffer stored(columns->Count());
+    while (statement.Step())
+        stored.Append(statement.Handle());
+    return stored;
+}
+
 void Recordset::Impl::Insert() {
     const QStringList names = PendingNames();
     const QString values = names.isEmpty()
@@ -132,9 +142,7 @@ void Recordset::Impl::Insert() {
     Prepared& statement = connection->Statements().Command(u"INSERT INTO " + QuotedName(table) +
                                                            values + u" RETURNING rowid, *");
     BindPending(statement);
-    statement.Step();
-    rows.Append(statement.Handle());
-    statement.Step();
+    rows.Append(Write(statement));
     MoveTo(rows.Count() - 1);
 }
 
@@ -146,11 +154,22 @@ void Recordset::Impl::Change() {
         u"=? WHERE rowid=? RETURNING rowid, *");
     BindPending(statement);
     statement.Bind(static_cast<int>(pending.size()) + 1, rows.Value(row, 0));
-    if (!statement.Step())
+    const RowBuffer stored = Write(statement);
+    if (stored.Count() == 0)
         NoCurrentRow();
-    rows.Replace(row, statement.Handle());
-    statement.Step();
+    rows.Replace(row, stored);
     pending.clear();
+}
+
+void Recordset::Impl::Remove() {
+    Prepared& statement = connection->Statements().Command(u"DELETE FROM " + QuotedName(table) +
+                                                           u" WHERE rowid=? RETURNING rowid, *");
+    statement.Bind(1, rows.Value(row, 0));
+    if (Write(statement).Count() == 0)
+        NoCurrentRow();
+    rows.Erase(row);
+    pending.clear();
+    gone = true;
 }
 
 Recordset::Recordset() = default;
@@ -259,14 +278,5 @@ void Recordset::Delete() {
     set.RequireTable();
     if (set.adding || !set.HasRow())
         NoCurrentRow();
-    Prepared& statement = set.connection->Statements().Command(
-        u"DELETE FROM " + QuotedName(set.table) + u" WHERE rowid=? RETURNING rowid");
-    statement.Bind(1, set.rows.Value(set.row, 0));
-    const bool found = statement.Step();
-    if (!found)
-        NoCurrentRow();
-    statement.Step();
-    set.rows.Erase(set.row);
-    set.pending.clear();
-    set.gone = true;
+    set.Remove();
 }

@@ -21,9 +21,14 @@ void RowBuffer::Append(sqlite3_stmt* statement) {
         cells_.push_back(Take(statement, i));
 }
 
-void RowBuffer::Replace(int row, sqlite3_stmt* statement) {
-    for (int i = 0; i < static_cast<int>(columns_); ++i)
-        cells_[First(row) + static_cast<size_t>(i)] = Take(statement, i);
+void RowBuffer::Append(const RowBuffer& other) {
+    for (const Cell& cell : other.cells_)
+        cells_.push_back(Take(other, cell));
+}
+
+void RowBuffer::Replace(int row, const RowBuffer& other) {
+    for (size_t i = 0; i < columns_; ++i)
+        cells_[First(row) + i] = Take(other, other.cells_[i]);
 }
 
 void RowBuffer::Erase(int row) {
@@ -52,5 +57,14 @@ RowBuffer::Cell RowBuffer::Take(sqlite3_stmt* statement, int column) {
         texts_.append(text, cell.bytes);
     }
     }
+    return cell;
+}
+
+RowBuffer::Cell RowBuffer::Take(const RowBuffer& other, Cell cell) {
+    if (cell.kind != Kind::Text)
+        return cell;
+    const size_t offset = texts_.size();
+    texts_.append(other.texts_, cell.offset, cell.bytes);
+    cell.offset = offset;
     return cell;
 }

@@ -20,7 +20,10 @@ public:
 
     /// Takes the row that the statement stands on.
     void Append(sqlite3_stmt* statement);
-    void Replace(int row, sqlite3_stmt* statement);
+    /// Takes the rows of another buffer with the same columns.
+    void Append(const RowBuffer& other);
+    /// Puts the first row of another buffer in place of a row.
+    void Replace(int row, const RowBuffer& other);
     void Erase(int row);
 
 private:
@@ -35,6 +38,7 @@ private:
         };
     };
     Cell Take(sqlite3_stmt* statement, int column);
+    Cell Take(const RowBuffer& other, Cell cell);
     size_t First(int row) const { return static_cast<size_t>(row) * columns_; }
 
     size_t columns_;

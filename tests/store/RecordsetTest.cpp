@@ -2,6 +2,10 @@
 
 #include "store/StoreError.h"
 
+#include <SQLiteCpp/SQLiteCpp.h>
+
+#include <sqlite3.h>
+
 #include <cmath>
 #include <limits>
 
@@ -614,4 +618,36 @@ TEST_F(RecordsetTest, TwoColumnsOfOneNameGiveTheFirst) {
     EXPECT_EQ(set["a"].Integer(), 1);
     EXPECT_EQ(set["A"].Integer(), 1);
     EXPECT_EQ(set[1].Integer(), 2);
+}
+
+TEST_F(RecordsetTest, ACommitThatFailsLeavesTheSetAsItWas) {
+    Recordset set = ThreeWeights();
+    sqlite3_commit_hook(
+        users_.Raw().getHandle(), [](void*) { return 1; }, nullptr);
+    EXPECT_LT(ErrorOf([&] { set.Delete(); }), 0);
+    EXPECT_EQ(set["Weight"].Number(), 151);
+    set.Set("Weight", 99);
+    EXPECT_LT(ErrorOf([&] { set.Update(); }), 0);
+    set.MoveFirst();
+    EXPECT_EQ(set["Weight"].Number(), 151);
+    set.AddNew();
+    set.Set("Weight", 99);
+    EXPECT_LT(ErrorOf([&] { set.Update(); }), 0);
+    EXPECT_EQ(set.RecordCount(), 3);
+    EXPECT_EQ(Weights(), "151.0,152.0,153.0");
+    sqlite3_commit_hook(users_.Raw().getHandle(), nullptr, nullptr);
+    set.Update();
+    EXPECT_EQ(Weights(), "151.0,152.0,153.0,99.0");
+}
+
+TEST_F(RecordsetTest, AFullDiskIsToldAndNothingIsHalfWritten) {
+    Recordset set = Change("SELECT * FROM Recipes");
+    Run(users_, "PRAGMA max_page_count = 1");
+    set.AddNew();
+    set.Set("RecipeName", "Pie");
+    set.Set("Instructions", QString(100000, u'x'));
+    EXPECT_EQ(ErrorOf([&] { set.Update(); }), -13);
+    EXPECT_EQ(set.RecordCount(), 0);
+    EXPECT_EQ(First(users_, "SELECT count(*) FROM Recipes"), 0);
+    EXPECT_EQ(First(users_, "PRAGMA integrity_check"), "ok");
 }
