@@ -33,8 +33,9 @@ private:
     QVariant value_;
 };
 
-/// A result set: exactly one statement, opened, walked and closed inside one routine. Its rows are
-/// read when it is opened: what happens to the table afterwards does not change them.
+/// A result set: exactly one statement, opened, walked and closed inside one routine. Whatever its
+/// cursor, its rows are read when it is opened: what happens to the table afterwards does not
+/// change them.
 ///
 /// A set opened with a lock other than ReadOnly on `SELECT * FROM table ...` can append, change and
 /// delete rows; each touches exactly the current row, and only Update writes: what was set is
@@ -77,8 +78,8 @@ public:
     void Set(int position, const QVariant& value);
     void Set(const QString& name, const QVariant& value);
     void Update(); ///< commits the row; generated keys can be read from it afterwards
-    void
-    Delete(); ///< commits; the set then stands where the row was, with no current row until a move
+    /// Commits; the set then stands where the row was, with no current row until a move.
+    void Delete();
 
 private:
     struct Impl;
