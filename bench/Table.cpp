@@ -3,6 +3,8 @@
 #include <cstdio>
 
 namespace {
+constexpr double NanosecondsAMillisecond = 1e6;
+
 std::map<std::string, double>& Aims() {
     static std::map<std::string, double> aims;
     return aims;
@@ -23,7 +25,7 @@ void Table::ReportRuns(const std::vector<Run>& runs) {
         if (!pairs_.contains(work))
             order_.push_back(work);
         (name.substr(slash + 1) == "ours" ? pairs_[work].ours : pairs_[work].limit) =
-            run.GetAdjustedRealTime();
+            run.GetAdjustedRealTime() / NanosecondsAMillisecond;
     }
 }
 
