@@ -202,10 +202,9 @@ void ucDaily::PlaceScale(const Layout& layout) {
 void ucDaily::paintEvent(QPaintEvent*) {
     const Style& style = TheStyle();
     QPainter painter(this);
-    painter.fillRect(rect(), style.paper);
+    painter.fillRect(rect(), style.frame);
+    painter.fillRect(rect().adjusted(1, 1, -1, -1), style.paper);
     painter.fillRect(1, layoutRects().buttons.bottom() + 1, width() - 2, 1, style.rule);
-    painter.setPen(style.frame);
-    painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 
 void ucDaily::showEvent(QShowEvent*) {

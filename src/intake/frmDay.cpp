@@ -29,7 +29,7 @@ namespace {
 constexpr auto homeScreen = "frmMain";
 
 // Measures in pixels.
-constexpr QRect dateLine(204, 8, 548, 24); ///< right of the frame's title of the screen
+constexpr QRect dateLine(204, 11, 548, 24); ///< beside the frame's title of the screen
 constexpr int boxesTop = 42;
 constexpr int boxesBottom = 44; // from the lower edge
 constexpr int panelWidth = 338;
