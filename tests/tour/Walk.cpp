@@ -19,26 +19,32 @@
 #include <QSettings>
 #include <QTest>
 
+/// One food of the day: under which heading, what is typed, which serving and how much of it.
+struct Walk::Bite {
+    const char* heading;
+    const char* term;
+    const char* serving; ///< "A" or "B"
+    const char* quantity;
+};
+
+const Walk::Bite Walk::Meals[] = {
+    {"lblBreakfast", "oats regular quick unenriched cooked without", "A", "1"},
+    {"lblBreakfast", "milk 2% milkfat added vitamin", "A", ".5"},
+    {"lblBreakfast", "blueberries raw", "A", ".5"},
+    {"lblLunch", "bread whole-wheat commercially prepared", "B", "2"},
+    {"lblLunch", "turkey breast meat only roasted", "A", "1"},
+    {"lblLunch", "apples raw with skin", "A", "1"},
+    {"lblDinner", "salmon atlantic farmed cooked", "B", "1.5"},
+    {"lblDinner", "rice brown long-grain cooked", "A", "1"},
+    {"lblDinner", "broccoli frozen chopped cooked without salt", "A", "1"},
+    {"lblSnack", "almonds dry roasted", "B", "1"},
+    {"lblSnack", "yogurt plain low fat", "A", "1"},
+};
+
 namespace {
 const QString Delivered = QStringLiteral(HALVANE_BUILD_DIR "/delivered/");
 const QDate ThatDay(2026, 11, 21);
 
-struct Bite {
-    const char* heading;
-    const char* term;
-    const char* quantity;
-};
-const Bite Meals[] = {
-    {"lblBreakfast", "oats water", "1"},
-    {"lblBreakfast", "milk 2% vitamin", ".5"},
-    {"lblBreakfast", "blueberries raw", ".5"},
-    {"lblLunch", "bread whole-wheat", "2"},
-    {"lblLunch", "turkey breast roasted", "1"},
-    {"lblLunch", "apples raw skin", "1"},
-    {"lblDinner", "salmon atlantic cooked", "1.5"},
-    {"lblDinner", "broccoli cooked", "1"},
-    {"lblSnack", "almonds", "1"},
-};
 } // namespace
 
 Walk::Walk(Guide& guide, const QString& folder)
@@ -161,10 +167,10 @@ void Walk::LogMeals() {
                 guide_.Picture(search, QStringLiteral("search-empty"));
                 NothingFound(search);
                 EmptyTerm(search);
+                ManyFound(search);
             }
-            LogFirst(search, bite.term, bite.quantity);
+            LogFirst(search, bite);
             if (logged == 0) {
-                guide_.Picture(search, QStringLiteral("search-results"));
                 RefusedQuantity(search);
                 ExamineFirst(search);
             }
@@ -182,6 +188,12 @@ void Walk::NothingFound(QWidget* search) {
     guide_.Picture(search, QStringLiteral("search-nothing-found"));
 }
 
+void Walk::ManyFound(QWidget* search) {
+    guide_.Type(search, QStringLiteral("txtSearchString"), QStringLiteral("oats cooked"));
+    guide_.Press(search, QStringLiteral("cmdGo"));
+    guide_.Picture(search, QStringLiteral("search-results"));
+}
+
 void Walk::EmptyTerm(QWidget* search) {
     guide_.ForeseeNext(QStringLiteral("frmAlert"), [this](QWidget* alert) {
         guide_.Picture(alert, QStringLiteral("alert-search-term"));
@@ -191,14 +203,16 @@ void Walk::EmptyTerm(QWidget* search) {
     guide_.Press(search, QStringLiteral("cmdGo"));
 }
 
-void Walk::LogFirst(QWidget* search, const QString& term, const QString& quantity) {
-    guide_.Type(search, QStringLiteral("txtSearchString"), term);
+void Walk::LogFirst(QWidget* search, const Bite& bite) {
+    guide_.Type(search, QStringLiteral("txtSearchString"), bite.term);
     guide_.Press(search, QStringLiteral("cmdGo"));
     QWidget* row = guide_.Find(search, QStringLiteral("ucFood1"));
     if (!row)
         return;
-    guide_.Type(row, QStringLiteral("txtQTY_A"), quantity);
-    guide_.Press(row, QStringLiteral("cmdEAT_a"));
+    const bool first = bite.serving[0] == 'A';
+    guide_.Type(row, first ? QStringLiteral("txtQTY_A") : QStringLiteral("txtQTY_B"),
+                bite.quantity);
+    guide_.Press(row, first ? QStringLiteral("cmdEAT_a") : QStringLiteral("cmdEAT_B"));
     guide_.CheckValue(UserDB(),
                       QStringLiteral("SELECT FoodName FROM USER_FOODS ORDER BY RecID DESC LIMIT 1"),
                       row->property("FoodName"));

@@ -13,6 +13,9 @@ public:
     void GoAgain(); ///< the second start finds everything there
 
 private:
+    struct Bite;
+    static const Bite Meals[11];
+
     void UseFolder();
     void LayOut();
     void Start();
@@ -26,8 +29,9 @@ private:
     void RefusedQuantity(QWidget* search);
     void ExamineFirst(QWidget* search);
     void NothingFound(QWidget* search);
+    void ManyFound(QWidget* search);
     void EmptyTerm(QWidget* search);
-    void LogFirst(QWidget* search, const QString& term, const QString& quantity);
+    void LogFirst(QWidget* search, const Bite& bite);
     void LookAtDay();
     void LookAtViews();
     void RemoveOneFood();
