@@ -43,9 +43,9 @@ ucScroll::ucScroll(QWidget* parent)
 
 void ucScroll::SetValue(int value) {
     value_ = qMax(qMin(value, max_), min_);
-    PlaceThumb();
     TellValueChanged(this, value_);
     Q_EMIT Change(value_);
+    PlaceThumb();
 }
 
 /// Min takes no part. With a Max of 0 there is nowhere to go, and the thumb stands at the top.

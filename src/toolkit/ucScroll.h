@@ -5,8 +5,8 @@
 class QTimer;
 
 /// The vertical scroll bar. Setting Value clamps it, raises Change even if it has not changed, and
-/// places the thumb. Max and Min only store. Arrows and slot repeat after 0.4 seconds, every 0.05
-/// seconds. The thumb's place is Value / Max of the travel: Min takes no part.
+/// then places the thumb. Max and Min only store. Arrows and slot repeat after 0.4 seconds, every
+/// 0.05 seconds. The thumb's place is Value / Max of the travel: Min takes no part.
 class ucScroll : public DrawnControl {
     Q_OBJECT
     Q_PROPERTY(int Value READ Value WRITE SetValue NOTIFY Change)

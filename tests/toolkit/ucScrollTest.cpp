@@ -80,11 +80,12 @@ TEST_F(ucScrollTest, SettingMaxOrMinOnlyStores) {
     EXPECT_EQ(changes.count(), 0);
 }
 
-TEST_F(ucScrollTest, TheThumbIsPlacedBeforeChangeIsRaised) {
+TEST_F(ucScrollTest, ChangeIsRaisedBeforeTheThumbIsPlaced) {
     int topAtChange = -1;
     QObject::connect(&bar, &ucScroll::Change, [&] { topAtChange = bar.ThumbTop(); });
     bar.SetValue(100);
-    EXPECT_EQ(topAtChange, 50);
+    EXPECT_EQ(topAtChange, 0);
+    EXPECT_EQ(bar.ThumbTop(), 50);
 }
 
 TEST_F(ucScrollTest, TheThumbStandsAtValueByMaxOfTheTravelRoundedHalfToEven) {
@@ -101,6 +102,10 @@ TEST_F(ucScrollTest, MinTakesNoPartInTheThumbsPlace) {
     bar.SetMin(100);
     bar.SetValue(100);
     EXPECT_EQ(bar.ThumbTop(), 50);
+}
+
+TEST_F(ucScrollTest, AMinOf0AndAValueOf0PutTheThumbAtTheTop) {
+    bar.SetValue(100);
     bar.SetMin(0);
     bar.SetValue(0);
     EXPECT_EQ(bar.ThumbTop(), 0);
