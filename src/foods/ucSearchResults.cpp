@@ -19,7 +19,6 @@
 #include "toolkit/ucRadio.h"
 
 #include <QCheckBox>
-#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 
@@ -140,9 +139,6 @@ void ucSearchResults::Watch(QWidget* control) {
 bool ucSearchResults::eventFilter(QObject* control, QEvent* event) {
     if (event->type() == QEvent::MouseMove)
         mouseMoveEvent(static_cast<QMouseEvent*>(event));
-    if (event->type() == QEvent::KeyPress &&
-        StepMeal(control, static_cast<QKeyEvent*>(event)->key()))
-        return true;
     return DrawnControl::eventFilter(control, event);
 }
 
@@ -177,20 +173,6 @@ int ucSearchResults::TickedMeal() const {
 void ucSearchResults::TickMeal(int meal) {
     for (int i = 0; i < mealCount; ++i)
         opMeal_[i]->SetValue(i == meal);
-}
-
-/// The arrows walk from option to option, as in any set of them.
-bool ucSearchResults::StepMeal(const QObject* option, int key) {
-    const int step = key == Qt::Key_Right || key == Qt::Key_Down ? 1
-                     : key == Qt::Key_Left || key == Qt::Key_Up  ? mealCount - 1
-                                                                 : 0;
-    const auto* found = std::find(std::begin(opMeal_), std::end(opMeal_), option);
-    if (step == 0 || found == std::end(opMeal_) || recipeMode_)
-        return false;
-    const int next = (int(found - opMeal_) + step) % mealCount;
-    TickMeal(next);
-    opMeal_[next]->setFocus(Qt::OtherFocusReason);
-    return true;
 }
 
 void ucSearchResults::RestoreState() {

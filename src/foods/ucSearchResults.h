@@ -53,7 +53,6 @@ private:
 
     int TickedMeal() const; ///< the first that is ticked, or -1
     void TickMeal(int meal);
-    bool StepMeal(const QObject* option, int key);
 
     void LogChosenFood(int Index, qint32 ID, const QString& Serv, double QTY, bool isRecipe);
     void ExamineChosenFood(int Index, qint32 ID, const QString& Serv, double QTY, bool isRecipe);
