@@ -8,8 +8,6 @@
 #include "toolkit/Style.h"
 #include "toolkit/Twips.h"
 
-#include <QLocale>
-
 namespace {
 
 const QString Leader = QStringLiteral(".......................");
@@ -27,13 +25,6 @@ constexpr int ValueDrop = 15;
 constexpr int HiddenUpTo = 15;     ///< twips: a bar no wider is not shown
 constexpr int RightMargin = 30;    ///< twips
 constexpr double NoTarget = 0.001; ///< divisor where the target is 0
-
-/// The number that a formatted text stands for, without a sign on zero.
-double ReadBack(QString text) {
-    const QLocale locale;
-    text.remove(locale.groupSeparator());
-    return locale.toDouble(text) + 0.0;
-}
 
 } // namespace
 
@@ -113,7 +104,7 @@ double DailyRow::numFix(double value) {
     if (value == 0)
         return 0;
     const auto mask = value < 100 ? NumberMask::UpToTwoDecimals : NumberMask::Thousands;
-    return ReadBack(Format(value, mask));
+    return PlainNumber(Format(value, mask)).toDouble() + 0.0; // no sign on zero
 }
 
 double DailyRow::barWidth(double value, double rdi, int viewWidth) {

@@ -3,8 +3,6 @@
 #include "runtime/Convert.h"
 #include "runtime/Format.h"
 
-#include <QLocale>
-
 QString FormatNutrient(double value) {
     if (value == 0)
         return QStringLiteral("0");
@@ -12,9 +10,5 @@ QString FormatNutrient(double value) {
 }
 
 qint32 WholeNumber(const QString& caption) {
-    const QLocale locale;
-    QString digits = caption;
-    digits.remove(locale.groupSeparator());
-    digits.replace(locale.decimalPoint(), QStringLiteral("."));
-    return ToInteger(digits);
+    return ToInteger(PlainNumber(caption));
 }

@@ -58,6 +58,12 @@ QString Format(double value, NumberMask mask) {
     return text + QLatin1String(parts.suffix);
 }
 
+QString PlainNumber(QString formatted) {
+    const QLocale locale;
+    formatted.remove(locale.groupSeparator());
+    return formatted.replace(locale.decimalPoint(), QStringLiteral("."));
+}
+
 QString FormatShortDate(QDate date) {
     return date.toString(QStringLiteral("MM/dd/yyyy"));
 }

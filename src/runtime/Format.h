@@ -14,5 +14,8 @@ enum class NumberMask {
 
 QString Format(double value, NumberMask mask);
 
+/// A text of Format without the locale's separators: a point at most, as the conversions read it.
+QString PlainNumber(QString formatted);
+
 QString FormatShortDate(QDate date); ///< "mm/dd/yyyy"
 QString FormatLongDate(QDate date);  ///< "dddd, mmmm dd, yyyy", English names

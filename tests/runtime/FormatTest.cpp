@@ -109,6 +109,15 @@ TEST(Format, SeparatorsAreThoseOfTheLocale) {
     EXPECT_EQ(Text(123.45, NumberMask::Percent), "12.345%");
 }
 
+TEST(PlainNumber, KeepsAPointAtMostInEveryLocale) {
+    EXPECT_EQ(PlainNumber("1,234,567").toStdString(), "1234567");
+    EXPECT_EQ(PlainNumber("-12.5").toStdString(), "-12.5");
+    const InLocale german("de_DE");
+    EXPECT_EQ(PlainNumber("1.234.567").toStdString(), "1234567");
+    EXPECT_EQ(PlainNumber("12,5").toStdString(), "12.5");
+    EXPECT_EQ(PlainNumber("5,").toStdString(), "5.");
+}
+
 TEST(Format, VeryLargeAndVerySmallValuesAreWrittenOut) {
     EXPECT_EQ(Text(1e21, NumberMask::WholeNumber), "1000000000000000000000");
     EXPECT_EQ(Text(1e-300, NumberMask::UpToTwoDecimals), "0.");
