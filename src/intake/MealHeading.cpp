@@ -70,7 +70,7 @@ void MealHeading::paintEvent(QPaintEvent*) {
 }
 
 void MealHeading::mousePressEvent(QMouseEvent* event) {
-    pressed_ = event->button() == Qt::LeftButton;
+    BeginClick(event);
 }
 
 void MealHeading::mouseMoveEvent(QMouseEvent* event) {
@@ -78,9 +78,7 @@ void MealHeading::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void MealHeading::mouseReleaseEvent(QMouseEvent* event) {
-    const bool clicked = pressed_ && rect().contains(event->position().toPoint());
-    pressed_ = false;
-    if (clicked)
+    if (EndsClick(event))
         Q_EMIT Click();
 }
 

@@ -29,5 +29,4 @@ protected:
 private:
     QString caption_;
     bool lit_ = false;
-    bool pressed_ = false;
 };

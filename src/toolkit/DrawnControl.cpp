@@ -8,6 +8,8 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include <utility>
+
 DrawnControl::DrawnControl(QWidget* parent)
     : QWidget(parent) {
     InstallAccessible();
@@ -38,6 +40,14 @@ void DrawnControl::RaiseMouseMove(const QMouseEvent* event) {
     const double ratio = Twips::PerPixel();
     Q_EMIT MouseMove(static_cast<int>(event->buttons()), ShiftOf(event),
                      event->position().x() * ratio, event->position().y() * ratio);
+}
+
+void DrawnControl::BeginClick(const QMouseEvent* press) {
+    clickBegun_ = press->button() == Qt::LeftButton;
+}
+
+bool DrawnControl::EndsClick(const QMouseEvent* release) {
+    return std::exchange(clickBegun_, false) && rect().contains(release->position().toPoint());
 }
 
 int DrawnControl::ShiftOf(const QMouseEvent* event) {

@@ -28,12 +28,15 @@ protected:
     void focusOutEvent(QFocusEvent*) override;
 
     void RaiseMouseMove(const QMouseEvent* event);
-    static int ShiftOf(const QMouseEvent* event);   ///< 1 shift, 2 control, 4 alt
+    void BeginClick(const QMouseEvent* press);
+    bool EndsClick(const QMouseEvent* release);   ///< the left button, let go where it was pressed
+    static int ShiftOf(const QMouseEvent* event); ///< 1 shift, 2 control, 4 alt
     static bool IsPressKey(const QKeyEvent* event); ///< Space or Return, not from holding it down
 
 private:
     bool focusShown_ = false;
     bool focusFromMouse_ = false;
+    bool clickBegun_ = false;
 };
 
 /// The ring that shows the focus.

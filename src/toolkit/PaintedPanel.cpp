@@ -41,7 +41,7 @@ void PaintedPanel::PrintCaption(QPainter& painter, const QColor& ink, QPointF pl
 }
 
 void PaintedPanel::mousePressEvent(QMouseEvent* event) {
-    pressed_ = event->button() == Qt::LeftButton;
+    BeginClick(event);
 }
 
 /// The screen below hears of the move as well.
@@ -51,8 +51,6 @@ void PaintedPanel::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void PaintedPanel::mouseReleaseEvent(QMouseEvent* event) {
-    const bool clicked = pressed_ && rect().contains(event->position().toPoint());
-    pressed_ = false;
-    if (clicked)
+    if (EndsClick(event))
         Q_EMIT Click();
 }

@@ -28,6 +28,5 @@ protected:
     void mouseReleaseEvent(QMouseEvent*) override;
 
 private:
-    bool pressed_ = false;
     QString caption_ = QStringLiteral("Custom");
 };

@@ -74,7 +74,7 @@ void ucAALBL::paintEvent(QPaintEvent*) {
 }
 
 void ucAALBL::mousePressEvent(QMouseEvent* event) {
-    pressed_ = event->button() == Qt::LeftButton;
+    BeginClick(event);
     const QPointF place = event->position() * Twips::PerPixel();
     Q_EMIT MouseDown(static_cast<int>(event->button()), ShiftOf(event), place.x(), place.y());
 }
@@ -86,8 +86,7 @@ void ucAALBL::mouseMoveEvent(QMouseEvent* event) {
 
 void ucAALBL::mouseReleaseEvent(QMouseEvent* event) {
     const QPointF place = event->position() * Twips::PerPixel();
-    const bool clicked = pressed_ && rect().contains(event->position().toPoint());
-    pressed_ = false;
+    const bool clicked = EndsClick(event);
     Q_EMIT MouseUp(static_cast<int>(event->button()), ShiftOf(event), place.x(), place.y());
     if (clicked)
         Q_EMIT Click();

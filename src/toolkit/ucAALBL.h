@@ -43,5 +43,4 @@ private:
     QString caption_;
     QColor backColor_;
     QColor foreColor_;
-    bool pressed_ = false;
 };

@@ -97,7 +97,7 @@ void ucRadio::Activate() {
 }
 
 void ucRadio::mousePressEvent(QMouseEvent* event) {
-    pressed_ = event->button() == Qt::LeftButton;
+    BeginClick(event);
 }
 
 void ucRadio::mouseMoveEvent(QMouseEvent* event) {
@@ -108,9 +108,7 @@ void ucRadio::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void ucRadio::mouseReleaseEvent(QMouseEvent* event) {
-    const bool clicked = pressed_ && IsInside(event->position());
-    pressed_ = false;
-    if (clicked)
+    if (EndsClick(event))
         Activate();
 }
 

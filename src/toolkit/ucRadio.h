@@ -46,7 +46,6 @@ private:
     QString imgN_, imgD_, caption_;
     QSize pictureSize_;
     bool value_ = false;
-    bool pressed_ = false;
     bool lit_ = false;
 };
 
