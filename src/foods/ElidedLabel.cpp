@@ -1,5 +1,6 @@
 #include "foods/ElidedLabel.h"
 
+#include "toolkit/PlainTip.h"
 #include "toolkit/SmoothedPrint.h"
 #include "toolkit/Style.h"
 
@@ -8,7 +9,6 @@
 #include <QMetaMethod>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QToolTip>
 
 ElidedLabel::ElidedLabel(QWidget* parent, const QString& name)
     : QLabel(parent)
@@ -50,11 +50,12 @@ QFont ElidedLabel::FittingFont() const {
 }
 
 bool ElidedLabel::event(QEvent* event) {
-    if (event->type() == QEvent::ToolTip && toolTip().isEmpty() && !Fits(fonts_.last())) {
-        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), text(), this);
-        return true;
-    }
-    return QLabel::event(event);
+    if (event->type() != QEvent::ToolTip)
+        return QLabel::event(event);
+    const QString cut = Fits(fonts_.last()) ? QString() : text();
+    ShowPlainTip(static_cast<QHelpEvent*>(event)->globalPos(),
+                 toolTip().isEmpty() ? cut : toolTip(), this);
+    return true;
 }
 
 void ElidedLabel::paintEvent(QPaintEvent*) {

@@ -22,38 +22,32 @@ bool FromKeyboard(const QFocusEvent* event) {
 } // namespace
 
 ucFood::ucFood(QWidget* parent)
-    : DrawnControl(parent)
+    : ListRow(parent)
     , foodName_(QStringLiteral("FoodName"))
     , servA_(QStringLiteral("ServA"))
     , servB_(QStringLiteral("ServB"))
-    , id_(QStringLiteral("1"))
-    , foodIcon_(foodPicture)
-    , backColor_(Qt::white)
-    , foreColor_(TheStyle().ink) {
+    , id_(QStringLiteral("1")) {
+    SetFoodIcon(foodPicture);
     setFocusPolicy(Qt::TabFocus);
     resize(width(), layoutRects().height);
 }
 
 void ucFood::SetFoodName(const QString& name) {
-    foodName_ = name;
-    Refresh();
+    Take(foodName_, name);
 }
 
 void ucFood::SetServA(const QString& serving) {
-    servA_ = serving;
-    Refresh();
+    Take(servA_, serving);
 }
 
 void ucFood::SetServB(const QString& serving) {
-    servB_ = serving;
     const FoodRowLayout layout = layoutRects();
     resize(width(), serving.isEmpty() ? layout.lines[1].txtQTY.top() : layout.height);
-    Refresh();
+    Take(servB_, serving);
 }
 
 void ucFood::SetID(const QString& id) {
-    id_ = id;
-    Refresh();
+    Take(id_, id);
 }
 
 void ucFood::SetIsRecipe(bool recipe) {
@@ -63,31 +57,6 @@ void ucFood::SetIsRecipe(bool recipe) {
 
 void ucFood::SetRecipeMode(bool on) {
     recipeMode_ = on;
-}
-
-void ucFood::SetFoodIcon(const QString& picture) {
-    foodIcon_ = picture;
-    Refresh();
-}
-
-void ucFood::SetBackColor(const QColor& color) {
-    backColor_ = color;
-    update();
-}
-
-void ucFood::SetForeColor(const QColor& color) {
-    foreColor_ = color;
-    Refresh();
-}
-
-void ucFood::SetBackStyle(int style) {
-    backStyle_ = style;
-    update();
-}
-
-void ucFood::SetBorderStyle(int style) {
-    borderStyle_ = style;
-    update();
 }
 
 QFont ucFood::NameFont() const {
@@ -105,10 +74,10 @@ void ucFood::paintEvent(QPaintEvent*) {
 
 void ucFood::PaintGround(QPainter& painter) const {
     const QRect edge = rect().adjusted(0, 0, -1, -1);
-    if (backStyle_ == 1)
-        painter.fillRect(rect(), backColor_);
+    if (BackStyle() == 1)
+        painter.fillRect(rect(), BackColor());
     painter.setPen(TheStyle().rule);
-    if (borderStyle_ == 1)
+    if (BorderStyle() == 1)
         painter.drawRect(edge);
     else
         painter.drawLine(edge.bottomLeft(), edge.bottomRight());
@@ -117,8 +86,8 @@ void ucFood::PaintGround(QPainter& painter) const {
 void ucFood::PaintTexts(QPainter& painter) const {
     const Style& style = TheStyle();
     const FoodRowLayout layout = layoutRects();
-    Pictures::Paint(painter, layout.imgFoodIcon, foodIcon_, style.heading);
-    ElidedLabel::Print(painter, layout.aaFood, foodName_, NameFont(), foreColor_);
+    Pictures::Paint(painter, layout.imgFoodIcon, FoodIcon(), style.heading);
+    ElidedLabel::Print(painter, layout.aaFood, foodName_, NameFont(), ForeColor());
     ElidedLabel::Print(painter, layout.lblQTY, quantityCaption, style.small, style.quietInk);
     ElidedLabel::Print(painter, layout.lines[0].lblServ, servA_, font(), style.quietInk);
     if (!servB_.isEmpty())
@@ -189,10 +158,10 @@ void ucFood::RefreshHeading(const FoodRowLayout& layout) {
     aaFood_->setGeometry(layout.aaFood);
     aaFood_->SetCaption(foodName_);
     aaFood_->setToolTip(foodName_);
-    aaFood_->SetLook({NameFont()}, foreColor_);
+    aaFood_->SetLook({NameFont()}, ForeColor());
     lblQTY_->setGeometry(layout.lblQTY);
     imgFoodIcon_->setGeometry(layout.imgFoodIcon);
-    imgFoodIcon_->setPixmap(Pictures::Get(foodIcon_, layout.imgFoodIcon.size(), TheStyle().heading,
+    imgFoodIcon_->setPixmap(Pictures::Get(FoodIcon(), layout.imgFoodIcon.size(), TheStyle().heading,
                                           devicePixelRatioF()));
     lblID_->setText(id_);
 }
@@ -211,7 +180,7 @@ void ucFood::ResetButtons(const QObject* except) {
 bool ucFood::eventFilter(QObject* control, QEvent* event) {
     if (event->type() == QEvent::FocusIn && FromKeyboard(static_cast<QFocusEvent*>(event)))
         Q_EMIT Reached();
-    return DrawnControl::eventFilter(control, event);
+    return ListRow::eventFilter(control, event);
 }
 
 void ucFood::focusInEvent(QFocusEvent* event) {
@@ -225,13 +194,13 @@ void ucFood::focusInEvent(QFocusEvent* event) {
 }
 
 void ucFood::changeEvent(QEvent* event) {
-    DrawnControl::changeEvent(event);
+    ListRow::changeEvent(event);
     if (event->type() == QEvent::FontChange || event->type() == QEvent::EnabledChange)
         Refresh();
 }
 
 void ucFood::resizeEvent(QResizeEvent* event) {
-    DrawnControl::resizeEvent(event);
+    ListRow::resizeEvent(event);
     Refresh();
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "foods/FoodRowLayout.h"
-#include "toolkit/DrawnControl.h"
+#include "toolkit/ListRow.h"
 
 class ElidedLabel;
 class QLabel;
@@ -11,7 +11,7 @@ class ServingLine;
 /// and an examine button. A search makes hundreds of rows and few are ever looked at: a row is one
 /// painted widget until it comes into view or the focus reaches it, and makes its controls then.
 /// The height is set when ServB is: an empty one cuts the row at the top of txtQTY_B.
-class ucFood : public DrawnControl {
+class ucFood : public ListRow {
     Q_OBJECT
     Q_PROPERTY(QString FoodName READ FoodName WRITE SetFoodName)
     Q_PROPERTY(QString ServA READ ServA WRITE SetServA)
@@ -19,13 +19,6 @@ class ucFood : public DrawnControl {
     Q_PROPERTY(QString ID READ ID WRITE SetID)
     Q_PROPERTY(bool isRecipe READ isRecipe WRITE SetIsRecipe)
     Q_PROPERTY(bool RecipeMode READ RecipeMode WRITE SetRecipeMode)
-    Q_PROPERTY(QString FoodIcon READ FoodIcon WRITE SetFoodIcon)
-    Q_PROPERTY(QColor BackColor READ BackColor WRITE SetBackColor)
-    Q_PROPERTY(QColor ForeColor READ ForeColor WRITE SetForeColor)
-    Q_PROPERTY(bool Enabled READ isEnabled WRITE setEnabled)
-    Q_PROPERTY(QFont Font READ font WRITE setFont)
-    Q_PROPERTY(int BackStyle READ BackStyle WRITE SetBackStyle)
-    Q_PROPERTY(int BorderStyle READ BorderStyle WRITE SetBorderStyle)
 
 public:
     explicit ucFood(QWidget* parent = nullptr);
@@ -36,26 +29,17 @@ public:
     QString ID() const { return id_; }
     bool isRecipe() const { return isRecipe_; }
     bool RecipeMode() const { return recipeMode_; }
-    QString FoodIcon() const { return foodIcon_; }
-    QColor BackColor() const { return backColor_; }
-    QColor ForeColor() const { return foreColor_; }
-    int BackStyle() const { return backStyle_; }
-    int BorderStyle() const { return borderStyle_; }
     void SetFoodName(const QString& name);
     void SetServA(const QString& serving);
     void SetServB(const QString& serving);
     void SetID(const QString& id);
     void SetIsRecipe(bool recipe); ///< also sets the icon that goes with it
     void SetRecipeMode(bool on);   ///< stored and handed around, without effect on the row
-    void SetFoodIcon(const QString& picture);
-    void SetBackColor(const QColor& color);
-    void SetForeColor(const QColor& color);
-    void SetBackStyle(int style);   ///< 0 transparent, 1 opaque
-    void SetBorderStyle(int style); ///< 0 none, 1 a line around
 
     FoodRowLayout layoutRects() const { return FoodRowLayout::Of(width()); }
     void Materialise(); ///< makes the controls where they are not there yet
     bool Materialised() const { return lines_[0]; }
+    void Refresh() override; ///< texts, fonts and places of the controls, then a repaint
 
 Q_SIGNALS:
     void EatFood(qint32 ID, const QString& Serv, double QTY, bool isRecipe);
@@ -82,15 +66,11 @@ private:
     void BuildHeading();
     void BuildLine(int line);
     void JoinTabOrder();
-    void Refresh(); ///< texts, fonts and places of the controls, then a repaint
     void RefreshHeading(const FoodRowLayout& layout);
     void Raise(Handler raised, int line);
     void ResetButtons(const QObject* except = nullptr);
 
-    QString foodName_, servA_, servB_, id_, foodIcon_;
-    QColor backColor_, foreColor_;
-    int backStyle_ = 1;
-    int borderStyle_ = 0;
+    QString foodName_, servA_, servB_, id_;
     bool isRecipe_ = false;
     bool recipeMode_ = false;
 

@@ -2,6 +2,7 @@
 
 #include "runtime/Convert.h"
 #include "toolkit/Pictures.h"
+#include "toolkit/PlainTip.h"
 #include "toolkit/SmoothedPrint.h"
 #include "toolkit/Style.h"
 #include "toolkit/Twips.h"
@@ -11,8 +12,6 @@
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QPainter>
-#include <QTextDocument>
-#include <QToolTip>
 #include <QtMath>
 
 namespace {
@@ -25,14 +24,6 @@ constexpr QSize trashPicture(16, 16);
 constexpr int trashRight = 4;
 constexpr double quantityGap = 120; // twips
 constexpr int longestShown = 1000;  // characters: more never fit a line
-constexpr int longestTip = 500;
-
-template <class Value> bool Assign(Value& field, const Value& value) {
-    if (field == value)
-        return false;
-    field = value;
-    return true;
-}
 
 /// Line breaks and other blanks of a name become single spaces.
 QString OneLine(const QString& text) {
@@ -50,11 +41,11 @@ void Print(QPainter& painter, const QRect& place, const QString& text, const QFo
 } // namespace
 
 ucAte::ucAte(QWidget* parent)
-    : DrawnControl(parent)
-    , backColor_(TheStyle().paper)
-    , foreColor_(TheStyle().ink)
+    : ListRow(parent)
     , imgTrash_(new ucButtonA(this)) {
     setFont(TheStyle().text);
+    SetBackColor(TheStyle().paper);
+    SetBorderStyle(1);
     imgTrash_->setObjectName(QStringLiteral("imgTrash"));
     imgTrash_->SetPictures(QStringLiteral("trash"), QStringLiteral("Remove"));
     imgTrash_->SetPictureSize(trashPicture);
@@ -64,55 +55,27 @@ ucAte::ucAte(QWidget* parent)
 }
 
 void ucAte::SetFoodName(const QString& name) {
-    if (!Assign(foodName_, name))
+    if (name == foodName_)
         return;
     setToolTip(name);
     imgTrash_->setAccessibleName("Remove " + name);
-    update();
+    Take(foodName_, name);
 }
 
 void ucAte::SetServ(const QString& serving) {
-    if (Assign(serv_, serving))
-        update();
+    Take(serv_, serving);
 }
 
 void ucAte::SetQTY(const QString& quantity) {
-    if (Assign(qty_, quantity))
-        update();
+    Take(qty_, quantity);
 }
 
 void ucAte::SetID(const QString& id) {
     id_ = id;
 }
 
-void ucAte::SetFoodIcon(const QString& picture) {
-    if (Assign(foodIcon_, picture))
-        update();
-}
-
-void ucAte::SetBackColor(const QColor& color) {
-    if (Assign(backColor_, color))
-        update();
-}
-
-void ucAte::SetForeColor(const QColor& color) {
-    if (Assign(foreColor_, color))
-        update();
-}
-
-void ucAte::SetBackStyle(int style) {
-    if (Assign(backStyle_, style))
-        update();
-}
-
-void ucAte::SetBorderStyle(int style) {
-    if (Assign(borderStyle_, style))
-        update();
-}
-
 QString ucAte::Caption() const {
-    const QStringList parts{foodName_, serv_, qty_};
-    return QStringList(parts).join(QStringLiteral(", "));
+    return foodName_ + u", " + serv_ + u", " + qty_;
 }
 
 QSize ucAte::sizeHint() const {
@@ -124,7 +87,7 @@ QRect ucAte::TrashPlace() const {
 }
 
 QRect ucAte::TextPlace() const {
-    const int left = textLeft + (foodIcon_.isEmpty() ? 0 : iconSide + TheStyle().groupGap);
+    const int left = textLeft + (FoodIcon().isEmpty() ? 0 : iconSide + TheStyle().groupGap);
     const int right = width() - trashRight - trashSide - textRight;
     return {left, 0, qMax(0, right - left), height()};
 }
@@ -157,18 +120,18 @@ void ucAte::paintEvent(QPaintEvent*) {
 }
 
 void ucAte::PaintGround(QPainter& painter) const {
-    if (backStyle_ != 0)
-        painter.fillRect(rect(), backColor_);
-    if (borderStyle_ != 0)
+    if (BackStyle() != 0)
+        painter.fillRect(rect(), BackColor());
+    if (BorderStyle() != 0)
         painter.fillRect(QRect(0, height() - 1, width(), 1), TheStyle().rule);
-    if (!foodIcon_.isEmpty())
-        Pictures::Paint(painter, layoutRects().imgFoodIcon, foodIcon_, TheStyle().quietInk);
+    if (!FoodIcon().isEmpty())
+        Pictures::Paint(painter, layoutRects().imgFoodIcon, FoodIcon(), TheStyle().quietInk);
 }
 
 void ucAte::PaintTexts(QPainter& painter) const {
     const Style& style = TheStyle();
     const Layout at = layoutRects();
-    painter.setPen(isEnabled() ? foreColor_ : style.disabledInk);
+    painter.setPen(isEnabled() ? ForeColor() : style.disabledInk);
     Print(painter, at.lblFood, foodName_, font());
     painter.setPen(isEnabled() ? style.quietInk : style.disabledInk);
     Print(painter, at.lblServ, serv_, style.small);
@@ -177,20 +140,11 @@ void ucAte::PaintTexts(QPainter& painter) const {
 
 bool ucAte::event(QEvent* event) {
     if (event->type() != QEvent::ToolTip)
-        return DrawnControl::event(event);
+        return ListRow::event(event);
     const auto* help = static_cast<QHelpEvent*>(event);
-    ShowTip(help->pos(), help->globalPos());
+    const bool onName = layoutRects().lblFood.contains(help->pos());
+    ShowPlainTip(help->globalPos(), onName ? foodName_ : QString(), this);
     return true;
-}
-
-/// A name can be as long as it likes and hold anything: its tip wraps, ends somewhere, and is never
-/// read as markup.
-void ucAte::ShowTip(QPoint place, QPoint globalPlace) {
-    if (foodName_.isEmpty() || !layoutRects().lblFood.contains(place))
-        return QToolTip::hideText();
-    QToolTip::showText(globalPlace,
-                       Qt::convertFromPlainText(foodName_.left(longestTip), Qt::WhiteSpaceNormal),
-                       this);
 }
 
 /// A line is not the empty pane: a press on it ends here.
@@ -206,7 +160,7 @@ void ucAte::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Delete && !event->isAutoRepeat())
         Remove();
     else
-        DrawnControl::keyPressEvent(event);
+        ListRow::keyPressEvent(event);
 }
 
 void ucAte::Remove() {

@@ -2,10 +2,12 @@
 
 #include "foods/ucFood.h"
 
+#include <QHelpEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QSignalSpy>
 #include <QTest>
+#include <QToolTip>
 
 class UcFoodTest : public HalvaneTest {
 protected:
@@ -94,6 +96,25 @@ TEST_F(UcFoodTest, TextsStandInTheLabelsAndTheirTips) {
     row_.SetFoodName("Rye");
     EXPECT_EQ(Find<QLabel>(&row_, "aaFood")->text(), "Rye");
     EXPECT_EQ(Find(&row_, "aaFood")->toolTip(), "Rye");
+}
+
+TEST_F(UcFoodTest, AwkwardNamesStandWholeInTheLabelAndAreNeverReadAsMarkup) {
+    QString nul = QStringLiteral("half");
+    nul += QChar(QChar::Null);
+    for (const QString& name :
+         {QStringLiteral("O'Brien's 100 % of_[all] \U0001F96A"), QString(10000, u'x'), nul,
+          QStringLiteral("'; DROP TABLE FOODS; --"), QStringLiteral("<b>bold</b>")}) {
+        row_.SetFoodName(name);
+        row_.SetServA(name);
+        auto* label = Find<QLabel>(&row_, "aaFood");
+        EXPECT_EQ(label->text(), name);
+        EXPECT_EQ(label->textFormat(), Qt::PlainText);
+        EXPECT_FALSE(Grab(&row_).isNull());
+    }
+    QHelpEvent help(QEvent::ToolTip, QPoint(5, 5), row_.mapToGlobal(QPoint(5, 5)));
+    QCoreApplication::sendEvent(Find(&row_, "aaFood"), &help);
+    EXPECT_TRUE(QToolTip::text().contains("&lt;b&gt;bold")) << QToolTip::text().toStdString();
+    QToolTip::hideText();
 }
 
 TEST_F(UcFoodTest, QuantitiesStartAsOneAndTheTipsSayWhatToDo) {

@@ -1,0 +1,8 @@
+#include "toolkit/ListRow.h"
+
+#include "toolkit/Style.h"
+
+ListRow::ListRow(QWidget* parent)
+    : DrawnControl(parent)
+    , backColor_(Qt::white)
+    , foreColor_(TheStyle().ink) {}
