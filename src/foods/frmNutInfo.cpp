@@ -131,7 +131,7 @@ void frmNutInfo::BuildCalories() {
     const QRect fat = row.translated(middle - Left() + TheStyle().boxGap, 0);
     AddCaption(fat, QStringLiteral("lblFatCalsCaption"), QStringLiteral("Calories from fat"),
                TextRole::Text);
-    lblFatCals_ = AddFigure(fat, QStringLiteral("lblFatCals"));
+    lblFatCals_ = AddFigure(fat, QStringLiteral("lblFatCals"), QStringLiteral("Calories from fat"));
 }
 
 void frmNutInfo::BuildHeadlines() {
@@ -139,7 +139,9 @@ void frmNutInfo::BuildHeadlines() {
         AddAmount(RowPlace(headlineTop, row, Left(), amountRight), headlines[row].id,
                   TextRole::Text);
         const QRect place = RowPlace(headlineTop, row, amountRight, Right());
-        percents_[size_t(row)] = AddFigure(place, QString::fromLatin1(headlines[row].percentLabel));
+        percents_[size_t(row)] =
+            AddFigure(place, QString::fromLatin1(headlines[row].percentLabel),
+                      QLatin1String(Info(headlines[row].id).factsCaption) + u", % Daily Value");
     }
 }
 
@@ -168,9 +170,11 @@ QLabel* frmNutInfo::AddCaption(const QRect& place, const QString& name, const QS
     return caption;
 }
 
-QLabel* frmNutInfo::AddFigure(const QRect& place, const QString& name) {
+/// To assistive tools a figure is its text, described by the caption beside it.
+QLabel* frmNutInfo::AddFigure(const QRect& place, const QString& name, const QString& caption) {
     QLabel* figure = MakeLabel(this, name, {}, TextRole::Strong);
     figure->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    figure->setAccessibleDescription(caption);
     figure->setGeometry(place);
     return figure;
 }
@@ -178,9 +182,7 @@ QLabel* frmNutInfo::AddFigure(const QRect& place, const QString& name) {
 void frmNutInfo::AddAmount(const QRect& place, Nutrient id, TextRole captionRole) {
     const QString name = QString::fromLatin1(Info(id).factsLabel);
     AddCaption(place, name + u"Caption", QString::fromLatin1(Info(id).factsCaption), captionRole);
-    QLabel* amount = AddFigure(place, name);
-    amount->setAccessibleName(QString::fromLatin1(Info(id).factsCaption));
-    amounts_[size_t(id)] = amount;
+    amounts_[size_t(id)] = AddFigure(place, name, QString::fromLatin1(Info(id).factsCaption));
 }
 
 void frmNutInfo::showFood(const ScaledFood& item) {

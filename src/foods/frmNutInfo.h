@@ -32,7 +32,7 @@ private:
     void BuildOthers();
     void BuildDone();
     QLabel* AddCaption(const QRect& place, const QString& name, const QString& text, TextRole role);
-    QLabel* AddFigure(const QRect& place, const QString& name);
+    QLabel* AddFigure(const QRect& place, const QString& name, const QString& caption);
     void AddAmount(const QRect& place, Nutrient id, TextRole captionRole);
 
     void Fill(const ScaledFood& item);

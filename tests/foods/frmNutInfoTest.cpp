@@ -5,6 +5,7 @@
 #include "toolkit/Style.h"
 #include "toolkit/Twips.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QLabel>
 #include <QTest>
@@ -206,6 +207,19 @@ TEST_F(FrmNutInfoTest, NoFigureIsCut) {
             EXPECT_LE(figure->sizeHint().width() + caption->sizeHint().width(), figure->width())
                 << nutrient.factsLabel;
         }
+    });
+}
+
+TEST_F(FrmNutInfoTest, AssistiveToolsReadEachFigureWithItsCaption) {
+    Show(Item({{"TotalFat", 13}}), [](QWidget* panel) {
+        const auto said = [panel](const char* label, QAccessible::Text part) {
+            return QAccessible::queryAccessibleInterface(Find(panel, label))->text(part);
+        };
+        EXPECT_EQ(said("lblTotalFat", QAccessible::Name), "13.");
+        EXPECT_EQ(said("lblTotalFat", QAccessible::Description), "Total Fat (g)");
+        EXPECT_EQ(said("lblPerFat", QAccessible::Name), Text(panel, "lblPerFat"));
+        EXPECT_EQ(said("lblPerFat", QAccessible::Description), "Total Fat (g), % Daily Value");
+        EXPECT_EQ(said("lblFatCals", QAccessible::Description), "Calories from fat");
     });
 }
 
