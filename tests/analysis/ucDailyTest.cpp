@@ -9,6 +9,7 @@
 #include "runtime/RuntimeError.h"
 #include "runtime/Settings.h"
 #include "store/Connection.h"
+#include "support/Failure.h"
 #include "support/HalvaneTest.h"
 #include "toolkit/Style.h"
 #include "toolkit/ucAALBL.h"
@@ -228,12 +229,7 @@ TEST_F(ucDailyTest, SumsBeyondAWholeNumberFailAndLeaveThePanelAsItWas) {
     ucDaily panel;
     panel.setDate(Day);
     Eat({{QStringLiteral("Calories"), 2147483647}});
-    try {
-        panel.updateCharts();
-        FAIL() << "no overflow";
-    } catch (const RuntimeError& error) {
-        EXPECT_EQ(error.Number(), ErrorNumber::Overflow);
-    }
+    EXPECT_EQ(FailureOf([&] { panel.updateCharts(); }), ErrorNumber::Overflow);
     EXPECT_EQ(Value(panel, 1)->Caption(), Leader + QStringLiteral("100 kcal"));
 }
 

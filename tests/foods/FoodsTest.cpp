@@ -2,7 +2,6 @@
 
 #include "foods/ucFood.h"
 #include "foods/ucSearchResults.h"
-#include "runtime/RuntimeError.h"
 #include "store/Connection.h"
 
 #include <QLineEdit>
@@ -104,13 +103,4 @@ QStringList FoodsTest::NamesShown(const ucSearchResults& panel) {
 void FoodsTest::ExpectNothingWritten() {
     EXPECT_EQ(Users(QStringLiteral("SELECT COUNT(*) FROM USER_FOODS")).toInt(), 0);
     EXPECT_EQ(Users(QStringLiteral("SELECT COUNT(*) FROM Ingredients")).toInt(), 0);
-}
-
-int FailureOf(const std::function<void()>& action) {
-    try {
-        action();
-    } catch (const RuntimeError& error) {
-        return error.Number();
-    }
-    return 0;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "support/Failure.h"
 #include "support/HalvaneTest.h"
 
 #include <QMap>
@@ -39,6 +40,3 @@ protected:
     /// Nothing that the user keeps has grown.
     void ExpectNothingWritten();
 };
-
-/// The number of the failure that `action` ends in, 0 where it succeeds.
-int FailureOf(const std::function<void()>& action);

@@ -1,5 +1,6 @@
 #include "model/Nuts.h"
 #include "runtime/RuntimeError.h"
+#include "support/Failure.h"
 
 #include <QSet>
 #include <QStringList>
@@ -187,12 +188,7 @@ TEST(Nuts, OtherMembersKeepTheirFraction) {
 TEST(Nuts, AWholeNumberMemberOverflows) {
     Nuts nuts;
     nuts.Set(Nutrient::Calcium, 5);
-    try {
-        nuts.Set(Nutrient::Calcium, 3e9);
-        FAIL() << "no overflow";
-    } catch (const RuntimeError& error) {
-        EXPECT_EQ(error.Number(), ErrorNumber::Overflow);
-    }
+    EXPECT_EQ(FailureOf([&] { nuts.Set(Nutrient::Calcium, 3e9); }), ErrorNumber::Overflow);
     EXPECT_EQ(nuts[Nutrient::Calcium], 5);
 }
 

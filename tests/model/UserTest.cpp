@@ -4,6 +4,7 @@
 #include "runtime/AppState.h"
 #include "runtime/RuntimeError.h"
 #include "store/Connection.h"
+#include "support/Failure.h"
 #include "support/HalvaneTest.h"
 
 namespace {
@@ -40,15 +41,6 @@ std::string MotherKey(bool lactating, bool pregnant, double age, qint32 gender =
     user.Lactating = lactating;
     user.Pregnant = pregnant;
     return KeyOf(user);
-}
-
-template <class Action> int FailureOf(Action action) {
-    try {
-        action();
-        return 0;
-    } catch (const RuntimeError& error) {
-        return error.Number();
-    }
 }
 
 class UserTest : public HalvaneTest {

@@ -2,9 +2,9 @@
 #include "model/Nutrients.h"
 #include "model/User.h"
 #include "runtime/AppState.h"
-#include "runtime/RuntimeError.h"
 #include "runtime/Seams.h"
 #include "store/Connection.h"
+#include "support/Failure.h"
 #include "support/HalvaneTest.h"
 #include "toolkit/Style.h"
 #include "toolkit/Twips.h"
@@ -29,15 +29,6 @@ const QString takenNew = "A user with this name already exists in the database. 
                          "different User Name.";
 const QString takenEdit = "A user with this name already exists in the database. Please enter a "
                           "different User Name.";
-
-template <class Action> int FailureOf(Action action) {
-    try {
-        action();
-        return 0;
-    } catch (const RuntimeError& error) {
-        return error.Number();
-    }
-}
 
 class ProfileTest : public HalvaneTest {
 protected:

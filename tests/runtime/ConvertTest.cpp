@@ -1,5 +1,5 @@
 #include "runtime/Convert.h"
-#include "runtime/Failure.h"
+#include "support/Failure.h"
 
 #include <limits>
 

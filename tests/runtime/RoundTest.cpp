@@ -1,5 +1,5 @@
 #include "runtime/Round.h"
-#include "runtime/Failure.h"
+#include "support/Failure.h"
 
 #include <cmath>
 #include <limits>
