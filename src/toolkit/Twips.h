@@ -1,6 +1,6 @@
 #pragma once
 
-/// Screen positions are laid down in twips, 1/1440 inch: 15 to the pixel at the standard density.
+/// Screen positions are given in twips, 1/1440 inch: 15 to the pixel at the standard density.
 /// The ratio is read from the primary screen at run time, here and nowhere else.
 namespace Twips {
 int PerPixel();

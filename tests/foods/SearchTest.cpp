@@ -206,6 +206,25 @@ TEST_F(SearchTest, NullServingsAreEmptyTexts) {
     EXPECT_EQ(Rows(*panel_)[0]->ServB(), "");
 }
 
+TEST_F(SearchTest, ARecipeRowHasOneServingLine) {
+    AddRecipe("Milk soup", "1 bowl");
+    SearchFor("milk");
+    const QRect row = Rows(*panel_)[0]->rect();
+    EXPECT_TRUE(row.contains(Find(Rows(*panel_)[0], "txtQTY_A")->geometry()));
+    EXPECT_FALSE(row.intersects(Find(Rows(*panel_)[0], "txtQTY_B")->geometry()));
+}
+
+TEST_F(SearchTest, AFoodWithoutASecondServingHasTheRowOfARecipe) {
+    AddRecipe("Milk soup", "1 bowl");
+    AddFood({.id = 1, .name = "Milk", .servB = ""});
+    AddFood({.id = 2, .name = "Milk, dry", .servB = QVariant()});
+    SearchFor("milk");
+    for (const ucFood* row : Rows(*panel_)) {
+        EXPECT_EQ(row->height(), Rows(*panel_)[0]->height());
+        EXPECT_TRUE(Find(row, "cmdEAT_B")->isHidden());
+    }
+}
+
 TEST_F(SearchTest, ThePointerIsNormalAgainAfterASearch) {
     MousePointer::SetBusy();
     AddFood({.id = 1, .name = "Milk"});
@@ -408,6 +427,9 @@ TEST_F(SearchTest, TheArrowsWalkThroughTheMeals) {
     QTest::keyClick(first, Qt::Key_Right);
     EXPECT_EQ(Meal(), 1);
     QTest::keyClick(first, Qt::Key_Left);
+    EXPECT_EQ(Meal(), 3);
+    panel_->SetRecipeMode(true);
+    QTest::keyClick(first, Qt::Key_Right);
     EXPECT_EQ(Meal(), 3);
 }
 

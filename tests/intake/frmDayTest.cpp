@@ -186,10 +186,9 @@ struct WeightCase {
 
 TEST_F(frmDayTest, EnteredWeightsAreStoredAsTheirLeadingNumber) {
     Open();
-    const WeightCase cases[] = {{"150.5", 150.5, 150}, {"151.5", 151.5, 152}, {"150lb", 150, 150},
-                                {"1,5", 1, 1},         {".05", .05, 0},       {"99.01", 99.01, 99},
-                                {"99", 99, 99},        {" 1 60", 160, 160},   {"+170", 170, 170},
-                                {"1e2", 100, 100}};
+    const WeightCase cases[] = {{"150lb", 150, 150},  {"1,5", 1, 1},    {".05", .05, 0},
+                                {"99.01", 99.01, 99}, {"99", 99, 99},   {" 1 60", 160, 160},
+                                {"+170", 170, 170},   {"1e2", 100, 100}};
     for (const WeightCase& entry : cases) {
         Enter(entry.text);
         EXPECT_EQ(StoredWeight().toDouble(), entry.stored) << entry.text;
@@ -197,6 +196,16 @@ TEST_F(frmDayTest, EnteredWeightsAreStoredAsTheirLeadingNumber) {
         EXPECT_EQ(WeightRows(), 1);
     }
     EXPECT_EQ(Users("SELECT UID FROM USER_WEIGHTS").toInt(), User::Current().UID);
+}
+
+TEST_F(frmDayTest, HalfAPoundIsStoredButRoundsToTheEvenPoundInTheCurrentWeight) {
+    Open();
+    Enter("150.5");
+    EXPECT_EQ(StoredWeight().toDouble(), 150.5);
+    EXPECT_EQ(User::Current().CurrentWeight, 150);
+    Enter("151.5");
+    EXPECT_EQ(StoredWeight().toDouble(), 151.5);
+    EXPECT_EQ(User::Current().CurrentWeight, 152);
 }
 
 TEST_F(frmDayTest, WeightsOfZeroOrLessAreRefusedAndLeaveTheTextInTheField) {
@@ -523,6 +532,23 @@ TEST_F(frmDayTest, FoodsChosenInTheDialogAreLoggedAndSummedBehindIt) {
     };
     WithModal(eat, [&] { Click(Button("cmdAddFoods")); });
     EXPECT_EQ(LogCount("UDate = '2002-03-04' AND Meal = 'Lunch'"), 2);
+}
+
+TEST_F(frmDayTest, PressingAddTwiceInTheDialogAddsTwoRowsToTheDay) {
+    FoodDB().Raw().exec("INSERT INTO FOODS (ID, FoodName, Calories, Serv_Desc_A, Serv_GM_WT_A) "
+                        "VALUES (1, 'Oats', 250, '1 cup', 30)");
+    Open();
+    const auto eat = [&](QWidget* dialog) {
+        Find<QLineEdit>(dialog, "txtSearchString")->setText("oats");
+        Click(Find(dialog, "cmdGo"));
+        QWidget* row = Find(dialog, "ucFood1");
+        Find<QLineEdit>(row, "txtQTY_A")->setText("2");
+        Click(Find(row, "cmdEAT_a"));
+        Click(Find(row, "cmdEAT_a"));
+        EXPECT_EQ(Bar(1), ".......................300 kcal");
+    };
+    WithModal(eat, [&] { Click(Heading("lblLunch")); });
+    EXPECT_EQ(LogCount("FoodName = 'Oats' AND Calories = 150 AND QTY = 2 AND Meal = 'Lunch'"), 2);
 }
 
 TEST_F(frmDayTest, HeadingOpensTheDialogWithItsMealTicked) {

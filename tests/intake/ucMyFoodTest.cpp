@@ -338,6 +338,19 @@ TEST_F(ucMyFoodTest, CatalogueFoodIsScaledByGramsAndQuantity) {
     EXPECT_EQ(LogCount("Zinc IS NULL"), 0);
 }
 
+TEST_F(ucMyFoodTest, NullNutrientOfTheCatalogueIsStoredAsZeroAndNotAsNull) {
+    FoodDB().Raw().exec(
+        "INSERT INTO FOODS (ID, FoodName, Serv_Desc_A) VALUES (1, 'Oats', '1 cup')");
+    list.setDate(day);
+    list.AddFood(ScaledFood::FromCatalogue(1, "A", 1), "Breakfast");
+    for (const NutrientInfo& nutrient : Nutrients())
+        EXPECT_EQ(Users("SELECT count(*) FROM USER_FOODS WHERE " +
+                        QString::fromLatin1(nutrient.logColumn) + " = 0")
+                      .toInt(),
+                  1)
+            << nutrient.logColumn;
+}
+
 TEST_F(ucMyFoodTest, SameFoodTwiceGivesTwoRows) {
     list.setDate(day);
     list.AddFood(Scaled("Oats"), "Breakfast");
