@@ -38,7 +38,10 @@ void Navigation::Register(const QString& name, Factory factory) {
 
 void Navigation::InstallSeams() {
     Seams& seams = TheSeams();
-    seams.ShowAlert = &frmAlert::Ask;
+    // A message that belongs to no window stands over the frame, not in the middle of a wide screen.
+    seams.ShowAlert = [this](const QString& message, QObject* owner, bool showCancel) {
+        return frmAlert::Ask(message, owner ? owner : frame_.data(), showCancel);
+    };
     seams.LoadScreen = [this](const QString& name) { return LoadScreen(name); };
     seams.ShowScreen = [this](const QString& name) { return ShowScreen(name); };
     seams.HasScreen = [this](const QString& name) { return HasScreen(name); };

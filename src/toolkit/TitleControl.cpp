@@ -1,10 +1,10 @@
 #include "toolkit/TitleControl.h"
 
+#include "toolkit/DragOutline.h"
 #include "toolkit/Style.h"
 
 #include <QMouseEvent>
 #include <QPainter>
-#include <QRubberBand>
 
 TitleControl::TitleControl(QWidget* parent)
     : PaintedPanel(parent) {
@@ -31,9 +31,8 @@ void TitleControl::DrawOutline(QPoint cursor) {
     const QPoint inWindow = mapTo(window(), pressed_);
     outline_ = QRect(cursor - inWindow, window()->size());
     if (!band_)
-        band_ = std::make_unique<QRubberBand>(QRubberBand::Rectangle);
-    band_->setGeometry(outline_);
-    band_->show();
+        band_ = std::make_unique<DragOutline>();
+    band_->Draw(outline_);
 }
 
 void TitleControl::mouseReleaseEvent(QMouseEvent* event) {

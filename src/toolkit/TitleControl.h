@@ -7,7 +7,7 @@
 
 #include <memory>
 
-class QRubberBand;
+class DragOutline;
 
 /// A title by which a window without the platform's title bar is dragged: an outline follows the
 /// pointer, the window itself moves once, at the end, to the outline's last place. A drag begins
@@ -37,6 +37,6 @@ private:
 
     QPoint pressed_;
     QRect outline_;
-    std::unique_ptr<QRubberBand> band_;
+    std::unique_ptr<DragOutline> band_;
     bool dragging_ = false;
 };

@@ -1,11 +1,11 @@
 #include "toolkit/Input.h"
 
 #include "support/HalvaneTest.h"
+#include "toolkit/DragOutline.h"
 #include "toolkit/ucTitleBar.h"
 #include "toolkit/ucTitleFlat.h"
 
 #include <QApplication>
-#include <QRubberBand>
 #include <QSignalSpy>
 
 namespace {
@@ -22,7 +22,7 @@ protected:
     static int Outlines() {
         int shown = 0;
         for (const QWidget* top : QApplication::topLevelWidgets())
-            shown += qobject_cast<const QRubberBand*>(top) && top->isVisible();
+            shown += qobject_cast<const DragOutline*>(top) && top->isVisible();
         return shown;
     }
 
