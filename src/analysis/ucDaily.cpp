@@ -5,6 +5,7 @@
 #include "analysis/ChartLabel.h"
 #include "analysis/PieChart.h"
 #include "analysis/ScaleCaption.h"
+#include "analysis/ViewButtons.h"
 #include "model/User.h"
 #include "runtime/AppState.h"
 #include "runtime/Clock.h"
@@ -16,7 +17,6 @@
 #include "toolkit/Style.h"
 #include "toolkit/Twips.h"
 #include "toolkit/ucAALBL.h"
-#include "toolkit/ucButtonA.h"
 #include "toolkit/ucStrip.h"
 
 #include <QMouseEvent>
@@ -33,8 +33,6 @@ const QString ModeSetting = QStringLiteral("DAILYMODE");
 // Pixels.
 constexpr int PanelWidth = 338;
 constexpr int PanelHeight = 476;
-constexpr int ButtonsHeight = 34;
-constexpr int PictureSize = 16;
 constexpr int LabelsWidth = 124;
 constexpr int RowCount = 28;
 constexpr int RowsMargin = 2; ///< below the last row
@@ -83,29 +81,14 @@ void ucDaily::AddHead() {
     strip_ = new ucStrip(this);
     strip_->setObjectName(QStringLiteral("ucStrip"));
     WatchPointer(strip_);
-    buttons_ = new QWidget(this);
-    buttons_->setObjectName(QStringLiteral("Picture1"));
+    buttons_ = new ViewButtons(this);
     WatchPointer(buttons_);
-    viewButtons_ = {AddViewButton(0, "cmdBar", "bars", "Bar chart of percent RDI"),
-                    AddViewButton(1, "cmdVals", "values", "Numeric daily totals"),
-                    AddViewButton(2, "cmdPIEChart", "pie", "Pie chart of caloric breakdown")};
+    connect(buttons_, &ViewButtons::Asked, this, &ucDaily::Toggle);
+    connect(buttons_, &ViewButtons::Hovered, this, &ucDaily::AllOff);
     lblPercents_ = new ScaleCaption(this);
     lblPercents_->setObjectName(QStringLiteral("lblPercents"));
     lblPercents_->SetCaption(QStringLiteral("0%        50%     100%"));
     WatchPointer(lblPercents_);
-}
-
-ucButtonA* ucDaily::AddViewButton(int mode, const char* name, const char* picture,
-                                  const char* tip) {
-    auto* button = new ucButtonA(buttons_);
-    button->setObjectName(QLatin1String(name));
-    button->SetPictures(QLatin1String(picture), QLatin1String(tip));
-    button->SetPictureSize(QSize(PictureSize, PictureSize));
-    button->SetBordered(true);
-    const QString lowerName = button->objectName().toLower();
-    connect(button, &ucButtonA::Click, this, [this, mode] { Toggle(mode); });
-    connect(button, &ucButtonA::MouseMove, this, [this, lowerName] { AllOff(lowerName); });
-    return button;
 }
 
 void ucDaily::AddViews() {
@@ -148,11 +131,12 @@ QSize ucDaily::sizeHint() const {
 ucDaily::Layout ucDaily::layoutRects() const {
     const int inner = width() - 2;
     const int buttonsTop = 1 + TheStyle().headerHeight;
-    const int top = buttonsTop + ButtonsHeight + 1;
+    const int buttonsHeight = buttons_->sizeHint().height();
+    const int top = buttonsTop + buttonsHeight + 1;
     const int rows = DailyRow::Top(RowCount + 1) + RowsMargin;
     Layout layout;
     layout.strip = QRect(1, 1, inner, TheStyle().headerHeight);
-    layout.buttons = QRect(1, buttonsTop, inner, ButtonsHeight);
+    layout.buttons = QRect(1, buttonsTop, inner, buttonsHeight);
     layout.labels = QRect(1, top, LabelsWidth, rows);
     layout.view = QRect(1 + LabelsWidth, top, inner - LabelsWidth, rows);
     layout.pie = QRect(1, top, inner, height() - 1 - top);
@@ -173,25 +157,13 @@ void ucDaily::PlaceAll() {
     picRDIs_->setGeometry(layout.view);
     picVals_->setGeometry(layout.view);
     picPieChart_->setGeometry(layout.pie);
-    PlaceButtons();
     PlaceScale(layout);
 }
 
-void ucDaily::PlaceButtons() {
-    constexpr int left = 6;
-    int x = left;
-    for (ucButtonA* button : viewButtons_) {
-        button->resize(button->sizeHint());
-        button->move(x, (ButtonsHeight - button->height()) / 2);
-        x += button->width() + TheStyle().groupGap;
-    }
-}
-
 void ucDaily::PlaceScale(const Layout& layout) {
-    const ucButtonA* last = viewButtons_.back();
-    const int left = layout.buttons.left() + last->geometry().right() + 1;
+    const int left = layout.buttons.left() + buttons_->Right();
     lblPercents_->setGeometry(left, layout.buttons.top(), layout.view.right() - left,
-                              ButtonsHeight);
+                              layout.buttons.height());
     QList<int> marks;
     for (int n = 0; n < 3; ++n)
         marks << layout.view.left() - left +
@@ -285,8 +257,7 @@ void ucDaily::Toggle(int mode) {
     picVals_->setVisible(mode == 1);
     picPieChart_->setVisible(mode == 2);
     labels_->setVisible(mode != 2);
-    for (int i = 0; i < ViewModes; ++i)
-        viewButtons_[size_t(i)]->SetChosen(i == mode);
+    buttons_->SetChosen(mode);
     FitValues();
 }
 
@@ -309,9 +280,7 @@ void ucDaily::Unhilite() {
 }
 
 void ucDaily::AllOff(const QString& name) {
-    for (ucButtonA* button : viewButtons_)
-        if (button->objectName().toLower() != name)
-            button->Reset();
+    buttons_->ResetAllBut(name);
     Unhilite();
 }
 

@@ -7,7 +7,6 @@
 #include <QDate>
 #include <QHash>
 
-#include <array>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -15,8 +14,8 @@
 class BarGrid;
 class PieChart;
 class ScaleCaption;
-class ucButtonA;
 class ucStrip;
+class ViewButtons;
 
 /// One day's intake against the current user's targets, in three views over the same figures: bars
 /// of percent, a list of values, a pie of the calories. Told the day by setDate, it queries the log
@@ -65,10 +64,8 @@ private:
 
     Layout layoutRects() const;
     void PlaceAll();
-    void PlaceButtons();
     void PlaceScale(const Layout& layout);
     void AddHead();
-    ucButtonA* AddViewButton(int mode, const char* name, const char* picture, const char* tip);
     void AddViews();
     void AddRows();
     void AddPie();
@@ -89,8 +86,7 @@ private:
     QHash<const QObject*, Hover> hovers_;
 
     ucStrip* strip_;
-    QWidget* buttons_;
-    std::array<ucButtonA*, 3> viewButtons_{};
+    ViewButtons* buttons_;
     ScaleCaption* lblPercents_;
     QWidget* labels_;
     BarGrid* picRDIs_;
