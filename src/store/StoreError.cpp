@@ -34,13 +34,20 @@ QString TextFor(int code) {
             return QString::fromLatin1(wording.text);
     return QStringLiteral("The store failed on the file %1: %2.");
 }
+
+/// What the store says may quote a statement, and so a text of any length that somebody has typed.
+QString Shortened(const QString& detail) {
+    constexpr qsizetype longest = 80;
+    return detail.size() <= longest ? detail : detail.left(longest) + u"...";
+}
 } // namespace
 
 RuntimeError StoreError::Make(int resultCode, const QString& path, const QString& detail) {
     const int code = resultCode & 0xFF;
     const QString text = TextFor(code);
     const QString file = QDir::toNativeSeparators(path);
-    return {-code, text.contains(QLatin1String("%2")) ? text.arg(file, detail) : text.arg(file)};
+    return {-code, text.contains(QLatin1String("%2")) ? text.arg(file, Shortened(detail))
+                                                      : text.arg(file)};
 }
 
 RuntimeError StoreError::From(const SQLite::Exception& failure, const QString& path) {

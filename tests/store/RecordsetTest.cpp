@@ -515,6 +515,14 @@ TEST_F(RecordsetTest, TheErrorNamesTheFile) {
     EXPECT_TRUE(text.contains("nowhere")) << text.toStdString();
 }
 
+TEST_F(RecordsetTest, TheErrorQuotesNoMoreThanTheBeginningOfALongText) {
+    const QString text = ErrorTextOf(
+        [&] { Read("SELECT * FROM profiles WHERE UserName = '" + QString(10000, u'n')); });
+    EXPECT_TRUE(text.contains("users.mdb")) << text.toStdString();
+    EXPECT_TRUE(text.contains("'nnnn")) << text.toStdString();
+    EXPECT_LT(text.size(), 300);
+}
+
 TEST_F(RecordsetTest, ASecondStatementIsRefusedBeforeTheFirstRuns) {
     ThreeWeights();
     for (const char* sql : {"SELECT * FROM USER_WEIGHTS; DELETE FROM USER_WEIGHTS",
