@@ -21,9 +21,11 @@ QString Column(Nutrient id) {
 
 void ReadReferenceValues(Nuts& targets, const Recordset& row, double age) {
     if (row.AtEnd())
-        throw RuntimeError(ErrorNumber::NoCurrentRecord,
-                           QStringLiteral("There are no reference intakes for an age of ") +
-                               DecimalText(age) + QStringLiteral(" years."));
+        throw RuntimeError(
+            ErrorNumber::NoCurrentRecord,
+            QStringLiteral("There are no reference intakes for an age of ") + DecimalText(age) +
+                QStringLiteral(
+                    " years. From 9 on, an age is entered in whole years, 999 at most."));
     for (Nutrient id : ReferenceOrder())
         targets.Set(id, row[QString::fromLatin1(Info(id).rdiColumn)].Number());
 }
@@ -37,7 +39,8 @@ double FiberTarget(double age, double calories) {
         throw RuntimeError(
             ErrorNumber::NoSuchMember,
             QStringLiteral("No fiber target can be derived from an energy target of ") +
-                DecimalText(calories) + QStringLiteral(" kcal."));
+                DecimalText(calories) +
+                QStringLiteral(" kcal. Check the age, the height and the weight."));
     return fiber;
 }
 

@@ -289,6 +289,7 @@ TEST_F(UserTest, TheFailureOfTheFiberTargetSaysWhy) {
     } catch (const RuntimeError& error) {
         EXPECT_TRUE(error.Description().contains(QStringLiteral("fiber")));
         EXPECT_TRUE(error.Description().contains(QStringLiteral("kcal")));
+        EXPECT_TRUE(error.Description().contains(QStringLiteral("Check the age")));
     }
 }
 
@@ -299,7 +300,7 @@ TEST_F(UserTest, AgesUpTo999HaveARow) {
     EXPECT_EQ(user.RDIs[Nutrient::VitaminB6], 1.5);
 }
 
-TEST_F(UserTest, AgesInAGapFailAndNameTheAge) {
+TEST_F(UserTest, AgesInAGapFailAndSayWhichAgesDoNot) {
     for (double age : {13.5, 18.2, 30.5, 50.5, 70.5, 1000.0}) {
         User user = Person(0, age, 65, 900, 900, 1);
         try {
@@ -308,6 +309,7 @@ TEST_F(UserTest, AgesInAGapFailAndNameTheAge) {
         } catch (const RuntimeError& error) {
             EXPECT_EQ(error.Number(), ErrorNumber::NoCurrentRecord);
             EXPECT_TRUE(error.Description().contains(QString::number(age)));
+            EXPECT_TRUE(error.Description().contains(QStringLiteral("whole years")));
         }
     }
 }

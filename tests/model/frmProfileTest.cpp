@@ -284,6 +284,22 @@ TEST_F(ProfileTest, WeightsRoundHalvesToTheEvenNeighbour) {
     EXPECT_EQ(Stored("desired_weight").toInt(), 152);
 }
 
+TEST_F(ProfileTest, WeightsAreStoredAsWholePoundsHoweverTheyAreWritten) {
+    const struct {
+        const char* text;
+        int pounds;
+    } weights[] = {{".05", 0}, {"99", 99}, {"99.01", 99}, {"1,5", 1}, {"1e2", 100}};
+    for (const auto& weight : weights) {
+        Users("DELETE FROM profiles");
+        frmProfile* form = Fresh();
+        Type(form, "txtWeight", weight.text);
+        Type(form, "txtDWeight", weight.text);
+        EXPECT_TRUE(form->SaveNewUser()) << weight.text;
+        EXPECT_EQ(Stored("current_weight").toInt(), weight.pounds) << weight.text;
+        EXPECT_EQ(Stored("desired_weight").toInt(), weight.pounds) << weight.text;
+    }
+}
+
 TEST_F(ProfileTest, NumbersAreTakenFromTheBeginningOfTheText) {
     frmProfile* form = Fresh();
     Type(form, "txtAge", " 3 0 years");
@@ -578,6 +594,34 @@ TEST_F(ProfileTest, TargetsThatAreNoNumberBecomeZero) {
         Click(Find(form, "cmdSave"));
         EXPECT_EQ(Stored("Iron", "Anna").toDouble(), 0) << text;
         EXPECT_EQ(Stored("Calcium", "Anna").toInt(), 0) << text;
+    }
+}
+
+TEST_F(ProfileTest, AStatementInAnyFieldIsANumberOrAFailureAndDoesNoHarm) {
+    const QString statement = QStringLiteral("1'; DELETE FROM profiles; --");
+    AddUser("Bert");
+    const qint32 anna = AddUser("Anna");
+    const auto saving = [&](const char* field) {
+        frmProfile* form = Edit(anna);
+        Type(form, field, statement);
+        const int failure = FailureOf([&] { form->SaveChanges(); });
+        EXPECT_EQ(Profiles(), 2) << field;
+        EXPECT_EQ(Stored("Calories", "Bert").toInt(), 2000) << field;
+        return failure;
+    };
+    EXPECT_LT(saving("txtUserName"), 0);
+    EXPECT_EQ(saving("txtFeet"), ErrorNumber::TypeMismatch);
+    EXPECT_EQ(saving("txtInches"), 0);
+    EXPECT_EQ(Stored("height", "Anna").toInt(), 61);
+    const std::pair<const char*, const char*> numbers[] = {
+        {"txtAge", "age"}, {"txtWeight", "current_weight"}, {"txtDWeight", "desired_weight"}};
+    for (const auto& [field, column] : numbers) {
+        EXPECT_EQ(saving(field), 0) << field;
+        EXPECT_EQ(Stored(column, "Anna").toInt(), 1) << field;
+    }
+    for (const NutrientInfo& info : Nutrients()) {
+        EXPECT_EQ(saving(info.textField), 0) << info.textField;
+        EXPECT_EQ(Stored(info.profileColumn, "Anna").toDouble(), 1) << info.textField;
     }
 }
 
