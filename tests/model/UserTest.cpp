@@ -385,8 +385,40 @@ TEST_F(UserTest, LoadingDerivesNothing) {
     User user;
     user.GetUserProfile(uid);
     EXPECT_EQ(user.RDIs.Calories(), 2000);
-    user.CurrentWeight = 500;
-    EXPECT_EQ(user.RDIs.Calories(), 2000);
+}
+
+TEST_F(UserTest, AgeKeepsItsFraction) {
+    const qint32 uid = AddUser();
+    Users("UPDATE profiles SET age = 8.5");
+    User user;
+    user.GetUserProfile(uid);
+    EXPECT_EQ(user.Age, 8.5);
+    EXPECT_EQ(KeyOf(user), "CHILD_4_8");
+}
+
+TEST_F(UserTest, AChangedWeightLeavesTheTargetsUntilTheyAreRecalculated) {
+    App().AppInfo.AUTOUPDATERDI = true;
+    AddUser();
+    User::Current().CurrentWeight = 190;
+    EXPECT_EQ(User::Current().RDIs.Calories(), 2000);
+    EXPECT_EQ(Target("Calories"), 2000);
+    RecalcTargets();
+    EXPECT_NE(User::Current().RDIs.Calories(), 2000);
+    EXPECT_EQ(User::Current().RDIs.Calories(), Target("Calories"));
+}
+
+TEST_F(UserTest, AnElevenYearOldOf2000CaloriesHasAFiberTargetOf100) {
+    for (qint32 weight = 40; weight < 300; ++weight)
+        for (qint32 height = 40; height < 80; ++height) {
+            User child = Person(1, 11, height, weight, weight, 1);
+            DeriveEnergyTargets(child);
+            if (child.RDIs.Calories() != 2000)
+                continue;
+            child.CreateDefaultRDIs();
+            EXPECT_EQ(child.RDIs[Nutrient::Fiber], 100);
+            return;
+        }
+    FAIL() << "no such child";
 }
 
 TEST_F(UserTest, AKeyWithoutARowFails) {
