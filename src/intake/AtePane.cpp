@@ -163,18 +163,21 @@ void AtePane::resizeEvent(QResizeEvent* event) {
 }
 
 bool AtePane::eventFilter(QObject* watched, QEvent* event) {
-    const auto* mouse = static_cast<const QMouseEvent*>(event);
     if (event->type() == QEvent::MouseMove) {
-        Q_EMIT PaneMove(mouse);
+        Q_EMIT PaneMove(static_cast<const QMouseEvent*>(event));
+        return true;
+    }
+    if (event->type() == QEvent::MouseButtonRelease) {
+        LetGo(*static_cast<QWidget*>(watched), *static_cast<const QMouseEvent*>(event));
         return true;
     }
     if (event->type() == QEvent::MouseButtonPress)
-        pressed_ = mouse->button() == Qt::LeftButton;
-    if (event->type() != QEvent::MouseButtonRelease)
-        return ScrollPane::eventFilter(watched, event);
-    const bool inside =
-        static_cast<QWidget*>(watched)->rect().contains(mouse->position().toPoint());
+        pressed_ = static_cast<const QMouseEvent*>(event)->button() == Qt::LeftButton;
+    return ScrollPane::eventFilter(watched, event);
+}
+
+void AtePane::LetGo(const QWidget& over, const QMouseEvent& mouse) {
+    const bool inside = over.rect().contains(mouse.position().toPoint());
     if (std::exchange(pressed_, false) && inside)
         Q_EMIT Click();
-    return true;
 }

@@ -51,6 +51,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void LetGo(const QWidget& over, const QMouseEvent& mouse);
     void Begin(bool resetPane);
     void End();
     ucAte* NextLine();
