@@ -22,12 +22,10 @@ constexpr Advice advices[] = {
                                 "back, or install Halvane again; your own data is not touched."},
     {ErrorNumber::InvalidUseOfNull, "A row of the database has no value where one is needed. "
                                     "Please fill it in, or bring back a copy of the file."},
-    {ErrorNumber::NoCurrentRecord, "A row of the database that was to be shown or changed is no "
-                                   "longer there. Please start Halvane again."},
     {outOfMemory, "The computer has run out of memory. Please close other programs and start "
                   "Halvane again."},
-    {refusedStatement, "Names and search terms cannot hold an apostrophe ('): please start Halvane "
-                       "again and leave it out."},
+    {refusedStatement, "A name or a search term holds a character that cannot stand there, such as "
+                       "an apostrophe ('). Please start Halvane again and leave it out."},
 };
 
 QString AdviceFor(int number) {

@@ -5,6 +5,8 @@
 #include <QStandardPaths>
 #include <QThread>
 
+#include <cstdio>
+
 namespace {
 
 constexpr auto request = "activate";
@@ -58,6 +60,8 @@ bool SingleInstance::Claim() {
             return false;
         QThread::msleep(shortPause); // the other has the lock, but does not listen yet
     }
+    std::fprintf(stderr, "halvane: another start holds %s and does not answer\n",
+                 qPrintable(lock_.fileName()));
     return false;
 }
 

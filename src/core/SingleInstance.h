@@ -15,7 +15,7 @@ public:
     ~SingleInstance() override;
 
     /// True where this is the first start. False where another runs, which has then been asked to
-    /// come forward.
+    /// come forward; one that does not answer is told of on standard error.
     bool Claim();
     void Release();
 

@@ -4,6 +4,7 @@
 
 #include <QFile>
 #include <QLocalSocket>
+#include <QLockFile>
 #include <QTest>
 
 class SingleInstanceTest : public CoreTest {};
@@ -50,6 +51,17 @@ TEST_F(SingleInstanceTest, ALockThatACrashHasLeftBehindDoesNotCount) {
     EXPECT_TRUE(first.Claim());
     SingleInstance second(Folder());
     EXPECT_FALSE(second.Claim());
+}
+
+TEST_F(SingleInstanceTest, AHolderThatDoesNotAnswerIsToldOfOnStandardError) {
+    QLockFile holder(Folder() + "/halvane.lock");
+    ASSERT_TRUE(holder.tryLock(0));
+    SingleInstance next(Folder());
+    testing::internal::CaptureStderr();
+    EXPECT_FALSE(next.Claim());
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "halvane: another start holds " +
+                                                          Folder().toStdString() +
+                                                          "/halvane.lock and does not answer\n");
 }
 
 TEST_F(SingleInstanceTest, AFolderThatCannotBeUsedKeepsNobodyOut) {
