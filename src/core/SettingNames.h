@@ -1,6 +1,6 @@
 #pragma once
 
-/// Names of the settings that start, end and preferences read and write.
+/// Names of the settings that start, end, preferences and community pages read and write.
 namespace SettingNames {
 inline constexpr auto Fast = "FAST";
 inline constexpr auto Agreement = "EULA";
@@ -10,4 +10,5 @@ inline constexpr auto Top = "UITOP";
 inline constexpr auto AutoRDI = "AUTORDI";
 inline constexpr auto Limit50 = "LIMIT50";
 inline constexpr auto TipNumber = "TIPNUM";
+inline constexpr auto Installation = "INSTALLATION";
 } // namespace SettingNames

@@ -1,5 +1,6 @@
 #include "core/frmHOME.h"
 
+#include "core/Community.h"
 #include "core/FramePlace.h"
 #include "core/ScreenNames.h"
 #include "core/frmPrefs.h"
@@ -52,12 +53,17 @@ constexpr NavigationButton navigationButtons[] = {
      "Foods of your own come with a later version of Halvane"},
     {"cmdRecipes", ScreenNames::Recipes, "book", "Recipes", "Recipe Manager",
      "Recipes come with a later version of Halvane"},
-    {"cmdCommunity", "", "community", "Community", "Online Community",
-     "The online community comes with a later version of Halvane"},
-    {"cmdLogo", "", "logo", "", "Halvane",
-     "The online community comes with a later version of Halvane"},
+    {"cmdCommunity", "", "community", "Community", "Online Community", ""},
+    {"cmdLogo", "", "logo", "", "Halvane", ""},
 };
 constexpr int logoIndex = 6;
+
+void Open(const QString& screen) {
+    if (screen.isEmpty())
+        Community::Open();
+    else
+        ShowScreen(screen);
+}
 
 /// A button without anything to open says so in its tip.
 void Disable(ucButtonA* button, const QString& reason) {
@@ -159,8 +165,8 @@ ucButtonA* frmHOME::AddNavigationButton(int index) {
     button->SetPictures(QLatin1String(row.picture), hover);
     button->installEventFilter(this);
     connect(button, &ucButtonA::MouseMove, this, [this, button, hover] { OnHover(button, hover); });
-    connect(button, &ucButtonA::Click, this, [screen] { ::ShowScreen(screen); });
-    if (!HasScreen(screen))
+    connect(button, &ucButtonA::Click, this, [screen] { Open(screen); });
+    if (!screen.isEmpty() && !HasScreen(screen))
         Disable(button, QLatin1String(row.absent));
     buttons_[index] = button;
     return button;

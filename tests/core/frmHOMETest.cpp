@@ -1,7 +1,9 @@
 #include "core/CoreTest.h"
 
+#include "core/Community.h"
 #include "core/FramePlace.h"
 #include "core/Navigation.h"
+#include "core/OpenURL.h"
 #include "core/frmHOME.h"
 #include "model/User.h"
 #include "model/frmProfile.h"
@@ -75,8 +77,7 @@ TEST_F(frmHOMETest, AButtonWhoseScreenIsNotRegisteredIsDisabledAndSaysWhy) {
     AddLoggedScreen(QStringLiteral("frmDay"), QStringLiteral("Daily Details"));
     Open();
     EXPECT_TRUE(Button("cmdDay")->isEnabled());
-    for (const char* name :
-         {"cmdCal", "cmdReport", "cmdCustomFoods", "cmdRecipes", "cmdCommunity", "cmdLogo"}) {
+    for (const char* name : {"cmdCal", "cmdReport", "cmdCustomFoods", "cmdRecipes"}) {
         EXPECT_FALSE(Button(name)->isEnabled()) << name;
         EXPECT_TRUE(Button(name)->toolTip().contains(QStringLiteral("later version"))) << name;
         EXPECT_EQ(Button(name)->accessibleDescription(), Button(name)->toolTip()) << name;
@@ -84,6 +85,24 @@ TEST_F(frmHOMETest, AButtonWhoseScreenIsNotRegisteredIsDisabledAndSaysWhy) {
         Click(Button(name));
     }
     EXPECT_EQ(TheNavigation().Front(), nullptr);
+}
+
+TEST_F(frmHOMETest, TheCommunityButtonAndTheLogoOpenTheCommunityPage) {
+    QList<QUrl> opened;
+    SetBrowser([&](const QUrl& address) {
+        opened << address;
+        return true;
+    });
+    Open();
+    Click(Button("cmdCommunity"));
+    Click(Button("cmdLogo"));
+    SetBrowser({});
+    const QUrl page(Community::Address());
+    EXPECT_EQ(opened, (QList<QUrl>{page, page}));
+    Hover(Button("cmdCommunity"));
+    EXPECT_EQ(Title(), QStringLiteral("Online Community"));
+    Hover(Button("cmdLogo"));
+    EXPECT_EQ(Title(), QStringLiteral("Halvane"));
 }
 
 TEST_F(frmHOMETest, TheDayButtonIsChosenWhereTheDayStandsInForTheHomeScreen) {

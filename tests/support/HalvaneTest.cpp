@@ -5,6 +5,7 @@
 #include "runtime/AppState.h"
 #include "runtime/Clock.h"
 #include "runtime/Seams.h"
+#include "runtime/Server.h"
 #include "store/Connection.h"
 #include "store/Schema.h"
 
@@ -52,6 +53,8 @@ void HalvaneTest::TearDown() {
     Clock::UseSystemClock();
     User::ResetCurrent();
     ResetApp();
+    Server::SetAddress(QString());
+    Server::SetSupport(QString());
     TheSeams() = Seams();
 }
 

@@ -1,0 +1,25 @@
+#include "core/Community.h"
+
+#include "core/OpenURL.h"
+#include "core/SettingNames.h"
+#include "runtime/Server.h"
+#include "runtime/Settings.h"
+
+#include <QUuid>
+
+QString Community::InstallationID() {
+    const QUuid stored = QUuid::fromString(GetRegValue(SettingNames::Installation));
+    if (!stored.isNull())
+        return stored.toString(QUuid::WithoutBraces);
+    const QString made = QUuid::createUuid().toString(QUuid::WithoutBraces);
+    SetRegValue(SettingNames::Installation, made);
+    return made;
+}
+
+QString Community::Address() {
+    return Server::Address() + "/halvane/community.asp?uid=" + InstallationID();
+}
+
+void Community::Open() {
+    OpenURL(Address());
+}
