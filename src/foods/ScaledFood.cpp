@@ -11,6 +11,7 @@
 namespace {
 
 constexpr int unknownKey = 5;
+constexpr int outOfRange = 9;
 constexpr int keyInUse = 457;
 
 constexpr double hundredGrams = 100;
@@ -44,6 +45,13 @@ QVariant ScaledFood::Item(const QString& key) const {
     if (const Entry* entry = Find(key))
         return entry->value;
     throw RuntimeError(unknownKey, u"The chosen food holds no '" + key + u"'.");
+}
+
+QVariant ScaledFood::Item(int position) const {
+    if (position < 1 || position > entries_.size())
+        throw RuntimeError(outOfRange,
+                           QStringLiteral("The chosen food has no entry %1.").arg(position));
+    return entries_[position - 1].value;
 }
 
 const ScaledFood::Entry* ScaledFood::Find(const QString& key) const {

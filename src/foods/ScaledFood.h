@@ -18,6 +18,7 @@ public:
     void Add(const QString& key,
              const QVariant& value);         ///< a key that is there already fails (457)
     QVariant Item(const QString& key) const; ///< an unknown key fails (5)
+    QVariant Item(int position) const; ///< in the order of adding, from 1; none there fails (9)
     double Amount(const QString& key) const { return Item(key).toDouble(); }
     QString Text(const QString& key) const { return Item(key).toString(); }
     const QList<Entry>& Entries() const { return entries_; }

@@ -26,6 +26,16 @@ TEST_F(ScaledFoodTest, AKeyTwiceAndAnUnknownKeyFail) {
     EXPECT_EQ(item.Amount("ash"), 1.0);
 }
 
+TEST_F(ScaledFoodTest, EntriesAreCountedFromOne) {
+    ScaledFood item;
+    item.Add("ash", 1.0);
+    item.Add("zinc", 2.0);
+    EXPECT_EQ(item.Item(1).toDouble(), 1.0);
+    EXPECT_EQ(item.Item(2).toDouble(), 2.0);
+    for (const int position : {-1, 0, 3})
+        EXPECT_EQ(FailureOf([&] { item.Item(position); }), 9) << position;
+}
+
 TEST_F(ScaledFoodTest, AmountIsPerHundredGramsTimesServingTimesQuantity) {
     AddFood({.id = 7, .name = "Bread", .gramsA = 30.0, .nutrients = {{"Calories", 250}}});
     const ScaledFood item = ScaledFood::FromCatalogue(7, "A", 2);

@@ -1,0 +1,297 @@
+#include "recipes/RecipesTest.h"
+
+#include "foods/Logix.h"
+#include "model/Nutrients.h"
+#include "model/User.h"
+#include "recipes/RecipeStore.h"
+#include "store/Connection.h"
+#include "store/Recordset.h"
+
+#include <SQLiteCpp/SQLiteCpp.h>
+
+class RecipeStoreTest : public RecipesTest {
+protected:
+    /// The caption of a recipe of one ingredient.
+    QString Caption(double calories, const QString& yield) {
+        const qint32 recipe = AddRecipe("Soup", "1 bowl");
+        AddIngredient(recipe, {{"Calories", calories}});
+        return RecipeStore::CaloriesPerServing(recipe, yield);
+    }
+
+    /// One row of amounts, positions 1 to 31.
+    QVariantList Amounts(const QString& where) {
+        const auto rows = Rows(UserDB(), "SELECT * FROM Ingredients WHERE " + where);
+        return rows.isEmpty() ? QVariantList() : rows.first().mid(1, NutrientCount);
+    }
+
+    void LogRecipe(qint32 recipe, int day) {
+        const ScaledFood item = ScaledFood::FromRecipe(recipe, 1);
+        SQLite::Statement insert(UserDB().Raw(),
+                                 "INSERT INTO USER_FOODS (UID, FoodName, Serving, ID, Meal, UDate, "
+                                 "QTY, Calories) VALUES (?, ?, ?, ?, 'Lunch', ?, 1, ?)");
+        insert.bind(1, User::Current().UID);
+        insert.bind(2, item.Text("FOODNAME").toStdString());
+        insert.bind(3, item.Text("SERVING").toStdString());
+        insert.bind(4, recipe);
+        insert.bind(5, QDate(2002, 3, day).toString(Qt::ISODate).toStdString());
+        insert.bind(6, item.Amount("Calories"));
+        insert.exec();
+    }
+};
+
+TEST_F(RecipeStoreTest, ANewRecipeStartsWithItsDefaults) {
+    const qint32 key = RecipeStore::AddRecipe();
+    const auto rows = Rows(UserDB(), "SELECT RecipeID, RecipeName, ServingName, RecipeYield, "
+                                     "Instructions, PrepTime FROM Recipes");
+    ASSERT_EQ(rows.size(), 1);
+    EXPECT_EQ(rows[0], (QVariantList{qlonglong(key), "My Recipe", "", 1.0,
+                                     "(enter preparation instructions here...)", 30.0}));
+}
+
+TEST_F(RecipeStoreTest, ANewRecipesServingIsEmptyAndNotNull) {
+    RecipeStore::AddRecipe();
+    EXPECT_EQ(Count("Recipes", "ServingName IS NULL"), 0);
+}
+
+TEST_F(RecipeStoreTest, TheKeyGivenIsThatOfTheNewRowAmongOthers) {
+    AddRecipes(50, "Soup");
+    const qint32 first = RecipeStore::AddRecipe();
+    const qint32 second = RecipeStore::AddRecipe();
+    EXPECT_EQ(second, first + 1);
+    EXPECT_EQ(Users("SELECT max(RecipeID) FROM Recipes").toInt(), second);
+}
+
+TEST_F(RecipeStoreTest, KeysOfDeletedRecipesAreNotGivenOutAgain) {
+    const qint32 first = RecipeStore::AddRecipe();
+    RecipeStore::DeleteRecipe(first);
+    EXPECT_GT(RecipeStore::AddRecipe(), first);
+}
+
+TEST_F(RecipeStoreTest, DeletingARecipeOfThreeIngredientsLeavesTwo) {
+    const qint32 recipe = RecipeStore::AddRecipe();
+    AddIngredients(recipe, 3);
+    RecipeStore::DeleteRecipe(recipe);
+    EXPECT_EQ(Count("Recipes"), 0);
+    const auto left = Rows(UserDB(), "SELECT FoodName, RecipeID FROM Ingredients ORDER BY ID");
+    ASSERT_EQ(left.size(), 2);
+    EXPECT_EQ(left[0], (QVariantList{"Food 2", qlonglong(recipe)}));
+    EXPECT_EQ(left[1], (QVariantList{"Food 3", qlonglong(recipe)}));
+}
+
+TEST_F(RecipeStoreTest, DeletingTouchesNoOtherRecipe) {
+    const qint32 kept = RecipeStore::AddRecipe();
+    AddIngredients(kept, 2);
+    const qint32 gone = RecipeStore::AddRecipe();
+    AddIngredients(gone, 1);
+    RecipeStore::DeleteRecipe(gone);
+    EXPECT_EQ(Count("Recipes", "RecipeID = " + QString::number(kept)), 1);
+    EXPECT_EQ(Count("Ingredients"), 2);
+}
+
+TEST_F(RecipeStoreTest, DeletingARecipeWithoutIngredientsRemovesTheRecipe) {
+    RecipeStore::DeleteRecipe(RecipeStore::AddRecipe());
+    EXPECT_EQ(Count("Recipes"), 0);
+}
+
+TEST_F(RecipeStoreTest, DeletingARecipeThatIsGoneDoesNothing) {
+    RecipeStore::AddRecipe();
+    RecipeStore::DeleteRecipe(4711);
+    EXPECT_EQ(Count("Recipes"), 1);
+}
+
+TEST_F(RecipeStoreTest, WhatIngredientsADeletedRecipeLeavesAreNoNewRecipesOwn) {
+    const qint32 gone = RecipeStore::AddRecipe();
+    AddIngredients(gone, 3);
+    RecipeStore::DeleteRecipe(gone);
+    EXPECT_EQ(RecipeStore::CaloriesPerServing(RecipeStore::AddRecipe(), "1"), "Calories: --");
+}
+
+TEST_F(RecipeStoreTest, ARecipeDeletedWhileLoggedOnTenDaysStaysInTheLog) {
+    const qint32 recipe = AddRecipe("Soup", "1 bowl");
+    AddIngredients(recipe, 3, 200);
+    for (int day = 1; day <= 10; ++day)
+        LogRecipe(recipe, day);
+    RecipeStore::DeleteRecipe(recipe);
+    EXPECT_EQ(Count("USER_FOODS", "FoodName = 'Soup' AND Serving = '1 bowl' AND Calories = 600"),
+              10);
+    EXPECT_EQ(Users("SELECT sum(Calories) FROM USER_FOODS").toDouble(), 6000);
+    RecipeStore::AddRecipe();
+    EXPECT_EQ(Count("Recipes", "RecipeID = " + QString::number(recipe)), 0);
+}
+
+TEST_F(RecipeStoreTest, ARecipeWithoutIngredientsShowsNoCalories) {
+    const qint32 recipe = RecipeStore::AddRecipe();
+    EXPECT_EQ(RecipeStore::CaloriesPerServing(recipe, "4"), "Calories: --");
+    const auto sums = Rows(UserDB(), RecipeSumSQL(recipe));
+    ASSERT_EQ(sums.size(), 1);
+    EXPECT_EQ(sums[0], QVariantList(NutrientCount, QVariant()));
+}
+
+TEST_F(RecipeStoreTest, CaloriesAreDividedByTheYieldAndRoundedHalfToEven) {
+    EXPECT_EQ(Caption(1000, "3"), "Calories: 333 per serving");
+    EXPECT_EQ(Caption(5, "2"), "Calories: 2 per serving");
+    EXPECT_EQ(Caption(7, "2"), "Calories: 4 per serving");
+    EXPECT_EQ(Caption(2.5, "1"), "Calories: 2 per serving");
+    EXPECT_EQ(Caption(3.5, "1"), "Calories: 4 per serving");
+    EXPECT_EQ(Caption(0, "4"), "Calories: 0 per serving");
+    EXPECT_EQ(Caption(-10, "4"), "Calories: -2 per serving");
+}
+
+TEST_F(RecipeStoreTest, AYieldOfZeroDividesByOne) {
+    for (const char* yield : {"0", "", "abc", "-0", "0.0", "servings: 4", "1e400"})
+        EXPECT_EQ(Caption(300, yield), "Calories: 300 per serving") << yield;
+}
+
+TEST_F(RecipeStoreTest, TheYieldIsTheLeadingNumberOfTheCaption) {
+    EXPECT_EQ(Caption(300, "2.5"), "Calories: 120 per serving");
+    EXPECT_EQ(Caption(300, " 3 bowls"), "Calories: 100 per serving");
+    EXPECT_EQ(Caption(300, "1 0"), "Calories: 30 per serving");
+    EXPECT_EQ(Caption(300, ".5"), "Calories: 600 per serving");
+    EXPECT_EQ(Caption(300, "3,9"), "Calories: 100 per serving");
+}
+
+TEST_F(RecipeStoreTest, TheYieldComesFromTheCaptionAndNotFromTheRow) {
+    const qint32 recipe = AddRecipe("Soup", "1 bowl"); // its row says 4
+    AddIngredient(recipe, {{"Calories", 400}});
+    EXPECT_EQ(RecipeStore::CaloriesPerServing(recipe, "2"), "Calories: 200 per serving");
+}
+
+TEST_F(RecipeStoreTest, AFigureThatFitsNoWholeNumberIsNoReasonToFail) {
+    EXPECT_EQ(Caption(300, "1e-300"), "Calories: --");
+    EXPECT_EQ(Caption(2147483647, "1"), "Calories: 2147483647 per serving");
+    EXPECT_EQ(Caption(2147483648.0, "1"), "Calories: --");
+}
+
+TEST_F(RecipeStoreTest, CaloriesThatAreAllNullCountAsNone) {
+    const qint32 recipe = AddRecipe("Soup", "1 bowl");
+    AddIngredient(recipe, {{"Protein", 4}});
+    EXPECT_EQ(RecipeStore::CaloriesPerServing(recipe, "1"), "Calories: --");
+    AddIngredient(recipe, {{"Calories", 12}});
+    EXPECT_EQ(RecipeStore::CaloriesPerServing(recipe, "1"), "Calories: 12 per serving");
+}
+
+TEST_F(RecipeStoreTest, LoggingTheWholeRecipeTakesNoAccountOfTheYield) {
+    const qint32 recipe = AddRecipe("Soup", "1 bowl"); // makes 4
+    AddIngredients(recipe, 4, 100);
+    EXPECT_EQ(ScaledFood::FromRecipe(recipe, 1).Amount("Calories"), 400);
+    EXPECT_EQ(RecipeStore::CaloriesPerServing(recipe, "4"), "Calories: 100 per serving");
+}
+
+TEST_F(RecipeStoreTest, IngredientsHaveTheOrderOfTheCatalogueInNewAndInDeliveredFiles) {
+    const auto agree = [] {
+        const Recordset foods(FoodDB(), QStringLiteral("SELECT TOP 1 * FROM FOODS"));
+        const Recordset ingredients(UserDB(), QStringLiteral("SELECT * FROM Ingredients"));
+        EXPECT_EQ(ingredients.FieldName(0), "ID");
+        for (int i = 1; i <= NutrientCount; ++i)
+            EXPECT_EQ(ingredients.FieldName(i).toLower(), foods.FieldName(i).toLower()) << i;
+    };
+    agree();
+    CloseDatabases();
+    ASSERT_TRUE(QFile::remove(Folder() + "/users.mdb") && QFile::remove(Folder() + "/foods.mdb"));
+    OpenDatabases();
+    agree();
+    EXPECT_EQ(Foods("SELECT max(ID) FROM FOODS").toInt(), 23508);
+}
+
+TEST_F(RecipeStoreTest, AmountsGoByPlaceAndTextsByKey) {
+    RecipeStore::AddIngredient(7, Counting("Flour", 2.5));
+    const QVariantList amounts = Amounts("1");
+    ASSERT_EQ(amounts.size(), NutrientCount);
+    for (int i = 0; i < NutrientCount; ++i)
+        EXPECT_EQ(amounts[i], double(i + 1));
+    EXPECT_EQ(Rows(UserDB(), "SELECT FoodName, Serving, RecipeID, QTY FROM Ingredients").first(),
+              (QVariantList{"Flour", "1 cup", 7LL, 2.5}));
+}
+
+TEST_F(RecipeStoreTest, EveryAmountOfACatalogueFoodReachesTheColumnOfItsName) {
+    FoodRow food{.id = 7, .name = "Flour", .gramsA = 100.0};
+    double amount = 0;
+    for (const NutrientInfo& nutrient : Nutrients())
+        food.nutrients[QLatin1String(nutrient.profileColumn)] = amount += 0.25;
+    AddFood(food);
+    RecipeStore::AddIngredient(1, ScaledFood::FromCatalogue(7, "A", 2));
+    amount = 0;
+    for (const NutrientInfo& nutrient : Nutrients()) {
+        const QString column = QLatin1String(nutrient.logColumn);
+        EXPECT_DOUBLE_EQ(Users("SELECT " + column + " FROM Ingredients").toDouble(),
+                         2 * (amount += 0.25))
+            << nutrient.logColumn;
+    }
+}
+
+/// A recipe hands its amounts on in the order of the sums, which is not that of the table: the
+/// amount of vitamin C comes to stand under the calories, and so on.
+TEST_F(RecipeStoreTest, ARecipeAsAnIngredientKeepsTheOrderOfItsSums) {
+    const qint32 soup = AddRecipe("Soup", "1 bowl");
+    AddIngredient(soup,
+                  {{"VitaminC", 11}, {"VitaminE", 12}, {"Calories", 312}, {"Cholesterol", 9}});
+    const ScaledFood item = ScaledFood::FromRecipe(soup, 2);
+    const qint32 stew = AddRecipe("Stew", "1 plate");
+    RecipeStore::AddIngredient(stew, item);
+    const QVariantList amounts = Amounts("RecipeID = " + QString::number(stew));
+    ASSERT_EQ(amounts.size(), NutrientCount);
+    for (int i = 0; i < NutrientCount; ++i)
+        EXPECT_EQ(amounts[i].toDouble(), item.Entries()[i].value.toDouble()) << i;
+    const QString own = " FROM Ingredients WHERE RecipeID = " + QString::number(stew);
+    EXPECT_EQ(Users("SELECT Calories" + own).toDouble(), 22); // vitamin C
+    EXPECT_EQ(Users("SELECT TotalFat" + own).toDouble(), 24); // vitamin E
+    EXPECT_EQ(Users("SELECT Copper" + own).toDouble(), 624);  // calories, the 12th sum
+    EXPECT_EQ(Users("SELECT Water" + own).toDouble(), 18);    // cholesterol, the last
+    EXPECT_EQ(Users("SELECT FoodName" + own).toString(), "Soup");
+    EXPECT_EQ(RecipeStore::CaloriesPerServing(stew, "1"), "Calories: 22 per serving");
+}
+
+TEST_F(RecipeStoreTest, ALaterChangeOfTheCatalogueChangesNoRecipe) {
+    AddFood({.id = 7, .name = "Flour", .gramsA = 100.0, .nutrients = {{"Calories", 364}}});
+    const qint32 recipe = RecipeStore::AddRecipe();
+    RecipeStore::AddIngredient(recipe, ScaledFood::FromCatalogue(7, "A", 1));
+    FoodDB().Raw().exec("UPDATE FOODS SET Calories = 1, FoodName = 'Sand'");
+    EXPECT_EQ(RecipeStore::CaloriesPerServing(recipe, "1"), "Calories: 364 per serving");
+    EXPECT_EQ(Users("SELECT FoodName FROM Ingredients").toString(), "Flour");
+}
+
+TEST_F(RecipeStoreTest, TheSameIngredientTwiceGivesTwoRows) {
+    RecipeStore::AddIngredient(1, Counting());
+    RecipeStore::AddIngredient(1, Counting());
+    EXPECT_EQ(Count("Ingredients"), 2);
+}
+
+TEST_F(RecipeStoreTest, AnItemThatMissesAnEntryLeavesNoHalfWrittenRow) {
+    ScaledFood item;
+    item.Add(QStringLiteral("Calories"), 1.0);
+    EXPECT_EQ(FailureOf([&] { RecipeStore::AddIngredient(1, item); }), 9);
+    EXPECT_EQ(Count("Ingredients"), 0);
+    RecipeStore::AddIngredient(1, Counting());
+    EXPECT_EQ(Count("Ingredients"), 1);
+}
+
+TEST_F(RecipeStoreTest, ARowThatTheStoreRefusesLeavesNothing) {
+    UserDB().Raw().exec("CREATE TRIGGER full BEFORE INSERT ON Ingredients "
+                        "BEGIN SELECT RAISE(ABORT, 'full'); END");
+    EXPECT_LT(FailureOf([&] { RecipeStore::AddIngredient(1, Counting()); }), 0);
+    UserDB().Raw().exec("DROP TRIGGER full");
+    EXPECT_EQ(Count("Ingredients"), 0);
+}
+
+TEST_F(RecipeStoreTest, AwkwardTextsAreKeptToTheLetter) {
+    const QStringList names{"O'Brien's '); DROP TABLE Ingredients; --",
+                            QStringLiteral("100 % of_[all] ^ ~ | \U0001F96A"), QString(10000, u'x'),
+                            "<b>bold</b>", ""};
+    for (const QString& name : names)
+        RecipeStore::AddIngredient(1, Counting(name));
+    const auto rows = Rows(UserDB(), "SELECT FoodName FROM Ingredients ORDER BY ID");
+    ASSERT_EQ(rows.size(), names.size());
+    for (int i = 0; i < names.size(); ++i)
+        EXPECT_EQ(rows[i][0].toString(), names[i]);
+}
+
+TEST_F(RecipeStoreTest, OneIngredientIsRemovedByItsOwnKey) {
+    AddIngredients(1, 3);
+    RecipeStore::RemoveIngredient(2);
+    const auto left = Rows(UserDB(), "SELECT ID FROM Ingredients ORDER BY ID");
+    EXPECT_EQ(left, (QList<QVariantList>{{1LL}, {3LL}}));
+}
+
+TEST_F(RecipeStoreTest, RemovingAnIngredientThatIsGoneFails) {
+    EXPECT_EQ(FailureOf([] { RecipeStore::RemoveIngredient(4711); }), 3021);
+}
