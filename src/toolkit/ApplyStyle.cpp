@@ -52,6 +52,9 @@ QLineEdit:focus { min-height: %fieldFocused; max-height: %fieldFocused; }
 QLineEdit:disabled, QPlainTextEdit:disabled {
   background: %canvas; color: %disabledInk; border-color: %rule;
 }
+ListBox { background: %paper; border: 2px solid %paper; outline: none; }
+ListBox:focus { border-color: %frame; }
+ListBox:disabled { background: %canvas; border-color: %canvas; }
 QToolTip { background: %paper; color: %ink; border: 1px solid %frame; padding: 3px 5px; }
 QCheckBox { color: %ink; spacing: 6px; background: transparent; }
 QCheckBox:disabled { color: %disabledInk; }

@@ -4,6 +4,7 @@
 
 #include <QFontMetricsF>
 #include <QPainter>
+#include <QtMath>
 
 namespace {
 
@@ -29,9 +30,11 @@ void SmoothedPrint(QPainter& painter, QPointF place, const QString& text, const 
 }
 
 // Measured first, because the ellipsis is worked out from unhinted widths: text that fits to the
-// pixel would be cut.
+// pixel would be cut. A text with more characters than pixels never fits, and is not laid out
+// whole.
 QString FittingText(const QString& text, const QFont& font, double width) {
     const QFontMetricsF metrics(SmoothedFont(font));
-    const bool fits = metrics.horizontalAdvance(text) <= width;
-    return fits ? text : metrics.elidedText(text, Qt::ElideRight, width);
+    const qsizetype most = qMax(qCeil(width), 1);
+    const bool fits = text.size() <= most && metrics.horizontalAdvance(text) <= width;
+    return fits ? text : metrics.elidedText(text.left(most + 1), Qt::ElideRight, width);
 }

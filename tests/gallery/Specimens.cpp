@@ -1,6 +1,7 @@
 #include "gallery/Specimens.h"
 
 #include "toolkit/Labels.h"
+#include "toolkit/ListBox.h"
 #include "toolkit/Pictures.h"
 #include "toolkit/ScrollPane.h"
 #include "toolkit/Style.h"
@@ -299,6 +300,33 @@ void AddScrollPane(QList<Specimen>& list) {
         {{"fits", Rest}, {"overflows", overflow}}, false);
 }
 
+void AddListBox(QList<Specimen>& list) {
+    const auto choose = With<ListBox>([](ListBox* box) { box->SetListIndex(1); });
+    const auto chooseDisabled = With<ListBox>([](ListBox* box) {
+        box->SetListIndex(1);
+        box->setEnabled(false);
+    });
+    const Change focus = [](QWidget* control) { control->setFocus(Qt::TabFocusReason); };
+    AddStates(
+        list, "ListBox",
+        [](QWidget* parent) {
+            auto* box = new ListBox(parent);
+            box->setAccessibleName(QStringLiteral("Recipe List"));
+            box->resize(220, 120);
+            for (const char* text : {"Oat pancakes", "Lentil soup", "Chicken with lemon",
+                                     "Bean salad with a dressing of mustard and honey",
+                                     "Sunday granola", "Tomato rice"})
+                box->AddItem(QString::fromLatin1(text), 1);
+            return box;
+        },
+        {atRest,
+         {"chosen", choose},
+         {"focus", focus},
+         disabled,
+         {"chosen, disabled", chooseDisabled}},
+        true);
+}
+
 } // namespace
 
 QList<Specimen> Specimens() {
@@ -311,5 +339,6 @@ QList<Specimen> Specimens() {
     AddLabels(list);
     AddFields(list);
     AddScrollPane(list);
+    AddListBox(list);
     return list;
 }

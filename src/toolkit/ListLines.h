@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QAbstractListModel>
+
+#include <vector>
+
+/// What a list box shows: texts in the order of adding, each with its number.
+class ListLines : public QAbstractListModel {
+    Q_OBJECT
+
+public:
+    using QAbstractListModel::QAbstractListModel;
+
+    struct Line {
+        QString text;
+        qint32 itemData;
+    };
+
+    void Clear();
+    void Add(const QString& text, qint32 itemData);
+    int Count() const { return static_cast<int>(lines_.size()); }
+    const Line* At(int index) const; ///< null where there is no such line
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+
+private:
+    std::vector<Line> lines_;
+};
