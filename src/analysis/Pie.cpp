@@ -1,6 +1,7 @@
 #include "analysis/Pie.h"
 
 #include "runtime/Format.h"
+#include "toolkit/Pictures.h"
 #include "toolkit/SmoothedPrint.h"
 #include "toolkit/Style.h"
 
@@ -99,6 +100,7 @@ void Pie::Render(double ratio) {
         return;
     ratio_ = ratio;
     picPIE_ = Blank();
+    PaintBackground();
     temp_ = Blank();
     if (content_ == Content::NoData)
         return PaintNoData();
@@ -116,6 +118,15 @@ QImage Pie::Blank() const {
     picture.setDevicePixelRatio(ratio_);
     picture.fill(form_.ground);
     return picture;
+}
+
+void Pie::PaintBackground() {
+    if (form_.background == 0)
+        return;
+    const QPointF reach(form_.background, form_.background);
+    QPainter painter(&picPIE_);
+    Pictures::Paint(painter, QRectF(form_.centre - reach, form_.centre + reach),
+                    QStringLiteral("overlay"));
 }
 
 void Pie::AddPieSlice(const QColor& colour, double from, double to) {
@@ -137,7 +148,8 @@ void Pie::PaintNoData() {
     const QFont font = TheStyle().small;
     {
         QPainter painter(&picPIE_);
-        painter.drawImage(0, 0, temp_);
+        if (form_.coverWithoutData)
+            painter.drawImage(0, 0, temp_);
         painter.setPen(TheStyle().barRowText);
         const QSizeF text = QFontMetricsF(SmoothedFont(font)).size(0, NoDataText);
         const QPointF centred((form_.size.width() - text.width()) / 2,

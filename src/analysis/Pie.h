@@ -16,10 +16,13 @@ struct PieForm {
     double radius = 0;
     std::optional<QPointF> noDataPlace; ///< upper left corner of the text; centred where unset
     bool overlayWithoutData = false;    ///< the pie is laid over the picture without data too
+    bool coverWithoutData = true; ///< without data the background picture is hidden behind the text
     bool clampAllFrom999 = false; ///< protein and carbohydrate too are clamped from 99.9 %, not
                                   ///< only above it
     std::array<const char*, 3> noDataCaptions; ///< fat, protein, carbohydrate
     QColor ground;                             ///< behind the pie
+    double background =
+        0; ///< reach of the background picture from the centre; 0 where there is none
 };
 
 /// The share of the calories that came from fat, protein and carbohydrate as three sectors. Holds
@@ -56,6 +59,7 @@ private:
     void SetNoDataCaptions();
     void Render(double ratio);
     QImage Blank() const;
+    void PaintBackground();
     void AddPieSlice(const QColor& colour, double from, double to);
     void PaintNoData();
 

@@ -1,9 +1,8 @@
 #include "analysis/PieChart.h"
 
+#include "model/Nuts.h"
 #include "toolkit/Style.h"
 #include "toolkit/ucAALBL.h"
-
-#include <QPainter>
 
 namespace {
 constexpr int LegendGap = 20;
@@ -22,7 +21,23 @@ PieChart::PieChart(PieForm form, QWidget* parent)
     : QWidget(parent)
     , picture_(new PiePicture(std::move(form), this)) {
     picture_->setObjectName(QStringLiteral("picPIE"));
+    AddSwatches();
     AddLabels();
+    setMouseTracking(true);
+    picture_->setMouseTracking(true);
+    for (ucAALBL* label : labels_)
+        label->setMouseTracking(true);
+}
+
+void PieChart::AddSwatches() {
+    const auto colours = picture_->pie().ShownColours();
+    for (size_t i = 0; i < swatches_.size(); ++i) {
+        swatches_[i] = new QWidget(this);
+        swatches_[i]->setObjectName(QStringLiteral("Image%1").arg(i + 1));
+        swatches_[i]->setPalette(colours[i]);
+        swatches_[i]->setAutoFillBackground(true);
+        swatches_[i]->setMouseTracking(true);
+    }
 }
 
 void PieChart::AddLabels() {
@@ -47,6 +62,15 @@ void PieChart::ShowNoData() {
     ShowCaptions();
 }
 
+void PieChart::ShowEnergy(const std::optional<Nuts>& amounts) {
+    if (!amounts || amounts->Calories() < 1)
+        return ShowNoData();
+    const double calories = amounts->Calories();
+    DrawPie(amounts->TotalFat() * KcalPerGram::Fat / calories,
+            amounts->Protein() * KcalPerGram::Protein / calories,
+            amounts->Carbs() * KcalPerGram::Carbs / calories);
+}
+
 void PieChart::ShowCaptions() {
     const auto& captions = picture_->pie().Captions();
     for (size_t i = 0; i < labels_.size(); ++i)
@@ -54,7 +78,7 @@ void PieChart::ShowCaptions() {
             labels_[i]->SetCaption(captions[i]);
 }
 
-QRect PieChart::Swatch(size_t i) const {
+QRect PieChart::SwatchPlace(size_t i) const {
     const int left = (width() - LegendWidth()) / 2;
     const int top = picture_->geometry().bottom() + 1 + LegendGap + int(i) * LegendLine;
     return {left, top + (LegendLine - SwatchSize) / 2, SwatchSize, SwatchSize};
@@ -66,14 +90,8 @@ void PieChart::resizeEvent(QResizeEvent*) {
     picture_->move((width() - picture_->width()) / 2, qMax(0, free * 2 / 5));
     const int line = QFontMetrics(TheStyle().text).height();
     for (size_t i = 0; i < labels_.size(); ++i) {
-        const QRect swatch = Swatch(i);
+        const QRect swatch = SwatchPlace(i);
+        swatches_[i]->setGeometry(swatch);
         labels_[i]->move(swatch.right() + 1 + SwatchGap, swatch.center().y() - line / 2);
     }
-}
-
-void PieChart::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
-    const auto colours = picture_->pie().ShownColours();
-    for (size_t i = 0; i < labels_.size(); ++i)
-        painter.fillRect(Swatch(i), colours[i]);
 }

@@ -3,11 +3,13 @@
 #include "analysis/PiePicture.h"
 
 #include <array>
+#include <optional>
 
+class Nuts;
 class ucAALBL;
 
-/// A pie with its legend below, both in the middle: a swatch in the sector's shown colour before
-/// each of the labels aafat, aaprotein and aacarbs.
+/// A pie with its legend below, both in the middle: the swatches Image1 to Image3 in the sectors'
+/// shown colours before the labels aafat, aaprotein and aacarbs.
 class PieChart : public QWidget {
     Q_OBJECT
 
@@ -16,19 +18,22 @@ public:
 
     void DrawPie(double fat, double protein, double carbs);
     void ShowNoData();
+    /// The pie of those amounts; that without data where there are none or less than a kilocalorie.
+    void ShowEnergy(const std::optional<Nuts>& amounts);
     void AddOverLay() { picture_->AddOverLay(); }
     PiePicture* picPIE() const { return picture_; }
     const std::array<ucAALBL*, 3>& Labels() const { return labels_; }
 
 protected:
-    void paintEvent(QPaintEvent*) override;
     void resizeEvent(QResizeEvent*) override;
 
 private:
+    void AddSwatches();
     void AddLabels();
     void ShowCaptions();
-    QRect Swatch(size_t i) const;
+    QRect SwatchPlace(size_t i) const;
 
     PiePicture* picture_;
+    std::array<QWidget*, 3> swatches_{};
     std::array<ucAALBL*, 3> labels_{};
 };

@@ -3,6 +3,7 @@
 #include "analysis/BarGrid.h"
 #include "analysis/ChartBar.h"
 #include "analysis/ChartLabel.h"
+#include "analysis/LoggedSums.h"
 #include "analysis/PieChart.h"
 #include "analysis/ScaleCaption.h"
 #include "analysis/ViewButtons.h"
@@ -12,8 +13,6 @@
 #include "runtime/Dates.h"
 #include "runtime/Format.h"
 #include "runtime/Settings.h"
-#include "store/Connection.h"
-#include "store/Recordset.h"
 #include "toolkit/Style.h"
 #include "toolkit/Twips.h"
 #include "toolkit/ucAALBL.h"
@@ -192,33 +191,14 @@ void ucDaily::setDate(QDate date) {
 void ucDaily::updateCharts() {
     if (!App().AppStarted)
         return;
-    const std::optional<Nuts> sums = DaySums();
+    const std::optional<Nuts> sums = LoggedSums::OfDay(date_);
     if (!sums)
         return ShowNoData();
     sums_ = *sums;
     ShowSums();
     if (sums_.Calories() < 1)
         return ShowNoData();
-    picPieChart_->DrawPie(sums_.TotalFat() * 9 / sums_.Calories(),
-                          sums_.Protein() * 4 / sums_.Calories(),
-                          sums_.Carbs() * 4 / sums_.Calories());
-}
-
-/// What the day sums to, or nothing where it has no row.
-std::optional<Nuts> ucDaily::DaySums() const {
-    static const QString sumSQL = NutrientSumSQL(QStringLiteral("USER_FOODS"));
-    Recordset day(UserDB(),
-                  sumSQL + " FROM USER_FOODS " +
-                      " WHERE UID=" + QString::number(User::Current().UID) + " AND UDate = #" +
-                      Dates::ShortText(date_) + "#",
-                  Cursor::Static, Lock::ReadOnly);
-    if (day[QStringLiteral("Calories")].IsNull())
-        return std::nullopt;
-    Nuts sums;
-    for (const NutrientInfo& nutrient : Nutrients())
-        sums.Set(nutrient.id, day[QLatin1String(nutrient.logColumn)].NumberOr(0));
-    day.Close();
-    return sums;
+    picPieChart_->ShowEnergy(sums_);
 }
 
 void ucDaily::ShowSums() {

@@ -8,7 +8,6 @@
 #include <QHash>
 
 #include <memory>
-#include <optional>
 #include <vector>
 
 class BarGrid;
@@ -73,7 +72,6 @@ private:
     void OnPointer(const Hover& hover, const QMouseEvent* move);
     void hilite(int row);
 
-    std::optional<Nuts> DaySums() const;
     void ShowSums();
     void ShowNoData();
     void FitValues();

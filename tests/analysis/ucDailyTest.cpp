@@ -1,5 +1,6 @@
 #include "analysis/ucDaily.h"
 
+#include "AnalysisTest.h"
 #include "analysis/ChartBar.h"
 #include "analysis/ChartLabel.h"
 #include "analysis/PiePicture.h"
@@ -10,7 +11,6 @@
 #include "runtime/Settings.h"
 #include "store/Connection.h"
 #include "support/Failure.h"
-#include "support/HalvaneTest.h"
 #include "toolkit/Style.h"
 #include "toolkit/ucAALBL.h"
 #include "toolkit/ucButtonA.h"
@@ -29,30 +29,11 @@ namespace {
 const QDate Day(2002, 4, 3);
 const QString Leader = QStringLiteral(".......................");
 const QString EmptyValue = QStringLiteral("..............................0");
-using Amounts = QMap<QString, double>;
 
-class ucDailyTest : public HalvaneTest {
+class ucDailyTest : public AnalysisTest {
 protected:
-    void SetUp() override {
-        HalvaneTest::SetUp();
-        OpenEmptyDatabases();
-        AddUser();
-    }
-
-    /// Logs one food with these amounts, all others 0.
-    void Eat(const Amounts& amounts, QDate day = Day, const QString& meal = QStringLiteral("Lunch"),
-             qint32 uid = User::Current().UID) {
-        QString columns = QStringLiteral("UID,UDate,Meal,FoodName,Serving,ID,QTY");
-        QString values = QStringLiteral("%1,'%2','%3','Food','1 cup',1,1")
-                             .arg(QString::number(uid), day.toString(Qt::ISODate), meal);
-        for (const NutrientInfo& nutrient : Nutrients()) {
-            const QString column = QLatin1String(nutrient.logColumn);
-            columns += u',' + column;
-            values += u',' + QString::number(amounts.value(column, 0), 'g', 17);
-        }
-        Users(QStringLiteral("INSERT INTO USER_FOODS (") + columns + QStringLiteral(") VALUES (") +
-              values + u')');
-    }
+    using AnalysisTest::Eat;
+    void Eat(const Amounts& amounts) { Eat(amounts, Day); }
 
     ChartBar* Bar(const ucDaily& panel, int row) {
         return Find<ChartBar>(&panel, QStringLiteral("imgBar%1").arg(row));
@@ -62,15 +43,6 @@ protected:
     }
     ChartLabel* Value(const ucDaily& panel, int row) {
         return Find<ChartLabel>(&panel, QStringLiteral("lblVal%1").arg(row));
-    }
-    QString Caption(const ucDaily& panel, const char* label) {
-        return Find(&panel, QString::fromLatin1(label))->property("Caption").toString();
-    }
-    QStringList PieCaptions(const ucDaily& panel) {
-        return {Caption(panel, "aafat"), Caption(panel, "aaprotein"), Caption(panel, "aacarbs")};
-    }
-    QString PieText(const ucDaily& panel) {
-        return Find(&panel, QStringLiteral("picPIE"))->accessibleDescription();
     }
     int Widest(const ucDaily& panel) {
         return Find(&panel, QStringLiteral("picRDIs"))->width() * 15 - 30 - 60;
@@ -128,8 +100,7 @@ TEST_F(ucDailyTest, AllMealsOfTheDayCountAlikeAndNothingElse) {
         Eat({{QStringLiteral("Calories"), 100}}, Day, QLatin1String(meal));
     Eat({{QStringLiteral("Calories"), 5000}}, Day.addDays(1));
     Eat({{QStringLiteral("Calories"), 5000}}, Day.addDays(-1));
-    Eat({{QStringLiteral("Calories"), 5000}}, Day, QStringLiteral("Lunch"),
-        User::Current().UID + 1);
+    EatAs(User::Current().UID + 1, {{QStringLiteral("Calories"), 5000}}, Day);
     ucDaily panel;
     panel.setDate(Day);
     EXPECT_EQ(Value(panel, 1)->Caption(), Leader + QStringLiteral("500 kcal"));

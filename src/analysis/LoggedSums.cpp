@@ -1,0 +1,75 @@
+#include "analysis/LoggedSums.h"
+
+#include "model/User.h"
+#include "runtime/Dates.h"
+#include "store/Connection.h"
+#include "store/Recordset.h"
+
+namespace {
+
+using enum Nutrient;
+constexpr Nutrient energyFields[] = {Calories, TotalFat, Protein, Carbs};
+
+QString Uid() {
+    return QString::number(User::Current().UID);
+}
+
+const QString& AllSumsSQL() {
+    static const QString sums =
+        NutrientSumSQL(QStringLiteral("USER_FOODS")) + " FROM USER_FOODS " + " WHERE UID=";
+    return sums;
+}
+
+std::optional<Nuts> Sums(const QString& statement, std::span<const Nutrient> nutrients) {
+    Recordset row(UserDB(), statement, Cursor::Static, Lock::ReadOnly);
+    if (row[QStringLiteral("Calories")].IsNull())
+        return std::nullopt;
+    Nuts sums;
+    for (const Nutrient id : nutrients)
+        sums.Set(id, row[QLatin1String(Info(id).logColumn)].NumberOr(0));
+    row.Close();
+    return sums;
+}
+
+} // namespace
+
+QString LoggedSums::Between(const Period& period) {
+    return "UDate Between #" + Dates::ShortText(period.from) + "# AND #" +
+           Dates::ShortText(period.to) + "#";
+}
+
+std::optional<Nuts> LoggedSums::OfDay(QDate day) {
+    return Sums(AllSumsSQL() + Uid() + " AND UDate = #" + Dates::ShortText(day) + "#",
+                CanonicalOrder());
+}
+
+std::optional<Nuts> LoggedSums::OfPeriod(const Period& period) {
+    return Sums(AllSumsSQL() + Uid() + " AND " + Between(period), CanonicalOrder());
+}
+
+std::optional<Nuts> LoggedSums::AverageEnergy(const Period& period) {
+    std::optional<Nuts> energy =
+        Sums("SELECT Sum(USER_FOODS.Calories) AS [Calories], "
+             "Sum(USER_FOODS.Protein) AS [Protein], Sum(USER_FOODS.TotalFat) AS [TotalFat],"
+             "Sum(USER_FOODS.carbs) AS [carbs] FROM USER_FOODS "
+             " WHERE UID=" +
+                 Uid() + " AND " + Between(period),
+             energyFields);
+    if (!energy)
+        return std::nullopt;
+    const int days = LoggedDays(period);
+    for (const Nutrient id : energyFields)
+        energy->Set(id, (*energy)[id] / days);
+    return energy->Calories() < 1 ? std::nullopt : energy;
+}
+
+int LoggedSums::LoggedDays(const Period& period) {
+    Recordset days(UserDB(),
+                   "SELECT DISTINCT USER_FOODS.UDate FROM USER_FOODS"
+                   " WHERE UID=" +
+                       Uid() + " AND " + Between(period),
+                   Cursor::Static, Lock::ReadOnly);
+    const int count = days.RecordCount();
+    days.Close();
+    return count;
+}

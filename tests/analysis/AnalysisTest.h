@@ -1,0 +1,26 @@
+#pragma once
+
+#include "support/HalvaneTest.h"
+
+#include <QDate>
+#include <QMap>
+
+/// Amounts by column; what is not named is 0.
+using Amounts = QMap<QString, double>;
+
+/// Empty databases, one user, and ways to fill that user's logs.
+class AnalysisTest : public HalvaneTest {
+protected:
+    void SetUp() override;
+
+    /// Logs one food for the current user, or for another.
+    void Eat(const Amounts& amounts, QDate day, const QString& meal = QStringLiteral("Lunch"));
+    void EatAs(qint32 uid, const Amounts& amounts, QDate day,
+               const QString& meal = QStringLiteral("Lunch"));
+    /// Food of nothing but so much energy.
+    void EatCalories(double calories, QDate day);
+    void Weigh(double weight, QDate day);
+    QString Caption(const QWidget& chart, const char* name);
+    QStringList PieCaptions(const QWidget& chart); ///< fat, protein, carbohydrate
+    QString PieText(const QWidget& chart);         ///< what the pie tells assistive programs
+};
