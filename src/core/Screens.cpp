@@ -2,10 +2,12 @@
 
 #include "core/Navigation.h"
 #include "core/ScreenNames.h"
+#include "foods/frmFoodList.h"
 #include "intake/frmDay.h"
 #include "model/frmProfile.h"
 
 void RegisterScreens(Navigation& navigation) {
     navigation.Register<frmDay>(ScreenNames::Day);
+    navigation.Register<frmFoodList>(ScreenNames::CustomFoods);
     navigation.Register<frmProfile>(ScreenNames::Profile);
 }

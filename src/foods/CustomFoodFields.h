@@ -1,0 +1,56 @@
+#pragma once
+
+#include "model/Nutrients.h"
+#include "toolkit/Labels.h"
+
+#include <QWidget>
+
+#include <array>
+#include <span>
+
+class QGridLayout;
+class QLineEdit;
+class Recordset;
+
+/// The fields of a custom food, laid out like the label on a package: name and serving, and below a
+/// heavy rule the 31 amounts of one serving in three columns. Owned by the screen of custom foods.
+class CustomFoodFields : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit CustomFoodFields(QWidget* parent = nullptr);
+
+    struct Problem {
+        QLineEdit* field = nullptr; ///< null where there is none
+        QString message;
+    };
+    Problem FirstProblem() const;
+
+    void Clear();
+    void SetNew(); ///< words to be replaced for name and serving, no amounts
+    void Fill(const Recordset& row);
+    /// Writes name, serving and each amount's number without its sign; what is no number is 0.
+    void Write(Recordset& row) const;
+    void FieldLock(bool on); ///< usable or not
+    void ChooseName();       ///< the name is ready to be typed over
+
+Q_SIGNALS:
+    void Changed(); ///< the text of any field, whoever changed it
+
+protected:
+    void paintEvent(QPaintEvent*) override;
+
+private:
+    void AddNames();
+    void AddHint();
+    void AddColumn(std::span<const Nutrient> nutrients, int column);
+    QLineEdit* AddField(const char* name, const char* caption, TextRole role);
+
+    QGridLayout* grid_;
+    QLineEdit* txtFoodName_ = nullptr;
+    QLineEdit* txtServing_ = nullptr;
+    QLabel* lblHint_ = nullptr;
+    std::array<QLineEdit*, NutrientCount> amounts_{};
+    QList<QLabel*> captions_;  ///< each beside the field of the same place
+    QList<QLineEdit*> fields_; ///< all, in reading order
+};

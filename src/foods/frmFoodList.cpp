@@ -1,0 +1,274 @@
+#include "foods/frmFoodList.h"
+
+#include "foods/CustomFoodFields.h"
+#include "runtime/Round.h"
+#include "runtime/Seams.h"
+#include "store/Connection.h"
+#include "store/Recordset.h"
+#include "store/Transaction.h"
+#include "toolkit/ListBox.h"
+#include "toolkit/MousePointer.h"
+#include "toolkit/Style.h"
+#include "toolkit/ucBox.h"
+#include "toolkit/ucButton.h"
+
+#include <QLineEdit>
+
+#include <algorithm>
+
+namespace {
+
+// Measures in pixels.
+constexpr int boxesTop = 42;
+constexpr int boxesBottom = 44; // from the lower edge
+constexpr int listWidth = 178;
+
+QString FoodSQL(qint32 id) {
+    return QStringLiteral("SELECT * FROM foods WHERE ID = ") + QString::number(id);
+}
+
+/// Puts buttons side by side and gives the place behind the last one.
+int PlaceInRow(std::initializer_list<ucButton*> buttons, QPoint place) {
+    for (ucButton* button : buttons) {
+        button->move(place);
+        place.rx() += button->width() + TheStyle().boxGap;
+    }
+    return place.x();
+}
+
+} // namespace
+
+frmFoodList::frmFoodList(QWidget* parent)
+    : Screen(QStringLiteral("frmFoodList"), QStringLiteral("Custom Foods"), parent) {
+    MakeList();
+    MakeFields();
+    MakeButtons();
+    ListFoods();
+}
+
+void frmFoodList::MakeList() {
+    foodList_ = new ListBox;
+    foodList_->setObjectName(QStringLiteral("FoodList"));
+    ucBox1_ = MakeBox("ucBox1", "My Custom Foods", foodList_);
+    foodList_->setAccessibleName(ucBox1_->Caption());
+    connect(foodList_, &ListBox::Click, this, &frmFoodList::FoodList_Click);
+    connect(foodList_, &ListBox::MouseMove, this, [this] { AllOff(QString()); });
+    cmdNewBut_ = MakeButton("cmdNewBut", "New", &frmFoodList::NewFood);
+    cmdDelete_ = MakeButton("cmdDelete", "Delete", &frmFoodList::cmdDelete_Click);
+}
+
+void frmFoodList::MakeFields() {
+    fields_ = new CustomFoodFields;
+    ucBox2_ = MakeBox("ucBox2", "Food Information", fields_);
+    connect(fields_, &CustomFoodFields::Changed, this, &frmFoodList::doChange);
+}
+
+void frmFoodList::MakeButtons() {
+    cmdSave_ = MakeButton("cmdSave", "Save", &frmFoodList::cmdSave_Click);
+    cmdSave_->SetMainAction(true);
+    cmdCancel_ = MakeButton("cmdCancel", "Cancel", &frmFoodList::cmdCancel_Click);
+    cmdDone_ = MakeButton("cmdDone", "Done", &frmFoodList::cmdDone_Click);
+}
+
+ucBox* frmFoodList::MakeBox(const char* name, const char* caption, QWidget* contents) {
+    auto* box = new ucBox(QString::fromLatin1(caption), this);
+    box->setObjectName(QString::fromLatin1(name));
+    contents->setParent(box);
+    connect(box, &ucBox::InnerChanged, contents,
+            [box, contents] { contents->setGeometry(box->Inner()); });
+    connect(box, &ucBox::MouseMove, this, [this] { AllOff(QString()); });
+    return box;
+}
+
+ucButton* frmFoodList::MakeButton(const char* name, const char* caption,
+                                  void (frmFoodList::*pressed)()) {
+    auto* button = new ucButton(QString::fromLatin1(caption), this);
+    button->setObjectName(QString::fromLatin1(name));
+    connect(button, &ucButton::Click, this, pressed);
+    connect(button, &ucButton::MouseMove, this, [this, button] { AllOff(button->objectName()); });
+    return button;
+}
+
+void frmFoodList::resizeEvent(QResizeEvent*) {
+    PlaceBoxes();
+    PlaceButtons();
+    AllOff(QString());
+}
+
+void frmFoodList::PlaceBoxes() {
+    const Style& style = TheStyle();
+    const int boxHeight = height() - boxesTop - boxesBottom;
+    const int left = style.nestEdge + listWidth + style.boxGap;
+    ucBox1_->setGeometry(style.nestEdge, boxesTop, listWidth, boxHeight);
+    ucBox2_->setGeometry(left, boxesTop, width() - style.nestEdge - left, boxHeight);
+}
+
+void frmFoodList::PlaceButtons() {
+    const Style& style = TheStyle();
+    const int top = height() - boxesBottom + style.boxGap;
+    PlaceInRow({cmdNewBut_, cmdDelete_}, {style.nestEdge, top});
+    PlaceInRow({cmdSave_, cmdCancel_}, {ucBox2_->x(), top});
+    cmdDone_->move(width() - style.nestEdge - cmdDone_->width(), top);
+}
+
+void frmFoodList::AllOff(const QString& except) {
+    for (ucButton* button : {cmdDelete_, cmdCancel_, cmdSave_, cmdNewBut_, cmdDone_})
+        if (button->objectName().compare(except, Qt::CaseInsensitive) != 0)
+            button->Reset();
+}
+
+void frmFoodList::ListFoods() {
+    int index = foodList_->ListIndex();
+    FillList();
+    const int last = foodList_->ListCount() - 1;
+    if (!editing_ && last < 0) {
+        clearFields();
+        return UIMode(0);
+    }
+    if (!editing_ && index < 0)
+        index = last;
+    const int shown = LineOf(id_);
+    foodList_->SetListIndex(shown >= 0 ? shown : std::min(index, last));
+    UIMode(1);
+}
+
+void frmFoodList::FillList() {
+    foodList_->Clear();
+    Recordset foods(FoodDB(),
+                    QStringLiteral("SELECT * FROM foods WHERE ID > 23508 ORDER BY FoodName"),
+                    Cursor::Static, Lock::ReadOnly);
+    for (; !foods.AtEnd(); foods.MoveNext())
+        foodList_->AddItem(foods[QStringLiteral("FoodName")].Text(),
+                           foods[QStringLiteral("ID")].Integer());
+}
+
+int frmFoodList::LineOf(qint32 id) const {
+    for (int line = 0; line < foodList_->ListCount(); ++line)
+        if (foodList_->ItemData(line) == id)
+            return line;
+    return -1;
+}
+
+void frmFoodList::FoodList_Click() {
+    if (foodList_->ListIndex() < 0)
+        return;
+    editing_ = true;
+    id_ = foodList_->ItemData(foodList_->ListIndex());
+    LoadFood(id_);
+    UIMode(1);
+}
+
+void frmFoodList::LoadFood(qint32 id) {
+    const Recordset food(FoodDB(), FoodSQL(id), Cursor::Static, Lock::ReadOnly);
+    fields_->Fill(food);
+}
+
+void frmFoodList::clearFields() {
+    fields_->Clear();
+}
+
+void frmFoodList::FieldLock(bool on) {
+    fields_->FieldLock(on);
+}
+
+void frmFoodList::NewFood() {
+    editing_ = false;
+    fields_->SetNew();
+    UIMode(2);
+    fields_->ChooseName();
+}
+
+void frmFoodList::UIMode(qint32 mode) {
+    mode_ = mode;
+    cmdSave_->SetEnabled(mode == 2);
+    cmdCancel_->SetEnabled(mode == 2);
+    cmdDelete_->SetEnabled(mode == 1);
+    FieldLock(mode != 0);
+    foodList_->setEnabled(mode != 2);
+    for (ucButton* button : {cmdNewBut_, cmdDelete_, cmdSave_, cmdCancel_})
+        button->Reset();
+}
+
+void frmFoodList::doChange() {
+    for (ucButton* button : {cmdSave_, cmdCancel_}) {
+        button->SetEnabled(true);
+        button->Reset();
+    }
+}
+
+void frmFoodList::cmdCancel_Click() {
+    if (editing_) {
+        LoadFood(id_);
+        UIMode(1);
+    } else {
+        clearFields();
+        ListFoods();
+    }
+    foodList_->setFocus();
+}
+
+void frmFoodList::cmdSave_Click() {
+    if (!PassesTests())
+        return;
+    const MousePointer::NormalAtEnd pointer;
+    MousePointer::SetBusy();
+    Transaction whole(FoodDB());
+    const qint32 id = editing_ ? id_ : AppendFood();
+    SaveFood(id);
+    whole.Commit();
+    id_ = id;
+    ListFoods();
+    foodList_->setFocus();
+}
+
+bool frmFoodList::PassesTests() {
+    const CustomFoodFields::Problem problem = fields_->FirstProblem();
+    if (!problem.field)
+        return true;
+    ShowAlert(problem.message, this);
+    problem.field->setFocus();
+    return false;
+}
+
+/// The set begins with the last stock food, so that the first custom food has one before it. Its
+/// last row has the highest key, as the store gives the rows in the order of their keys.
+qint32 frmFoodList::AppendFood() const {
+    Recordset foods(FoodDB(), QStringLiteral("SELECT * FROM foods WHERE ID >= 23508"),
+                    Cursor::Dynamic, Lock::Optimistic);
+    foods.MoveLast();
+    const qint32 id = Round(foods[QStringLiteral("ID")].Number() + 1);
+    foods.AddNew();
+    foods.Set(QStringLiteral("ID"), id);
+    foods.Update();
+    return id;
+}
+
+void frmFoodList::SaveFood(qint32 id) {
+    Recordset food(FoodDB(), FoodSQL(id), Cursor::Dynamic, Lock::Optimistic);
+    fields_->Write(food);
+    food.Update();
+}
+
+void frmFoodList::cmdDelete_Click() {
+    if (foodList_->ListIndex() < 0) {
+        ShowAlert(QStringLiteral("Please select a food from the food list before deleting."), this);
+        return;
+    }
+    if (!ShowAlert(QStringLiteral("Are you sure you want to delete this custom food?"), this, true))
+        return;
+    const MousePointer::NormalAtEnd pointer;
+    MousePointer::SetBusy();
+    const qint32 id = foodList_->ItemData(foodList_->ListIndex());
+    Recordset food(FoodDB(), QStringLiteral("SELECT * FROM Foods WHERE ID =") + QString::number(id),
+                   Cursor::Keyset, Lock::Optimistic);
+    food.Delete();
+    food.Close();
+    editing_ = false;
+    ListFoods();
+    if (mode_ == 0)
+        cmdNewBut_->setFocus();
+}
+
+void frmFoodList::cmdDone_Click() {
+    ShowScreen(QStringLiteral("frmMain"));
+}
