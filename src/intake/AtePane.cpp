@@ -23,12 +23,13 @@ AtePane::AtePane(QWidget* parent)
 }
 
 AtePane::Redraw::Redraw(AtePane& pane, bool resetPane)
-    : pane_(pane) {
+    : pane_(pane)
+    , resetPane_(resetPane) {
     pane_.Begin(resetPane);
 }
 
 AtePane::Redraw::~Redraw() {
-    pane_.End();
+    pane_.End(resetPane_);
 }
 
 /// Painting is held back rather than the pane hidden: hiding would take the focus out of it.
@@ -42,12 +43,27 @@ void AtePane::Begin(bool resetPane) {
         ResetPane();
 }
 
-void AtePane::End() {
+void AtePane::End(bool resetPane) {
     KeepFocus();
     Release(used_ + 1);
     SizePane();
     ChainFocus();
+    if (resetPane)
+        ShowTop();
     picResultsPane()->setUpdatesEnabled(true);
+}
+
+/// Where the line with the focus is out of view by that, the focus waits before the first line: a
+/// key must not remove a line that cannot be seen.
+void AtePane::ShowTop() {
+    if (vsResultsPane()->Value() != 0)
+        vsResultsPane()->SetValue(0);
+    const QWidget* focus = QApplication::focusWidget();
+    if (!focus || !picResultsPane()->isAncestorOf(focus))
+        return;
+    const QRect place(focus->mapTo(picResultsPane(), QPoint()), focus->size());
+    if (place.bottom() >= FrameHeight())
+        picResultsBox()->setFocus();
 }
 
 void AtePane::ClearList() {
@@ -119,7 +135,7 @@ void AtePane::SizePane() {
     if (fits && vsResultsPane()->Value() != 0)
         ResetPane();
     picResultsPane()->resize(fits ? picResultsBox()->width() : PaneWidth(),
-                             qMax(height, FrameHeight()));
+                             fits && fillsFrame_ ? FrameHeight() : height);
     FitWidths();
     if (fits)
         HideBar();

@@ -19,7 +19,12 @@ public:
 
     explicit AtePane(QWidget* parent = nullptr);
 
-    /// No line comes up before the end of the block, which ends well however it is left.
+    /// Whether the pane of a list that is shorter than the frame is as high as that. It is, unless
+    /// told otherwise.
+    void SetFillsFrame(bool fills) { fillsFrame_ = fills; }
+
+    /// No line comes up before the end of the block, which ends well however it is left. After a
+    /// reset the top is in view, wherever the focus is.
     class Redraw {
     public:
         Redraw(AtePane& pane, bool resetPane);
@@ -29,6 +34,7 @@ public:
 
     private:
         AtePane& pane_;
+        bool resetPane_;
     };
 
     void ClearList();
@@ -53,7 +59,8 @@ protected:
 private:
     void LetGo(const QWidget& over, const QMouseEvent& mouse);
     void Begin(bool resetPane);
-    void End();
+    void End(bool resetPane);
+    void ShowTop();
     ucAte* NextLine();
     ucAte* MakeLine();
     void Release(int from);
@@ -70,4 +77,5 @@ private:
     int used_ = 0;
     int runningHeight_ = 0; ///< twips
     bool pressed_ = false;
+    bool fillsFrame_ = true;
 };

@@ -6,6 +6,7 @@
 #include "toolkit/ucScroll.h"
 
 #include <QSignalSpy>
+#include <QTest>
 
 /// The pane as a host without headings or limits uses it.
 class AtePaneTest : public HalvaneTest {
@@ -55,6 +56,29 @@ TEST_F(AtePaneTest, ResetShowsTheTop) {
     EXPECT_EQ(pane.picResultsPane()->y(), 0);
     EXPECT_EQ(pane.vsResultsPane()->Value(), 0);
     EXPECT_TRUE(pane.vsResultsPane()->isVisible());
+}
+
+TEST_F(AtePaneTest, ShortListFillsTheFrameUnlessToldOtherwise) {
+    Fill(2);
+    EXPECT_EQ(pane.picResultsPane()->height(), 200);
+    pane.SetFillsFrame(false);
+    Fill(2);
+    EXPECT_EQ(pane.picResultsPane()->height(), 2 * TheStyle().tallRowHeight);
+    pane.resize(300, 77);
+    EXPECT_TRUE(pane.vsResultsPane()->isVisible());
+    pane.resize(300, 300);
+    EXPECT_FALSE(pane.vsResultsPane()->isVisible());
+    EXPECT_EQ(pane.picResultsPane()->height(), 2 * TheStyle().tallRowHeight);
+}
+
+TEST_F(AtePaneTest, ResetShowsTheTopWhereverTheFocusIs) {
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&pane));
+    Fill(20);
+    pane.Line(20)->imgTrash()->setFocus();
+    EXPECT_GT(pane.vsResultsPane()->Value(), 0);
+    Fill(19, true);
+    EXPECT_EQ(pane.picResultsPane()->y(), 0);
+    EXPECT_FALSE(pane.picResultsPane()->isAncestorOf(pane.focusWidget()));
 }
 
 TEST_F(AtePaneTest, RedrawThatFailsHalfwayLeavesAWorkingList) {
