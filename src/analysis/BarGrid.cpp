@@ -1,5 +1,6 @@
 #include "analysis/BarGrid.h"
 
+#include "analysis/GridLines.h"
 #include "toolkit/Style.h"
 #include "toolkit/Twips.h"
 
@@ -13,14 +14,5 @@ BarGrid::BarGrid(QWidget* parent)
 void BarGrid::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.fillRect(rect(), TheStyle().paper);
-    DrawGrid(painter);
-}
-
-void BarGrid::DrawGrid(QPainter& painter) const {
-    const Style& style = TheStyle();
-    const int bottom = Twips::ToPixels(Twips::FromPixels(height()) - Foot);
-    for (int n = 0; Origin + n <= Twips::FromPixels(width()); n += Step) {
-        const QColor& colour = n % DarkStep == 0 ? style.gridDark : style.gridLight;
-        painter.fillRect(Twips::ToPixels(Origin + n), 0, 1, bottom, colour);
-    }
+    GridLines{Origin, Step, DarkStep, Twips::FromPixels(width())}.Draw(painter, height());
 }

@@ -11,13 +11,9 @@ public:
     static constexpr int Origin = 60;    ///< twips
     static constexpr int Step = 150;     ///< twips between lines
     static constexpr int DarkStep = 750; ///< twips between dark lines
-    static constexpr int Foot = 30;      ///< twips below the lines
 
     explicit BarGrid(QWidget* parent = nullptr);
 
 protected:
     void paintEvent(QPaintEvent*) override;
-
-private:
-    void DrawGrid(QPainter& painter) const;
 };

@@ -7,7 +7,7 @@ namespace {
 class ChartPieceAccessible : public QAccessibleWidget {
 public:
     explicit ChartPieceAccessible(ChartPiece* piece)
-        : QAccessibleWidget(piece, QAccessible::StaticText) {}
+        : QAccessibleWidget(piece, piece->SpokenRole()) {}
 
     QString text(QAccessible::Text kind) const override {
         const auto* piece = static_cast<const ChartPiece*>(object());

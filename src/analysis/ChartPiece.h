@@ -1,10 +1,11 @@
 #pragma once
 
+#include <QAccessible>
 #include <QWidget>
 
 #include <functional>
 
-/// What a row of a chart is made of: a small control that tells its name and its value to assistive
+/// A chart, or what its rows are made of: a control that tells its name and its value to assistive
 /// programs. The value's text is composed only when it is asked for.
 class ChartPiece : public QWidget {
     Q_OBJECT
@@ -12,6 +13,7 @@ class ChartPiece : public QWidget {
 public:
     explicit ChartPiece(QWidget* parent = nullptr);
 
+    virtual QAccessible::Role SpokenRole() const { return QAccessible::StaticText; }
     virtual QString SpokenName() const { return accessibleName(); }
     QString SpokenValue() const { return value_ ? value_() : QString(); }
     void SetSpokenValue(std::function<QString()> value) { value_ = std::move(value); }

@@ -33,18 +33,13 @@ std::optional<Nuts> Sums(const QString& statement, std::span<const Nutrient> nut
 
 } // namespace
 
-QString LoggedSums::Between(const Period& period) {
-    return "UDate Between #" + Dates::ShortText(period.from) + "# AND #" +
-           Dates::ShortText(period.to) + "#";
-}
-
 std::optional<Nuts> LoggedSums::OfDay(QDate day) {
     return Sums(AllSumsSQL() + Uid() + " AND UDate = #" + Dates::ShortText(day) + "#",
                 CanonicalOrder());
 }
 
 std::optional<Nuts> LoggedSums::OfPeriod(const Period& period) {
-    return Sums(AllSumsSQL() + Uid() + " AND " + Between(period), CanonicalOrder());
+    return Sums(AllSumsSQL() + Uid() + " AND " + period.Condition(), CanonicalOrder());
 }
 
 std::optional<Nuts> LoggedSums::AverageEnergy(const Period& period) {
@@ -53,7 +48,7 @@ std::optional<Nuts> LoggedSums::AverageEnergy(const Period& period) {
              "Sum(USER_FOODS.Protein) AS [Protein], Sum(USER_FOODS.TotalFat) AS [TotalFat],"
              "Sum(USER_FOODS.carbs) AS [carbs] FROM USER_FOODS "
              " WHERE UID=" +
-                 Uid() + " AND " + Between(period),
+                 Uid() + " AND " + period.Condition(),
              energyFields);
     if (!energy)
         return std::nullopt;
@@ -67,7 +62,7 @@ int LoggedSums::LoggedDays(const Period& period) {
     Recordset days(UserDB(),
                    "SELECT DISTINCT USER_FOODS.UDate FROM USER_FOODS"
                    " WHERE UID=" +
-                       Uid() + " AND " + Between(period),
+                       Uid() + " AND " + period.Condition(),
                    Cursor::Static, Lock::ReadOnly);
     const int count = days.RecordCount();
     days.Close();

@@ -32,5 +32,5 @@ void PiePicture::Refresh() {
 
 void PiePicture::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.drawImage(0, 0, pie_.picPIE(devicePixelRatioF()));
+    painter.drawImage(0, 0, pie_.picPIE(painter.deviceTransform().m11()));
 }

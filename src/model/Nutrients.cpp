@@ -3,37 +3,37 @@
 namespace {
 // clang-format off
 constexpr NutrientInfo Table[] = {
-    {Nutrient::Selenium, "Selenium", "Selenium", "Selenium", "Selenium", "mg", "Selenium (mg)", "Selenium (mg)", "Selenium", "txtSelenium", "lblSelenium", false},
-    {Nutrient::Zinc, "Zinc", "Zinc", "Zinc", "Zinc", "mg", "Zinc (mg)", "Zinc (mg)", "Zinc", "txtZinc", "lblZinc", false},
-    {Nutrient::Water, "Water", "water", nullptr, "Water", "g", "Water (g)", "Water (g)", nullptr, "txtWater", "lblWater", false},
-    {Nutrient::VitaminC, "VitaminC", "VitaminC", "VitaminC", "VitaminC", "mg", "Vit. C (mg)", "Vit. C (mg)", "Vit. C", "txtVitC", "lblVitaminC", false},
-    {Nutrient::VitaminB12, "VitaminB12", "VitaminB12", "VitaminB12", "VitaminB12", "mcg", "Vit. B12 (mcg)", "Vit. B12 (mcg)", "Vit. B12", "txtVitB12", "lblVitaminB12", false},
-    {Nutrient::VitaminB6, "VitaminB6", "VitaminB6", "VitaminB6", "VitaminB6", "mg", "Vit. B6 (mg)", "Vit. B6 (mg)", "Vit. B6", "txtVitB6", "lblVitaminB6", false},
-    {Nutrient::VitaminE, "VitaminE", "VitaminE", "VitaminE", "VitaminE", "mg", "Vit. E (mg)", "Vit. E (mg)", "Vit. E", "txtVitE", "lblVitaminE", false},
-    {Nutrient::VitaminA, "VitaminA", "VitaminA", "VitaminA", "VitaminA", "iu", "Via. A (iu)", "Via. A (iu)", "Vit. A", "txtVitA", "lblVitaminA", false},
-    {Nutrient::Thiamin, "Thiamin", "Thiamin", "Thiamin", "Thiamin", "mg", "Thiamin (mg)", "Thiamin (mg)", "Thiamin", "txtThiamin", "lblThiamin", false},
-    {Nutrient::Riboflavin, "Riboflavin", "Riboflavin", "Riboflavin", "Riboflavin", "mg", "Riboflavin (mg)", "Riboflavin (mg)", "Riboflavin", "txtRiboflavin", "lblRiboflavin", false},
-    {Nutrient::Potassium, "Potassium", "Potassium", nullptr, "Potassium", "mg", "Potassium (mg)", "Potassium (mg)", "Potassium", "txtPotassium", "lblPotassium", true},
-    {Nutrient::Phosphorus, "Phosphorus", "Phosphorus", "Phosphorus", "Phosphorus", "mg", "Phosphorus (mg)", "Phosphorus (mg)", "Phosphorus", "txtPhosphorus", "lblPhosphorus", true},
-    {Nutrient::Panto, "Panto", "Panto", "Panto", "Panto", "mg", "Panto. Adic (mg)", "Panto. Adic (mg)", nullptr, "txtPantoAcid", "lblPantoAcid", false},
-    {Nutrient::Niacin, "Niacin", "Niacin", "Niacin", "Niacin", "mg", "Niacin (mg)", "Niacin (mg)", "Niacin", "txtNiacin", "lblNiacin", false},
-    {Nutrient::Manganese, "Manganese", "Manganese", "Manganese", "Manganese", "mg", "Manganese (mg)", "Manganese (mg)", "Manganese", "txtManganese", "lblManganese", false},
-    {Nutrient::Magnesium, "Magnesium", "Magnesium", "Magnesium", "Magnesium", "mg", "Magnesium (mg)", "Magnesium (mg)", "Magnesium", "txtMagnesium", "lblMagnesium", true},
-    {Nutrient::Iron, "Iron", "Iron", "Iron", "Iron", "mg", "Iron (mg)", "Iron (mg)", "Iron", "txtIron", "lblIron", false},
-    {Nutrient::Folate, "Folate", "Folate", "Folate", "Folate", "mcg", "Folate (mcg)", "Folate (mcg)", "Folate", "txtFolate", "lblFolate", true},
-    {Nutrient::Copper, "Copper", "Copper", "Copper", "Copper", "mg", "Copper (mg)", "Copper (mg)", "Copper", "txtCopper", "lblCopper", false},
-    {Nutrient::Calcium, "Calcium", "Calcium", "Calcium", "Calcium", "mg", "Calcium (mg)", "Calcium (mg)", "Calcium", "txtCalcium", "lblCalcium", true},
-    {Nutrient::Ash, "Ash", "ASH", "Ash", "Ash", "g", "Ash (g)", "Ash (g)", nullptr, "txtAsh", "lblAsh", false},
-    {Nutrient::Protein, "Protein", "protein", nullptr, "Protein", "g", "Protein (g)", "Protein (g)", "Protein", "txtProtein", "lblProtein", false},
-    {Nutrient::Fiber, "Fiber", "fiber", nullptr, "fiber", "g", "Dietary Fiber (g)", "Fiber (g)", "Fiber", "txtFiber", "lblFiber", false},
-    {Nutrient::Carbs, "Carbs", "carbs", nullptr, "carbs", "g", "Total Carbohydrates (g)", "Carbohydrates (g)", "Carbohydrates", "txtCarbs", "lblCarbs", false},
-    {Nutrient::Sodium, "Sodium", "sodium", nullptr, "Sodium", "mg", "Sodium (mg)", "Sodium (mg)", "Sodium", "txtSodium", "lblSodium", true},
-    {Nutrient::Cholesterol, "Cholesterol", "Cholesterol", "Cholesterol", "Cholesterol", "mg", "Cholesterol (mg)", "Cholesterol (mg)", "Cholesterol", "txtCholesterol", "lblCholesterol", true},
-    {Nutrient::MonoFat, "MonoFat", "MonoFat", nullptr, "MonoFat", "g", "Monounsaturated Fat (g)", "Monounsaturated Fat (g)", "Monounsaturated Fat", "txtMonoFat", "lblMonoFat", false},
-    {Nutrient::PolyFat, "PolyFat", "PolyFat", nullptr, "PolyFat", "g", "Polyunsaturated Fat (g)", "Polyunsaturated Fat (g)", "Polyunsaturated Fat", "txtPolyFat", "lblPolyFat", false},
-    {Nutrient::SatFat, "SatFat", "SatFat", nullptr, "SatFat", "g", "Saturated Fat (g)", "Saturated Fat (g)", "Saturated Fat", "txtSatFat", "lblSatFat", false},
-    {Nutrient::TotalFat, "TotalFat", "TotalFat", nullptr, "TotalFat", "g", "Total Fat (g)", "Total Fat (g)", "Total Fat", "txtTotalFat", "lblTotalFat", false},
-    {Nutrient::Calories, "Calories", "Calories", nullptr, "Calories", "kcal", "Calories", "Calories", "Calories", "txtCals", "lblCalories", true},
+    {Nutrient::Selenium, "Selenium", "Selenium", "Selenium", "Selenium", "mg", "Selenium (mg)", "Selenium (mg)", "Selenium", "mg", "txtSelenium", "lblSelenium", false},
+    {Nutrient::Zinc, "Zinc", "Zinc", "Zinc", "Zinc", "mg", "Zinc (mg)", "Zinc (mg)", "Zinc", "mg", "txtZinc", "lblZinc", false},
+    {Nutrient::Water, "Water", "water", nullptr, "Water", "g", "Water (g)", "Water (g)", "Water", "gm", "txtWater", "lblWater", false},
+    {Nutrient::VitaminC, "VitaminC", "VitaminC", "VitaminC", "VitaminC", "mg", "Vit. C (mg)", "Vit. C (mg)", "Vit. C", "mg", "txtVitC", "lblVitaminC", false},
+    {Nutrient::VitaminB12, "VitaminB12", "VitaminB12", "VitaminB12", "VitaminB12", "mcg", "Vit. B12 (mcg)", "Vit. B12 (mcg)", "Vit. B12", "mcg", "txtVitB12", "lblVitaminB12", false},
+    {Nutrient::VitaminB6, "VitaminB6", "VitaminB6", "VitaminB6", "VitaminB6", "mg", "Vit. B6 (mg)", "Vit. B6 (mg)", "Vit. B6", "mg", "txtVitB6", "lblVitaminB6", false},
+    {Nutrient::VitaminE, "VitaminE", "VitaminE", "VitaminE", "VitaminE", "mg", "Vit. E (mg)", "Vit. E (mg)", "Vit. E", "mg", "txtVitE", "lblVitaminE", false},
+    {Nutrient::VitaminA, "VitaminA", "VitaminA", "VitaminA", "VitaminA", "iu", "Via. A (iu)", "Via. A (iu)", "Vit. A", "iu", "txtVitA", "lblVitaminA", false},
+    {Nutrient::Thiamin, "Thiamin", "Thiamin", "Thiamin", "Thiamin", "mg", "Thiamin (mg)", "Thiamin (mg)", "Thiamin", "mg", "txtThiamin", "lblThiamin", false},
+    {Nutrient::Riboflavin, "Riboflavin", "Riboflavin", "Riboflavin", "Riboflavin", "mg", "Riboflavin (mg)", "Riboflavin (mg)", "Riboflavin", "mg", "txtRiboflavin", "lblRiboflavin", false},
+    {Nutrient::Potassium, "Potassium", "Potassium", nullptr, "Potassium", "mg", "Potassium (mg)", "Potassium (mg)", "Potassium", "mg", "txtPotassium", "lblPotassium", true},
+    {Nutrient::Phosphorus, "Phosphorus", "Phosphorus", "Phosphorus", "Phosphorus", "mg", "Phosphorus (mg)", "Phosphorus (mg)", "Phosphorus", "mg", "txtPhosphorus", "lblPhosphorus", true},
+    {Nutrient::Panto, "Panto", "Panto", "Panto", "Panto", "mg", "Panto. Adic (mg)", "Panto. Adic (mg)", "Panto. Acid", "mg", "txtPantoAcid", "lblPantoAcid", false},
+    {Nutrient::Niacin, "Niacin", "Niacin", "Niacin", "Niacin", "mg", "Niacin (mg)", "Niacin (mg)", "Niacin", "mg", "txtNiacin", "lblNiacin", false},
+    {Nutrient::Manganese, "Manganese", "Manganese", "Manganese", "Manganese", "mg", "Manganese (mg)", "Manganese (mg)", "Manganese", "mg", "txtManganese", "lblManganese", false},
+    {Nutrient::Magnesium, "Magnesium", "Magnesium", "Magnesium", "Magnesium", "mg", "Magnesium (mg)", "Magnesium (mg)", "Magnesium", "mg", "txtMagnesium", "lblMagnesium", true},
+    {Nutrient::Iron, "Iron", "Iron", "Iron", "Iron", "mg", "Iron (mg)", "Iron (mg)", "Iron", "mg", "txtIron", "lblIron", false},
+    {Nutrient::Folate, "Folate", "Folate", "Folate", "Folate", "mcg", "Folate (mcg)", "Folate (mcg)", "Folate", "mcg", "txtFolate", "lblFolate", true},
+    {Nutrient::Copper, "Copper", "Copper", "Copper", "Copper", "mg", "Copper (mg)", "Copper (mg)", "Copper", "mg", "txtCopper", "lblCopper", false},
+    {Nutrient::Calcium, "Calcium", "Calcium", "Calcium", "Calcium", "mg", "Calcium (mg)", "Calcium (mg)", "Calcium", "mg", "txtCalcium", "lblCalcium", true},
+    {Nutrient::Ash, "Ash", "ASH", "Ash", "Ash", "g", "Ash (g)", "Ash (g)", "Ash", "g", "txtAsh", "lblAsh", false},
+    {Nutrient::Protein, "Protein", "protein", nullptr, "Protein", "g", "Protein (g)", "Protein (g)", "Protein", "g", "txtProtein", "lblProtein", false},
+    {Nutrient::Fiber, "Fiber", "fiber", nullptr, "fiber", "g", "Dietary Fiber (g)", "Fiber (g)", "Fiber", "g", "txtFiber", "lblFiber", false},
+    {Nutrient::Carbs, "Carbs", "carbs", nullptr, "carbs", "g", "Total Carbohydrates (g)", "Carbohydrates (g)", "Carbohydrates", "g", "txtCarbs", "lblCarbs", false},
+    {Nutrient::Sodium, "Sodium", "sodium", nullptr, "Sodium", "mg", "Sodium (mg)", "Sodium (mg)", "Sodium", "mg", "txtSodium", "lblSodium", true},
+    {Nutrient::Cholesterol, "Cholesterol", "Cholesterol", "Cholesterol", "Cholesterol", "mg", "Cholesterol (mg)", "Cholesterol (mg)", "Cholesterol", "mg", "txtCholesterol", "lblCholesterol", true},
+    {Nutrient::MonoFat, "MonoFat", "MonoFat", nullptr, "MonoFat", "g", "Monounsaturated Fat (g)", "Monounsaturated Fat (g)", "Monounsaturated Fat", "g", "txtMonoFat", "lblMonoFat", false},
+    {Nutrient::PolyFat, "PolyFat", "PolyFat", nullptr, "PolyFat", "g", "Polyunsaturated Fat (g)", "Polyunsaturated Fat (g)", "Polyunsaturated Fat", "g", "txtPolyFat", "lblPolyFat", false},
+    {Nutrient::SatFat, "SatFat", "SatFat", nullptr, "SatFat", "g", "Saturated Fat (g)", "Saturated Fat (g)", "Saturated Fat", "g", "txtSatFat", "lblSatFat", false},
+    {Nutrient::TotalFat, "TotalFat", "TotalFat", nullptr, "TotalFat", "g", "Total Fat (g)", "Total Fat (g)", "Total Fat", "g", "txtTotalFat", "lblTotalFat", false},
+    {Nutrient::Calories, "Calories", "Calories", nullptr, "Calories", "kcal", "Calories", "Calories", "Calories", "kcal", "txtCals", "lblCalories", true},
 };
 // clang-format on
 static_assert(std::size(Table) == NutrientCount, "one row for each nutrient");
@@ -72,6 +72,13 @@ constexpr Nutrient Chart[] = {Calories,   TotalFat,   SatFat,    PolyFat,   Mono
                               Folate,     Iron,       Magnesium, Manganese, Niacin,   Phosphorus,
                               Potassium,  Riboflavin, Thiamin,   Selenium,  VitaminA, VitaminB6,
                               VitaminB12, VitaminC,   VitaminE,  Zinc};
+
+constexpr Nutrient Period[] = {
+    Calories,  TotalFat,  SatFat,     PolyFat,    MonoFat,   Cholesterol, Sodium,  Carbs,
+    Fiber,     Protein,   Ash,        Calcium,    Copper,    Folate,      Iron,    Magnesium,
+    Manganese, Niacin,    Panto,      Phosphorus, Potassium, Riboflavin,  Thiamin, Selenium,
+    VitaminA,  VitaminB6, VitaminB12, VitaminC,   VitaminE,  Water,       Zinc};
+static_assert(std::size(Period) == NutrientCount);
 
 /// The blanks after some of the commas belong to the statement.
 constexpr auto SumTemplate =
@@ -119,6 +126,10 @@ std::span<const Nutrient> ReferenceOrder() {
 }
 std::span<const Nutrient> ChartOrder() {
     return Chart;
+}
+
+std::span<const Nutrient> PeriodOrder() {
+    return Period;
 }
 
 QString NutrientSumSQL(const QString& table) {

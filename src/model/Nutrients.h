@@ -57,10 +57,11 @@ struct NutrientInfo {
     const char* unit;          ///< "g", "mg", "mcg", "iu", "kcal"
     const char* factsCaption;  ///< on the facts view and the Advanced page: "Total Fat (g)"
     const char* editCaption;   ///< on the Advanced page: "Carbohydrates (g)"
-    const char* chartCaption; ///< on the daily panel: "Total Fat"; null for the three it leaves out
-    const char* textField;    ///< field of the Advanced page: "txtCals"
-    const char* factsLabel;   ///< label of the facts view: "lblCalories"
-    bool whole;               ///< held as a 32-bit integer: rounded half to even on assignment
+    const char* chartCaption;  ///< on the daily panel and the bar chart of a period: "Total Fat"
+    const char* periodUnit;    ///< on the bar chart of a period
+    const char* textField;     ///< field of the Advanced page: "txtCals"
+    const char* factsLabel;    ///< label of the facts view: "lblCalories"
+    bool whole;                ///< held as a 32-bit integer: rounded half to even on assignment
 };
 
 std::span<const NutrientInfo, NutrientCount> Nutrients();
@@ -73,8 +74,9 @@ CanonicalOrder(); ///< 31: Ash, Calcium, ... Potassium; the profile screen's
 std::span<const Nutrient>
 ProfileOrder(); ///< 31: the order in which a profile row is read and written
 std::span<const Nutrient>
-ReferenceOrder();                       ///< 20: those that the table RDI holds, in reading order
-std::span<const Nutrient> ChartOrder(); ///< 28: rows of the daily panel and the period chart
+ReferenceOrder();                        ///< 20: those that the table RDI holds, in reading order
+std::span<const Nutrient> ChartOrder();  ///< 28: rows of the daily panel
+std::span<const Nutrient> PeriodOrder(); ///< 31: rows of the bar chart of a period
 
 /// "SELECT Sum(T.VitaminC) AS [VitaminC],..." up to the last alias, without the FROM clause.
 QString NutrientSumSQL(const QString& table);
