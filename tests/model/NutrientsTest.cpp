@@ -90,15 +90,29 @@ TEST(Nutrients, StandInTheOrderOfAProfileRow) {
                            "Calories"}));
 }
 
-TEST(Nutrients, ChartsLeaveThreeOut) {
+TEST(Nutrients, TheDailyPanelLeavesThreeOut) {
     const QStringList names = Names(ChartOrder());
     EXPECT_EQ(names.size(), 28);
     EXPECT_EQ(names.first(), QStringLiteral("Calories"));
     EXPECT_EQ(names.last(), QStringLiteral("Zinc"));
-    for (const NutrientInfo& info : Nutrients())
-        EXPECT_EQ(info.chartCaption != nullptr, names.contains(QString::fromLatin1(info.property)));
     for (const char* left : {"Ash", "Panto", "Water"})
         EXPECT_FALSE(names.contains(QString::fromLatin1(left)));
+}
+
+TEST(Nutrients, TheBarsOfAPeriodHaveAllInTheOrderOfTheDailyPanel) {
+    QStringList names = Names(PeriodOrder());
+    EXPECT_EQ(names.size(), 31);
+    EXPECT_EQ(names.indexOf(QStringLiteral("Ash")), 10);
+    EXPECT_EQ(names.indexOf(QStringLiteral("Panto")), 18);
+    EXPECT_EQ(names.indexOf(QStringLiteral("Water")), 29);
+    for (const char* own : {"Ash", "Panto", "Water"})
+        names.removeOne(QString::fromLatin1(own));
+    EXPECT_EQ(names, Names(ChartOrder()));
+}
+
+TEST(Nutrients, OnlyWaterHasAUnitOfItsOwnOnTheBarsOfAPeriod) {
+    for (const NutrientInfo& info : Nutrients())
+        EXPECT_STREQ(info.periodUnit, info.id == Nutrient::Water ? "gm" : info.unit);
 }
 
 TEST(Nutrients, ColumnsOfTheLogKeepTheirForm) {
