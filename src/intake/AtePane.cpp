@@ -155,7 +155,7 @@ void AtePane::FitWidths() {
 /// last one does.
 void AtePane::KeepFocus() {
     auto* trash = qobject_cast<ucButtonA*>(QApplication::focusWidget());
-    if (!trash || rows_.indexOf(static_cast<ucAte*>(trash->parentWidget())) <= used_)
+    if (!trash || rows_.indexOf(qobject_cast<ucAte*>(trash->parentWidget())) <= used_)
         return;
     QWidget* next = used_ > 0 ? rows_[used_]->imgTrash() : chain_.value(0);
     if (next)
