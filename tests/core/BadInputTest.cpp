@@ -1,4 +1,5 @@
 #include "core/CoreTest.h"
+#include "support/Unwinding.h"
 
 #include "core/Flow.h"
 #include "core/Navigation.h"
@@ -135,6 +136,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST_P(FailingFirstProfile, SaysWhyEndsTheProcessAndTheNextStartBeginsAfresh) {
     const auto& [name, field, text, number] = GetParam();
+    const Unwinding leavesEvents;
     Start();
     ExpectAlert(QStringLiteral("You must create a user profile to use Halvane. Are you sure you "
                                "wish to quit without creating your profile?"));
