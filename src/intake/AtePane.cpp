@@ -165,7 +165,7 @@ void AtePane::KeepFocus() {
 void AtePane::ChainFocus() {
     if (chain_ == lastChain_)
         return;
-    QWidget* before = picResultsPane();
+    QWidget* before = rows_.first()->imgTrash(); // never visited, but it marks the place
     for (QWidget* stop : std::as_const(chain_)) {
         setTabOrder(before, stop);
         before = stop;
