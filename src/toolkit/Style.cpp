@@ -34,6 +34,7 @@ void SetFonts(Style& style) {
     style.cardTitle = FontAt(15, QFont::DemiBold);
     style.control = FontAt(10, QFont::Medium);
     style.title = FontAt(10, QFont::DemiBold);
+    style.reading = FontAt(10, QFont::Normal);
     style.raised = FontAt(14, QFont::DemiBold);
 }
 
@@ -54,6 +55,8 @@ void SetGrounds(Style& style) {
     style.chosenDay = {QColor(255, 241, 214), QColor(251, 220, 166)};
     style.scrollSlot = QColor(244, 237, 224);
     style.fieldEdge = QColor(168, 126, 66);
+    style.cardLine = QColor(214, 98, 88);
+    style.cardRuling = QColor(247, 239, 222);
     style.factsRule = QColor(200, 200, 200);
 }
 

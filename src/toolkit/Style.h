@@ -54,7 +54,9 @@ struct Style {
     QColor pieFat, pieProtein, pieCarbs;
     QColor barNormal[8], barHover[8]; ///< rows of the bar pictures, top to bottom
 
-    QColor factsRule; ///< thin lines of the nutrition facts
+    QColor cardLine;   ///< the line below a recipe's name
+    QColor cardRuling; ///< the faint lines of the card
+    QColor factsRule;  ///< thin lines of the nutrition facts
 
     // Measures, in pixels.
     int boxGap = 8, nestEdge = 14, groupGap = 4, rowHeight = 26, tallRowHeight = 39,
@@ -69,6 +71,7 @@ struct Style {
     QFont cardTitle;   ///< 15 points semi-bold
     QFont control;     ///< 10 points medium, captions of buttons
     QFont title;       ///< 10 points semi-bold, title bars, headers and strips
+    QFont reading;     ///< 10 points, instructions to cook from
     QFont raised;      ///< 14 points semi-bold, ucTextRaised
 };
 

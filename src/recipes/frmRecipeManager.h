@@ -1,0 +1,80 @@
+#pragma once
+
+#include "toolkit/Screen.h"
+
+#include <initializer_list>
+
+class ListBox;
+class RecipeCard;
+class ScaledFood;
+class ucBox;
+class ucButton;
+
+/// The screen "Recipe Manager": the recipes in a list, and the card of the one that is current. It
+/// is empty, shows a recipe, or edits one. An edit ends by saving; leaving the screen writes
+/// nothing. Importing and sending are done by whoever is connected to ImportAsked and SendAsked;
+/// while nobody is, the two buttons are disabled and say so.
+class frmRecipeManager : public Screen {
+    Q_OBJECT
+    Q_PROPERTY(qint32 CurrentRecipe READ CurrentRecipe)
+
+public:
+    explicit frmRecipeManager(QWidget* parent = nullptr);
+
+    qint32 CurrentRecipe() const { return current_; } ///< -1 for none
+    void DoWinInit() override; ///< lists the recipes, unless one is being edited
+    void AllOff(const QString& except) override;
+
+    void ListRecipes(); ///< anew, and shows the one at the place chosen before
+    void ShowRecipe(qint32 recipeID);
+    void EditRecipe(qint32 recipeID);
+    bool SaveRecipe(); ///< True where it was written; else a message has said why not
+    void AddRecipe();
+    void AddFood(const ScaledFood& item); ///< to the ingredients of the current recipe
+
+Q_SIGNALS:
+    void ImportAsked(); ///< the recipes are listed anew when it has been dealt with
+    void SendAsked(qint32 RecipeID);
+
+protected:
+    void resizeEvent(QResizeEvent*) override;
+
+private:
+    void AddList();
+    void AddCard();
+    void AddButtons();
+    ucButton* AddButton(const char* name, const char* caption, const char* tip,
+                        void (frmRecipeManager::*onClick)());
+    void PlaceBoxes();
+    void PlaceButtons();
+
+    void cmdNew_Click();
+    void cmdEdit_Click();
+    void cmdDelete_Click();
+    void cmdSend_Click();
+    void cmdImport_Click();
+    void cmdIngreds_Click();
+    void cmdDone_Click();
+    void lsRecipes_Click();
+
+    void FillList();
+    void ReadTexts(qint32 recipeID);
+    bool IsEditing() const;
+    void SetEditCaption(QLatin1String caption);
+    void EndEdit();
+    void Allow(ucButton* button, bool allowed);
+    void AllowAll(std::initializer_list<ucButton*> buttons, bool allowed);
+    bool IsServed(const ucButton* button) const;
+    void Explain(ucButton* button, const char* absence); ///< why nobody serves it
+
+    ucBox* ucBox1_;
+    ListBox* lsRecipes_;
+    RecipeCard* card_;
+    ucButton* cmdImport_;
+    ucButton* cmdNew_;
+    ucButton* cmdEdit_;
+    ucButton* cmdDelete_;
+    ucButton* cmdSend_;
+    ucButton* cmdDone_;
+    qint32 current_ = -1;
+};
