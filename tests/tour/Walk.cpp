@@ -1,5 +1,6 @@
 #include "tour/Walk.h"
 
+#include "tour/CustomFoodWalk.h"
 #include "tour/Guide.h"
 
 #include "core/Application.h"
@@ -64,6 +65,7 @@ void Walk::Go() {
     ChangeDay();
     EditProfile();
     Preferences();
+    CustomFoodWalk(guide_).Go();
     Quit();
     guide_.Check(guide_.AllForeseenCame(), QStringLiteral("every foreseen window came"));
 }
@@ -330,6 +332,7 @@ void Walk::GoAgain() {
                  QStringLiteral("the profile is there"));
     guide_.CheckValue(UserDB(), QStringLiteral("SELECT count(*) FROM USER_FOODS"),
                       int(std::size(Meals)) - 1);
+    guide_.CheckValue(FoodDB(), QStringLiteral("SELECT count(*) FROM FOODS WHERE ID > 23508"), 1);
     guide_.Check(guide_.Find<QLineEdit>(Day(), QStringLiteral("txtWeight"))->text() ==
                      QStringLiteral("198.5"),
                  QStringLiteral("the weight is there"));

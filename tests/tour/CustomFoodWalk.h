@@ -1,0 +1,27 @@
+#pragma once
+
+class Guide;
+class QWidget;
+
+/// A person keeps foods of their own: makes two, corrects one, deletes the other, and eats the one
+/// that is left.
+class CustomFoodWalk {
+public:
+    explicit CustomFoodWalk(Guide& guide);
+    void Go();
+
+private:
+    void OpenScreen();
+    void MakeFood();
+    void BeRefused();
+    void CorrectFood();
+    void MakeLongFood();
+    void DeleteLongFood();
+    void EatFood();
+    void SearchAndEat(QWidget* search);
+    void TakeItBack();
+    QWidget* Screen();
+    QWidget* Frame();
+
+    Guide& guide_;
+};
