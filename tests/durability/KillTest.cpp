@@ -5,6 +5,7 @@
 #include "store/Connection.h"
 
 #include <QFile>
+#include <QHash>
 #include <QProcess>
 #include <QRandomGenerator>
 #include <QSet>
@@ -15,8 +16,7 @@ constexpr int Kills = 200;
 constexpr unsigned Seed = 20261121;
 
 struct Acknowledged {
-    QSet<int> foods;
-    QSet<int> weights;
+    QHash<QByteArray, QSet<int>> numbers; ///< by kind
     int next = 1;
 };
 
@@ -25,7 +25,7 @@ void TakeDown(const QByteArray& output, Acknowledged& acknowledged) {
         const QList<QByteArray> words = line.split(' ');
         if (words.size() != 2)
             continue;
-        (words[0] == "food" ? acknowledged.foods : acknowledged.weights).insert(words[1].toInt());
+        acknowledged.numbers[words[0]].insert(words[1].toInt());
         acknowledged.next = std::max(acknowledged.next, words[1].toInt() + 1);
     }
 }
@@ -49,9 +49,9 @@ protected:
         acknowledged.next += 1;
     }
 
-    QSet<int> Numbers(const QString& sql) {
+    QSet<int> Numbers(Connection& connection, const QString& sql) {
         QSet<int> found;
-        for (const QVariantList& row : Rows(UserDB(), sql))
+        for (const QVariantList& row : Rows(connection, sql))
             found.insert(row.first().toInt());
         return found;
     }
@@ -59,7 +59,7 @@ protected:
     QRandomGenerator random_{Seed};
 };
 
-TEST_F(KillTest, EveryAcknowledgedFoodAndWeightSurvivesTwoHundredKills) {
+TEST_F(KillTest, WhatWasAcknowledgedSurvivesTwoHundredKillsAndNothingIsHalfWritten) {
     OpenDatabases();
     AddUser();
     CloseDatabases();
@@ -71,10 +71,18 @@ TEST_F(KillTest, EveryAcknowledgedFoodAndWeightSurvivesTwoHundredKills) {
     FoodDB().Open(FileBeside(QStringLiteral("foods.mdb")), DatabaseKind::Foods);
     EXPECT_EQ(Users(QStringLiteral("PRAGMA integrity_check")).toString(), QStringLiteral("ok"));
     EXPECT_EQ(Foods(QStringLiteral("PRAGMA integrity_check")).toString(), QStringLiteral("ok"));
-    EXPECT_GE(acknowledged.foods.size(), Kills);
-    EXPECT_TRUE(Numbers(QStringLiteral("SELECT QTY FROM USER_FOODS")).contains(acknowledged.foods));
-    EXPECT_TRUE(
-        Numbers(QStringLiteral("SELECT Weight FROM USER_WEIGHTS")).contains(acknowledged.weights));
+    EXPECT_GE(acknowledged.numbers["food"].size(), Kills);
+    EXPECT_GT(acknowledged.numbers["custom"].size(), 0);
+    EXPECT_TRUE(Numbers(UserDB(), QStringLiteral("SELECT QTY FROM USER_FOODS"))
+                    .contains(acknowledged.numbers["food"]));
+    EXPECT_TRUE(Numbers(UserDB(), QStringLiteral("SELECT Weight FROM USER_WEIGHTS"))
+                    .contains(acknowledged.numbers["weight"]));
+    EXPECT_TRUE(Numbers(FoodDB(), QStringLiteral("SELECT Calories FROM FOODS WHERE ID > 23508"))
+                    .contains(acknowledged.numbers["custom"]));
+    EXPECT_EQ(Foods(QStringLiteral("SELECT count(*) FROM FOODS WHERE ID > 23508 AND "
+                                   "(Serv_GM_WT_A IS NOT 100 OR FoodName IS NOT "
+                                   "CAST(CAST(Calories AS INTEGER) AS TEXT))")),
+              0);
     EXPECT_EQ(Users(QStringLiteral(
                   "SELECT count(*) FROM USER_FOODS WHERE FoodName IS NULL OR UDate IS NULL "
                   "OR QTY IS NULL OR Calories IS NULL")),

@@ -1,4 +1,5 @@
 #include "foods/ScaledFood.h"
+#include "foods/frmFoodList.h"
 #include "intake/frmDay.h"
 #include "intake/ucMyFood.h"
 #include "model/User.h"
@@ -6,6 +7,7 @@
 #include "runtime/AppState.h"
 #include "store/Connection.h"
 #include "store/Recordset.h"
+#include "toolkit/ucButton.h"
 
 #include <QApplication>
 #include <QLineEdit>
@@ -13,9 +15,9 @@
 
 #include <cstdio>
 
-/// log_worker FOLDER FIRST: logs foods and weights through the day screen until it is killed,
-/// numbering them from FIRST on. Each number is acknowledged on standard output once the screen has
-/// returned from saving it.
+/// log_worker FOLDER FIRST: logs foods and weights through the day screen and makes custom foods on
+/// theirs until it is killed, numbering all from FIRST on. Each number is acknowledged on standard
+/// output once the screen has returned from saving it.
 
 namespace {
 void Acknowledge(const char* kind, int number) {
@@ -50,6 +52,14 @@ void LogWeight(frmDay& day, int number) {
     weight->clearFocus();
     Acknowledge("weight", number);
 }
+/// The number is the name and the calories.
+void MakeCustomFood(frmFoodList& foods, int number) {
+    foods.NewFood();
+    for (const char* field : {"txtFoodName", "txtCals"})
+        foods.findChild<QLineEdit*>(QString::fromLatin1(field))->setText(QString::number(number));
+    foods.findChild<ucButton*>(QStringLiteral("cmdSave"))->Activate();
+    Acknowledge("custom", number);
+}
 } // namespace
 
 int main(int argc, char** argv) {
@@ -63,8 +73,10 @@ int main(int argc, char** argv) {
     day.show();
     day.DoWinInit();
     QApplication::setActiveWindow(&day);
+    frmFoodList foods;
     for (int number = QByteArray(argv[2]).toInt();; ++number) {
         LogFood(day, number);
         LogWeight(day, number);
+        MakeCustomFood(foods, number);
     }
 }
