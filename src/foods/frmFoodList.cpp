@@ -40,37 +40,37 @@ int PlaceInRow(std::initializer_list<ucButton*> buttons, QPoint place) {
 
 frmFoodList::frmFoodList(QWidget* parent)
     : Screen(QStringLiteral("frmFoodList"), QStringLiteral("Custom Foods"), parent) {
-    MakeList();
-    MakeFields();
-    MakeButtons();
+    AddList();
+    AddFields();
+    AddButtons();
     ListFoods();
 }
 
-void frmFoodList::MakeList() {
+void frmFoodList::AddList() {
     foodList_ = new ListBox;
     foodList_->setObjectName(QStringLiteral("FoodList"));
-    ucBox1_ = MakeBox("ucBox1", "My Custom Foods", foodList_);
+    ucBox1_ = AddBox("ucBox1", "My Custom Foods", foodList_);
     foodList_->setAccessibleName(ucBox1_->Caption());
     connect(foodList_, &ListBox::Click, this, &frmFoodList::FoodList_Click);
     connect(foodList_, &ListBox::MouseMove, this, [this] { AllOff(QString()); });
-    cmdNewBut_ = MakeButton("cmdNewBut", "New", &frmFoodList::NewFood);
-    cmdDelete_ = MakeButton("cmdDelete", "Delete", &frmFoodList::cmdDelete_Click);
+    cmdNewBut_ = AddButton("cmdNewBut", "New", &frmFoodList::NewFood);
+    cmdDelete_ = AddButton("cmdDelete", "Delete", &frmFoodList::cmdDelete_Click);
 }
 
-void frmFoodList::MakeFields() {
+void frmFoodList::AddFields() {
     fields_ = new CustomFoodFields;
-    ucBox2_ = MakeBox("ucBox2", "Food Information", fields_);
+    ucBox2_ = AddBox("ucBox2", "Food Information", fields_);
     connect(fields_, &CustomFoodFields::Changed, this, &frmFoodList::doChange);
 }
 
-void frmFoodList::MakeButtons() {
-    cmdSave_ = MakeButton("cmdSave", "Save", &frmFoodList::cmdSave_Click);
+void frmFoodList::AddButtons() {
+    cmdSave_ = AddButton("cmdSave", "Save", &frmFoodList::cmdSave_Click);
     cmdSave_->SetMainAction(true);
-    cmdCancel_ = MakeButton("cmdCancel", "Cancel", &frmFoodList::cmdCancel_Click);
-    cmdDone_ = MakeButton("cmdDone", "Done", &frmFoodList::cmdDone_Click);
+    cmdCancel_ = AddButton("cmdCancel", "Cancel", &frmFoodList::cmdCancel_Click);
+    cmdDone_ = AddButton("cmdDone", "Done", &frmFoodList::cmdDone_Click);
 }
 
-ucBox* frmFoodList::MakeBox(const char* name, const char* caption, QWidget* contents) {
+ucBox* frmFoodList::AddBox(const char* name, const char* caption, QWidget* contents) {
     auto* box = new ucBox(QString::fromLatin1(caption), this);
     box->setObjectName(QString::fromLatin1(name));
     contents->setParent(box);
@@ -78,15 +78,6 @@ ucBox* frmFoodList::MakeBox(const char* name, const char* caption, QWidget* cont
             [box, contents] { contents->setGeometry(box->Inner()); });
     connect(box, &ucBox::MouseMove, this, [this] { AllOff(QString()); });
     return box;
-}
-
-ucButton* frmFoodList::MakeButton(const char* name, const char* caption,
-                                  void (frmFoodList::*pressed)()) {
-    auto* button = new ucButton(QString::fromLatin1(caption), this);
-    button->setObjectName(QString::fromLatin1(name));
-    connect(button, &ucButton::Click, this, pressed);
-    connect(button, &ucButton::MouseMove, this, [this, button] { AllOff(button->objectName()); });
-    return button;
 }
 
 void frmFoodList::resizeEvent(QResizeEvent*) {
@@ -109,12 +100,6 @@ void frmFoodList::PlaceButtons() {
     PlaceInRow({cmdNewBut_, cmdDelete_}, {style.nestEdge, top});
     PlaceInRow({cmdSave_, cmdCancel_}, {ucBox2_->x(), top});
     cmdDone_->move(width() - style.nestEdge - cmdDone_->width(), top);
-}
-
-void frmFoodList::AllOff(const QString& except) {
-    for (ucButton* button : {cmdDelete_, cmdCancel_, cmdSave_, cmdNewBut_, cmdDone_})
-        if (button->objectName().compare(except, Qt::CaseInsensitive) != 0)
-            button->Reset();
 }
 
 void frmFoodList::ListFoods() {

@@ -26,7 +26,6 @@ public:
     void doChange();
     void SaveFood(qint32 id);
     void LoadFood(qint32 id);
-    void AllOff(const QString& except) override;
 
     int Mode() const { return mode_; }
     bool Editing() const { return editing_; }
@@ -36,11 +35,10 @@ protected:
     void resizeEvent(QResizeEvent*) override;
 
 private:
-    void MakeList();
-    void MakeFields();
-    void MakeButtons();
-    ucButton* MakeButton(const char* name, const char* caption, void (frmFoodList::*pressed)());
-    ucBox* MakeBox(const char* name, const char* caption, QWidget* contents);
+    void AddList();
+    void AddFields();
+    void AddButtons();
+    ucBox* AddBox(const char* name, const char* caption, QWidget* contents);
     void PlaceBoxes();
     void PlaceButtons();
     void FillList();

@@ -113,22 +113,11 @@ void frmDay::AddPanel() {
 }
 
 void frmDay::AddButtons() {
-    cmdAddFoods_ =
-        AddButton(QStringLiteral("cmdAddFoods"), QStringLiteral("Eat foods"), &frmDay::EatFoods);
+    cmdAddFoods_ = AddButton("cmdAddFoods", "Eat foods", &frmDay::EatFoods);
     cmdAddFoods_->SetMainAction(true);
-    cmdClear_ =
-        AddButton(QStringLiteral("cmdClear"), QStringLiteral("Clear foods"), &frmDay::ClearFoods);
-    cmdDone_ = AddButton(QStringLiteral("cmdDone"), QStringLiteral("Done"), &frmDay::GoHome);
+    cmdClear_ = AddButton("cmdClear", "Clear foods", &frmDay::ClearFoods);
+    cmdDone_ = AddButton("cmdDone", "Done", &frmDay::GoHome);
     OfferHome();
-}
-
-ucButton* frmDay::AddButton(const QString& name, const QString& caption,
-                            void (frmDay::*onClick)()) {
-    auto* button = new ucButton(caption, this);
-    button->setObjectName(name);
-    connect(button, &ucButton::Click, this, onClick);
-    connect(button, &ucButton::MouseMove, this, [this, name] { AllOff(name); });
-    return button;
 }
 
 void frmDay::AddCalendar() {
@@ -306,9 +295,7 @@ void frmDay::AllOff(const QString& except) {
     };
     if (!named(cmdCal_))
         cmdCal_->Reset();
-    for (ucButton* button : {cmdAddFoods_, cmdClear_, cmdDone_})
-        if (!named(button))
-            button->Reset();
+    Screen::AllOff(except);
     daily_->Unhilite();
     daily_->AllOff(QString());
     if (!named(myFood_))

@@ -38,7 +38,6 @@ private:
     void AddFoodBox();
     void AddPanel();
     void AddButtons();
-    ucButton* AddButton(const QString& name, const QString& caption, void (frmDay::*onClick)());
     void AddCalendar();
 
     void PlaceDateLine();

@@ -44,7 +44,7 @@ frmProfile::frmProfile(QWidget* parent)
     title_->setObjectName(QStringLiteral("ucTitleFlat1"));
     title_->SetCaption(Title());
     MakePages();
-    MakeButtons();
+    AddButtons();
     LayOut();
     Cover(true);
 }
@@ -54,20 +54,11 @@ void frmProfile::MakePages() {
     targets_ = new ProfileTargets(this);
 }
 
-void frmProfile::MakeButtons() {
-    cmdAdvanced_ = MakeButton("cmdAdvanced", "Advanced", &frmProfile::cmdAdvanced_Click);
-    cmdSave_ = MakeButton("cmdSave", "Save Profile", &frmProfile::cmdSave_Click);
-    cmdCancel_ = MakeButton("cmdCancel", "Cancel", &frmProfile::cmdCancel_Click);
+void frmProfile::AddButtons() {
+    cmdAdvanced_ = AddButton("cmdAdvanced", "Advanced", &frmProfile::cmdAdvanced_Click);
+    cmdSave_ = AddButton("cmdSave", "Save Profile", &frmProfile::cmdSave_Click);
+    cmdCancel_ = AddButton("cmdCancel", "Cancel", &frmProfile::cmdCancel_Click);
     cmdSave_->SetMainAction(true);
-}
-
-ucButton* frmProfile::MakeButton(const char* name, const char* caption,
-                                 void (frmProfile::*pressed)()) {
-    auto* button = new ucButton(QString::fromLatin1(caption), this);
-    button->setObjectName(QString::fromLatin1(name));
-    connect(button, &ucButton::Click, this, pressed);
-    connect(button, &ucButton::MouseMove, this, [this, button] { AllOff(button->objectName()); });
-    return button;
 }
 
 void frmProfile::LayOut() {
@@ -136,12 +127,6 @@ void frmProfile::LoadUser(qint32 uid) {
 
 void frmProfile::DoWinInit() {
     basics_->FocusFirst();
-}
-
-void frmProfile::AllOff(const QString& except) {
-    for (ucButton* button : {cmdAdvanced_, cmdSave_, cmdCancel_})
-        if (button->objectName().compare(except, Qt::CaseInsensitive) != 0)
-            button->Reset();
 }
 
 void frmProfile::cmdAdvanced_Click() {

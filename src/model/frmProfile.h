@@ -29,7 +29,6 @@ public:
 
     QString Tag() const { return tag_; }
     void DoWinInit() override;
-    void AllOff(const QString& except) override;
 
 protected:
     void closeEvent(QCloseEvent*) override;
@@ -41,8 +40,7 @@ protected:
 
 private:
     void MakePages();
-    void MakeButtons();
-    ucButton* MakeButton(const char* name, const char* caption, void (frmProfile::*pressed)());
+    void AddButtons();
     void LayOut();
     void ShowModally();
     void LoadUser(qint32 uid);

@@ -2,7 +2,12 @@
 
 #include "toolkit/CleanUp.h"
 
+#include <QList>
 #include <QWidget>
+
+#include <functional>
+
+class ucButton;
 
 /// A screen of the nest. ShowScreen creates it by its registered name, lays it over the nest and
 /// calls DoWinInit each time it comes forward. Closing it destroys it; hiding keeps it. The upper
@@ -19,14 +24,22 @@ public:
     virtual void BeforeShow() {}
     /// Brings the contents up to date.
     virtual void DoWinInit() {}
-    /// Takes the hover look off all controls but the one named.
-    virtual void AllOff(const QString& except) { Q_UNUSED(except) }
+    /// Takes the hover look off all buttons but the one named, without regard to case.
+    virtual void AllOff(const QString& except);
 
 protected:
+    /// A button of this screen: a press calls `pressed`, the pointer over it puts the others out.
+    ucButton* AddButton(const char* name, const char* caption, std::function<void()> pressed);
+    template <class Derived>
+    ucButton* AddButton(const char* name, const char* caption, void (Derived::*pressed)()) {
+        return AddButton(name, caption,
+                         [this, pressed] { (static_cast<Derived*>(this)->*pressed)(); });
+    }
     void mouseMoveEvent(QMouseEvent*) override; ///< AllOff("") where the pointer has really moved
     void paintEvent(QPaintEvent*) override;     ///< canvas
 
 private:
     QString title_;
+    QList<ucButton*> buttons_;
     QPoint lastMouse_{-1, -1};
 };
