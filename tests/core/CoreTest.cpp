@@ -7,6 +7,7 @@
 #include "runtime/AppPath.h"
 #include "runtime/RuntimeError.h"
 #include "runtime/Seams.h"
+#include "support/Places.h"
 
 #include <QApplication>
 #include <QDir>
@@ -86,7 +87,7 @@ void CoreTest::RunDeferredDeletes() {
 
 void CoreTest::Deliver() {
     for (const char* name : {"users.mdb", "foods.mdb", "tips.txt", "agreement.txt"})
-        ASSERT_TRUE(QFile::copy(QStringLiteral(HALVANE_BUILD_DIR "/delivered/") + name,
+        ASSERT_TRUE(QFile::copy(Places::Build(QStringLiteral("/delivered/")) + name,
                                 FileBeside(QLatin1String(name))));
 }
 

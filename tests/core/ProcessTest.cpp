@@ -1,4 +1,5 @@
 #include "support/HalvaneTest.h"
+#include "support/Places.h"
 
 #include <QDir>
 #include <QDirIterator>
@@ -18,8 +19,8 @@ protected:
         HalvaneTest::SetUp();
         for (const char* name : {"users.mdb", "foods.mdb", "tips.txt", "agreement.txt"})
             ASSERT_TRUE(
-                QFile::copy(QStringLiteral(HALVANE_BUILD_DIR "/delivered/") + name, Path(name)));
-        ASSERT_TRUE(QFile::copy(QStringLiteral(HALVANE_BUILD_DIR "/src/halvane"), Path("halvane")));
+                QFile::copy(Places::Build(QStringLiteral("/delivered/")) + name, Path(name)));
+        ASSERT_TRUE(QFile::copy(Places::Build(QStringLiteral("/src/halvane")), Path("halvane")));
         QDir().mkpath(Path("run"));
         QFile::setPermissions(Path("run"), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
         QDir().mkpath(Path("config/Brindlewick"));

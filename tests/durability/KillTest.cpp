@@ -3,6 +3,7 @@
 #include "model/User.h"
 #include "runtime/AppPath.h"
 #include "store/Connection.h"
+#include "support/Places.h"
 
 #include <QFile>
 #include <QHash>
@@ -38,7 +39,7 @@ protected:
     void LogUntilKilled(Acknowledged& acknowledged) {
         QProcess worker;
         worker.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-        worker.start(QStringLiteral(HALVANE_BUILD_DIR "/tests/log_worker"),
+        worker.start(Places::Build(QStringLiteral("/tests/log_worker")),
                      {Folder(), QString::number(acknowledged.next)});
         ASSERT_TRUE(worker.waitForReadyRead(30000)) << "the next start did not log";
         worker.waitForFinished(random_.bounded(40));

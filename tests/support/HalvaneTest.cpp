@@ -8,6 +8,7 @@
 #include "runtime/Server.h"
 #include "store/Connection.h"
 #include "store/Schema.h"
+#include "support/Places.h"
 
 #include <QApplication>
 #include <QFile>
@@ -64,7 +65,7 @@ void HalvaneTest::ExpectAlert(const QString& message, bool answer) {
 
 void HalvaneTest::OpenDatabases() {
     for (const char* name : {"users.mdb", "foods.mdb"})
-        ASSERT_TRUE(QFile::copy(QStringLiteral(HALVANE_BUILD_DIR "/delivered/") + name,
+        ASSERT_TRUE(QFile::copy(Places::Build(QStringLiteral("/delivered/")) + name,
                                 Folder() + u'/' + name));
     UserDB().Open(FileBeside(QStringLiteral("users.mdb")), DatabaseKind::Users);
     FoodDB().Open(FileBeside(QStringLiteral("foods.mdb")), DatabaseKind::Foods);

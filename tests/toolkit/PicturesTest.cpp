@@ -1,5 +1,6 @@
 #include "toolkit/Pictures.h"
 #include "support/HalvaneTest.h"
+#include "support/Places.h"
 
 #include <QDir>
 #include <QPainter>
@@ -30,7 +31,7 @@ TEST_F(PicturesTest, EveryNamedPictureIsThere) {
 }
 
 TEST_F(PicturesTest, EveryPictureOfTheFolderIsCompiledInAndDraws) {
-    const QStringList files = QDir(QStringLiteral(HALVANE_SOURCE_DIR "/assets"))
+    const QStringList files = QDir(Places::Source(QStringLiteral("/assets")))
                                   .entryList({QStringLiteral("*.svg")}, QDir::Files);
     ASSERT_FALSE(files.isEmpty());
     for (const QString& file : files) {

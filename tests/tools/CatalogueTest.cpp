@@ -3,6 +3,7 @@
 #include "catalogue/CatalogueReport.h"
 #include "catalogue/FoodColumns.h"
 #include "runtime/RuntimeError.h"
+#include "support/Places.h"
 
 #include <QDir>
 #include <QFile>
@@ -53,7 +54,7 @@ protected:
 
 TEST(Catalogue, SampleOfTheReleaseGivesTheDeliveredRows) {
     const TsvTable sample = Catalogue::FromRelease(Release::Folder()).Table();
-    const TsvTable delivered = TsvTable::Read(QStringLiteral(HALVANE_SOURCE_DIR "/data/foods.tsv"));
+    const TsvTable delivered = TsvTable::Read(Places::Source(QStringLiteral("/data/foods.tsv")));
     ASSERT_EQ(sample.Columns(), delivered.Columns());
     QHash<QString, QStringList> rows;
     for (const QStringList& row : delivered.Rows())

@@ -2,6 +2,7 @@
 #include "common/TsvTable.h"
 #include "runtime/RuntimeError.h"
 #include "store/Connection.h"
+#include "support/Places.h"
 
 #include <QDir>
 #include <QFile>
@@ -14,10 +15,10 @@
 
 namespace {
 
-const QString DataFolder = QStringLiteral(HALVANE_SOURCE_DIR "/data");
+const QString DataFolder = Places::Source(QStringLiteral("/data"));
 
 QString Built(const char* name) {
-    return QStringLiteral(HALVANE_BUILD_DIR "/delivered/") + QLatin1String(name);
+    return Places::Build(QStringLiteral("/delivered/")) + QLatin1String(name);
 }
 
 QByteArray Bytes(const QString& path) {

@@ -1,5 +1,6 @@
 #include "Release.h"
 #include "common/TsvTable.h"
+#include "support/Places.h"
 
 #include <QFile>
 #include <QRegularExpression>
@@ -28,8 +29,7 @@ constexpr Source Unconverted[] = {
 };
 
 const TsvTable& Foods() {
-    static const TsvTable foods =
-        TsvTable::Read(QStringLiteral(HALVANE_SOURCE_DIR "/data/foods.tsv"));
+    static const TsvTable foods = TsvTable::Read(Places::Source(QStringLiteral("/data/foods.tsv")));
     return foods;
 }
 
@@ -232,7 +232,7 @@ TEST(Foods, UnknownValuesAreLeftEmpty) {
 }
 
 TEST(Foods, ReportTellsTheNullsOfEveryColumn) {
-    QFile report(QStringLiteral(HALVANE_SOURCE_DIR "/docs/catalogue-report.md"));
+    QFile report(Places::Source(QStringLiteral("/docs/catalogue-report.md")));
     ASSERT_TRUE(report.open(QIODevice::ReadOnly));
     const QString text = QString::fromUtf8(report.readAll());
     const QRegularExpression line(

@@ -1,3 +1,5 @@
+#include "support/Places.h"
+
 #include <QDir>
 #include <QFile>
 #include <QProcess>
@@ -12,10 +14,9 @@ namespace {
 class InstallTest : public ::testing::Test {
 protected:
     void Install() {
-        const int code =
-            QProcess::execute(QStringLiteral(HALVANE_CMAKE),
-                              {QStringLiteral("--install"), QStringLiteral(HALVANE_BUILD_DIR),
-                               QStringLiteral("--prefix"), folder_.path()});
+        const int code = QProcess::execute(QStringLiteral(HALVANE_CMAKE),
+                                           {QStringLiteral("--install"), Places::Build(QString()),
+                                            QStringLiteral("--prefix"), folder_.path()});
         ASSERT_EQ(code, 0);
     }
     QStringList Files() const { return QDir(folder_.path()).entryList(QDir::Files); }
@@ -34,7 +35,7 @@ protected:
 
 int RunTool(const char* tool, const QStringList& arguments) {
     QProcess process;
-    process.start(QStringLiteral(HALVANE_BUILD_DIR "/tools/") + QLatin1String(tool), arguments);
+    process.start(Places::Build(QStringLiteral("/tools/")) + QLatin1String(tool), arguments);
     process.waitForFinished();
     return process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
 }

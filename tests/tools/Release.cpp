@@ -1,9 +1,10 @@
 #include "Release.h"
+#include "support/Places.h"
 
 #include <QFile>
 
 QString Release::Folder() {
-    return QStringLiteral(HALVANE_SOURCE_DIR "/tests/tools/release");
+    return Places::Source(QStringLiteral("/tests/tools/release"));
 }
 
 QHash<QString, QList<QStringList>> Release::Read(const QString& name) {

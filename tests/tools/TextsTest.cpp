@@ -1,3 +1,5 @@
+#include "support/Places.h"
+
 #include <QFile>
 #include <QSet>
 #include <QStringList>
@@ -7,7 +9,7 @@
 namespace {
 
 QByteArray Bytes(const char* name) {
-    QFile file(QStringLiteral(HALVANE_SOURCE_DIR "/data/") + QLatin1String(name));
+    QFile file(Places::Source(QStringLiteral("/data/")) + QLatin1String(name));
     EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << name;
     return file.readAll();
 }
