@@ -8,7 +8,7 @@ source tools/setup.sh
 program=dist/halvane/halvane
 
 build() {
-    cmake --preset release -DHALVANE_BENCH=OFF
+    cmake --preset release -DHALVANE_BENCH=OFF -DHALVANE_EXCHANGE=OFF
     cmake --build --preset release
     cmake --install build/release --prefix "$PWD/dist/halvane"
 }

@@ -4,7 +4,7 @@ set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")"
 source tools/setup.sh
 
-install_packages build test
+install_packages build exchange test
 cmake --preset dev
 cmake --build --preset dev
 export QT_QPA_PLATFORM=offscreen

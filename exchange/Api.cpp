@@ -1,0 +1,100 @@
+#include "exchange/Api.h"
+
+#include "exchange/Json.h"
+#include "exchange/RecipeReader.h"
+#include "exchange/Refusal.h"
+
+namespace exchange {
+namespace {
+constexpr const char* JsonType = "application/json";
+
+/// The token of an `Authorization: Bearer` header; empty if there is none.
+std::string Token(const httplib::Request& request) {
+    constexpr std::string_view scheme = "Bearer ";
+    const auto value = request.get_header_value("Authorization");
+    return value.starts_with(scheme) ? value.substr(scheme.size()) : std::string();
+}
+
+[[noreturn]] void Refuse(RecipeStore::Added why) {
+    switch (why) {
+    case RecipeStore::Added::AlreadySent:
+        throw Refusal(409, "The recipe has been sent and takes no more ingredients.");
+    case RecipeStore::Added::TooMany:
+        throw Refusal(413, "The recipe would have too many ingredients.");
+    default:
+        throw Refusal(403, "The token is not that of this recipe.");
+    }
+}
+} // namespace
+
+void Api::AddTo(Router& router) {
+    router.Add("POST", "/halvane/api/recipes",
+               [this](const Ask& ask, auto& response) { Create(ask, response); });
+    router.Add("GET", "/halvane/api/recipes/{id}", [this](const Ask& ask, auto& response) {
+        Read(ask, response, RecipeStore::Part::Recipe);
+    });
+    router.Add("GET", "/halvane/api/recipes/{id}/ingredients",
+               [this](const Ask& ask, auto& response) {
+                   Read(ask, response, RecipeStore::Part::Ingredients);
+               });
+    router.Add("POST", "/halvane/api/recipes/{id}/ingredients",
+               [this](const Ask& ask, auto& response) { AddIngredients(ask, response); });
+}
+
+void Api::Create(const Ask& ask, httplib::Response& response) const {
+    const auto recipe = RecipeReader::ReadRecipe(ask.request.body);
+    const auto& config = service_.config;
+    RecipeStore::Created created{};
+    bool allowed = false;
+    {
+        const Pool::Lease lease(service_.pool);
+        allowed =
+            Limits::Count(*lease, service_.limits.Daily("recipe", ask.visitor),
+                          config.recipes_per_client_day) &&
+            Limits::Count(*lease, service_.limits.Daily("recipes", ""), config.recipes_per_day);
+        if (allowed)
+            created = RecipeStore(*lease).Create(recipe);
+    }
+    if (!allowed)
+        throw Refusal(429, "Too many recipes have been sent today. Please try again tomorrow.");
+    response.status = 201;
+    response.set_content("{\"RecipeID\":" + std::to_string(created.id) + ",\"token\":\"" +
+                             created.token + "\"}",
+                         JsonType);
+}
+
+void Api::AddIngredients(const Ask& ask, httplib::Response& response) const {
+    const auto token = Token(ask.request);
+    if (token.empty())
+        Refuse(RecipeStore::Added::WrongToken);
+    const int most = service_.config.ingredients_per_recipe;
+    const auto rows = RecipeReader::ReadIngredients(ask.request.body, most);
+    auto added = RecipeStore::Added::Done;
+    {
+        const Pool::Lease lease(service_.pool);
+        added = RecipeStore(*lease).Add(*ask.id, token, rows, most);
+    }
+    if (added != RecipeStore::Added::Done)
+        Refuse(added);
+    response.status = 201;
+    response.set_content("{\"added\":" + std::to_string(rows.size()) + "}", JsonType);
+}
+
+void Api::Read(const Ask& ask, httplib::Response& response, RecipeStore::Part part) const {
+    const auto misses = service_.limits.Hourly("miss", ask.visitor);
+    const int most = service_.config.misses_per_client_hour;
+    RecipeStore::Document document;
+    {
+        const Pool::Lease lease(service_.pool);
+        document = RecipeStore(*lease).Read(*ask.id, part, misses);
+        if (!document.text && document.hits < most)
+            Limits::Count(*lease, misses, most);
+    }
+    if (document.hits >= most)
+        throw Refusal(429, "Too many recipe IDs that do not exist. Please try again later.");
+    if (!document.text)
+        throw Refusal(404, "There is no recipe with this ID.");
+    response.set_content(*document.text, JsonType);
+}
+
+} // namespace exchange

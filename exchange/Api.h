@@ -1,0 +1,24 @@
+#pragma once
+
+#include "exchange/RecipeStore.h"
+#include "exchange/Router.h"
+#include "exchange/Service.h"
+
+namespace exchange {
+
+/// The addresses below /halvane/api/ that the program itself uses; JSON in and out.
+class Api {
+public:
+    explicit Api(const Service& service)
+        : service_(service) {}
+    void AddTo(Router& router);
+
+private:
+    void Create(const Ask& ask, httplib::Response& response) const;
+    void AddIngredients(const Ask& ask, httplib::Response& response) const;
+    void Read(const Ask& ask, httplib::Response& response, RecipeStore::Part part) const;
+
+    const Service& service_;
+};
+
+} // namespace exchange

@@ -1,0 +1,57 @@
+#include "exchange/Connection.h"
+
+#include <soci/postgresql/soci-postgresql.h>
+#include <soci/sqlite3/soci-sqlite3.h>
+
+namespace exchange {
+namespace {
+constexpr std::string_view ServerPrefix = "postgresql:";
+
+bool IsEmbedded(std::string_view database) {
+    return !database.starts_with(ServerPrefix);
+}
+
+soci::connection_parameters Parameters(const std::string& database) {
+    if (IsEmbedded(database))
+        return {soci::sqlite3, "db=\"" + database + "\" timeout=20 shared_cache=false"};
+    if (database.starts_with("postgresql://"))
+        return {soci::postgresql, database};
+    return {soci::postgresql, database.substr(ServerPrefix.size())};
+}
+
+std::mutex& Turn() {
+    static std::mutex turn;
+    return turn;
+}
+} // namespace
+
+Connection::Connection(const std::string& database)
+    : embedded_(IsEmbedded(database))
+    , session_(Parameters(database)) {
+    Tune();
+}
+
+/// What is acknowledged is on the disk: the log is written through at each commit.
+void Connection::Tune() {
+    if (!embedded_)
+        return;
+    for (const auto* pragma : {"PRAGMA journal_mode=WAL", "PRAGMA synchronous=FULL",
+                               "PRAGMA foreign_keys=ON", "PRAGMA cache_size=-16384"})
+        session_.once << pragma;
+}
+
+soci::statement& Connection::Prepared(std::string_view sql) {
+    const auto known = statements_.find(sql);
+    if (known != statements_.end())
+        return *known->second;
+    auto statement = std::make_unique<soci::statement>(session_);
+    statement->alloc();
+    statement->prepare(std::string(sql));
+    return *statements_.emplace(sql, std::move(statement)).first->second;
+}
+
+Transaction::Transaction(Connection& connection)
+    : turn_(connection.embedded_ ? std::unique_lock(Turn()) : std::unique_lock<std::mutex>())
+    , transaction_(connection.session_) {}
+
+} // namespace exchange

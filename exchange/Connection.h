@@ -1,0 +1,82 @@
+#pragma once
+
+#include <soci/soci.h>
+
+#include <map>
+#include <memory>
+#include <mutex>
+#include <string>
+#include <string_view>
+
+namespace exchange {
+
+/// One connection to the database, for one thread at a time. A statement is prepared at its first
+/// use and kept. The statements are the same on SQLite and PostgreSQL; what differs between the two
+/// ends in this class. After an exception the connection must not be used again.
+class Connection {
+public:
+    /// `database` is what the setting of that name holds: the path of an SQLite file, or an address
+    /// that begins with postgresql:// or postgresql:.
+    explicit Connection(const std::string& database);
+
+    /// Runs a statement of at most one row; the rest are soci::use and soci::into of variables.
+    /// Tells whether there is a row, which has been read into the variables.
+    template <class... Exchanges> bool First(std::string_view sql, const Exchanges&... exchanges) {
+        auto& statement = Bound(sql, exchanges...);
+        const bool found = statement.execute(true);
+        if (found)
+            statement.fetch(); // behind the last row a statement holds nothing any more
+        return found;
+    }
+
+    /// Runs a statement and calls back for each row, which has been read into the variables.
+    template <class Row, class... Exchanges>
+    void Each(std::string_view sql, const Row& row, const Exchanges&... exchanges) {
+        auto& statement = Bound(sql, exchanges...);
+        for (bool more = statement.execute(true); more; more = statement.fetch())
+            row();
+    }
+
+    /// Runs a statement and tells how many rows it changed.
+    template <class... Exchanges> long long Change(std::string_view sql, const Exchanges&... uses) {
+        auto& statement = Bound(sql, uses...);
+        statement.execute(true);
+        return statement.get_affected_rows();
+    }
+
+    /// One statement that is not kept.
+    void Once(const std::string& sql) { session_.once << sql; }
+
+private:
+    friend class Transaction;
+    void Tune();
+    soci::statement& Prepared(std::string_view sql);
+
+    template <class... Exchanges>
+    soci::statement& Bound(std::string_view sql, const Exchanges&... exchanges) {
+        auto& statement = Prepared(sql);
+        statement.bind_clean_up();
+        (statement.exchange(exchanges), ...);
+        statement.define_and_bind();
+        return statement;
+    }
+
+    bool embedded_;
+    soci::session session_;
+    std::map<std::string, std::unique_ptr<soci::statement>, std::less<>> statements_;
+};
+
+/// All or nothing: rolled back unless committed. Begins with a statement that writes, so that two
+/// of them never wait for each other. In the embedded database the writers of a process queue here
+/// and not at the file.
+class Transaction {
+public:
+    explicit Transaction(Connection& connection);
+    void Commit() { transaction_.commit(); }
+
+private:
+    std::unique_lock<std::mutex> turn_;
+    soci::transaction transaction_;
+};
+
+} // namespace exchange

@@ -1,0 +1,97 @@
+#include "exchange/Engine.h"
+
+#include "exchange/Json.h"
+
+#include <cstring>
+
+namespace exchange {
+namespace {
+class Memory : public httplib::Stream {
+public:
+    Memory(std::string_view input, const std::string& client)
+        : input_(input)
+        , client_(client) {}
+
+    std::string TakeOutput() { return std::move(output_); }
+
+    bool is_readable() const override { return !input_.empty(); }
+    bool is_writable() const override { return true; }
+    ssize_t read(char* to, size_t size) override {
+        const auto count = std::min(size, input_.size());
+        std::memcpy(to, input_.data(), count);
+        input_.remove_prefix(count);
+        return static_cast<ssize_t>(count);
+    }
+    ssize_t write(const char* from, size_t size) override {
+        output_.append(from, size);
+        return static_cast<ssize_t>(size);
+    }
+    void get_remote_ip_and_port(std::string& ip, int& port) const override {
+        ip = client_;
+        port = 0;
+    }
+    void get_local_ip_and_port(std::string& ip, int& port) const override {
+        ip.clear();
+        port = 0;
+    }
+    ::socket_t socket() const override { return 0; }
+
+private:
+    std::string_view input_;
+    const std::string& client_;
+    std::string output_;
+};
+
+/// The library asks for nothing more than the head: the body is handed over with it.
+void Prepare(httplib::Request& request, std::string_view body) {
+    request.ranges.clear();
+    request.headers.erase("Accept-Encoding");
+    request.body = body;
+}
+
+const char* Reason(int status) {
+    switch (status) {
+    case 411:
+        return "Length Required";
+    case 413:
+        return "Payload Too Large";
+    case 415:
+        return "Unsupported Media Type";
+    case 417:
+        return "Expectation Failed";
+    case 431:
+        return "Request Header Fields Too Large";
+    case 503:
+        return "Service Unavailable";
+    default:
+        return "Bad Request";
+    }
+}
+} // namespace
+
+Engine::Engine(Answer answer) {
+    set_pre_routing_handler([answer = std::move(answer)](const auto& request, auto& response) {
+        answer(request, response);
+        return HandlerResponse::Handled;
+    });
+    set_keep_alive_max_count(1'000'000);
+}
+
+Engine::Reply Engine::Process(std::string_view head, std::string_view body,
+                              const std::string& client, bool last) {
+    Memory stream(head, client);
+    bool closed = last;
+    const bool understood = process_request(
+        stream, last, closed, [&](httplib::Request& request) { Prepare(request, body); });
+    return {stream.TakeOutput(), closed || !understood};
+}
+
+std::string Engine::Refusal(int status) {
+    const std::string phrase = Reason(status);
+    const auto body = Json::Reason(phrase);
+    return "HTTP/1.1 " + std::to_string(status) + " " + phrase +
+           "\r\nConnection: close\r\nContent-Type: application/json\r\nContent-Length: " +
+           std::to_string(body.size()) + "\r\n\r\n" + body;
+}
+
+} // namespace exchange

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <httplib.h>
+
+#include <functional>
+#include <string>
+#include <string_view>
+
+namespace exchange {
+
+/// Understands one whole request and writes its reply, both in memory: the HTTP library's parser
+/// and writer without its sockets and threads. What the library would do with a request on its own
+/// (ranges, compression, files) is taken from it first.
+class Engine : private httplib::Server {
+public:
+    using Answer = std::function<void(const httplib::Request&, httplib::Response&)>;
+    explicit Engine(Answer answer);
+
+    struct Reply {
+        std::string text;
+        bool close = false;
+    };
+    Reply Process(std::string_view head, std::string_view body, const std::string& client,
+                  bool last);
+
+    /// A reply to what cannot be understood; the connection is closed after it.
+    static std::string Refusal(int status);
+};
+
+} // namespace exchange

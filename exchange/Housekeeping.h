@@ -1,0 +1,31 @@
+#pragma once
+
+#include "exchange/Service.h"
+
+#include <condition_variable>
+#include <mutex>
+#include <thread>
+
+namespace exchange {
+
+/// Clears away, every few minutes, what has had its time: recipes that were never finished,
+/// addresses of mails long sent, old counters. Any number of servers may do so at once.
+class Housekeeping {
+public:
+    explicit Housekeeping(const Service& service);
+    ~Housekeeping();
+    Housekeeping(const Housekeeping&) = delete;
+    Housekeeping& operator=(const Housekeeping&) = delete;
+
+private:
+    void Run();
+    void CleanUp() const;
+
+    const Service& service_;
+    std::mutex mutex_;
+    std::condition_variable wake_;
+    bool ending_ = false;
+    std::thread thread_;
+};
+
+} // namespace exchange

@@ -1,0 +1,57 @@
+#include "exchange/Limits.h"
+
+#include "exchange/Moment.h"
+#include "exchange/Secrets.h"
+
+namespace exchange {
+namespace {
+constexpr long long HourMs = 3'600'000;
+}
+
+std::string Limits::ReadSalt(Connection& connection) {
+    std::string salt;
+    connection.First("SELECT Value FROM settings WHERE Name = 'salt'", soci::into(salt));
+    return salt;
+}
+
+/// A slot is the number of the hour that its span begins with.
+Counter Limits::Make(std::string_view what, std::string_view who, int hours) const {
+    const auto hour = Moment::Now() / HourMs;
+    std::string name(what);
+    if (!who.empty())
+        name.append(":").append(Secrets::Digest(salt_ + std::string(who)), 0, 41);
+    return {name, hour - hour % hours};
+}
+
+Counter Limits::Hourly(std::string_view what, std::string_view who) const {
+    return Make(what, who, 1);
+}
+
+Counter Limits::Daily(std::string_view what, std::string_view who) const {
+    return Make(what, who, 24);
+}
+
+bool Limits::Count(Connection& connection, const Counter& counter, int limit) {
+    if (limit < 1)
+        return false;
+    return connection.Change("INSERT INTO counters (Name, Slot, Hits) VALUES (:name, :slot, 1)"
+                             " ON CONFLICT (Name, Slot) DO UPDATE SET Hits = counters.Hits + 1"
+                             " WHERE counters.Hits < :limit",
+                             soci::use(counter.name), soci::use(counter.slot),
+                             soci::use(limit)) > 0;
+}
+
+int Limits::Counted(Connection& connection, const Counter& counter) {
+    int hits = 0;
+    const bool any =
+        connection.First("SELECT Hits FROM counters WHERE Name = :name AND Slot = :slot",
+                         soci::use(counter.name), soci::use(counter.slot), soci::into(hits));
+    return any ? hits : 0;
+}
+
+void Limits::ForgetOld(Connection& connection) {
+    const auto oldest = Moment::Now() / HourMs - 48;
+    connection.Change("DELETE FROM counters WHERE Slot < :slot", soci::use(oldest));
+}
+
+} // namespace exchange

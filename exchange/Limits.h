@@ -1,0 +1,39 @@
+#pragma once
+
+#include "exchange/Connection.h"
+
+#include <string>
+#include <string_view>
+
+namespace exchange {
+
+/// One thing that is counted for somebody, in an hour or a day by the clock (UTC). Who it is stands
+/// in the name as a salted digest only.
+struct Counter {
+    std::string name;
+    long long slot;
+};
+
+/// Counts of what clients, recipients and the whole service have done, kept in the database, so
+/// that all servers on it count together.
+class Limits {
+public:
+    /// The salt is drawn once for a database, by its first server.
+    explicit Limits(std::string salt)
+        : salt_(std::move(salt)) {}
+    static std::string ReadSalt(Connection& connection);
+
+    Counter Hourly(std::string_view what, std::string_view who) const;
+    Counter Daily(std::string_view what, std::string_view who) const;
+
+    /// One more; false, and not counted, if that would be above the limit.
+    static bool Count(Connection& connection, const Counter& counter, int limit);
+    static int Counted(Connection& connection, const Counter& counter);
+    static void ForgetOld(Connection& connection);
+
+private:
+    Counter Make(std::string_view what, std::string_view who, int hours) const;
+    std::string salt_;
+};
+
+} // namespace exchange

@@ -1,0 +1,118 @@
+#include "exchange/Mail.h"
+
+#include "exchange/Numbers.h"
+#include "exchange/Secrets.h"
+#include "exchange/Text.h"
+
+#include <openssl/evp.h>
+
+#include <ctime>
+
+namespace exchange {
+namespace {
+std::string Base64(const std::string& text) {
+    std::string encoded((text.size() + 2) / 3 * 4 + 1, '\0');
+    const auto size = EVP_EncodeBlock(reinterpret_cast<unsigned char*>(encoded.data()),
+                                      reinterpret_cast<const unsigned char*>(text.data()),
+                                      static_cast<int>(text.size()));
+    encoded.resize(static_cast<size_t>(size));
+    return encoded;
+}
+
+/// How many of the first bytes make at most `most` and end with a whole letter.
+size_t WholeLetters(const std::string& text, size_t begin, size_t most) {
+    auto end = std::min(text.size(), begin + most);
+    while (end < text.size() && (static_cast<unsigned char>(text[end]) & 0xc0) == 0x80)
+        --end;
+    return end - begin;
+}
+
+/// A header's text as encoded words, folded.
+std::string Encoded(const std::string& text) {
+    constexpr size_t most = 42;
+    std::string encoded;
+    for (size_t begin = 0; begin < text.size();) {
+        const auto size = WholeLetters(text, begin, most);
+        encoded.append(encoded.empty() ? "" : "\r\n ");
+        encoded.append("=?utf-8?B?").append(Base64(text.substr(begin, size))).append("?=");
+        begin += size;
+    }
+    return encoded;
+}
+
+/// The body in lines that every relay takes, whatever letters it holds.
+std::string Body(const std::string& text) {
+    constexpr size_t lineLength = 76;
+    const auto encoded = Base64(text);
+    std::string lines;
+    for (size_t begin = 0; begin < encoded.size(); begin += lineLength)
+        lines.append(encoded, begin, lineLength).append("\r\n");
+    return lines;
+}
+
+std::string Date() {
+    const auto now = std::time(nullptr);
+    std::tm parts{};
+    gmtime_r(&now, &parts);
+    char text[64];
+    return {text, std::strftime(text, sizeof text, "%a, %d %b %Y %H:%M:%S +0000", &parts)};
+}
+
+std::string Ingredients(const Recipe& recipe) {
+    std::string text;
+    for (const auto& ingredient : recipe.ingredients) {
+        text.append("- ").append(ingredient.foodName.value_or(""));
+        if (ingredient.serving)
+            text.append(", ").append(*ingredient.serving);
+        text += "\n";
+    }
+    return text.empty() ? text : "Ingredients\n" + text + "\n";
+}
+
+std::string Card(const Recipe& recipe) {
+    std::string text = recipe.name + "\n\n";
+    text += "Recipe yield: " + Numbers::Short(recipe.yield) + " servings\n";
+    if (!recipe.servingName.empty())
+        text += "Serving size: " + recipe.servingName + "\n";
+    text += "Total time: " + Numbers::Short(recipe.prepTime) + " minutes\n";
+    if (const auto calories = recipe.PerServing(CaloriesPosition - 1))
+        text += "Calories: " + Numbers::Whole(*calories) + " per serving\n";
+    text += "\n" + Ingredients(recipe);
+    return text + "Preparation\n" + recipe.instructions + "\n\n";
+}
+
+std::string Text(const Recipe& recipe, const Config& config) {
+    const auto id = std::to_string(recipe.id);
+    auto text = recipe.from + " sends you a recipe from Halvane.\n\n" + Card(recipe);
+    text += "The recipe ID is " + id +
+            ".\n\n"
+            "To take the recipe into your own Halvane, open Recipes, press Import, enter " +
+            id + " and press Submit.\n";
+    if (!config.public_url.empty())
+        text += "You can also read it at " + config.public_url + "/halvane/recipe.asp?recID=" + id +
+                "\n";
+    return text +
+           "\nThis mail was sent once, because somebody entered your address. Answers go to " +
+           recipe.from + ".\n";
+}
+
+std::string Header(const std::string& name, const std::string& value) {
+    return name + ": " + value + "\r\n";
+}
+} // namespace
+
+std::string MailOf(const Recipe& recipe, const Config& config) {
+    const auto domain = config.mail_from.substr(config.mail_from.find('@') + 1);
+    std::string mail = Header("Date", Date());
+    mail += Header("From", "Halvane <" + config.mail_from + ">");
+    mail += Header("To", "<" + recipe.to + ">");
+    mail += Header("Reply-To", "<" + recipe.from + ">");
+    mail += Header("Subject", Encoded("A recipe for you: " + recipe.name));
+    mail += Header("Message-ID", "<" + Secrets::RandomToken().substr(0, 32) + "@" + domain + ">");
+    mail += Header("MIME-Version", "1.0");
+    mail += Header("Content-Type", "text/plain; charset=utf-8");
+    mail += Header("Content-Transfer-Encoding", "base64");
+    return mail + "\r\n" + Body(Text(recipe, config));
+}
+
+} // namespace exchange

@@ -1,0 +1,82 @@
+#include "exchange/Mailer.h"
+
+#include "exchange/Log.h"
+
+#include <curl/curl.h>
+
+#include <algorithm>
+#include <cstring>
+#include <memory>
+#include <string_view>
+
+namespace exchange {
+namespace {
+size_t Feed(char* to, size_t size, size_t count, void* source) {
+    auto& rest = *static_cast<std::string_view*>(source);
+    const auto portion = std::min(size * count, rest.size());
+    std::memcpy(to, rest.data(), portion);
+    rest.remove_prefix(portion);
+    return portion;
+}
+
+long Tls(const std::string& wanted) {
+    if (wanted == "none")
+        return CURLUSESSL_NONE;
+    return wanted == "tried" ? CURLUSESSL_TRY : CURLUSESSL_ALL;
+}
+
+/// The host name of the service's own address, by which it greets the relay.
+std::string Greeting(const std::string& address) {
+    return address.substr(address.find('@') + 1);
+}
+} // namespace
+
+Mailer::Mailer(const Config& config)
+    : config_(config) {
+    curl_global_init(CURL_GLOBAL_DEFAULT);
+}
+
+Mailer::~Mailer() {
+    curl_global_cleanup();
+}
+
+bool Mailer::Send(const std::string& to, const std::string& mail) const {
+    if (!places_.try_acquire())
+        return false;
+    const bool sent = Transfer(to, mail);
+    places_.release();
+    return sent;
+}
+
+bool Mailer::Transfer(const std::string& to, const std::string& mail) const {
+    const std::unique_ptr<CURL, void (*)(CURL*)> curl(curl_easy_init(), curl_easy_cleanup);
+    const std::unique_ptr<curl_slist, void (*)(curl_slist*)> recipients(
+        curl_slist_append(nullptr, ("<" + to + ">").c_str()), curl_slist_free_all);
+    std::string_view rest = mail;
+    const auto set = [&](CURLoption option, auto value) {
+        curl_easy_setopt(curl.get(), option, value);
+    };
+    const auto url = config_.mail_relay + (config_.mail_relay.find('/', 8) == std::string::npos
+                                               ? "/" + Greeting(config_.mail_from)
+                                               : "");
+    set(CURLOPT_URL, url.c_str());
+    set(CURLOPT_PROTOCOLS_STR, "smtp,smtps");
+    set(CURLOPT_USE_SSL, Tls(config_.mail_tls));
+    set(CURLOPT_TIMEOUT, long{config_.mail_seconds});
+    set(CURLOPT_NOSIGNAL, 1L);
+    set(CURLOPT_MAIL_FROM, ("<" + config_.mail_from + ">").c_str());
+    set(CURLOPT_MAIL_RCPT, recipients.get());
+    set(CURLOPT_READFUNCTION, Feed);
+    set(CURLOPT_READDATA, static_cast<void*>(&rest));
+    set(CURLOPT_UPLOAD, 1L);
+    if (!config_.mail_user.empty()) {
+        set(CURLOPT_USERNAME, config_.mail_user.c_str());
+        set(CURLOPT_PASSWORD, config_.mail_password.c_str());
+    }
+    const auto result = curl_easy_perform(curl.get());
+    if (result != CURLE_OK)
+        Log::Error("mail", {{"what", std::string_view(curl_easy_strerror(result))}});
+    return result == CURLE_OK;
+}
+
+} // namespace exchange

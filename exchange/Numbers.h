@@ -1,0 +1,14 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+namespace exchange {
+
+/// Numbers as a person reads them.
+namespace Numbers {
+std::string Whole(double number); ///< ties to the even neighbour, as the program's own card
+std::string Short(double number); ///< at most two digits behind the point, none that say nothing
+} // namespace Numbers
+
+} // namespace exchange

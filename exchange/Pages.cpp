@@ -1,0 +1,186 @@
+#include "exchange/Pages.h"
+
+#include "exchange/Assets.h"
+#include "exchange/Numbers.h"
+
+#include <kainjow/mustache.hpp>
+
+#include <httplib.h>
+
+#include <ctime>
+
+namespace exchange::Pages {
+namespace {
+using kainjow::mustache::data;
+using kainjow::mustache::mustache;
+
+/// A template of this thread: one is not made to be used by two at once.
+struct Template {
+    mustache text;
+    explicit Template(const std::string& asset)
+        : text(asset) {}
+    std::string Fill(const data& values) { return text.render(values); }
+};
+
+enum class Place { Front, List, Elsewhere };
+
+std::string Page(const std::string& title, Place place, bool unlisted, const std::string& content) {
+    thread_local Template layout(Assets::layout);
+    data values;
+    values.set("title", title);
+    values.set("unlisted", unlisted);
+    values.set("onFront", place == Place::Front);
+    values.set("onList", place == Place::List);
+    values.set("content", content);
+    return layout.Fill(values);
+}
+
+std::string Day(long long moment) {
+    const auto seconds = static_cast<std::time_t>(moment / 1000);
+    std::tm parts{};
+    gmtime_r(&seconds, &parts);
+    char text[40];
+    const std::string name(text, std::strftime(text, sizeof text, " %B %Y", &parts));
+    return std::to_string(parts.tm_mday) + name;
+}
+
+std::string Calories(const std::optional<double>& calories) {
+    return calories ? Numbers::Whole(*calories) : "--";
+}
+
+std::string NoteOf(const Listed& recipe) {
+    const auto rest = Calories(recipe.calories) + " calories per serving, " +
+                      Numbers::Short(recipe.prepTime) + " minutes";
+    return recipe.servingName.empty() ? rest : recipe.servingName + ", " + rest;
+}
+
+data LineOf(const Listed& recipe) {
+    data line;
+    line.set("id", std::to_string(recipe.id));
+    line.set("name", recipe.name);
+    line.set("note", NoteOf(recipe));
+    line.set("date", Day(recipe.listedAt));
+    return line;
+}
+
+std::string AddressOf(const std::string& query, int page) {
+    std::string address = "/halvane/community.asp?page=" + std::to_string(page);
+    if (!query.empty())
+        address += "&q=" + httplib::detail::encode_query_param(query);
+    return address;
+}
+
+std::string EmptyText(const ListPage& list) {
+    if (!list.query.empty())
+        return "No recipe has all of these words in its name or ingredients.";
+    return list.page > 1 ? "There are no older recipes." : "No recipe has been shared yet.";
+}
+
+void SetPager(data& values, const ListPage& list, bool more) {
+    const bool older = more && list.page < LastPage;
+    values.set("pager", older || list.page > 1);
+    values.set("page", std::to_string(list.page));
+    if (list.page > 1)
+        values.set("newer", AddressOf(list.query, list.page - 1));
+    if (older)
+        values.set("older", AddressOf(list.query, list.page + 1));
+}
+
+data IngredientsOf(const Recipe& recipe) {
+    data lines(data::type::list);
+    for (const auto& ingredient : recipe.ingredients) {
+        data line;
+        line.set("food", ingredient.foodName.value_or(""));
+        line.set("hasServing", !ingredient.serving.value_or("").empty());
+        line.set("serving", ingredient.serving.value_or(""));
+        lines << line;
+    }
+    return lines;
+}
+
+std::string AmountOf(const Recipe& recipe, int nutrient) {
+    const auto amount = recipe.PerServing(nutrient);
+    if (!amount)
+        return "--";
+    if (nutrient == CaloriesPosition - 1)
+        return Numbers::Whole(*amount);
+    const auto unit = NutrientColumns()[static_cast<size_t>(nutrient)].unit;
+    return Numbers::Short(*amount) + " " + std::string(unit);
+}
+
+data NutritionOf(const Recipe& recipe, bool large) {
+    data lines(data::type::list);
+    for (int i = 0; i < NutrientCount; ++i) {
+        const auto& column = NutrientColumns()[static_cast<size_t>(i)];
+        if (column.large != large)
+            continue;
+        data line;
+        line.set("label", std::string(column.label));
+        line.set("amount", AmountOf(recipe, i));
+        lines << line;
+    }
+    return lines;
+}
+
+std::string HeadingOf(int status) {
+    switch (status) {
+    case 404:
+        return "Not found";
+    case 429:
+        return "Too many requests";
+    case 503:
+        return "Not available";
+    default:
+        return "Not possible";
+    }
+}
+} // namespace
+
+std::string Front() {
+    thread_local Template content(Assets::front);
+    return Page("Recipes and nutrition", Place::Front, false, content.Fill({}));
+}
+
+std::string Community(const ListPage& list) {
+    thread_local Template content(Assets::community);
+    const bool more = list.recipes.size() > static_cast<size_t>(RecipeStore::PageSize);
+    data lines(data::type::list);
+    for (size_t i = 0; i < list.recipes.size() - (more ? 1 : 0); ++i)
+        lines << LineOf(list.recipes[i]);
+    data values;
+    values.set("query", list.query);
+    values.set("heading", list.query.empty() ? "Newest recipes" : "Recipes found");
+    values.set("any", !list.recipes.empty());
+    values.set("recipes", lines);
+    values.set("empty", EmptyText(list));
+    SetPager(values, list, more);
+    return Page("Online Community", Place::List, false, content.Fill(values));
+}
+
+std::string RecipePage(const Recipe& recipe) {
+    thread_local Template content(Assets::recipe);
+    data values;
+    values.set("name", recipe.name);
+    values.set("id", std::to_string(recipe.id));
+    values.set("yield", Numbers::Short(recipe.yield));
+    values.set("time", Numbers::Short(recipe.prepTime));
+    values.set("hasServing", !recipe.servingName.empty());
+    values.set("serving", recipe.servingName);
+    values.set("calories", Calories(recipe.PerServing(CaloriesPosition - 1)));
+    values.set("instructions", recipe.instructions);
+    values.set("any", !recipe.ingredients.empty());
+    values.set("ingredients", IngredientsOf(recipe));
+    values.set("large", NutritionOf(recipe, true));
+    values.set("small", NutritionOf(recipe, false));
+    return Page(recipe.name, Place::Elsewhere, !recipe.isPublic, content.Fill(values));
+}
+
+std::string Problem(int status, const std::string& reason) {
+    thread_local Template content(Assets::problem);
+    data values;
+    values.set("heading", HeadingOf(status));
+    values.set("reason", reason);
+    return Page(HeadingOf(status), Place::Elsewhere, true, content.Fill(values));
+}
+
+} // namespace exchange::Pages

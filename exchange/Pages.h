@@ -1,0 +1,27 @@
+#pragma once
+
+#include "exchange/Recipe.h"
+#include "exchange/RecipeStore.h"
+
+#include <string>
+#include <vector>
+
+namespace exchange {
+
+/// The pages, written on the server and readable without script. Every text of a user is escaped by
+/// the templates.
+namespace Pages {
+struct ListPage {
+    std::string query;
+    int page = 1;
+    std::vector<Listed> recipes; ///< one more than a page, if there are older ones
+};
+
+std::string Front();
+std::string Community(const ListPage& list);
+std::string RecipePage(const Recipe& recipe);
+std::string Problem(int status, const std::string& reason);
+inline constexpr int LastPage = 500;
+} // namespace Pages
+
+} // namespace exchange

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "exchange/Connection.h"
+
+#include <exception>
+#include <memory>
+#include <mutex>
+#include <string>
+#include <vector>
+
+namespace exchange {
+
+/// The open connections of the process. A lease takes one or opens a new one, and gives it back;
+/// one that an exception has gone through is closed instead, so that the next lease connects anew.
+class Pool {
+public:
+    explicit Pool(std::string database)
+        : database_(std::move(database)) {}
+
+    class Lease {
+    public:
+        explicit Lease(Pool& pool);
+        ~Lease();
+        Lease(const Lease&) = delete;
+        Lease& operator=(const Lease&) = delete;
+        Connection& operator*() const { return *connection_; }
+        Connection* operator->() const { return connection_.get(); }
+
+    private:
+        Pool& pool_;
+        std::unique_ptr<Connection> connection_;
+        int exceptions_ = std::uncaught_exceptions();
+    };
+
+private:
+    std::string database_;
+    std::mutex mutex_;
+    std::vector<std::unique_ptr<Connection>> free_;
+};
+
+} // namespace exchange

@@ -1,0 +1,15 @@
+#include "exchange/Recipe.h"
+
+namespace exchange {
+
+std::optional<double> Recipe::PerServing(int nutrient) const {
+    std::optional<double> sum;
+    for (const auto& ingredient : ingredients)
+        if (const auto& amount = ingredient.nutrients[static_cast<size_t>(nutrient)])
+            sum = sum.value_or(0) + *amount;
+    if (sum)
+        *sum /= Servings();
+    return sum;
+}
+
+} // namespace exchange

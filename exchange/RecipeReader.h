@@ -1,0 +1,17 @@
+#pragma once
+
+#include "exchange/Recipe.h"
+
+#include <string>
+#include <vector>
+
+namespace exchange {
+
+/// Reads the bodies that a client sends. Whatever is not as docs/exchange.md gives it is refused as
+/// a whole, with a Refusal that names the field.
+namespace RecipeReader {
+Recipe ReadRecipe(const std::string& body);
+std::vector<Ingredient> ReadIngredients(const std::string& body, int most);
+} // namespace RecipeReader
+
+} // namespace exchange

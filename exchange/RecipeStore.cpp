@@ -1,0 +1,280 @@
+#include "exchange/RecipeStore.h"
+
+#include "exchange/Documents.h"
+#include "exchange/Moment.h"
+#include "exchange/Secrets.h"
+#include "exchange/Words.h"
+
+namespace exchange {
+namespace {
+using soci::into;
+using soci::use;
+
+constexpr const char* InsertRecipe =
+    "INSERT INTO recipes (RecipeID, RecipeName, ServingName, RecipeYield, Instructions, PrepTime,"
+    " EMAILFROM, EMAILTO, ISPUBLIC, Token, IngredientCount, CreatedAt, SentAt, MailedAt)"
+    " VALUES (:id, :name, :serving, :yield, :instructions, :time, :from, :to, :public, :token, 0,"
+    " :now, 0, 0) ON CONFLICT DO NOTHING";
+
+/// Claims the places of the new rows: whoever gets them is the creator, in time, and within the
+/// limit, and no one else writes to the recipe until the transaction ends.
+constexpr const char* ClaimRows =
+    "UPDATE recipes SET IngredientCount = IngredientCount + :n WHERE RecipeID = :id"
+    " AND Token = :token AND SentAt = 0 AND IngredientCount + :more <= :most";
+
+constexpr const char* Claim =
+    "UPDATE recipes SET SentAt = :now WHERE RecipeID = :id AND SentAt = 0";
+
+std::string InsertIngredient() {
+    std::string columns;
+    std::string values;
+    for (const auto& name : FieldNames()) {
+        columns.append(columns.empty() ? "" : ", ").append(name);
+        values.append(values.empty() ? ":" : ", :").append(name);
+    }
+    return "INSERT INTO ingredients (" + columns + ") VALUES (" + values + ")";
+}
+
+std::string SelectIngredients() {
+    std::string columns;
+    for (const auto& name : FieldNames())
+        if (name != "ID" && name != "RecipeID")
+            columns.append(columns.empty() ? "" : ", ").append(name);
+    return "SELECT " + columns + " FROM ingredients WHERE RecipeID = :id ORDER BY ID";
+}
+
+/// One row of `ingredients` in variables that a statement can be bound to.
+struct BoundRow {
+    double nutrients[NutrientCount] = {};
+    soci::indicator nutrientsAre[NutrientCount] = {};
+    std::string foodName;
+    std::string serving;
+    double quantity = 0;
+    soci::indicator foodNameIs = soci::i_null;
+    soci::indicator servingIs = soci::i_null;
+    soci::indicator quantityIs = soci::i_null;
+
+    template <class T>
+    static void Put(const std::optional<T>& value, T& variable, soci::indicator& is) {
+        is = value ? soci::i_ok : soci::i_null;
+        variable = value.value_or(T());
+    }
+    template <class T> static std::optional<T> Get(const T& variable, soci::indicator is) {
+        return is == soci::i_null ? std::nullopt : std::optional<T>(variable);
+    }
+
+    void Put(const Ingredient& row) {
+        for (size_t i = 0; i < NutrientCount; ++i)
+            Put(row.nutrients[i], nutrients[i], nutrientsAre[i]);
+        Put(row.foodName, foodName, foodNameIs);
+        Put(row.serving, serving, servingIs);
+        Put(row.quantity, quantity, quantityIs);
+    }
+
+    Ingredient Get() const {
+        Ingredient row;
+        for (size_t i = 0; i < NutrientCount; ++i)
+            row.nutrients[i] = Get(nutrients[i], nutrientsAre[i]);
+        row.foodName = Get(foodName, foodNameIs);
+        row.serving = Get(serving, servingIs);
+        row.quantity = Get(quantity, quantityIs);
+        return row;
+    }
+};
+
+} // namespace
+
+int RecipeStore::Insert(const Recipe& recipe, const std::string& token) {
+    const auto digest = Secrets::Digest(token);
+    const auto now = Moment::Now();
+    const int isPublic = recipe.isPublic ? 1 : 0;
+    for (;;) {
+        const int id = Secrets::RandomID();
+        if (connection_.Change(InsertRecipe, use(id), use(recipe.name), use(recipe.servingName),
+                               use(recipe.yield), use(recipe.instructions), use(recipe.prepTime),
+                               use(recipe.from), use(recipe.to), use(isPublic), use(digest),
+                               use(now)) == 1)
+            return id;
+    }
+}
+
+RecipeStore::Created RecipeStore::Create(const Recipe& recipe) {
+    const auto token = Secrets::RandomToken();
+    Transaction transaction(connection_);
+    const int id = Insert(recipe, token);
+    transaction.Commit();
+    return {id, token};
+}
+
+void RecipeStore::InsertRows(int id, int firstID, const std::vector<Ingredient>& rows) {
+    static const std::string insert = InsertIngredient();
+    BoundRow bound;
+    for (const auto& row : rows) {
+        bound.Put(row);
+        [&]<size_t... I>(std::index_sequence<I...>) {
+            connection_.Change(
+                insert, use(firstID), use(bound.nutrients[I], bound.nutrientsAre[I])...,
+                use(bound.foodName, bound.foodNameIs), use(bound.serving, bound.servingIs), use(id),
+                use(bound.quantity, bound.quantityIs));
+        }
+        (std::make_index_sequence<NutrientCount>());
+        ++firstID;
+    }
+}
+
+RecipeStore::Added RecipeStore::Add(int id, const std::string& token,
+                                    const std::vector<Ingredient>& rows, int most) {
+    const auto digest = Secrets::Digest(token);
+    const int more = static_cast<int>(rows.size());
+    Transaction transaction(connection_);
+    if (connection_.Change(ClaimRows, use(more), use(id), use(digest), use(more), use(most)) == 0)
+        return WhyNotAdded(id, digest);
+    int count = 0;
+    connection_.First("SELECT IngredientCount FROM recipes WHERE RecipeID = :id", use(id),
+                      into(count));
+    InsertRows(id, count - more + 1, rows);
+    transaction.Commit();
+    return Added::Done;
+}
+
+RecipeStore::Added RecipeStore::WhyNotAdded(int id, const std::string& digest) {
+    std::string token;
+    long long sentAt = 0;
+    const bool known = connection_.First("SELECT Token, SentAt FROM recipes WHERE RecipeID = :id",
+                                         use(id), into(token), into(sentAt));
+    if (!known || !Secrets::Equal(token, digest))
+        return Added::WrongToken;
+    return sentAt != 0 ? Added::AlreadySent : Added::TooMany;
+}
+
+std::optional<RecipeStore::State> RecipeStore::Find(int id) {
+    State state;
+    long long sentAt = 0;
+    if (!connection_.First("SELECT SentAt, EMAILFROM, EMAILTO FROM recipes WHERE RecipeID = :id",
+                           use(id), into(sentAt), into(state.from), into(state.to)))
+        return {};
+    state.sent = sentAt != 0;
+    return state;
+}
+
+std::optional<Recipe> RecipeStore::ReadRow(int id) {
+    Recipe recipe;
+    int isPublic = 0;
+    if (!connection_.First("SELECT RecipeID, RecipeName, ServingName, RecipeYield, Instructions,"
+                           " PrepTime, EMAILFROM, EMAILTO, ISPUBLIC FROM recipes"
+                           " WHERE RecipeID = :id AND SentAt <> 0",
+                           use(id), into(recipe.id), into(recipe.name), into(recipe.servingName),
+                           into(recipe.yield), into(recipe.instructions), into(recipe.prepTime),
+                           into(recipe.from), into(recipe.to), into(isPublic)))
+        return {};
+    recipe.isPublic = isPublic != 0;
+    return recipe;
+}
+
+void RecipeStore::ReadIngredients(Recipe& recipe) {
+    static const std::string select = SelectIngredients();
+    BoundRow bound;
+    const auto keep = [&] { recipe.ingredients.push_back(bound.Get()); };
+    [&]<size_t... I>(std::index_sequence<I...>) {
+        connection_.Each(
+            select, keep, use(recipe.id), into(bound.nutrients[I], bound.nutrientsAre[I])...,
+            into(bound.foodName, bound.foodNameIs), into(bound.serving, bound.servingIs),
+            into(bound.quantity, bound.quantityIs));
+    }
+    (std::make_index_sequence<NutrientCount>());
+}
+
+std::optional<Recipe> RecipeStore::ReadWhole(int id) {
+    auto recipe = ReadRow(id);
+    if (recipe) {
+        recipe->from.clear();
+        recipe->to.clear();
+        ReadIngredients(*recipe);
+    }
+    return recipe;
+}
+
+std::optional<Recipe> RecipeStore::Finish(int id) {
+    const auto now = Moment::Now();
+    Transaction transaction(connection_);
+    if (connection_.Change(Claim, use(now), use(id)) == 0)
+        return {};
+    auto recipe = ReadRow(id);
+    ReadIngredients(*recipe);
+    const auto document = Documents::RecipeDocument(*recipe);
+    const auto ingredients = Documents::IngredientsDocument(*recipe);
+    connection_.Change("INSERT INTO documents (RecipeID, Recipe, Ingredients)"
+                       " VALUES (:id, :recipe, :ingredients)",
+                       use(id), use(document), use(ingredients));
+    if (recipe->isPublic)
+        Publish(*recipe, now);
+    transaction.Commit();
+    return recipe;
+}
+
+void RecipeStore::Publish(const Recipe& recipe, long long now) {
+    double calories = 0;
+    soci::indicator caloriesAre = soci::i_null;
+    BoundRow::Put(recipe.PerServing(CaloriesPosition - 1), calories, caloriesAre);
+    connection_.Change("INSERT INTO listing (ListedAt, RecipeID, RecipeName, ServingName, PrepTime,"
+                       " Calories) VALUES (:now, :id, :name, :serving, :time, :calories)",
+                       use(now), use(recipe.id), use(recipe.name), use(recipe.servingName),
+                       use(recipe.prepTime), use(calories, caloriesAre));
+    for (const auto& word : Words::Of(recipe))
+        connection_.Change("INSERT INTO words (Word, ListedAt, RecipeID) VALUES (:w, :now, :id)",
+                           use(word), use(now), use(recipe.id));
+}
+
+void RecipeStore::NoteMailed(int id) {
+    const auto now = Moment::Now();
+    Transaction transaction(connection_);
+    connection_.Change("UPDATE recipes SET MailedAt = :now WHERE RecipeID = :id", use(now),
+                       use(id));
+    transaction.Commit();
+}
+
+RecipeStore::Document RecipeStore::Read(int id, Part part, const Counter& misses) {
+    constexpr const char* recipe =
+        "SELECT (SELECT Recipe FROM documents WHERE RecipeID = :id),"
+        " (SELECT Hits FROM counters WHERE Name = :name AND Slot = :slot)";
+    constexpr const char* ingredients =
+        "SELECT (SELECT Ingredients FROM documents WHERE RecipeID = :id),"
+        " (SELECT Hits FROM counters WHERE Name = :name AND Slot = :slot)";
+    std::string text;
+    int hits = 0;
+    soci::indicator textIs = soci::i_null;
+    soci::indicator hitsAre = soci::i_null;
+    connection_.First(part == Part::Recipe ? recipe : ingredients, use(id), use(misses.name),
+                      use(misses.slot), into(text, textIs), into(hits, hitsAre));
+    Document document;
+    if (textIs == soci::i_ok)
+        document.text = std::move(text);
+    document.hits = hitsAre == soci::i_ok ? hits : 0;
+    return document;
+}
+
+bool RecipeStore::Remove(int id) {
+    Transaction transaction(connection_);
+    const bool removed =
+        connection_.Change("DELETE FROM words WHERE RecipeID = :id", use(id)) >= 0 &&
+        connection_.Change("DELETE FROM recipes WHERE RecipeID = :id", use(id)) > 0;
+    transaction.Commit();
+    return removed;
+}
+
+void RecipeStore::SweepUnfinished(long long createdBefore) {
+    Transaction transaction(connection_);
+    connection_.Change("DELETE FROM recipes WHERE SentAt = 0 AND CreatedAt < :moment",
+                       use(createdBefore));
+    transaction.Commit();
+}
+
+void RecipeStore::ForgetAddresses(long long sentBefore) {
+    Transaction transaction(connection_);
+    connection_.Change("UPDATE recipes SET EMAILFROM = '', EMAILTO = ''"
+                       " WHERE EMAILTO <> '' AND SentAt <> 0 AND SentAt < :moment",
+                       use(sentBefore));
+    transaction.Commit();
+}
+
+} // namespace exchange

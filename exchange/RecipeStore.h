@@ -1,0 +1,82 @@
+#pragma once
+
+#include "exchange/Connection.h"
+#include "exchange/Limits.h"
+#include "exchange/Recipe.h"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace exchange {
+
+/// One line of the public list.
+struct Listed {
+    int id = 0;
+    std::string name;
+    std::string servingName;
+    double prepTime = 0;
+    std::optional<double> calories;
+    long long listedAt = 0;
+};
+
+/// The recipes of one database. A recipe is unfinished until Finish: its creator can add
+/// ingredients and nobody can read it. From then on it never changes.
+class RecipeStore {
+public:
+    explicit RecipeStore(Connection& connection)
+        : connection_(connection) {}
+
+    struct Created {
+        int id;
+        std::string token;
+    };
+    Created Create(const Recipe& recipe);
+
+    enum class Added { Done, WrongToken, AlreadySent, TooMany };
+    Added Add(int id, const std::string& token, const std::vector<Ingredient>& rows, int most);
+
+    /// What a sender has to be told about, without the ingredients.
+    struct State {
+        bool sent = false;
+        std::string from;
+        std::string to;
+    };
+    std::optional<State> Find(int id);
+
+    /// Makes an unfinished recipe readable; nothing if it is not there or was sent before. Exactly
+    /// one caller ever gets the recipe.
+    std::optional<Recipe> Finish(int id);
+    void NoteMailed(int id);
+
+    /// What is read of a sent recipe. `hits` is the count of the misses of the one who asks, read
+    /// in the same statement.
+    enum class Part { Recipe, Ingredients };
+    struct Document {
+        std::optional<std::string> text;
+        int hits = 0;
+    };
+    Document Read(int id, Part part, const Counter& misses);
+    std::optional<Recipe> ReadWhole(int id); ///< of a sent recipe, without its addresses
+
+    static constexpr int PageSize = 20;
+    static constexpr size_t MostWords = 5;
+    /// One more than a page, if there are more, newest first.
+    std::vector<Listed> List(const std::vector<std::string>& words, int page);
+
+    bool Remove(int id);
+    void SweepUnfinished(long long createdBefore);
+    void ForgetAddresses(long long sentBefore);
+
+private:
+    int Insert(const Recipe& recipe, const std::string& token);
+    void InsertRows(int id, int firstID, const std::vector<Ingredient>& rows);
+    Added WhyNotAdded(int id, const std::string& digest);
+    std::optional<Recipe> ReadRow(int id);
+    void ReadIngredients(Recipe& recipe);
+    void Publish(const Recipe& recipe, long long now);
+
+    Connection& connection_;
+};
+
+} // namespace exchange

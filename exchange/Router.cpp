@@ -1,0 +1,94 @@
+#include "exchange/Router.h"
+
+#include "exchange/Log.h"
+#include "exchange/Refusal.h"
+#include "exchange/Text.h"
+#include "exchange/Visitor.h"
+
+#include <chrono>
+
+namespace exchange {
+namespace {
+constexpr std::string_view Number = "{id}";
+
+/// Safe for every reply; a handler may replace one of its own.
+constexpr std::pair<const char*, const char*> Headers[] = {
+    {"Content-Security-Policy", "default-src 'none'; style-src 'self'; img-src 'self'; form-action"
+                                " 'self'; base-uri 'none'; frame-ancestors 'none'"},
+    {"X-Content-Type-Options", "nosniff"},
+    {"X-Frame-Options", "DENY"},
+    {"Referrer-Policy", "no-referrer"},
+    {"Cross-Origin-Resource-Policy", "same-origin"},
+};
+} // namespace
+
+void Router::Add(const std::string& method, const std::string& pattern, Handler handler) {
+    Route route{method, pattern, pattern, std::nullopt, std::move(handler)};
+    const auto number = pattern.find(Number);
+    if (number != std::string::npos) {
+        route.before = pattern.substr(0, number);
+        route.after = pattern.substr(number + Number.size());
+    }
+    routes_.push_back(std::move(route));
+}
+
+bool Router::Route::Matches(const std::string& path, std::optional<int>& id) const {
+    if (!after)
+        return path == before;
+    if (path.size() <= before.size() + after->size() || !path.starts_with(before) ||
+        !path.ends_with(*after))
+        return false;
+    const auto digits =
+        std::string_view(path).substr(before.size(), path.size() - before.size() - after->size());
+    id = WholeNumber(digits, 2, 0x7fffffff);
+    return id.has_value();
+}
+
+const Router::Route* Router::Find(const httplib::Request& request, std::optional<int>& id,
+                                  bool& known) const {
+    const auto& method = request.method == "HEAD" ? std::string("GET") : request.method;
+    for (const auto& route : routes_)
+        if (route.Matches(request.path, id)) {
+            known = true;
+            if (route.method == method)
+                return &route;
+        }
+    return nullptr;
+}
+
+void Router::Run(const Route& route, const Ask& ask, httplib::Response& response) const {
+    try {
+        response.status = 200;
+        route.handler(ask, response);
+    } catch (const Refusal& refusal) {
+        if (refusal.Status() == 429)
+            response.set_header("Retry-After", "3600");
+        failure_(ask.request, response, refusal.Status(), refusal.what());
+    } catch (const std::exception& error) {
+        Log::Error("failure", {{"route", route.pattern}, {"what", std::string_view(error.what())}});
+        failure_(ask.request, response, 503, "The service is not available just now.");
+    }
+}
+
+void Router::Answer(const httplib::Request& request, httplib::Response& response) const {
+    const auto begin = std::chrono::steady_clock::now();
+    for (const auto& [name, value] : Headers)
+        response.set_header(name, value);
+    std::optional<int> id;
+    bool known = false;
+    const auto* route = Find(request, id, known);
+    if (route)
+        Run(*route, {request, id, VisitorOf(request, config_)}, response);
+    else if (known)
+        failure_(request, response, 405, "This address does not take that method.");
+    else
+        failure_(request, response, 404, "There is nothing at this address.");
+    if (!config_.log_requests)
+        return;
+    const std::chrono::duration<double, std::milli> took = std::chrono::steady_clock::now() - begin;
+    Log::Info("request", {{"route", route ? std::string_view(route->pattern) : "none"},
+                          {"status", response.status},
+                          {"ms", took.count()}});
+}
+
+} // namespace exchange

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace exchange {
+
+/// Chance and digests, from the system's cryptographic library.
+namespace Secrets {
+int RandomID();                                           ///< positive, 32 bits, at least 2
+std::string RandomToken();                                ///< 64 hexadecimal digits
+std::string Digest(std::string_view text);                ///< SHA-256 as 64 hexadecimal digits
+bool Equal(std::string_view one, std::string_view other); ///< in a time that tells nothing
+} // namespace Secrets
+
+} // namespace exchange

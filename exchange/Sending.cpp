@@ -1,0 +1,85 @@
+#include "exchange/Sending.h"
+
+#include "exchange/Mail.h"
+#include "exchange/MailAddress.h"
+#include "exchange/Text.h"
+
+namespace exchange {
+namespace {
+std::string Stored(int id) {
+    return "Your recipe is stored under the recipe ID " + std::to_string(id) + ". ";
+}
+
+std::string NotAnAddress(const std::string& whose) {
+    return whose + " is not one that mail can be sent with, so your recipe was not sent. Please "
+                   "correct it and send the recipe again.";
+}
+} // namespace
+
+void Sending::AddTo(Router& router) {
+    router.Add("GET", "/halvane/sendrecipe.asp", [this](const Ask& ask, auto& response) {
+        const auto id = WholeNumber(ask.request.get_param_value("recID"), 2, 0x7fffffff);
+        const auto outcome = ask.request.method == "GET" && id
+                                 ? Send(*id, ask.visitor)
+                                 : Outcome{404, "There is no recipe to send under this ID."};
+        response.status = outcome.status;
+        response.set_header("Cache-Control", "no-store");
+        response.set_content(outcome.sentence, "text/plain; charset=utf-8");
+    });
+}
+
+Sending::Outcome Sending::Send(int id, const std::string& visitor) const {
+    const auto misses = service_.limits.Hourly("miss", visitor);
+    const Pool::Lease lease(service_.pool);
+    const auto state = RecipeStore(*lease).Find(id);
+    if (state)
+        return SendUnfinished(*lease, id, *state, visitor);
+    if (!Limits::Count(*lease, misses, service_.config.misses_per_client_hour))
+        return {429, "Too many recipe IDs that do not exist. Please try again later."};
+    return {404, "There is no recipe to send under this ID."};
+}
+
+Sending::Outcome Sending::SendUnfinished(Connection& connection, int id,
+                                         const RecipeStore::State& state,
+                                         const std::string& visitor) const {
+    if (!state.sent && service_.config.Mails()) {
+        if (!IsMailAddress(state.to))
+            return {200, NotAnAddress("Your friend's email address")};
+        if (!IsMailAddress(state.from))
+            return {200, NotAnAddress("Your email address")};
+    }
+    const auto recipe = state.sent ? std::nullopt : RecipeStore(connection).Finish(id);
+    if (!recipe)
+        return {200,
+                "This recipe has already been sent. Its recipe ID is " + std::to_string(id) + "."};
+    return MailIt(connection, *recipe, visitor);
+}
+
+/// By recipient first: whoever is mailed enough already does not use up what others may send.
+bool Sending::MayMail(Connection& connection, const std::string& to,
+                      const std::string& visitor) const {
+    const auto& config = service_.config;
+    const auto& limits = service_.limits;
+    return Limits::Count(connection, limits.Daily("mail to", Lower(to)),
+                         config.mails_per_recipient_day) &&
+           Limits::Count(connection, limits.Daily("mail by", visitor),
+                         config.mails_per_client_day) &&
+           Limits::Count(connection, limits.Daily("mails", ""), config.mails_per_day);
+}
+
+Sending::Outcome Sending::MailIt(Connection& connection, const Recipe& recipe,
+                                 const std::string& visitor) const {
+    const auto passOn = "Please tell your friend this number: it is all that Import Recipe needs.";
+    if (!service_.config.Mails())
+        return {200, Stored(recipe.id) + "This server sends no mail. " + passOn};
+    if (!MayMail(connection, recipe.to, visitor))
+        return {200, Stored(recipe.id) + "No mail was sent, as the limit for today is reached. " +
+                         passOn};
+    if (!service_.mailer.Send(recipe.to, MailOf(recipe, service_.config)))
+        return {200, Stored(recipe.id) + "The mail could not be sent just now. " + passOn};
+    RecipeStore(connection).NoteMailed(recipe.id);
+    return {200, "Your recipe has been sent to your friend. Its recipe ID is " +
+                     std::to_string(recipe.id) + "."};
+}
+
+} // namespace exchange

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "exchange/RecipeStore.h"
+#include "exchange/Router.h"
+#include "exchange/Service.h"
+
+#include <string>
+
+namespace exchange {
+
+/// /halvane/sendrecipe.asp: makes a recipe readable and mails it, once, and says in a sentence what
+/// has come of it. The sentence is for the sender and never begins with `<`.
+class Sending {
+public:
+    explicit Sending(const Service& service)
+        : service_(service) {}
+    void AddTo(Router& router);
+
+private:
+    struct Outcome {
+        int status;
+        std::string sentence;
+    };
+
+    Outcome Send(int id, const std::string& visitor) const;
+    Outcome SendUnfinished(Connection& connection, int id, const RecipeStore::State& state,
+                           const std::string& visitor) const;
+    Outcome MailIt(Connection& connection, const Recipe& recipe, const std::string& visitor) const;
+    bool MayMail(Connection& connection, const std::string& to, const std::string& visitor) const;
+
+    const Service& service_;
+};
+
+} // namespace exchange

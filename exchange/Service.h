@@ -1,0 +1,18 @@
+#pragma once
+
+#include "exchange/Config.h"
+#include "exchange/Limits.h"
+#include "exchange/Mailer.h"
+#include "exchange/Pool.h"
+
+namespace exchange {
+
+/// What every part that answers requests works with. Lives as long as the server.
+struct Service {
+    const Config& config;
+    Pool& pool;
+    const Limits& limits;
+    const Mailer& mailer;
+};
+
+} // namespace exchange

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "exchange/Router.h"
+#include "exchange/Service.h"
+
+namespace exchange {
+
+/// The pages for a browser, and the two addresses by which the server is watched.
+class Site {
+public:
+    explicit Site(const Service& service)
+        : service_(service) {}
+    void AddTo(Router& router);
+
+    /// A page below / and a JSON reason below /halvane/api/.
+    static void Fail(const httplib::Request& request, httplib::Response& response, int status,
+                     const std::string& reason);
+
+private:
+    void AddPages(Router& router);
+    void AddFiles(Router& router);
+    void AddWatches(Router& router);
+    void Community(const Ask& ask, httplib::Response& response) const;
+    void RecipePage(const Ask& ask, httplib::Response& response) const;
+
+    const Service& service_;
+};
+
+} // namespace exchange

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace exchange {
+
+std::string Trimmed(std::string_view text);
+std::string Upper(std::string_view text); ///< A to Z only
+std::string Lower(std::string_view text); ///< A to Z only
+std::string Join(const std::vector<std::string>& parts, std::string_view between);
+std::vector<std::string> SplitWords(std::string_view text, std::string_view separators);
+void ReplaceAll(std::string& text, std::string_view what, std::string_view with);
+
+/// Decimal digits alone, from least to most; anything else is nothing.
+std::optional<int> WholeNumber(std::string_view text, int least, int most);
+
+bool IsUtf8(std::string_view text);
+
+/// No control character but those of the given ones; the text is known to be UTF-8.
+bool IsPlain(std::string_view text, std::string_view allowed = {});
+
+} // namespace exchange

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "exchange/Recipe.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace exchange {
+
+/// The words that a public recipe is found by: those of its name and of its ingredients, each once,
+/// in small letters and in the singular.
+namespace Words {
+std::vector<std::string> Of(std::string_view text);
+std::vector<std::string> Of(const Recipe& recipe);
+} // namespace Words
+
+} // namespace exchange

@@ -1,0 +1,120 @@
+#include "exchange/Api.h"
+#include "exchange/Housekeeping.h"
+#include "exchange/Log.h"
+#include "exchange/Reception.h"
+#include "exchange/Schema.h"
+#include "exchange/Sending.h"
+#include "exchange/Site.h"
+#include "exchange/Text.h"
+
+#include <csignal>
+#include <iostream>
+
+namespace {
+using namespace exchange;
+
+constexpr const char* Usage =
+    "halvane-exchange [--config FILE]              serve until SIGTERM\n"
+    "halvane-exchange [--config FILE] --check      read the configuration and reach the database\n"
+    "halvane-exchange [--config FILE] --remove ID  take a recipe away for good\n";
+
+struct Command {
+    std::string config;
+    std::string action = "serve";
+    int id = 0;
+};
+
+Command ReadCommand(std::vector<std::string> words) {
+    Command command;
+    while (!words.empty()) {
+        const auto word = words.front();
+        words.erase(words.begin());
+        if (word == "--check" || word == "--help") {
+            command.action = word;
+            continue;
+        }
+        if ((word != "--config" && word != "--remove") || words.empty())
+            throw ConfigError("\n" + std::string(Usage));
+        if (word == "--config") {
+            command.config = words.front();
+        } else {
+            command.action = word;
+            command.id = WholeNumber(words.front(), 2, 0x7fffffff).value_or(0);
+        }
+        words.erase(words.begin());
+    }
+    return command;
+}
+
+/// The signals that end the server reach nobody but the one who waits for them.
+sigset_t HoldSignals() {
+    sigset_t ends;
+    sigemptyset(&ends);
+    sigaddset(&ends, SIGTERM);
+    sigaddset(&ends, SIGINT);
+    pthread_sigmask(SIG_BLOCK, &ends, nullptr);
+    std::signal(SIGPIPE, SIG_IGN);
+    return ends;
+}
+
+std::string Prepare(Pool& pool) {
+    const Pool::Lease lease(pool);
+    Schema::BringUpToDate(*lease);
+    return Limits::ReadSalt(*lease);
+}
+
+void Serve(const Config& config, Pool& pool) {
+    const auto ends = HoldSignals();
+    const Limits limits(Prepare(pool));
+    const Mailer mailer(config);
+    const Service service{config, pool, limits, mailer};
+    Api api(service);
+    Sending sending(service);
+    Site site(service);
+    Router router(config, Site::Fail);
+    api.AddTo(router);
+    sending.AddTo(router);
+    site.AddTo(router);
+    Engine engine([&](const auto& request, auto& response) { router.Answer(request, response); });
+    Reception reception(config, engine);
+    reception.Open();
+    const Housekeeping housekeeping(service);
+    reception.Start();
+    Log::Info("started",
+              {{"address", std::string_view(config.address)}, {"port", reception.Port()}});
+    int signal = 0;
+    sigwait(&ends, &signal);
+    reception.Stop();
+    Log::Info("ended");
+}
+
+int Run(const Command& command) {
+    if (command.action == "--help") {
+        std::cout << Usage;
+        return 0;
+    }
+    const auto config = Config::Read(command.config);
+    Pool pool(config.database);
+    if (command.action == "serve") {
+        Serve(config, pool);
+        return 0;
+    }
+    const Pool::Lease lease(pool);
+    if (command.action == "--check") {
+        Schema::Check(*lease);
+        return 0;
+    }
+    const bool removed = RecipeStore(*lease).Remove(command.id);
+    std::cout << (removed ? "The recipe is removed.\n" : "There is no such recipe.\n");
+    return removed ? 0 : 1;
+}
+} // namespace
+
+int main(int argc, char** argv) {
+    try {
+        return Run(ReadCommand({argv + 1, argv + argc}));
+    } catch (const std::exception& error) {
+        std::cerr << "halvane-exchange: " << error.what() << "\n";
+        return 2;
+    }
+}

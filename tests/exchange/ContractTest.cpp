@@ -1,0 +1,193 @@
+#include "support/ExchangeTest.h"
+
+#include <set>
+
+/// What the program relies on when it imports and sends; docs/exchange.md is where it is written.
+class ContractTest : public ExchangeTest {
+protected:
+    void SetUp() override { Start(); }
+    std::string Path(int id) { return "/halvane/api/recipes/" + std::to_string(id); }
+    json Ingredients(int id) { return json::parse(Text(Path(id) + "/ingredients")); }
+    void ExpectRefused(const httplib::Result& reply, int status) {
+        ASSERT_TRUE(reply);
+        EXPECT_EQ(reply->status, status) << reply->body;
+        EXPECT_FALSE(json::parse(reply->body)["reason"].get<std::string>().empty());
+    }
+};
+ON_BOTH_DATABASES(ContractTest);
+
+TEST_P(ContractTest, ASentRecipeIsReadByItsID) {
+    const int id = Send();
+    const auto recipe = json::parse(Text(Path(id)));
+    EXPECT_EQ(recipe, (json{{"RecipeID", id},
+                            {"RecipeName", "Lentil soup"},
+                            {"ServingName", "1 bowl"},
+                            {"RecipeYield", 4},
+                            {"PrepTime", 45.5},
+                            {"Instructions", "Rinse the lentils.\nSimmer."}}));
+}
+
+TEST_P(ContractTest, TheFieldsStandInTheOrderOfTheTable) {
+    const auto fields = Ingredients(Send())["fields"];
+    ASSERT_EQ(fields.size(), 36U);
+    const char* expected[] = {
+        "ID",          "Calories",   "TotalFat",  "SatFat",     "MonoFat",   "PolyFat",
+        "Cholesterol", "Sodium",     "carbs",     "fiber",      "Protein",   "Calcium",
+        "Copper",      "Folate",     "Iron",      "Magnesium",  "Manganese", "Niacin",
+        "Panto",       "Phosphorus", "Potassium", "Riboflavin", "Selenium",  "Thiamin",
+        "VitaminA",    "VitaminB12", "VitaminB6", "VitaminC",   "VitaminE",  "Zinc",
+        "Ash",         "Water",      "FoodName",  "Serving",    "RecipeID",  "QTY"};
+    for (size_t i = 0; i < 36; ++i)
+        EXPECT_EQ(fields[i], expected[i]);
+}
+
+TEST_P(ContractTest, RowsComeBackAsTheyWereSentInTheirOrder) {
+    const int id = Send(Soup(), json::array({Row(0.1), Row(1e-7, "Onions"), Row(123456789.125)}));
+    const auto rows = Ingredients(id)["rows"];
+    ASSERT_EQ(rows.size(), 3U);
+    EXPECT_EQ(rows[0][1], 0.1);
+    EXPECT_EQ(rows[1][1], 1e-7);
+    EXPECT_EQ(rows[2][1], 123456789.125);
+    EXPECT_EQ(rows[1][31], 31.25);
+    EXPECT_EQ(rows[1][32], "Onions");
+    EXPECT_EQ(rows[1][33], "1 cup");
+    for (const auto& row : rows)
+        EXPECT_EQ(row[34], id);
+}
+
+TEST_P(ContractTest, NullsAndMissingPositionsStayNull) {
+    auto row = json::array({17, nullptr, 5});
+    const int id = Send(Soup(), json::array({row}));
+    const auto stored = Ingredients(id)["rows"][0];
+    ASSERT_EQ(stored.size(), 36U);
+    EXPECT_TRUE(stored[1].is_null());
+    EXPECT_EQ(stored[2], 5);
+    for (const size_t position : {3, 31, 32, 33, 35})
+        EXPECT_TRUE(stored[position].is_null()) << position;
+    EXPECT_EQ(stored[34], id);
+}
+
+TEST_P(ContractTest, TheRecipeIDOfARowIsAlwaysThatOfThePath) {
+    auto row = Row(10);
+    row.push_back(4711);
+    row.push_back(2.5);
+    const int id = Send(Soup(), json::array({row}));
+    EXPECT_EQ(Ingredients(id)["rows"][0][34], id);
+    EXPECT_EQ(Ingredients(id)["rows"][0][35], 2.5);
+}
+
+TEST_P(ContractTest, ARecipeWithoutIngredientsIsSentAndHasNoRows) {
+    const int id = Send(Soup(), json::array());
+    EXPECT_EQ(Ingredients(id)["rows"], json::array());
+}
+
+TEST_P(ContractTest, AnUnknownIDIsNotFound) {
+    ExpectRefused(Get(Path(123456)), 404);
+    ExpectRefused(Get(Path(123456) + "/ingredients"), 404);
+}
+
+TEST_P(ContractTest, ARecipeCannotBeReadBeforeItIsSent) {
+    const auto created = Create();
+    Add(created, json::array({Row(1)}));
+    ExpectRefused(Get(Path(created.id)), 404);
+    ExpectRefused(Get(Path(created.id) + "/ingredients"), 404);
+    Text("/halvane/sendrecipe.asp?recID=" + std::to_string(created.id));
+    EXPECT_FALSE(Text(Path(created.id)).empty());
+}
+
+TEST_P(ContractTest, TheSameRecipeTwiceIsTwoRecipes) {
+    EXPECT_NE(Send(), Send());
+    EXPECT_EQ(Count("SELECT COUNT(*) FROM recipes"), 2);
+}
+
+TEST_P(ContractTest, IDsAreLargeRandomNumbers) {
+    std::set<int> ids;
+    for (int i = 0; i < 20; ++i)
+        ids.insert(Create().id);
+    EXPECT_EQ(ids.size(), 20U);
+    EXPECT_GE(*ids.begin(), 2);
+    EXPECT_GT(*ids.rbegin(), 1'000'000);
+}
+
+TEST_P(ContractTest, OnlyTheCreatorAddsIngredients) {
+    const auto one = Create();
+    const auto other = Create();
+    const auto path = Path(one.id) + "/ingredients";
+    const json body = {{"rows", json::array({Row(1)})}};
+    ExpectRefused(Post(path, body), 403);
+    ExpectRefused(Post(path, body, "wrong"), 403);
+    ExpectRefused(Post(path, body, other.token), 403);
+    ExpectRefused(Post(Path(99) + "/ingredients", body, one.token), 403);
+    EXPECT_EQ(Count("SELECT COUNT(*) FROM ingredients"), 0);
+}
+
+TEST_P(ContractTest, ASentRecipeTakesNoMoreIngredients) {
+    const auto created = Create();
+    Text("/halvane/sendrecipe.asp?recID=" + std::to_string(created.id));
+    const json body = {{"rows", json::array({Row(1)})}};
+    ExpectRefused(Post(Path(created.id) + "/ingredients", body, created.token), 409);
+    EXPECT_EQ(Count("SELECT COUNT(*) FROM ingredients"), 0);
+}
+
+TEST_P(ContractTest, IngredientsCanComeInSeveralRequests) {
+    const auto created = Create();
+    Add(created, json::array({Row(1), Row(2)}));
+    Add(created, json::array({Row(3)}));
+    Text("/halvane/sendrecipe.asp?recID=" + std::to_string(created.id));
+    const auto rows = Ingredients(created.id)["rows"];
+    ASSERT_EQ(rows.size(), 3U);
+    EXPECT_EQ(rows[2][0], 3);
+    EXPECT_EQ(rows[2][1], 3);
+}
+
+TEST_P(ContractTest, OneBadRowAmongGoodOnesStoresNone) {
+    const auto created = Create();
+    auto bad = Row(1);
+    bad[5] = "much";
+    ExpectRefused(Post(Path(created.id) + "/ingredients",
+                       {{"rows", json::array({Row(1), bad, Row(2)})}}, created.token),
+                  400);
+    EXPECT_EQ(Count("SELECT COUNT(*) FROM ingredients"), 0);
+    EXPECT_EQ(Count("SELECT IngredientCount FROM recipes"), 0);
+}
+
+TEST_P(ContractTest, MoreIngredientsThanTheLimitAreRefusedTogetherOrBitByBit) {
+    Restart({{"ingredients_per_recipe", "3"}});
+    const auto created = Create();
+    const auto path = Path(created.id) + "/ingredients";
+    ExpectRefused(
+        Post(path, {{"rows", json::array({Row(1), Row(2), Row(3), Row(4)})}}, created.token), 413);
+    Add(created, json::array({Row(1), Row(2)}));
+    ExpectRefused(Post(path, {{"rows", json::array({Row(3), Row(4)})}}, created.token), 413);
+    Add(created, json::array({Row(3)}));
+    EXPECT_EQ(Count("SELECT COUNT(*) FROM ingredients"), 3);
+}
+
+TEST_P(ContractTest, TheTablesHoldWhatTheSenderGave) {
+    Create(Soup(false));
+    EXPECT_EQ(Cell("SELECT EMAILFROM FROM recipes"), "anna@example.com");
+    EXPECT_EQ(Cell("SELECT EMAILTO FROM recipes"), "bert@example.org");
+    EXPECT_EQ(Count("SELECT ISPUBLIC FROM recipes"), 0);
+    EXPECT_EQ(Count("SELECT COUNT(*) FROM recipes WHERE PrepTime = 45.5 AND RecipeYield = 4"), 1);
+}
+
+TEST_P(ContractTest, TextsOfEveryKindComeBackToTheLetter) {
+    auto recipe = Soup();
+    recipe["RecipeName"] = "Crème brûlée \"à l'ancienne\" 🍮 ~^| {{name}} %s \\ '";
+    recipe["Instructions"] = "1\t2\r\n3 </script> &amp; :id ?";
+    const auto stored = json::parse(Text(Path(Send(recipe))));
+    EXPECT_EQ(stored["RecipeName"], recipe["RecipeName"]);
+    EXPECT_EQ(stored["Instructions"], recipe["Instructions"]);
+}
+
+TEST_P(ContractTest, TheTokenIsNotStored) {
+    const auto created = Create();
+    EXPECT_EQ(created.token.size(), 64U);
+    EXPECT_EQ(Count("SELECT COUNT(*) FROM recipes WHERE Token = '" + created.token + "'"), 0);
+}
+
+TEST_P(ContractTest, WhatWasSentIsThereAfterARestart) {
+    const int id = Send();
+    Restart();
+    EXPECT_EQ(json::parse(Text(Path(id)))["RecipeName"], "Lentil soup");
+}

@@ -1,0 +1,43 @@
+#include "support/Server.h"
+
+#include "support/Until.h"
+
+#include "exchange/Text.h"
+
+#include <csignal>
+#include <gtest/gtest.h>
+#include <regex>
+
+std::string Server::Program() {
+    return HALVANE_EXCHANGE_PROGRAM;
+}
+
+Server::Server(Settings settings) {
+    settings.try_emplace("port", "0");
+    Process::Environment environment;
+    for (const auto& [name, value] : settings)
+        environment["HALVANE_EXCHANGE_" + exchange::Upper(name)] = value;
+    process_ = std::make_unique<Process>(std::vector<std::string>{Program()}, environment,
+                                         folder_ / "log");
+    const auto started = [&] {
+        std::smatch found;
+        const auto log = Log();
+        if (std::regex_search(log, found, std::regex(R"("started".*"port":(\d+))")))
+            port_ = std::stoi(found[1]);
+        return port_ != 0 || !process_->Runs();
+    };
+    EXPECT_TRUE(Until(started) && port_ != 0) << Log();
+}
+
+httplib::Client Server::Client() const {
+    httplib::Client client("127.0.0.1", port_);
+    client.set_keep_alive(true);
+    client.set_tcp_nodelay(true);
+    client.set_read_timeout(30);
+    return client;
+}
+
+int Server::End() {
+    process_->Signal(SIGTERM);
+    return process_->Wait();
+}
