@@ -66,6 +66,7 @@ ucBarChart::ucBarChart(QWidget* parent)
     AddRows();
     TrackParts();
     resize(sizeHint());
+    PlaceAll();
     Toggle(GetRegValue(ModeSetting) == ValuesMode ? 1 : 0);
 }
 
@@ -106,6 +107,10 @@ QSize ucBarChart::sizeHint() const {
 }
 
 void ucBarChart::resizeEvent(QResizeEvent*) {
+    PlaceAll();
+}
+
+void ucBarChart::PlaceAll() {
     const int labelHeight = LabelHeight(height());
     PlaceHead(Twips::ToPixels(labelHeight - Overlap + FirstTop) + HeaderDrop);
     for (int i = 1; i <= int(rows_.size()); ++i)

@@ -46,6 +46,7 @@ protected:
 private:
     void AddHead();
     void AddRows();
+    void PlaceAll();
     void PlaceHead(int height);
     void PlaceRow(int i, int labelHeight);
     void AdjustToAverageWeight(const Period& period);
