@@ -2,7 +2,6 @@
 
 #include "foods/Logix.h"
 #include "model/Nutrients.h"
-#include "model/User.h"
 #include "recipes/RecipeStore.h"
 #include "store/Connection.h"
 #include "store/Recordset.h"
@@ -22,20 +21,6 @@ protected:
     QVariantList Amounts(const QString& where) {
         const auto rows = Rows(UserDB(), "SELECT * FROM Ingredients WHERE " + where);
         return rows.isEmpty() ? QVariantList() : rows.first().mid(1, NutrientCount);
-    }
-
-    void LogRecipe(qint32 recipe, int day) {
-        const ScaledFood item = ScaledFood::FromRecipe(recipe, 1);
-        SQLite::Statement insert(UserDB().Raw(),
-                                 "INSERT INTO USER_FOODS (UID, FoodName, Serving, ID, Meal, UDate, "
-                                 "QTY, Calories) VALUES (?, ?, ?, ?, 'Lunch', ?, 1, ?)");
-        insert.bind(1, User::Current().UID);
-        insert.bind(2, item.Text("FOODNAME").toStdString());
-        insert.bind(3, item.Text("SERVING").toStdString());
-        insert.bind(4, recipe);
-        insert.bind(5, QDate(2002, 3, day).toString(Qt::ISODate).toStdString());
-        insert.bind(6, item.Amount("Calories"));
-        insert.exec();
     }
 };
 
@@ -104,19 +89,6 @@ TEST_F(RecipeStoreTest, WhatIngredientsADeletedRecipeLeavesAreNoNewRecipesOwn) {
     AddIngredients(gone, 3);
     RecipeStore::DeleteRecipe(gone);
     EXPECT_EQ(RecipeStore::CaloriesPerServing(RecipeStore::AddRecipe(), "1"), "Calories: --");
-}
-
-TEST_F(RecipeStoreTest, ARecipeDeletedWhileLoggedOnTenDaysStaysInTheLog) {
-    const qint32 recipe = AddRecipe("Soup", "1 bowl");
-    AddIngredients(recipe, 3, 200);
-    for (int day = 1; day <= 10; ++day)
-        LogRecipe(recipe, day);
-    RecipeStore::DeleteRecipe(recipe);
-    EXPECT_EQ(Count("USER_FOODS", "FoodName = 'Soup' AND Serving = '1 bowl' AND Calories = 600"),
-              10);
-    EXPECT_EQ(Users("SELECT sum(Calories) FROM USER_FOODS").toDouble(), 6000);
-    RecipeStore::AddRecipe();
-    EXPECT_EQ(Count("Recipes", "RecipeID = " + QString::number(recipe)), 0);
 }
 
 TEST_F(RecipeStoreTest, ARecipeWithoutIngredientsShowsNoCalories) {
