@@ -1,3 +1,4 @@
+#include "BareStore.h"
 #include "Ground.h"
 #include "Table.h"
 
@@ -24,13 +25,6 @@ struct DayParts {
     }
 };
 
-void ReadAll(SQLite::Database& database, const std::string& sql) {
-    SQLite::Statement statement(database, sql);
-    while (statement.executeStep())
-        for (int i = 0; i < statement.getColumnCount(); ++i)
-            benchmark::DoNotOptimize(statement.getColumn(i).getText());
-}
-
 std::string DaySums(const std::string& where) {
     std::string sums;
     for (const NutrientInfo& row : Nutrients())
@@ -56,9 +50,11 @@ void DayChangeLimit(benchmark::State& state) {
         const std::string day = Ground::Day(index).toString(Qt::ISODate).toStdString();
         const std::string uid = std::to_string(User::Current().UID);
         for (const char* meal : {"BREAKFAST", "LUNCH", "DINNER", "SNACKS"})
-            ReadAll(UserDB().Raw(), "SELECT * FROM USER_FOODS WHERE UID =" + uid + " AND MEAL = '" +
-                                        meal + "' AND UDate = '" + day + "'");
-        ReadAll(UserDB().Raw(), DaySums(" WHERE UID=" + uid + " AND UDate = '" + day + "'"));
+            BareStore::Read(UserDB().Raw(), "SELECT * FROM USER_FOODS WHERE UID =" + uid +
+                                                " AND MEAL = '" + meal + "' AND UDate = '" + day +
+                                                "'");
+        BareStore::Read(UserDB().Raw(),
+                        DaySums(" WHERE UID=" + uid + " AND UDate = '" + day + "'"));
         index += 37;
     }
 }

@@ -1,0 +1,31 @@
+#include "BareStore.h"
+
+#include "foods/SearchTerms.h"
+#include "store/Connection.h"
+#include "store/Dialect.h"
+
+#include <SQLiteCpp/SQLiteCpp.h>
+
+#include <benchmark/benchmark.h>
+
+static constexpr int searchRowsRead = 201;
+
+SQLite::Database BareStore::Open(const Connection& connection) {
+    return SQLite::Database(connection.Path().toStdString(), SQLite::OPEN_READONLY);
+}
+
+void BareStore::Read(SQLite::Database& database, const std::string& sql, int most) {
+    SQLite::Statement statement(database, sql);
+    for (int row = 0; row != most && statement.executeStep(); ++row)
+        for (int i = 0; i < statement.getColumnCount(); ++i)
+            benchmark::DoNotOptimize(statement.getColumn(i).getText());
+}
+
+void BareStore::Search(SQLite::Database& users, SQLite::Database& foods, const SearchTerms& terms) {
+    const auto read = [](SQLite::Database& database, const QString& source) {
+        Read(database, Dialect::Adapt(source, false).sql.toStdString(), searchRowsRead);
+    };
+    read(users, terms.RecipeSQL());
+    read(foods, terms.CustomSQL());
+    read(foods, terms.StockSQL());
+}

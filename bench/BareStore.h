@@ -1,0 +1,21 @@
+#pragma once
+
+#include <string>
+
+class Connection;
+class SearchTerms;
+namespace SQLite {
+class Database;
+}
+
+/// The store without the program: what a work is measured against.
+namespace BareStore {
+/// A connection of its own to the same file, with the functions that the store comes with.
+SQLite::Database Open(const Connection& connection);
+
+/// Reads every field of the first `most` rows, of all where that is negative.
+void Read(SQLite::Database& database, const std::string& sql, int most = -1);
+
+/// The statements of a search in all three sources.
+void Search(SQLite::Database& users, SQLite::Database& foods, const SearchTerms& terms);
+} // namespace BareStore
