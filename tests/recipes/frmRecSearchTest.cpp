@@ -8,6 +8,7 @@
 #include "recipes/ucIngredients.h"
 #include "runtime/Settings.h"
 #include "store/Connection.h"
+#include "store/Schema.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -131,7 +132,7 @@ TEST_F(frmRecSearchTest, AFoodThatCannotBeAddedShowsNoNotice) {
     Search(*dialog.Panel(), "bread");
     UserDB().Raw().exec("CREATE TRIGGER full BEFORE INSERT ON Ingredients "
                         "BEGIN SELECT RAISE(ABORT, 'full'); END");
-    auto* row = qobject_cast<ucFood*>(Rows(*dialog.Panel()).value(0));
+    auto* row = Rows(*dialog.Panel()).value(0);
     EXPECT_LT(FailureOf([&] { row->EatFood(7, "A", 1, false); }), 0);
     EXPECT_FALSE(Notice()->isVisible());
     EXPECT_EQ(Count("Ingredients"), 0);
@@ -161,6 +162,29 @@ TEST_F(frmRecSearchTest, ARecipeCanBecomeAnIngredientOfAnotherAndOfItself) {
               (QVariantList{"Bread soup", "1 bowl", 2.0, 24.0, 600.0}));
     Add("my recipe", "1");
     EXPECT_EQ(Count("Ingredients", "FoodName = 'My Recipe'"), 1);
+}
+
+TEST_F(frmRecSearchTest, AnOwnFoodCountsAsItWasTypedTimesTheQuantity) {
+    AddFood({.id = Schema::LastStockFood + 1,
+             .name = "Granola of mine",
+             .servA = "1 handful",
+             .servB = "",
+             .nutrients = {{"Calories", 180}, {"Protein", 4.5}}});
+    Add("granola", "1.5");
+    EXPECT_EQ(Rows(UserDB(), "SELECT Calories, Protein, Serving, QTY FROM Ingredients").value(0),
+              (QVariantList{270.0, 6.75, "1 handful", 1.5}));
+}
+
+TEST_F(frmRecSearchTest, AnOwnFoodDeletedWhileItsResultRowStandsFailsAndAddsNothing) {
+    const int own = Schema::LastStockFood + 1;
+    AddFood({.id = own, .name = "Granola of mine"});
+    Search(*dialog.Panel(), "granola");
+    FoodDB().Raw().exec("DELETE FROM FOODS");
+    auto* row = Rows(*dialog.Panel()).value(0);
+    EXPECT_EQ(FailureOf([&] { row->EatFood(own, "A", 1, false); }), 3021);
+    EXPECT_EQ(FailureOf([&] { row->ExamineFood(own, "A", 1, false); }), 3021);
+    EXPECT_EQ(Count("Ingredients"), 0);
+    EXPECT_FALSE(Notice()->isVisible());
 }
 
 TEST_F(frmRecSearchTest, MovingTheMouseOverFormOrPanelResetsTheButtons) {
