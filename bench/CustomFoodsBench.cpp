@@ -63,11 +63,17 @@ struct Opened {
     }
 };
 
+/// Each value as what it is stored as.
 void ReadAll(const char* sql) {
     SQLite::Statement statement(FoodDB().Raw(), sql);
     while (statement.executeStep())
-        for (int i = 0; i < statement.getColumnCount(); ++i)
-            benchmark::DoNotOptimize(statement.getColumn(i).getText());
+        for (int i = 0; i < statement.getColumnCount(); ++i) {
+            const SQLite::Column value = statement.getColumn(i);
+            if (value.isText())
+                benchmark::DoNotOptimize(value.getText());
+            else
+                benchmark::DoNotOptimize(value.getDouble());
+        }
 }
 
 void Run(const std::string& sql) {
