@@ -19,12 +19,12 @@ public:
     explicit frmFoodList(QWidget* parent = nullptr);
 
     void ListFoods(); ///< refills the list and restores the choice
-    void NewFood();
+    void NewFood();   ///< empties the form for a food that is not stored yet
     void clearFields();
-    void FieldLock(bool on);
+    void FieldLock(bool on);  ///< all fields usable, or not
     void UIMode(qint32 mode); ///< 0 nothing chosen, 1 a stored food is shown, 2 a new one is typed
-    void doChange();
-    void SaveFood(qint32 id);
+    void doChange();          ///< a field has changed: it can be saved or taken back
+    void SaveFood(qint32 id); ///< writes the form to the row of that key, which must exist
     void LoadFood(qint32 id);
 
     int Mode() const { return mode_; }
