@@ -35,6 +35,7 @@ void SetFonts(Style& style) {
     style.control = FontAt(10, QFont::Medium);
     style.title = FontAt(10, QFont::DemiBold);
     style.reading = FontAt(10, QFont::Normal);
+    style.chartNotice = FontAt(12, QFont::Bold);
     style.raised = FontAt(14, QFont::DemiBold);
 }
 
@@ -110,6 +111,18 @@ void SetChartColours(Style& style) {
     style.pieCarbs = QColor(56, 250, 59);
 }
 
+void SetLineColours(Style& style) {
+    style.ln[0] = {QColor(237, 205, 205), 10};
+    style.ln[1] = {QColor(208, 158, 159), 8};
+    style.ln[2] = {QColor(128, 0, 0), 6};
+    style.ln[3] = {QColor(192, 0, 0), 4};
+    style.ln[4] = {QColor(255, 128, 128), 2};
+    style.lineAxis = QColor(0, 0, 0);
+    style.lineDotEdge = QColor(255, 170, 170);
+    style.lineDotCore = QColor(255, 200, 200);
+    style.chartNoticeInk = QColor(255, 0, 0);
+}
+
 Style MakeStyle() {
     Style style;
     SetFonts(style);
@@ -117,6 +130,7 @@ Style MakeStyle() {
     SetInks(style);
     SetButtons(style);
     SetChartColours(style);
+    SetLineColours(style);
     return style;
 }
 

@@ -17,6 +17,10 @@ struct Style {
         QColor edge;
         QColor text;
     };
+    struct LinePen {
+        QColor colour;
+        int width; ///< pixels
+    };
 
     QColor canvas;   ///< behind everything in the nest
     QColor paper;    ///< boxes, lists, cards
@@ -53,6 +57,9 @@ struct Style {
     QColor gridLight, gridDark, barRowText, barRowHover;
     QColor pieFat, pieProtein, pieCarbs;
     QColor barNormal[8], barHover[8]; ///< rows of the bar pictures, top to bottom
+    LinePen ln[5];                    ///< pens of the weight line; it is drawn with the last two
+    QColor lineAxis, lineDotEdge, lineDotCore;
+    QColor chartNoticeInk; ///< what stands on a chart without data
 
     QColor cardLine;   ///< the line below a recipe's name
     QColor cardRuling; ///< the faint lines of the card
@@ -72,6 +79,7 @@ struct Style {
     QFont control;     ///< 10 points medium, captions of buttons
     QFont title;       ///< 10 points semi-bold, title bars, headers and strips
     QFont reading;     ///< 10 points, instructions to cook from
+    QFont chartNotice; ///< 12 points bold
     QFont raised;      ///< 14 points semi-bold, ucTextRaised
 };
 
