@@ -10,40 +10,30 @@ constexpr int stripHeight = 34;
 constexpr int firstLeft = 6;
 constexpr int pictureSize = 16;
 
-struct ViewButton {
-    const char *name, *picture, *tip;
-};
-constexpr ViewButton views[] = {
-    {"cmdBar", "bars", "Bar chart of percent RDI"},
-    {"cmdVals", "values", "Numeric daily totals"},
-    {"cmdPIEChart", "pie", "Pie chart of caloric breakdown"},
-};
-
 } // namespace
 
-ViewButtons::ViewButtons(QWidget* parent)
+ViewButtons::ViewButtons(std::span<const ViewButton> views, QWidget* parent)
     : QWidget(parent) {
-    setObjectName(QStringLiteral("Picture1"));
-    for (size_t mode = 0; mode < buttons_.size(); ++mode)
-        buttons_[mode] = AddButton(int(mode));
+    for (const ViewButton& view : views)
+        buttons_.push_back(AddButton(view));
 }
 
-ucButtonA* ViewButtons::AddButton(int mode) {
-    const ViewButton& view = views[mode];
+ucButtonA* ViewButtons::AddButton(const ViewButton& view) {
+    const int number = int(buttons_.size());
     auto* button = new ucButtonA(this);
     button->setObjectName(QLatin1String(view.name));
     button->SetPictures(QLatin1String(view.picture), QLatin1String(view.tip));
     button->SetPictureSize(QSize(pictureSize, pictureSize));
     button->SetBordered(true);
     const QString lowerName = button->objectName().toLower();
-    connect(button, &ucButtonA::Click, this, [this, mode] { Q_EMIT Asked(mode); });
+    connect(button, &ucButtonA::Click, this, [this, number] { Q_EMIT Asked(number); });
     connect(button, &ucButtonA::MouseMove, this, [this, lowerName] { Q_EMIT Hovered(lowerName); });
     return button;
 }
 
-void ViewButtons::SetChosen(int mode) {
+void ViewButtons::SetChosen(int view) {
     for (size_t i = 0; i < buttons_.size(); ++i)
-        buttons_[i]->SetChosen(int(i) == mode);
+        buttons_[i]->SetChosen(int(i) == view);
 }
 
 void ViewButtons::ResetAllBut(const QString& name) {

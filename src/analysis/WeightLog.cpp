@@ -1,28 +1,23 @@
 #include "analysis/WeightLog.h"
 
+#include "analysis/LoggedSums.h"
 #include "model/User.h"
-#include "runtime/Dates.h"
 #include "store/Connection.h"
 #include "store/Recordset.h"
 
 namespace {
 
-QString OfUser() {
-    return QString::number(User::Current().UID) + u" AND ";
-}
-
-QString Between(QDate start, QDate end) {
-    return u"UDate Between #" + Dates::ShortText(start) + u"# AND #" + Dates::ShortText(end) +
-           u"# ";
+QString OfUser(const Period& period) {
+    return QString::number(User::Current().UID) + " AND " + LoggedSums::Between(period) + " ";
 }
 
 } // namespace
 
-std::vector<WeightLog::Entry> WeightLog::Entries(QDate start, QDate end) {
+std::vector<WeightLog::Entry> WeightLog::Entries(const Period& period) {
     Recordset rows(UserDB(),
                    "SELECT * FROM USER_WEIGHTS "
                    " WHERE Weight > 0 AND UID=" +
-                       OfUser() + Between(start, end) + "ORDER BY UDate",
+                       OfUser(period) + "ORDER BY UDate",
                    Cursor::Static, Lock::Optimistic);
     std::vector<Entry> entries;
     entries.reserve(static_cast<size_t>(rows.RecordCount()));
@@ -33,12 +28,12 @@ std::vector<WeightLog::Entry> WeightLog::Entries(QDate start, QDate end) {
     return entries;
 }
 
-WeightLog::Extremes WeightLog::LeastAndGreatest(QDate start, QDate end) {
+WeightLog::Extremes WeightLog::LeastAndGreatest(const Period& period) {
     Recordset row(UserDB(),
-                  "SELECT  Min(Weight) As [MinWeight], Max(Weight) As [MaxWeight] FROM "
-                  "USER_WEIGHTS "
+                  "SELECT  Min(Weight) As [MinWeight], Max(Weight) As [MaxWeight] "
+                  "FROM USER_WEIGHTS "
                   " WHERE  Weight > 0 AND UID=" +
-                      OfUser() + Between(start, end),
+                      OfUser(period),
                   Cursor::Static, Lock::ReadOnly);
     const Extremes extremes{row[QStringLiteral("MinWeight")].Integer(),
                             row[QStringLiteral("MaxWeight")].Integer()};

@@ -4,6 +4,8 @@
 
 #include <vector>
 
+struct Period;
+
 /// The weights that the current user has entered. An entry of 0 is one that was taken back: it is
 /// passed over.
 namespace WeightLog {
@@ -16,7 +18,7 @@ struct Extremes {
     qint32 min, max; ///< rounded half to even
 };
 
-std::vector<Entry> Entries(QDate start, QDate end); ///< of the period, in the order of days
-Extremes LeastAndGreatest(QDate start, QDate end);  ///< of a period that has entries
+std::vector<Entry> Entries(const Period& period); ///< in the order of their days
+Extremes LeastAndGreatest(const Period& period);  ///< of a period that has entries
 
 } // namespace WeightLog

@@ -27,6 +27,11 @@ constexpr int ViewModes = 3;
 constexpr const char* Modes[ViewModes] = {"RDI", "VALS", "PIE"};
 constexpr const char* StripCaptions[ViewModes] = {" Percent RDI", " Nutrient Values",
                                                   " Caloric Breakdown"};
+constexpr ViewButton Views[ViewModes] = {
+    {"cmdBar", "bars", "Bar chart of percent RDI"},
+    {"cmdVals", "values", "Numeric daily totals"},
+    {"cmdPIEChart", "pie", "Pie chart of caloric breakdown"},
+};
 const QString ModeSetting = QStringLiteral("DAILYMODE");
 
 // Pixels.
@@ -80,7 +85,8 @@ void ucDaily::AddHead() {
     strip_ = new ucStrip(this);
     strip_->setObjectName(QStringLiteral("ucStrip"));
     WatchPointer(strip_);
-    buttons_ = new ViewButtons(this);
+    buttons_ = new ViewButtons(Views, this);
+    buttons_->setObjectName(QStringLiteral("Picture1"));
     WatchPointer(buttons_);
     connect(buttons_, &ViewButtons::Asked, this, &ucDaily::Toggle);
     connect(buttons_, &ViewButtons::Hovered, this, &ucDaily::AllOff);

@@ -2,6 +2,7 @@
 
 #include "analysis/AxisLabel.h"
 #include "analysis/DateAxis.h"
+#include "analysis/LoggedSums.h"
 #include "analysis/TwipsSurface.h"
 #include "analysis/WeightAxis.h"
 #include "runtime/AppState.h"
@@ -56,6 +57,7 @@ ucLineChart::ucLineChart(QWidget* parent)
     AddHeader();
     AddLabels();
     resize(sizeHint());
+    PlaceAll();
 }
 
 void ucLineChart::AddHeader() {
@@ -98,14 +100,15 @@ void ucLineChart::showEvent(QShowEvent* event) {
 }
 
 void ucLineChart::updateLineChart(QDate startDate, QDate endDate) {
+    const Period period{startDate, endDate};
     noData_ = false;
     Liner({});
-    entries_ = WeightLog::Entries(startDate, endDate);
+    entries_ = WeightLog::Entries(period);
     noData_ = entries_.empty();
     if (!noData_) {
         const DateAxis dates(entries_.front().day, entries_.back().day);
         ShowDates(dates);
-        const auto [min, max] = WeightLog::LeastAndGreatest(startDate, endDate);
+        const auto [min, max] = WeightLog::LeastAndGreatest(period);
         const WeightAxis weights(min, max, dates.Days());
         ShowWeights(weights);
         Liner(Plotted(dates, weights));
@@ -218,6 +221,10 @@ void ucLineChart::paintEvent(QPaintEvent*) {
 }
 
 void ucLineChart::resizeEvent(QResizeEvent*) {
+    PlaceAll();
+}
+
+void ucLineChart::PlaceAll() {
     ucHeader1_->setGeometry(1, 1, width() - 2, TheStyle().headerHeight);
     for (AxisLabel* label : lblDate_)
         label->SetTop(Twips::FromPixels(height()) - DateLabelFoot);

@@ -53,6 +53,7 @@ protected:
 private:
     void AddHeader();
     void AddLabels();
+    void PlaceAll();
     void ShowDates(const DateAxis& axis);
     void ShowWeights(const WeightAxis& axis);
     std::vector<PlotPoint> Plotted(const DateAxis& dates, const WeightAxis& weights) const;
