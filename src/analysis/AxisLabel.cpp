@@ -1,16 +1,20 @@
 #include "analysis/AxisLabel.h"
 
-#include "toolkit/SmoothedPrint.h"
 #include "toolkit/Style.h"
 #include "toolkit/Twips.h"
 
 #include <QPainter>
 
+namespace {
+
+constexpr int TextMargin = 2; ///< pixels on both sides that lines keep away
+
+} // namespace
+
 AxisLabel::AxisLabel(const QRectF& place, Qt::Alignment alignment, QWidget* parent)
-    : ChartPiece(parent)
-    , place_(place)
-    , alignment_(alignment) {
-    setMouseTracking(true);
+    : ChartLabel(parent)
+    , place_(place) {
+    SetAlignment(alignment | Qt::AlignVCenter);
     Place();
 }
 
@@ -29,11 +33,9 @@ void AxisLabel::Place() {
                 Twips::ToPixels(place_.width()), Twips::ToPixels(place_.height()));
 }
 
-void AxisLabel::Print(QPainter& painter) const {
-    const Style& style = TheStyle();
-    painter.fillRect(geometry(), style.paper);
-    painter.setFont(SmoothedFont(style.small));
-    painter.setPen(style.ink);
-    painter.drawText(geometry(), int(alignment_ | Qt::AlignVCenter | Qt::TextDontClip),
-                     FittingText(caption_, style.small, width()));
+void AxisLabel::paintEvent(QPaintEvent* event) {
+    const int reach = qMin(sizeHint().width() / 2 + TextMargin, width() / 2);
+    if (Alignment().testFlag(Qt::AlignHCenter))
+        QPainter(this).fillRect(width() / 2 - reach, 0, 2 * reach, height(), TheStyle().paper);
+    ChartLabel::paintEvent(event);
 }

@@ -39,6 +39,6 @@ void ChartLabel::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setPen(foreColor_);
     const bool fits = TextWidth() <= width();
-    painter.drawText(contentsRect(), Qt::AlignLeft | Qt::AlignBottom,
+    painter.drawText(contentsRect(), int(alignment_),
                      fits ? caption_ : fontMetrics().elidedText(caption_, Qt::ElideRight, width()));
 }

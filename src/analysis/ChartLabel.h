@@ -17,6 +17,8 @@ public:
     void SetCaption(const QString& caption);
     QColor ForeColor() const { return foreColor_; }
     void SetForeColor(const QColor& color);
+    Qt::Alignment Alignment() const { return alignment_; }
+    void SetAlignment(Qt::Alignment alignment) { alignment_ = alignment; }
     QString SpokenName() const override { return caption_; }
     QSize sizeHint() const override;
 
@@ -29,4 +31,5 @@ private:
     QString caption_;
     mutable int textWidth_ = 0; ///< of the caption; negative until it is measured
     QColor foreColor_;
+    Qt::Alignment alignment_ = Qt::AlignLeft | Qt::AlignBottom;
 };

@@ -1,6 +1,6 @@
 #include "analysis/WeightLog.h"
 
-#include "analysis/LoggedSums.h"
+#include "analysis/Period.h"
 #include "model/User.h"
 #include "store/Connection.h"
 #include "store/Recordset.h"
@@ -8,7 +8,7 @@
 namespace {
 
 QString OfUser(const Period& period) {
-    return QString::number(User::Current().UID) + " AND " + LoggedSums::Between(period) + " ";
+    return QString::number(User::Current().UID) + " AND " + period.Condition() + " ";
 }
 
 } // namespace

@@ -2,7 +2,7 @@
 
 #include "analysis/AxisLabel.h"
 #include "analysis/DateAxis.h"
-#include "analysis/LoggedSums.h"
+#include "analysis/Period.h"
 #include "analysis/TwipsSurface.h"
 #include "analysis/WeightAxis.h"
 #include "runtime/AppState.h"
@@ -49,13 +49,13 @@ QString FigureText(const WeightLog::Entry& entry) {
 } // namespace
 
 ucLineChart::ucLineChart(QWidget* parent)
-    : ChartPiece(parent) {
+    : PeriodChart(parent) {
     setAccessibleName(QStringLiteral("Weights of the period"));
     SetSpokenValue([this] { return Figures(); });
     setAttribute(Qt::WA_OpaquePaintEvent);
-    setMouseTracking(true);
     AddHeader();
     AddLabels();
+    TrackParts();
     resize(sizeHint());
     PlaceAll();
 }
@@ -63,6 +63,7 @@ ucLineChart::ucLineChart(QWidget* parent)
 void ucLineChart::AddHeader() {
     ucHeader1_ = new ucHeader(this);
     ucHeader1_->setObjectName(QStringLiteral("ucHeader1"));
+    ucHeader1_->setFont(TheStyle().strong);
     ucHeader1_->SetCenterAlignText(false);
     ucHeader1_->SetCaption(QStringLiteral(" Weight (lbs)"));
 }
@@ -147,24 +148,6 @@ void ucLineChart::Liner(std::vector<PlotPoint> points) {
     update();
 }
 
-void ucLineChart::PaintChart(QPainter& painter, const QRect& place) const {
-    const double scale = qMin(double(place.width()) / width(), double(place.height()) / height());
-    painter.save();
-    painter.translate(place.topLeft());
-    painter.scale(scale, scale);
-    painter.fillRect(rect(), TheStyle().frame);
-    painter.fillRect(rect().adjusted(1, 1, -1, -1), TheStyle().paper);
-    TwipsSurface surface(painter);
-    DrawAxes(surface);
-    for (const AxisLabel* label : lblWeight_)
-        label->Print(painter);
-    for (const AxisLabel* label : lblDate_)
-        if (!label->isHidden())
-            label->Print(painter);
-    DrawLine(surface);
-    painter.restore();
-}
-
 void ucLineChart::DrawAxes(TwipsSurface& surface) const {
     const Style& style = TheStyle();
     const int right = Twips::FromPixels(width()) - Margin;
@@ -217,7 +200,11 @@ QString ucLineChart::Figures() const {
 
 void ucLineChart::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    PaintChart(painter, rect());
+    painter.fillRect(rect(), TheStyle().frame);
+    painter.fillRect(rect().adjusted(1, 1, -1, -1), TheStyle().paper);
+    TwipsSurface surface(painter);
+    DrawAxes(surface);
+    DrawLine(surface);
 }
 
 void ucLineChart::resizeEvent(QResizeEvent*) {
@@ -228,8 +215,4 @@ void ucLineChart::PlaceAll() {
     ucHeader1_->setGeometry(1, 1, width() - 2, TheStyle().headerHeight);
     for (AxisLabel* label : lblDate_)
         label->SetTop(Twips::FromPixels(height()) - DateLabelFoot);
-}
-
-void ucLineChart::mouseMoveEvent(QMouseEvent*) {
-    Q_EMIT MouseMove();
 }

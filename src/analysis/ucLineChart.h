@@ -1,6 +1,6 @@
 #pragma once
 
-#include "analysis/ChartPiece.h"
+#include "analysis/PeriodChart.h"
 #include "analysis/WeightLog.h"
 
 #include <array>
@@ -22,7 +22,7 @@ struct PlotPoint {
 /// The user's weights of a period as a line over a date axis and a weight axis. Both axes follow
 /// from the entries, not from the period asked for. Without any entry a notice stands on the axes,
 /// whose labels stay as they were. Raises MouseMove from its background, labels and header.
-class ucLineChart : public ChartPiece {
+class ucLineChart : public PeriodChart {
     Q_OBJECT
 
 public:
@@ -35,20 +35,12 @@ public:
     void Liner(std::vector<PlotPoint> points); ///< draws the line through these points
 
     const std::vector<PlotPoint>& Points() const { return points_; }
-    /// Paints what is to be seen, as large as fits the place. What is on the screen and what is
-    /// printed come from here.
-    void PaintChart(QPainter& painter, const QRect& place) const;
     QSize sizeHint() const override;
-    QAccessible::Role SpokenRole() const override { return QAccessible::Chart; }
-
-Q_SIGNALS:
-    void MouseMove();
 
 protected:
     void paintEvent(QPaintEvent*) override;
     void resizeEvent(QResizeEvent*) override;
     void showEvent(QShowEvent*) override;
-    void mouseMoveEvent(QMouseEvent*) override;
 
 private:
     void AddHeader();

@@ -1,5 +1,6 @@
 #include "core/Screens.h"
 
+#include "analysis/frmReport.h"
 #include "core/Navigation.h"
 #include "core/ScreenNames.h"
 #include "foods/frmFoodList.h"
@@ -9,6 +10,7 @@
 
 void RegisterScreens(Navigation& navigation) {
     navigation.Register<frmDay>(ScreenNames::Day);
+    navigation.Register<frmReport>(ScreenNames::Report);
     navigation.Register<frmFoodList>(ScreenNames::CustomFoods);
     navigation.Register<frmRecipeManager>(ScreenNames::Recipes);
     navigation.Register<frmProfile>(ScreenNames::Profile);

@@ -1,12 +1,12 @@
 #include "analysis/ucLineChart.h"
 
+#include "AnalysisTest.h"
 #include "analysis/AxisLabel.h"
 #include "model/User.h"
 #include "runtime/AppState.h"
 #include "runtime/RuntimeError.h"
 #include "store/Connection.h"
 #include "support/Failure.h"
-#include "support/HalvaneTest.h"
 #include "toolkit/SmoothedPrint.h"
 #include "toolkit/Style.h"
 
@@ -27,29 +27,17 @@ const QDate Day(2002, 4, 3);
 const QString NoData = QStringLiteral("No weight data To chart");
 constexpr int FirstMiddle = 945 + 495; ///< of the leftmost date label, in twips
 
-class ucLineChartTest : public HalvaneTest {
+class ucLineChartTest : public AnalysisTest {
 protected:
     struct Weight {
         int day; ///< after Day
         double weight;
     };
 
-    void SetUp() override {
-        HalvaneTest::SetUp();
-        OpenEmptyDatabases();
-        AddUser();
-    }
-
-    void Weigh(QDate day, double weight, qint32 uid = User::Current().UID) {
-        SQLite::Statement insert(UserDB().Raw(), "INSERT INTO USER_WEIGHTS VALUES (?, ?, ?)");
-        insert.bind(1, uid);
-        insert.bind(2, day.toString(Qt::ISODate).toStdString());
-        insert.bind(3, weight);
-        insert.exec();
-    }
+    using AnalysisTest::Weigh;
     void Weigh(const std::vector<Weight>& weights) {
         for (const Weight& entry : weights)
-            Weigh(Day.addDays(entry.day), entry.weight);
+            Weigh(entry.weight, Day.addDays(entry.day));
     }
     /// Brings the chart to the entries from Day on.
     void Update(ucLineChart& chart, int days = 4000) {
@@ -76,6 +64,8 @@ protected:
                 texts << QString::number(i) + u' ' + DateLabel(chart, i)->Caption();
         return texts;
     }
+    /// Lines begin below it.
+    void HideHeader(ucLineChart& chart) { Find(&chart, QStringLiteral("ucHeader1"))->hide(); }
     static std::vector<std::array<int, 3>> PointsOf(const ucLineChart& chart) {
         std::vector<std::array<int, 3>> points;
         for (const PlotPoint& point : chart.Points())
@@ -85,7 +75,7 @@ protected:
     static QString Spoken(ucLineChart& chart) {
         return QAccessible::queryAccessibleInterface(&chart)->text(QAccessible::Value);
     }
-    static QImage Painted(const ucLineChart& chart, int scale = 1) {
+    static QImage Painted(ucLineChart& chart, int scale = 1) {
         QImage picture(chart.size() * scale, QImage::Format_RGB32);
         QPainter painter(&picture);
         chart.PaintChart(painter, picture.rect());
@@ -98,7 +88,7 @@ protected:
                 count += picture.pixel(x, y) == colour;
         return count;
     }
-    void ExpectNotice(const ucLineChart& chart, bool there) {
+    void ExpectNotice(ucLineChart& chart, bool there) {
         const QImage picture = Painted(chart);
         EXPECT_EQ(Count(picture, picture.rect(), qRgb(255, 0, 0)) > 50, there);
     }
@@ -117,7 +107,9 @@ using Points = std::vector<std::array<int, 3>>;
 TEST_F(ucLineChartTest, EntriesOfTheUserWithinThePeriodAreReadInTheOrderOfTheirDays) {
     Weigh({{2, 152}, {0, 150}, {1, 151}});
     Weigh({{-1, 200}, {3, 200}});
-    Weigh(Day, 300, User::Current().UID + 1);
+    ++User::Current().UID;
+    Weigh(300, Day);
+    --User::Current().UID;
     ucLineChart chart;
     Update(chart, 2);
     EXPECT_EQ(Spoken(chart),
@@ -144,7 +136,7 @@ TEST_F(ucLineChartTest, ThePeriodAskedForPlaysNoPartInTheAxes) {
 }
 
 TEST_F(ucLineChartTest, MonthAndDayAreNotSwapped) {
-    Weigh(QDate(2002, 3, 4), 150);
+    Weigh(150, QDate(2002, 3, 4));
     ucLineChart chart;
     chart.updateLineChart(QDate(2002, 4, 3), QDate(2002, 4, 3));
     EXPECT_EQ(Spoken(chart), NoData);
@@ -153,8 +145,8 @@ TEST_F(ucLineChartTest, MonthAndDayAreNotSwapped) {
 }
 
 TEST_F(ucLineChartTest, DaysOf1901AndOf2150AreShown) {
-    Weigh(QDate(1901, 1, 1), 150);
-    Weigh(QDate(2150, 12, 31), 160);
+    Weigh(150, QDate(1901, 1, 1));
+    Weigh(160, QDate(2150, 12, 31));
     ucLineChart chart;
     chart.updateLineChart(QDate(1900, 1, 1), QDate(1950, 1, 1));
     EXPECT_EQ(DateTexts(chart), QStringList{"0 1/1/1901"});
@@ -301,6 +293,7 @@ TEST_F(ucLineChartTest, HiddenLabelsOfALongerPeriodDoNotStayBehind) {
 TEST_F(ucLineChartTest, AGridLineStandsAtTheMiddleOfEachShownLabel) {
     Weigh({{0, 150}, {1, 150}});
     ucLineChart chart;
+    HideHeader(chart);
     Update(chart);
     const QImage picture = Painted(chart);
     for (const int middle : {675, 1335, 1995, 2655, 3330, 3990, 4650}) {
@@ -326,6 +319,7 @@ TEST_F(ucLineChartTest, AGridLineStandsAtTheMiddleOfEachShownLabel) {
 
 TEST_F(ucLineChartTest, ABlackAxisAndABrownBorderFrameTheChart) {
     ucLineChart chart;
+    HideHeader(chart);
     const QImage picture = Painted(chart);
     const QRgb brown = qRgb(180, 105, 12);
     for (const QPoint corner : {QPoint(0, 0), QPoint(715, 0), QPoint(0, 399), QPoint(715, 399)})
@@ -357,8 +351,8 @@ TEST_F(ucLineChartTest, LabelsNeverRunIntoEachOtherOrOutOfTheSurface) {
     chart.show();
     for (const int days : {0, 1, 2, 3, 4, 5, 10, 30, 365, 3652, 36525}) {
         Users(QStringLiteral("DELETE FROM USER_WEIGHTS"));
-        Weigh(last.addDays(-days), 1000000);
-        Weigh(last, 2147483647);
+        Weigh(1000000, last.addDays(-days));
+        Weigh(2147483647, last);
         chart.updateLineChart(last.addDays(-days), last);
         QList<AxisLabel*> shown;
         for (AxisLabel* label : chart.findChildren<AxisLabel*>())
@@ -459,18 +453,6 @@ TEST_F(ucLineChartTest, ThePrintedPictureIsTheSameInAnySize) {
         for (int x = 0; x < small.width(); ++x)
             difference += qAbs(qGray(small.pixel(x, y)) - qGray(large.pixel(x, y)));
     EXPECT_LT(double(difference) / (small.width() * small.height()), 2.0);
-}
-
-TEST_F(ucLineChartTest, WhatIsPrintedKeepsItsProportionsWithinThePlace) {
-    ucLineChart chart;
-    QImage picture(1000, 400, QImage::Format_RGB32);
-    picture.fill(Qt::white);
-    QPainter painter(&picture);
-    chart.PaintChart(painter, QRect(10, 0, 990, 400));
-    const QRgb brown = qRgb(180, 105, 12);
-    EXPECT_EQ(picture.pixel(10, 200), brown);
-    EXPECT_EQ(picture.pixel(10 + 715, 200), brown);
-    EXPECT_EQ(picture.pixel(10 + 717, 200), qRgb(255, 255, 255));
 }
 
 TEST_F(ucLineChartTest, TheScreenShowsWhatIsPrinted) {
@@ -638,6 +620,7 @@ private:
 TEST_F(ucLineChartTest, AThousandLogsAgreeWithACalculationOnPaper) {
     QRandomGenerator random(20020403);
     ucLineChart chart;
+    const SQLite::Transaction oneCommit(UserDB().Raw());
     for (int log = 0; log < 1000; ++log) {
         User::Current().UID = 1000 + log;
         const int spans[] = {1, 2, 3, 4, 5, 12, 40, 400, 4000};
@@ -645,13 +628,11 @@ TEST_F(ucLineChartTest, AThousandLogsAgreeWithACalculationOnPaper) {
         const double middle = 90 + random.bounded(220);
         const int range = 1 + random.bounded(60);
         std::vector<std::pair<QDate, double>> entries;
-        SQLite::Transaction transaction(UserDB().Raw());
         for (int day = 0; day < span; day += 1 + random.bounded(1 + span / 8)) {
             const double weight = middle + random.bounded(range * 8) / 8.0;
             entries.emplace_back(Day.addDays(day), weight);
-            Weigh(Day.addDays(day), weight);
+            Weigh(weight, Day.addDays(day));
         }
-        transaction.commit();
         Update(chart);
         const OnPaper expected(entries);
         QStringList dates;
