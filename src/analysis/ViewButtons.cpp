@@ -16,6 +16,7 @@ ViewButtons::ViewButtons(std::span<const ViewButton> views, QWidget* parent)
     : QWidget(parent) {
     for (const ViewButton& view : views)
         buttons_.push_back(AddButton(view));
+    PlaceButtons();
 }
 
 ucButtonA* ViewButtons::AddButton(const ViewButton& view) {
@@ -51,6 +52,10 @@ QSize ViewButtons::sizeHint() const {
 }
 
 void ViewButtons::resizeEvent(QResizeEvent*) {
+    PlaceButtons();
+}
+
+void ViewButtons::PlaceButtons() {
     int left = firstLeft;
     for (ucButtonA* button : buttons_) {
         button->resize(button->sizeHint());

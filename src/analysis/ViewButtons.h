@@ -34,6 +34,7 @@ protected:
 
 private:
     ucButtonA* AddButton(const ViewButton& view);
+    void PlaceButtons();
 
     std::vector<ucButtonA*> buttons_;
 };
