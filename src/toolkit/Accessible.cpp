@@ -1,16 +1,19 @@
 #include "toolkit/Accessible.h"
 
 #include "toolkit/ucButtonA.h"
+#include "toolkit/ucDropDown.h"
 #include "toolkit/ucRadio.h"
 #include "toolkit/ucScroll.h"
 
 #include <QAccessible>
 #include <QAccessibleWidget>
 
+#include <algorithm>
+
 namespace {
 
 QString CaptionOf(const QObject* control) {
-    return control->property("Caption").toString();
+    return control->property("Caption").toString().trimmed();
 }
 
 /// Name from `accessibleName`, else the caption, else the tip; a press through Activate.
@@ -43,7 +46,10 @@ public:
 
 private:
     bool Presses() const {
-        return role() == QAccessible::Button || role() == QAccessible::RadioButton;
+        static constexpr QAccessible::Role pressed[] = {
+            QAccessible::Button, QAccessible::RadioButton, QAccessible::ComboBox,
+            QAccessible::ListItem};
+        return std::find(std::begin(pressed), std::end(pressed), role()) != std::end(pressed);
     }
 };
 
@@ -68,6 +74,26 @@ public:
         state.pressed = static_cast<ucButtonA*>(object())->Chosen();
         return state;
     }
+};
+
+/// Opened, it offers its items as children that can be pressed.
+class ListInterface : public ControlInterface {
+public:
+    using ControlInterface::ControlInterface;
+
+    QAccessible::State state() const override {
+        QAccessible::State state = ControlInterface::state();
+        state.expandable = true;
+        state.expanded = List()->IsOpen();
+        state.collapsed = !state.expanded;
+        return state;
+    }
+    QString text(QAccessible::Text kind) const override {
+        return kind == QAccessible::Value ? List()->Text().trimmed() : ControlInterface::text(kind);
+    }
+
+private:
+    ucDropDown* List() const { return static_cast<ucDropDown*>(object()); }
 };
 
 class ScrollInterface : public ControlInterface, public QAccessibleValueInterface {
@@ -99,6 +125,8 @@ QAccessibleInterface* MakeInterface(const QString&, QObject* object) {
         return nullptr;
     if (qobject_cast<ucScroll*>(control))
         return new ScrollInterface(control);
+    if (qobject_cast<ucDropDown*>(control))
+        return new ListInterface(control);
     if (qobject_cast<ucRadio*>(control))
         return new RadioInterface(control);
     if (qobject_cast<ucButtonA*>(control))
@@ -126,9 +154,21 @@ void TellValueChanged(QWidget* control, int value) {
     QAccessible::updateAccessibility(&event);
 }
 
+void TellTextChanged(QWidget* control, const QString& text) {
+    QAccessibleValueChangeEvent event(control, text);
+    QAccessible::updateAccessibility(&event);
+}
+
 void TellChecked(QWidget* control) {
     QAccessible::State changed;
     changed.checked = true;
+    QAccessibleStateChangeEvent event(control, changed);
+    QAccessible::updateAccessibility(&event);
+}
+
+void TellExpanded(QWidget* control) {
+    QAccessible::State changed;
+    changed.expanded = true;
     QAccessibleStateChangeEvent event(control, changed);
     QAccessible::updateAccessibility(&event);
 }

@@ -9,4 +9,6 @@ void InstallAccessible();
 /// Tells assistive tools that the control's name, value or state has changed.
 void TellNameChanged(QWidget* control);
 void TellValueChanged(QWidget* control, int value);
+void TellTextChanged(QWidget* control, const QString& text);
 void TellChecked(QWidget* control);
+void TellExpanded(QWidget* control);

@@ -54,6 +54,8 @@ void SetGrounds(Style& style) {
     style.navigationPressed = QColor(38, 53, 71);
     style.chosenRow = QColor(51, 69, 90);
     style.chosenDay = {QColor(255, 241, 214), QColor(251, 220, 166)};
+    style.listItem = QColor(255, 255, 255);
+    style.listItemLit = QColor(131, 146, 151);
     style.scrollSlot = QColor(244, 237, 224);
     style.fieldEdge = QColor(168, 126, 66);
     style.cardLine = QColor(214, 98, 88);
@@ -73,6 +75,8 @@ void SetInks(Style& style) {
     style.navigationDisabledInk = QColor(168, 179, 192);
     style.disabledPicture = QColor(190, 182, 170);
     style.chosenRowText = QColor(255, 255, 255);
+    style.listItemText = QColor(0, 0, 0);
+    style.listItemLitText = QColor(255, 255, 255);
     style.error = QColor(165, 32, 20);
     style.raisedShadow = QColor(10, 75, 175);
     style.raisedText = QColor(255, 255, 255);
@@ -91,6 +95,13 @@ void SetButtons(Style& style) {
     style.mainAction[1] = {{QColor(168, 96, 12), QColor(134, 74, 4)}, QColor(98, 54, 2), white};
     style.mainAction[2] = {{QColor(117, 64, 3), QColor(134, 75, 5)}, QColor(94, 51, 2), white};
     style.mainAction[3] = disabled;
+}
+
+void SetDayButtons(Style& style) {
+    style.dayButton[0] = {style.chosenDay, style.frame, style.ink};
+    style.dayButton[1] = {
+        {QColor(255, 249, 236), QColor(254, 234, 196)}, style.frame, style.heading};
+    style.dayButton[2] = {{QColor(243, 214, 160), QColor(248, 224, 180)}, style.frame, style.ink};
 }
 
 void SetChartColours(Style& style) {
@@ -129,6 +140,7 @@ Style MakeStyle() {
     SetGrounds(style);
     SetInks(style);
     SetButtons(style);
+    SetDayButtons(style);
     SetChartColours(style);
     SetLineColours(style);
     return style;

@@ -45,12 +45,15 @@ struct Style {
     QColor navigationDisabledInk;
     QColor disabledPicture; ///< pictures of disabled buttons on canvas and paper
     QColor chosenRow, chosenRowText;
+    QColor listItem, listItemText;       ///< items of an open list
+    QColor listItemLit, listItemLitText; ///< the one under the pointer
     Gradient chosenDay;
     QColor scrollSlot;        ///< the track of the scroll bar
     QColor fieldEdge;         ///< edge of text fields at rest
     QColor error;             ///< text of a refusal
     ButtonFace button[4];     ///< by state less one: at rest, under the pointer, pressed, disabled
     ButtonFace mainAction[4]; ///< the one main action of a screen
+    ButtonFace dayButton[3];  ///< the chosen day of the month
     QColor raisedShadow, raisedText; ///< ucTextRaised
 
     // The chart colours.

@@ -16,15 +16,17 @@ namespace {
 enum CalButtonState { AtRest = 1, PointerOver = 2, Pressed = 3 };
 
 constexpr const char* pictureNames[3] = {"img_N", "img_R", "img_D"};
-constexpr int cap = 4;
-constexpr double captionLeft = 30; // twips
+constexpr int frameWidth = 2;
+constexpr double captionLeft = 30; // twips, on the surface
+constexpr int surfaceLeft = 7;
+constexpr int surfaceHeight = 33; ///< at most: on a high button the caption stays near the top
 
 } // namespace
 
 ucCalButton::ucCalButton(QWidget* parent)
     : DrawnControl(parent) {
     setFocusPolicy(Qt::StrongFocus);
-    setFont(TheStyle().control);
+    setFont(TheStyle().title);
     resize(sizeHint());
 }
 
@@ -52,22 +54,30 @@ void ucCalButton::Reset() {
 
 QSize ucCalButton::sizeHint() const {
     const double text = QFontMetricsF(SmoothedFont(font())).horizontalAdvance(caption_);
-    return {qCeil(text) + 2 * Twips::ToPixels(captionLeft), TheStyle().buttonHeight};
+    return {qCeil(text) + 2 * (surfaceLeft + Twips::ToPixels(captionLeft)),
+            TheStyle().buttonHeight};
+}
+
+QRect ucCalButton::picM() const {
+    return {surfaceLeft, 0, width() - surfaceLeft, qMin(height(), surfaceHeight)};
 }
 
 void ucCalButton::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    const Style::ButtonFace& face = TheStyle().button[state_ - 1];
-    StretchColumn(painter, rect(),
-                  Slices::OfFace(face, cap, 0, height(), devicePixelRatioF()).middle);
-    painter.fillRect(0, 0, 1, height(), face.edge);
-    painter.fillRect(width() - 1, 0, 1, height(), face.edge);
+    const Style::ButtonFace& face = TheStyle().dayButton[state_ - 1];
+    const QRect ground = rect().adjusted(frameWidth, frameWidth, -frameWidth, -frameWidth);
+    painter.fillRect(rect(), face.edge);
+    StretchColumn(painter, ground,
+                  Slices::OfFace(face, 1, 0, ground.height(), devicePixelRatioF()).middle);
+    const QPointF corner = picM().topLeft();
     const double textHeight = QFontMetricsF(SmoothedFont(font())).height();
     painter.setPen(face.text);
-    SmoothedPrint(painter, QPointF(Twips::ToPixels(captionLeft), height() / 2.0 - textHeight / 2),
+    SmoothedPrint(painter,
+                  corner +
+                      QPointF(Twips::ToPixels(captionLeft), picM().height() / 2.0 - textHeight / 2),
                   caption_, font());
     if (FocusShown())
-        PaintFocusRing(painter, rect(), 0);
+        PaintFocusRing(painter, ground, 0);
 }
 
 /// One routine for press, move and release. As a release also reports the left button, the button
@@ -99,4 +109,9 @@ void ucCalButton::keyPressEvent(QKeyEvent* event) {
         Activate();
     else
         DrawnControl::keyPressEvent(event);
+}
+
+void ucCalButton::leaveEvent(QEvent*) {
+    if (state_ == PointerOver)
+        Reset();
 }

@@ -2,9 +2,9 @@
 
 #include "toolkit/DrawnControl.h"
 
-/// A captioned button of one slice, without a disabled look. Its `img_N` is the picture at rest and
-/// `img_R` the one under the pointer: the other way round from ucButton. It still looks pressed
-/// after a release, until the next move.
+/// A captioned button of one slice, without a disabled look: the chosen day of a calendar. Its
+/// `img_N` is the picture at rest and `img_R` the one under the pointer: the other way round from
+/// ucButton. It still looks pressed after a release, until the next move.
 class ucCalButton : public DrawnControl {
     Q_OBJECT
     Q_PROPERTY(QString Caption READ Caption WRITE SetCaption)
@@ -28,8 +28,10 @@ protected:
     void mouseMoveEvent(QMouseEvent*) override;
     void mouseReleaseEvent(QMouseEvent*) override;
     void keyPressEvent(QKeyEvent*) override;
+    void leaveEvent(QEvent*) override;
 
 private:
+    QRect picM() const; ///< the surface of the caption
     void Track(bool leftButton, QPointF place);
     void SetState(int state);
 

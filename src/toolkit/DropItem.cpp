@@ -1,0 +1,51 @@
+#include "toolkit/DropItem.h"
+
+#include "toolkit/SmoothedPrint.h"
+#include "toolkit/Style.h"
+
+#include <QFontMetricsF>
+#include <QMouseEvent>
+#include <QPainter>
+
+static constexpr int textLeft = 7; // pixels
+
+DropItem::DropItem(const QString& caption, const QString& tag, QWidget* parent)
+    : ListRow(parent)
+    , caption_(caption)
+    , tag_(tag) {
+    setFont(TheStyle().text);
+    SetLit(false);
+}
+
+void DropItem::SetLit(bool lit) {
+    const Style& style = TheStyle();
+    SetBackColor(lit ? style.listItemLit : style.listItem);
+    SetForeColor(lit ? style.listItemLitText : style.listItemText);
+}
+
+bool DropItem::IsLit() const {
+    return BackColor() != TheStyle().listItem;
+}
+
+void DropItem::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.fillRect(rect(), BackColor());
+    painter.setPen(ForeColor());
+    const double textHeight = QFontMetricsF(SmoothedFont(font())).height();
+    SmoothedPrint(painter, QPointF(textLeft, height() / 2.0 - textHeight / 2), caption_, font());
+}
+
+void DropItem::mousePressEvent(QMouseEvent* event) {
+    BeginClick(event);
+}
+
+/// The list below hears of the move as well.
+void DropItem::mouseMoveEvent(QMouseEvent* event) {
+    RaiseMouseMove(event);
+    event->ignore();
+}
+
+void DropItem::mouseReleaseEvent(QMouseEvent* event) {
+    if (EndsClick(event))
+        Q_EMIT Click();
+}

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "toolkit/ListRow.h"
+
+/// One item of an open list: a text with a number behind it. It goes by its name and colours; the
+/// list decides which item is lit.
+class DropItem : public ListRow {
+    Q_OBJECT
+    Q_PROPERTY(QString Caption READ Caption)
+    Q_PROPERTY(QString Tag READ Tag)
+
+public:
+    DropItem(const QString& caption, const QString& tag, QWidget* parent);
+
+    QString Caption() const { return caption_; }
+    QString Tag() const { return tag_; } ///< the number in decimal
+    void SetLit(bool lit);
+    bool IsLit() const;
+    QAccessible::Role AccessibleRole() const override { return QAccessible::ListItem; }
+
+protected:
+    void paintEvent(QPaintEvent*) override;
+    void mousePressEvent(QMouseEvent*) override;
+    void mouseMoveEvent(QMouseEvent*) override;
+    void mouseReleaseEvent(QMouseEvent*) override;
+
+private:
+    QString caption_;
+    QString tag_;
+};

@@ -1,0 +1,142 @@
+#include "toolkit/DropPanel.h"
+
+#include "runtime/RuntimeError.h"
+#include "toolkit/DropItem.h"
+#include "toolkit/Style.h"
+#include "toolkit/Twips.h"
+
+#include <QApplication>
+#include <QPainter>
+#include <QScrollBar>
+#include <QWheelEvent>
+#include <QtMath>
+
+#include <limits>
+
+namespace {
+
+constexpr int itemHeight = 20; // pixels
+constexpr int firstTop = 45;   // twips
+constexpr int endRoom = 45;    // twips
+constexpr int largeChange = 500;
+constexpr int smallChange = 100;
+constexpr int greatestMax = std::numeric_limits<qint16>::max();
+constexpr int frameWidth = 1;
+
+QWidget* MakeSurface(QWidget* parent) {
+    auto* surface = new QWidget(parent);
+    surface->setMouseTracking(true);
+    return surface;
+}
+
+} // namespace
+
+DropPanel::DropPanel(QWidget* parent)
+    : QWidget(parent)
+    , view_(MakeSurface(this))
+    , picItemList_(MakeSurface(view_))
+    , vsResults_(new QScrollBar(Qt::Vertical, this)) {
+    setObjectName(QStringLiteral("picBox"));
+    setMouseTracking(true);
+    picItemList_->setObjectName(QStringLiteral("picItemList"));
+    vsResults_->setObjectName(QStringLiteral("vsResults"));
+    vsResults_->setAccessibleName(QStringLiteral("Scroll"));
+    vsResults_->setFocusPolicy(Qt::NoFocus);
+    vsResults_->setContextMenuPolicy(Qt::NoContextMenu);
+    vsResults_->setPageStep(largeChange);
+    vsResults_->setSingleStep(smallChange);
+    vsResults_->hide();
+    connect(vsResults_, &QScrollBar::valueChanged, this,
+            [this](int value) { picItemList_->move(0, Twips::ToPixels(-value)); });
+    Load(QString(), QString())->hide();
+}
+
+DropItem* DropPanel::Load(const QString& caption, const QString& tag) {
+    auto* item = new DropItem(caption, tag, picItemList_);
+    const int index = int(items_.size());
+    const int top = Twips::ToPixels(firstTop) + (index - 1) * itemHeight;
+    item->setObjectName("lblItem" + QString::number(index));
+    item->setGeometry(0, top, picItemList_->width(), itemHeight);
+    connect(item, &DropItem::Click, this, [this, index] { Q_EMIT Picked(index); });
+    connect(item, &DropItem::MouseMove, this, [this, index] { Q_EMIT Hovered(index); });
+    items_.push_back(item);
+    return item;
+}
+
+void DropPanel::AddItem(const QString& caption, qint32 tag) {
+    Load(caption, QString::number(tag))->show();
+    listHeight_ = LastBottom() + endRoom;
+    vsResults_->setValue(0);
+    SetUpBar();
+    PlaceItems();
+}
+
+const DropItem& DropPanel::Item(int index) const {
+    if (index < 1 || index >= int(items_.size()))
+        throw RuntimeError(ErrorNumber::NoSuchElement,
+                           "Control array element '" + QString::number(index) + "' doesn't exist");
+    return *items_[size_t(index)];
+}
+
+int DropPanel::LastBottom() const {
+    const QRect last = items_.back()->geometry();
+    return Twips::FromPixels(last.top() + last.height());
+}
+
+void DropPanel::SetPanelHeight(int height) {
+    panelHeight_ = LastBottom() < height ? LastBottom() + endRoom : height;
+    resize(width(), Twips::ToPixels(panelHeight_));
+    SetUpBar();
+    PlaceItems();
+}
+
+/// The bar counts in 16 bits: of a list so long that its scroll does not fit them, the end stays
+/// out of reach.
+void DropPanel::SetUpBar() {
+    vsResults_->setRange(0, qBound(0, listHeight_ - panelHeight_, greatestMax));
+    vsResults_->setVisible(listHeight_ > panelHeight_);
+}
+
+void DropPanel::PlaceItems() {
+    const bool barShown = vsResults_->isVisibleTo(this);
+    const int width = view_->width() - (barShown ? vsResults_->width() : 0);
+    picItemList_->resize(width, Twips::ToPixels(listHeight_));
+    for (DropItem* item : items_)
+        item->resize(width, item->height());
+}
+
+void DropPanel::Bring(int index) {
+    const QRect place = items_[size_t(index)]->geometry();
+    const int top = Twips::FromPixels(place.top());
+    const int bottom = Twips::FromPixels(place.bottom() + 1) + endRoom;
+    if (top < vsResults_->value())
+        vsResults_->setValue(top);
+    else if (bottom > vsResults_->value() + panelHeight_)
+        vsResults_->setValue(bottom - panelHeight_);
+}
+
+void DropPanel::Hilite(int index) {
+    for (int i = 1; i < int(items_.size()); ++i)
+        items_[size_t(i)]->SetLit(i == index);
+}
+
+void DropPanel::resizeEvent(QResizeEvent*) {
+    const QRect inner = rect().adjusted(frameWidth, frameWidth, -frameWidth, -frameWidth);
+    const int barWidth = TheStyle().scrollWidth;
+    view_->setGeometry(inner);
+    vsResults_->setGeometry(inner.right() + 1 - barWidth, inner.top(), barWidth, inner.height());
+    PlaceItems();
+}
+
+void DropPanel::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.fillRect(rect(), TheStyle().listItem);
+    painter.setPen(TheStyle().frame);
+    painter.drawRect(QRectF(rect()).adjusted(.5, .5, -.5, -.5));
+}
+
+void DropPanel::wheelEvent(QWheelEvent* event) {
+    if (vsResults_->isVisibleTo(this))
+        QApplication::sendEvent(vsResults_, event);
+    event->accept();
+}

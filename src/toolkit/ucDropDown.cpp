@@ -1,0 +1,246 @@
+#include "toolkit/ucDropDown.h"
+
+#include "runtime/Convert.h"
+#include "toolkit/Accessible.h"
+#include "toolkit/DropItem.h"
+#include "toolkit/DropPanel.h"
+#include "toolkit/Pictures.h"
+#include "toolkit/Slices.h"
+#include "toolkit/SmoothedPrint.h"
+
+#include <QApplication>
+#include <QFontMetricsF>
+#include <QMouseEvent>
+#include <QPainter>
+
+namespace {
+
+constexpr const char* pictureNames[] = {"img_N", "img_R", "img_D"};
+constexpr QColor Style::*arrowInks[] = {&Style::frame, &Style::heading, &Style::heading};
+constexpr int arrowWidth = 22;
+constexpr int pictureSize = 14;
+constexpr int textLeft = 8;
+constexpr int plainWidth = 110;
+
+QString WithoutLeadingBlanks(const QString& text) {
+    qsizetype first = 0;
+    while (first < text.size() && text[first] == u' ')
+        ++first;
+    return text.mid(first);
+}
+
+} // namespace
+
+ucDropDown::ucDropDown(QWidget* parent)
+    : DrawnControl(parent)
+    , picBox_(new DropPanel(this)) {
+    setFocusPolicy(Qt::StrongFocus);
+    setFont(TheStyle().text);
+    picBox_->hide();
+    connect(picBox_, &DropPanel::Hovered, picBox_, &DropPanel::Hilite);
+    connect(picBox_, &DropPanel::Picked, this, [this](int index) {
+        Take(index);
+        SetOpen(false);
+        Q_EMIT Click();
+    });
+    resize(sizeHint());
+}
+
+QString ucDropDown::Text() const {
+    return WithoutLeadingBlanks(myName_);
+}
+
+void ucDropDown::SetText(const QString& text) {
+    myName_ = text;
+    update();
+    TellTextChanged(this, Text());
+}
+
+int ucDropDown::aHEIGHT() const {
+    return picBox_->PanelHeight();
+}
+
+void ucDropDown::Set_aHEIGHT(int height) {
+    picBox_->SetPanelHeight(height);
+    FitHeight(IsOpen());
+}
+
+bool ucDropDown::IsOpen() const {
+    return !picBox_->isHidden();
+}
+
+QString ucDropDown::PictureOn() const {
+    return QLatin1String(pictureNames[static_cast<int>(arrow_)]);
+}
+
+void ucDropDown::AddItem(const QString& text, qint32 tag) {
+    picBox_->AddItem(WithoutLeadingBlanks(text) + "  ", tag);
+}
+
+void ucDropDown::SetIndex(qint16 index) {
+    Take(index);
+}
+
+void ucDropDown::Take(int index) {
+    const DropItem& item = picBox_->Item(index);
+    index_ = index;
+    selectedID_ = ToInteger(item.Tag());
+    SetText(item.Caption());
+}
+
+void ucDropDown::Reset() {
+    SetOpen(false);
+}
+
+void ucDropDown::ResetPic() {
+    ShowArrow(Arrow::Normal);
+}
+
+void ucDropDown::Activate() {
+    setFocus(Qt::OtherFocusReason);
+    SetOpen(!IsOpen());
+}
+
+void ucDropDown::SetOpen(bool open) {
+    ShowArrow(Arrow::Normal);
+    if (open == IsOpen())
+        return;
+    FitHeight(open);
+    picBox_->Hilite(0);
+    picBox_->setVisible(open);
+    if (open) {
+        raise();
+        qApp->installEventFilter(this);
+        if (index_ > 0)
+            picBox_->Bring(index_);
+    } else {
+        qApp->removeEventFilter(this);
+    }
+    update();
+    TellExpanded(this);
+}
+
+void ucDropDown::FitHeight(bool open) {
+    const int panel = open ? picBox_->height() : 0;
+    resize(width(), layoutRects().picSelItem.height() + panel);
+}
+
+void ucDropDown::ShowArrow(Arrow picture) {
+    if (picture == arrow_)
+        return;
+    arrow_ = picture;
+    update();
+}
+
+ucDropDown::Layout ucDropDown::layoutRects() const {
+    const int strip = TheStyle().fieldHeight;
+    const QRect arrow(width() - arrowWidth, 0, arrowWidth, strip);
+    QRect picture(0, 0, pictureSize, pictureSize);
+    picture.moveCenter(arrow.center());
+    const int textHeight = qRound(QFontMetricsF(SmoothedFont(font())).height());
+    const QRect text(textLeft, (strip - textHeight) / 2, arrow.left() - textLeft, textHeight);
+    return {QRect(0, 0, width(), strip), text, arrow, picture,
+            QRect(0, strip, width(), picBox_->height())};
+}
+
+QSize ucDropDown::sizeHint() const {
+    return {plainWidth, TheStyle().fieldHeight};
+}
+
+void ucDropDown::resizeEvent(QResizeEvent*) {
+    picBox_->setGeometry(layoutRects().picBox);
+}
+
+void ucDropDown::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    const Layout at = layoutRects();
+    PaintStrip(painter, at);
+    PaintArrow(painter, at);
+    painter.setPen(isEnabled() ? TheStyle().ink : TheStyle().disabledInk);
+    const QString text = FittingText(myName_, font(), at.lblMyName.width());
+    SmoothedPrint(painter, at.lblMyName.topLeft(), text, font());
+    if (FocusShown())
+        PaintFocusRing(painter, at.picSelItem, TheStyle().fieldRadius);
+}
+
+void ucDropDown::PaintStrip(QPainter& painter, const Layout& at) const {
+    const Style& style = TheStyle();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(IsOpen() ? style.frame : style.fieldEdge);
+    painter.setBrush(isEnabled() ? style.paper : style.canvas);
+    painter.drawRoundedRect(QRectF(at.picSelItem).adjusted(.5, .5, -.5, -.5), style.fieldRadius,
+                            style.fieldRadius);
+    painter.setRenderHint(QPainter::Antialiasing, false);
+}
+
+/// The ground of the arrow is seen where the pointer is on it.
+void ucDropDown::PaintArrow(QPainter& painter, const Layout& at) const {
+    const Style& style = TheStyle();
+    const int picture = static_cast<int>(arrow_);
+    if (arrow_ != Arrow::Normal) {
+        const QRect ground = at.picArrow.adjusted(0, 1, -1, -1);
+        const Style::ButtonFace& face = style.button[picture];
+        StretchColumn(painter, ground,
+                      Slices::OfFace(face, 1, 0, ground.height(), devicePixelRatioF()).middle);
+        painter.fillRect(ground.left(), ground.top(), 1, ground.height(), style.rule);
+    }
+    const QColor ink = isEnabled() ? style.*arrowInks[picture] : style.disabledPicture;
+    const int sunk = arrow_ == Arrow::Down ? 1 : 0;
+    Pictures::Paint(painter, at.imgArrow.translated(0, sunk), QStringLiteral("drop-arrow"), ink);
+}
+
+void ucDropDown::TrackArrow(bool leftHeld, QPoint place) {
+    if (!leftHeld)
+        ShowArrow(Arrow::Roll);
+    else
+        ShowArrow(layoutRects().picArrow.contains(place) ? Arrow::Down : Arrow::Normal);
+}
+
+void ucDropDown::mousePressEvent(QMouseEvent* event) {
+    const QPoint place = event->position().toPoint();
+    const Layout at = layoutRects();
+    if (!at.picSelItem.contains(place))
+        return;
+    SetOpen(!IsOpen());
+    arrowPressed_ = at.picArrow.contains(place);
+    if (arrowPressed_)
+        TrackArrow(event->buttons().testFlag(Qt::LeftButton), place);
+}
+
+/// Moves over the items arrive here as well.
+void ucDropDown::mouseMoveEvent(QMouseEvent* event) {
+    const QPoint place = event->position().toPoint();
+    const bool held = event->buttons().testFlag(Qt::LeftButton);
+    const bool onArrow = held ? arrowPressed_ : layoutRects().picArrow.contains(place);
+    if (onArrow)
+        TrackArrow(held, place);
+    else
+        ShowArrow(Arrow::Normal);
+    RaiseMouseMove(event);
+}
+
+void ucDropDown::mouseReleaseEvent(QMouseEvent* event) {
+    if (arrowPressed_)
+        TrackArrow(event->buttons().testFlag(Qt::LeftButton), event->position().toPoint());
+    arrowPressed_ = false;
+}
+
+void ucDropDown::leaveEvent(QEvent*) {
+    if (!arrowPressed_)
+        ResetPic();
+}
+
+void ucDropDown::focusOutEvent(QFocusEvent* event) {
+    DrawnControl::focusOutEvent(event);
+    Reset();
+}
+
+/// While the list is open: a press on what takes no focus closes it as well.
+bool ucDropDown::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::MouseButtonPress) {
+        auto* pressed = qobject_cast<QWidget*>(watched);
+        if (pressed && pressed != this && !isAncestorOf(pressed))
+            Reset();
+    }
+    return DrawnControl::eventFilter(watched, event);
+}
