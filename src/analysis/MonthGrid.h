@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QWidget>
+
+class WeekdayHead;
+
+/// The ground of a month, `picCalBG`: the heads `ucDay0` to `ucDay6` and the lines between the
+/// days, a column each seventh of the width and a row each sixth of the height below the heads.
+/// Places are in twips.
+class MonthGrid : public QWidget {
+    Q_OBJECT
+
+public:
+    static constexpr int Columns = 7;
+    static constexpr int Rows = 6;
+
+    explicit MonthGrid(QWidget* parent);
+
+    double CellWidth() const;
+    double RowHeight() const;
+    int FirstTop() const; ///< of the cells of the first row
+    /// In pixels: the place of a cell that begins at (x, y), between the lines around it.
+    QRect SlotAt(int x, int y, int column, int row) const;
+    /// Slots before the first and behind the last day of the month are paler.
+    void SetMonth(int firstColumn, int days);
+
+Q_SIGNALS:
+    void HeadMouseMove();
+
+protected:
+    void paintEvent(QPaintEvent*) override;
+    void resizeEvent(QResizeEvent*) override;
+
+private:
+    int ColumnLine(int column) const; ///< pixels
+    int RowLine(int row) const;       ///< pixels
+    void PaintSlots(QPainter& painter) const;
+    void PaintLines(QPainter& painter) const;
+
+    WeekdayHead* ucDay_[Columns];
+    int firstUsed_ = 0;
+    int endUsed_ = 0;
+};

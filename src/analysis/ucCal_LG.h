@@ -1,0 +1,94 @@
+#pragma once
+
+#include "toolkit/DrawnControl.h"
+
+#include <QDate>
+
+#include <vector>
+
+class DayCell;
+class MonthGrid;
+class QLabel;
+class ucAALBL;
+class ucCalButton;
+class ucDropDown;
+class ucHeader;
+
+/// The calendar of one month. It marks the days with logged food and those with a logged weight,
+/// with one query each, and raises DayChosen when a day is clicked. Another month or year moves the
+/// button to its first day and raises MonthChanged, nothing else. It opens on today.
+///
+/// Arrow keys, Home and End move the focus among the days, Return clicks one, Page Up and Page Down
+/// turn the month.
+class ucCal_LG : public DrawnControl {
+    Q_OBJECT
+    Q_PROPERTY(QDate Date READ Date)
+
+public:
+    explicit ucCal_LG(QWidget* parent = nullptr);
+
+    void getDate();      ///< takes the fields for the date and shows it all anew
+    void ShowDays();     ///< lays out the days of the month
+    void ShowIcons();    ///< reads what is logged in the month and shows its icons
+    void ResetButtons(); ///< takes the hover look off the chosen day
+    void picDay_Click(int index);
+
+    QDate Date() const { return date_; } ///< the day that holds the button
+    QDate FirstOfMonth() const;
+    QDate LastOfMonth() const;
+    QSize sizeHint() const override;
+    QAccessible::Role AccessibleRole() const override { return QAccessible::Grouping; }
+
+Q_SIGNALS:
+    void DayChosen(QDate date);
+    void MonthChanged(QDate from, QDate to); ///< first and last day of the month now shown
+
+protected:
+    void paintEvent(QPaintEvent*) override;
+    void resizeEvent(QResizeEvent*) override;
+    void showEvent(QShowEvent*) override;
+    void mouseMoveEvent(QMouseEvent*) override;
+    void keyPressEvent(QKeyEvent*) override;
+
+private:
+    struct Layout {
+        QRect ucHead, aadate, ucMonth, ucYear, picCalBG;
+    };
+    struct Marks;
+
+    void AddHead();
+    ucDropDown* AddList(const QString& name, const QString& spoken);
+    void FillLists();
+    void AddGrid();
+    void OpenOn(QDate today);
+    Layout layoutRects() const;
+
+    DayCell* CellAt(int day);
+    void PlaceDays();
+    void PlaceButton();
+    void PlaceToday();
+    void PrintDay(DayCell* cell, const QString& text);
+    void PaintLabels();
+    Marks ReadMarks() const;
+
+    void OnMonth();
+    void OnYear();
+    void ShowMonth();
+    void TurnMonth(int months);
+    int FocusedDay() const; ///< 0 where the focus is not among the days
+    void FocusDay(int day);
+
+    QString month_, year_, day_;
+    QDate date_;
+    int lastDay_ = 0;
+    QPoint lastMouse_{-1, -1};
+
+    ucHeader* ucHead_;
+    ucAALBL* aadate_;
+    ucDropDown* ucMonth_;
+    ucDropDown* ucYear_;
+    MonthGrid* picCalBG_;
+    ucCalButton* ucCalButton_;
+    QLabel* lblToday_;
+    std::vector<DayCell*> picDay_; ///< by day of the month less one; only grows
+};
