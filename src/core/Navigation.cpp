@@ -1,6 +1,5 @@
 #include "core/Navigation.h"
 
-#include "core/CurrentDay.h"
 #include "core/ScreenNames.h"
 #include "core/frmAlert.h"
 #include "core/frmHOME.h"
@@ -38,7 +37,8 @@ void Navigation::Register(const QString& name, Factory factory) {
 
 void Navigation::InstallSeams() {
     Seams& seams = TheSeams();
-    // A message that belongs to no window stands over the frame, not in the middle of a wide screen.
+    // A message that belongs to no window stands over the frame, not in the middle of a wide
+    // screen.
     seams.ShowAlert = [this](const QString& message, QObject* owner, bool showCancel) {
         return frmAlert::Ask(message, owner ? owner : frame_.data(), showCancel);
     };
@@ -78,13 +78,9 @@ Screen* Navigation::LoadScreen(const QString& name) {
 }
 
 /// A failure in a step skips the rest of them, and leaves the pointer as it is.
-Screen* Navigation::ShowScreen(const QString& asked) {
-    const bool standsIn = asked == ScreenNames::Home && !HasScreen(asked);
-    const QString name = standsIn ? ScreenNames::Day : asked;
+Screen* Navigation::ShowScreen(const QString& name) {
     if (!HasScreen(name))
         return nullptr;
-    if (standsIn)
-        EnsureCurrentDate();
     Screen* screen = nullptr;
     try {
         MousePointer::SetBusy();

@@ -117,7 +117,6 @@ void frmDay::AddButtons() {
     cmdAddFoods_->SetMainAction(true);
     cmdClear_ = AddButton("cmdClear", "Clear foods", &frmDay::ClearFoods);
     cmdDone_ = AddButton("cmdDone", "Done", &frmDay::GoHome);
-    OfferHome();
 }
 
 void frmDay::AddCalendar() {
@@ -173,7 +172,6 @@ void frmDay::BeforeShow() {
 }
 
 void frmDay::DoWinInit() {
-    OfferHome();
     buildDate();
     const double weight = DayLog::Weight(App().CurrentDate);
     const QString text = DecimalText(weight);
@@ -267,15 +265,6 @@ void frmDay::ClearFoods() {
 
 void frmDay::GoHome() {
     ShowScreen(homeScreen);
-}
-
-void frmDay::OfferHome() {
-    const bool there = HasScreen(homeScreen);
-    cmdDone_->SetEnabled(there);
-    cmdDone_->Reset();
-    cmdDone_->setToolTip(
-        there ? QString()
-              : QStringLiteral("The home screen comes with a later version of Halvane"));
 }
 
 /// Both must differ: a redraw under a resting pointer sends moves as well.

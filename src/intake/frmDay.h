@@ -52,7 +52,6 @@ private:
     void EatFoods() { ChooseFoods(-1); }
     void ClearFoods();
     void GoHome();
-    void OfferHome();
     void SaveWeight();
     void TakeWeight(double weight);
     bool HasMoved(double x, double y);

@@ -32,7 +32,7 @@ class FlowTest : public CoreTest {
 protected:
     void SetUp() override {
         CoreTest::SetUp();
-        AddLoggedScreen(QStringLiteral("frmDay"), QStringLiteral("Daily Details"));
+        AddLoggedScreen(QStringLiteral("frmMain"), QStringLiteral("Main"));
         Clock::SetToday(QDate(2026, 11, 21));
     }
     QString Stored(const char* name) { return GetRegValue(QLatin1String(name)); }
@@ -80,13 +80,12 @@ TEST_F(FlowTest, AFirstStartShowsAgreementSplashAndWelcomeInThisOrder) {
     EXPECT_TRUE(stderrText.isEmpty()) << stderrText.toStdString();
 }
 
-TEST_F(FlowTest, ALaterStartShowsTheSplashThenTheFrameOnToday) {
+TEST_F(FlowTest, ALaterStartShowsTheSplashThenTheFrameWithTheHomeScreen) {
     StartWithAnna();
     EXPECT_EQ(modals, QStringList{QStringLiteral("frmSplash")});
     EXPECT_EQ(User::Current().UserName, QStringLiteral("Anna"));
     ASSERT_NE(TheNavigation().Front(), nullptr);
-    EXPECT_EQ(TheNavigation().Front()->objectName(), QStringLiteral("frmDay"));
-    EXPECT_EQ(App().CurrentDate, QDate(2026, 11, 21));
+    EXPECT_EQ(TheNavigation().Front()->objectName(), QStringLiteral("frmMain"));
     EXPECT_EQ(UserDB().state(), Connection::Opened);
     EXPECT_EQ(FoodDB().state(), Connection::Opened);
     EXPECT_EQ(App().AppInfo.HELPPATH, QString(Folder() + "/help/"));
@@ -169,18 +168,6 @@ TEST_F(FlowTest, EmptyTipsEndInSilenceWithoutAWindow) {
     WriteFile(QStringLiteral("tips.txt"), "");
     ExpectSilentEnd(QStringLiteral("tips.txt"));
     EXPECT_TRUE(stderrText.contains(QStringLiteral("(9)"))) << stderrText.toStdString();
-}
-
-TEST_F(FlowTest, TheClockSetTo1970And2106OpensThatDay) {
-    for (const QDate day : {QDate(1970, 1, 1), QDate(2106, 2, 7)}) {
-        Clock::SetToday(day);
-        App().CurrentDate = QDate();
-        if (day.year() == 1970)
-            StartWithAnna();
-        else
-            ::ShowScreen(QStringLiteral("frmMain"));
-        EXPECT_EQ(App().CurrentDate, day);
-    }
 }
 
 TEST_F(FlowTest, NonsenseInEverySettingStillStarts) {
@@ -403,7 +390,7 @@ TEST_F(FlowTest, TheNextStartComesUpWhereTheLastOneStood) {
     TheNavigation().Frame()->move(64, 48);
     Flow::QuitApp();
     TheNavigation().Reset();
-    AddLoggedScreen(QStringLiteral("frmDay"), QStringLiteral("Daily Details"));
+    AddLoggedScreen(QStringLiteral("frmMain"), QStringLiteral("Main"));
     EXPECT_EQ(RunMain(), 0);
     EXPECT_EQ(TheNavigation().Frame()->pos(), QPoint(64, 48));
     EXPECT_EQ(Stored("TIPNUM"), QStringLiteral("2"));

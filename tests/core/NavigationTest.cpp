@@ -3,7 +3,6 @@
 #include "core/Navigation.h"
 #include "core/frmHOME.h"
 #include "runtime/AppState.h"
-#include "runtime/Clock.h"
 #include "runtime/Seams.h"
 #include "toolkit/MousePointer.h"
 
@@ -198,28 +197,6 @@ TEST_F(NavigationTest, AScreenThatIsNotRegisteredIsNull) {
     EXPECT_EQ(Show("frmRecipeManager"), nullptr);
     EXPECT_EQ(TheNavigation().Front(), day);
     EXPECT_FALSE(MousePointer::IsBusy());
-}
-
-TEST_F(NavigationTest, WithoutAHomeScreenTheDayStandsInForTodayWhereNoDayIsSet) {
-    Clock::SetToday(QDate(2026, 11, 21));
-    EXPECT_FALSE(::HasScreen(QStringLiteral("frmMain")));
-    EXPECT_EQ(Show("frmMain")->objectName(), QStringLiteral("frmDay"));
-    EXPECT_EQ(App().CurrentDate, QDate(2026, 11, 21));
-}
-
-TEST_F(NavigationTest, ADayBeforeDecember1992CountsAsUnset) {
-    Clock::SetToday(QDate(2026, 11, 21));
-    App().CurrentDate = QDate(1992, 11, 30);
-    Show("frmMain");
-    EXPECT_EQ(App().CurrentDate, QDate(2026, 11, 21));
-    App().CurrentDate = QDate(1992, 12, 1);
-    Show("frmMain");
-    EXPECT_EQ(App().CurrentDate, QDate(1992, 12, 1));
-}
-
-TEST_F(NavigationTest, AHomeScreenThatIsRegisteredIsShownItself) {
-    AddLoggedScreen(QStringLiteral("frmMain"), QStringLiteral("Main"));
-    EXPECT_EQ(Show("frmMain")->objectName(), QStringLiteral("frmMain"));
 }
 
 TEST_F(NavigationTest, AFailureInAStepSkipsTheRestWithoutAMessageAndLeavesThePointer) {

@@ -581,20 +581,6 @@ TEST_F(frmDayTest, DoneGoesToTheHomeScreen) {
     EXPECT_EQ(shownScreens, QStringList{"frmMain"});
 }
 
-TEST_F(frmDayTest, WithoutAHomeScreenDoneIsDisabledAndSaysWhy) {
-    TheSeams().HasScreen = [](const QString&) { return false; };
-    Open();
-    EXPECT_FALSE(Button("cmdDone")->isEnabled());
-    EXPECT_EQ(Button("cmdDone")->State(), 4);
-    EXPECT_FALSE(Button("cmdDone")->toolTip().isEmpty());
-    Click(Button("cmdDone"));
-    EXPECT_TRUE(shownScreens.isEmpty());
-    TheSeams().HasScreen = [](const QString&) { return true; };
-    screen->DoWinInit();
-    EXPECT_EQ(Button("cmdDone")->State(), 1);
-    EXPECT_TRUE(Button("cmdDone")->toolTip().isEmpty());
-}
-
 TEST_F(frmDayTest, ButtonUnderThePointerTakesTheLookOffTheOthers) {
     Open();
     Hover(Button("cmdAddFoods"));

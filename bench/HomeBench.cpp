@@ -1,0 +1,38 @@
+#include "Ground.h"
+#include "Table.h"
+
+#include "core/frmMain.h"
+#include "runtime/AppState.h"
+
+namespace {
+constexpr QSize nestSize(766, 562);
+constexpr double oneFrame = 1.0 / 60; // seconds
+
+void RepaintOurs(benchmark::State& state) {
+    const Ground ground(true);
+    App().CurrentDate = Ground::Day(Ground::Days / 2);
+    App().TipOfTheDay = QStringLiteral("A handful of nuts is about 170 kilocalories. Weigh one "
+                                       "handful once, and you will judge the next hundred well.");
+    frmMain home;
+    home.resize(nestSize);
+    home.show();
+    home.DoWinInit();
+    for (auto _ : state)
+        home.repaint();
+}
+
+void RepaintLimit(benchmark::State& state) {
+    for (auto _ : state)
+        state.SetIterationTime(oneFrame);
+}
+
+[[maybe_unused]] const bool aims = [] {
+    Table::Aim("repaint of the home screen, beside one frame", 1);
+    return true;
+}();
+} // namespace
+
+BENCHMARK(RepaintOurs)->Name("repaint of the home screen, beside one frame/ours");
+BENCHMARK(RepaintLimit)
+    ->Name("repaint of the home screen, beside one frame/limit")
+    ->UseManualTime();

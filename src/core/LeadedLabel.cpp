@@ -1,0 +1,55 @@
+#include "core/LeadedLabel.h"
+
+#include "toolkit/Style.h"
+
+#include <QPainter>
+#include <QResizeEvent>
+#include <QTextLayout>
+
+namespace {
+
+constexpr int lineHeight = 19; // pixels
+
+} // namespace
+
+LeadedLabel::LeadedLabel(const QString& name, QWidget* parent)
+    : QLabel(parent) {
+    setObjectName(name);
+    setTextFormat(Qt::PlainText);
+    setFont(TheStyle().text);
+    setMouseTracking(true);
+}
+
+int LeadedLabel::LayOut(QTextLayout& text, int width) const {
+    QTextOption option;
+    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    text.setTextOption(option);
+    int top = 0;
+    text.beginLayout();
+    for (QTextLine line = text.createLine(); line.isValid(); line = text.createLine()) {
+        line.setLineWidth(width);
+        line.setPosition(QPointF(0, top + (lineHeight - line.height()) / 2));
+        top += lineHeight;
+    }
+    text.endLayout();
+    return top;
+}
+
+int LeadedLabel::heightForWidth(int width) const {
+    QTextLayout layout(text(), font());
+    return LayOut(layout, qMax(1, width));
+}
+
+void LeadedLabel::resizeEvent(QResizeEvent* event) {
+    QLabel::resizeEvent(event);
+    if (event->oldSize().width() != event->size().width())
+        updateGeometry();
+}
+
+void LeadedLabel::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setPen(TheStyle().ink);
+    QTextLayout layout(text(), font());
+    LayOut(layout, width());
+    layout.draw(&painter, QPointF());
+}

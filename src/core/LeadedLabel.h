@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QLabel>
+
+class QTextLayout;
+
+/// A plain text of several lines with room between them. A word too long for a line is broken.
+class LeadedLabel : public QLabel {
+    Q_OBJECT
+
+public:
+    explicit LeadedLabel(const QString& name, QWidget* parent);
+
+    bool hasHeightForWidth() const override { return true; }
+    int heightForWidth(int width) const override;
+    QSize sizeHint() const override { return {0, heightForWidth(width())}; }
+    QSize minimumSizeHint() const override { return {0, heightForWidth(width())}; }
+
+protected:
+    void paintEvent(QPaintEvent*) override;
+    void resizeEvent(QResizeEvent*) override;
+
+private:
+    int LayOut(QTextLayout& text, int width) const; ///< returns the height
+};

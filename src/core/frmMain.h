@@ -1,0 +1,43 @@
+#pragma once
+
+#include "toolkit/Screen.h"
+
+#include <QDate>
+
+class QLabel;
+class TipBox;
+class ucBox;
+class ucCal_LG;
+class ucGlance;
+
+/// The home screen "Main": the month calendar, a glance at where the month's calories came from,
+/// and the tip of the day. A click on a day makes it the chosen day and leads to its details.
+class frmMain : public Screen {
+    Q_OBJECT
+
+public:
+    explicit frmMain(QWidget* parent = nullptr);
+
+    void DoWinInit() override;
+    void AllOff(const QString& name) override; ///< leaves the calendar alone where it is named
+
+protected:
+    void resizeEvent(QResizeEvent*) override;
+
+private:
+    void AddHint();
+    void AddCalendar();
+    void AddGlance();
+    void AddTip();
+    void AddWeekBox();
+
+    void ShowMonth(QDate from, QDate to);
+    void OpenDay(QDate day);
+
+    QLabel* hint_ = nullptr;
+    ucCal_LG* calendar_ = nullptr;
+    ucBox* glanceBox_ = nullptr;
+    ucGlance* glance_ = nullptr;
+    TipBox* tip_ = nullptr;
+    ucBox* weekBox_ = nullptr;
+};

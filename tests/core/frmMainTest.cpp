@@ -1,0 +1,352 @@
+#include "core/CoreTest.h"
+
+#include "core/Navigation.h"
+#include "core/Screens.h"
+#include "core/frmHOME.h"
+#include "core/frmMain.h"
+#include "model/User.h"
+#include "runtime/AppState.h"
+#include "runtime/Clock.h"
+#include "runtime/Seams.h"
+#include "store/Connection.h"
+#include "toolkit/ucCalButton.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QTest>
+#include <QTimer>
+
+/// The home screen under the real navigation, with one user whose log the tests write.
+class frmMainTest : public CoreTest {
+protected:
+    void SetUp() override {
+        CoreTest::SetUp();
+        OpenEmptyDatabases();
+        RegisterScreens(TheNavigation());
+        Clock::SetToday(QDate(2026, 11, 21));
+        App().TipOfTheDay = QStringLiteral("Weigh one handful once.");
+        AddUser();
+    }
+    /// Energy in kilocalories, the rest in grams.
+    void Log(QDate day, double calories, double carbs = 0, double fat = 0, double protein = 0) {
+        Users(QStringLiteral("INSERT INTO USER_FOODS (UID, FoodName, Serving, ID, Meal, UDate, "
+                             "QTY, Calories, Carbs, TotalFat, Protein) VALUES (%1, 'Oats', '1 "
+                             "cup', 1, 'Lunch', '%2', 1, %3, %4, %5, %6)")
+                  .arg(User::Current().UID)
+                  .arg(day.toString(Qt::ISODate))
+                  .arg(calories)
+                  .arg(carbs)
+                  .arg(fat)
+                  .arg(protein));
+    }
+    void Weigh(QDate day, double pounds) {
+        Users(QStringLiteral("INSERT INTO USER_WEIGHTS (UID, UDate, Weight) VALUES (%1, '%2', %3)")
+                  .arg(User::Current().UID)
+                  .arg(day.toString(Qt::ISODate))
+                  .arg(pounds));
+    }
+    frmMain* ShowMain() {
+        ::ShowHome();
+        ::ShowScreen(QStringLiteral("frmMain"));
+        RunDeferredDeletes();
+        return qobject_cast<frmMain*>(TheNavigation().Front());
+    }
+    QWidget* Control(const char* name) {
+        return Find(TheNavigation().Front(), QLatin1String(name));
+    }
+    QString Caption(const char* name) { return Control(name)->property("Caption").toString(); }
+    void ClickDay(int day) {
+        Click(Control(qPrintable(QStringLiteral("picDay%1").arg(day))));
+        RunDeferredDeletes();
+    }
+    bool Marked(const char* mark, int day) {
+        auto* picture = TheNavigation().Front()->findChild<QWidget*>(QLatin1String(mark) +
+                                                                     QString::number(day));
+        return picture && picture->isVisible();
+    }
+    QString GlanceLabels() {
+        return QString(Caption("aafat") + u'|' + Caption("aaprotein") + u'|' + Caption("aacarbs"));
+    }
+    QString Front() { return TheNavigation().Front()->objectName(); }
+};
+
+// The chosen day
+
+TEST_F(frmMainTest, AnUnsetDayBecomesTodayInEveryYear) {
+    for (const int year : {1900, 1970, 1991, 1992, 2012, 2013, 2026, 2106}) {
+        Clock::SetToday(QDate(year, 12, 31));
+        App().CurrentDate = QDate();
+        ShowMain();
+        EXPECT_EQ(App().CurrentDate, QDate(year, 12, 31));
+    }
+}
+
+TEST_F(frmMainTest, ADayBeforeDecember1992CountsAsUnset) {
+    App().CurrentDate = QDate(1992, 11, 30);
+    ShowMain();
+    EXPECT_EQ(App().CurrentDate, QDate(2026, 11, 21));
+    App().CurrentDate = QDate(1992, 12, 1);
+    ShowMain();
+    EXPECT_EQ(App().CurrentDate, QDate(1992, 12, 1));
+}
+
+TEST_F(frmMainTest, AClickOnADayChoosesItAndShowsItsDetails) {
+    ShowMain();
+    ClickDay(5);
+    EXPECT_EQ(App().CurrentDate, QDate(2026, 11, 5));
+    ASSERT_EQ(Front(), QStringLiteral("frmDay"));
+    EXPECT_EQ(Caption("aadate"), QStringLiteral("Thursday, November 05, 2026"));
+    EXPECT_EQ(Control("ucMyFood")->property("Date").toDate(), QDate(2026, 11, 5));
+    EXPECT_EQ(Control("ucDaily")->property("Date").toDate(), QDate(2026, 11, 5));
+}
+
+TEST_F(frmMainTest, TodayLeadsToTodaysDetailsThroughTheButtonOnIt) {
+    ShowMain();
+    Click(TheNavigation().Front()->findChild<ucCalButton*>());
+    EXPECT_EQ(Front(), QStringLiteral("frmDay"));
+    EXPECT_EQ(App().CurrentDate, QDate(2026, 11, 21));
+}
+
+TEST_F(frmMainTest, TheChosenDaysWeightIsLoadedWithItsDetails) {
+    App().AppInfo.AUTOUPDATERDI = true;
+    Weigh(QDate(2026, 11, 5), 187.5);
+    ShowMain();
+    ClickDay(5);
+    EXPECT_EQ(User::Current().CurrentWeight, 188);
+}
+
+// The way back
+
+class TheWayBack : public frmMainTest, public ::testing::WithParamInterface<bool> {
+protected:
+    void SetUp() override {
+        frmMainTest::SetUp();
+        App().AppInfo.FAST = GetParam();
+    }
+};
+INSTANTIATE_TEST_SUITE_P(FastOffAndOn, TheWayBack, ::testing::Bool());
+
+TEST_P(TheWayBack, LeadsFromTheDayToTheHomeScreenByDone) {
+    ShowMain();
+    ClickDay(5);
+    Click(Control("cmdDone"));
+    RunDeferredDeletes();
+    EXPECT_EQ(Front(), QStringLiteral("frmMain"));
+    EXPECT_EQ(App().CurrentDate, QDate(2026, 11, 5)) << "the day stays chosen";
+}
+
+TEST_P(TheWayBack, ShowsTheDaysChangesInTheIconsAndTheGlance) {
+    ShowMain();
+    EXPECT_FALSE(Marked("imgFood", 5));
+    ClickDay(5);
+    Log(QDate(2026, 11, 5), 1800, 300);
+    Weigh(QDate(2026, 11, 5), 190);
+    Click(Control("cmdDone"));
+    RunDeferredDeletes();
+    EXPECT_TRUE(Marked("imgFood", 5));
+    EXPECT_TRUE(Marked("imgScale", 5));
+    EXPECT_EQ(Caption("lblAvgCals"), QStringLiteral("Average daily calories: 1800"));
+}
+
+TEST_P(TheWayBack, ShowsTheIconsGoneWithWhatWasRemoved) {
+    Log(QDate(2026, 11, 5), 1800, 300);
+    Weigh(QDate(2026, 11, 5), 190);
+    ShowMain();
+    EXPECT_TRUE(Marked("imgFood", 5));
+    ClickDay(5);
+    Users(QStringLiteral("DELETE FROM USER_FOODS"));
+    Users(QStringLiteral("UPDATE USER_WEIGHTS SET Weight = 0"));
+    Click(Control("cmdDone"));
+    RunDeferredDeletes();
+    EXPECT_FALSE(Marked("imgFood", 5));
+    EXPECT_FALSE(Marked("imgScale", 5));
+    EXPECT_EQ(GlanceLabels(), QStringLiteral("Total Fat: --|Protein: --|Carbs: --"));
+}
+
+TEST_P(TheWayBack, FromTheProfileFindsTheHomeScreenAsItWas) {
+    Screen* home = ShowMain();
+    ::ShowScreen(QStringLiteral("frmProfile"));
+    TheNavigation().Front()->close();
+    QCoreApplication::sendPostedEvents();
+    EXPECT_EQ(TheNavigation().Front(), home);
+    EXPECT_TRUE(home->isVisible());
+}
+
+// The glance
+
+TEST_F(frmMainTest, AMonthWithoutEntriesHasNothingToChart) {
+    Log(QDate(2026, 10, 31), 2000, 500);
+    Log(QDate(2026, 12, 1), 2000, 500);
+    ShowMain();
+    EXPECT_EQ(Control("picPIE")->accessibleDescription(), QStringLiteral("No data to chart"));
+    EXPECT_EQ(GlanceLabels(), QStringLiteral("Total Fat: --|Protein: --|Carbs: --"));
+}
+
+TEST_F(frmMainTest, OneLoggedDayAmongThirtyIsTheAverage) {
+    Log(QDate(2026, 11, 7), 2000, 250, 60, 115);
+    ShowMain();
+    EXPECT_EQ(Caption("lblAvgCals"), QStringLiteral("Average daily calories: 2000"));
+}
+
+TEST_F(frmMainTest, AMonthOfCarbohydrateAloneSaysSo) {
+    Log(QDate(2026, 11, 7), 400, 100);
+    ShowMain();
+    EXPECT_EQ(GlanceLabels(), QStringLiteral("Fat 0%|Protein 0%|Carbs. 100%"));
+}
+
+struct LastDay {
+    int year, month, day;
+};
+
+class LastDays : public frmMainTest, public ::testing::WithParamInterface<LastDay> {};
+
+INSTANTIATE_TEST_SUITE_P(Months, LastDays,
+                         ::testing::Values(LastDay{1993, 2, 28}, LastDay{2000, 2, 29},
+                                           LastDay{2012, 2, 29}, LastDay{2026, 2, 28},
+                                           LastDay{2028, 2, 29}, LastDay{2100, 2, 28},
+                                           LastDay{2026, 4, 30}, LastDay{2026, 11, 30},
+                                           LastDay{2026, 12, 31}, LastDay{2027, 1, 31}),
+                         [](const auto& month) {
+                             return std::to_string(month.param.year) + "_" +
+                                    std::to_string(month.param.month);
+                         });
+
+TEST_P(LastDays, TheGlanceReachesFromTheFirstToTheLastDayOfTheChosenDaysMonth) {
+    const QDate last(GetParam().year, GetParam().month, GetParam().day);
+    const QDate first(GetParam().year, GetParam().month, 1);
+    Log(first.addDays(-1), 90000, 100);
+    Log(first, 1000, 100);
+    Log(last, 2000, 100);
+    Log(last.addDays(1), 90000, 100);
+    App().CurrentDate = first.addDays(14);
+    ShowMain();
+    EXPECT_EQ(Caption("lblAvgCals"), QStringLiteral("Average daily calories: 1500"));
+}
+
+TEST_F(frmMainTest, TheGlanceIsOfTheChosenDaysMonthAndItsBoxNamesIt) {
+    Log(QDate(2002, 4, 3), 1234, 100);
+    App().CurrentDate = QDate(2002, 4, 30);
+    ShowMain();
+    EXPECT_EQ(Caption("ucBox1"), QStringLiteral("April 2002 at a glance"));
+    EXPECT_EQ(Caption("lblAvgCals"), QStringLiteral("Average daily calories: 1234"));
+}
+
+TEST_F(frmMainTest, AnotherUsersLogIsNotLookedAt) {
+    Log(QDate(2026, 11, 7), 2000, 250);
+    AddUser(QStringLiteral("Bert"));
+    ShowMain();
+    EXPECT_EQ(GlanceLabels(), QStringLiteral("Total Fat: --|Protein: --|Carbs: --"));
+    EXPECT_FALSE(Marked("imgFood", 7));
+}
+
+// The tip
+
+TEST_F(frmMainTest, TheTipOfTheDayIsShownAndFollowsAtEachComingForward) {
+    frmMain* home = ShowMain();
+    auto* tip = Find<QLabel>(home, QStringLiteral("lblTip"));
+    EXPECT_EQ(tip->text(), QStringLiteral("Weigh one handful once."));
+    App().TipOfTheDay = QStringLiteral("<b>Eat</b> & drink");
+    home->DoWinInit();
+    EXPECT_EQ(tip->text(), QStringLiteral("<b>Eat</b> & drink"));
+    EXPECT_EQ(tip->textFormat(), Qt::PlainText);
+}
+
+TEST_F(frmMainTest, ATipLongerThanItsBoxCanBeScrolledFromTheKeyboard) {
+    App().TipOfTheDay = QStringLiteral("one word and another ").repeated(100);
+    frmMain* home = ShowMain();
+    auto* area = home->findChild<QScrollArea*>();
+    ASSERT_NE(area, nullptr);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return area->verticalScrollBar()->maximum() > 0; }));
+    EXPECT_NE(area->focusPolicy(), Qt::NoFocus);
+    area->setFocus();
+    QTest::keyClick(area, Qt::Key_Down);
+    EXPECT_GT(area->verticalScrollBar()->value(), 0);
+}
+
+TEST_F(frmMainTest, ATipThatFitsTakesNoTab) {
+    ShowMain();
+    auto* area = TheNavigation().Front()->findChild<QScrollArea*>();
+    EXPECT_EQ(area->verticalScrollBar()->maximum(), 0);
+    EXPECT_EQ(area->focusPolicy(), Qt::NoFocus);
+}
+
+// The week
+
+TEST_F(frmMainTest, TheWeekBoxStaysHiddenAndUnfilled) {
+    Log(QDate(2026, 11, 20), 2000, 250);
+    Weigh(QDate(2026, 11, 20), 190);
+    ShowMain();
+    EXPECT_FALSE(Control("ucBox_Week")->isVisible());
+    const std::pair<const char*, const char*> labels[] = {
+        {"aaCals", "Average daily calories............................"},
+        {"aaChol", "Average daily cholesterol......................."},
+        {"aaFiber", "Average daily fiber................................."},
+        {"aaPerCarbs", "Percent from carbohydrates................"},
+        {"aaPerFat", "Percent from fat................................."},
+        {"aaPerPro", "Percent from protein..........................."},
+        {"aaWeight", "Current Weight....................................."},
+    };
+    for (const auto& [name, caption] : labels) {
+        EXPECT_EQ(Caption(name), QLatin1String(caption));
+        EXPECT_TRUE(Control("ucBox_Week")->isAncestorOf(Control(name))) << name;
+    }
+}
+
+// The pointer
+
+class Pointer : public frmMainTest {
+protected:
+    void SetUp() override {
+        frmMainTest::SetUp();
+        home = ShowMain();
+        button = home->findChild<ucCalButton*>();
+        ASSERT_NE(button, nullptr);
+        QCursor::setPos(home->mapToGlobal(QPoint(5, 5)));
+    }
+    bool Lit() const { return button->State() != 1; }
+
+    frmMain* home = nullptr;
+    ucCalButton* button = nullptr;
+};
+
+TEST_F(Pointer, MovingOverTheScreenTakesTheHighlightOffTheCalendar) {
+    Hover(button);
+    ASSERT_TRUE(Lit());
+    Hover(home, QPoint(300, 5));
+    EXPECT_FALSE(Lit());
+}
+
+TEST_F(Pointer, RestingWhereItWasChangesNothing) {
+    Hover(home, QPoint(300, 5));
+    Hover(button);
+    Hover(home, QPoint(300, 5));
+    EXPECT_TRUE(Lit());
+    Hover(home, QPoint(301, 5));
+    EXPECT_FALSE(Lit());
+}
+
+TEST_F(Pointer, MovingOverGlanceAndTipTakesTheHighlightOffToo) {
+    for (const char* name : {"ucBox1", "ucBox_Tip", "lblTip", "lblHint"}) {
+        Hover(button);
+        ASSERT_TRUE(Lit());
+        Hover(Control(name), QPoint(20, 5));
+        EXPECT_FALSE(Lit()) << name;
+    }
+}
+
+TEST_F(Pointer, AllOffLeavesTheCalendarAloneWhereItIsNamedInAnyCase) {
+    Hover(button);
+    home->AllOff(QStringLiteral("ucCal"));
+    home->AllOff(QStringLiteral("UCCAL"));
+    EXPECT_TRUE(Lit());
+    home->AllOff(QStringLiteral("ucCal_LG1"));
+    EXPECT_FALSE(Lit());
+}
+
+TEST_F(Pointer, TheTimerTakesTheHighlightOffWhereItHasLeftTheScreen) {
+    Hover(button);
+    QCursor::setPos(home->mapToGlobal(QPoint(-50, -50)));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !Lit(); }));
+}
