@@ -89,6 +89,8 @@ Screen* Navigation::ShowScreen(const QString& name) {
         else
             LeaveOthers();
         screen = LoadScreen(name);
+        if (name == ScreenNames::Day)
+            Frame()->ResetMenu();
         screen->BeforeShow();
         Bring(screen);
         ShowTitle(screen->Title());

@@ -4,9 +4,8 @@
 #include "core/FramePlace.h"
 #include "core/ScreenNames.h"
 #include "core/frmPrefs.h"
-#include "core/ucMenuTitle.h"
+#include "core/ucMenu.h"
 #include "model/User.h"
-#include "model/frmProfile.h"
 #include "runtime/AppState.h"
 #include "runtime/Seams.h"
 #include "toolkit/CleanUp.h"
@@ -26,7 +25,6 @@ constexpr QSize homeSize(850, 620);
 constexpr int bandHeight = 24;
 constexpr int firstTileTop = 66;
 constexpr int tilePitch = 68;
-constexpr int bandLeft = 8;
 constexpr int titleButton = 32;
 constexpr int titlePicture = 16;
 constexpr QSize logoSize(22, 22);
@@ -138,14 +136,13 @@ void frmHOME::LayCommands() {
     picFrameTop_->setObjectName(QStringLiteral("picFrameTop"));
     picFrameTop_->setGeometry(0, TheStyle().titleHeight, width(), bandHeight);
     picFrameTop_->setMouseTracking(true);
-    auto* edit = new ucMenuTitle(QStringLiteral("cmdEditProfile"),
-                                 QStringLiteral("Edit My Profile..."), picFrameTop_);
-    auto* preferences = new ucMenuTitle(QStringLiteral("cmdPreferences"),
-                                        QStringLiteral("Preferences"), picFrameTop_);
-    edit->move(bandLeft, 0);
-    preferences->move(edit->geometry().right() + 1 + TheStyle().groupGap, 0);
-    connect(edit, &ucMenuTitle::clicked, this, &frmHOME::EditProfile);
-    connect(preferences, &ucMenuTitle::clicked, this, &frmHOME::ShowPreferences);
+    menu_ = new ucMenu(picFrameTop_);
+    connect(menu_, &ucMenu::Chosen, this,
+            [this](int index) { MenuItems::All()[index].act(*this); });
+}
+
+void frmHOME::ResetMenu() {
+    menu_->ResetMenu();
 }
 
 void frmHOME::LayNavigation() {
@@ -165,7 +162,10 @@ ucButtonA* frmHOME::AddNavigationButton(int index) {
     button->SetPictures(QLatin1String(row.picture), hover);
     button->installEventFilter(this);
     connect(button, &ucButtonA::MouseMove, this, [this, button, hover] { OnHover(button, hover); });
-    connect(button, &ucButtonA::Click, this, [screen] { Open(screen); });
+    connect(button, &ucButtonA::Click, this, [this, screen] {
+        ResetMenu();
+        Open(screen);
+    });
     if (!screen.isEmpty() && !HasScreen(screen))
         Disable(button, QLatin1String(row.absent));
     buttons_[index] = button;
@@ -195,7 +195,7 @@ void frmHOME::AddShortcuts() {
     };
     add(QKeySequence(Qt::ALT | Qt::Key_F4), &frmHOME::QuitRequested);
     add(QKeySequence(Qt::CTRL | Qt::Key_Q), &frmHOME::QuitRequested);
-    add(QKeySequence(Qt::CTRL | Qt::Key_Comma), &frmHOME::ShowPreferences);
+    add(QKeySequence(Qt::CTRL | Qt::Key_Comma), [this] { frmPrefs(this).ShowModal(); });
 }
 
 void frmHOME::ShowFront(const QString& screen) {
@@ -216,14 +216,6 @@ void frmHOME::AllOff(const QString& name) {
             button->Reset();
     if (name.isEmpty())
         aaWindow_->SetCaption(App().WindowTitle);
-}
-
-void frmHOME::ShowPreferences() {
-    frmPrefs(this).ShowModal();
-}
-
-void frmHOME::EditProfile() {
-    frmProfile::EditUser(User::Current().UID);
 }
 
 /// The platform tells when the pointer leaves a button.

@@ -6,9 +6,10 @@
 
 class ucAALBL;
 class ucButtonA;
+class ucMenu;
 class ucTitleBar;
 
-/// The frame: title bar, band for the commands, column of navigation buttons, and the nest over
+/// The frame: title bar, menu bar, column of navigation buttons, and the nest over
 /// which the screens are laid. Created and owned by the navigation.
 class frmHOME : public QWidget {
     Q_OBJECT
@@ -25,6 +26,7 @@ public:
     /// Takes the highlight off all navigation buttons but the one named; an empty name also brings
     /// the title of the active screen back.
     void AllOff(const QString& name);
+    void ResetMenu(); ///< called before a change of screen
 
 Q_SIGNALS:
     void QuitRequested();
@@ -46,12 +48,11 @@ private:
     ucButtonA* AddNavigationButton(int index);
     ucButtonA* AddTitleButton(const char* name, const char* picture, const char* tip, int left);
     void OnHover(ucButtonA* button, const QString& text);
-    void ShowPreferences();
-    void EditProfile();
 
     QWidget* picFrameTop_ = nullptr;
     QWidget* picNest_ = nullptr;
     ucTitleBar* ucTitle_ = nullptr;
     ucAALBL* aaWindow_ = nullptr;
+    ucMenu* menu_ = nullptr;
     std::array<ucButtonA*, 7> buttons_{}; ///< those that open something; the last one is the logo
 };

@@ -47,8 +47,8 @@ public:
 private:
     bool Presses() const {
         static constexpr QAccessible::Role pressed[] = {
-            QAccessible::Button, QAccessible::RadioButton, QAccessible::ComboBox,
-            QAccessible::ListItem};
+            QAccessible::Button,   QAccessible::RadioButton, QAccessible::ComboBox,
+            QAccessible::ListItem, QAccessible::ButtonMenu,  QAccessible::MenuItem};
         return std::find(std::begin(pressed), std::end(pressed), role()) != std::end(pressed);
     }
 };

@@ -93,7 +93,9 @@ protected:
         testing::internal::GetCapturedStderr();
         return text;
     }
+    void ShowDay() { Click(Find(TheNavigation().Frame(), QStringLiteral("cmdDay"))); }
     void WeighIn(const char* pounds) {
+        ShowDay();
         auto* field = Find<QLineEdit>(TheNavigation().Frame(), QStringLiteral("txtWeight"));
         field->setFocus();
         field->selectAll();
@@ -101,6 +103,7 @@ protected:
         field->clearFocus();
     }
     QString ShownWeight() {
+        ShowDay();
         return Find<QLineEdit>(TheNavigation().Frame(), QStringLiteral("txtWeight"))->text();
     }
 };
@@ -213,7 +216,8 @@ TEST_P(NonsenseSettings, InEveryValueStillLeadToTheDayAndBack) {
     Start();
     EXPECT_EQ(modals, (QStringList{QStringLiteral("frmEULA"), QStringLiteral("frmSplash")}));
     ASSERT_NE(TheNavigation().Front(), nullptr);
-    EXPECT_EQ(TheNavigation().Front()->objectName(), QStringLiteral("frmDay"));
+    EXPECT_EQ(TheNavigation().Front()->objectName(), QStringLiteral("frmMain"));
+    ShowDay();
     QString opened;
     WithModal(
         [&](QWidget* dialog) {
@@ -298,9 +302,11 @@ protected:
         SetRegValue(QStringLiteral("FAST"), QLatin1String(GetParam() ? "True" : "False"));
         Start();
         CreateProfile();
+        ShowDay();
+        RunDeferredDeletes();
     }
     QString ShownDate() {
-        return Find(TheNavigation().Frame(), QStringLiteral("aadate"))
+        return Find(TheNavigation().Front(), QStringLiteral("aadate"))
             ->property("Caption")
             .toString();
     }
@@ -319,7 +325,7 @@ TEST_P(RealScreens, ReturningToTheDayShowsTheCurrentDate) {
 
 TEST_P(RealScreens, CancellingTheProfileShowsTheSameDayAgain) {
     const QPointer<Screen> day = TheNavigation().Front();
-    Click(Find(TheNavigation().Frame(), QStringLiteral("cmdEditProfile")));
+    ChooseFromMenu(7);
     ASSERT_EQ(TheNavigation().Front()->objectName(), QStringLiteral("frmProfile"));
     EXPECT_FALSE(day->isVisible());
     Click(Find(TheNavigation().Front(), QStringLiteral("cmdCancel")));

@@ -1,6 +1,7 @@
 #include "core/CoreTest.h"
 
 #include "core/Flow.h"
+#include "core/MenuItems.h"
 #include "core/Navigation.h"
 #include "core/SingleInstance.h"
 #include "core/frmHOME.h"
@@ -123,6 +124,13 @@ int CoreTest::RunMain() {
     const int exitCode = Flow::Main(instance);
     stderrText = QString::fromStdString(testing::internal::GetCapturedStderr());
     return exitCode;
+}
+
+void CoreTest::ChooseFromMenu(int index) {
+    const MenuItems::Title& title = MenuItems::Titles()[MenuItems::All()[index].menu];
+    QWidget* frame = TheNavigation().Frame();
+    Click(Find(frame, QLatin1String(title.name)));
+    Click(Find(frame, QStringLiteral("lblMenuItem%1").arg(index)));
 }
 
 QWidget* CoreTest::Window(const QString& name) {

@@ -44,6 +44,8 @@ protected:
     /// `answers`; the splash is clicked away and the agreement accepted where nothing else is said.
     int RunMain();
 
+    static void ChooseFromMenu(int index); ///< the item of the frame's menu bar
+
     QWidget* Window(const QString& name);  ///< the open top-level window of that name, or null
     static void Activate(QWidget* window); ///< and waits until it takes the keyboard
     static void RunDeferredDeletes();

@@ -2,9 +2,9 @@
 
 #include "core/Flow.h"
 #include "core/Navigation.h"
+#include "core/Screens.h"
 #include "core/frmAlert.h"
 #include "core/frmHOME.h"
-#include "intake/frmDay.h"
 #include "model/User.h"
 #include "model/frmProfile.h"
 #include "runtime/AppPath.h"
@@ -24,13 +24,9 @@ class FirstRunTest : public CoreTest {
 protected:
     void SetUp() override {
         CoreTest::SetUp();
-        RegisterScreens();
+        RegisterScreens(TheNavigation());
         Clock::SetToday(QDate(2026, 11, 21));
         Deliver();
-    }
-    void RegisterScreens() {
-        TheNavigation().Register<frmDay>(QStringLiteral("frmDay"));
-        TheNavigation().Register<frmProfile>(QStringLiteral("frmProfile"));
     }
     frmHOME* Frame() { return TheNavigation().Frame(); }
     static void Type(QWidget* form, const char* field, const char* text) {
@@ -70,24 +66,27 @@ protected:
         TheNavigation().Reset();
         RunDeferredDeletes();
         ResetApp();
-        RegisterScreens();
+        RegisterScreens(TheNavigation());
         modals.clear();
         ASSERT_EQ(RunMain(), 0);
     }
-    void PressEditProfile() { Click(Find(Frame(), QStringLiteral("cmdEditProfile"))); }
+    void ShowDay() {
+        Click(Find(Frame(), QStringLiteral("cmdDay")));
+        RunDeferredDeletes();
+    }
+    void PressEditProfile() { ChooseFromMenu(7); }
     static void EndOfRoutine() { QCoreApplication::sendPostedEvents(); }
 };
 
-TEST_F(FirstRunTest, FromWelcomeThroughTheProfileToTodaysDay) {
+TEST_F(FirstRunTest, FromWelcomeThroughTheProfileToTheHomeScreen) {
     CreateAnna();
     EXPECT_EQ(Users(QStringLiteral("SELECT UserName FROM profiles")).toString(),
               QStringLiteral("Anna"));
     EXPECT_EQ(User::Current().UserName, QStringLiteral("Anna"));
     EXPECT_TRUE(Frame()->isVisible());
     ASSERT_NE(TheNavigation().Front(), nullptr);
-    EXPECT_EQ(TheNavigation().Front()->objectName(), QStringLiteral("frmDay"));
-    EXPECT_EQ(Find(Frame(), QStringLiteral("aadate"))->property("Caption").toString(),
-              QStringLiteral("Saturday, November 21, 2026"));
+    EXPECT_EQ(TheNavigation().Front()->objectName(), QStringLiteral("frmMain"));
+    EXPECT_EQ(App().CurrentDate, QDate(2026, 11, 21));
     EXPECT_EQ(Window(QStringLiteral("frmWelcome")), nullptr);
     EXPECT_EQ(Window(QStringLiteral("frmProfile")), nullptr);
 }
@@ -100,15 +99,18 @@ TEST_F(FirstRunTest, TheSecondStartFindsEverythingThere) {
     EXPECT_EQ(modals, QStringList{QStringLiteral("frmSplash")});
     EXPECT_EQ(User::Current().UID, uid);
     EXPECT_EQ(User::Current().RDIs.Calories(), calories);
-    EXPECT_TRUE(Window(QStringLiteral("frmHOME")) && TheNavigation().Front());
+    ASSERT_TRUE(Window(QStringLiteral("frmHOME")) && TheNavigation().Front());
+    EXPECT_EQ(TheNavigation().Front()->objectName(), QStringLiteral("frmMain"));
 }
 
 TEST_F(FirstRunTest, AWeightBeingTypedIsSavedByQuitting) {
     CreateAnna();
+    ShowDay();
     Type(Frame(), "txtWeight", "138.5");
     QTest::keyClick(Find(Frame(), QStringLiteral("txtWeight")), Qt::Key_Q, Qt::ControlModifier);
     EXPECT_FALSE(Flow::HasWindow());
     StartAgain();
+    ShowDay();
     EXPECT_EQ(Users(QStringLiteral("SELECT Weight FROM USER_WEIGHTS")).toDouble(), 138.5);
     EXPECT_EQ(Find<QLineEdit>(Frame(), QStringLiteral("txtWeight"))->text(),
               QStringLiteral("138.5"));
@@ -116,6 +118,7 @@ TEST_F(FirstRunTest, AWeightBeingTypedIsSavedByQuitting) {
 
 TEST_F(FirstRunTest, AWeightThatIsNoneIsSaidWhileQuittingAndNothingIsStored) {
     CreateAnna();
+    ShowDay();
     Type(Frame(), "txtWeight", "-5");
     ExpectAlert(QStringLiteral("Please enter a valid weight greater than '0'. To remove the weight "
                                "entry for this day, delete the entry from the weight field."));
@@ -181,7 +184,7 @@ TEST_F(FirstRunTest, ThePreferencesStandAtTheNextStart) {
             Click(Find(dialog, QStringLiteral("ckFast")), QPoint(8, 8));
             Click(Find(dialog, QStringLiteral("cmdSave")));
         },
-        [this] { Click(Find(Frame(), QStringLiteral("cmdPreferences"))); });
+        [this] { ChooseFromMenu(6); });
     StartAgain();
     EXPECT_TRUE(App().AppInfo.FAST);
 }

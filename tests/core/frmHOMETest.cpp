@@ -6,14 +6,12 @@
 #include "core/OpenURL.h"
 #include "core/frmHOME.h"
 #include "model/User.h"
-#include "model/frmProfile.h"
 #include "runtime/AppState.h"
 #include "runtime/Seams.h"
 #include "toolkit/Twips.h"
 #include "toolkit/ucButtonA.h"
 
 #include <QApplication>
-#include <QLineEdit>
 #include <QScreen>
 #include <QTest>
 #include <QTimer>
@@ -105,14 +103,6 @@ TEST_F(frmHOMETest, TheCommunityButtonAndTheLogoOpenTheCommunityPage) {
     EXPECT_EQ(Title(), QStringLiteral("Halvane"));
 }
 
-TEST_F(frmHOMETest, TheDayButtonIsChosenWhereTheDayStandsInForTheHomeScreen) {
-    AddLoggedScreen(QStringLiteral("frmDay"), QStringLiteral("Daily Details"));
-    Open();
-    ::ShowScreen(QStringLiteral("frmMain"));
-    EXPECT_TRUE(Button("cmdDay")->Chosen());
-    EXPECT_FALSE(Button("cmdCal")->Chosen());
-}
-
 TEST_F(frmHOMETest, HoveringAButtonShowsItsTextAndTakesTheHighlightOffTheOthers) {
     RegisterAll();
     Open();
@@ -197,19 +187,15 @@ TEST_F(frmHOMETest, EveryWayToCloseAsksToQuit) {
     EXPECT_EQ(asked, 4);
 }
 
-TEST_F(frmHOMETest, ThePreferencesOpenOverItFromTheBandAndByTheKeyboard) {
-    Open();
-    const auto close = [this](QWidget* dialog) {
-        EXPECT_EQ(dialog->objectName(), QStringLiteral("frmPrefs"));
-        EXPECT_EQ(dialog->parentWidget(), Frame());
-        dialog->close();
-    };
-    WithModal(close, [this] { Click(Find(Frame(), QStringLiteral("cmdPreferences"))); });
-    Activate(Frame());
-    WithModal(close, [this] { QTest::keyClick(Frame(), Qt::Key_Comma, Qt::ControlModifier); });
-    auto* button = Find(Frame(), QStringLiteral("cmdPreferences"));
-    WithModal(close, [button] { QTest::keyClick(button, Qt::Key_Return); });
-    WithModal(close, [button] { QTest::keyClick(button, Qt::Key_Space); });
+TEST_F(frmHOMETest, ThePreferencesOpenOverItByTheirKeys) {
+    Activate(Open());
+    WithModal(
+        [this](QWidget* dialog) {
+            EXPECT_EQ(dialog->objectName(), QStringLiteral("frmPrefs"));
+            EXPECT_EQ(dialog->parentWidget(), Frame());
+            dialog->close();
+        },
+        [this] { QTest::keyClick(Frame(), Qt::Key_Comma, Qt::ControlModifier); });
 }
 
 TEST_F(frmHOMETest, ItTakesItsStoredPlaceInTwips) {
@@ -237,47 +223,32 @@ TEST_F(frmHOMETest, AStoredPlaceOutsideEveryScreenBecomesTheMiddleOfThePrimaryOn
         EXPECT_EQ(PlaceOnScreens(near, size, 34), near) << near.x() << ' ' << near.y();
 }
 
-TEST_F(frmHOMETest, ItShowsTheFirstScreenOnlyWhereThereIsAUser) {
-    AddLoggedScreen(QStringLiteral("frmDay"), QStringLiteral("Daily Details"));
+TEST_F(frmHOMETest, ItShowsTheHomeScreenOnlyWhereThereIsAUser) {
+    AddLoggedScreen(QStringLiteral("frmMain"), QStringLiteral("Main"));
     Open();
     EXPECT_EQ(TheNavigation().Front(), nullptr);
     TheNavigation().Reset();
-    AddLoggedScreen(QStringLiteral("frmDay"), QStringLiteral("Daily Details"));
+    AddLoggedScreen(QStringLiteral("frmMain"), QStringLiteral("Main"));
     User::Current().UID = 5;
     Open();
     ASSERT_NE(TheNavigation().Front(), nullptr);
+    EXPECT_EQ(TheNavigation().Front()->objectName(), QStringLiteral("frmMain"));
     EXPECT_TRUE(TheNavigation().Front()->isVisible());
 }
 
-TEST_F(frmHOMETest, TabWalksTitleBarBandAndColumnInReadingOrder) {
+TEST_F(frmHOMETest, TabWalksTitleBarMenuBarAndColumnInReadingOrder) {
     RegisterAll();
     Activate(Open());
     Button("cmdMin")->setFocus(Qt::TabFocusReason);
     QStringList names;
-    for (int step = 0; step < 9; ++step) {
+    for (int step = 0; step < 10; ++step) {
         names << QApplication::focusWidget()->objectName();
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
     }
     const QStringList wanted{QStringLiteral("cmdMin"),         QStringLiteral("cmdQuit"),
-                             QStringLiteral("cmdEditProfile"), QStringLiteral("cmdPreferences"),
-                             QStringLiteral("cmdCal"),         QStringLiteral("cmdDay"),
-                             QStringLiteral("cmdReport"),      QStringLiteral("cmdCustomFoods"),
-                             QStringLiteral("cmdRecipes")};
+                             QStringLiteral("lblFile"),        QStringLiteral("lblEdit"),
+                             QStringLiteral("lblHelp"),        QStringLiteral("cmdCal"),
+                             QStringLiteral("cmdDay"),         QStringLiteral("cmdReport"),
+                             QStringLiteral("cmdCustomFoods"), QStringLiteral("cmdRecipes")};
     EXPECT_EQ(names, wanted);
-}
-
-TEST_F(frmHOMETest, TheCommandOfTheProfileEditsTheCurrentUserAndCancelLeadsBack) {
-    OpenDatabases();
-    AddUser(QStringLiteral("Anna"));
-    AddLoggedScreen(QStringLiteral("frmDay"), QStringLiteral("Daily Details"));
-    TheNavigation().Register<frmProfile>(QStringLiteral("frmProfile"));
-    Open();
-    Click(Find(Frame(), QStringLiteral("cmdEditProfile")));
-    Screen* profile = TheNavigation().Front();
-    ASSERT_EQ(profile->objectName(), QStringLiteral("frmProfile"));
-    EXPECT_EQ(Find<QLineEdit>(profile, QStringLiteral("txtUserName"))->text(),
-              QStringLiteral("Anna"));
-    Click(Find(profile, QStringLiteral("cmdCancel")));
-    QCoreApplication::sendPostedEvents();
-    EXPECT_EQ(TheNavigation().Front()->objectName(), QStringLiteral("frmDay"));
 }

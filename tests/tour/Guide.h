@@ -33,6 +33,7 @@ public:
     void Press(QWidget* root, const QString& button);
     void Type(QWidget* root, const QString& field,
               const QString& text); ///< replaces the field's text
+    void TakeInput(QWidget* control); ///< keys go to its window from here on
     void HoverOver(QWidget* root, const QString& control);
     void Picture(QWidget* window, const QString& name);
     void Settle(); ///< lets pending paints and events run
@@ -52,7 +53,6 @@ private:
         std::function<void(QWidget*)> work;
     };
     void Visit(QWidget* modal);
-    void TakeInput(QWidget* control);
 
     QDir pictures_;
     QQueue<Stop> foreseen_;

@@ -50,12 +50,17 @@ const QDate ThatDay(2026, 11, 21);
 
 Walk::Walk(Guide& guide, const QString& folder)
     : guide_(guide)
-    , folder_(folder) {}
+    , folder_(folder)
+    , home_(guide)
+    , menu_(guide) {}
 
 void Walk::Go() {
     UseFolder();
     LayOut();
     FirstStart();
+    home_.EmptyMonth();
+    menu_.Look();
+    home_.ChooseToday();
     WeighIn();
     LogMeals();
     LookAtDay();
@@ -295,7 +300,7 @@ void Walk::ChangeDay() {
 
 void Walk::EditProfile() {
     QWidget* frame = guide_.Window(QStringLiteral("frmHOME"));
-    guide_.Press(frame, QStringLiteral("cmdEditProfile"));
+    menu_.Choose(7);
     QWidget* profile = guide_.Window(QStringLiteral("frmProfile"));
     guide_.Picture(frame, QStringLiteral("profile-edit"));
     guide_.Press(profile, QStringLiteral("cmdAdvanced"));
@@ -311,7 +316,7 @@ void Walk::Preferences() {
         guide_.Picture(preferences, QStringLiteral("preferences"));
         guide_.Press(preferences, QStringLiteral("cmdSave"));
     });
-    guide_.Press(guide_.Window(QStringLiteral("frmHOME")), QStringLiteral("cmdPreferences"));
+    menu_.Choose(6);
 }
 
 void Walk::Quit() {
@@ -327,6 +332,7 @@ void Walk::GoAgain() {
                    [](QWidget* splash) { QTest::keyClick(splash, Qt::Key_Space); });
     Start();
     guide_.Settle();
+    home_.ChooseToday();
     guide_.Picture(guide_.Window(QStringLiteral("frmHOME")), QStringLiteral("day-second-start"));
     guide_.Check(User::Current().UserName == QStringLiteral("Tom"),
                  QStringLiteral("the profile is there"));
@@ -336,5 +342,6 @@ void Walk::GoAgain() {
     guide_.Check(guide_.Find<QLineEdit>(Day(), QStringLiteral("txtWeight"))->text() ==
                      QStringLiteral("198.5"),
                  QStringLiteral("the weight is there"));
+    home_.FullMonth();
     Quit();
 }

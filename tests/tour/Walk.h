@@ -1,5 +1,8 @@
 #pragma once
 
+#include "tour/HomeWalk.h"
+#include "tour/MenuWalk.h"
+
 #include <QString>
 
 class Guide;
@@ -43,4 +46,6 @@ private:
 
     Guide& guide_;
     QString folder_;
+    HomeWalk home_;
+    MenuWalk menu_;
 };

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QString>
+
+#include <array>
+
+class frmHOME;
+
+/// What the menu bar offers. The place of an item in the table is its index.
+namespace MenuItems {
+enum Menu { File, Edit, Help };
+inline constexpr int MenuCount = 3;
+
+struct Title {
+    const char* name;
+    const char* panel;
+    const char* caption;
+};
+
+struct Item {
+    Menu menu;
+    const char* caption;
+    bool shown;
+    void (*act)(frmHOME& frame); ///< none: the item is greyed
+    const char* absent;          ///< tip of an item that is greyed because something is missing
+};
+
+const std::array<Title, MenuCount>& Titles();
+const std::array<Item, 13>& All();
+} // namespace MenuItems

@@ -1,0 +1,100 @@
+#include "core/MenuLabel.h"
+
+#include "toolkit/Style.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+
+namespace {
+
+// Pixels.
+constexpr int titlePadding = 10;
+constexpr int titleGap = 2;
+constexpr int itemIndent = 16;
+constexpr int itemRoom = 28; // right of the text
+
+} // namespace
+
+MenuLabel::MenuLabel(Kind kind, const QString& name, const QString& caption, QWidget* parent)
+    : DrawnControl(parent)
+    , kind_(kind)
+    , caption_(caption) {
+    setObjectName(name);
+    setAccessibleName(caption.trimmed());
+    setFont(TheStyle().text);
+    resize(sizeHint());
+}
+
+QSize MenuLabel::sizeHint() const {
+    const int text = fontMetrics().horizontalAdvance(caption_.trimmed());
+    if (kind_ == Kind::Title)
+        return {text + 2 * titlePadding, TheStyle().headerHeight};
+    return {itemIndent + text + itemRoom, TheStyle().rowHeight};
+}
+
+QAccessible::Role MenuLabel::AccessibleRole() const {
+    return kind_ == Kind::Title ? QAccessible::ButtonMenu : QAccessible::MenuItem;
+}
+
+void MenuLabel::SetHilited(bool hilited) {
+    if (hilited_ == hilited)
+        return;
+    hilited_ = hilited;
+    update();
+}
+
+void MenuLabel::SetOpen(bool open) {
+    if (open_ == open)
+        return;
+    open_ = open;
+    update();
+}
+
+void MenuLabel::mousePressEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton)
+        Q_EMIT Click();
+}
+
+/// Titles let the move through, so that the frame takes the highlight off its buttons.
+void MenuLabel::mouseMoveEvent(QMouseEvent* event) {
+    RaiseMouseMove(event);
+    event->setAccepted(kind_ == Kind::Item);
+}
+
+/// An item keeps its highlight: the keyboard goes on from there.
+void MenuLabel::leaveEvent(QEvent*) {
+    if (kind_ == Kind::Title)
+        SetHilited(false);
+}
+
+void MenuLabel::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    if (kind_ == Kind::Title)
+        PaintTitle(painter);
+    else
+        PaintItem(painter);
+}
+
+void MenuLabel::PaintTitle(QPainter& painter) const {
+    const Style& style = TheStyle();
+    painter.setRenderHint(QPainter::Antialiasing);
+    if (open_ || hilited_ || FocusShown()) {
+        const Style::ButtonFace& face = style.button[open_ ? 2 : 1];
+        painter.setPen(FocusShown() ? QPen(style.frame, 2) : QPen(face.edge, 1));
+        painter.setBrush(open_ ? face.ground.to : face.ground.from);
+        painter.drawRoundedRect(QRectF(rect()).adjusted(1, titleGap + .5, -1, -titleGap - .5),
+                                style.buttonRadius, style.buttonRadius);
+    }
+    painter.setPen(style.ink);
+    painter.drawText(rect(), Qt::AlignCenter, caption_.trimmed());
+}
+
+void MenuLabel::PaintItem(QPainter& painter) const {
+    const Style& style = TheStyle();
+    if (hilited_)
+        painter.fillRect(rect(), style.chosenRow);
+    const QColor& ink = hilited_ ? style.chosenRowText : style.ink;
+    painter.setPen(isEnabled() ? ink : style.disabledInk);
+    painter.drawText(rect().adjusted(itemIndent, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter,
+                     caption_.trimmed());
+}

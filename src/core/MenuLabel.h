@@ -1,0 +1,39 @@
+#pragma once
+
+#include "toolkit/DrawnControl.h"
+
+/// A line of the menu bar: one of its titles, or an item of a panel. It acts as soon as the button
+/// goes down on it. The blanks before a caption are no part of what is drawn or spoken.
+class MenuLabel : public DrawnControl {
+    Q_OBJECT
+    Q_PROPERTY(QString Caption READ Caption)
+    Q_PROPERTY(bool Enabled READ isEnabled WRITE setEnabled)
+    Q_PROPERTY(bool Hilited READ Hilited WRITE SetHilited)
+
+public:
+    enum class Kind { Title, Item };
+
+    MenuLabel(Kind kind, const QString& name, const QString& caption, QWidget* parent);
+
+    QString Caption() const { return caption_; }
+    bool Hilited() const { return hilited_; }
+    void SetHilited(bool hilited);
+    void SetOpen(bool open); ///< a title whose panel is showing
+    QSize sizeHint() const override;
+    QAccessible::Role AccessibleRole() const override;
+
+protected:
+    void paintEvent(QPaintEvent*) override;
+    void mousePressEvent(QMouseEvent*) override;
+    void mouseMoveEvent(QMouseEvent*) override;
+    void leaveEvent(QEvent*) override;
+
+private:
+    void PaintTitle(QPainter& painter) const;
+    void PaintItem(QPainter& painter) const;
+
+    Kind kind_;
+    QString caption_;
+    bool hilited_ = false;
+    bool open_ = false;
+};
