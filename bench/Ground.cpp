@@ -91,5 +91,18 @@ void Ground::FillLog() {
             insert.exec();
             insert.reset();
         }
+    FillWeights();
     transaction.commit();
+}
+
+void Ground::FillWeights() {
+    SQLite::Statement insert(UserDB().Raw(),
+                             "INSERT INTO USER_WEIGHTS (UID, UDate, Weight) VALUES (?, ?, ?)");
+    for (int day = 0; day < Days; ++day) {
+        insert.bind(1, User::Current().UID);
+        insert.bind(2, Day(day).toString(Qt::ISODate).toStdString());
+        insert.bind(3, 150.0 + (day * 11) % 60);
+        insert.exec();
+        insert.reset();
+    }
 }

@@ -4,7 +4,7 @@
 #include <QTemporaryDir>
 
 /// A folder with the delivered databases, one user and, where asked for, ten years of that user's
-/// log. Both connections stand open on it while it lives.
+/// log of foods and weights. Both connections stand open on it while it lives.
 class Ground {
 public:
     static constexpr int Days = 3650;
@@ -22,6 +22,7 @@ public:
 
 private:
     void FillLog();
+    void FillWeights();
 
     QTemporaryDir folder_;
 };
