@@ -14,5 +14,5 @@ BarGrid::BarGrid(QWidget* parent)
 void BarGrid::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.fillRect(rect(), TheStyle().paper);
-    GridLines{Origin, Step, DarkStep, Twips::FromPixels(width())}.Draw(painter, height());
+    GridLines{Origin, Step, DarkStep, Twips::FromPixels(width())}.DrawGrid(painter, height());
 }

@@ -5,7 +5,7 @@
 
 #include <QPainter>
 
-void GridLines::Draw(QPainter& painter, int height) const {
+void GridLines::DrawGrid(QPainter& painter, int height) const {
     const Style& style = TheStyle();
     const int bottom = Twips::ToPixels(Twips::FromPixels(height) - Foot);
     for (int n = 0; origin + n <= end; n += step) {

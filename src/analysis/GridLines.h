@@ -9,5 +9,5 @@ struct GridLines {
 
     static constexpr int Foot = 30; ///< twips below the lines
 
-    void Draw(QPainter& painter, int height) const; ///< on a surface of that many pixels
+    void DrawGrid(QPainter& painter, int height) const; ///< on a surface of that many pixels
 };

@@ -143,7 +143,7 @@ void ucBarChart::PlaceRow(int i, int labelHeight) {
 void ucBarChart::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.fillRect(rect(), TheStyle().paper);
-    Grid.Draw(painter, height());
+    Grid.DrawGrid(painter, height());
     painter.setPen(TheStyle().frame);
     painter.drawRect(QRectF(rect()).adjusted(.5, .5, -.5, -.5));
 }

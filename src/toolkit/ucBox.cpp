@@ -55,8 +55,12 @@ void ucBox::resizeEvent(QResizeEvent*) {
 
 void ucBox::paintEvent(QPaintEvent*) {
     QPainter painter(this);
+    painter.fillRect(rect(), TheStyle().paper);
+    DrawBorder(painter);
+}
+
+void ucBox::DrawBorder(QPainter& painter) const {
     const Style& style = TheStyle();
-    painter.fillRect(rect(), style.paper);
     painter.setPen(style.frame);
     painter.drawRoundedRect(QRectF(rect()).adjusted(.5, .5, -.5, -.5), style.boxRadius,
                             style.boxRadius);

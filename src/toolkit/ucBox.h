@@ -35,6 +35,8 @@ protected:
     void mouseMoveEvent(QMouseEvent*) override;
 
 private:
+    void DrawBorder(QPainter& painter) const;
+
     ucHeader* header_;
     double currentX_ = 0;
     double currentY_ = 0;
