@@ -21,6 +21,13 @@ void BareStore::Read(SQLite::Database& database, const std::string& sql, int mos
             benchmark::DoNotOptimize(statement.getColumn(i).getText());
 }
 
+std::string BareStore::SumsOf(std::span<const Nutrient> nutrients) {
+    std::string sums;
+    for (const Nutrient id : nutrients)
+        sums += (sums.empty() ? "SELECT Sum(" : ",Sum(") + std::string(Info(id).logColumn) + ")";
+    return sums + " FROM USER_FOODS";
+}
+
 void BareStore::Search(SQLite::Database& users, SQLite::Database& foods, const SearchTerms& terms) {
     const auto read = [](SQLite::Database& database, const QString& source) {
         Read(database, Dialect::Adapt(source, false).sql.toStdString(), searchRowsRead);

@@ -25,13 +25,6 @@ struct DayParts {
     }
 };
 
-std::string DaySums(const std::string& where) {
-    std::string sums;
-    for (const NutrientInfo& row : Nutrients())
-        sums += (sums.empty() ? "Sum(" : ",Sum(") + std::string(row.logColumn) + ")";
-    return "SELECT " + sums + " FROM USER_FOODS" + where;
-}
-
 void DayChangeOurs(benchmark::State& state) {
     const Ground ground(true);
     DayParts day;
@@ -53,8 +46,8 @@ void DayChangeLimit(benchmark::State& state) {
             BareStore::Read(UserDB().Raw(), "SELECT * FROM USER_FOODS WHERE UID =" + uid +
                                                 " AND MEAL = '" + meal + "' AND UDate = '" + day +
                                                 "'");
-        BareStore::Read(UserDB().Raw(),
-                        DaySums(" WHERE UID=" + uid + " AND UDate = '" + day + "'"));
+        BareStore::Read(UserDB().Raw(), BareStore::SumsOf(CanonicalOrder()) + " WHERE UID=" + uid +
+                                            " AND UDate = '" + day + "'");
         index += 37;
     }
 }

@@ -1,3 +1,4 @@
+#include "BareStore.h"
 #include "Ground.h"
 #include "Table.h"
 
@@ -9,8 +10,6 @@
 #include "toolkit/Style.h"
 
 #include <QPainter>
-
-#include <SQLiteCpp/SQLiteCpp.h>
 
 namespace {
 struct Span {
@@ -34,20 +33,8 @@ struct BenchPeriod {
     }
 };
 
-int ReadAll(const std::string& sql) {
-    SQLite::Statement statement(UserDB().Raw(), sql);
-    int rows = 0;
-    for (; statement.executeStep(); ++rows)
-        for (int i = 0; i < statement.getColumnCount(); ++i)
-            benchmark::DoNotOptimize(statement.getColumn(i).getText());
-    return rows;
-}
-
-template <class Sums> std::string SumsOf(const Sums& nutrients) {
-    std::string sums;
-    for (const Nutrient id : nutrients)
-        sums += (sums.empty() ? "SELECT Sum(" : ",Sum(") + std::string(Info(id).logColumn) + ")";
-    return sums + " FROM USER_FOODS";
+void ReadAll(const std::string& sql) {
+    BareStore::Read(UserDB().Raw(), sql);
 }
 
 void ReadDays(const BenchPeriod& period) {
@@ -56,13 +43,13 @@ void ReadDays(const BenchPeriod& period) {
 
 void BareBars(const BenchPeriod& period) {
     ReadAll("SELECT Avg(Weight) FROM USER_WEIGHTS" + period.Where() + " AND Weight > 0");
-    ReadAll(SumsOf(PeriodOrder()) + period.Where());
+    ReadAll(BareStore::SumsOf(PeriodOrder()) + period.Where());
     ReadDays(period);
 }
 
 void BarePie(const BenchPeriod& period) {
     using enum Nutrient;
-    ReadAll(SumsOf(std::array{Calories, Protein, TotalFat, Carbs}) + period.Where());
+    ReadAll(BareStore::SumsOf(std::array{Calories, Protein, TotalFat, Carbs}) + period.Where());
     ReadDays(period);
 }
 
