@@ -3,6 +3,7 @@
 #include "foods/ElidedLabel.h"
 #include "foods/ServingLine.h"
 #include "runtime/Convert.h"
+#include "store/Schema.h"
 #include "toolkit/Labels.h"
 #include "toolkit/Pictures.h"
 #include "toolkit/Style.h"
@@ -13,6 +14,7 @@
 
 namespace {
 const QString foodPicture = QStringLiteral("food");
+const QString customPicture = QStringLiteral("custom-food");
 const QString recipePicture = QStringLiteral("recipe");
 const QString quantityCaption = QStringLiteral("QTY");
 
@@ -48,11 +50,19 @@ void ucFood::SetServB(const QString& serving) {
 
 void ucFood::SetID(const QString& id) {
     Take(id_, id);
+    ShowSource();
 }
 
 void ucFood::SetIsRecipe(bool recipe) {
     isRecipe_ = recipe;
-    SetFoodIcon(recipe ? recipePicture : foodPicture);
+    ShowSource();
+}
+
+void ucFood::ShowSource() {
+    if (isRecipe_)
+        SetFoodIcon(recipePicture);
+    else
+        SetFoodIcon(id_.toInt() > Schema::LastStockFood ? customPicture : foodPicture);
 }
 
 void ucFood::SetRecipeMode(bool on) {

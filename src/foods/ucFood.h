@@ -33,8 +33,8 @@ public:
     void SetServA(const QString& serving);
     void SetServB(const QString& serving);
     void SetID(const QString& id);
-    void SetIsRecipe(bool recipe); ///< also sets the icon that goes with it
-    void SetRecipeMode(bool on);   ///< stored and handed around, without effect on the row
+    void SetIsRecipe(bool recipe);
+    void SetRecipeMode(bool on); ///< stored and handed around, without effect on the row
 
     FoodRowLayout layoutRects() const { return FoodRowLayout::Of(width()); }
     void Materialise(); ///< makes the controls where they are not there yet
@@ -58,6 +58,7 @@ protected:
     void mouseDoubleClickEvent(QMouseEvent*) override;
 
 private:
+    void ShowSource(); ///< the icon of stock foods, of one's own or of recipes
     using Handler = void (ucFood::*)(qint32, const QString&, double, bool);
 
     QFont NameFont() const;

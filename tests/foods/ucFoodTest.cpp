@@ -60,13 +60,16 @@ TEST(UcFoodDefaultsTest, PropertiesAreSetByName) {
     EXPECT_EQ(row.ID(), "12");
 }
 
-TEST(UcFoodDefaultsTest, RecipesAndFoodsHaveIconsOfTheirOwn) {
+TEST(UcFoodDefaultsTest, StockFoodsOwnFoodsAndRecipesHaveIconsOfTheirOwn) {
     ucFood row;
-    const QString food = row.FoodIcon();
+    row.SetID("23508");
+    EXPECT_EQ(row.FoodIcon(), "food");
+    row.SetID("23509");
+    EXPECT_EQ(row.FoodIcon(), "custom-food");
     row.SetIsRecipe(true);
-    EXPECT_NE(row.FoodIcon(), food);
+    EXPECT_EQ(row.FoodIcon(), "recipe");
     row.SetIsRecipe(false);
-    EXPECT_EQ(row.FoodIcon(), food);
+    EXPECT_EQ(row.FoodIcon(), "custom-food");
 }
 
 TEST(UcFoodDefaultsTest, ThePaintedRowLooksTheSameBeforeAndAfterItHasItsLabels) {
