@@ -10,6 +10,7 @@
 #include "toolkit/ucButton.h"
 #include "toolkit/ucButtonA.h"
 #include "toolkit/ucCalButton.h"
+#include "toolkit/ucDropDown.h"
 #include "toolkit/ucHeader.h"
 #include "toolkit/ucRadio.h"
 #include "toolkit/ucScroll.h"
@@ -24,6 +25,7 @@
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QPlainTextEdit>
+#include <QScrollBar>
 
 namespace {
 
@@ -203,6 +205,60 @@ void AddScrollBar(QList<Specimen>& list) {
               true);
 }
 
+QWidget* MakeList(QWidget* parent) {
+    auto* list = new ucDropDown(parent);
+    list->setAccessibleName(QStringLiteral("Year"));
+    for (int year = 1992; year <= 2012; ++year)
+        list->AddItem(QString::number(year), year);
+    list->Set_aHEIGHT(1600);
+    list->SetIndex(1);
+    return list;
+}
+
+/// A place with room for the open list.
+QWidget* MakeRoomForList(QWidget* parent) {
+    auto* room = new QWidget(parent);
+    room->setAccessibleName(QStringLiteral("Year"));
+    const ucDropDown* list = static_cast<ucDropDown*>(MakeList(room));
+    room->resize(list->width(), list->height() + 110);
+    return room;
+}
+
+Change OnOpenList(const Change& apply) {
+    return [apply](QWidget* room) {
+        auto* list = room->findChild<ucDropDown*>();
+        list->Activate();
+        apply(list);
+    };
+}
+
+void AddDropDown(QList<Specimen>& list) {
+    const auto onArrow = [](QEvent::Type type, Qt::MouseButton button) {
+        return Change([=](QWidget* control) {
+            const QRect arrow = static_cast<ucDropDown*>(control)->layoutRects().imgArrow;
+            SendMouse(control, type, QRectF(arrow).center(), button);
+        });
+    };
+    AddStates(list, "ucDropDown", MakeList,
+              {atRest,
+               {"pointer over the arrow", onArrow(QEvent::MouseMove, Qt::NoButton)},
+               {"arrow held", onArrow(QEvent::MouseButtonPress, Qt::LeftButton)},
+               focused,
+               disabled},
+              true);
+    const Change lit = [](QWidget* control) {
+        PointOver(control->findChild<QWidget*>(QStringLiteral("lblItem3")));
+    };
+    const Change scrolled = [](QWidget* control) {
+        control->findChild<QScrollBar*>(QStringLiteral("vsResults"))->setValue(2000);
+    };
+    AddStates(list, "ucDropDown, open", MakeRoomForList,
+              {{"open", OnOpenList(Rest)},
+               {"pointer over an item", OnOpenList(lit)},
+               {"scrolled", OnOpenList(scrolled)}},
+              false);
+}
+
 template <class Panel> Maker Captioned(const char* caption, QSize size) {
     return [=](QWidget* parent) {
         auto* panel = new Panel(parent);
@@ -335,6 +391,7 @@ QList<Specimen> Specimens() {
     AddPictureButtons(list);
     AddRadios(list);
     AddScrollBar(list);
+    AddDropDown(list);
     AddPanels(list);
     AddLabels(list);
     AddFields(list);

@@ -25,7 +25,7 @@ TEST_F(PicturesTest, EveryNamedPictureIsThere) {
           "examine",     "add",      "bars",      "values",     "pie",        "arrow-up",
           "arrow-down",  "scale",    "food-mark", "scale-mark", "recipe",     "food",
           "custom-food", "radio-on", "radio-off", "switch-on",  "switch-off", "overlay",
-          "background",  "check-on", "check-off"})
+          "background",  "check-on", "check-off", "drop-arrow", "day-cell"})
         EXPECT_TRUE(Pictures::Exists(QLatin1String(name))) << name;
     EXPECT_FALSE(Pictures::Exists(QStringLiteral("nothing")));
 }

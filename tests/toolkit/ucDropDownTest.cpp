@@ -1,0 +1,486 @@
+#include "toolkit/ucDropDown.h"
+
+#include "runtime/RuntimeError.h"
+#include "support/Failure.h"
+#include "support/HalvaneTest.h"
+#include "toolkit/DropItem.h"
+#include "toolkit/Input.h"
+#include "toolkit/Style.h"
+
+#include <QAccessible>
+#include <QApplication>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QSignalSpy>
+#include <QTest>
+
+namespace {
+
+constexpr int itemTwips = 300;
+constexpr int firstTop = 45;
+constexpr int endRoom = 45;
+
+class ucDropDownTest : public HalvaneTest {
+protected:
+    void SetUp() override {
+        HalvaneTest::SetUp();
+        form.resize(400, 400);
+        list.move(20, 20);
+        list.setObjectName("ucMonth");
+        form.show();
+        QApplication::setActiveWindow(&form);
+    }
+
+    void Fill(int count) {
+        for (int i = 1; i <= count; ++i)
+            list.AddItem("Item " + QString::number(i), 100 * i);
+    }
+    DropItem* Item(int index) { return Find<DropItem>(&list, "lblItem" + QString::number(index)); }
+    QScrollBar* Bar() { return Find<QScrollBar>(&list, "vsResults"); }
+    QWidget* Panel() { return Find(&list, "picBox"); }
+    QPoint Middle(QRect ucDropDown::Layout::*part) { return (list.layoutRects().*part).center(); }
+    void ClickOn(QRect ucDropDown::Layout::*part) { Click(&list, Middle(part)); }
+    void Move(QRect ucDropDown::Layout::*part, Qt::MouseButtons held = Qt::NoButton) {
+        SendMove(&list, Middle(part), held);
+    }
+
+    QWidget form;
+    ucDropDown list{&form};
+    QSignalSpy clicks{&list, &ucDropDown::Click};
+    const int strip = TheStyle().fieldHeight;
+};
+
+using Layout = ucDropDown::Layout;
+
+} // namespace
+
+TEST_F(ucDropDownTest, BeginsWithALabelAndWithoutASelection) {
+    EXPECT_EQ(list.Text(), "Label1");
+    EXPECT_EQ(list.aHEIGHT(), 300);
+    EXPECT_EQ(list.SelectedID(), 0);
+    EXPECT_FALSE(list.IsOpen());
+    EXPECT_EQ(list.height(), strip);
+    EXPECT_TRUE(Item(0)->isHidden());
+}
+
+TEST_F(ucDropDownTest, AnItemReadsBackWithoutLeadingButWithTwoTrailingBlanks) {
+    list.AddItem("   May", 5);
+    list.SetIndex(1);
+    EXPECT_EQ(list.Text(), "May  ");
+    EXPECT_EQ(Item(1)->Caption(), "May  ");
+    list.SetText("  by hand ");
+    EXPECT_EQ(list.Text(), "by hand ");
+}
+
+TEST_F(ucDropDownTest, AnItemOfBlanksReadsBackEmpty) {
+    list.AddItem("   ", 1);
+    list.SetIndex(1);
+    EXPECT_EQ(Item(1)->Caption(), "  ");
+    EXPECT_EQ(list.Text(), "");
+}
+
+TEST_F(ucDropDownTest, TheSameTextTwiceGivesTwoItems) {
+    list.AddItem("Same", 1);
+    list.AddItem("Same", 2);
+    EXPECT_EQ(Item(1)->Caption(), Item(2)->Caption());
+    list.SetIndex(2);
+    EXPECT_EQ(list.SelectedID(), 2);
+}
+
+TEST_F(ucDropDownTest, TagsKeepTheirSignAndAll32Bits) {
+    const qint32 tags[] = {-5, std::numeric_limits<qint32>::max(),
+                           std::numeric_limits<qint32>::min()};
+    qint16 index = 0;
+    for (const qint32 tag : tags) {
+        list.AddItem("Tagged", tag);
+        list.SetIndex(++index);
+        EXPECT_EQ(list.SelectedID(), tag);
+        EXPECT_EQ(Item(index)->Tag(), QString::number(tag));
+    }
+}
+
+TEST_F(ucDropDownTest, ItemsStandOneBelowTheOther) {
+    Fill(5);
+    for (int i = 1; i <= 5; ++i) {
+        EXPECT_EQ(Item(i)->y(), Item(i - 1)->y() + Item(i - 1)->height());
+        EXPECT_FALSE(Item(i)->isHidden());
+    }
+    const QRect last = Item(5)->geometry();
+    EXPECT_EQ(Find(&list, "picItemList")->height(), last.bottom() + 1 + endRoom / 15);
+}
+
+TEST_F(ucDropDownTest, AListThatFitsHasNoScrollBar) {
+    Fill(12);
+    list.Set_aHEIGHT(12 * itemTwips + firstTop + endRoom);
+    EXPECT_TRUE(Bar()->isHidden());
+    EXPECT_EQ(Bar()->maximum(), 0);
+}
+
+TEST_F(ucDropDownTest, AListLongerThanItsPanelHasOne) {
+    Fill(12);
+    list.Set_aHEIGHT(5 * itemTwips);
+    EXPECT_FALSE(Bar()->isHidden());
+    EXPECT_EQ(Bar()->maximum(), 7 * itemTwips + firstTop + endRoom);
+    EXPECT_EQ(Bar()->pageStep(), 500);
+    EXPECT_EQ(Bar()->singleStep(), 100);
+}
+
+TEST_F(ucDropDownTest, AddingShowsTheBarOnceTheListIsHigherThanThePanel) {
+    Fill(5);
+    list.Set_aHEIGHT(5 * itemTwips + firstTop + 1);
+    EXPECT_EQ(list.aHEIGHT(), 5 * itemTwips + firstTop + endRoom);
+    EXPECT_TRUE(Bar()->isHidden());
+    list.AddItem("One more", 6);
+    EXPECT_FALSE(Bar()->isHidden());
+    EXPECT_EQ(Bar()->maximum(), itemTwips);
+}
+
+TEST_F(ucDropDownTest, APanelHigherThanItsItemsIsReducedToTheirEnd) {
+    Fill(3);
+    list.Set_aHEIGHT(5000);
+    EXPECT_EQ(list.aHEIGHT(), 3 * itemTwips + firstTop + endRoom);
+    EXPECT_EQ(Panel()->height(), list.aHEIGHT() / 15);
+}
+
+TEST_F(ucDropDownTest, APanelThatEndsWithItsLastItemIsNotReduced) {
+    Fill(3);
+    list.Set_aHEIGHT(3 * itemTwips + firstTop);
+    EXPECT_EQ(list.aHEIGHT(), 3 * itemTwips + firstTop);
+    EXPECT_FALSE(Bar()->isHidden());
+    EXPECT_EQ(Bar()->maximum(), endRoom);
+}
+
+TEST_F(ucDropDownTest, AddingPutsTheBarBackToTheTop) {
+    Fill(12);
+    list.Set_aHEIGHT(1500);
+    Bar()->setValue(700);
+    list.AddItem("One more", 13);
+    EXPECT_EQ(Bar()->value(), 0);
+    EXPECT_EQ(Find(&list, "picItemList")->y(), 0);
+}
+
+TEST_F(ucDropDownTest, ScrollingMovesTheListUp) {
+    Fill(12);
+    list.Set_aHEIGHT(1500);
+    Bar()->setValue(600);
+    EXPECT_EQ(Find(&list, "picItemList")->y(), -40);
+}
+
+TEST_F(ucDropDownTest, TheWheelScrollsAnOpenList) {
+    Fill(12);
+    list.Set_aHEIGHT(1500);
+    ClickOn(&Layout::picArrow);
+    SendWheel(Panel(), -120);
+    EXPECT_GT(Bar()->value(), 0);
+}
+
+TEST_F(ucDropDownTest, ABarCountsNoFurtherThan16Bits) {
+    Fill(150);
+    EXPECT_EQ(Bar()->maximum(), 32767);
+    list.SetIndex(150);
+    EXPECT_EQ(list.SelectedID(), 15000);
+}
+
+TEST_F(ucDropDownTest, ClickingTheArrowTwiceOpensAndCloses) {
+    Fill(3);
+    list.Set_aHEIGHT(5000);
+    ClickOn(&Layout::imgArrow);
+    EXPECT_TRUE(Panel()->isVisible());
+    EXPECT_EQ(list.height(), strip + list.aHEIGHT() / 15);
+    EXPECT_EQ(Panel()->y(), strip);
+    EXPECT_EQ(Panel()->width(), list.width());
+    ClickOn(&Layout::imgArrow);
+    EXPECT_FALSE(Panel()->isVisible());
+    EXPECT_EQ(list.height(), strip);
+    EXPECT_EQ(clicks.count(), 0);
+}
+
+TEST_F(ucDropDownTest, TheStripAndItsTextToggleItAsWell) {
+    Fill(3);
+    ClickOn(&Layout::lblMyName);
+    EXPECT_TRUE(list.IsOpen());
+    Click(&list, QPoint(2, 2));
+    EXPECT_FALSE(list.IsOpen());
+}
+
+TEST_F(ucDropDownTest, ItTogglesOnThePressNotOnTheRelease) {
+    Fill(3);
+    SendPress(&list, Middle(&Layout::imgArrow));
+    EXPECT_TRUE(list.IsOpen());
+    SendRelease(&list, Middle(&Layout::imgArrow));
+    EXPECT_TRUE(list.IsOpen());
+}
+
+TEST_F(ucDropDownTest, AnOpenListStandsAboveItsNeighbours) {
+    Fill(3);
+    list.Set_aHEIGHT(5000);
+    QPushButton neighbour(&form);
+    neighbour.setGeometry(20, 20 + strip, 200, 100);
+    neighbour.show();
+    ClickOn(&Layout::picArrow);
+    const QPoint onSecond = Item(2)->mapTo(&form, Item(2)->rect().center());
+    EXPECT_EQ(form.childAt(onSecond), Item(2));
+    ClickOn(&Layout::picArrow);
+    EXPECT_EQ(form.childAt(onSecond), &neighbour);
+}
+
+TEST_F(ucDropDownTest, PickingSelectsClosesAndRaisesOneClick) {
+    Fill(3);
+    list.Set_aHEIGHT(5000);
+    ClickOn(&Layout::picArrow);
+    bool open = true;
+    QObject::connect(&list, &ucDropDown::Click, [&] { open = list.IsOpen(); });
+    Click(Item(2));
+    EXPECT_EQ(list.Text(), "Item 2  ");
+    EXPECT_EQ(list.SelectedID(), 200);
+    EXPECT_FALSE(list.IsOpen());
+    EXPECT_FALSE(open) << "closed before the event";
+    EXPECT_EQ(clicks.count(), 1);
+}
+
+TEST_F(ucDropDownTest, PickingTheSelectedItemRaisesTheClickAgain) {
+    Fill(3);
+    list.Set_aHEIGHT(5000);
+    list.SetIndex(2);
+    ClickOn(&Layout::picArrow);
+    Click(Item(2));
+    EXPECT_EQ(clicks.count(), 1);
+    EXPECT_EQ(list.SelectedID(), 200);
+}
+
+TEST_F(ucDropDownTest, APressDraggedOffItsItemPicksNothing) {
+    Fill(3);
+    list.Set_aHEIGHT(5000);
+    ClickOn(&Layout::picArrow);
+    SendPress(Item(2), {10, 10});
+    SendRelease(Item(2), {10, 300});
+    EXPECT_TRUE(list.IsOpen());
+    EXPECT_EQ(clicks.count(), 0);
+}
+
+TEST_F(ucDropDownTest, SetIndexSelectsWithoutOpeningClosingOrAnEvent) {
+    Fill(3);
+    list.SetIndex(3);
+    EXPECT_EQ(list.Text(), "Item 3  ");
+    EXPECT_EQ(list.SelectedID(), 300);
+    EXPECT_FALSE(list.IsOpen());
+    ClickOn(&Layout::picArrow);
+    list.SetIndex(1);
+    EXPECT_TRUE(list.IsOpen());
+    EXPECT_EQ(clicks.count(), 0);
+}
+
+TEST_F(ucDropDownTest, SetIndexOfAnItemThatIsNotLoadedFailsAndSelectsNothing) {
+    Fill(3);
+    list.SetIndex(2);
+    for (const int index : {-32768, -1, 0, 4, 32767})
+        EXPECT_EQ(FailureOf([&] { list.SetIndex(qint16(index)); }), ErrorNumber::NoSuchElement)
+            << index;
+    EXPECT_EQ(list.SelectedID(), 200);
+    EXPECT_EQ(list.Text(), "Item 2  ");
+}
+
+TEST_F(ucDropDownTest, TheItemUnderThePointerAloneIsLit) {
+    Fill(3);
+    list.Set_aHEIGHT(5000);
+    ClickOn(&Layout::picArrow);
+    Hover(Item(1));
+    Hover(Item(2));
+    EXPECT_EQ(Item(2)->BackColor(), QColor(131, 146, 151));
+    EXPECT_EQ(Item(2)->ForeColor(), QColor(Qt::white));
+    for (const int other : {1, 3}) {
+        EXPECT_EQ(Item(other)->BackColor(), QColor(Qt::white));
+        EXPECT_EQ(Item(other)->ForeColor(), QColor(Qt::black));
+    }
+    const QImage image = Grab(Item(2));
+    EXPECT_EQ(image.pixelColor(1, 1), QColor(131, 146, 151));
+}
+
+TEST_F(ucDropDownTest, OpenedAnewNoItemIsLit) {
+    Fill(3);
+    list.Set_aHEIGHT(5000);
+    ClickOn(&Layout::picArrow);
+    Hover(Item(2));
+    ClickOn(&Layout::picArrow);
+    ClickOn(&Layout::picArrow);
+    EXPECT_FALSE(Item(2)->IsLit());
+}
+
+TEST_F(ucDropDownTest, TheArrowFollowsPointerAndButton) {
+    Fill(3);
+    EXPECT_EQ(list.PictureOn(), "img_N");
+    Move(&Layout::imgArrow);
+    EXPECT_EQ(list.PictureOn(), "img_R");
+    SendPress(&list, Middle(&Layout::imgArrow));
+    EXPECT_EQ(list.PictureOn(), "img_D");
+    SendMove(&list, {5, 5}, Qt::LeftButton);
+    EXPECT_EQ(list.PictureOn(), "img_N");
+    Move(&Layout::imgArrow, Qt::LeftButton);
+    EXPECT_EQ(list.PictureOn(), "img_D");
+    SendRelease(&list, Middle(&Layout::imgArrow));
+    EXPECT_EQ(list.PictureOn(), "img_R");
+    Move(&Layout::lblMyName);
+    EXPECT_EQ(list.PictureOn(), "img_N");
+}
+
+TEST_F(ucDropDownTest, TheArrowIsAtRestOverAnItemAndWhereThePointerLeaves) {
+    Fill(3);
+    list.Set_aHEIGHT(5000);
+    ClickOn(&Layout::picArrow);
+    Move(&Layout::imgArrow);
+    Hover(Item(1));
+    EXPECT_EQ(list.PictureOn(), "img_N");
+    Move(&Layout::imgArrow);
+    SendLeave(&list);
+    EXPECT_EQ(list.PictureOn(), "img_N");
+}
+
+TEST_F(ucDropDownTest, TheArrowStandsAtTheRightEdge) {
+    list.resize(180, list.height());
+    const Layout at = list.layoutRects();
+    EXPECT_EQ(at.picArrow.top(), 0);
+    EXPECT_EQ(at.picArrow.right(), 179);
+    EXPECT_EQ(at.imgArrow.center(), at.picArrow.center());
+    EXPECT_EQ(at.picSelItem.topLeft(), QPoint());
+    EXPECT_LE(qAbs(at.lblMyName.center().y() - at.picSelItem.center().y()), 1);
+}
+
+TEST_F(ucDropDownTest, ResetClosesAndResetPicLeavesTheListOpen) {
+    Fill(3);
+    ClickOn(&Layout::imgArrow);
+    Move(&Layout::imgArrow);
+    list.ResetPic();
+    EXPECT_EQ(list.PictureOn(), "img_N");
+    EXPECT_TRUE(list.IsOpen());
+    Move(&Layout::imgArrow);
+    list.Reset();
+    EXPECT_EQ(list.PictureOn(), "img_N");
+    EXPECT_FALSE(list.IsOpen());
+}
+
+TEST_F(ucDropDownTest, MovesOverStripArrowAndItemsRaiseMouseMove) {
+    Fill(3);
+    list.Set_aHEIGHT(5000);
+    ClickOn(&Layout::picArrow);
+    QSignalSpy moves(&list, &ucDropDown::MouseMove);
+    Move(&Layout::lblMyName);
+    Move(&Layout::imgArrow);
+    Hover(Item(1), {10, 5});
+    ASSERT_EQ(moves.count(), 3);
+    const QPoint place = Item(1)->mapTo(&list, QPoint(10, 5));
+    EXPECT_EQ(moves.last().at(2).toDouble(), place.x() * 15.0);
+    EXPECT_EQ(moves.last().at(3).toDouble(), place.y() * 15.0);
+}
+
+TEST_F(ucDropDownTest, ClosesWhenTheFocusGoes) {
+    Fill(3);
+    QLineEdit other(&form);
+    other.show();
+    ClickOn(&Layout::picArrow);
+    EXPECT_TRUE(list.hasFocus());
+    other.setFocus();
+    EXPECT_FALSE(list.IsOpen());
+}
+
+TEST_F(ucDropDownTest, ClosesOnAPressOnWhatTakesNoFocus) {
+    Fill(3);
+    ClickOn(&Layout::picArrow);
+    Click(&form, {390, 390});
+    EXPECT_FALSE(list.IsOpen());
+}
+
+TEST_F(ucDropDownTest, APressOnItsOwnBarLeavesItOpen) {
+    Fill(30);
+    list.Set_aHEIGHT(3000);
+    ClickOn(&Layout::picArrow);
+    Click(Bar(), {5, Bar()->height() - 5});
+    EXPECT_TRUE(list.IsOpen());
+    EXPECT_EQ(Bar()->value(), 500);
+    EXPECT_TRUE(list.hasFocus());
+}
+
+TEST_F(ucDropDownTest, OpensWithTheSelectedItemInSight) {
+    Fill(30);
+    list.Set_aHEIGHT(3000);
+    list.SetIndex(30);
+    ClickOn(&Layout::picArrow);
+    EXPECT_EQ(Bar()->value(), Bar()->maximum());
+    ClickOn(&Layout::picArrow);
+    list.SetIndex(3);
+    ClickOn(&Layout::picArrow);
+    EXPECT_TRUE(Panel()->rect().contains(Item(3)->mapTo(Panel(), QPoint(0, 0))));
+}
+
+TEST_F(ucDropDownTest, TakesTabButKeysDoNothing) {
+    Fill(30);
+    list.Set_aHEIGHT(3000);
+    list.SetIndex(2);
+    QLineEdit before(&form);
+    before.show();
+    before.setFocus();
+    QTest::keyClick(&before, Qt::Key_Tab);
+    ASSERT_TRUE(list.hasFocus());
+    const auto pressAll = [&] {
+        for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Up, Qt::Key_Return, Qt::Key_Space,
+                                  Qt::Key_End, Qt::Key_F4, Qt::Key_I, Qt::Key_PageDown})
+            QTest::keyClick(&list, key);
+    };
+    pressAll();
+    EXPECT_FALSE(list.IsOpen());
+    ClickOn(&Layout::picArrow);
+    pressAll();
+    EXPECT_TRUE(list.IsOpen());
+    EXPECT_EQ(Bar()->value(), 0);
+    EXPECT_EQ(list.SelectedID(), 200);
+    EXPECT_EQ(clicks.count(), 0);
+}
+
+TEST_F(ucDropDownTest, AssistiveToolsReadItOpenItAndPick) {
+    Fill(3);
+    list.Set_aHEIGHT(5000);
+    list.setAccessibleName("Month");
+    list.SetIndex(3);
+    QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(&list);
+    EXPECT_EQ(spoken->role(), QAccessible::ComboBox);
+    EXPECT_EQ(spoken->text(QAccessible::Name), "Month");
+    EXPECT_EQ(spoken->text(QAccessible::Value), "Item 3");
+    EXPECT_TRUE(spoken->state().collapsed);
+    const QString press = QAccessibleActionInterface::pressAction();
+    spoken->actionInterface()->doAction(press);
+    EXPECT_TRUE(list.IsOpen());
+    EXPECT_TRUE(spoken->state().expanded);
+    QAccessibleInterface* item = QAccessible::queryAccessibleInterface(Item(1));
+    EXPECT_EQ(item->role(), QAccessible::ListItem);
+    EXPECT_EQ(item->text(QAccessible::Name), "Item 1");
+    item->actionInterface()->doAction(press);
+    EXPECT_EQ(list.SelectedID(), 100);
+    EXPECT_FALSE(list.IsOpen());
+    EXPECT_EQ(clicks.count(), 1);
+}
+
+TEST_F(ucDropDownTest, CanBeReadAndDrivenThroughItsProperties) {
+    Fill(3);
+    list.setProperty("aHEIGHT", 600);
+    EXPECT_EQ(list.property("aHEIGHT").toInt(), 600);
+    list.setProperty("Text", " Any");
+    EXPECT_EQ(list.property("Text").toString(), "Any");
+    list.SetIndex(2);
+    EXPECT_EQ(list.property("SelectedID").toInt(), 200);
+    EXPECT_FALSE(list.property("IsOpen").toBool());
+    EXPECT_EQ(Item(2)->property("Caption").toString(), "Item 2  ");
+    EXPECT_EQ(Item(2)->property("Tag").toString(), "200");
+}
+
+TEST_F(ucDropDownTest, ATextLongerThanTheStripIsCutBeforeTheArrow) {
+    const QString longText = QString(10000, u'W') + QString::fromUtf8("🍞");
+    list.AddItem(longText, 1);
+    list.SetIndex(1);
+    EXPECT_EQ(list.Text(), longText + "  ");
+    const QImage with = Grab(&list);
+    list.SetText("");
+    const QImage without = Grab(&list);
+    const QRect arrow = list.layoutRects().picArrow;
+    EXPECT_EQ(with.copy(arrow), without.copy(arrow));
+    EXPECT_NE(with, without);
+}
