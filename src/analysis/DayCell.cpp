@@ -73,7 +73,7 @@ void DayCell::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     const Style& style = TheStyle();
     if (underMouse())
-        painter.fillRect(rect(), style.mealStrip);
+        painter.fillRect(rect(), style.chosenDay.from);
     else
         Pictures::Paint(painter, rect(), QStringLiteral("day-cell"));
     const int place = Twips::ToPixels(numberPlace);

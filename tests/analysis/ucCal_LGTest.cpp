@@ -598,6 +598,15 @@ TEST_F(ucCal_LGTest, MovesOverItReachItsHost) {
     EXPECT_EQ(moves.first().at(2).toDouble(), place.x() * 15.0);
 }
 
+TEST_F(ucCal_LGTest, TheCellUnderThePointerIsLit) {
+    Open({2026, 11, 21});
+    const QImage atRest = Grab(Cell(9));
+    Cell(9)->setAttribute(Qt::WA_UnderMouse);
+    EXPECT_NE(Grab(Cell(9)), atRest);
+    Cell(9)->setAttribute(Qt::WA_UnderMouse, false);
+    EXPECT_EQ(Grab(Cell(9)), atRest);
+}
+
 TEST_F(ucCal_LGTest, TodayIsSaidInItsCellAndOnlyInItsMonth) {
     Open({2026, 11, 21});
     auto* today = Find<QLabel>(calendar, "lblToday");
