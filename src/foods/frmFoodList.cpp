@@ -19,21 +19,10 @@
 namespace {
 
 // Measures in pixels.
-constexpr int boxesTop = 42;
-constexpr int boxesBottom = 44; // from the lower edge
 constexpr int listWidth = 178;
 
 QString FoodSQL(qint32 id) {
     return QStringLiteral("SELECT * FROM foods WHERE ID = ") + QString::number(id);
-}
-
-/// Puts buttons side by side and gives the place behind the last one.
-int PlaceInRow(std::initializer_list<ucButton*> buttons, QPoint place) {
-    for (ucButton* button : buttons) {
-        button->move(place);
-        place.rx() += button->width() + TheStyle().boxGap;
-    }
-    return place.x();
 }
 
 } // namespace
@@ -70,16 +59,6 @@ void frmFoodList::AddButtons() {
     cmdDone_ = AddButton("cmdDone", "Done", &frmFoodList::cmdDone_Click);
 }
 
-ucBox* frmFoodList::AddBox(const char* name, const char* caption, QWidget* contents) {
-    auto* box = new ucBox(QString::fromLatin1(caption), this);
-    box->setObjectName(QString::fromLatin1(name));
-    contents->setParent(box);
-    connect(box, &ucBox::InnerChanged, contents,
-            [box, contents] { contents->setGeometry(box->Inner()); });
-    connect(box, &ucBox::MouseMove, this, [this] { AllOff(QString()); });
-    return box;
-}
-
 void frmFoodList::resizeEvent(QResizeEvent*) {
     PlaceBoxes();
     PlaceButtons();
@@ -87,19 +66,16 @@ void frmFoodList::resizeEvent(QResizeEvent*) {
 }
 
 void frmFoodList::PlaceBoxes() {
-    const Style& style = TheStyle();
-    const int boxHeight = height() - boxesTop - boxesBottom;
-    const int left = style.nestEdge + listWidth + style.boxGap;
-    ucBox1_->setGeometry(style.nestEdge, boxesTop, listWidth, boxHeight);
-    ucBox2_->setGeometry(left, boxesTop, width() - style.nestEdge - left, boxHeight);
+    QRect place = BoxesPlace();
+    ucBox1_->setGeometry(QRect(place.topLeft(), QSize(listWidth, place.height())));
+    place.setLeft(ucBox1_->geometry().right() + 1 + TheStyle().boxGap);
+    ucBox2_->setGeometry(place);
 }
 
 void frmFoodList::PlaceButtons() {
-    const Style& style = TheStyle();
-    const int top = height() - boxesBottom + style.boxGap;
-    PlaceInRow({cmdNewBut_, cmdDelete_}, {style.nestEdge, top});
-    PlaceInRow({cmdSave_, cmdCancel_}, {ucBox2_->x(), top});
-    cmdDone_->move(width() - style.nestEdge - cmdDone_->width(), top);
+    PlaceInRow(ucBox1_->x(), {cmdNewBut_, cmdDelete_});
+    PlaceInRow(ucBox2_->x(), {cmdSave_, cmdCancel_});
+    PlaceAtEnd(cmdDone_);
 }
 
 void frmFoodList::ListFoods() {

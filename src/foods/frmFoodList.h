@@ -38,7 +38,6 @@ private:
     void AddList();
     void AddFields();
     void AddButtons();
-    ucBox* AddBox(const char* name, const char* caption, QWidget* contents);
     void PlaceBoxes();
     void PlaceButtons();
     void FillList();

@@ -30,8 +30,6 @@ constexpr auto homeScreen = "frmMain";
 
 // Measures in pixels.
 constexpr QRect dateLine(204, 11, 548, 24); ///< beside the frame's title of the screen
-constexpr int boxesTop = 42;
-constexpr int boxesBottom = 44; // from the lower edge
 constexpr int panelWidth = 338;
 constexpr int weightWidth = 62;
 constexpr QSize calendarPicture(18, 18);
@@ -89,12 +87,9 @@ void frmDay::AddWeightField() {
 }
 
 void frmDay::AddFoodBox() {
-    box_ = new ucBox(QStringLiteral("Food Intake"), this);
-    box_->setObjectName(QStringLiteral("ucBoxMyFood"));
-    connect(box_, &ucBox::MouseMove, this, [this] { AllOff(QString()); });
-    myFood_ = new ucMyFood(box_);
+    myFood_ = new ucMyFood;
     myFood_->setObjectName(QStringLiteral("ucMyFood"));
-    connect(box_, &ucBox::InnerChanged, this, [this] { myFood_->setGeometry(box_->Inner()); });
+    box_ = AddBox("ucBoxMyFood", "Food Intake", myFood_);
     connect(myFood_, &ucMyFood::AddRequested, this, &frmDay::ChooseFoods);
     connect(myFood_, &ucMyFood::FoodRemoved, this, [this] { daily_->updateCharts(); });
     connect(myFood_, &ucMyFood::MouseMove, this, [this](int, int, double x, double y) {
@@ -134,25 +129,21 @@ void frmDay::PlaceDateLine() {
     const Style& style = TheStyle();
     PlaceAt(aadate_, dateLine.left());
     PlaceAt(cmdCal_, aadate_->geometry().right() + 1 + style.boxGap);
-    picCal_->setGeometry(QRect(QPoint(cmdCal_->x(), boxesTop), picCal_->sizeHint()));
+    picCal_->setGeometry(QRect(QPoint(cmdCal_->x(), BoxesPlace().top()), picCal_->sizeHint()));
     PlaceAt(txtWeight_, width() - style.nestEdge - txtWeight_->width());
     PlaceAt(lblWeight_, txtWeight_->x() - style.boxGap - lblWeight_->width());
 }
 
 void frmDay::PlaceBoxes() {
-    const Style& style = TheStyle();
-    const int height = this->height() - boxesTop - boxesBottom;
-    const int panelLeft = width() - style.nestEdge - panelWidth;
-    daily_->setGeometry(panelLeft, boxesTop, panelWidth, height);
-    box_->setGeometry(style.nestEdge, boxesTop, panelLeft - style.boxGap - style.nestEdge, height);
+    QRect place = BoxesPlace();
+    daily_->setGeometry(place.right() + 1 - panelWidth, place.top(), panelWidth, place.height());
+    place.setRight(daily_->x() - TheStyle().boxGap - 1);
+    box_->setGeometry(place);
 }
 
 void frmDay::PlaceButtons() {
-    const Style& style = TheStyle();
-    const int top = height() - boxesBottom + style.boxGap;
-    cmdAddFoods_->move(style.nestEdge, top);
-    cmdClear_->move(cmdAddFoods_->geometry().right() + 1 + style.boxGap, top);
-    cmdDone_->move(width() - style.nestEdge - cmdDone_->width(), top);
+    PlaceInRow(box_->x(), {cmdAddFoods_, cmdClear_});
+    PlaceAtEnd(cmdDone_);
 }
 
 void frmDay::buildDate() {

@@ -25,10 +25,7 @@ constexpr auto homeScreen = "frmMain";
 constexpr QLatin1String editCaption("Edit Recipe");
 constexpr QLatin1String saveCaption("Save Changes");
 
-// Measures in pixels.
-constexpr int boxesTop = 42;
-constexpr int boxesBottom = 44; // from the lower edge
-constexpr int listWidth = 186;
+constexpr int listWidth = 186; // in pixels
 
 } // namespace
 
@@ -42,15 +39,11 @@ frmRecipeManager::frmRecipeManager(QWidget* parent)
 }
 
 void frmRecipeManager::AddList() {
-    ucBox1_ = new ucBox(QStringLiteral("Recipe List"), this);
-    ucBox1_->setObjectName(QStringLiteral("ucBox1"));
-    lsRecipes_ = new ListBox(ucBox1_);
+    lsRecipes_ = new ListBox;
     lsRecipes_->setObjectName(QStringLiteral("lsRecipes"));
-    lsRecipes_->setAccessibleName(QStringLiteral("Recipe List"));
     lsRecipes_->setToolTip(QStringLiteral("Select a recipe to edit or delete"));
-    connect(ucBox1_, &ucBox::InnerChanged, this,
-            [this] { lsRecipes_->setGeometry(ucBox1_->Inner()); });
-    connect(ucBox1_, &ucBox::MouseMove, this, [this] { AllOff(QString()); });
+    ucBox1_ = AddBox("ucBox1", "Recipe List", lsRecipes_);
+    lsRecipes_->setAccessibleName(ucBox1_->Caption());
     connect(lsRecipes_, &ListBox::MouseMove, this, [this] { AllOff(QString()); });
     connect(lsRecipes_, &ListBox::Click, this, &frmRecipeManager::lsRecipes_Click);
     cmdNew_ = AddButton("cmdNew", "New", "Create a new recipe", &frmRecipeManager::cmdNew_Click);
@@ -72,18 +65,15 @@ void frmRecipeManager::AddButtons() {
     cmdSend_ = AddButton("cmdSend", "Send to Friend", "Send the current recipe to a friend",
                          &frmRecipeManager::cmdSend_Click);
     cmdDone_ = AddButton("cmdDone", "Done", "", &frmRecipeManager::cmdDone_Click);
-    for (ucButton* button : {cmdSend_, cmdEdit_, cmdDelete_, cmdImport_})
-        connect(button, &ucButton::MouseMove, this,
-                [this, button] { AllOff(button->objectName().toLower()); });
+    for (ucButton* button : {cmdNew_, cmdDone_}) // they put no other button out
+        disconnect(button, &ucButton::MouseMove, this, nullptr);
 }
 
 ucButton* frmRecipeManager::AddButton(const char* name, const char* caption, const char* tip,
-                                      void (frmRecipeManager::*onClick)()) {
-    auto* button = new ucButton(QLatin1String(caption), this);
-    button->setObjectName(QLatin1String(name));
+                                      void (frmRecipeManager::*pressed)()) {
+    ucButton* button = Screen::AddButton(name, caption, pressed);
     button->setToolTip(QLatin1String(tip));
     button->setAccessibleDescription(QLatin1String(tip));
-    connect(button, &ucButton::Click, this, onClick);
     return button;
 }
 
@@ -93,25 +83,16 @@ void frmRecipeManager::resizeEvent(QResizeEvent*) {
 }
 
 void frmRecipeManager::PlaceBoxes() {
-    const Style& style = TheStyle();
-    const int height = this->height() - boxesTop - boxesBottom;
-    const int cardLeft = style.nestEdge + listWidth + style.boxGap;
-    ucBox1_->setGeometry(style.nestEdge, boxesTop, listWidth, height);
-    card_->setGeometry(cardLeft, boxesTop, width() - style.nestEdge - cardLeft, height);
+    QRect place = BoxesPlace();
+    ucBox1_->setGeometry(QRect(place.topLeft(), QSize(listWidth, place.height())));
+    place.setLeft(ucBox1_->geometry().right() + 1 + TheStyle().boxGap);
+    card_->setGeometry(place);
 }
 
 void frmRecipeManager::PlaceButtons() {
-    const Style& style = TheStyle();
-    const int top = height() - boxesBottom + style.boxGap;
-    const auto row = [&](int left, std::initializer_list<ucButton*> buttons) {
-        for (ucButton* button : buttons) {
-            button->move(left, top);
-            left += button->width() + style.boxGap;
-        }
-    };
-    row(ucBox1_->x(), {cmdNew_, cmdImport_});
-    row(card_->x(), {cmdEdit_, cmdDelete_, cmdSend_});
-    row(width() - style.nestEdge - cmdDone_->width(), {cmdDone_});
+    PlaceInRow(ucBox1_->x(), {cmdNew_, cmdImport_});
+    PlaceInRow(card_->x(), {cmdEdit_, cmdDelete_, cmdSend_});
+    PlaceAtEnd(cmdDone_);
 }
 
 /// A kept screen that comes back in the middle of an edit goes on with it: what is typed stays.
@@ -184,8 +165,8 @@ void frmRecipeManager::cmdNew_Click() {
     EditRecipe(current_);
 }
 
-/// The fields get what a new recipe is thought to start with; EditRecipe then reads them from the
-/// row, whose serving is empty, so that it is asked for on saving.
+/// The fields get what a new recipe starts with, a serving among it; EditRecipe then reads them
+/// from the row, which has none.
 void frmRecipeManager::AddRecipe() {
     current_ = RecipeStore::AddRecipe();
     card_->Ingredients()->SetRecipeID(current_);
@@ -320,10 +301,4 @@ void frmRecipeManager::Explain(ucButton* button, const char* absence) {
         return;
     button->setToolTip(QLatin1String(absence));
     button->setAccessibleDescription(QLatin1String(absence));
-}
-
-void frmRecipeManager::AllOff(const QString& except) {
-    for (ucButton* button : {cmdSend_, cmdEdit_, cmdNew_, cmdDelete_, cmdImport_, cmdDone_})
-        if (button->objectName().compare(except, Qt::CaseInsensitive) != 0)
-            button->Reset();
 }

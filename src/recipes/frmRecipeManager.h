@@ -2,8 +2,6 @@
 
 #include "toolkit/Screen.h"
 
-#include <initializer_list>
-
 class ListBox;
 class RecipeCard;
 class ScaledFood;
@@ -23,7 +21,6 @@ public:
 
     qint32 CurrentRecipe() const { return current_; } ///< -1 for none
     void DoWinInit() override; ///< lists the recipes, unless one is being edited
-    void AllOff(const QString& except) override;
 
     void ListRecipes(); ///< anew, and shows the one at the place chosen before
     void ShowRecipe(qint32 recipeID);
@@ -44,7 +41,7 @@ private:
     void AddCard();
     void AddButtons();
     ucButton* AddButton(const char* name, const char* caption, const char* tip,
-                        void (frmRecipeManager::*onClick)());
+                        void (frmRecipeManager::*pressed)());
     void PlaceBoxes();
     void PlaceButtons();
 

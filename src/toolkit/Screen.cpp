@@ -2,10 +2,19 @@
 
 #include "toolkit/CleanUp.h"
 #include "toolkit/Style.h"
+#include "toolkit/ucBox.h"
 #include "toolkit/ucButton.h"
 
 #include <QMouseEvent>
 #include <QPainter>
+
+namespace {
+
+// Measures in pixels.
+constexpr int boxesTop = 42;
+constexpr int boxesBottom = 44; // from the lower edge
+
+} // namespace
 
 Screen::Screen(const QString& name, const QString& title, QWidget* parent)
     : QWidget(parent)
@@ -24,6 +33,33 @@ ucButton* Screen::AddButton(const char* name, const char* caption, std::function
     connect(button, &ucButton::MouseMove, this, [this, button] { AllOff(button->objectName()); });
     buttons_ << button;
     return button;
+}
+
+ucBox* Screen::AddBox(const char* name, const char* caption, QWidget* contents) {
+    auto* box = new ucBox(QString::fromLatin1(caption), this);
+    box->setObjectName(QString::fromLatin1(name));
+    contents->setParent(box);
+    connect(box, &ucBox::InnerChanged, contents,
+            [box, contents] { contents->setGeometry(box->Inner()); });
+    connect(box, &ucBox::MouseMove, this, [this] { AllOff(QString()); });
+    return box;
+}
+
+QRect Screen::BoxesPlace() const {
+    const int edge = TheStyle().nestEdge;
+    return rect().adjusted(edge, boxesTop, -edge, -boxesBottom);
+}
+
+void Screen::PlaceInRow(int left, std::initializer_list<ucButton*> buttons) {
+    const int gap = TheStyle().boxGap;
+    for (ucButton* button : buttons) {
+        button->move(left, height() - boxesBottom + gap);
+        left += button->width() + gap;
+    }
+}
+
+void Screen::PlaceAtEnd(ucButton* button) {
+    PlaceInRow(BoxesPlace().right() + 1 - button->width(), {button});
 }
 
 void Screen::AllOff(const QString& except) {

@@ -6,7 +6,9 @@
 #include <QWidget>
 
 #include <functional>
+#include <initializer_list>
 
+class ucBox;
 class ucButton;
 
 /// A screen of the nest. ShowScreen creates it by its registered name, lays it over the nest and
@@ -35,6 +37,12 @@ protected:
         return AddButton(name, caption,
                          [this, pressed] { (static_cast<Derived*>(this)->*pressed)(); });
     }
+    /// A box of this screen around its contents; the pointer over it puts the buttons out.
+    ucBox* AddBox(const char* name, const char* caption, QWidget* contents);
+    QRect BoxesPlace() const; ///< below the title, above the buttons
+    /// Side by side below the boxes, from `left` on.
+    void PlaceInRow(int left, std::initializer_list<ucButton*> buttons);
+    void PlaceAtEnd(ucButton* button);          ///< of that row
     void mouseMoveEvent(QMouseEvent*) override; ///< AllOff("") where the pointer has really moved
     void paintEvent(QPaintEvent*) override;     ///< canvas
 
