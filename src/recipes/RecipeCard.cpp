@@ -27,6 +27,7 @@ constexpr int columnGap = 14;
 constexpr int captionGap = 8;
 constexpr int unitGap = 4;
 constexpr int numberWidth = 56;
+constexpr int blankWidth = 8; // where there is no number
 constexpr int headingTop = factsTop + 2 * ruling + 4;
 constexpr int headingHeight = 26;
 constexpr int lowerMargin = 14;
@@ -115,8 +116,7 @@ void RecipeCard::AddFacts() {
         AddField(row.field);
         fact->caption->setBuddy(Entry(row.field));
         if (row.unit)
-            fact->unit = MakeLabel(this, QLatin1String(row.unitName), QLatin1String(row.unit),
-                                   TextRole::Strong);
+            fact->unit = MakeLabel(this, QLatin1String(row.unitName), QLatin1String(row.unit));
         ++fact;
     }
     aaCals_ = new ElidedLabel(this, QStringLiteral("aaCals"));
@@ -246,7 +246,8 @@ void RecipeCard::PlaceFact(size_t index) {
     if (unit)
         line.setRight(line.right() - unit->width() - unitGap);
     ElidedLabel* label = Label(row.field);
-    label->setGeometry(line.left(), line.top(), qMin(WidthOf(label), line.width()), ruling);
+    const int width = qBound(unit ? blankWidth : 0, WidthOf(label), line.width());
+    label->setGeometry(line.left(), line.top(), width, ruling);
     QLineEdit* entry = Entry(row.field);
     entry->resize(unit ? numberWidth : line.width(), TheStyle().fieldHeight);
     PlaceOn(line, entry);

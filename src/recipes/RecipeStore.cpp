@@ -2,6 +2,7 @@
 
 #include "foods/ScaledFood.h"
 #include "model/Nutrients.h"
+#include "recipes/RecipeTexts.h"
 #include "runtime/Round.h"
 #include "runtime/RuntimeError.h"
 #include "runtime/Val.h"
@@ -32,13 +33,10 @@ QString WholeNumber(double value) {
 qint32 RecipeStore::AddRecipe() {
     Recordset rows(UserDB(), QStringLiteral("SELECT * FROM Recipes"), Cursor::Dynamic,
                    Lock::Optimistic);
+    RecipeTexts texts = RecipeTexts::OfNewRecipe();
+    texts[RecipeField::Serving].clear(); // asked for on saving
     rows.AddNew();
-    rows.Set(QStringLiteral("RecipeName"), QStringLiteral("My Recipe"));
-    rows.Set(QStringLiteral("ServingName"), QString(QLatin1String("")));
-    rows.Set(QStringLiteral("RecipeYield"), 1);
-    rows.Set(QStringLiteral("Instructions"),
-             QStringLiteral("(enter preparation instructions here...)"));
-    rows.Set(QStringLiteral("PrepTime"), 30);
+    texts.Write(rows);
     rows.Update();
     rows.MoveLast();
     return rows[QStringLiteral("RecipeID")].Integer();
