@@ -64,7 +64,12 @@ void Guide::Type(QWidget* root, const QString& field, const QString& text) {
     found->setFocus(Qt::TabFocusReason);
     QTest::keyClick(found, Qt::Key_A, Qt::ControlModifier);
     QTest::keyClick(found, Qt::Key_Delete);
-    QTest::keyClicks(found, text);
+    const QStringList lines = text.split(u'\n');
+    QTest::keyClicks(found, lines.first());
+    for (const QString& line : lines.mid(1)) {
+        QTest::keyClick(found, Qt::Key_Return);
+        QTest::keyClicks(found, line);
+    }
 }
 
 /// No window manager hands the input over where the program runs without a screen.

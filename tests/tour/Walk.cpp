@@ -2,6 +2,7 @@
 
 #include "tour/CustomFoodWalk.h"
 #include "tour/Guide.h"
+#include "tour/RecipeWalk.h"
 
 #include "core/Application.h"
 #include "core/Flow.h"
@@ -71,6 +72,7 @@ void Walk::Go() {
     EditProfile();
     Preferences();
     CustomFoodWalk(guide_).Go();
+    RecipeWalk(guide_).Go();
     Quit();
     guide_.Check(guide_.AllForeseenCame(), QStringLiteral("every foreseen window came"));
 }
@@ -339,6 +341,7 @@ void Walk::GoAgain() {
     guide_.CheckValue(UserDB(), QStringLiteral("SELECT count(*) FROM USER_FOODS"),
                       int(std::size(Meals)) - 1);
     guide_.CheckValue(FoodDB(), QStringLiteral("SELECT count(*) FROM FOODS WHERE ID > 23508"), 1);
+    RecipeWalk::FindAgain(guide_);
     guide_.Check(guide_.Find<QLineEdit>(Day(), QStringLiteral("txtWeight"))->text() ==
                      QStringLiteral("198.5"),
                  QStringLiteral("the weight is there"));

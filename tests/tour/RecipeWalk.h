@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QString>
+
+class Guide;
+class QWidget;
+
+/// A person writes down a recipe of five ingredients, one of them a food of their own, corrects it,
+/// keeps it beside another that goes again, and eats of it.
+class RecipeWalk {
+public:
+    explicit RecipeWalk(Guide& guide);
+    void Go();
+    static void FindAgain(Guide& guide); ///< all that was saved is there after a new start
+
+private:
+    struct Part;
+    static const Part Parts[5];
+
+    void OpenScreen();
+    void WriteRecipe();
+    void BeRefused();
+    void AddIngredients();
+    void AddPart(QWidget* search, const Part& part);
+    void SaveRecipe();
+    void LookAtCard();
+    void CorrectRecipe();
+    void WriteLongRecipe();
+    void DeleteLongRecipe();
+    void EatRecipe();
+    void SearchAndEat(QWidget* search);
+    void TakeItBack();
+    QWidget* Screen();
+    QWidget* Frame();
+    void Picture(const char* name);
+
+    Guide& guide_;
+};
