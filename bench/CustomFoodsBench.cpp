@@ -1,5 +1,6 @@
 #include "Ground.h"
 #include "Table.h"
+#include "Typing.h"
 
 #include "foods/frmFoodList.h"
 #include "model/Nutrients.h"
@@ -7,7 +8,6 @@
 #include "toolkit/ucButton.h"
 
 #include <QApplication>
-#include <QKeyEvent>
 #include <QLineEdit>
 
 #include <SQLiteCpp/SQLiteCpp.h>
@@ -150,11 +150,7 @@ void AddLimit(benchmark::State& state) {
 }
 
 void TypeInto(QLineEdit& field) {
-    for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
-        QKeyEvent key(type, Qt::Key_A, {}, QStringLiteral("a"));
-        QApplication::sendEvent(&field, &key);
-    }
-    QApplication::processEvents();
+    TypeLetter(field);
     if (field.text().size() > 100)
         field.clear();
 }

@@ -1,5 +1,5 @@
 #include "BareStore.h"
-#include "Ground.h"
+#include "RecipeGround.h"
 #include "Table.h"
 
 #include "foods/FoodSearch.h"
@@ -7,51 +7,11 @@
 #include "recipes/RecipeStore.h"
 #include "recipes/ucIngredients.h"
 #include "store/Connection.h"
-#include "store/Schema.h"
 
 #include <SQLiteCpp/SQLiteCpp.h>
 
 namespace {
-constexpr int ManyRows = 5000;
-constexpr int ManyIngredients = 100;
 constexpr auto Term = "lentil";
-
-/// So many recipes and custom foods, each third one of lentils, of which the catalogue has some as
-/// well. The first recipe has many ingredients.
-struct RecipeGround : Ground {
-    RecipeGround()
-        : Ground(false) {
-        SQLite::Transaction users(UserDB().Raw());
-        SQLite::Transaction foods(FoodDB().Raw());
-        FillNames(UserDB().Raw(), "INSERT INTO Recipes (RecipeName, ServingName, RecipeYield, "
-                                  "Instructions, PrepTime) VALUES (?1, '1 bowl', 4, ?1, 30)");
-        FillNames(FoodDB().Raw(),
-                  "INSERT INTO FOODS (ID, FoodName, Serv_Desc_A, Serv_Desc_B, Serv_GM_WT_A) "
-                  "SELECT max(ID) + 1, ?1, '1 cup', '', 100 FROM FOODS");
-        FillIngredients();
-        users.commit();
-        foods.commit();
-    }
-
-    static void FillNames(SQLite::Database& database, const char* sql) {
-        SQLite::Statement insert(database, sql);
-        for (int i = 0; i < ManyRows; ++i) {
-            insert.bind(1, (i % 3 ? "Bean stew " : "Lentil soup ") + std::to_string(i));
-            insert.exec();
-            insert.reset();
-        }
-    }
-    static void FillIngredients() {
-        SQLite::Statement insert(UserDB().Raw(),
-                                 "INSERT INTO Ingredients (RecipeID, FoodName, Serving, QTY, "
-                                 "Calories) VALUES (1, ?, '1 cup, chopped', 1.5, 100)");
-        for (int i = 0; i < ManyIngredients; ++i) {
-            insert.bind(1, "Lentils, mature seeds, raw " + std::to_string(i));
-            insert.exec();
-            insert.reset();
-        }
-    }
-};
 
 void OpenRecipeOurs(benchmark::State& state) {
     const RecipeGround ground;

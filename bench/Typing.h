@@ -1,0 +1,6 @@
+#pragma once
+
+class QWidget;
+
+/// Types a letter into a field and waits until it is painted.
+void TypeLetter(QWidget& field);
