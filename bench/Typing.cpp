@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QWidget>
 
 void TypeLetter(QWidget& field) {
     for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {

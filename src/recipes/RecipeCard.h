@@ -4,10 +4,11 @@
 
 #include <QWidget>
 
+#include <memory>
+
+class CardField;
 class ElidedLabel;
 class InstructionText;
-class QLabel;
-class QLineEdit;
 class ucAALBL;
 class ucButton;
 class ucIngredients;
@@ -19,6 +20,7 @@ class RecipeCard : public QWidget {
 
 public:
     explicit RecipeCard(QWidget* parent = nullptr);
+    ~RecipeCard() override;
 
     void Clear();                                          ///< blank: no texts, no ingredients
     void ShowText(RecipeField field, const QString& text); ///< on its label
@@ -45,36 +47,24 @@ protected:
     void mouseMoveEvent(QMouseEvent*) override;
 
 private:
-    /// What stands around a field on its line; `unit` is null where it has none.
-    struct Fact {
-        QLabel* caption;
-        QLabel* unit;
-    };
-
     void AddName();
     void AddFacts();
     void AddInstructions();
     void AddIngredients();
-    void AddField(RecipeField field);
-    ElidedLabel* Label(RecipeField field) const { return labels_[static_cast<size_t>(field)]; }
-    QLineEdit* Entry(RecipeField field) const { return entries_[static_cast<size_t>(field)]; }
+    CardField* AddField(RecipeField field);
+    CardField* FieldOf(RecipeField field) const; ///< null for the instructions
 
+    int InnerWidth() const;
     void PlaceName();
     void PlaceFacts();
-    void PlaceFact(size_t index);
     void PlaceInstructions();
     void PlaceIngredients();
-    int CaptionWidth(int column) const;
-    int InnerWidth() const;
 
-    std::array<ElidedLabel*, RecipeFieldCount> labels_{}; ///< none for the instructions
-    std::array<QLineEdit*, RecipeFieldCount> entries_{};  ///< none for the instructions
-    std::array<Fact, 3> facts_{};
+    std::array<std::unique_ptr<CardField>, RecipeFieldCount> fields_;
     ElidedLabel* aaCals_;
     ucAALBL* aaPrepare_;
     ucAALBL* aaIngredientsLBL_;
     InstructionText* instructions_;
     ucIngredients* ucING_;
     ucButton* cmdIngreds_;
-    bool editing_ = false;
 };
