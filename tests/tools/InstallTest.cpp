@@ -49,6 +49,7 @@ TEST_F(InstallTest, EverythingStandsBesideTheProgram) {
          {"halvane", "users.mdb", "foods.mdb", "tips.txt", "agreement.txt", "licences.txt"})
         EXPECT_TRUE(files.contains(QLatin1String(name))) << name;
     EXPECT_TRUE(QFileInfo(folder_.filePath(QStringLiteral("halvane"))).isExecutable());
+    EXPECT_TRUE(QFileInfo(folder_.filePath(QStringLiteral("help/index.html"))).isFile());
     for (const QString& file : files)
         EXPECT_FALSE(file.contains(QStringLiteral(".mdb-"))) << file.toStdString();
 }

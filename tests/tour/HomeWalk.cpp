@@ -24,8 +24,8 @@ void HomeWalk::EmptyMonth() {
     guide_.Picture(Frame(), QStringLiteral("home-empty"));
     guide_.HoverOver(Frame(), QStringLiteral("cmdRecipes"));
     guide_.Picture(Frame(), QStringLiteral("home-frame-hover"));
-    guide_.HoverOver(Home(), QStringLiteral("lblTip"));
-    guide_.HoverOver(Home(), QStringLiteral("picDay9"));
+    guide_.HoverOver(Frame(), QStringLiteral("picFrameTop"));
+    guide_.HoverOver(Home(), QStringLiteral("ucCalButton"));
     guide_.Picture(Frame(), QStringLiteral("home-day-hover"));
 }
 

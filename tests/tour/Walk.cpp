@@ -152,6 +152,7 @@ void Walk::WeighIn() {
     guide_.Picture(frame, QStringLiteral("day-empty"));
     guide_.HoverOver(frame, QStringLiteral("cmdReport"));
     guide_.Picture(frame, QStringLiteral("frame-hover"));
+    guide_.HoverOver(frame, QStringLiteral("picFrameTop"));
     guide_.Foresee(QStringLiteral("frmAlert"), [this](QWidget* alert) {
         guide_.Picture(alert, QStringLiteral("alert-weight"));
         guide_.Press(alert, QStringLiteral("cmdOK"));
