@@ -9,6 +9,7 @@ namespace Assets {
 extern const std::string layout;
 extern const std::string front;
 extern const std::string community;
+extern const std::string line;
 extern const std::string recipe;
 extern const std::string problem;
 extern const std::string style;

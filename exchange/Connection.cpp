@@ -33,8 +33,10 @@ Connection::Connection(const std::string& database)
 
 /// What is acknowledged is on the disk: the log is written through at each commit.
 void Connection::Tune() {
-    if (!embedded_)
+    if (!embedded_) {
+        session_.once << "SET client_min_messages = warning";
         return;
+    }
     for (const auto* pragma : {"PRAGMA journal_mode=WAL", "PRAGMA synchronous=FULL",
                                "PRAGMA foreign_keys=ON", "PRAGMA cache_size=-16384"})
         session_.once << pragma;

@@ -1,20 +1,20 @@
 #include "exchange/Numbers.h"
 
+#include <charconv>
 #include <cmath>
-#include <cstdio>
 
 namespace exchange::Numbers {
 
 std::string Whole(double number) {
-    char text[40];
-    std::snprintf(text, sizeof text, "%.0f", std::nearbyint(number) + 0.0);
-    return text;
+    return std::to_string(std::llrint(number));
 }
 
 std::string Short(double number) {
+    if (number == std::trunc(number))
+        return Whole(number);
     char text[40];
-    std::snprintf(text, sizeof text, "%.2f", number);
-    std::string shortened = text;
+    std::string shortened(
+        text, std::to_chars(text, text + sizeof text, number, std::chars_format::fixed, 2).ptr);
     shortened.erase(shortened.find_last_not_of('0') + 1);
     if (shortened.back() == '.')
         shortened.pop_back();

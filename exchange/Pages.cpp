@@ -14,12 +14,17 @@ namespace {
 using kainjow::mustache::data;
 using kainjow::mustache::mustache;
 
-/// A template of this thread: one is not made to be used by two at once.
+/// A template of this thread: one is not made to be used by two at once. What a template takes
+/// unescaped, in three braces, is what another template has filled.
 struct Template {
     mustache text;
     explicit Template(const std::string& asset)
         : text(asset) {}
-    std::string Fill(const data& values) { return text.render(values); }
+    std::string Fill(const data& values) {
+        std::string filled;
+        text.render(values, [&](const std::string& piece) { filled += piece; });
+        return filled;
+    }
 };
 
 enum class Place { Front, List, Elsewhere };
@@ -54,13 +59,14 @@ std::string NoteOf(const Listed& recipe) {
     return recipe.servingName.empty() ? rest : recipe.servingName + ", " + rest;
 }
 
-data LineOf(const Listed& recipe) {
-    data line;
-    line.set("id", std::to_string(recipe.id));
-    line.set("name", recipe.name);
-    line.set("note", NoteOf(recipe));
-    line.set("date", Day(recipe.listedAt));
-    return line;
+std::string LineOf(const Listed& recipe) {
+    thread_local Template line(Assets::line);
+    data values;
+    values.set("id", std::to_string(recipe.id));
+    values.set("name", recipe.name);
+    values.set("note", NoteOf(recipe));
+    values.set("date", Day(recipe.listedAt));
+    return line.Fill(values);
 }
 
 std::string AddressOf(const std::string& query, int page) {
@@ -93,7 +99,7 @@ data IngredientsOf(const Recipe& recipe) {
         line.set("food", ingredient.foodName.value_or(""));
         line.set("hasServing", !ingredient.serving.value_or("").empty());
         line.set("serving", ingredient.serving.value_or(""));
-        lines << line;
+        lines.push_back(std::move(line));
     }
     return lines;
 }
@@ -117,7 +123,7 @@ data NutritionOf(const Recipe& recipe, bool large) {
         data line;
         line.set("label", std::string(column.label));
         line.set("amount", AmountOf(recipe, i));
-        lines << line;
+        lines.push_back(std::move(line));
     }
     return lines;
 }
@@ -144,14 +150,14 @@ std::string Front() {
 std::string Community(const ListPage& list) {
     thread_local Template content(Assets::community);
     const bool more = list.recipes.size() > static_cast<size_t>(RecipeStore::PageSize);
-    data lines(data::type::list);
+    std::string lines;
     for (size_t i = 0; i < list.recipes.size() - (more ? 1 : 0); ++i)
-        lines << LineOf(list.recipes[i]);
+        lines += LineOf(list.recipes[i]);
     data values;
     values.set("query", list.query);
     values.set("heading", list.query.empty() ? "Newest recipes" : "Recipes found");
     values.set("any", !list.recipes.empty());
-    values.set("recipes", lines);
+    values.set("lines", lines);
     values.set("empty", EmptyText(list));
     SetPager(values, list, more);
     return Page("Online Community", Place::List, false, content.Fill(values));

@@ -7,20 +7,24 @@ namespace {
 using soci::into;
 using soci::use;
 
-constexpr const char* Columns =
-    "l.RecipeID, l.RecipeName, l.ServingName, l.PrepTime, l.Calories, l.ListedAt";
+const std::string Columns =
+    "SELECT l.RecipeID, l.RecipeName, l.ServingName, l.PrepTime, l.Calories, l.ListedAt FROM ";
+const std::string Portion = " LIMIT " + std::to_string(RecipeStore::PageSize + 1) + " OFFSET :skip";
 
 /// The newest recipes that have all of the words: the first word leads, the others are looked up.
+/// The rows that are shown are chosen from the keys alone, in the order of the key, so that no
+/// database has a reason to sort them. One more than a page is chosen.
 std::string Statement(size_t words) {
-    std::string sql = std::string("SELECT ") + Columns + " FROM ";
     if (words == 0)
-        return sql + "listing l ORDER BY l.ListedAt DESC, l.RecipeID DESC LIMIT :n OFFSET :skip";
-    sql += "words w JOIN listing l ON l.ListedAt = w.ListedAt AND l.RecipeID = w.RecipeID"
-           " WHERE w.Word = :w0";
+        return Columns + "listing l ORDER BY l.ListedAt DESC, l.RecipeID DESC" + Portion;
+    std::string keys = "SELECT k.ListedAt, k.RecipeID FROM words k WHERE k.Word = :w0";
     for (size_t i = 1; i < words; ++i)
-        sql += " AND EXISTS (SELECT 1 FROM words o WHERE o.Word = :w" + std::to_string(i) +
-               " AND o.ListedAt = w.ListedAt AND o.RecipeID = w.RecipeID)";
-    return sql + " ORDER BY w.ListedAt DESC, w.RecipeID DESC LIMIT :n OFFSET :skip";
+        keys += " AND EXISTS (SELECT 1 FROM words o WHERE o.Word = :w" + std::to_string(i) +
+                " AND o.ListedAt = k.ListedAt AND o.RecipeID = k.RecipeID)";
+    keys += " ORDER BY k.ListedAt DESC, k.RecipeID DESC" + Portion;
+    return Columns + "(" + keys +
+           ") f JOIN listing l ON l.ListedAt = f.ListedAt AND l.RecipeID = f.RecipeID"
+           " ORDER BY f.ListedAt DESC, f.RecipeID DESC";
 }
 
 template <size_t Count>
@@ -35,11 +39,10 @@ std::vector<Listed> Select(Connection& connection, const std::vector<std::string
         row.calories = caloriesAre == soci::i_ok ? std::optional(calories) : std::nullopt;
         found.push_back(row);
     };
-    const int most = RecipeStore::PageSize + 1;
     [&]<size_t... I>(std::index_sequence<I...>) {
-        connection.Each(statement, keep, use(words[I])..., use(most), use(skip), into(row.id),
-                        into(row.name), into(row.servingName), into(row.prepTime),
-                        into(calories, caloriesAre), into(row.listedAt));
+        connection.Each(statement, keep, use(words[I])..., use(skip), into(row.id), into(row.name),
+                        into(row.servingName), into(row.prepTime), into(calories, caloriesAre),
+                        into(row.listedAt));
     }
     (std::make_index_sequence<Count>());
     return found;

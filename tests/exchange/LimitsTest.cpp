@@ -1,0 +1,116 @@
+#include "support/ExchangeTest.h"
+#include "support/Until.h"
+
+/// What one client may do, and what is cleared away.
+class LimitsTest : public ExchangeTest {
+protected:
+    int StatusOf(const std::string& path) { return Get(path)->status; }
+    httplib::Result GetAs(const std::string& client, const std::string& path) {
+        return Running().Client().Get(path, {{"X-Forwarded-For", client}});
+    }
+};
+ON_BOTH_DATABASES(LimitsTest);
+
+TEST_P(LimitsTest, AClientCreatesSoManyRecipesADay) {
+    Start({{"recipes_per_client_day", "3"}});
+    for (int i = 0; i < 3; ++i)
+        Create();
+    const auto refused = Post("/halvane/api/recipes", Soup());
+    EXPECT_EQ(refused->status, 429);
+    EXPECT_EQ(refused->get_header_value("Retry-After"), "3600");
+    EXPECT_EQ(Count("SELECT COUNT(*) FROM recipes"), 3);
+}
+
+TEST_P(LimitsTest, AllClientsTogetherCreateSoManyRecipesADay) {
+    Start({{"recipes_per_day", "2"}});
+    Create();
+    Create();
+    EXPECT_EQ(Post("/halvane/api/recipes", Soup())->status, 429);
+}
+
+TEST_P(LimitsTest, TheLimitsHoldAcrossServersAndRestarts) {
+    Start({{"recipes_per_client_day", "3"}});
+    const Server second({{"database", Database()}, {"recipes_per_client_day", "3"}});
+    Create();
+    EXPECT_EQ(
+        second.Client().Post("/halvane/api/recipes", Soup().dump(), "application/json")->status,
+        201);
+    Restart({{"recipes_per_client_day", "3"}});
+    Create();
+    EXPECT_EQ(Post("/halvane/api/recipes", Soup())->status, 429);
+    EXPECT_EQ(
+        second.Client().Post("/halvane/api/recipes", Soup().dump(), "application/json")->status,
+        429);
+}
+
+TEST_P(LimitsTest, GuessingIDsIsStoppedAtEveryAddress) {
+    Start({{"misses_per_client_hour", "4"}});
+    const auto id = std::to_string(Send());
+    EXPECT_EQ(StatusOf("/halvane/api/recipes/11"), 404);
+    EXPECT_EQ(StatusOf("/halvane/api/recipes/12/ingredients"), 404);
+    EXPECT_EQ(StatusOf("/halvane/recipe.asp?recID=13"), 404);
+    EXPECT_EQ(StatusOf("/halvane/sendrecipe.asp?recID=14"), 404);
+    for (const auto* path : {"/halvane/api/recipes/15", "/halvane/api/recipes/16/ingredients",
+                             "/halvane/recipe.asp?recID=17", "/halvane/sendrecipe.asp?recID=18"})
+        EXPECT_EQ(StatusOf(path), 429) << path;
+    EXPECT_EQ(StatusOf("/halvane/api/recipes/" + id), 429) << "a hit must not tell itself apart";
+    EXPECT_EQ(StatusOf("/halvane/recipe.asp?recID=" + id), 429);
+}
+
+TEST_P(LimitsTest, ClientsBehindATrustedProxyAreCountedApart) {
+    Start({{"misses_per_client_hour", "1"}, {"trusted_proxies", "127.0.0.1"}});
+    EXPECT_EQ(GetAs("192.0.2.1", "/halvane/api/recipes/11")->status, 404);
+    EXPECT_EQ(GetAs("192.0.2.1", "/halvane/api/recipes/12")->status, 429);
+    EXPECT_EQ(GetAs("192.0.2.2", "/halvane/api/recipes/13")->status, 404);
+    EXPECT_EQ(GetAs("203.0.113.9, 192.0.2.1", "/halvane/api/recipes/14")->status, 429);
+}
+
+TEST_P(LimitsTest, AHouseholdWithItsManyAddressesIsOneClient) {
+    Start({{"misses_per_client_hour", "1"}, {"trusted_proxies", "127.0.0.1"}});
+    EXPECT_EQ(GetAs("2001:db8:1:2::1", "/halvane/api/recipes/11")->status, 404);
+    EXPECT_EQ(GetAs("2001:db8:1:2:ffff::9", "/halvane/api/recipes/12")->status, 429);
+    EXPECT_EQ(GetAs("2001:db8:1:3::1", "/halvane/api/recipes/13")->status, 404);
+}
+
+TEST_P(LimitsTest, ASayingOfTheClientItselfIsNotBelieved) {
+    Start({{"misses_per_client_hour", "1"}});
+    EXPECT_EQ(GetAs("192.0.2.1", "/halvane/api/recipes/11")->status, 404);
+    EXPECT_EQ(GetAs("192.0.2.2", "/halvane/api/recipes/12")->status, 429);
+}
+
+TEST_P(LimitsTest, CountersNameNobody) {
+    Start();
+    Get("/halvane/api/recipes/11");
+    EXPECT_EQ(Count("SELECT COUNT(*) FROM counters"), 1);
+    EXPECT_EQ(Cell("SELECT Name FROM counters").find("127.0.0.1"), std::string::npos);
+}
+
+TEST_P(LimitsTest, UnfinishedRecipesAreSweptAfterADayAndSentOnesStay) {
+    Start();
+    const auto old = Create();
+    Add(old, json::array({Row(1)}));
+    const int sent = Send();
+    const auto young = Create();
+    EXPECT_EQ(Running().End(), 0);
+    exchange::Connection connection(Database());
+    const int ids[] = {old.id, sent};
+    for (const int id : ids)
+        connection.Change(
+            "UPDATE recipes SET CreatedAt = CreatedAt - 90000000 WHERE RecipeID = :id",
+            soci::use(id));
+    Start();
+    EXPECT_TRUE(Until([&] { return Count("SELECT COUNT(*) FROM recipes") == 2; }));
+    EXPECT_EQ(Count("SELECT COUNT(*) FROM ingredients"), 1);
+    EXPECT_EQ(StatusOf("/halvane/api/recipes/" + std::to_string(sent)), 200);
+    Add(young, json::array({Row(1)}));
+}
+
+TEST_P(LimitsTest, AddressesAreForgottenAfterTheirTime) {
+    Start();
+    Send();
+    EXPECT_EQ(Running().End(), 0);
+    exchange::Connection(Database()).Once("UPDATE recipes SET SentAt = SentAt - 2600000000");
+    Start();
+    EXPECT_TRUE(Until([&] { return Cell("SELECT EMAILTO FROM recipes").empty(); }));
+    EXPECT_EQ(Cell("SELECT EMAILFROM FROM recipes"), "");
+}

@@ -1,0 +1,233 @@
+#include "support/ExchangeTest.h"
+#include "support/SmtpSink.h"
+#include "support/Until.h"
+
+#include <csignal>
+#include <future>
+
+/// What a sender is told, and the mail that goes out.
+class SendingTest : public ExchangeTest {
+protected:
+    Server::Settings Mailing(const SmtpSink& sink) {
+        return {{"mail_relay", sink.Address()},
+                {"mail_from", "recipes@halvane.test"},
+                {"mail_tls", "none"},
+                {"mail_seconds", "1"},
+                {"public_url", "https://halvane.test/"}};
+    }
+    std::string SendCreated(int id) {
+        return Text("/halvane/sendrecipe.asp?recID=" + std::to_string(id));
+    }
+    bool IsReadable(int id) {
+        return Get("/halvane/api/recipes/" + std::to_string(id))->status == 200;
+    }
+    static json To(const std::string& address) {
+        auto recipe = Soup();
+        recipe["EMAILTO"] = address;
+        return recipe;
+    }
+};
+ON_BOTH_DATABASES(SendingTest);
+
+TEST_P(SendingTest, TheMailHoldsTheRecipeItsIDAndHowToImportIt) {
+    const SmtpSink sink;
+    Start(Mailing(sink));
+    const auto created = Create();
+    Add(created, json::array({Row(200), Row(48, "Onions, raw")}));
+    const auto id = std::to_string(created.id);
+    EXPECT_EQ(SendCreated(created.id),
+              "Your recipe has been sent to your friend. Its recipe ID is " + id + ".");
+    ASSERT_EQ(sink.Mails().size(), 1U);
+    const auto mail = sink.Mails()[0];
+    EXPECT_EQ(mail.from, "recipes@halvane.test");
+    EXPECT_EQ(mail.to, std::vector<std::string>{"bert@example.org"});
+    EXPECT_EQ(mail.Header("From"), "Halvane <recipes@halvane.test>");
+    EXPECT_EQ(mail.Header("To"), "<bert@example.org>");
+    EXPECT_EQ(mail.Header("Reply-To"), "<anna@example.com>");
+    EXPECT_EQ(mail.Header("Content-Type"), "text/plain; charset=utf-8");
+    EXPECT_TRUE(mail.Header("Message-ID").ends_with("@halvane.test>"));
+    EXPECT_FALSE(mail.Header("Date").empty());
+    for (const auto* part :
+         {"Lentil soup", "1 bowl", "4 servings", "45.5 minutes", "62 per serving", "Lentils, raw",
+          "Onions, raw", "Rinse the lentils.\nSimmer.", "press Import", "anna@example.com"})
+        EXPECT_NE(mail.Body().find(part), std::string::npos) << part << "\n" << mail.Body();
+    EXPECT_NE(mail.Body().find("The recipe ID is " + id), std::string::npos);
+    EXPECT_NE(mail.Body().find("https://halvane.test/halvane/recipe.asp?recID=" + id),
+              std::string::npos);
+    EXPECT_EQ(Count("SELECT COUNT(*) FROM recipes WHERE MailedAt > 0"), 1);
+}
+
+TEST_P(SendingTest, ARecipeIsMailedOnceHoweverOftenItIsSent) {
+    const SmtpSink sink;
+    Start(Mailing(sink));
+    const auto created = Create();
+    SendCreated(created.id);
+    EXPECT_EQ(SendCreated(created.id), "This recipe has already been sent. Its recipe ID is " +
+                                           std::to_string(created.id) + ".");
+    EXPECT_EQ(sink.Mails().size(), 1U);
+}
+
+TEST_P(SendingTest, ManyCallsAtOnceMailOnce) {
+    const SmtpSink sink;
+    Start(Mailing(sink));
+    const auto created = Create();
+    std::vector<std::future<std::string>> calls;
+    for (int i = 0; i < 8; ++i)
+        calls.push_back(std::async(std::launch::async, [&] { return SendCreated(created.id); }));
+    int sent = 0;
+    for (auto& call : calls)
+        sent += call.get().starts_with("Your recipe has been sent");
+    EXPECT_EQ(sent, 1);
+    EXPECT_EQ(sink.Mails().size(), 1U);
+}
+
+TEST_P(SendingTest, WithoutARelayTheSenderIsToldTheNumberToPassOn) {
+    Start();
+    const auto created = Create();
+    const auto sentence = SendCreated(created.id);
+    EXPECT_NE(sentence.find(std::to_string(created.id)), std::string::npos);
+    EXPECT_NE(sentence.find("no mail"), std::string::npos);
+    EXPECT_TRUE(IsReadable(created.id));
+}
+
+TEST_P(SendingTest, ABadAddressIsSaidAndNothingIsSent) {
+    const SmtpSink sink;
+    Start(Mailing(sink));
+    for (const auto* address :
+         {"bert", "bert@", "@example.org", "bert@host", "a b@example.org", "a@b@example.org",
+          "bert@example.org,carl@example.org", "Bert <bert@example.org>", "bert@example..org",
+          ".bert@example.org", "bert@-example.org", "\"bert\"@example.org", "bert@[127.0.0.1]",
+          "bert@example.org>", "böt@example.org"}) {
+        const auto created = Create(To(address));
+        const auto sentence = SendCreated(created.id);
+        EXPECT_TRUE(sentence.starts_with("Your friend's email address is not one")) << sentence;
+        EXPECT_FALSE(IsReadable(created.id)) << address;
+    }
+    EXPECT_TRUE(sink.Mails().empty());
+    EXPECT_EQ(Count("SELECT COUNT(*) FROM listing"), 0);
+}
+
+TEST_P(SendingTest, ABadAddressOfTheSenderIsSaidToo) {
+    const SmtpSink sink;
+    Start(Mailing(sink));
+    auto recipe = Soup();
+    recipe["EMAILFROM"] = "anna";
+    EXPECT_TRUE(SendCreated(Create(recipe).id).starts_with("Your email address is not one"));
+    EXPECT_TRUE(sink.Mails().empty());
+}
+
+TEST_P(SendingTest, LineEndsInAnAddressAreRefusedAtOnce) {
+    const SmtpSink sink;
+    Start(Mailing(sink));
+    for (const auto* address : {"bert@example.org\r\nBcc: all@example.org", "bert@example.org\n.\n",
+                                "bert\r@example.org", "bert@example.org\x7f"})
+        for (const auto* field : {"EMAILTO", "EMAILFROM", "RecipeName", "ServingName"}) {
+            auto recipe = Soup();
+            recipe[field] = address;
+            EXPECT_EQ(Post("/halvane/api/recipes", recipe)->status, 400) << field;
+        }
+    EXPECT_EQ(Count("SELECT COUNT(*) FROM recipes"), 0);
+}
+
+TEST_P(SendingTest, ANameOfAnyLettersMakesAHarmlessSubject) {
+    const SmtpSink sink;
+    Start(Mailing(sink));
+    auto recipe = Soup();
+    recipe["RecipeName"] = "Crème brûlée " + std::string(150, 'x') + " 🍮 =?utf-8?B?eA==?=";
+    SendCreated(Create(recipe).id);
+    ASSERT_EQ(sink.Mails().size(), 1U);
+    const auto mail = sink.Mails()[0];
+    for (const char c : mail.text)
+        EXPECT_GE(c, 0);
+    EXPECT_TRUE(mail.Header("Subject").starts_with("=?utf-8?B?"));
+    EXPECT_NE(mail.Body().find(recipe["RecipeName"].get<std::string>()), std::string::npos);
+}
+
+TEST_P(SendingTest, InstructionsCannotEndTheMail) {
+    const SmtpSink sink;
+    Start(Mailing(sink));
+    auto recipe = Soup();
+    recipe["Instructions"] = "one\r\n.\r\nMAIL FROM:<x@example.org>\r\n";
+    SendCreated(Create(recipe).id);
+    ASSERT_EQ(sink.Mails().size(), 1U);
+    EXPECT_NE(sink.Mails()[0].Body().find("MAIL FROM"), std::string::npos);
+}
+
+TEST_P(SendingTest, ARelayThatRefusesIsSaidAndTheRecipeStays) {
+    const SmtpSink sink(SmtpSink::Manner::RefusesRecipients);
+    Start(Mailing(sink));
+    const auto created = Create();
+    EXPECT_NE(SendCreated(created.id).find("could not be sent"), std::string::npos);
+    EXPECT_TRUE(IsReadable(created.id));
+    EXPECT_EQ(Count("SELECT COUNT(*) FROM recipes WHERE MailedAt > 0"), 0);
+}
+
+TEST_P(SendingTest, ARelayThatHangsHoldsUpNobodyElse) {
+    const SmtpSink sink(SmtpSink::Manner::Hangs);
+    Start(Mailing(sink));
+    const auto created = Create();
+    auto waiting = std::async(std::launch::async, [&] { return SendCreated(created.id); });
+    const auto begin = std::chrono::steady_clock::now();
+    for (int i = 0; i < 20; ++i)
+        EXPECT_EQ(Get("/ready")->status, 200);
+    EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(1));
+    EXPECT_NE(waiting.get().find("could not be sent"), std::string::npos);
+}
+
+TEST_P(SendingTest, AnUnknownOrBrokenIDIsASentenceToo) {
+    Start();
+    for (const auto* id : {"123456", "0", "1", "-5", "abc", "", "99999999999999999999", "12.5"}) {
+        const auto reply = Get("/halvane/sendrecipe.asp?recID=" + std::string(id));
+        ASSERT_TRUE(reply);
+        EXPECT_EQ(reply->status, 404);
+        EXPECT_EQ(reply->get_header_value("Content-Type"), "text/plain; charset=utf-8");
+        EXPECT_EQ(reply->body, "There is no recipe to send under this ID.");
+    }
+}
+
+TEST_P(SendingTest, AskingForTheHeadAloneSendsNothing) {
+    Start();
+    const auto created = Create();
+    Running().Client().Head("/halvane/sendrecipe.asp?recID=" + std::to_string(created.id));
+    EXPECT_FALSE(IsReadable(created.id));
+}
+
+TEST_P(SendingTest, RecipientsClientsAndDaysHaveTheirLimits) {
+    struct Case {
+        const char* setting;
+        const char* other;
+    };
+    for (const auto& [setting, other] : {Case{"mails_per_recipient_day", "BERT@example.org"},
+                                         Case{"mails_per_client_day", "carl@example.org"},
+                                         Case{"mails_per_day", "dora@example.org"}}) {
+        const SmtpSink sink;
+        auto settings = Mailing(sink);
+        settings[setting] = "2";
+        settings["database"] = OnServer() ? Cluster::One().CreateDatabase() : Database() + setting;
+        Start(settings);
+        for (int i = 0; i < 2; ++i)
+            EXPECT_TRUE(SendCreated(Create().id).starts_with("Your recipe has been sent"));
+        const auto created = Create(To(other));
+        EXPECT_NE(SendCreated(created.id).find("limit for today"), std::string::npos) << setting;
+        EXPECT_TRUE(IsReadable(created.id));
+        EXPECT_EQ(sink.Mails().size(), 2U) << setting;
+    }
+}
+
+TEST_P(SendingTest, AddressesAreInNoReplyPageOrLog) {
+    const SmtpSink sink;
+    auto settings = Mailing(sink);
+    Start(settings);
+    const int id = Send();
+    const auto number = std::to_string(id);
+    std::string seen = Running().Log();
+    for (const auto& path :
+         {"/halvane/api/recipes/" + number, "/halvane/api/recipes/" + number + "/ingredients",
+          "/halvane/recipe.asp?recID=" + number, std::string("/halvane/community.asp")})
+        seen += Text(path);
+    seen += Running().Log();
+    for (const auto* word : {"anna", "bert", "example.com", "example.org"})
+        EXPECT_EQ(seen.find(word), std::string::npos) << word;
+    EXPECT_EQ(Running().Log().find(number), std::string::npos) << "an ID is in the log";
+    EXPECT_EQ(Running().Log().find("127.0.0.1\",\"s"), std::string::npos);
+}

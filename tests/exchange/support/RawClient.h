@@ -1,0 +1,26 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+/// A connection that sends whatever it is told, byte for byte.
+class RawClient {
+public:
+    explicit RawClient(int port);
+    ~RawClient();
+    RawClient(const RawClient&) = delete;
+    RawClient& operator=(const RawClient&) = delete;
+
+    bool Send(std::string_view bytes) const; ///< false if the other side has closed
+    /// What arrives until the other side closes, or until nothing does for so long.
+    std::string ReadToEnd(int milliseconds = 5000);
+    bool IsClosed(int milliseconds); ///< whether the other side closes within the time
+
+    /// Sends bytes on a new connection and reads to its end.
+    static std::string Talk(int port, std::string_view bytes, int milliseconds = 5000);
+    static int Status(std::string_view reply); ///< 0 if it is none
+    static std::string Body(std::string_view reply);
+
+private:
+    int socket_;
+};
