@@ -16,10 +16,11 @@ Pool::Lease::Lease(Pool& pool)
 }
 
 Pool::Lease::~Lease() {
-    if (std::uncaught_exceptions() > exceptions_)
-        return;
     const std::lock_guard lock(pool_.mutex_);
-    pool_.free_.push_back(std::move(connection_));
+    if (std::uncaught_exceptions() > exceptions_)
+        pool_.free_.clear();
+    else
+        pool_.free_.push_back(std::move(connection_));
 }
 
 } // namespace exchange

@@ -57,9 +57,24 @@ sigset_t HoldSignals() {
     return ends;
 }
 
+/// Servers that start in the same moment on a database without any table can trip over each other
+/// at the first one: it is there when they look again.
+void BringUpToDate(Pool& pool) {
+    constexpr int attempts = 5;
+    for (int attempt = 1;; ++attempt) {
+        try {
+            const Pool::Lease lease(pool);
+            return Schema::BringUpToDate(*lease);
+        } catch (const soci::soci_error&) {
+            if (attempt == attempts)
+                throw;
+        }
+    }
+}
+
 std::string Prepare(Pool& pool) {
+    BringUpToDate(pool);
     const Pool::Lease lease(pool);
-    Schema::BringUpToDate(*lease);
     return Limits::ReadSalt(*lease);
 }
 

@@ -30,9 +30,10 @@ bool RawClient::Send(std::string_view bytes) const {
     return true;
 }
 
-std::string RawClient::ReadToEnd(int milliseconds) {
+template <class Enough> std::string RawClient::ReadUntil(const Enough& enough, int milliseconds) {
     std::string arrived;
-    for (pollfd waiting{socket_, POLLIN, 0}; ::poll(&waiting, 1, milliseconds) > 0;) {
+    pollfd waiting{socket_, POLLIN, 0};
+    while (!enough(arrived) && ::poll(&waiting, 1, milliseconds) > 0) {
         char portion[16384];
         const auto count = ::recv(socket_, portion, sizeof portion, 0);
         if (count <= 0)
@@ -40,6 +41,28 @@ std::string RawClient::ReadToEnd(int milliseconds) {
         arrived.append(portion, static_cast<size_t>(count));
     }
     return arrived;
+}
+
+std::string RawClient::ReadToEnd(int milliseconds) {
+    return ReadUntil([](const std::string&) { return false; }, milliseconds);
+}
+
+std::string RawClient::ReadReply(int milliseconds) {
+    const auto isWhole = [](const std::string& arrived) {
+        constexpr std::string_view length = "Content-Length: ";
+        const auto head = arrived.find("\r\n\r\n");
+        const auto at = arrived.find(length);
+        return head != std::string::npos && at < head &&
+               arrived.size() >=
+                   head + 4 + std::strtoul(arrived.data() + at + length.size(), nullptr, 10);
+    };
+    return ReadUntil(isWhole, milliseconds);
+}
+
+std::string RawClient::Ask(int port, std::string_view bytes) {
+    RawClient client(port);
+    client.Send(bytes);
+    return client.ReadReply();
 }
 
 bool RawClient::IsClosed(int milliseconds) {

@@ -14,13 +14,16 @@ public:
     bool Send(std::string_view bytes) const; ///< false if the other side has closed
     /// What arrives until the other side closes, or until nothing does for so long.
     std::string ReadToEnd(int milliseconds = 5000);
+    std::string ReadReply(int milliseconds = 5000); ///< one whole reply
     bool IsClosed(int milliseconds); ///< whether the other side closes within the time
 
     /// Sends bytes on a new connection and reads to its end.
     static std::string Talk(int port, std::string_view bytes, int milliseconds = 5000);
+    static std::string Ask(int port, std::string_view bytes); ///< and reads one reply
     static int Status(std::string_view reply); ///< 0 if it is none
     static std::string Body(std::string_view reply);
 
 private:
+    template <class Enough> std::string ReadUntil(const Enough& enough, int milliseconds);
     int socket_;
 };
