@@ -99,8 +99,8 @@ void ucCal_LG::AddGrid() {
 void ucCal_LG::FillLists() {
     for (int month = 1; month <= 12; ++month)
         ucMonth_->AddItem(Dates::MonthName(month), month);
-    const int lastYear = qMax(lastListedYear, Clock::Today().year());
-    for (int year = firstYear; year <= lastYear; ++year)
+    lastYear_ = qMax(lastListedYear, Clock::Today().year());
+    for (int year = firstYear; year <= lastYear_; ++year)
         ucYear_->AddItem(QString::number(year), year);
     ucMonth_->Set_aHEIGHT(listHeight);
     ucYear_->Set_aHEIGHT(listHeight);
@@ -137,15 +137,17 @@ QDate ucCal_LG::LastOfMonth() const {
 }
 
 void ucCal_LG::ShowDays() {
-    const int focused = FocusedDay();
+    const auto* focused = qobject_cast<DrawnControl*>(QApplication::focusWidget());
+    const bool focusOnDays = FocusedDay() > 0;
+    const bool ringShown = focusOnDays && focused->FocusShown();
     lastDay_ = LastOfMonth().day();
     PlaceDays();
     PlaceButton();
     for (int day = lastDay_ + 1; day <= int(picDay_.size()); ++day)
         CellAt(day)->hide();
     PlaceToday();
-    if (focused > 0)
-        FocusDay(day_.toInt());
+    if (focusOnDays)
+        FocusDay(day_.toInt(), ringShown ? Qt::OtherFocusReason : Qt::MouseFocusReason);
     ShowIcons();
     update();
 }
@@ -272,7 +274,7 @@ void ucCal_LG::TurnMonth(int months) {
     const QDate month = Dates::AddMonths(FirstOfMonth(), months);
     const QString year = QString::number(month.year());
     if (year != year_) {
-        if (month.year() < firstYear || month.year() > qMax(lastListedYear, Clock::Today().year()))
+        if (month.year() < firstYear || month.year() > lastYear_)
             return;
         ucYear_->SetIndex(qint16(month.year() - (firstYear - 1)));
         year_ = year;
@@ -299,20 +301,20 @@ void ucCal_LG::mouseMoveEvent(QMouseEvent* event) {
 
 int ucCal_LG::FocusedDay() const {
     const QWidget* focused = QApplication::focusWidget();
-    if (!focused || !isAncestorOf(focused))
-        return focused == this ? day_.toInt() : 0;
+    if (focused == this)
+        return day_.toInt();
     for (size_t i = 0; i < picDay_.size(); ++i)
-        if (picDay_[i] == focused || picDay_[i]->isAncestorOf(focused))
+        if (focused && picDay_[i]->isAncestorOf(focused))
             return int(i) + 1;
     return 0;
 }
 
-void ucCal_LG::FocusDay(int day) {
+void ucCal_LG::FocusDay(int day, Qt::FocusReason reason) {
     const int target = qBound(1, day, lastDay_);
     QWidget* control = CellAt(target);
     if (target == day_.toInt())
         control = ucCalButton_;
-    control->setFocus(Qt::OtherFocusReason);
+    control->setFocus(reason);
 }
 
 void ucCal_LG::keyPressEvent(QKeyEvent* event) {
@@ -326,7 +328,7 @@ void ucCal_LG::keyPressEvent(QKeyEvent* event) {
         return DrawnControl::keyPressEvent(event);
     for (const Step& step : steps)
         if (event->key() == step.key)
-            return FocusDay(day + step.days);
+            return FocusDay(day + step.days, Qt::OtherFocusReason);
     if (event->key() == Qt::Key_PageUp || event->key() == Qt::Key_PageDown)
         return TurnMonth(event->key() == Qt::Key_PageUp ? -1 : 1);
     DrawnControl::keyPressEvent(event);

@@ -76,11 +76,12 @@ private:
     void ShowMonth();
     void TurnMonth(int months);
     int FocusedDay() const; ///< 0 where the focus is not among the days
-    void FocusDay(int day);
+    void FocusDay(int day, Qt::FocusReason reason);
 
     QString month_, year_, day_;
     QDate date_;
     int lastDay_ = 0;
+    int lastYear_ = 0; ///< of the list
     QPoint lastMouse_{-1, -1};
 
     ucHeader* ucHead_;

@@ -691,6 +691,25 @@ TEST_F(ucCal_LGTest, PageKeysStopAtTheEndsOfTheList) {
     EXPECT_EQ(Title(), "December 2026");
 }
 
+TEST_F(ucCal_LGTest, AYearThatBeginsMeanwhileIsNotOnTheListYet) {
+    Open({2026, 12, 31});
+    Clock::SetToday({2027, 1, 1});
+    Button()->setFocus();
+    Key(Qt::Key_PageDown);
+    EXPECT_EQ(Title(), "December 2026");
+}
+
+TEST_F(ucCal_LGTest, TheFocusFollowsAClickWithoutARing) {
+    Open({2026, 11, 21});
+    Click(Cell(5));
+    EXPECT_TRUE(Button()->hasFocus());
+    EXPECT_FALSE(Button()->FocusShown());
+    Key(Qt::Key_Right);
+    EXPECT_TRUE(Cell(6)->FocusShown());
+    Key(Qt::Key_Return);
+    EXPECT_TRUE(Button()->FocusShown());
+}
+
 TEST_F(ucCal_LGTest, KeysInAListDoNothing) {
     Open({2026, 11, 21});
     Month()->setFocus();
