@@ -1,13 +1,16 @@
 #include "analysis/TwipsSurface.h"
 
 #include "toolkit/SmoothedPrint.h"
+#include "toolkit/Style.h"
 #include "toolkit/Twips.h"
 
+#include <QFontMetricsF>
 #include <QPainter>
 
 namespace {
 
 constexpr QPointF PixelMiddle(.5, .5);
+constexpr int TextMargin = 4; ///< pixels
 
 QRect Spanning(QPointF from, QPointF to) {
     const QPoint corner(Twips::ToPixels(from.x()), Twips::ToPixels(from.y()));
@@ -50,6 +53,8 @@ void TwipsSurface::ThickPoint(QPointF at, const QColor& colour, int width) {
 
 void TwipsSurface::Print(QPointF place, const QString& text, const QFont& font,
                          const QColor& colour) {
+    const QRectF ground(place / ratio_, QFontMetricsF(SmoothedFont(font)).size(0, text));
+    painter_.fillRect(ground.adjusted(-TextMargin, 0, TextMargin, 0), TheStyle().paper);
     painter_.setPen(colour);
-    SmoothedPrint(painter_, place / ratio_, text, font);
+    SmoothedPrint(painter_, ground.topLeft(), text, font);
 }

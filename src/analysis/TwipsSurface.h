@@ -17,6 +17,7 @@ public:
     void HorizontalLine(double y, double left, double right, const QColor& colour);
     void ThickLine(QPointF from, QPointF to, const QColor& colour, int width);
     void ThickPoint(QPointF at, const QColor& colour, int width);
+    /// On the chart's ground, so that no line crosses the text.
     void Print(QPointF place, const QString& text, const QFont& font, const QColor& colour);
 
 private:

@@ -3,6 +3,7 @@
 #include "tour/CustomFoodWalk.h"
 #include "tour/Guide.h"
 #include "tour/RecipeWalk.h"
+#include "tour/ReportWalk.h"
 
 #include "core/Application.h"
 #include "core/Flow.h"
@@ -73,6 +74,7 @@ void Walk::Go() {
     Preferences();
     CustomFoodWalk(guide_).Go();
     RecipeWalk(guide_).Go();
+    ReportWalk(guide_).Go();
     Quit();
     guide_.Check(guide_.AllForeseenCame(), QStringLiteral("every foreseen window came"));
 }
