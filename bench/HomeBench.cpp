@@ -4,6 +4,8 @@
 #include "core/frmMain.h"
 #include "runtime/AppState.h"
 
+#include <QImage>
+
 namespace {
 constexpr QSize nestSize(766, 562);
 constexpr double oneFrame = 1.0 / 60; // seconds
@@ -15,10 +17,10 @@ void RepaintOurs(benchmark::State& state) {
                                        "handful once, and you will judge the next hundred well.");
     frmMain home;
     home.resize(nestSize);
-    home.show();
     home.DoWinInit();
+    QImage surface(nestSize, QImage::Format_RGB32);
     for (auto _ : state)
-        home.repaint();
+        home.render(&surface);
 }
 
 void RepaintLimit(benchmark::State& state) {

@@ -44,7 +44,6 @@ void Navigation::InstallSeams() {
     };
     seams.LoadScreen = [this](const QString& name) { return LoadScreen(name); };
     seams.ShowScreen = [this](const QString& name) { return ShowScreen(name); };
-    seams.HasScreen = [this](const QString& name) { return HasScreen(name); };
     seams.ShowHome = [this] { ShowHome(); };
 }
 

@@ -37,22 +37,16 @@ struct NavigationButton {
     const char* picture;
     const char* caption;
     const char* hover;
-    const char* absent; ///< tip of a button that has nothing to open
 };
 
 constexpr NavigationButton navigationButtons[] = {
-    {"cmdCal", ScreenNames::Home, "calendar", "Main", "Main",
-     "The month at a glance comes with a later version of Halvane"},
-    {"cmdDay", ScreenNames::Day, "daily", "Daily", "Daily Details",
-     "The day's details come with a later version of Halvane"},
-    {"cmdReport", ScreenNames::Report, "reports", "Reports", "Reports",
-     "Reports come with a later version of Halvane"},
-    {"cmdCustomFoods", ScreenNames::CustomFoods, "apple", "My Foods", "Custom Foods",
-     "Foods of your own come with a later version of Halvane"},
-    {"cmdRecipes", ScreenNames::Recipes, "book", "Recipes", "Recipe Manager",
-     "Recipes come with a later version of Halvane"},
-    {"cmdCommunity", "", "community", "Community", "Online Community", ""},
-    {"cmdLogo", "", "logo", "", "Halvane", ""},
+    {"cmdCal", ScreenNames::Home, "calendar", "Main", "Main"},
+    {"cmdDay", ScreenNames::Day, "daily", "Daily", "Daily Details"},
+    {"cmdReport", ScreenNames::Report, "reports", "Reports", "Reports"},
+    {"cmdCustomFoods", ScreenNames::CustomFoods, "apple", "My Foods", "Custom Foods"},
+    {"cmdRecipes", ScreenNames::Recipes, "book", "Recipes", "Recipe Manager"},
+    {"cmdCommunity", "", "community", "Community", "Online Community"},
+    {"cmdLogo", "", "logo", "", "Halvane"},
 };
 constexpr int logoIndex = 6;
 
@@ -61,13 +55,6 @@ void Open(const QString& screen) {
         Community::Open();
     else
         ShowScreen(screen);
-}
-
-/// A button without anything to open says so in its tip.
-void Disable(ucButtonA* button, const QString& reason) {
-    button->setEnabled(false);
-    button->setToolTip(reason);
-    button->setAccessibleDescription(reason);
 }
 
 } // namespace
@@ -166,8 +153,6 @@ ucButtonA* frmHOME::AddNavigationButton(int index) {
         ResetMenu();
         Open(screen);
     });
-    if (!screen.isEmpty() && !HasScreen(screen))
-        Disable(button, QLatin1String(row.absent));
     buttons_[index] = button;
     return button;
 }

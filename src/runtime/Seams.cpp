@@ -23,11 +23,6 @@ QObject* LoadScreen(const QString& screen) {
     return seam ? seam(screen) : nullptr;
 }
 
-bool HasScreen(const QString& screen) {
-    const auto& seam = TheSeams().HasScreen;
-    return seam && seam(screen);
-}
-
 void ShowHome() {
     if (const auto& seam = TheSeams().ShowHome)
         seam();

@@ -11,7 +11,6 @@ struct Seams {
     std::function<bool(const QString& message, QObject* owner, bool showCancel)> ShowAlert;
     std::function<QObject*(const QString& screen)> LoadScreen;
     std::function<QObject*(const QString& screen)> ShowScreen;
-    std::function<bool(const QString& screen)> HasScreen;
     std::function<void()> ShowHome;
     std::function<void(int exitCode)> EndProcess;
 };
@@ -28,7 +27,6 @@ QObject* ShowScreen(const QString& screen);
 
 /// The screen, created if it is not loaded, without bringing it forward.
 QObject* LoadScreen(const QString& screen);
-bool HasScreen(const QString& screen);
 
 void ShowHome(); ///< shows the frame frmHOME and refreshes it
 void EndProcess(int exitCode = 0);

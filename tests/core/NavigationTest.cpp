@@ -191,7 +191,7 @@ TEST_F(NavigationTest, LoadScreenMakesItWithoutShowingIt) {
 }
 
 TEST_F(NavigationTest, AScreenThatIsNotRegisteredIsNull) {
-    EXPECT_FALSE(::HasScreen(QStringLiteral("frmRecipeManager")));
+    EXPECT_FALSE(TheNavigation().HasScreen(QStringLiteral("frmRecipeManager")));
     EXPECT_EQ(::LoadScreen(QStringLiteral("frmRecipeManager")), nullptr);
     Screen* day = Show("frmDay");
     EXPECT_EQ(Show("frmRecipeManager"), nullptr);

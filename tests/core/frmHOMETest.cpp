@@ -71,20 +71,6 @@ TEST_F(frmHOMETest, EachButtonBringsItsScreenAndIsThenChosen) {
     }
 }
 
-TEST_F(frmHOMETest, AButtonWhoseScreenIsNotRegisteredIsDisabledAndSaysWhy) {
-    AddLoggedScreen(QStringLiteral("frmDay"), QStringLiteral("Daily Details"));
-    Open();
-    EXPECT_TRUE(Button("cmdDay")->isEnabled());
-    for (const char* name : {"cmdCal", "cmdReport", "cmdCustomFoods", "cmdRecipes"}) {
-        EXPECT_FALSE(Button(name)->isEnabled()) << name;
-        EXPECT_TRUE(Button(name)->toolTip().contains(QStringLiteral("later version"))) << name;
-        EXPECT_EQ(Button(name)->accessibleDescription(), Button(name)->toolTip()) << name;
-        EXPECT_FALSE(Button(name)->accessibleName().isEmpty()) << name;
-        Click(Button(name));
-    }
-    EXPECT_EQ(TheNavigation().Front(), nullptr);
-}
-
 TEST_F(frmHOMETest, TheCommunityButtonAndTheLogoOpenTheCommunityPage) {
     QList<QUrl> opened;
     SetBrowser([&](const QUrl& address) {

@@ -61,6 +61,11 @@ protected:
         Click(Control(qPrintable(QStringLiteral("picDay%1").arg(day))));
         RunDeferredDeletes();
     }
+    /// Picks the item of that index from one of the calendar's lists.
+    void Pick(const char* list, int index) {
+        Click(Control(list));
+        Find<DrawnControl>(Control(list), QStringLiteral("lblItem%1").arg(index))->Activate();
+    }
     bool Marked(const char* mark, int day) {
         auto* picture = TheNavigation().Front()->findChild<QWidget*>(QLatin1String(mark) +
                                                                      QString::number(day));
@@ -231,6 +236,55 @@ TEST_F(frmMainTest, TheGlanceIsOfTheChosenDaysMonthAndItsBoxNamesIt) {
     ShowMain();
     EXPECT_EQ(Caption("ucBox1"), QStringLiteral("April 2002 at a glance"));
     EXPECT_EQ(Caption("lblAvgCals"), QStringLiteral("Average daily calories: 1234"));
+}
+
+TEST_F(frmMainTest, AnotherMonthOrYearMovesTheGlanceAndNothingElse) {
+    Log(QDate(2026, 10, 31), 1500, 100);
+    Log(QDate(2025, 10, 1), 1600, 100);
+    ShowMain();
+    Pick("ucMonth", 10);
+    EXPECT_EQ(Caption("ucBox1"), QStringLiteral("October 2026 at a glance"));
+    EXPECT_EQ(Caption("lblAvgCals"), QStringLiteral("Average daily calories: 1500"));
+    EXPECT_TRUE(Marked("imgFood", 31));
+    Pick("ucYear", 2025 - 1991);
+    EXPECT_EQ(Caption("ucBox1"), QStringLiteral("October 2025 at a glance"));
+    EXPECT_EQ(Caption("lblAvgCals"), QStringLiteral("Average daily calories: 1600"));
+    Pick("ucMonth", 9);
+    EXPECT_EQ(GlanceLabels(), QStringLiteral("Total Fat: --|Protein: --|Carbs: --"));
+    EXPECT_EQ(App().CurrentDate, QDate(2026, 11, 21));
+    EXPECT_EQ(Front(), QStringLiteral("frmMain"));
+}
+
+TEST_F(frmMainTest, ADayOfAnotherMonthCanBeChosen) {
+    ShowMain();
+    Pick("ucMonth", 2);
+    ClickDay(28);
+    EXPECT_EQ(App().CurrentDate, QDate(2026, 2, 28));
+    EXPECT_EQ(Front(), QStringLiteral("frmDay"));
+}
+
+TEST_F(frmMainTest, AChosenDayOtherThanTodayIsToldBesideTheCalendar) {
+    frmMain* home = ShowMain();
+    auto* hint = Find<QLabel>(home, QStringLiteral("lblHint"));
+    EXPECT_EQ(hint->text(), QStringLiteral("Click a day to add foods"));
+    App().CurrentDate = QDate(2026, 11, 5);
+    home->DoWinInit();
+    EXPECT_EQ(hint->text(), QStringLiteral("Chosen day: Thursday, November 05, 2026"));
+}
+
+TEST_F(frmMainTest, TabLeadsFromTheColumnToTheListsAndTheChosenDay) {
+    ShowMain();
+    Activate(TheNavigation().Frame());
+    Find(TheNavigation().Frame(), QStringLiteral("cmdCommunity"))->setFocus(Qt::TabFocusReason);
+    QStringList names;
+    for (int step = 0; step < 3; ++step) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        names << QApplication::focusWidget()->objectName();
+    }
+    EXPECT_EQ(names, (QStringList{QStringLiteral("ucMonth"), QStringLiteral("ucYear"),
+                                  QStringLiteral("ucCalButton")}));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    EXPECT_EQ(Front(), QStringLiteral("frmDay"));
 }
 
 TEST_F(frmMainTest, AnotherUsersLogIsNotLookedAt) {

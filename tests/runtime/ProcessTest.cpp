@@ -78,7 +78,6 @@ TEST_F(SeamsTest, DoNothingWhereNothingIsInstalled) {
     EXPECT_FALSE(ShowAlert("message"));
     EXPECT_EQ(ShowScreen("frmDay"), nullptr);
     EXPECT_EQ(LoadScreen("frmDay"), nullptr);
-    EXPECT_FALSE(HasScreen("frmDay"));
     EXPECT_NO_THROW(ShowHome());
 }
 
@@ -98,14 +97,11 @@ TEST_F(SeamsTest, HandOnWhatTheyAreGiven) {
         calls << QString(u"load " + name);
         return &screen;
     };
-    TheSeams().HasScreen = [](const QString& name) { return name == u"frmDay"; };
     TheSeams().ShowHome = [&] { calls << QStringLiteral("home"); };
     TheSeams().EndProcess = [&](int code) { calls << QString::number(code); };
     EXPECT_TRUE(ShowAlert("Sure?", &owner, true));
     EXPECT_EQ(ShowScreen("frmDay"), &screen);
     EXPECT_EQ(LoadScreen("frmMain"), &screen);
-    EXPECT_TRUE(HasScreen("frmDay"));
-    EXPECT_FALSE(HasScreen("frmOther"));
     ShowHome();
     EndProcess(3);
     EXPECT_EQ(calls, QStringList({"Sure?", "show frmDay", "load frmMain", "home", "3"}));

@@ -42,7 +42,6 @@ void HalvaneTest::SetUp() {
         return nullptr;
     };
     seams.LoadScreen = [](const QString&) -> QObject* { return nullptr; };
-    seams.HasScreen = [](const QString&) { return true; };
     seams.ShowHome = [] {};
     seams.EndProcess = [this](int code) { endings << code; };
 }

@@ -18,6 +18,7 @@ private:
     QWidget* Home();
     void OpenMonths();
     void FillMonth();
+    void Report();
 
     Guide& guide_;
 };
