@@ -52,6 +52,6 @@ void MeasureStart() {
                 "more", "aim");
     std::printf("%-46s %12.1f %12.1f %8.1f %8.1f\n", "start to the painted frame (ms)",
                 ours.milliseconds, bare.milliseconds, ours.milliseconds - bare.milliseconds, 100.0);
-    std::printf("%-46s %12.1f %12.1f %8.1f %8.1f\n", "memory with the day screen open (MB)",
+    std::printf("%-46s %12.1f %12.1f %8.1f %8.1f\n", "memory with the home screen open (MB)",
                 ours.megabytes, bare.megabytes, ours.megabytes - bare.megabytes, 30.0);
 }

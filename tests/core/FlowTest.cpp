@@ -355,6 +355,29 @@ TEST_F(FlowTest, QuittingStoresThePlaceInTwipsAndClosesEverything) {
     EXPECT_EQ(FoodDB().state(), Connection::Closed);
 }
 
+TEST_F(FlowTest, ExitInTheMenuQuitsTheSame) {
+    StartWithAnna();
+    TheNavigation().Frame()->move(15, 30);
+    ChooseFromMenu(4);
+    EXPECT_EQ(Stored("UILEFT"), QString::number(Twips::FromPixels(15)));
+    EXPECT_EQ(Stored("UITOP"), QString::number(Twips::FromPixels(30)));
+    EXPECT_FALSE(Flow::HasWindow());
+    EXPECT_EQ(UserDB().state(), Connection::Closed);
+}
+
+TEST_F(FlowTest, AfterTheAboutBoxTheNextStartsSplashClosesByItselfAgain) {
+    StartWithAnna();
+    answers[QStringLiteral("frmSplash")] = [](QWidget* splash) {
+        EXPECT_TRUE(Find<QTimer>(splash, QStringLiteral("tmrClose"))->isActive());
+        Click(splash);
+    };
+    WithModal([](QWidget* about) { Click(about); }, [] { ChooseFromMenu(12); });
+    Flow::QuitApp();
+    TheNavigation().Reset();
+    AddLoggedScreen(QStringLiteral("frmMain"), QStringLiteral("Main"));
+    EXPECT_EQ(RunMain(), 0);
+}
+
 TEST_F(FlowTest, ClosingTheFrameByTheWindowSystemQuitsTheSame) {
     StartWithAnna();
     TheNavigation().Frame()->move(15, 30);

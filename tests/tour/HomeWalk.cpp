@@ -68,13 +68,6 @@ void HomeWalk::FullMonth() {
     guide_.Picture(Frame(), QStringLiteral("home-chosen-day"));
     guide_.Press(Frame(), QStringLiteral("cmdDone"));
     guide_.Picture(Frame(), QStringLiteral("home-after-the-day"));
-    Report();
-}
-
-void HomeWalk::Report() {
-    guide_.Press(Frame(), QStringLiteral("cmdReport"));
-    guide_.HoverOver(Frame(), QStringLiteral("picFrameTop"));
-    guide_.Picture(Frame(), QStringLiteral("report-of-the-week"));
 }
 
 void HomeWalk::OpenMonths() {

@@ -18,7 +18,6 @@ private:
     QWidget* Home();
     void OpenMonths();
     void FillMonth();
-    void Report();
 
     Guide& guide_;
 };
