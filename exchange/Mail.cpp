@@ -71,7 +71,7 @@ std::string Ingredients(const Recipe& recipe) {
 
 std::string Card(const Recipe& recipe) {
     std::string text = recipe.name + "\n\n";
-    text += "Recipe yield: " + Numbers::Short(recipe.yield) + " servings\n";
+    text += "Recipe yield: " + Numbers::Servings(recipe.yield) + "\n";
     if (!recipe.servingName.empty())
         text += "Serving size: " + recipe.servingName + "\n";
     text += "Total time: " + Numbers::Short(recipe.prepTime) + " minutes\n";

@@ -21,4 +21,8 @@ std::string Short(double number) {
     return shortened == "-0" ? "0" : shortened;
 }
 
+std::string Servings(double number) {
+    return Short(number) + (number == 1 ? " serving" : " servings");
+}
+
 } // namespace exchange::Numbers

@@ -9,6 +9,7 @@ namespace exchange {
 namespace Numbers {
 std::string Whole(double number); ///< ties to the even neighbour, as the program's own card
 std::string Short(double number); ///< at most two digits behind the point, none that say nothing
+std::string Servings(double number); ///< "1 serving", "4 servings"
 } // namespace Numbers
 
 } // namespace exchange

@@ -168,7 +168,7 @@ std::string RecipePage(const Recipe& recipe) {
     data values;
     values.set("name", recipe.name);
     values.set("id", std::to_string(recipe.id));
-    values.set("yield", Numbers::Short(recipe.yield));
+    values.set("yield", Numbers::Servings(recipe.yield));
     values.set("time", Numbers::Short(recipe.prepTime));
     values.set("hasServing", !recipe.servingName.empty());
     values.set("serving", recipe.servingName);

@@ -15,7 +15,7 @@ constexpr size_t LongestQuery = 200;
 
 Router::Handler File(const std::string& text, const char* type) {
     return [&text, type](const Ask&, httplib::Response& response) {
-        response.set_header("Cache-Control", "public, max-age=3600");
+        response.set_header("Cache-Control", "public, max-age=300");
         response.set_content(text, type);
     };
 }

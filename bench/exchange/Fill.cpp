@@ -34,8 +34,8 @@ Recipe Draw(std::mt19937& random) {
     Recipe recipe;
     recipe.name = std::string(Manners[random() % 6]) + " " + Dishes[random() % 8];
     recipe.servingName = "1 bowl";
-    recipe.yield = 1 + random() % 8;
-    recipe.prepTime = 5 * (1 + random() % 20);
+    recipe.yield = static_cast<int>(1 + random() % 8);
+    recipe.prepTime = static_cast<int>(5 * (1 + random() % 20));
     recipe.instructions = std::string(400, 'x');
     recipe.from = recipe.to = "a@example.org";
     recipe.isPublic = true;

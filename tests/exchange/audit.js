@@ -101,6 +101,9 @@ const rules = {
     .filter((node) => isShown(view, node))
     .filter((node) => node.getBoundingClientRect().height < 24 && !node.closest('.list li'))
     .map(where),
+  'no text is cut off': (doc, view) => all(doc, 'body *')
+    .filter((node) => view.getComputedStyle(node).overflowX !== 'visible' && isShown(view, node))
+    .filter((node) => node.scrollWidth > node.clientWidth && node.tagName !== 'INPUT').map(where),
   'nothing sticks out sideways': (doc, view) => {
     const wide = doc.documentElement.scrollWidth > view.innerWidth;
     const sticks = (node) => node.getBoundingClientRect().right > view.innerWidth + 1;
