@@ -124,7 +124,7 @@ void PaintOurs(benchmark::State& state) {
         chart.render(&surface);
 }
 
-/// The same pens along the same places by a bare painter: two lines and four dots a day.
+/// The same pens along as many places by a bare painter: two lines and four dots a day.
 void PaintLimit(benchmark::State& state) {
     QImage surface(ChartSize, QImage::Format_RGB32);
     const Style& style = TheStyle();
@@ -143,7 +143,6 @@ void PaintLimit(benchmark::State& state) {
                     if (pen == 4 || width > 3) {
                         painter.setBrush(style.ln[pen].colour);
                         painter.drawEllipse(at(day - 1), width / 2.0, width / 2.0);
-                        painter.drawEllipse(at(day), width / 2.0, width / 2.0);
                     }
             }
     }

@@ -171,22 +171,18 @@ void ucLineChart::DrawLine(TwipsSurface& surface) const {
         }
 }
 
-/// The lighter pen of the last pass lies as a highlight up and to the right of the darker one.
+/// The lighter pen of the last pass lies as a highlight up and to the right of the darker one. The
+/// far end gets its dots with the segment that begins there; the last one ends where it begins.
 void ucLineChart::PlotSegment(TwipsSurface& surface, QPoint from, QPoint to, int pass) const {
     const Style& style = TheStyle();
     const Style::LinePen& ln = style.ln[pass];
     const QPoint shift = pass == LastPass ? HighlightShift : QPoint();
-    const QPoint ends[] = {from + shift, to + shift};
-    const auto points = [&](const QColor& colour, int width) {
-        for (const QPoint& end : ends)
-            surface.ThickPoint(end, colour, width);
-    };
-    surface.ThickLine(ends[0], ends[1], ln.colour, ln.width);
-    points(ln.colour, ln.width + PointGrowth);
+    surface.ThickLine(from + shift, to + shift, ln.colour, ln.width);
+    surface.ThickPoint(from + shift, ln.colour, ln.width + PointGrowth);
     if (pass != LastPass)
         return;
-    points(style.lineDotEdge, DotEdgeWidth);
-    points(style.lineDotCore, DotCoreWidth);
+    surface.ThickPoint(from + shift, style.lineDotEdge, DotEdgeWidth);
+    surface.ThickPoint(from + shift, style.lineDotCore, DotCoreWidth);
 }
 
 QString ucLineChart::Figures() const {
