@@ -1,6 +1,6 @@
 #include "core/frmAlert.h"
 
-#include "core/ButtonRow.h"
+#include "toolkit/ButtonRow.h"
 #include "toolkit/Labels.h"
 #include "toolkit/Pictures.h"
 #include "toolkit/Style.h"

@@ -1,9 +1,9 @@
 #include "core/frmEULA.h"
 
-#include "core/ButtonRow.h"
 #include "core/SettingNames.h"
 #include "core/TextFile.h"
 #include "runtime/Settings.h"
+#include "toolkit/ButtonRow.h"
 #include "toolkit/ucButton.h"
 
 #include <QPlainTextEdit>

@@ -1,9 +1,9 @@
 #include "core/frmPrefs.h"
 
-#include "core/ButtonRow.h"
 #include "core/SettingNames.h"
 #include "runtime/AppState.h"
 #include "runtime/Settings.h"
+#include "toolkit/ButtonRow.h"
 #include "toolkit/Labels.h"
 #include "toolkit/Style.h"
 #include "toolkit/ucButton.h"

@@ -1,8 +1,8 @@
 #include "core/frmWelcome.h"
 
-#include "core/ButtonRow.h"
 #include "model/frmProfile.h"
 #include "runtime/Seams.h"
+#include "toolkit/ButtonRow.h"
 #include "toolkit/Labels.h"
 #include "toolkit/Pictures.h"
 #include "toolkit/ucButton.h"

@@ -1,4 +1,4 @@
-#include "core/ButtonRow.h"
+#include "toolkit/ButtonRow.h"
 
 #include "toolkit/Style.h"
 #include "toolkit/ucButton.h"
