@@ -6,6 +6,7 @@
 #include "core/frmSplash.h"
 #include "model/User.h"
 #include "model/frmProfile.h"
+#include "recipes/frmImport.h"
 #include "runtime/Server.h"
 
 #include <QTimer>
@@ -14,6 +15,10 @@ namespace {
 
 void Exit(frmHOME& frame) {
     Q_EMIT frame.QuitRequested();
+}
+
+void ImportRecipes(frmHOME& frame) {
+    frmImport(&frame).ShowModal();
 }
 
 void Preferences(frmHOME& frame) {
@@ -51,8 +56,7 @@ using MenuItems::Help;
 constexpr std::array<MenuItems::Item, 13> items = {{
     {File, "  New", true, nullptr, ""},
     {File, "  Open", true, nullptr, ""},
-    {File, " Import Recipes", true, nullptr,
-     "Importing recipes comes with a later version of Halvane"},
+    {File, " Import Recipes", true, ImportRecipes, ""},
     {File, "  Log off", false, nullptr, ""},
     {File, "  Exit", true, Exit, ""},
     {Edit, "  Create & Edit Users", false, nullptr, ""},

@@ -4,7 +4,9 @@
 #include "recipes/InstructionText.h"
 #include "recipes/RecipeCard.h"
 #include "recipes/RecipeStore.h"
+#include "recipes/frmImport.h"
 #include "recipes/frmRecSearch.h"
+#include "recipes/frmSend.h"
 #include "recipes/ucIngredients.h"
 #include "runtime/Attempt.h"
 #include "runtime/Seams.h"
@@ -14,8 +16,6 @@
 #include "toolkit/Style.h"
 #include "toolkit/ucBox.h"
 #include "toolkit/ucButton.h"
-
-#include <QMetaMethod>
 
 namespace {
 
@@ -35,7 +35,7 @@ frmRecipeManager::frmRecipeManager(QWidget* parent)
     AddList();
     AddCard();
     AddButtons();
-    AllowAll({cmdEdit_, cmdDelete_, cmdSend_, cmdImport_}, false);
+    AllowAll({cmdEdit_, cmdDelete_, cmdSend_}, false);
 }
 
 void frmRecipeManager::AddList() {
@@ -97,12 +97,8 @@ void frmRecipeManager::PlaceButtons() {
 
 /// A kept screen that comes back in the middle of an edit goes on with it: what is typed stays.
 void frmRecipeManager::DoWinInit() {
-    Explain(cmdImport_, "Importing recipes comes with a later version of Halvane");
-    Explain(cmdSend_, "Sending recipes comes with a later version of Halvane");
-    if (IsEditing())
-        return;
-    Allow(cmdImport_, true);
-    ListRecipes();
+    if (!IsEditing())
+        ListRecipes();
 }
 
 /// Choosing a line raises the list's click, which shows the recipe.
@@ -241,11 +237,11 @@ void frmRecipeManager::cmdSend_Click() {
     if (current_ == noRecipe)
         ShowAlert(QStringLiteral("You must first search for a recipe to send."), this);
     else
-        Q_EMIT SendAsked(current_);
+        frmSend(current_, this).ShowModal();
 }
 
 void frmRecipeManager::cmdImport_Click() {
-    Q_EMIT ImportAsked();
+    frmImport(this).ShowModal();
     ListRecipes();
 }
 
@@ -278,27 +274,9 @@ void frmRecipeManager::SetEditCaption(QLatin1String caption) {
     PlaceButtons();
 }
 
-void frmRecipeManager::Allow(ucButton* button, bool allowed) {
-    button->SetEnabled(allowed && IsServed(button));
-    button->Reset();
-}
-
 void frmRecipeManager::AllowAll(std::initializer_list<ucButton*> buttons, bool allowed) {
-    for (ucButton* button : buttons)
-        Allow(button, allowed);
-}
-
-bool frmRecipeManager::IsServed(const ucButton* button) const {
-    if (button == cmdImport_)
-        return isSignalConnected(QMetaMethod::fromSignal(&frmRecipeManager::ImportAsked));
-    if (button == cmdSend_)
-        return isSignalConnected(QMetaMethod::fromSignal(&frmRecipeManager::SendAsked));
-    return true;
-}
-
-void frmRecipeManager::Explain(ucButton* button, const char* absence) {
-    if (IsServed(button))
-        return;
-    button->setToolTip(QLatin1String(absence));
-    button->setAccessibleDescription(QLatin1String(absence));
+    for (ucButton* button : buttons) {
+        button->SetEnabled(allowed);
+        button->Reset();
+    }
 }

@@ -10,8 +10,7 @@ class ucButton;
 
 /// The screen "Recipe Manager": the recipes in a list, and the card of the one that is current. It
 /// is empty, shows a recipe, or edits one. An edit ends by saving; leaving the screen writes
-/// nothing. Importing and sending are done by whoever is connected to ImportAsked and SendAsked;
-/// while nobody is, the two buttons are disabled and say so.
+/// nothing.
 class frmRecipeManager : public Screen {
     Q_OBJECT
     Q_PROPERTY(qint32 CurrentRecipe READ CurrentRecipe)
@@ -28,10 +27,6 @@ public:
     bool SaveRecipe(); ///< True where it was written; else a message has said why not
     void AddRecipe();
     void AddFood(const ScaledFood& item); ///< to the ingredients of the current recipe
-
-Q_SIGNALS:
-    void ImportAsked(); ///< the recipes are listed anew when it has been dealt with
-    void SendAsked(qint32 RecipeID);
 
 protected:
     void resizeEvent(QResizeEvent*) override;
@@ -59,10 +54,7 @@ private:
     bool IsEditing() const;
     void SetEditCaption(QLatin1String caption);
     void EndEdit();
-    void Allow(ucButton* button, bool allowed);
     void AllowAll(std::initializer_list<ucButton*> buttons, bool allowed);
-    bool IsServed(const ucButton* button) const;
-    void Explain(ucButton* button, const char* absence); ///< why nobody serves it
 
     ucBox* ucBox1_;
     ListBox* lsRecipes_;

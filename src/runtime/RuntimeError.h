@@ -27,6 +27,7 @@ inline constexpr int TypeMismatch = 13;
 inline constexpr int FileNotFound = 53;
 inline constexpr int InvalidUseOfNull = 94;
 inline constexpr int NoSuchElement = 340; ///< of a control array
+inline constexpr int ServiceFailed = 429; ///< a remote service: not reached, or not as agreed
 inline constexpr int NoSuchMember = 438;
 inline constexpr int NoCurrentRecord = 3021;
 } // namespace ErrorNumber

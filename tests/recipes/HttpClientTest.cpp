@@ -1,0 +1,228 @@
+#include "recipes/HttpClient.h"
+
+#include "support/Failure.h"
+#include "support/ScriptedServer.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QLineEdit>
+#include <QProcess>
+#include <QSslConfiguration>
+#include <QSslKey>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+
+#include <gtest/gtest.h>
+
+namespace {
+constexpr qint64 plenty = 1024 * 1024;
+using std::chrono::milliseconds;
+} // namespace
+
+class HttpClientTest : public testing::Test {
+protected:
+    ScriptedServer server;
+    HttpClient http;
+
+    int Failure(const QString& path) {
+        return FailureOf([&] { http.Get(server.Address() + path, plenty); });
+    }
+};
+
+TEST_F(HttpClientTest, ACallMayTakeThirtySeconds) {
+    EXPECT_EQ(http.Limit(), std::chrono::seconds(30));
+}
+
+TEST_F(HttpClientTest, GivesStatusAndBodyWhateverTheStatus) {
+    for (const int status : {200, 201, 204, 302, 400, 403, 404, 409, 413, 429, 500, 503, 599}) {
+        const QByteArray body = status == 204 ? QByteArray() : QByteArray::number(status);
+        server.Tell("GET /page", status, body);
+        const HttpReply reply = http.Get(server.Address() + "/page", plenty);
+        EXPECT_EQ(reply.status, status);
+        EXPECT_EQ(reply.body, body);
+    }
+}
+
+TEST_F(HttpClientTest, FollowsNoRedirection) {
+    server.Tell("GET /page", ScriptedServer::Raw("HTTP/1.1 302 Found\r\nLocation: /other\r\n"
+                                                 "Content-Length: 0\r\n\r\n"));
+    EXPECT_EQ(http.Get(server.Address() + "/page", plenty).status, 302);
+    EXPECT_EQ(server.Lines(), QStringList("GET /page"));
+}
+
+TEST_F(HttpClientTest, PostsJsonWithItsLengthAndToken) {
+    server.Tell("POST /page", 201, "{}");
+    EXPECT_EQ(http.PostJson(server.Address() + "/page", R"({"a":1})", "secret", plenty).status,
+              201);
+    const ScriptedServer::Request& request = server.Requests().first();
+    EXPECT_EQ(request.body, R"({"a":1})");
+    EXPECT_EQ(request.headers["content-type"], "application/json");
+    EXPECT_EQ(request.headers["content-length"], "7");
+    EXPECT_EQ(request.headers["authorization"], "Bearer secret");
+    EXPECT_EQ(request.headers["accept-encoding"], "identity");
+}
+
+TEST_F(HttpClientTest, SendsNoAuthorizationWithoutAToken) {
+    server.Tell("POST /page", 201, "{}");
+    http.PostJson(server.Address() + "/page", "{}", "", plenty);
+    EXPECT_FALSE(server.Requests().first().headers.contains("authorization"));
+}
+
+TEST_F(HttpClientTest, ABodyThatWentOutIsNotSentAgainWhereTheAnswerIsLost) {
+    server.Tell("POST /page", ScriptedServer::Raw(""));
+    EXPECT_NE(FailureOf([&] {
+                  http.PostJson(server.Address() + "/page", QByteArray(100000, 'x'), "t", plenty);
+              }),
+              0);
+    EXPECT_EQ(server.Requests().size(), 1);
+}
+
+TEST_F(HttpClientTest, AReplyOfTheGreatestLengthIsTakenAndOneByteMoreIsNot) {
+    server.Tell("GET /page", 200, QByteArray(1000, 'x'));
+    EXPECT_EQ(http.Get(server.Address() + "/page", 1000).body.size(), 1000);
+    EXPECT_NE(FailureOf([&] { http.Get(server.Address() + "/page", 999); }), 0);
+}
+
+TEST_F(HttpClientTest, AFloodIsNotReadToItsEnd) {
+    server.Tell("GET /page", server.Flood(100 * 1024 * 1024));
+    EXPECT_EQ(Failure("/page"), ErrorNumber::ServiceFailed);
+    EXPECT_LT(server.Flooded(), 50 * 1024 * 1024);
+}
+
+TEST_F(HttpClientTest, AReplyThatDoesNotTellItsLengthIsNotTaken) {
+    for (const char* reply : {"HTTP/1.1 200 OK\r\n\r\nwhole?", "HTTP/1.0 200 OK\r\n\r\nwhole?",
+                              "HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n"
+                              "6\r\nwhole?\r\n0\r\n\r\n"}) {
+        server.Tell("GET /page", ScriptedServer::Raw(reply));
+        EXPECT_EQ(Failure("/page"), ErrorNumber::ServiceFailed) << reply;
+    }
+}
+
+TEST_F(HttpClientTest, TheLimitHoldsForSilenceAndForATrickle) {
+    http.SetLimit(milliseconds(150));
+    server.Tell("GET /silence", ScriptedServer::Silence());
+    server.Tell("GET /trickle", ScriptedServer::Trickle());
+    for (const char* page : {"/silence", "/trickle"}) {
+        QElapsedTimer clock;
+        clock.start();
+        EXPECT_EQ(Failure(page), ErrorNumber::ServiceFailed) << page;
+        EXPECT_GE(clock.elapsed(), 145) << page;
+        EXPECT_LT(clock.elapsed(), 10000) << page;
+    }
+}
+
+TEST_F(HttpClientTest, FailsWhereNobodyListens) {
+    QString address;
+    {
+        const ScriptedServer gone;
+        address = gone.Address();
+    }
+    for (const QString& nowhere : {address, QString("http://"), QString("nonsense"), QString(),
+                                   QString("ftp://127.0.0.1"), QString("http://no.such.invalid")})
+        EXPECT_EQ(FailureOf([&] { http.Get(nowhere + "/page", plenty); }),
+                  ErrorNumber::ServiceFailed)
+            << nowhere.toStdString();
+}
+
+TEST_F(HttpClientTest, IsUsableAgainAfterAFailure) {
+    server.Tell("GET /page", ScriptedServer::Raw("HTTP/1.1 200 OK\r\nContent-Length: 9\r\n\r\nh"));
+    EXPECT_NE(Failure("/page"), 0);
+    server.Tell("GET /page", 200, "there");
+    EXPECT_EQ(http.Get(server.Address() + "/page", plenty).body, "there");
+}
+
+// The interface while it waits
+
+TEST_F(HttpClientTest, RepaintsButDropsInputWhileItWaits) {
+    QLineEdit field;
+    field.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&field));
+    bool typed = false;
+    server.Tell("GET /page", [&](QTcpSocket& socket) {
+        QTest::keyClicks(&field, "abc");
+        QTest::mouseClick(&field, Qt::LeftButton);
+        QTest::keyClick(field.windowHandle(), Qt::Key_A);
+        typed = true;
+        field.close();
+        ScriptedServer::Raw("HTTP/1.1 200 OK\r\nContent-Length: 2\r\n\r\nok")(socket);
+    });
+    EXPECT_EQ(http.Get(server.Address() + "/page", plenty).body, "ok");
+    EXPECT_TRUE(typed);
+    EXPECT_TRUE(field.isVisible());
+    QApplication::processEvents();
+    EXPECT_EQ(field.text(), "");
+    QTest::keyClicks(&field, "after");
+    EXPECT_EQ(field.text(), "after");
+}
+
+TEST_F(HttpClientTest, EndsWithAFailureWhereTheProgramEndsMeanwhile) {
+    server.Tell("GET /page", [](QTcpSocket&) {
+        QTimer::singleShot(0, qApp, [] { QCoreApplication::exit(0); });
+    });
+    int failure = 0;
+    QTimer::singleShot(0, &server, [&] { failure = Failure("/page"); });
+    EXPECT_EQ(QCoreApplication::exec(), 0);
+    EXPECT_EQ(failure, ErrorNumber::ServiceFailed);
+}
+
+// Certificates
+
+class HttpsTest : public testing::Test {
+protected:
+    /// Signed by nobody but itself, for that name or address.
+    void MakeCertificate(const QString& subject) {
+        const QString key = folder.filePath("key.pem");
+        const QString certificate = folder.filePath("certificate.pem");
+        const QStringList arguments{"req",    "-x509",     "-newkey",
+                                    "ec",     "-pkeyopt",  "ec_paramgen_curve:P-256",
+                                    "-nodes", "-subj",     "/CN=it",
+                                    "-out",   certificate, "-keyout",
+                                    key,      "-addext",   "subjectAltName=" + subject};
+        QProcess openssl;
+        openssl.start("openssl", arguments);
+        ASSERT_TRUE(openssl.waitForFinished() && openssl.exitCode() == 0)
+            << openssl.readAllStandardError().toStdString();
+        tls.setLocalCertificate(QSslCertificate::fromPath(certificate).value(0));
+        QFile file(key);
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+        tls.setPrivateKey(QSslKey(&file, QSsl::Ec));
+        ASSERT_FALSE(tls.localCertificate().isNull());
+        ASSERT_FALSE(tls.privateKey().isNull());
+    }
+    void Trust() {
+        QSslConfiguration trusting = before;
+        trusting.addCaCertificate(tls.localCertificate());
+        QSslConfiguration::setDefaultConfiguration(trusting);
+    }
+    void TearDown() override { QSslConfiguration::setDefaultConfiguration(before); }
+
+    HttpReply Ask() {
+        ScriptedServer server(tls);
+        server.Tell("GET /page", 200, "secret");
+        HttpClient http;
+        return http.Get(server.Address() + "/page", plenty);
+    }
+
+    QTemporaryDir folder;
+    QSslConfiguration before = QSslConfiguration::defaultConfiguration();
+    QSslConfiguration tls;
+};
+
+TEST_F(HttpsTest, ACertificateThatIsTrustedServes) {
+    MakeCertificate("IP:127.0.0.1");
+    Trust();
+    EXPECT_EQ(Ask().body, "secret");
+}
+
+TEST_F(HttpsTest, ACertificateThatNobodyTrustsFails) {
+    MakeCertificate("IP:127.0.0.1");
+    EXPECT_EQ(FailureOf([&] { Ask(); }), ErrorNumber::ServiceFailed);
+}
+
+TEST_F(HttpsTest, ATrustedCertificateForAnotherNameFails) {
+    MakeCertificate("DNS:recipes.example.org");
+    Trust();
+    EXPECT_EQ(FailureOf([&] { Ask(); }), ErrorNumber::ServiceFailed);
+}

@@ -1,0 +1,104 @@
+#include "recipes/TransferTest.h"
+
+#include "model/Nutrients.h"
+#include "store/Connection.h"
+
+#include <QTest>
+
+void TransferTest::SetUp() {
+    RecipesTest::SetUp();
+    server = std::make_unique<ScriptedServer>();
+    Server::SetAddress(server->Address());
+    Server::SetSupport("help@example.org");
+    window.resize(766, 562);
+    window.show();
+}
+
+void TransferTest::TearDown() {
+    dialog.reset();
+    RecipesTest::TearDown();
+}
+
+void TransferTest::Open(ExchangeDialog* opened) {
+    dialog.reset(opened);
+    dialog->show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(opened));
+}
+
+void TransferTest::Type(const QString& field, const QString& text) {
+    auto* entry = Find<QLineEdit>(dialog.get(), field);
+    entry->setFocus();
+    entry->clear();
+    QTest::keyClicks(entry, text);
+}
+
+QString TransferTest::RecipePath(const QString& behind) const {
+    return "GET /halvane/api/recipes/" + QString::number(Soup) + behind;
+}
+
+QByteArray TransferTest::Json(const QJsonObject& object) {
+    return QJsonDocument(object).toJson(QJsonDocument::Compact);
+}
+
+QJsonObject TransferTest::SoupRecipe() {
+    return {{"RecipeID", Soup},        {"RecipeName", "Crème of lentils"},
+            {"ServingName", "1 bowl"}, {"RecipeYield", 4.5},
+            {"PrepTime", 45},          {"Instructions", "Rinse.\nCook."}};
+}
+
+/// Amounts that tell row and position; the last value is the quantity.
+QJsonArray TransferTest::SoupRows() {
+    QJsonArray rows;
+    for (int row = 1; row <= 2; ++row) {
+        QJsonArray values{row};
+        for (int i = 1; i <= NutrientCount; ++i)
+            values.append(i == 5 ? QJsonValue() : QJsonValue(row * 100 + i + .5));
+        for (const QJsonValue& value : {QJsonValue(QString("Food %1").arg(row)),
+                                        QJsonValue("1 cup"), QJsonValue(Soup), QJsonValue(7)})
+            values.append(value);
+        rows.append(values);
+    }
+    return rows;
+}
+
+QByteArray TransferTest::Table(const QJsonArray& rows) {
+    QJsonArray fields;
+    for (int i = 0; i <= NutrientCount + 4; ++i)
+        fields.append(QString("field %1").arg(i));
+    return Json({{"fields", fields}, {"rows", rows}});
+}
+
+void TransferTest::TellSoup() {
+    server->Tell(RecipePath(), 200, Json(SoupRecipe()));
+    server->Tell(RecipePath("/ingredients"), 200, Table(SoupRows()));
+}
+
+QString TransferTest::AllRecipes() {
+    QString all;
+    for (const char* table : {"Recipes", "Ingredients"})
+        for (const QVariantList& row :
+             HalvaneTest::Rows(UserDB(), "SELECT * FROM " + QString(table)))
+            for (const QVariant& value : row)
+                all += value.toString() + '|';
+    return all;
+}
+
+QList<TransferTest::Oddity> TransferTest::Oddities() {
+    const QByteArray head = "HTTP/1.1 200 OK\r\nContent-Type: text/plain\r\n";
+    return {
+        {"silence", ScriptedServer::Silence()},
+        {"a trickle without an end", ScriptedServer::Trickle()},
+        {"100 MB", server->Flood(100 * 1024 * 1024)},
+        {"an end before the first byte", ScriptedServer::Raw("")},
+        {"half a head", ScriptedServer::Raw("HTTP/1.1 200 OK\r\nContent-Le")},
+        {"half a body", ScriptedServer::Raw(head + "Content-Length: 900\r\n\r\n{\"RecipeID\":")},
+        {"half of a chunked body",
+         ScriptedServer::Raw(head + "Transfer-Encoding: chunked\r\n\r\n400\r\nYour recipe")},
+        {"no HTTP", ScriptedServer::Raw("220 mail.example.org ready\r\n\r\n")},
+        {"a length below nothing", ScriptedServer::Raw(head + "Content-Length: -1\r\n\r\n")},
+        {"an endless redirection", ScriptedServer::Raw("HTTP/1.1 302 Found\r\nLocation: /\r\n"
+                                                       "Content-Length: 0\r\n\r\n")},
+        {"a packed reply", ScriptedServer::Raw(head + "Content-Encoding: gzip\r\n"
+                                                      "Content-Length: 1\r\n\r\n\x1f")},
+    };
+}

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "recipes/RecipesTest.h"
+#include "recipes/frmImport.h"
+#include "recipes/frmSend.h"
+#include "support/ScriptedServer.h"
+
+#include "runtime/Seams.h"
+#include "runtime/Server.h"
+#include "toolkit/ucButton.h"
+
+#include <QCheckBox>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QLineEdit>
+
+/// A server that is told what to answer, one's own recipes, and the two dialogs. Odd replies come
+/// by name, so that both dialogs meet the same ones.
+class TransferTest : public RecipesTest {
+protected:
+    static constexpr qint32 Soup = 1218105222; ///< a recipe on the server
+
+    void SetUp() override;
+    void TearDown() override;
+
+    void Open(ExchangeDialog* dialog); ///< takes it over
+    void Type(const QString& field, const QString& text);
+    void Press(const QString& button) { Click(Find(dialog.get(), button)); }
+    QString RecipePath(const QString& behind = QString()) const;
+
+    /// The recipe with two ingredients, as the exchange gives it.
+    void TellSoup();
+    static QJsonObject SoupRecipe();
+    static QJsonArray SoupRows();
+    static QByteArray Json(const QJsonObject& object);
+    static QByteArray Table(const QJsonArray& rows);
+
+    QString AllRecipes(); ///< what is stored of all recipes and ingredients, as one text
+
+    struct Oddity {
+        const char* name;
+        ScriptedServer::Answer answer;
+    };
+    /// Replies that are no replies. Some never end: no test waits for the whole limit.
+    static constexpr std::chrono::milliseconds OddLimit{500};
+    QList<Oddity> Oddities();
+
+    std::unique_ptr<ScriptedServer> server;
+    QWidget window;
+    std::unique_ptr<ExchangeDialog> dialog;
+};
