@@ -21,6 +21,11 @@ MenuPanel::MenuPanel(MenuItems::Menu menu, QWidget* parent)
     for (int index = 0; index < int(MenuItems::All().size()); ++index)
         if (MenuItems::All()[index].menu == menu)
             AddItem(index);
+    PlaceItems();
+    hide();
+}
+
+void MenuPanel::PlaceItems() {
     int widest = 0;
     for (const MenuLabel* item : std::as_const(items_))
         widest = qMax(widest, item->width());
@@ -30,7 +35,6 @@ MenuPanel::MenuPanel(MenuItems::Menu menu, QWidget* parent)
         top += item->height();
     }
     resize(widest + 2 * edge, top + padding + edge);
-    hide();
 }
 
 void MenuPanel::AddItem(int index) {

@@ -31,6 +31,7 @@ protected:
 
 private:
     void AddItem(int index);
+    void PlaceItems();
 
     QList<MenuLabel*> items_; ///< those that are shown, from top to bottom
 };

@@ -210,7 +210,7 @@ TEST_P(NonsenseSettings, InEveryValueStillLeadToTheDayAndBack) {
     for (const char* name :
          {"FAST", "EULA", "DROPSHADOWS", "UILEFT", "UITOP", "AUTORDI", "LIMIT50", "TIPNUM",
           "REPORTSTATE", "REPORTMODE", "DAILYMODE", "SEARCH_CUSTOM", "SEARCH_RECIPES",
-          "SEARCH_STOCK", "SEARCH_STRING", "OPMEAL", "FROMEMAIL", "TOEMAIL"})
+          "SEARCH_STOCK", "SEARCH_STRING", "OPMEAL", "FROMEMAIL", "TOEMAIL", "INSTALLATION"})
         SetRegValue(QLatin1String(name), QString::fromUtf8(GetParam()));
     modals.clear();
     Start();

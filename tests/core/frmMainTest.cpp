@@ -314,6 +314,8 @@ TEST_F(frmMainTest, ATipLongerThanItsBoxCanBeScrolledFromTheKeyboard) {
     ASSERT_NE(area, nullptr);
     EXPECT_TRUE(QTest::qWaitFor([&] { return area->verticalScrollBar()->maximum() > 0; }));
     EXPECT_NE(area->focusPolicy(), Qt::NoFocus);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return area->verticalScrollBar()->isVisible(); }));
+    EXPECT_LE(area->widget()->width(), area->viewport()->width());
     area->setFocus();
     QTest::keyClick(area, Qt::Key_Down);
     EXPECT_GT(area->verticalScrollBar()->value(), 0);
