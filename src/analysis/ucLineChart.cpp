@@ -118,14 +118,15 @@ void ucLineChart::updateLineChart(QDate startDate, QDate endDate) {
 }
 
 void ucLineChart::ShowDates(const DateAxis& axis) {
-    for (AxisLabel* label : lblDate_)
-        label->hide();
+    std::array<bool, DateAxis::LabelCount> shown{};
     for (const DateAxis::Label& date : axis.Labels()) {
         AxisLabel* label = lblDate_[size_t(date.index)];
         label->SetCaption(Dates::ShortText(date.day));
         label->SetLeft(date.left);
-        label->show();
+        shown[size_t(date.index)] = true;
     }
+    for (size_t i = 0; i < shown.size(); ++i)
+        lblDate_[i]->setVisible(shown[i]);
 }
 
 void ucLineChart::ShowWeights(const WeightAxis& axis) {
