@@ -3,6 +3,8 @@
 #include <soci/postgresql/soci-postgresql.h>
 #include <soci/sqlite3/soci-sqlite3.h>
 
+#include <span>
+
 namespace exchange {
 namespace {
 constexpr std::string_view ServerPrefix = "postgresql:";
@@ -23,6 +25,15 @@ std::mutex& Turn() {
     static std::mutex turn;
     return turn;
 }
+/// What is acknowledged is on the disk: the log is written through at each commit.
+constexpr const char* EmbeddedSettings[] = {"PRAGMA journal_mode=WAL", "PRAGMA synchronous=FULL",
+                                            "PRAGMA foreign_keys=ON", "PRAGMA cache_size=-16384"};
+
+/// Every join of this program looks up keys in the order of an index and ends after a page. The
+/// planner, which cannot know how words go together, is kept from joining whole tables instead.
+constexpr const char* ServerSettings[] = {"SET client_min_messages = warning",
+                                          "SET enable_hashjoin = off", "SET enable_mergejoin = off",
+                                          "SET enable_bitmapscan = off", "SET enable_sort = off"};
 } // namespace
 
 Connection::Connection(const std::string& database)
@@ -31,15 +42,11 @@ Connection::Connection(const std::string& database)
     Tune();
 }
 
-/// What is acknowledged is on the disk: the log is written through at each commit.
 void Connection::Tune() {
-    if (!embedded_) {
-        session_.once << "SET client_min_messages = warning";
-        return;
-    }
-    for (const auto* pragma : {"PRAGMA journal_mode=WAL", "PRAGMA synchronous=FULL",
-                               "PRAGMA foreign_keys=ON", "PRAGMA cache_size=-16384"})
-        session_.once << pragma;
+    const auto settings = embedded_ ? std::span<const char* const>(EmbeddedSettings)
+                                    : std::span<const char* const>(ServerSettings);
+    for (const auto* setting : settings)
+        session_.once << setting;
 }
 
 soci::statement& Connection::Prepared(std::string_view sql) {

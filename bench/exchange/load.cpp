@@ -68,13 +68,16 @@ public:
             requests_.push_back("GET " + path + " HTTP/1.1\r\nHost: localhost\r\n\r\n");
         for (auto& line : lines_)
             Open(line, port);
+        const auto late = Clock::now() - begin_;
+        begin_ += late;
+        end_ += late;
     }
 
     void Run() {
         while (Clock::now() < end_) {
             Due();
             epoll_event events[64];
-            const int count = epoll_wait(poll_, events, 64, rate_ > 0 ? 0 : 100);
+            const int count = epoll_wait(poll_, events, 64, rate_ > 0 ? 1 : 100);
             for (int i = 0; i < count; ++i)
                 Receive(*static_cast<Line*>(events[i].data.ptr));
         }
