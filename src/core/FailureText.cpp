@@ -16,8 +16,9 @@ struct Advice {
 constexpr Advice advices[] = {
     {ErrorNumber::Overflow, "A number that was entered is too large. Please start Halvane again "
                             "and enter a smaller one."},
-    {ErrorNumber::TypeMismatch, "A field that needs a number holds something else, or nothing. "
-                                "Please start Halvane again and enter a plain number there."},
+    {ErrorNumber::TypeMismatch,
+     "A field that needs a number or a date holds something else, or nothing. Please start Halvane "
+     "again and enter a plain number, or a date such as 4/3/2002, there."},
     {ErrorNumber::FileNotFound, "A file that belongs beside the program is missing. Please put it "
                                 "back, or install Halvane again; your own data is not touched."},
     {ErrorNumber::InvalidUseOfNull, "A row of the database has no value where one is needed. "

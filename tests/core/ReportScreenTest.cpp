@@ -13,6 +13,7 @@
 
 #include <QCoreApplication>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QPointer>
 
 namespace {
@@ -21,6 +22,10 @@ const QString NoWeight = QStringLiteral(
     "There is no weight entry from 3/28/2002 to 4/3/2002, so the percent bars and the average "
     "values of this period cannot be worked out. Enter a weight for one of its days on the screen "
     "\"Daily Details\", in the field \"Enter today's weight:\".");
+
+const QString InvalidDate =
+    QStringLiteral("Please enter a valid start date for the report in the format "
+                   "'month/day/year' (eg 4/3/2002).");
 
 /// The report in the real frame.
 class ReportScreenTest : public CoreTest {
@@ -38,6 +43,19 @@ protected:
         auto* screen = qobject_cast<QWidget*>(::ShowScreen(QLatin1String(name)));
         RunDeferredDeletes();
         return screen;
+    }
+    /// The text of the message that an unhandled failure brings.
+    static QString MessageOf(const std::function<void()>& fail) {
+        QString text;
+        testing::internal::CaptureStderr();
+        WithModal(
+            [&](QWidget* window) {
+                text = qobject_cast<QMessageBox*>(window)->text();
+                window->close();
+            },
+            fail);
+        testing::internal::GetCapturedStderr();
+        return text;
     }
     void Weigh() {
         Users(QStringLiteral("INSERT INTO USER_WEIGHTS VALUES (1, '2002-04-03', 150)"));
@@ -114,6 +132,51 @@ TEST_F(ReportScreenTest, WithFastAReturningLineReadsThePeriodAnew) {
     Show("frmDay");
     EXPECT_EQ(Show("frmReport"), report);
     EXPECT_EQ(Find<ucLineChart>(report, QStringLiteral("ucLine"))->Points().size(), 2U);
+}
+
+TEST_F(ReportScreenTest, WithFastAReturningReportKeepsThePeriodAndItsBars) {
+    App().AppInfo.FAST = true;
+    Weigh();
+    QWidget* report = Show("frmReport");
+    auto* start = Find<QLineEdit>(report, QStringLiteral("txtStart"));
+    start->setText(QStringLiteral("4/1/2002"));
+    Users(QStringLiteral("UPDATE USER_WEIGHTS SET Weight = 170"));
+    Show("frmDay");
+    Show("frmReport");
+    EXPECT_EQ(start->text(), QStringLiteral("4/1/2002"));
+    EXPECT_EQ(Find(report, QStringLiteral("ucBar"))
+                  ->findChild<QWidget*>(QStringLiteral("ucHeader1"))
+                  ->property("Caption")
+                  .toString(),
+              QStringLiteral(" Percent RDI (avg weight: 150 lbs)"));
+}
+
+TEST_F(ReportScreenTest, AfterARefusedDateAllViewsButTheLineCanBeChosen) {
+    Weigh();
+    QWidget* report = Show("frmReport");
+    Find<QLineEdit>(report, QStringLiteral("txtStart"))->setText(QStringLiteral("rubbish"));
+    ExpectAlert(InvalidDate);
+    Click(Find(report, QStringLiteral("cmdRefresh")));
+    for (const char* view : {"cmdPie", "cmdVals", "cmdBar"})
+        Click(Find(report, QLatin1String(view)));
+    EXPECT_TRUE(Find(report, QStringLiteral("ucBar"))->isVisible());
+    EXPECT_EQ(endings, QList<int>{});
+    const QString message = MessageOf([&] { Click(Find(report, QStringLiteral("cmdLine"))); });
+    EXPECT_TRUE(message.contains(QStringLiteral("\"rubbish\" is not a date.")));
+    EXPECT_TRUE(message.contains(QStringLiteral("or a date such as 4/3/2002")));
+    EXPECT_EQ(endings, QList<int>{1});
+}
+
+TEST_F(ReportScreenTest, ARefusedDateDoesNotOutliveTheScreen) {
+    Weigh();
+    QWidget* report = Show("frmReport");
+    Click(Find(report, QStringLiteral("cmdLine")));
+    Find<QLineEdit>(report, QStringLiteral("txtStart"))->setText(QStringLiteral("rubbish"));
+    Show("frmDay");
+    report = Show("frmReport");
+    EXPECT_TRUE(Find(report, QStringLiteral("ucLine"))->isVisible());
+    EXPECT_EQ(Find<QLineEdit>(report, QStringLiteral("txtStart"))->text(),
+              QStringLiteral("03/28/2002"));
 }
 
 TEST_F(ReportScreenTest, ATextInPlaceOfTheViewLeavesTheScreenInFront) {
