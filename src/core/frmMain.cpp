@@ -139,6 +139,7 @@ void frmMain::DoWinInit() {
 void frmMain::ShowMonth(QDate from, QDate to) {
     glanceBox_->SetCaption(Dates::MonthName(from.month()) + u' ' + QString::number(from.year()) +
                            " at a glance");
+    glance_->setAccessibleName(glanceBox_->Caption());
     glance_->UpdateGlance(from, to);
 }
 

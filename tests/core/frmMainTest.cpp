@@ -9,14 +9,18 @@
 #include "runtime/Clock.h"
 #include "runtime/Seams.h"
 #include "store/Connection.h"
+#include "toolkit/MousePointer.h"
 #include "toolkit/ucCalButton.h"
 
 #include <QApplication>
 #include <QLabel>
+#include <QMessageBox>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QTest>
 #include <QTimer>
+
+#include <SQLiteCpp/SQLiteCpp.h>
 
 /// The home screen under the real navigation, with one user whose log the tests write.
 class frmMainTest : public CoreTest {
@@ -235,6 +239,7 @@ TEST_F(frmMainTest, TheGlanceIsOfTheChosenDaysMonthAndItsBoxNamesIt) {
     App().CurrentDate = QDate(2002, 4, 30);
     ShowMain();
     EXPECT_EQ(Caption("ucBox1"), QStringLiteral("April 2002 at a glance"));
+    EXPECT_EQ(Control("ucGlance1")->accessibleName(), QStringLiteral("April 2002 at a glance"));
     EXPECT_EQ(Caption("lblAvgCals"), QStringLiteral("Average daily calories: 1234"));
 }
 
@@ -321,11 +326,66 @@ TEST_F(frmMainTest, ATipLongerThanItsBoxCanBeScrolledFromTheKeyboard) {
     EXPECT_GT(area->verticalScrollBar()->value(), 0);
 }
 
+TEST_F(frmMainTest, ATipThatComesAnewIsReadFromItsBeginning) {
+    App().TipOfTheDay = QStringLiteral("one word and another ").repeated(100);
+    frmMain* home = ShowMain();
+    auto* bar = home->findChild<QScrollArea*>()->verticalScrollBar();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return bar->maximum() > 0; }));
+    bar->setValue(bar->maximum());
+    home->DoWinInit();
+    EXPECT_EQ(bar->value(), 0);
+}
+
 TEST_F(frmMainTest, ATipThatFitsTakesNoTab) {
     ShowMain();
     auto* area = TheNavigation().Front()->findChild<QScrollArea*>();
     EXPECT_EQ(area->verticalScrollBar()->maximum(), 0);
     EXPECT_EQ(area->focusPolicy(), Qt::NoFocus);
+}
+
+// The store
+
+TEST_F(frmMainTest, ComesUpWhileAnotherProgramWritesToTheDatabase) {
+    Log(QDate(2026, 11, 7), 2000, 250);
+    SQLite::Database other(UserDB().Raw().getFilename(), SQLite::OPEN_READWRITE);
+    other.exec("BEGIN IMMEDIATE");
+    other.exec("DELETE FROM USER_FOODS");
+    ShowMain();
+    EXPECT_EQ(Front(), QStringLiteral("frmMain"));
+    EXPECT_TRUE(Marked("imgFood", 7));
+    EXPECT_EQ(Caption("lblAvgCals"), QStringLiteral("Average daily calories: 2000"));
+}
+
+TEST_F(frmMainTest, AStoreThatFailsLeavesTheFrameAndTheNextTryShowsTheScreen) {
+    Users(QStringLiteral("ALTER TABLE USER_FOODS RENAME TO gone"));
+    EXPECT_EQ(ShowMain(), nullptr);
+    EXPECT_TRUE(TheNavigation().Frame()->isVisible());
+    EXPECT_EQ(endings, QList<int>{});
+    Users(QStringLiteral("ALTER TABLE gone RENAME TO USER_FOODS"));
+    Click(Find(TheNavigation().Frame(), QStringLiteral("cmdCal")));
+    RunDeferredDeletes();
+    ASSERT_NE(TheNavigation().Front(), nullptr);
+    EXPECT_EQ(Front(), QStringLiteral("frmMain"));
+    EXPECT_FALSE(MousePointer::IsBusy());
+}
+
+TEST_F(frmMainTest, AMonthThatCannotBeReadEndsTheProgramWithAMessage) {
+    frmMain* home = ShowMain();
+    Users(QStringLiteral("ALTER TABLE USER_FOODS RENAME TO gone"));
+    QString message;
+    testing::internal::CaptureStderr();
+    WithModal(
+        [&](QWidget* window) {
+            message = qobject_cast<QMessageBox*>(window)->text();
+            window->close();
+        },
+        [&] {
+            Click(Find(home, QStringLiteral("ucMonth")), QPoint(5, 5));
+            Click(Find(Find(home, QStringLiteral("ucMonth")), QStringLiteral("lblItem3")));
+        });
+    testing::internal::GetCapturedStderr();
+    EXPECT_TRUE(message.contains(QStringLiteral("USER_FOODS"))) << message.toStdString();
+    EXPECT_EQ(endings, QList<int>{1});
 }
 
 // The week
@@ -384,7 +444,8 @@ TEST_F(Pointer, RestingWhereItWasChangesNothing) {
 }
 
 TEST_F(Pointer, MovingOverGlanceAndTipTakesTheHighlightOffToo) {
-    for (const char* name : {"ucBox1", "ucBox_Tip", "lblTip", "lblHint"}) {
+    for (const char* name :
+         {"ucBox1", "ucGlance1", "picPIE", "lblAvgCals", "ucBox_Tip", "lblTip", "lblHint"}) {
         Hover(button);
         ASSERT_TRUE(Lit());
         Hover(Control(name), QPoint(20, 5));
