@@ -28,6 +28,14 @@ namespace {
 const QString StateSetting = QStringLiteral("REPORTSTATE");
 constexpr int DaysBefore = 6; ///< of the period that the screen comes up with
 
+const QString NoWeight = QStringLiteral(
+    "There is no weight entry from %1 to %2, so the percent bars and the average values of this "
+    "period cannot be worked out. Enter a weight for one of its days on the screen \"Daily "
+    "Details\", in the field \"Enter today's weight:\".");
+const QString DaysReversed =
+    QStringLiteral("There is no weight entry from %1 to %2, as the first day lies behind the last "
+                   "one. Enter the earlier day on the left.");
+
 enum View { Bars, Pie, Line, Values };
 constexpr ViewButton Views[] = {
     {"cmdBar", "bars", "Bar chart of Percent RDI"},
@@ -193,13 +201,8 @@ bool frmReport::UpdateBars() {
 void frmReport::TellNoWeight() {
     if (isHidden() || !std::exchange(missesWeight_, false))
         return;
-    ShowAlert(
-        QStringLiteral("There is no weight entry from %1 to %2, so the percent bars and the "
-                       "average values of this period cannot be worked out. Enter a weight for "
-                       "one of its days on the screen \"Daily Details\", in the field \"Enter "
-                       "today's weight:\".")
-            .arg(Dates::ShortText(Start()), Dates::ShortText(End())),
-        this);
+    const QString& message = End() < Start() ? DaysReversed : NoWeight;
+    ShowAlert(message.arg(Dates::ShortText(Start()), Dates::ShortText(End())), this);
 }
 
 /// What the loading has found is told when the screen has come up, not while it does.

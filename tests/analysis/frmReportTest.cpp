@@ -1,6 +1,7 @@
 #include "analysis/frmReport.h"
 
 #include "AnalysisTest.h"
+#include "Statements.h"
 #include "analysis/AxisLabel.h"
 #include "analysis/ChartBar.h"
 #include "analysis/ChartLabel.h"
@@ -37,6 +38,10 @@ QString NoWeight(const char* start, const char* end) {
                           "today's weight:\".")
         .arg(QLatin1String(start), QLatin1String(end));
 }
+
+const QString NoDay =
+    QStringLiteral("There is no weight entry from 4/3/2002 to 4/1/2002, as the first day lies "
+                   "behind the last one. Enter the earlier day on the left.");
 
 class frmReportTest : public AnalysisTest {
 protected:
@@ -114,6 +119,27 @@ protected:
             if (button->Shown() == QStringLiteral("img_ROLL"))
                 lit << button->objectName();
         return lit.join(u' ');
+    }
+    /// What a press of Refresh reads and writes, in its order.
+    QStringList StepsOfRefresh() {
+        const std::pair<const char*, const char*> steps[] = {
+            {"Avg(USER_WEIGHTS.Weight)", "average weight"},
+            {"Sum(USER_FOODS.VitaminC)", "sums"},
+            {"Sum(USER_FOODS.Calories) AS [Calories], Sum(USER_FOODS.Protein)", "energy"},
+            {"SELECT DISTINCT USER_FOODS.UDate", "days"},
+            {"ORDER BY UDate", "weights"},
+            {"Min(Weight)", "extremes"},
+            {"UPDATE profiles", "profile"}};
+        const Statements statements(UserDB());
+        Press("cmdRefresh");
+        QStringList order;
+        for (QString statement : statements.list) {
+            statement.remove(u'"').remove(u'`');
+            for (const auto& [part, step] : steps)
+                if (statement.simplified().contains(QLatin1String(part), Qt::CaseInsensitive))
+                    order << QLatin1String(step);
+        }
+        return order;
     }
     static void RunQueued() { QApplication::sendPostedEvents(); }
 
@@ -210,6 +236,23 @@ TEST_F(frmReportTest, RefreshAppliesThePeriodToAllThreeCharts) {
     EXPECT_FALSE(MousePointer::IsBusy());
 }
 
+TEST_F(frmReportTest, BarsPieAndLineAreRefreshedInThisOrder) {
+    LogWeek();
+    Open();
+    EXPECT_EQ(StepsOfRefresh(), (QStringList{"average weight", "sums", "days", "energy", "days",
+                                             "weights", "extremes"}));
+}
+
+TEST_F(frmReportTest, WithoutAWeightTheirOrderIsTheSame) {
+    LogWeek();
+    Open();
+    Users(QStringLiteral("DELETE FROM USER_WEIGHTS"));
+    ExpectAlert(NoWeight("3/28/2002", "4/3/2002"));
+    QStringList steps = StepsOfRefresh();
+    steps.removeOne(QStringLiteral("weights")); // is the weight missing, or another value?
+    EXPECT_EQ(steps, (QStringList{"average weight", "energy", "days", "weights"}));
+}
+
 TEST_F(frmReportTest, ReturnInAFieldRefreshesToo) {
     LogWeek();
     Open();
@@ -246,7 +289,7 @@ TEST_F(frmReportTest, AnEndThatIsNoDateGivesTheMessageThatAsksForAStart) {
 TEST_F(frmReportTest, AnEndBeforeTheStartIsAcceptedAndHasNoRows) {
     LogWeek();
     Open();
-    ExpectAlert(NoWeight("4/3/2002", "4/1/2002"));
+    ExpectAlert(NoDay);
     SetPeriod(QStringLiteral("4/3/2002"), QStringLiteral("4/1/2002"));
     Press("cmdRefresh");
     EXPECT_EQ(BarWidth(1), 0);
@@ -285,6 +328,23 @@ TEST_F(frmReportTest, DaysBefore1992AndAfter2100AreTaken) {
     SetPeriod(QStringLiteral("1/1/2101"), QStringLiteral("12/31/2199"));
     Press("cmdRefresh");
     EXPECT_EQ(LineText(), QStringLiteral("1/1/2150 190 lbs"));
+}
+
+TEST_F(frmReportTest, TheLastSevenDaysAreThoseOfAnyClock) {
+    const std::pair<QDate, const char*> clocks[] = {{{1970, 1, 3}, "12/28/1969 01/03/1970"},
+                                                    {{2000, 3, 2}, "02/25/2000 03/02/2000"},
+                                                    {{2106, 2, 7}, "02/01/2106 02/07/2106"}};
+    for (const auto& [today, period] : clocks) {
+        Clock::SetToday(today);
+        Weigh(150, today);
+        Weigh(151, today.addDays(-6));
+        Weigh(152, today.addDays(-7));
+        Open();
+        EXPECT_EQ(Find<QLineEdit>(report.get(), QStringLiteral("txtStart"))->text() + " " +
+                      Find<QLineEdit>(report.get(), QStringLiteral("txtEnd"))->text(),
+                  QLatin1String(period));
+        EXPECT_EQ(Line()->Points().size(), 2U);
+    }
 }
 
 TEST_F(frmReportTest, AFailingQueryIsNotHeld) {
@@ -544,7 +604,7 @@ TEST_F(frmReportTest, AMoveOverTheLabelOrAFieldTakesItOffRefreshAlone) {
         Hover(Find(report.get(), QLatin1String(name)));
         EXPECT_EQ(Lit(), QString()) << name;
         Hover(Find(report.get(), QStringLiteral("cmdDone")));
-        Hover(Find(report.get(), QLatin1String(name)));
+        Hover(Find(report.get(), QLatin1String(name)), QPoint(3, 4));
         EXPECT_EQ(Lit(), QStringLiteral("cmdDone")) << name;
     }
 }
