@@ -129,6 +129,15 @@ TEST_F(ucGlanceTest, LessThanOneKilocalorieADayIsNoData) {
     EXPECT_EQ(Average(glance), QStringLiteral("Average daily calories:"));
 }
 
+TEST_F(ucGlanceTest, OneKilocalorieADayIsData) {
+    Eat(Food(1, 5, 5, 5), First);
+    Eat(Food(1, 5, 5, 5), Last);
+    ucGlance glance;
+    glance.UpdateGlance(First, Last);
+    EXPECT_EQ(Average(glance), QStringLiteral("Average daily calories: 1"));
+    EXPECT_EQ(PieCaptions(glance), Captions("Fat 53%", "Protein 24%", "Carbs. 24%"));
+}
+
 TEST_F(ucGlanceTest, AMonthWithoutDataLeavesTheAverageOfTheOneBefore) {
     EatCalories(1800, First);
     ucGlance glance;
@@ -205,6 +214,18 @@ TEST_F(ucGlanceTest, SectorsAreLaidOverThePictureOfThePlate) {
     for (const auto& [percent, sector] :
          {std::pair{12, 0}, {24, 0}, {26, 1}, {49, 1}, {51, 2}, {99, 2}})
         EXPECT_EQ(temp.pixel(place(percent, 40)), colours[sector]) << percent;
+    // The circle reaches as far to the left as to the right, half a pixel of its outline included.
+    const auto reach = [&](QPoint step) {
+        int pixels = 0;
+        for (QPoint at = QPoint(54, 54) + pixels * step;
+             temp.rect().contains(at) && temp.pixel(at) != TheStyle().paper.rgb(); at += step)
+            ++pixels;
+        return pixels;
+    };
+    EXPECT_EQ(reach(QPoint(1, 0)), 49);
+    EXPECT_EQ(reach(QPoint(-1, 0)), 50); // the middle lies on this side of its pixel
+    EXPECT_EQ(reach(QPoint(0, 1)), 49);
+    EXPECT_EQ(reach(QPoint(0, -1)), 50);
     // 60 % of the sector's colour is 20 blue in the orange one; the rest is the plate behind it.
     const QRgb orange = shown.pixel(place(37, 40));
     EXPECT_GT(qBlue(orange), 90);

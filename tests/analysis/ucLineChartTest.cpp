@@ -16,6 +16,7 @@
 #include <QPainter>
 #include <QRandomGenerator>
 #include <QSignalSpy>
+#include <QtTest/qtestspontaneevent.h>
 
 #include <SQLiteCpp/SQLiteCpp.h>
 
@@ -514,6 +515,16 @@ TEST_F(ucLineChartTest, ATextThatIsNoDateFailsWhenItIsShown) {
     QShowEvent show;
     EXPECT_EQ(FailureOf([&] { static_cast<QObject&>(chart).event(&show); }),
               ErrorNumber::TypeMismatch);
+}
+
+TEST_F(ucLineChartTest, AWindowThatIsNoLongerMinimisedReadsNothing) {
+    QLineEdit txtStart(QStringLiteral("rubbish")), txtEnd(QStringLiteral("rubbish"));
+    ucLineChart chart;
+    chart.ReadPeriodFrom(&txtStart, &txtEnd);
+    QShowEvent show;
+    QSpontaneKeyEvent::setSpontaneous(&show);
+    static_cast<QObject&>(chart).event(&show);
+    EXPECT_EQ(Spoken(chart), QString());
 }
 
 TEST_F(ucLineChartTest, AssistiveToolsHearAChartWithItsFigures) {
