@@ -31,6 +31,7 @@ QLineEdit* ExchangeDialog::AddField(int top, const char* label, const char* capt
     auto* text = new ucAALBL(this);
     text->setObjectName(QLatin1String(label));
     text->SetBackColor(QColor());
+    text->SetForeColor(style.ink);
     text->SetFont(style.text);
     text->SetCaption(QLatin1String(caption));
     text->move(Inner().left() + style.nestEdge, top + (style.fieldHeight - text->height()) / 2);

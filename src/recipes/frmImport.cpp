@@ -12,8 +12,8 @@
 
 namespace {
 
-constexpr QSize importSize(420, 186);
-constexpr int introHeight = 48;
+constexpr QSize importSize(460, 172);
+constexpr int introHeight = 34;
 
 QString FailureText() {
     return "The recipe could not be imported. Please try again or contact " + Server::Support() +

@@ -1,0 +1,149 @@
+#include "recipes/TransferTest.h"
+
+#include "recipes/RecipeStore.h"
+#include "store/Connection.h"
+#include "support/Cluster.h"
+#include "support/ExchangeProcess.h"
+
+#include <QRegularExpression>
+
+#include <SQLiteCpp/SQLiteCpp.h>
+
+namespace {
+const QString importedText = "The recipe has been successfully imported!";
+const QString notImportedText = "The recipe could not be imported. Please try again or contact "
+                                "help@example.org for assistance.";
+const QString unknownText = "Recipe not found in online database. Please ensure the recipe ID "
+                            "you've entered is correct and try again.";
+const QString notSentText =
+    "There was an error posting your recipe. Please ensure you are connected to the internet and "
+    "try again. If this problem persists, please contact help@example.org.";
+} // namespace
+
+/// The dialogs against the real server, on each of its two databases.
+class RecipeExchangeTest : public TransferTest, public testing::WithParamInterface<const char*> {
+protected:
+    void SetUp() override {
+        TransferTest::SetUp();
+        exchange = std::make_unique<ExchangeProcess>(HALVANE_EXCHANGE_PROGRAM, Database());
+        ASSERT_NE(exchange->Address(), "") << exchange->Said().toStdString();
+        Server::SetAddress(exchange->Address());
+        recipe = FoodsTest::AddRecipe("Crème <b>of</b> lentils & 'salt' 🍲", "1 bowl");
+        UserDB().Raw().exec("UPDATE Recipes SET RecipeYield = 2.5, PrepTime = 45, "
+                            "Instructions = 'Rinse.\nCook.'");
+        for (int i = 1; i <= 10; ++i)
+            RecipeStore::AddIngredient(recipe, Counting(QString("Food %1").arg(i), i));
+        UserDB().Raw().exec("UPDATE Ingredients SET Calories = 0.1 * ID, Iron = NULL");
+    }
+
+    QString Database() const {
+        if (GetParam() == std::string("postgresql"))
+            return QString::fromStdString(Cluster::One().CreateDatabase());
+        return Folder() + "/exchange.db";
+    }
+
+    /// Sends a recipe and gives the ID that the answer tells; 0 where it tells none.
+    qint32 Send(qint32 id, const QString& to = "friend@example.org") {
+        Open(new frmSend(id, &window));
+        Type("txtEmail", to);
+        Type("txtFrom", "me@example.org");
+        TheSeams().ShowAlert = [this](const QString& message, QObject*, bool) {
+            answer = message;
+            return true;
+        };
+        Press("cmdSend");
+        static const QRegularExpression number("recipe ID (\\d+)");
+        return number.match(answer).captured(1).toInt();
+    }
+    QString Import(const QString& id) {
+        Open(new frmImport(&window));
+        TheSeams().ShowAlert = [this](const QString& message, QObject*, bool) {
+            answer = message;
+            return true;
+        };
+        Type("txtRecID", id);
+        Press("cmdGo");
+        return answer;
+    }
+    QList<QVariantList> RowsOf(qint32 id) {
+        QString columns;
+        for (const QVariantList& row :
+             HalvaneTest::Rows(UserDB(), "SELECT name FROM pragma_table_info('Ingredients')"))
+            if (!QStringList({"ID", "RecipeID", "QTY"}).contains(row[0].toString()))
+                columns += (columns.isEmpty() ? "" : ",") + row[0].toString();
+        return HalvaneTest::Rows(UserDB(), "SELECT " + columns +
+                                               " FROM Ingredients WHERE RecipeID = " +
+                                               QString::number(id) + " ORDER BY ID");
+    }
+    QList<QVariantList> CardOf(qint32 id) {
+        return HalvaneTest::Rows(UserDB(), "SELECT RecipeName, ServingName, RecipeYield, PrepTime, "
+                                           "Instructions FROM Recipes WHERE RecipeID = " +
+                                               QString::number(id));
+    }
+
+    std::unique_ptr<ExchangeProcess> exchange;
+    qint32 recipe = 0;
+    QString answer;
+};
+
+INSTANTIATE_TEST_SUITE_P(Both, RecipeExchangeTest, testing::Values("sqlite", "postgresql"),
+                         [](const auto& run) { return std::string(run.param); });
+
+TEST_P(RecipeExchangeTest, WhatWasSentIsImportedToTheLastFigure) {
+    const qint32 remote = Send(recipe);
+    ASSERT_GT(remote, 1) << answer.toStdString();
+    EXPECT_EQ(Import(QString::number(remote)), importedText);
+    EXPECT_EQ(CardOf(recipe + 1), CardOf(recipe));
+    EXPECT_EQ(RowsOf(recipe + 1), RowsOf(recipe));
+    EXPECT_EQ(RowsOf(recipe + 1).size(), 10);
+    EXPECT_EQ(RecipeStore::CaloriesPerServing(recipe + 1, "2.5"),
+              RecipeStore::CaloriesPerServing(recipe, "2.5"));
+}
+
+TEST_P(RecipeExchangeTest, ARecipeWithoutIngredientsArrivesWithoutThem) {
+    UserDB().Raw().exec("DELETE FROM Ingredients");
+    const qint32 remote = Send(recipe);
+    EXPECT_EQ(Import(QString::number(remote)), importedText);
+    EXPECT_EQ(CardOf(recipe + 1), CardOf(recipe));
+    EXPECT_EQ(RecipeStore::CaloriesPerServing(recipe + 1, "2.5"), "Calories: --");
+}
+
+TEST_P(RecipeExchangeTest, MoreIngredientsThanGoInOneCallArriveInTheirOrder) {
+    UserDB().Raw().exec("DELETE FROM Ingredients");
+    AddIngredients(recipe, 205);
+    const qint32 remote = Send(recipe);
+    EXPECT_EQ(Import(QString::number(remote)), importedText);
+    EXPECT_EQ(RowsOf(recipe + 1), RowsOf(recipe));
+    EXPECT_EQ(RowsOf(recipe + 1).size(), 205);
+}
+
+TEST_P(RecipeExchangeTest, TheSameRecipeTwiceBothWays) {
+    const qint32 first = Send(recipe);
+    const qint32 second = Send(recipe);
+    EXPECT_NE(first, second);
+    for (int i = 0; i < 2; ++i)
+        EXPECT_EQ(Import(QString::number(first)), importedText);
+    EXPECT_EQ(Count("Recipes"), 3);
+    EXPECT_EQ(Count("Ingredients"), 30);
+}
+
+TEST_P(RecipeExchangeTest, AnIDThatNobodyHasIsNotFound) {
+    for (const char* id : {"4711", "12.5", "1", "0", "-5", "2147483647"})
+        EXPECT_EQ(Import(id), unknownText) << id;
+    EXPECT_EQ(Import("abc"), notImportedText);
+    EXPECT_EQ(Count("Recipes"), 1);
+}
+
+TEST_P(RecipeExchangeTest, ARecipeThatTheExchangeDoesNotTakeIsNotSent) {
+    UserDB().Raw().exec("UPDATE Recipes SET RecipeName = ''");
+    EXPECT_EQ(Send(recipe), 0);
+    EXPECT_EQ(answer, notSentText);
+}
+
+TEST_P(RecipeExchangeTest, AnExchangeThatHasEndedFailsBothWays) {
+    const qint32 remote = Send(recipe);
+    exchange.reset();
+    EXPECT_EQ(Import(QString::number(remote)), notImportedText);
+    Send(recipe);
+    EXPECT_EQ(answer, notSentText);
+}
