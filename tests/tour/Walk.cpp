@@ -1,6 +1,7 @@
 #include "tour/Walk.h"
 
 #include "tour/CustomFoodWalk.h"
+#include "tour/ExchangeWalk.h"
 #include "tour/Guide.h"
 #include "tour/RecipeWalk.h"
 #include "tour/ReportWalk.h"
@@ -75,6 +76,9 @@ void Walk::Go() {
     CustomFoodWalk(guide_).Go();
     RecipeWalk(guide_).Go();
     ReportWalk(guide_).Go();
+#ifdef HALVANE_EXCHANGE_PROGRAM
+    ExchangeWalk(guide_, folder_).Go();
+#endif
     Quit();
     guide_.Check(guide_.AllForeseenCame(), QStringLiteral("every foreseen window came"));
 }
