@@ -25,6 +25,7 @@ std::mutex& Turn() {
     static std::mutex turn;
     return turn;
 }
+
 /// What is acknowledged is on the disk: the log is written through at each commit.
 constexpr const char* EmbeddedSettings[] = {"PRAGMA journal_mode=WAL", "PRAGMA synchronous=FULL",
                                             "PRAGMA foreign_keys=ON", "PRAGMA cache_size=-16384"};
