@@ -2,6 +2,7 @@
 
 #include "model/Nutrients.h"
 #include "store/Connection.h"
+#include "toolkit/MousePointer.h"
 
 #include <QTest>
 
@@ -30,6 +31,18 @@ void TransferTest::Type(const QString& field, const QString& text) {
     entry->setFocus();
     entry->clear();
     QTest::keyClicks(entry, text);
+}
+
+void TransferTest::ExpectDead(const QString& button) {
+    EXPECT_FALSE(Find<ucButton>(dialog.get(), button)->Enabled());
+    EXPECT_EQ(Find<ucButton>(dialog.get(), button)->State(), 4);
+    EXPECT_TRUE(MousePointer::IsBusy());
+    Press(button);
+    Press("cmdCancel");
+    Find<ucButton>(dialog.get(), "cmdCancel")->Activate();
+    QTest::keyClick(dialog.get(), Qt::Key_Escape);
+    dialog->close();
+    EXPECT_TRUE(dialog->isVisible());
 }
 
 QString TransferTest::RecipePath(const QString& behind) const {

@@ -27,6 +27,7 @@ protected:
     void Open(ExchangeDialog* dialog); ///< takes it over
     void Type(const QString& field, const QString& text);
     void Press(const QString& button) { Click(Find(dialog.get(), button)); }
+    void ExpectDead(const QString& button); ///< whatever is done to the dialog, nothing happens
     QString RecipePath(const QString& behind = QString()) const;
 
     /// The recipe with two ingredients, as the exchange gives it.

@@ -334,13 +334,8 @@ TEST_F(frmSendTest, AServerThatIsDownIsAFailure) {
 TEST_F(frmSendTest, IsBusyAndTakesNoInputWhileItWaits) {
     bool looked = false;
     server->Tell(createLine, [&](QTcpSocket& socket) {
-        EXPECT_EQ(Button("cmdSend")->State(), 4);
-        EXPECT_TRUE(MousePointer::IsBusy());
-        Press("cmdSend");
-        Press("cmdCancel");
+        ExpectDead("cmdSend");
         Type("txtFrom", "somebody@else.example");
-        Button("cmdCancel")->Activate();
-        EXPECT_TRUE(dialog->isVisible());
         looked = true;
         ScriptedServer::Raw("HTTP/1.1 500 No\r\nContent-Length: 0\r\n\r\n")(socket);
     });
