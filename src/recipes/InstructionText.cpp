@@ -60,8 +60,12 @@ void InstructionText::AddBar() {
     connect(bar_, &ucScroll::Change, this, &InstructionText::OnBarChange);
 }
 
+/// As it was typed: the plain text of a document would have blanks in place of hard blanks.
 QString InstructionText::Text() const {
-    return text_->toPlainText();
+    QString text = text_->document()->toRawText();
+    for (const QChar end : {QChar(QChar::ParagraphSeparator), QChar(QChar::LineSeparator)})
+        text.replace(end, u'\n');
+    return text;
 }
 
 void InstructionText::SetText(const QString& text) {

@@ -222,6 +222,7 @@ void frmRecipeManager::EndEdit() {
     lsRecipes_->setEnabled(true);
     AllowAll({cmdNew_, cmdImport_, cmdDelete_, cmdSend_}, true);
     card_->Instructions()->ResetBar();
+    lsRecipes_->setFocus();
 }
 
 void frmRecipeManager::cmdDelete_Click() {
@@ -231,6 +232,10 @@ void frmRecipeManager::cmdDelete_Click() {
         return;
     RecipeStore::DeleteRecipe(current_);
     ListRecipes();
+    if (current_ == noRecipe)
+        cmdNew_->setFocus();
+    else
+        lsRecipes_->setFocus();
 }
 
 void frmRecipeManager::cmdSend_Click() {

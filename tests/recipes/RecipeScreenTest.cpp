@@ -1,0 +1,370 @@
+#include "recipes/RecipesTest.h"
+#include "support/KillPoints.h"
+
+#include "intake/ucAte.h"
+#include "recipes/RecipeStore.h"
+#include "recipes/frmRecipeManager.h"
+#include "recipes/ucIngredients.h"
+#include "store/Connection.h"
+#include "toolkit/ListBox.h"
+#include "toolkit/ucButton.h"
+#include "toolkit/ucScroll.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QTest>
+
+#include <SQLiteCpp/SQLiteCpp.h>
+
+namespace {
+
+constexpr int busy = -5;
+constexpr int readOnly = -8;
+const QStringList entries = {"txtName", "txtYield", "txtServing", "txtTime"};
+const QString askDelete = "Are you sure you want to delete this recipe?";
+
+} // namespace
+
+/// The screen of recipes without a mouse, over a store that fails, with texts of every kind.
+class RecipeScreenTest : public RecipesTest {
+protected:
+    void SetUp() override {
+        RecipesTest::SetUp();
+        window.resize(766, 562);
+        window.show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    }
+    void TearDown() override {
+        screen.reset();
+        RecipesTest::TearDown();
+    }
+    void Open() {
+        screen = std::make_unique<frmRecipeManager>(&window);
+        screen->setGeometry(window.rect());
+        screen->BeforeShow();
+        screen->show();
+        screen->DoWinInit();
+        screen->setFocus(Qt::OtherFocusReason);
+    }
+    /// A recipe with its ingredients, in the form it has when it is opened for editing.
+    qint32 OpenWith(int ingredients) {
+        const qint32 id = FoodsTest::AddRecipe("Soup", "1 bowl");
+        AddIngredients(id, ingredients);
+        Open();
+        return id;
+    }
+
+    ListBox* List() { return Find<ListBox>(screen.get(), "lsRecipes"); }
+    ucButton* Button(const char* name) { return Find<ucButton>(screen.get(), name); }
+    void Press(const char* name) { Click(Button(name)); }
+    /// As a press does, with the failure coming out here.
+    int FailureOfPress(const char* name) {
+        return FailureOf([&] { Q_EMIT Button(name)->Click(); });
+    }
+    QLineEdit* Entry(const QString& name) { return Find<QLineEdit>(screen.get(), name); }
+    QPlainTextEdit* Instructions() { return Find<QPlainTextEdit>(screen.get(), "txtInstructions"); }
+    QString Stored(const QString& column) {
+        return Users("SELECT " + column + " FROM Recipes").toString();
+    }
+    static QString FocusName() {
+        const QWidget* focus = QApplication::focusWidget();
+        return focus ? focus->objectName() : QString();
+    }
+    static void Key(Qt::Key key, Qt::KeyboardModifiers held = Qt::NoModifier) {
+        ASSERT_NE(QApplication::focusWidget(), nullptr);
+        QTest::keyClick(QApplication::focusWidget(), key, held);
+    }
+    /// Tab until the control has the focus: as often as there are controls, at most.
+    static void TabTo(const QString& name) {
+        for (int i = 0; i < 20 && FocusName() != name; ++i)
+            Key(Qt::Key_Tab);
+        ASSERT_EQ(FocusName(), name);
+    }
+    static void WriteOver(const QString& text) {
+        Key(Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClicks(QApplication::focusWidget(), text);
+    }
+    void PasteAll(const QString& text) {
+        QApplication::clipboard()->setText(text);
+        for (const QString& entry : entries) {
+            Entry(entry)->setFocus();
+            Key(Qt::Key_A, Qt::ControlModifier);
+            Key(Qt::Key_V, Qt::ControlModifier);
+        }
+        Instructions()->selectAll();
+        Instructions()->paste();
+    }
+    void ExpectStillEditing(const QString& name) {
+        EXPECT_EQ(Button("cmdEdit")->Caption(), "Save Changes");
+        EXPECT_TRUE(Entry("txtName")->isVisible());
+        EXPECT_EQ(Entry("txtName")->text(), name);
+        EXPECT_FALSE(List()->isEnabled());
+    }
+    QList<QVariantList> Everything() {
+        return Rows(UserDB(), "SELECT * FROM Recipes") +
+               Rows(UserDB(), "SELECT * FROM Ingredients");
+    }
+
+    QWidget window;
+    std::unique_ptr<frmRecipeManager> screen;
+};
+
+// By keyboard
+
+TEST_F(RecipeScreenTest, TabLeadsThroughTheScreenInReadingOrderWhileARecipeIsShown) {
+    OpenWith(1);
+    List()->setFocus();
+    QStringList visited;
+    for (int i = 0; i < 9 && visited.count("lsRecipes") < 2; ++i) {
+        visited << FocusName();
+        Key(Qt::Key_Tab);
+    }
+    for (const char* served : {"cmdImport", "cmdSend"}) // where there is somebody who does it
+        visited.removeAll(served);
+    EXPECT_EQ(visited, QStringList({"lsRecipes", "cmdNew", "txtInstructions", "imgTrash", "cmdEdit",
+                                    "cmdDelete", "cmdDone", "lsRecipes"}));
+}
+
+TEST_F(RecipeScreenTest, SavingLeadsTheKeyboardToTheListAndNotOnToDone) {
+    OpenWith(0);
+    TabTo("cmdEdit");
+    Key(Qt::Key_Return);
+    EXPECT_EQ(FocusName(), "txtName");
+    TabTo("cmdEdit");
+    Key(Qt::Key_Return);
+    EXPECT_EQ(FocusName(), "lsRecipes");
+    EXPECT_TRUE(shownScreens.isEmpty());
+}
+
+TEST_F(RecipeScreenTest, DeletingLeadsTheKeyboardToTheListAndAtLastToNew) {
+    FoodsTest::AddRecipes(2, "Soup");
+    Open();
+    for (const char* next : {"lsRecipes", "cmdNew"}) {
+        TabTo("cmdDelete");
+        ExpectAlert(askDelete);
+        Key(Qt::Key_Space);
+        EXPECT_EQ(FocusName(), next);
+    }
+    EXPECT_EQ(Count("Recipes"), 0);
+}
+
+TEST_F(RecipeScreenTest, ARecipeIsMadeChangedAndDeletedByKeyboardAlone) {
+    Open();
+    TabTo("cmdNew");
+    Key(Qt::Key_Return);
+    WriteOver("Stew");
+    TabTo("txtYield");
+    WriteOver("4");
+    TabTo("txtServing");
+    WriteOver("1 plate");
+    TabTo("txtInstructions");
+    WriteOver("Stir.");
+    TabTo("cmdEdit");
+    Key(Qt::Key_Space);
+    EXPECT_EQ(Stored("RecipeName || '/' || RecipeYield || '/' || ServingName || '/' || "
+                     "Instructions"),
+              "Stew/4.0/1 plate/Stir.");
+    TabTo("cmdDelete");
+    ExpectAlert(askDelete);
+    Key(Qt::Key_Return);
+    EXPECT_EQ(Count("Recipes"), 0);
+}
+
+TEST_F(RecipeScreenTest, AssistiveToolsFindANameOnEveryControlShownOrEdited) {
+    OpenWith(20);
+    const auto expectNames = [this] {
+        for (const QWidget* control : screen->findChildren<QWidget*>())
+            EXPECT_TRUE(!control->isVisible() || !(control->focusPolicy() & Qt::TabFocus) ||
+                        !control->accessibleName().isEmpty() ||
+                        !control->property("Caption").toString().isEmpty())
+                << control->objectName().toStdString();
+    };
+    expectNames();
+    Press("cmdEdit");
+    expectNames();
+}
+
+// Texts
+
+TEST_F(RecipeScreenTest, NulsPicturesAndHardBlanksAreKeptInEveryField) {
+    OpenWith(0);
+    const QString text =
+        QStringLiteral("4\u00A0cups") + QChar(0) + QStringLiteral("'; \U0001F372 <b>& 焼き</b>");
+    Press("cmdEdit");
+    for (const QString& entry : entries)
+        Entry(entry)->setText(text);
+    Instructions()->setPlainText(text + u'\n' + text);
+    Press("cmdEdit");
+    EXPECT_EQ(Button("cmdEdit")->Caption(), "Edit Recipe");
+    EXPECT_EQ(List()->Text(0), text);
+    EXPECT_EQ(Count("Recipes", "RecipeYield = 4 AND PrepTime = 4"), 1);
+    Press("cmdEdit");
+    EXPECT_EQ(Entry("txtName")->text(), text);
+    EXPECT_EQ(Entry("txtServing")->text(), text);
+    Press("cmdEdit");
+    const qint32 id = screen->CurrentRecipe();
+    screen.reset();
+    Open();
+    EXPECT_EQ(screen->CurrentRecipe(), id);
+    EXPECT_EQ(Count("Recipes", "Instructions = ServingName || char(10) || ServingName"), 1);
+}
+
+TEST_F(RecipeScreenTest, LinesOfTheInstructionsAreStoredWithOneSignAtTheirEnds) {
+    OpenWith(0);
+    Press("cmdEdit");
+    Instructions()->setFocus();
+    Instructions()->selectAll();
+    QTest::keyClicks(Instructions(), "one");
+    Key(Qt::Key_Return);
+    QTest::keyClicks(Instructions(), "two");
+    Key(Qt::Key_Return, Qt::ShiftModifier);
+    QTest::keyClicks(Instructions(), "three");
+    Press("cmdEdit");
+    EXPECT_EQ(Stored("Instructions"), "one\ntwo\nthree");
+}
+
+TEST_F(RecipeScreenTest, TenThousandCharactersAreKeptInEveryField) {
+    OpenWith(0);
+    Press("cmdEdit");
+    const QString text = "7 " + QString("long ").repeated(2000);
+    PasteAll(text);
+    Press("cmdEdit");
+    for (const char* column : {"RecipeName", "ServingName", "Instructions"})
+        EXPECT_EQ(Stored(column), text) << column;
+    EXPECT_EQ(Count("Recipes", "RecipeYield = 7 AND PrepTime = 7"), 1);
+    EXPECT_FALSE(Grab(screen.get()).isNull());
+}
+
+TEST_F(RecipeScreenTest, FiveThousandLinesOfInstructionsAreSavedWholeAndShownAgain) {
+    OpenWith(0);
+    QString text;
+    for (int line = 1; line <= 5000; ++line)
+        text += "line " + QString::number(line) + (line < 5000 ? "\n" : "");
+    Press("cmdEdit");
+    Instructions()->setPlainText(text);
+    Press("cmdEdit");
+    EXPECT_EQ(Stored("Instructions"), text);
+    EXPECT_EQ(Instructions()->toPlainText(), text);
+    EXPECT_EQ(Find<ucScroll>(screen.get(), "vsInstructions")->Max(), 4995);
+    EXPECT_EQ(Find<ucScroll>(screen.get(), "vsInstructions")->Value(), 0);
+}
+
+// A store that fails
+
+TEST_F(RecipeScreenTest, ASaveIntoALockedStoreLosesNothingAndGoesThroughLater) {
+    OpenWith(1);
+    UserDB().Raw().exec("PRAGMA busy_timeout = 0");
+    Press("cmdEdit");
+    Entry("txtName")->setText("Better soup");
+    const auto before = Everything();
+    SQLite::Database other(UserDB().Path().toStdString(), SQLite::OPEN_READWRITE);
+    other.exec("BEGIN IMMEDIATE");
+    EXPECT_EQ(FailureOfPress("cmdEdit"), busy);
+    ExpectStillEditing("Better soup");
+    EXPECT_EQ(Everything(), before);
+    other.exec("ROLLBACK");
+    Press("cmdEdit");
+    EXPECT_EQ(Stored("RecipeName"), "Better soup");
+}
+
+TEST_F(RecipeScreenTest, NothingIsMadeChangedOrDeletedInAStoreThatCannotBeWritten) {
+    const qint32 id = OpenWith(2);
+    const auto before = Everything();
+    UserDB().Raw().exec("PRAGMA query_only = 1");
+    EXPECT_EQ(FailureOfPress("cmdNew"), readOnly);
+    EXPECT_EQ(screen->CurrentRecipe(), id);
+    EXPECT_TRUE(List()->isEnabled());
+    ExpectAlert(askDelete);
+    EXPECT_EQ(FailureOfPress("cmdDelete"), readOnly);
+    EXPECT_EQ(List()->ListCount(), 1);
+    EXPECT_EQ(FailureOf([&] { Find<ucAte>(screen.get(), "ucAte1")->Remove(); }), readOnly);
+    EXPECT_EQ(FailureOf([&] { screen->AddFood(Counting()); }), readOnly);
+    Press("cmdEdit");
+    EXPECT_EQ(FailureOfPress("cmdEdit"), readOnly);
+    ExpectStillEditing("Soup");
+    UserDB().Raw().exec("PRAGMA query_only = 0");
+    EXPECT_EQ(Everything(), before);
+}
+
+TEST_F(RecipeScreenTest, ADeleteThatFailsAtTheRecipeHasTakenItsFirstIngredientAlone) {
+    OpenWith(3);
+    UserDB().Raw().exec("CREATE TRIGGER held BEFORE DELETE ON Recipes "
+                        "BEGIN SELECT RAISE(ABORT, 'held'); END");
+    ExpectAlert(askDelete);
+    EXPECT_LT(FailureOfPress("cmdDelete"), 0);
+    EXPECT_EQ(Count("Recipes"), 1);
+    EXPECT_EQ(Count("Ingredients"), 2);
+    EXPECT_EQ(Users("SELECT FoodName FROM Ingredients"), "Food 2");
+}
+
+// A kill
+
+TEST_F(RecipeScreenTest, AKillWhileSavingLeavesTheOldRecipeOrTheNewOne) {
+    OpenWith(1);
+    Press("cmdEdit");
+    Entry("txtName")->setText("Stew");
+    Entry("txtServing")->setText("1 plate");
+    const KillPoints points(UserDB(), [this] { Press("cmdEdit"); });
+    ASSERT_EQ(points.Count(), 2);
+    points.ForEach([&](int point, SQLite::Database& left) {
+        EXPECT_EQ(
+            left.execAndGet("SELECT RecipeName || '/' || ServingName FROM Recipes").getString(),
+            point < 1 ? "Soup/1 bowl" : "Stew/1 plate");
+    });
+}
+
+TEST_F(RecipeScreenTest, AKillWhileDeletingLeavesTheRecipeWithoutItsFirstIngredientAtMost) {
+    OpenWith(3);
+    ExpectAlert(askDelete);
+    const KillPoints points(UserDB(), [this] { Press("cmdDelete"); });
+    ASSERT_EQ(points.Count(), 3);
+    const char* const found[] = {"1/3", "1/2", "0/2"};
+    points.ForEach([&](int point, SQLite::Database& left) {
+        EXPECT_EQ(left.execAndGet("SELECT (SELECT count(*) FROM Recipes) || '/' || "
+                                  "(SELECT count(*) FROM Ingredients)")
+                      .getString(),
+                  found[point]);
+    });
+}
+
+TEST_F(RecipeScreenTest, AKillWhileMakingARecipeLeavesNoneOrOneWithAllItsDefaults) {
+    Open();
+    const KillPoints points(UserDB(), [this] { Press("cmdNew"); });
+    ASSERT_EQ(points.Count(), 2);
+    points.ForEach([&](int point, SQLite::Database& left) {
+        EXPECT_EQ(left.execAndGet("SELECT count(*) FROM Recipes").getInt(), point);
+        EXPECT_EQ(left.execAndGet("SELECT count(*) FROM Recipes WHERE RecipeYield = 1 AND PrepTime "
+                                  "= 30 AND ServingName = ''")
+                      .getInt(),
+                  point);
+    });
+}
+
+TEST_F(RecipeScreenTest, AKillWhileAddingOrRemovingAnIngredientLeavesNoHalfOfOne) {
+    OpenWith(0);
+    const KillPoints adding(UserDB(), [this] { screen->AddFood(Counting("Flour", 2)); });
+    ASSERT_EQ(adding.Count(), 2);
+    const char* whole = "SELECT count(*) FROM Ingredients WHERE FoodName = 'Flour' AND QTY = 2 AND "
+                        "Calories = 1 AND Water = 31 AND RecipeID = 1";
+    adding.ForEach([&](int point, SQLite::Database& left) {
+        EXPECT_EQ(left.execAndGet("SELECT count(*) FROM Ingredients").getInt(), point);
+        EXPECT_EQ(left.execAndGet(whole).getInt(), point);
+    });
+    const KillPoints removing(UserDB(), [] { RecipeStore::RemoveIngredient(1); });
+    removing.ForEach([&](int point, SQLite::Database& left) {
+        EXPECT_EQ(left.execAndGet(whole).getInt(), 1 - point);
+    });
+}
+
+TEST_F(RecipeScreenTest, ManyIngredientsAreShownScrolledAndRemoved) {
+    OpenWith(500);
+    auto* list = Find<ucIngredients>(screen.get(), "ucING");
+    EXPECT_NE(list->findChild<ucAte*>("ucAte500"), nullptr);
+    auto* bar = Find<ucScroll>(list, "vsResultsPane");
+    bar->SetValue(bar->Max());
+    Click(Find(Find<ucAte>(list, "ucAte500"), "imgTrash"));
+    EXPECT_EQ(Count("Ingredients"), 499);
+    EXPECT_EQ(list->findChild<ucAte*>("ucAte500"), nullptr);
+}
