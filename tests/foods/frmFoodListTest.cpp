@@ -1,4 +1,5 @@
 #include "foods/FoodsTest.h"
+#include "support/KillPoints.h"
 
 #include "foods/ScaledFood.h"
 #include "foods/frmFoodList.h"
@@ -8,6 +9,7 @@
 #include "model/Nutrients.h"
 #include "store/Connection.h"
 #include "toolkit/ListBox.h"
+#include "toolkit/MousePointer.h"
 #include "toolkit/ucButton.h"
 
 #include <QApplication>
@@ -499,6 +501,26 @@ TEST_F(frmFoodListTest, WhatIsNoNumberCountsAsZeroAndAMinusSignIsDropped) {
         }
 }
 
+TEST_F(frmFoodListTest, SavingAnotherNameKeepsEveryAmountToTheLastDigit) {
+    AddFood({.id = 23509,
+             .name = "a",
+             .nutrients = {{"Calories", 1.0 / 3},
+                           {"Zinc", 1e-7},
+                           {"VitaminA", 123456789.12345678},
+                           {"Copper", 0.1 + 0.2},
+                           {"water", 1e20}}});
+    const auto amounts = [this] {
+        return HalvaneTest::Rows(FoodDB(), "SELECT Calories, Zinc, VitaminA, Copper, water FROM "
+                                           "FOODS WHERE ID = 23509");
+    };
+    const auto before = amounts();
+    Open();
+    Type("txtFoodName", "b");
+    Press("cmdSave");
+    EXPECT_EQ(Stored("FoodName"), "b");
+    EXPECT_EQ(amounts(), before);
+}
+
 TEST_F(frmFoodListTest, AnEmptyAmountComesBackAsZero) {
     Open();
     SaveNew("Muesli");
@@ -742,6 +764,141 @@ TEST_F(frmFoodListTest, LettersOfEveryScriptAreKept) {
     EXPECT_EQ(List().Text(0), name);
 }
 
+TEST_F(frmFoodListTest, TenThousandCharactersInEveryFieldAreSavedAndDeleted) {
+    Open();
+    Press("cmdNewBut");
+    const QString text = QStringLiteral("7 ") + QStringLiteral("\U0001F372 x ").repeated(2000);
+    for (QLineEdit* field : screen_->findChildren<QLineEdit*>())
+        Paste(qPrintable(field->objectName()), text);
+    Press("cmdSave");
+    EXPECT_EQ(Stored("FoodName"), text);
+    EXPECT_EQ(Stored("Serv_Desc_A"), text);
+    for (const FieldRow& row : amountRows)
+        EXPECT_EQ(Stored(row.column).toDouble(), 7) << row.column;
+    Delete();
+    EXPECT_EQ(CustomCount(), 0);
+}
+
+// A store that fails, and a kill
+
+TEST_F(frmFoodListTest, ASaveIntoALockedStoreLosesNothingAndGoesThroughLater) {
+    Open();
+    FoodDB().Raw().exec("PRAGMA busy_timeout = 0");
+    Press("cmdNewBut");
+    Type("txtFoodName", "Muesli");
+    Type("txtCals", "55");
+    SQLite::Database other(FoodDB().Path().toStdString(), SQLite::OPEN_READWRITE);
+    other.exec("BEGIN IMMEDIATE");
+    EXPECT_EQ(FailureOf([this] { Q_EMIT Button("cmdSave").Click(); }), -5);
+    EXPECT_EQ(Field("txtFoodName").text(), "Muesli");
+    EXPECT_EQ(Field("txtCals").text(), "55");
+    EXPECT_FALSE(MousePointer::IsBusy());
+    ExpectMode(2);
+    EXPECT_EQ(CustomCount(), 0);
+    other.exec("ROLLBACK");
+    Press("cmdSave");
+    EXPECT_EQ(Stored("Calories").toDouble(), 55);
+}
+
+TEST_F(frmFoodListTest, NothingIsChangedOrDeletedInAStoreThatCannotBeWritten) {
+    AddFood({.id = 23509, .name = "a"});
+    Open();
+    Type("txtFoodName", "b");
+    FoodDB().Raw().exec("PRAGMA query_only = 1");
+    EXPECT_EQ(FailureOf([this] { Q_EMIT Button("cmdSave").Click(); }), -8);
+    EXPECT_EQ(Field("txtFoodName").text(), "b");
+    EXPECT_TRUE(On("cmdSave") && On("cmdCancel"));
+    ExpectAlert(sureToDelete);
+    EXPECT_EQ(FailureOf([this] { Q_EMIT Button("cmdDelete").Click(); }), -8);
+    EXPECT_EQ(List().ListIndex(), 0);
+    EXPECT_FALSE(MousePointer::IsBusy());
+    FoodDB().Raw().exec("PRAGMA query_only = 0");
+    EXPECT_EQ(Stored("FoodName"), "a");
+}
+
+TEST_F(frmFoodListTest, AKillWhileSavingANewFoodLeavesNoneOrAllOfIt) {
+    Open();
+    Press("cmdNewBut");
+    Type("txtZinc", "3");
+    const KillPoints points(FoodDB(), [this] { Press("cmdSave"); });
+    ASSERT_EQ(points.Count(), 3);
+    points.ForEach([](int point, SQLite::Database& left) {
+        const int made = point == 2 ? 1 : 0;
+        EXPECT_EQ(left.execAndGet("SELECT count(*) FROM FOODS WHERE ID > 23508").getInt(), made);
+        EXPECT_EQ(left.execAndGet("SELECT count(*) FROM FOODS WHERE FoodName = 'New Food Name' AND "
+                                  "Zinc = 3")
+                      .getInt(),
+                  made);
+    });
+}
+
+TEST_F(frmFoodListTest, AKillWhileChangingOrDeletingAFoodLeavesAllOfItAsItWasOrNot) {
+    AddFood({.id = 23509, .name = "a"});
+    Open();
+    Type("txtFoodName", "b");
+    const auto name = [](SQLite::Database& left) {
+        return left.execAndGet("SELECT coalesce(max(FoodName), 'none') FROM FOODS WHERE ID > 23508")
+            .getString();
+    };
+    const KillPoints changing(FoodDB(), [this] { Press("cmdSave"); });
+    ASSERT_EQ(changing.Count(), 2);
+    changing.ForEach(
+        [&](int point, SQLite::Database& left) { EXPECT_EQ(name(left), point == 0 ? "a" : "b"); });
+    const KillPoints deleting(FoodDB(), [this] { Delete(); });
+    ASSERT_EQ(deleting.Count(), 2);
+    deleting.ForEach([&](int point, SQLite::Database& left) {
+        EXPECT_EQ(name(left), point == 0 ? "b" : "none");
+    });
+}
+
+// By keyboard, and in numbers
+
+TEST_F(frmFoodListTest, AFoodIsMadeChangedAndDeletedByKeyboardAlone) {
+    Open().setFocus(Qt::OtherFocusReason);
+    const auto key = [](Qt::Key pressed) { QTest::keyClick(QApplication::focusWidget(), pressed); };
+    const auto tabTo = [&](const char* name) {
+        for (int i = 0; i < 40 && QApplication::focusWidget()->objectName() != name; ++i)
+            key(Qt::Key_Tab);
+        ASSERT_EQ(QApplication::focusWidget()->objectName(), name);
+    };
+    tabTo("cmdNewBut");
+    key(Qt::Key_Return);
+    QTest::keyClicks(QApplication::focusWidget(), "Muesli");
+    tabTo("txtProtein");
+    QTest::keyClicks(QApplication::focusWidget(), "7.5");
+    tabTo("cmdSave");
+    key(Qt::Key_Space);
+    EXPECT_EQ(Stored("FoodName"), "Muesli");
+    EXPECT_EQ(Stored("protein").toDouble(), 7.5);
+    EXPECT_EQ(QApplication::focusWidget(), &List());
+    tabTo("txtZinc");
+    QTest::keyClicks(QApplication::focusWidget(), "2");
+    tabTo("cmdCancel");
+    key(Qt::Key_Return);
+    EXPECT_EQ(Field("txtZinc").text(), "0");
+    tabTo("cmdDelete");
+    ExpectAlert(sureToDelete);
+    key(Qt::Key_Return);
+    EXPECT_EQ(CustomCount(), 0);
+    EXPECT_EQ(QApplication::focusWidget()->objectName(), "cmdNewBut");
+}
+
+TEST_F(frmFoodListTest, FiveThousandFoodsAreListedAndOneIsAddedRenamedAndDeleted) {
+    AddFoods(5000, 23509, "food");
+    Open();
+    EXPECT_EQ(List().ListCount(), 5000);
+    EXPECT_EQ(List().ListIndex(), 4999);
+    SaveNew("a new one");
+    EXPECT_EQ(screen_->CurrentID(), 28509);
+    EXPECT_EQ(List().ListIndex(), 0);
+    Type("txtFoodName", "zwieback");
+    Press("cmdSave");
+    EXPECT_EQ(List().ListIndex(), 5000);
+    Delete();
+    EXPECT_EQ(List().ListCount(), 5000);
+    EXPECT_EQ(List().ListIndex(), 4999);
+}
+
 // Deleting
 
 TEST_F(frmFoodListTest, DeletingAsksAndANegativeAnswerDeletesNothing) {
@@ -827,7 +984,8 @@ TEST_F(frmFoodListTest, MovesOverPanelsListAndFormAndAResizeTakeTheLightAway) {
         EXPECT_EQ(Button("cmdDone").State(), 2);
     };
     for (QWidget* over : {Find(screen_.get(), "ucBox1"), Find(screen_.get(), "ucBox2"),
-                          List().viewport(), static_cast<QWidget*>(screen_.get())}) {
+                          Find(screen_.get(), "picFields"), List().viewport(),
+                          static_cast<QWidget*>(screen_.get())}) {
         light();
         Hover(over, QPoint(5, 5));
         EXPECT_EQ(Button("cmdDone").State(), 1) << over->objectName().toStdString();
