@@ -2,10 +2,13 @@
 
 #include <QRegularExpression>
 
-ExchangeProcess::ExchangeProcess(const QString& program, const QString& database) {
+ExchangeProcess::ExchangeProcess(const QString& program, const QString& database,
+                                 const QMap<QString, QString>& settings) {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("HALVANE_EXCHANGE_PORT"), QStringLiteral("0"));
     environment.insert(QStringLiteral("HALVANE_EXCHANGE_DATABASE"), database);
+    for (auto setting = settings.cbegin(); setting != settings.cend(); ++setting)
+        environment.insert("HALVANE_EXCHANGE_" + setting.key().toUpper(), setting.value());
     process_.setProcessEnvironment(environment);
     process_.setProcessChannelMode(QProcess::MergedChannels);
     process_.start(program, QStringList());

@@ -1,13 +1,16 @@
 #pragma once
 
+#include <QMap>
 #include <QProcess>
 
 /// The real recipe exchange as a process on a free port of loopback. It is ready when it is made,
 /// and ends with the object.
 class ExchangeProcess {
 public:
-    /// `database` is what the setting of the server takes: a file, or a PostgreSQL database.
-    ExchangeProcess(const QString& program, const QString& database);
+    /// The settings are those of the server's file; its `database` takes a file, or a PostgreSQL
+    /// database.
+    ExchangeProcess(const QString& program, const QString& database,
+                    const QMap<QString, QString>& settings = {});
     ~ExchangeProcess();
     ExchangeProcess(const ExchangeProcess&) = delete;
     ExchangeProcess& operator=(const ExchangeProcess&) = delete;

@@ -1,7 +1,10 @@
 #include "tour/ExchangeWalk.h"
 
 #include "support/ExchangeProcess.h"
+#include "support/Files.h"
+#include "support/SmtpSink.h"
 #include "tour/Guide.h"
+#include "tour/RecipeWalk.h"
 
 #include "runtime/Server.h"
 #include "store/Connection.h"
@@ -12,8 +15,23 @@
 #include <QTest>
 #include <QTimer>
 
+#include <SQLiteCpp/SQLiteCpp.h>
+
 namespace {
 const QString Nobody = QStringLiteral("http://127.0.0.1:9");
+const QString Friend = QStringLiteral("anna@example.org");
+const QString Sender = QStringLiteral("tom@example.org");
+
+QMap<QString, QString> Mailing(const SmtpSink& sink) {
+    return {{QStringLiteral("mail_relay"), QString::fromStdString(sink.Address())},
+            {QStringLiteral("mail_from"), QStringLiteral("recipes@halvane.test")},
+            {QStringLiteral("mail_tls"), QStringLiteral("none")}};
+}
+
+QString IDIn(const QString& mail) {
+    static const QRegularExpression number(QStringLiteral("The recipe ID is (\\d+)\\."));
+    return number.match(mail).captured(1);
+}
 } // namespace
 
 ExchangeWalk::ExchangeWalk(Guide& guide, const QString& folder)
@@ -23,14 +41,36 @@ ExchangeWalk::ExchangeWalk(Guide& guide, const QString& folder)
 void ExchangeWalk::Go() {
     guide_.Press(Frame(), QStringLiteral("cmdRecipes"));
     FindNoExchange();
-    const ExchangeProcess exchange(QStringLiteral(HALVANE_EXCHANGE_PROGRAM),
-                                   folder_ + QStringLiteral("/exchange.db"));
+    const SmtpSink sink;
+    const ExchangeProcess exchange(QStringLiteral(HALVANE_EXCHANGE_PROGRAM), ExchangeDatabase(),
+                                   Mailing(sink));
     guide_.Check(!exchange.Address().isEmpty(), QStringLiteral("the exchange has started"));
     Server::SetAddress(exchange.Address());
     Send();
+    ReadMail(sink);
     Import();
     CompareBoth();
     Server::SetAddress(QString());
+}
+
+void ExchangeWalk::Receive() {
+    const QString mail = QString::fromStdString(ReadFile(MailFile()));
+    id_ = IDIn(mail);
+    const ExchangeProcess exchange(QStringLiteral(HALVANE_EXCHANGE_PROGRAM), ExchangeDatabase());
+    Server::SetAddress(exchange.Address());
+    guide_.Press(Frame(), QStringLiteral("cmdRecipes"));
+    guide_.CheckValue(UserDB(), QStringLiteral("SELECT count(*) FROM Recipes"), 0);
+    Import();
+    LookAtReceived(mail);
+    EatReceived();
+}
+
+QString ExchangeWalk::ExchangeDatabase() {
+    return folder_ + QStringLiteral("/exchange.db");
+}
+
+std::string ExchangeWalk::MailFile() {
+    return folder_.toStdString() + "/mail.txt";
 }
 
 QWidget* ExchangeWalk::Frame() {
@@ -49,6 +89,10 @@ void ExchangeWalk::OpenSend(const std::function<void(QWidget*)>& visit) {
 void ExchangeWalk::OpenImport(const std::function<void(QWidget*)>& visit) {
     guide_.Foresee(QStringLiteral("frmImport"), visit);
     guide_.Press(Screen(), QStringLiteral("cmdImport"));
+}
+
+QString ExchangeWalk::CardCalories() {
+    return guide_.Find(Screen(), QStringLiteral("aaCals"))->property("Caption").toString();
 }
 
 /// Presses a button that ends in a message, and keeps what that says.
@@ -83,9 +127,9 @@ void ExchangeWalk::FindNoExchange() {
 
 void ExchangeWalk::AskForAddresses(QWidget* dialog) {
     PressThrough(dialog, QStringLiteral("cmdSend"), QStringLiteral("alert-send-no-recipient"));
-    guide_.Type(dialog, QStringLiteral("txtEmail"), QStringLiteral("anna@example.org"));
+    guide_.Type(dialog, QStringLiteral("txtEmail"), Friend);
     PressThrough(dialog, QStringLiteral("cmdSend"), QStringLiteral("alert-send-no-sender"));
-    guide_.Type(dialog, QStringLiteral("txtFrom"), QStringLiteral("tom@example.org"));
+    guide_.Type(dialog, QStringLiteral("txtFrom"), Sender);
 }
 
 /// The addresses are those of the send that failed. The picture of the wait is taken in it.
@@ -101,9 +145,23 @@ void ExchangeWalk::Send() {
         });
         PressThrough(dialog, QStringLiteral("cmdSend"), QStringLiteral("alert-sent"));
     });
-    static const QRegularExpression number(QStringLiteral("recipe ID (\\d+)"));
-    id_ = number.match(answer_).captured(1);
-    guide_.Check(!id_.isEmpty(), QStringLiteral("the answer tells the ID: ") + answer_);
+}
+
+void ExchangeWalk::ReadMail(const SmtpSink& sink) {
+    const auto mails = sink.Mails();
+    guide_.Check(mails.size() == 1, QStringLiteral("one mail has arrived"));
+    const SmtpSink::Mail mail = mails.empty() ? SmtpSink::Mail() : mails.front();
+    const std::string text = mail.Body();
+    WriteFile(MailFile(), text);
+    id_ = IDIn(QString::fromStdString(text));
+    guide_.Check(mail.to == std::vector{Friend.toStdString()},
+                 QStringLiteral("the mail is for the friend alone"));
+    guide_.Check(mail.Header("Reply-To") == "<" + Sender.toStdString() + ">",
+                 QStringLiteral("an answer to the mail goes to the sender"));
+    guide_.Check(!id_.isEmpty() && answer_.contains(id_),
+                 QStringLiteral("the mail and the answer tell the ID: ") + answer_);
+    guide_.Check(text.find(CardCalories().toStdString()) != std::string::npos,
+                 QStringLiteral("the mail tells what the card tells: ") + CardCalories());
 }
 
 void ExchangeWalk::ImportUnknown(QWidget* dialog) {
@@ -135,10 +193,30 @@ void ExchangeWalk::CompareBoth() {
     QStringList calories;
     for (int line = 0; line < list->ListCount(); ++line) {
         list->SetListIndex(line);
-        calories << guide_.Find(Screen(), QStringLiteral("aaCals"))->property("Caption").toString();
+        calories << CardCalories();
     }
     guide_.Check(calories.size() == 2 && calories.first() == calories.last() &&
                      calories.first().endsWith(QStringLiteral("per serving")),
                  QStringLiteral("both cards tell the same: ") + calories.join(u' '));
     guide_.Picture(Frame(), QStringLiteral("recipe-imported"));
+}
+
+/// The mail tells what the sender's card told.
+void ExchangeWalk::LookAtReceived(const QString& mail) {
+    guide_.Picture(Frame(), QStringLiteral("friend-recipe"));
+    guide_.Check(CardCalories().endsWith(QStringLiteral("per serving")) &&
+                     mail.contains(CardCalories()),
+                 QStringLiteral("the friend's card tells the same: ") + CardCalories());
+}
+
+/// What the sender eats of it is the sum of its ingredients.
+void ExchangeWalk::EatReceived() {
+    SQLite::Database sender(folder_.toStdString() + "/users.mdb");
+    const auto calories = sender.execAndGet("SELECT round(sum(Calories), 6) FROM Ingredients "
+                                            "WHERE RecipeID = 1");
+    RecipeWalk(guide_).EatRecipe();
+    guide_.CheckValue(UserDB(),
+                      QStringLiteral("SELECT count(*) || ' ' || round(sum(Calories), 6) "
+                                     "FROM USER_FOODS"),
+                      QString("1 " + QString::fromStdString(calories.getString())));
 }

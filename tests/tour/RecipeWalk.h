@@ -11,6 +11,7 @@ class RecipeWalk {
 public:
     explicit RecipeWalk(Guide& guide);
     void Go();
+    void EatRecipe();                    ///< once, at breakfast
     static void FindAgain(Guide& guide); ///< all that was saved is there after a new start
 
 private:
@@ -27,7 +28,6 @@ private:
     void CorrectRecipe();
     void WriteLongRecipe();
     void DeleteLongRecipe();
-    void EatRecipe();
     void SearchAndEat(QWidget* search);
     void TakeItBack();
     QWidget* Screen();

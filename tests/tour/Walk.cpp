@@ -18,6 +18,7 @@
 
 #include <QApplication>
 #include <QCalendarWidget>
+#include <QDir>
 #include <QFile>
 #include <QLineEdit>
 #include <QSettings>
@@ -123,7 +124,7 @@ void Walk::FirstStart() {
     guide_.CheckValue(
         UserDB(),
         QStringLiteral("SELECT UserName || ' ' || Calories || ' ' || protein FROM profiles"),
-        QStringLiteral("Tom 3149 236.0"));
+        QString(user_ + QStringLiteral(" 3149 236.0")));
 }
 
 void Walk::CreateProfile(QWidget* profile) {
@@ -140,8 +141,8 @@ void Walk::CreateProfile(QWidget* profile) {
 }
 
 void Walk::FillProfile(QWidget* profile) {
-    const std::pair<const char*, const char*> fields[] = {
-        {"txtUserName", "Tom"}, {"txtAge", "40"},     {"txtFeet", "5"},
+    const std::pair<const char*, QString> fields[] = {
+        {"txtUserName", user_}, {"txtAge", "40"},     {"txtFeet", "5"},
         {"txtInches", "10"},    {"txtWeight", "200"}, {"txtDWeight", "170"}};
     for (const auto& [field, text] : fields)
         guide_.Type(profile, field, text);
@@ -354,4 +355,20 @@ void Walk::GoAgain() {
                  QStringLiteral("the weight is there"));
     home_.FullMonth();
     Quit();
+}
+
+void Walk::GoAsFriend() {
+#ifdef HALVANE_EXCHANGE_PROGRAM
+    ExchangeWalk exchange(guide_, folder_);
+    folder_ += QStringLiteral("/friend");
+    user_ = QStringLiteral("Anna");
+    guide_.Check(QDir().mkpath(folder_), QStringLiteral("the friend has a folder of her own"));
+    UseFolder();
+    LayOut();
+    FirstStart();
+    home_.ChooseToday();
+    exchange.Receive();
+    Quit();
+    guide_.Check(guide_.AllForeseenCame(), QStringLiteral("every foreseen window came"));
+#endif
 }

@@ -12,8 +12,9 @@ class QWidget;
 class Walk {
 public:
     Walk(Guide& guide, const QString& folder);
-    void Go();      ///< the first start, up to leaving the program
-    void GoAgain(); ///< the second start finds everything there
+    void Go();         ///< the first start, up to leaving the program
+    void GoAgain();    ///< the second start finds everything there
+    void GoAsFriend(); ///< to whom a recipe was sent, with a folder of her own
 
 private:
     struct Bite;
@@ -46,6 +47,7 @@ private:
 
     Guide& guide_;
     QString folder_;
+    QString user_ = QStringLiteral("Tom");
     HomeWalk home_;
     MenuWalk menu_;
 };

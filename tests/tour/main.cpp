@@ -23,15 +23,18 @@ int WalkStage(const QStringList& arguments) {
     Walk walk(guide, arguments[2]);
     if (arguments[3] == u"first")
         walk.Go();
-    else
+    else if (arguments[3] == u"again")
         walk.GoAgain();
+    else
+        walk.GoAsFriend();
     return guide.Failures() ? 1 : 0;
 }
 } // namespace
 
 /// tour PICTURES: walks the whole way through the real screens on a fresh folder, from the
 /// agreement to a day's food set against the targets, then starts the program again and finds
-/// everything there. Pictures go to that folder.
+/// everything there. A friend, with a folder of her own, gets the recipe that was sent. Pictures go
+/// to that folder.
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     std::setvbuf(stdout, nullptr, _IOLBF, 0);
@@ -44,7 +47,8 @@ int main(int argc, char** argv) {
         return WalkStage(arguments);
     const QString pictures = arguments.value(1, fresh.filePath(QStringLiteral("pictures")));
     const bool through = Start(QStringLiteral("first"), pictures, fresh.path()) &&
-                         Start(QStringLiteral("again"), pictures, fresh.path());
+                         Start(QStringLiteral("again"), pictures, fresh.path()) &&
+                         Start(QStringLiteral("friend"), pictures, fresh.path());
     std::printf("%s\n", through ? "the tour went through" : "the tour failed");
     return through ? 0 : 1;
 }
