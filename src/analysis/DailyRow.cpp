@@ -34,10 +34,10 @@ int DailyRow::Top(int i) {
     return FirstTop + (i - 1) * RowHeight;
 }
 
-void DailyRow::Show(double value, double rdi) {
+void DailyRow::Show(double value, double rdi, int panelWidth) {
     value_ = value;
     rdi_ = rdi;
-    SetBar(barWidth(value_, rdi_, imgBar()->parentWidget()->width()));
+    SetBar(barWidth(value_, rdi_, panelWidth));
     lblVal()->SetCaption(Leader + DecimalText(numFix(value)) + u' ' +
                          QLatin1String(Info(nutrient()).unit));
     SetFigure(value, rdi);
@@ -55,8 +55,8 @@ void DailyRow::SetBar(double width) {
     imgBar()->setHidden(BarIsNarrow());
 }
 
-void DailyRow::FitBar() {
-    const double width = barWidth(value_, rdi_, imgBar()->parentWidget()->width());
+void DailyRow::FitBar(int panelWidth) {
+    const double width = barWidth(value_, rdi_, panelWidth);
     if (width != imgBar()->Width())
         SetBar(width);
 }
@@ -72,9 +72,9 @@ void DailyRow::SetLit(bool lit) {
     imgBar()->SetHilited(lit);
 }
 
-double DailyRow::barWidth(double value, double rdi, int viewWidth) {
+double DailyRow::barWidth(double value, double rdi, int panelWidth) {
     const double width = Twips::PerPixel() * 100 * PartOfTarget(value, rdi);
-    const int end = Twips::FromPixels(viewWidth) - RightMargin;
+    const int end = Twips::FromPixels(panelWidth) - RightMargin;
     if (static_cast<float>(end) < static_cast<float>(width + BarGrid::Origin))
         return qMax(0, end - BarGrid::Origin);
     return qMax(0.0, width);

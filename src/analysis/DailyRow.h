@@ -7,15 +7,16 @@ class DailyRow : public ChartRow {
 public:
     DailyRow(int i, Nutrient nutrient, const Views& views);
 
-    void Show(double value, double rdi);
+    void Show(double value, double rdi, int panelWidth);
     void ShowNothing();
     void SetLit(bool lit);
-    void FitBar();   ///< to the present width of its view
+    void FitBar(int panelWidth);
     void FitValue(); ///< to its text
 
-    /// In twips, for a view of that many pixels: 100 % is as wide as the grid draws it, and a bar
-    /// ends 30 twips before the view's right edge however high the intake.
-    static double barWidth(double value, double rdi, int viewWidth);
+    /// In twips, on a panel of that many pixels: 100 % is as wide as the grid draws it. A bar is as
+    /// long as the panel at most; what reaches over its view, and with it over the panel's right
+    /// edge, is cut off there.
+    static double barWidth(double value, double rdi, int panelWidth);
     static int Top(int i); ///< of row i, from 1, within its view; in pixels
 
 private:

@@ -151,7 +151,7 @@ ucDaily::Layout ucDaily::layoutRects() const {
 void ucDaily::resizeEvent(QResizeEvent*) {
     PlaceAll();
     for (const auto& row : rows_)
-        row->FitBar();
+        row->FitBar(width());
 }
 
 void ucDaily::PlaceAll() {
@@ -210,7 +210,7 @@ void ucDaily::updateCharts() {
 void ucDaily::ShowSums() {
     const Nuts& targets = User::Current().RDIs;
     for (const auto& row : rows_)
-        row->Show(sums_[row->nutrient()], targets[row->nutrient()]);
+        row->Show(sums_[row->nutrient()], targets[row->nutrient()], width());
     FitValues();
 }
 
@@ -228,9 +228,8 @@ void ucDaily::FitValues() {
         row->FitValue();
 }
 
-/// The width that bars may take is that of the view that they stand in.
 double ucDaily::barWidth(double value, double rdi) const {
-    return DailyRow::barWidth(value, rdi, picRDIs_->width());
+    return DailyRow::barWidth(value, rdi, width());
 }
 
 void ucDaily::Toggle(int mode) {

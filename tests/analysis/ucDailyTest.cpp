@@ -44,9 +44,7 @@ protected:
     ChartLabel* Value(const ucDaily& panel, int row) {
         return Find<ChartLabel>(&panel, QStringLiteral("lblVal%1").arg(row));
     }
-    int Widest(const ucDaily& panel) {
-        return Find(&panel, QStringLiteral("picRDIs"))->width() * 15 - 30 - 60;
-    }
+    int Widest(const ucDaily& panel) { return panel.width() * 15 - 30 - 60; }
     bool IsShown(const ucDaily& panel, const char* name) {
         return Find(&panel, QString::fromLatin1(name))->isVisible();
     }
@@ -308,8 +306,12 @@ TEST_F(ucDailyTest, ABarStopsAtThePanelsRightEdge) {
     EXPECT_EQ(panel.barWidth(1e300, 1), widest);
     Eat({{QStringLiteral("Calories"), 100000}});
     panel.setDate(Day);
-    const QWidget* view = Find(&panel, QStringLiteral("picRDIs"));
-    EXPECT_EQ(Bar(panel, 1)->geometry().right() + 1, view->width() - 2);
+    panel.show();
+    EXPECT_EQ(Bar(panel, 1)->Width(), widest);
+    const int y = Bar(panel, 1)->mapTo(&panel, QPoint(0, 3)).y();
+    const QImage shown = Grab(&panel);
+    EXPECT_EQ(shown.pixel(panel.width() - 2, y), TheStyle().barNormal[3].rgb());
+    EXPECT_EQ(shown.pixel(panel.width() - 1, y), TheStyle().frame.rgb());
 }
 
 TEST_F(ucDailyTest, WithoutATargetAnyIntakeDrawsTheFullLength) {
@@ -434,14 +436,14 @@ TEST_F(ucDailyTest, TheScaleStandsOverItsLines) {
     }
 }
 
-TEST_F(ucDailyTest, ANarrowerPanelKeepsItsBarsInside) {
+TEST_F(ucDailyTest, BarsFollowThePanelsWidth) {
     Eat({{QStringLiteral("Calories"), 100000}});
     ucDaily panel;
     panel.setDate(Day);
     panel.show();
     panel.resize(260, 476);
     EXPECT_EQ(Bar(panel, 1)->Width(), Widest(panel));
-    panel.resize(80, 476);
+    panel.resize(5, 476);
     EXPECT_EQ(Bar(panel, 1)->Width(), 0);
 }
 
