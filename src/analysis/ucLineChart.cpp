@@ -103,6 +103,7 @@ void ucLineChart::showEvent(QShowEvent* event) {
 void ucLineChart::updateLineChart(QDate startDate, QDate endDate) {
     const Period period{startDate, endDate};
     noData_ = false;
+    entries_.clear();
     Liner({});
     entries_ = WeightLog::Entries(period);
     noData_ = entries_.empty();

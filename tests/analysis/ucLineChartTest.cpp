@@ -162,6 +162,7 @@ TEST_F(ucLineChartTest, AFailingQueryLeavesAxesWithoutALine) {
     Users(QStringLiteral("ALTER TABLE USER_WEIGHTS RENAME TO gone"));
     EXPECT_LT(FailureOf([&] { Update(chart); }), 0);
     EXPECT_TRUE(chart.Points().empty());
+    EXPECT_EQ(chart.SpokenValue(), QString());
     EXPECT_EQ(DateTexts(chart).size(), 2);
     ExpectNotice(chart, false);
 }
