@@ -45,17 +45,9 @@ constexpr ViewButton Views[] = {
 };
 
 // Measures in pixels.
-constexpr QRect firstLine(204, 11, 548, 24); ///< beside the frame's title of the screen
+constexpr int firstLineLeft = 204; ///< beside the frame's title of the screen
 constexpr int dateWidth = 84;
 constexpr int viewsGap = 12;
-constexpr int chartsTop = 42;
-constexpr int chartsBottom = 44; ///< from the lower edge
-
-/// The widget's own size, centred on the first line's height. Gives the place right of it.
-int PlaceAt(QWidget* control, int left) {
-    control->move(left, firstLine.top() + (firstLine.height() - control->height()) / 2);
-    return left + control->width();
-}
 
 } // namespace
 
@@ -130,23 +122,19 @@ ucButton* frmReport::AddButton(const char* name, const char* caption, const char
 }
 
 void frmReport::resizeEvent(QResizeEvent*) {
-    const Style& style = TheStyle();
     PlaceFirstLine();
-    const QRect charts(style.nestEdge, chartsTop, width() - 2 * style.nestEdge,
-                       height() - chartsTop - chartsBottom);
     for (QWidget* chart : {static_cast<QWidget*>(ucBar_), static_cast<QWidget*>(ucPie_),
                            static_cast<QWidget*>(ucLine_)})
-        chart->setGeometry(charts);
-    cmdDone_->move(width() - style.nestEdge - cmdDone_->width(),
-                   charts.bottom() + 1 + style.boxGap);
+        chart->setGeometry(BoxesPlace());
+    PlaceAtEnd(cmdDone_);
 }
 
 void frmReport::PlaceFirstLine() {
-    int left = firstLine.left();
+    int left = firstLineLeft;
     for (QWidget* control : {static_cast<QWidget*>(aaLBL_), static_cast<QWidget*>(txtStart_),
                              static_cast<QWidget*>(txtEnd_), static_cast<QWidget*>(cmdRefresh_)})
-        left = PlaceAt(control, left) + TheStyle().boxGap;
-    PlaceAt(views_, left + viewsGap);
+        left = PlaceInTitleLine(control, left) + TheStyle().boxGap;
+    PlaceInTitleLine(views_, left + viewsGap);
 }
 
 void frmReport::ShowLastDays() {

@@ -29,7 +29,7 @@ namespace {
 constexpr auto homeScreen = "frmMain";
 
 // Measures in pixels.
-constexpr QRect dateLine(204, 11, 548, 24); ///< beside the frame's title of the screen
+constexpr int dateLeft = 204; ///< beside the frame's title of the screen
 constexpr int panelWidth = 338;
 constexpr int weightWidth = 62;
 constexpr QSize calendarPicture(18, 18);
@@ -39,11 +39,6 @@ constexpr double heaviest = 1'000'000; // pounds
 
 bool IsWeight(double weight) {
     return weight > 0 && weight <= heaviest;
-}
-
-/// The widget's own size, centred on the date line's height.
-void PlaceAt(QWidget* control, int left) {
-    control->move(left, dateLine.top() + (dateLine.height() - control->height()) / 2);
 }
 
 } // namespace
@@ -127,11 +122,10 @@ void frmDay::resizeEvent(QResizeEvent*) {
 
 void frmDay::PlaceDateLine() {
     const Style& style = TheStyle();
-    PlaceAt(aadate_, dateLine.left());
-    PlaceAt(cmdCal_, aadate_->geometry().right() + 1 + style.boxGap);
+    PlaceInTitleLine(cmdCal_, PlaceInTitleLine(aadate_, dateLeft) + style.boxGap);
     picCal_->setGeometry(QRect(QPoint(cmdCal_->x(), BoxesPlace().top()), picCal_->sizeHint()));
-    PlaceAt(txtWeight_, width() - style.nestEdge - txtWeight_->width());
-    PlaceAt(lblWeight_, txtWeight_->x() - style.boxGap - lblWeight_->width());
+    PlaceInTitleLine(txtWeight_, width() - style.nestEdge - txtWeight_->width());
+    PlaceInTitleLine(lblWeight_, txtWeight_->x() - style.boxGap - lblWeight_->width());
 }
 
 void frmDay::PlaceBoxes() {

@@ -13,6 +13,8 @@ namespace {
 // Measures in pixels.
 constexpr int boxesTop = 42;
 constexpr int boxesBottom = 44; // from the lower edge
+constexpr int titleLineTop = 11;
+constexpr int titleLineHeight = 24;
 
 } // namespace
 
@@ -48,6 +50,11 @@ ucBox* Screen::AddBox(const char* name, const char* caption, QWidget* contents) 
 QRect Screen::BoxesPlace() const {
     const int edge = TheStyle().nestEdge;
     return rect().adjusted(edge, boxesTop, -edge, -boxesBottom);
+}
+
+int Screen::PlaceInTitleLine(QWidget* control, int left) {
+    control->move(left, titleLineTop + (titleLineHeight - control->height()) / 2);
+    return left + control->width();
 }
 
 void Screen::PlaceInRow(int left, std::initializer_list<ucButton*> buttons) {

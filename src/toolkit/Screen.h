@@ -40,6 +40,9 @@ protected:
     /// A box of this screen around its contents; the pointer over it puts the buttons out.
     ucBox* AddBox(const char* name, const char* caption, QWidget* contents);
     QRect BoxesPlace() const; ///< below the title, above the buttons
+    /// In the middle of the line beside the frame's title, at the control's own size. Gives the
+    /// place right of it.
+    static int PlaceInTitleLine(QWidget* control, int left);
     /// Side by side below the boxes, from `left` on.
     void PlaceInRow(int left, std::initializer_list<ucButton*> buttons);
     void PlaceAtEnd(ucButton* button);          ///< of that row
