@@ -140,11 +140,9 @@ void AddLimit(benchmark::State& state) {
     const ManyFoods foods;
     int id = FirstId + Foods;
     for (auto _ : state) {
-        Run("BEGIN IMMEDIATE");
         ReadAll("SELECT * FROM foods WHERE ID >= 23508");
         Run("INSERT INTO foods (ID) VALUES (" + std::to_string(id) + ")");
         Run(SaveSQL(id++, 5));
-        Run("COMMIT");
         ReadAll(ListSQL);
     }
 }

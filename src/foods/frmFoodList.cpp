@@ -5,7 +5,6 @@
 #include "runtime/Seams.h"
 #include "store/Connection.h"
 #include "store/Recordset.h"
-#include "store/Transaction.h"
 #include "toolkit/ListBox.h"
 #include "toolkit/MousePointer.h"
 #include "toolkit/Style.h"
@@ -173,10 +172,8 @@ void frmFoodList::cmdSave_Click() {
         return;
     const MousePointer::NormalAtEnd pointer;
     MousePointer::SetBusy();
-    Transaction whole(FoodDB());
     const qint32 id = editing_ ? id_ : AppendFood();
     SaveFood(id);
-    whole.Commit();
     id_ = id;
     ListFoods();
     foodList_->setFocus();
