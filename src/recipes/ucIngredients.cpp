@@ -2,6 +2,7 @@
 
 #include "intake/AtePane.h"
 #include "recipes/RecipeStore.h"
+#include "runtime/Attempt.h"
 #include "store/Connection.h"
 #include "store/Recordset.h"
 #include "toolkit/MousePointer.h"
@@ -64,11 +65,16 @@ void ucIngredients::AddFood(const ScaledFood& item) {
 }
 
 void ucIngredients::RemoveFood(qint32 ID) {
-    {
-        MousePointer::SetBusy();
-        const MousePointer::NormalAtEnd normalAtEnd;
+    if (DeleteRow(ID))
+        Q_EMIT FoodRemoved();
+}
+
+/// Where the row cannot be deleted, the line stays until the next redraw.
+bool ucIngredients::DeleteRow(qint32 ID) {
+    MousePointer::SetBusy();
+    const MousePointer::NormalAtEnd normalAtEnd;
+    return Attempt([&] {
         RecipeStore::RemoveIngredient(ID);
         DisplayFoods(true);
-    }
-    Q_EMIT FoodRemoved();
+    });
 }

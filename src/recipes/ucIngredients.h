@@ -32,6 +32,7 @@ protected:
 
 private:
     void RemoveFood(qint32 ID);
+    bool DeleteRow(qint32 ID);
 
     qint32 recipeID_ = 0;
     AtePane* pane_;
