@@ -53,7 +53,8 @@ int StatusOf(const QNetworkReply& reply) {
     return reply.attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
 }
 
-/// Of a reply whose length is not told nobody knows whether it was cut short.
+/// Of a reply whose length is not told nobody knows whether it was cut short, nor of one in chunks:
+/// the network layer takes it for whole where its last chunk is missing.
 bool IsOfItsLength(const QNetworkReply& reply, qint64 length) {
     return length == reply.header(QNetworkRequest::ContentLengthHeader).toLongLong();
 }
@@ -102,7 +103,7 @@ HttpReply HttpClient::Await(QNetworkReply& reply, qint64 atMost) const {
     const InputHold hold;
     QEventLoop waiting;
     reply.setReadBufferSize(atMost + 1);
-    QTimer::singleShot(limit_, &reply, &QNetworkReply::abort);
+    QTimer::singleShot(limit_, Qt::PreciseTimer, &reply, &QNetworkReply::abort);
     QObject::connect(&reply, &QNetworkReply::readyRead, &waiting, take);
     QObject::connect(&reply, &QNetworkReply::finished, &waiting, &QEventLoop::quit);
     if (!reply.isFinished())

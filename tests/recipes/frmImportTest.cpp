@@ -5,8 +5,8 @@
 #include "toolkit/MousePointer.h"
 
 #include <QLabel>
-
 #include <QTest>
+#include <QTimer>
 
 namespace {
 const QString failureText = "The recipe could not be imported. Please try again or contact "
@@ -56,6 +56,7 @@ TEST_F(frmImportTest, CarriesItsTexts) {
     EXPECT_EQ(Go()->Caption(), "Submit");
     EXPECT_EQ(Find<ucButton>(dialog.get(), "cmdCancel")->Caption(), "Cancel");
     EXPECT_EQ(Find(dialog.get(), "txtRecID")->accessibleName(), "Recipe ID to import:");
+    EXPECT_EQ(Find<QTimer>(dialog.get(), "cleanUp")->interval(), 250);
 }
 
 TEST_F(frmImportTest, WaitsThirtySecondsForEachCall) {

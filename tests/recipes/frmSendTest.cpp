@@ -6,6 +6,7 @@
 #include "toolkit/MousePointer.h"
 
 #include <QTest>
+#include <QTimer>
 
 #include <SQLiteCpp/SQLiteCpp.h>
 
@@ -74,6 +75,8 @@ TEST_F(frmSendTest, CarriesItsTexts) {
               "Share this recipe with all Halvane users at the Halvane web site.");
     EXPECT_EQ(Button("cmdSend")->Caption(), "Send Recipe");
     EXPECT_EQ(Button("cmdCancel")->Caption(), "Cancel");
+    EXPECT_FALSE(Find<QCheckBox>(dialog.get(), "ckShare")->isChecked());
+    EXPECT_EQ(Find<QTimer>(dialog.get(), "cleanUp")->interval(), 250);
     EXPECT_EQ(dialog->Exchange().Http().Limit(), std::chrono::seconds(30));
 }
 
