@@ -17,12 +17,11 @@ constexpr int unitGap = 4;
 constexpr int blankWidth = 8; // in front of a unit where there is no number
 constexpr int numberWidth = 56;
 
-/// In the middle of a line, at its left end, with the height it has.
-void PlaceOn(const QRect& line, QWidget* control) {
+} // namespace
+
+void PlaceOnLine(const QRect& line, QWidget* control) {
     control->move(line.left(), line.top() + (line.height() - control->height()) / 2);
 }
-
-} // namespace
 
 CardField::CardField(QWidget* card, RecipeField field) {
     const RecipeFieldInfo& info = RecipeFields()[static_cast<size_t>(field)];
@@ -85,7 +84,7 @@ int CardField::CaptionWidth() const {
 
 void CardField::Place(const QRect& line, int captionWidth) {
     if (caption_)
-        PlaceOn(line, caption_);
+        PlaceOnLine(line, caption_);
     place_ = line.adjusted(captionWidth, 0, 0, 0);
     PlaceParts();
 }
@@ -97,9 +96,9 @@ void CardField::PlaceParts() {
     const int shown = unit_ ? qMin(room, qMax(blankWidth, ShownWidth())) : room;
     label_->setGeometry(place_.left(), place_.top(), shown, place_.height());
     entry_->resize(unit_ ? numberWidth : room, TheStyle().fieldHeight);
-    PlaceOn(place_, entry_);
+    PlaceOnLine(place_, entry_);
     if (unit_)
-        PlaceOn(place_.translated((editing_ ? numberWidth : shown) + unitGap, 0), unit_);
+        PlaceOnLine(place_.translated((editing_ ? numberWidth : shown) + unitGap, 0), unit_);
 }
 
 int CardField::ShownWidth() const {

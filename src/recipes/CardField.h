@@ -12,6 +12,9 @@ class QLabel;
 class QLineEdit;
 class QWidget;
 
+/// Puts a control in the middle of a line of the card, at its left end, with the size it has.
+void PlaceOnLine(const QRect& line, QWidget* control);
+
 /// A field of a recipe on its card: a label that shows it and, in the same place, an entry that
 /// takes what is typed. It may have a caption before it and a unit behind it. The controls belong
 /// to the card.

@@ -39,11 +39,6 @@ QRect LineAt(int left, int line, int right) {
     return {margin + left, factsTop + line * ruling, right - left, ruling};
 }
 
-/// In the middle of a line, at its left end.
-void PlaceOn(const QRect& line, QWidget* heading) {
-    heading->move(line.left(), line.top() + (line.height() - heading->height()) / 2);
-}
-
 } // namespace
 
 RecipeCard::RecipeCard(QWidget* parent)
@@ -198,7 +193,7 @@ void RecipeCard::PlaceFacts() {
 }
 
 void RecipeCard::PlaceInstructions() {
-    PlaceOn(QRect(margin, headingTop, InnerWidth(), headingHeight), aaPrepare_);
+    PlaceOnLine(QRect(margin, headingTop, InnerWidth(), headingHeight), aaPrepare_);
     instructions_->setGeometry(margin, headingTop + headingHeight, InnerWidth(),
                                instructions_->sizeHint().height());
 }
@@ -206,7 +201,7 @@ void RecipeCard::PlaceInstructions() {
 void RecipeCard::PlaceIngredients() {
     const QRect above = instructions_->geometry();
     const QRect heading(margin, above.bottom() + 1 + headingGap, above.width(), headingHeight);
-    PlaceOn(heading, aaIngredientsLBL_);
+    PlaceOnLine(heading, aaIngredientsLBL_);
     cmdIngreds_->move(heading.right() + 1 - cmdIngreds_->width(), heading.top());
     const int top = heading.bottom() + 1 + headingGap / 2;
     ucING_->setGeometry(margin, top, above.width(), height() - lowerMargin - top);
