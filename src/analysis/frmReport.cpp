@@ -219,6 +219,7 @@ void frmReport::GoHome() {
 
 void frmReport::closeEvent(QCloseEvent* event) {
     SetRegValue(StateSetting, state_);
+    ucBar_->StoreMode();
     Screen::closeEvent(event);
 }
 

@@ -71,6 +71,10 @@ ucBarChart::ucBarChart(QWidget* parent)
 }
 
 ucBarChart::~ucBarChart() {
+    StoreMode();
+}
+
+void ucBarChart::StoreMode() const {
     SetRegValue(ModeSetting, mode_);
 }
 

@@ -30,6 +30,7 @@ public:
     void ClearBars();                      ///< the values stay
     void Toggle(int mode);                 ///< 0 bars, 1 values; any other does nothing
     QString Mode() const { return mode_; } ///< "BARS" or "VALS"
+    void StoreMode() const; ///< as its end does; for a host that closes before its parts go
     const Nuts& Sums() const { return sums_; }
     qint32 AverageWeight() const { return averageWeight_; } ///< 0 until one was found
 

@@ -78,6 +78,10 @@ ucDaily::ucDaily(QWidget* parent)
 }
 
 ucDaily::~ucDaily() {
+    StoreMode();
+}
+
+void ucDaily::StoreMode() const {
     SetRegValue(ModeSetting, mode_);
 }
 

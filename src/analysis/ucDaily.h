@@ -34,6 +34,7 @@ public:
     void updateCharts();
     void Toggle(int mode);                 ///< 0 bars, 1 values, 2 pie; any other does nothing
     QString Mode() const { return mode_; } ///< "RDI", "VALS" or "PIE"
+    void StoreMode() const; ///< as its end does; for a host that closes before its parts go
     const Nuts& Sums() const { return sums_; }
     void AddOverLay();
 

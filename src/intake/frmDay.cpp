@@ -196,6 +196,12 @@ void frmDay::hideEvent(QHideEvent* event) {
         txtWeight_->Leave();
 }
 
+/// The next day screen may be made before this one has gone.
+void frmDay::closeEvent(QCloseEvent* event) {
+    daily_->StoreMode();
+    Screen::closeEvent(event);
+}
+
 void frmDay::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Escape && !picCal_->isHidden())
         CloseCalendar();

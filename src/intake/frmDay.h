@@ -30,6 +30,7 @@ public:
 protected:
     void resizeEvent(QResizeEvent*) override;
     void hideEvent(QHideEvent*) override;
+    void closeEvent(QCloseEvent*) override;
     void keyPressEvent(QKeyEvent*) override;
 
 private:

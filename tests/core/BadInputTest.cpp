@@ -323,6 +323,19 @@ TEST_P(RealScreens, ReturningToTheDayShowsTheCurrentDate) {
     EXPECT_EQ(ShownDate(), QStringLiteral("Wednesday, April 03, 2002"));
 }
 
+TEST_P(RealScreens, TheViewOfTheTotalsComesBackWhenTheDayIsBroughtAgain) {
+    for (const auto& [button, mode] : {std::pair{"cmdPIEChart", "PIE"}, {"cmdVals", "VALS"}}) {
+        Click(Find(TheNavigation().Front(), QLatin1String(button)));
+        ShowDay(); // made anew while it stands in front, unless screens are kept
+        EXPECT_EQ(
+            Find(TheNavigation().Front(), QStringLiteral("ucDaily"))->property("Mode").toString(),
+            QLatin1String(mode));
+        RunDeferredDeletes();
+    }
+    End();
+    EXPECT_EQ(GetRegValue(QStringLiteral("DAILYMODE")), QStringLiteral("VALS"));
+}
+
 TEST_P(RealScreens, CancellingTheProfileShowsTheSameDayAgain) {
     const QPointer<Screen> day = TheNavigation().Front();
     ChooseFromMenu(7);

@@ -116,6 +116,18 @@ TEST_F(ReportScreenTest, TheViewComesBackWhenTheScreenIsBroughtAgain) {
     EXPECT_TRUE(Find(report, QStringLiteral("ucPie"))->isVisible());
 }
 
+TEST_F(ReportScreenTest, TheBarsModeIsKeptBehindThePieWhenTheScreenIsBroughtAgain) {
+    Weigh();
+    QWidget* report = Show("frmReport");
+    Click(Find(report, QStringLiteral("cmdVals")));
+    Click(Find(report, QStringLiteral("cmdPie")));
+    report = Show("frmReport"); // rebuilt while it stands in front
+    EXPECT_EQ(Find(report, QStringLiteral("ucBar"))->property("Mode").toString(),
+              QStringLiteral("VALS"));
+    Show("frmDay");
+    EXPECT_EQ(GetRegValue(QStringLiteral("REPORTMODE")), QStringLiteral("VALS"));
+}
+
 TEST_F(ReportScreenTest, TheViewIsKeptAtTheEndOfTheProgram) {
     Weigh();
     Click(Find(Show("frmReport"), QStringLiteral("cmdVals")));
