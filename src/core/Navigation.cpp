@@ -65,21 +65,26 @@ bool Navigation::HasScreen(const QString& name) const {
 }
 
 Screen* Navigation::LoadScreen(const QString& name) {
-    QPointer<Screen>& screen = loaded_[name];
-    if (!screen && HasScreen(name)) {
-        screen = factories_[name](Frame());
-        screen->setAttribute(Qt::WA_DeleteOnClose);
-        screen->setGeometry(Frame()->picNest()->geometry());
-        screen->hide();
-        screen->installEventFilter(this);
-    }
+    if (!HasScreen(name))
+        return nullptr;
+    frmHOME* frame = Frame(); // its own loading may bring the screen
+    if (Screen* loaded = loaded_.value(name))
+        return loaded;
+    Screen* screen = factories_[name](frame);
+    screen->setAttribute(Qt::WA_DeleteOnClose);
+    screen->setGeometry(frame->picNest()->geometry());
+    screen->hide();
+    screen->installEventFilter(this);
+    loaded_.insert(name, screen);
     return screen;
 }
 
-/// A failure in a step skips the rest of them, and leaves the pointer as it is.
+/// A failure in a step skips the rest of them, and leaves the pointer as it is. What the person is
+/// told of a field that is left comes before the first step.
 Screen* Navigation::ShowScreen(const QString& name) {
     if (!HasScreen(name))
         return nullptr;
+    LeaveField(frame_);
     Screen* screen = nullptr;
     try {
         MousePointer::SetBusy();
@@ -104,7 +109,6 @@ Screen* Navigation::ShowScreen(const QString& name) {
 /// All loaded screens, the one to be shown among them, are closed, or only hidden where the setting
 /// says so. One that is closed here comes up anew.
 void Navigation::LeaveOthers() {
-    LeaveField(frame_);
     const QScopedValueRollback<bool> own(arranging_, true);
     beneath_.clear();
     front_.clear();
@@ -118,7 +122,6 @@ void Navigation::LeaveOthers() {
 void Navigation::Cover(Screen* next) {
     if (!front_ || front_ == next)
         return;
-    LeaveField(frame_);
     const QScopedValueRollback<bool> own(arranging_, true);
     beneath_ = front_;
     beneath_->hide();

@@ -2,6 +2,7 @@
 
 #include "core/Navigation.h"
 #include "core/frmHOME.h"
+#include "model/User.h"
 #include "runtime/AppState.h"
 #include "runtime/Seams.h"
 #include "toolkit/MousePointer.h"
@@ -224,6 +225,31 @@ TEST_F(NavigationTest, WhatIsBeingTypedIsTakenOverBeforeTheScreenGoes) {
     });
     Show("frmReport");
     EXPECT_EQ(left, 1);
+}
+
+TEST_F(NavigationTest, WhatALeftFieldHasToSayIsSaidUnderTheNormalPointer) {
+    for (const char* next : {"frmReport", "frmProfile"}) {
+        auto* field = new QLineEdit(Show("frmDay"));
+        field->show();
+        Activate(Frame());
+        field->setFocus();
+        bool busy = true;
+        QObject::connect(field, &QLineEdit::editingFinished,
+                         [&] { busy = MousePointer::IsBusy(); });
+        QTest::keyClicks(field, QStringLiteral("150"));
+        Show(next);
+        EXPECT_FALSE(busy) << next;
+    }
+}
+
+TEST_F(NavigationTest, AScreenThatTheFramesOwnLoadingBringsIsMadeOnce) {
+    TheNavigation().Reset();
+    AddLoggedScreen(QStringLiteral("frmMain"), QStringLiteral("Main"));
+    User::Current().UID = 1;
+    ScreenLog().clear();
+    QObject* home = ::LoadScreen(QStringLiteral("frmMain"));
+    EXPECT_EQ(ScreenLog().count(QStringLiteral("frmMain made")), 1);
+    EXPECT_EQ(TheNavigation().Front(), home);
 }
 
 TEST_F(NavigationTest, TheTitleFloatsAboveTheScreen) {
