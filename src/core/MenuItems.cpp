@@ -54,19 +54,19 @@ using MenuItems::File;
 using MenuItems::Help;
 
 constexpr std::array<MenuItems::Item, 13> items = {{
-    {File, "  New", true, nullptr, ""},
-    {File, "  Open", true, nullptr, ""},
-    {File, " Import Recipes", true, ImportRecipes, ""},
-    {File, "  Log off", false, nullptr, ""},
-    {File, "  Exit", true, Exit, ""},
-    {Edit, "  Create & Edit Users", false, nullptr, ""},
-    {Edit, "  Preferences", true, Preferences, ""},
-    {Edit, "  Edit My Profile...", true, EditMyProfile, ""},
-    {Edit, "  Copy", true, nullptr, ""},
-    {Edit, "  Edit", true, nullptr, ""},
-    {Help, "  Contents", true, Contents, ""},
-    {Help, "  Brindlewick Web Site", true, WebSite, ""},
-    {Help, "  About Halvane", true, About, ""},
+    {File, "  New", true, nullptr},
+    {File, "  Open", true, nullptr},
+    {File, " Import Recipes", true, ImportRecipes},
+    {File, "  Log off", false, nullptr},
+    {File, "  Exit", true, Exit},
+    {Edit, "  Create & Edit Users", false, nullptr},
+    {Edit, "  Preferences", true, Preferences},
+    {Edit, "  Edit My Profile...", true, EditMyProfile},
+    {Edit, "  Copy", true, nullptr},
+    {Edit, "  Edit", true, nullptr},
+    {Help, "  Contents", true, Contents},
+    {Help, "  Brindlewick Web Site", true, WebSite},
+    {Help, "  About Halvane", true, About},
 }};
 
 } // namespace

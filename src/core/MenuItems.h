@@ -22,7 +22,6 @@ struct Item {
     const char* caption;
     bool shown;
     void (*act)(frmHOME& frame); ///< none: the item is greyed
-    const char* absent;          ///< tip of an item that is greyed because something is missing
 };
 
 const std::array<Title, MenuCount>& Titles();

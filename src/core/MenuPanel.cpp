@@ -42,8 +42,6 @@ void MenuPanel::AddItem(int index) {
     auto* item = new MenuLabel(MenuLabel::Kind::Item, QStringLiteral("lblMenuItem%1").arg(index),
                                QLatin1String(row.caption), this);
     item->setEnabled(row.act != nullptr);
-    item->setToolTip(QLatin1String(row.absent));
-    item->setAccessibleDescription(QLatin1String(row.absent));
     item->setVisible(row.shown);
     connect(item, &MenuLabel::MouseMove, this, [this, item] { Hilite(item); });
     connect(item, &MenuLabel::Click, this, [this, index] { Q_EMIT Chosen(index); });
