@@ -1,4 +1,4 @@
-#include "store/Recordset.h"
+#include "store/Field.h"
 
 #include "runtime/Convert.h"
 #include "runtime/Dates.h"

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QDate>
+#include "store/Field.h"
+
 #include <QString>
 #include <QVariant>
 
@@ -10,28 +11,6 @@ class Connection;
 
 enum class Cursor { Keyset = 1, Dynamic = 2, Static = 3 };
 enum class Lock { ReadOnly = 1, Pessimistic = 2, Optimistic = 3 };
-
-/// One value of the current row. Null is null; the conversions fail with 94 on it and with 13 on
-/// text that is no number.
-class Field {
-public:
-    Field(QString name, QVariant value)
-        : name_(std::move(name))
-        , value_(std::move(value)) {}
-    const QString& Name() const { return name_; }
-    const QVariant& Value() const { return value_; }
-    bool IsNull() const;
-    QString Text() const;          ///< empty for null
-    double Number() const;         ///< strict
-    double NumberOr(double) const; ///< the given number for null
-    qint32 Integer() const;        ///< rounded half to even
-    bool Boolean() const;
-    QDate Date() const;
-
-private:
-    QString name_;
-    QVariant value_;
-};
 
 /// A result set: exactly one statement, opened, walked and closed inside one routine. Whatever its
 /// cursor, its rows are read when it is opened: what happens to the table afterwards does not
