@@ -56,7 +56,7 @@ QVariant ScaledFood::Item(int position) const {
 
 const ScaledFood::Entry* ScaledFood::Find(const QString& key) const {
     const auto found = std::find_if(entries_.begin(), entries_.end(), [&key](const Entry& entry) {
-        return entry.key.compare(key, Qt::CaseInsensitive) == 0;
+        return entry.key.size() == key.size() && entry.key.compare(key, Qt::CaseInsensitive) == 0;
     });
     return found == entries_.end() ? nullptr : &*found;
 }

@@ -15,8 +15,7 @@ bool IsBlank(const char* tail, const char* end) {
 
 Prepared::Prepared(sqlite3* database, const QString& path, const QByteArray& sql)
     : database_(database)
-    , path_(path)
-    , sql_(sql) {
+    , path_(path) {
     // The store reads up to a NUL: what stands behind it would go unseen.
     if (sql.contains('\0'))
         throw StoreError::Make(SQLITE_ERROR, path, QStringLiteral("it holds a NUL character"));

@@ -19,7 +19,6 @@ public:
     Prepared(const Prepared&) = delete;
     Prepared& operator=(const Prepared&) = delete;
 
-    const QByteArray& Sql() const { return sql_; }
     sqlite3_stmt* Handle() const { return statement_; }
     const std::shared_ptr<const Columns>& Shape() const { return columns_; }
 
@@ -32,7 +31,6 @@ private:
 
     sqlite3* database_;
     QString path_;
-    QByteArray sql_;
     sqlite3_stmt* statement_ = nullptr;
     std::shared_ptr<const Columns> columns_;
 };

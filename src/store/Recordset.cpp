@@ -1,7 +1,6 @@
 #include "store/Recordset.h"
 
 #include "store/Connection.h"
-#include "store/Dialect.h"
 #include "store/RowBuffer.h"
 #include "store/StatementCache.h"
 #include "store/StoreError.h"
@@ -54,9 +53,8 @@ struct Recordset::Impl {
 
 Recordset::Impl::Impl(Connection& on, const QString& source, bool updatable)
     : connection(&on) {
-    const Dialect::Statement adapted = Dialect::Adapt(source, updatable);
-    Prepared& statement = on.Statements().Query(adapted.sql);
-    table = adapted.table;
+    const auto [statement, written] = on.Statements().Read(source, updatable);
+    table = written;
     columns = statement.Shape();
     rows = RowBuffer(columns->Count());
     while (statement.Step())

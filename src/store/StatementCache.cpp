@@ -1,5 +1,6 @@
 #include "store/StatementCache.h"
 
+#include "store/Dialect.h"
 #include "store/StoreError.h"
 
 #include <QScopedValueRollback>
@@ -18,32 +19,39 @@ StatementCache::~StatementCache() {
     sqlite3_set_authorizer(database_, nullptr, nullptr);
 }
 
-Prepared& StatementCache::Query(const QString& sql) {
+StatementCache::Query StatementCache::Read(const QString& source, bool updatable) {
     const QScopedValueRollback guard(guarding_, true);
-    Prepared& statement = Find(sql.toUtf8(), true);
-    if (sqlite3_stmt_readonly(statement.Handle()) == 0) // what the guard is not asked about
+    Entry& entry = Find(updatable ? Use::Updating : Use::Reading, source);
+    if (sqlite3_stmt_readonly(entry.statement->Handle()) == 0) // what the guard is not asked about
         throw StoreError::Make(SQLITE_AUTH, path_, QStringLiteral("the statement would write"));
-    return statement;
+    return {*entry.statement, entry.table};
 }
 
 Prepared& StatementCache::Command(const QString& sql) {
-    return Find(sql.toUtf8(), false);
+    return *Find(Use::Command, sql).statement;
 }
 
-Prepared& StatementCache::Find(const QByteArray& sql, bool guarded) {
+StatementCache::Entry& StatementCache::Find(Use use, const QString& source) {
     const auto known = std::find_if(entries_.begin(), entries_.end(), [&](const Entry& entry) {
-        return entry.guarded == guarded && entry.statement->Sql() == sql;
+        return entry.use == use && entry.source == source;
     });
     if (known != entries_.end()) {
         entries_.splice(entries_.begin(), entries_, known);
     } else {
-        entries_.push_front({guarded, std::make_unique<Prepared>(database_, path_, sql)});
+        entries_.push_front(MakeReady(use, source));
         if (entries_.size() > Capacity)
             entries_.pop_back();
     }
-    Prepared& statement = *entries_.front().statement;
-    statement.Reset();
-    return statement;
+    entries_.front().statement->Reset();
+    return entries_.front();
+}
+
+StatementCache::Entry StatementCache::MakeReady(Use use, const QString& source) const {
+    const Dialect::Statement adapted = use == Use::Command
+                                           ? Dialect::Statement{source, {}}
+                                           : Dialect::Adapt(source, use == Use::Updating);
+    return {use, source, adapted.table,
+            std::make_unique<Prepared>(database_, path_, adapted.sql.toUtf8())};
 }
 
 /// Allows what a query needs; whatever writes, attaches, sets or changes the schema is denied, and

@@ -5,8 +5,8 @@
 #include <list>
 
 /// The prepared statements of one connection, the latest used first and only so many: a statement
-/// that comes again is not made ready anew. Statements of result sets pass a guard that lets them
-/// read rows and do nothing else.
+/// that comes again is neither adapted nor made ready anew. Statements of result sets pass a guard
+/// that lets them read rows and do nothing else.
 class StatementCache {
 public:
     static constexpr size_t Capacity = 32;
@@ -16,20 +16,28 @@ public:
     StatementCache(const StatementCache&) = delete;
     StatementCache& operator=(const StatementCache&) = delete;
 
-    /// A statement of a result set. It belongs to the cache and is good until the next call.
-    Prepared& Query(const QString& sql);
-    /// A statement that the store composed itself.
+    struct Query {
+        Prepared& statement; ///< belongs to the cache and is good until the next call
+        QString table;       ///< of an updatable set; empty for one that only reads
+    };
+    /// The statement of a result set, in the dialect.
+    Query Read(const QString& source, bool updatable);
+    /// A statement that the store composed itself; good until the next call.
     Prepared& Command(const QString& sql);
 
 private:
-    Prepared& Find(const QByteArray& sql, bool guarded);
+    enum class Use { Command, Reading, Updating };
+    struct Entry {
+        Use use;
+        QString source;
+        QString table;
+        std::unique_ptr<Prepared> statement;
+    };
+    Entry& Find(Use use, const QString& source);
+    Entry MakeReady(Use use, const QString& source) const;
     static int Authorize(void* self, int action, const char*, const char*, const char*,
                          const char*);
 
-    struct Entry {
-        bool guarded;
-        std::unique_ptr<Prepared> statement;
-    };
     sqlite3* database_;
     QString path_;
     bool guarding_ = false;
