@@ -294,8 +294,11 @@ TEST_F(ucDailyTest, OnePercentOfTheTargetIsOnePixel) {
 }
 
 TEST_F(ucDailyTest, TwiceTheTargetCanBeSeenWhole) {
+    Eat({{QStringLiteral("Calories"), 4000}});
     ucDaily panel;
-    EXPECT_EQ(panel.barWidth(4000, 2000), 3000);
+    panel.setDate(Day);
+    EXPECT_EQ(Bar(panel, 1)->Width(), 3000);
+    EXPECT_LT(Bar(panel, 1)->geometry().right(), Find(&panel, "picRDIs")->width());
 }
 
 TEST_F(ucDailyTest, ABarStopsAtThePanelsRightEdge) {
