@@ -42,7 +42,9 @@ frmAlert::frmAlert(const QString& message, bool showCancel, QWidget* owner)
 void frmAlert::LayMessage(const QRect& place, const QString& message) {
     QLabel* lblMSG = MakeLabel(this, QStringLiteral("lblMSG"), message);
     lblMSG->setWordWrap(true);
-    lblMSG->setContentsMargins(0, 0, TheStyle().groupGap, 0);
+    const int textWidth =
+        BalancedWidth(message, lblMSG->font(), place.width() - TheStyle().groupGap);
+    lblMSG->setContentsMargins(0, 0, place.width() - textWidth, 0);
     lblMSG->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     auto* area = new QScrollArea(this);
     area->setFrameShape(QFrame::NoFrame);

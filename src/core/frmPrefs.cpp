@@ -69,7 +69,9 @@ QCheckBox* frmPrefs::AddBox(QVBoxLayout* column, const char* name, const char* c
         QLabel* text =
             MakeLabel(area, box->objectName() + "Note", QLatin1String(note), TextRole::Quiet);
         text->setWordWrap(true);
-        text->setContentsMargins(noteIndent, 0, 0, 0);
+        const int room = area->width() - noteIndent;
+        text->setContentsMargins(noteIndent, 0,
+                                 room - BalancedWidth(text->text(), text->font(), room), 0);
         column->addWidget(text);
     }
     column->addSpacing(TheStyle().boxGap);

@@ -2,6 +2,8 @@
 
 #include "toolkit/Style.h"
 
+#include <QFontMetrics>
+
 namespace {
 
 struct RoleLook {
@@ -31,6 +33,23 @@ const QFont& FontOf(TextRole role) {
 
 const QColor& InkOf(TextRole role) {
     return TheStyle().*LookOf(role).ink;
+}
+
+int BalancedWidth(const QString& text, const QFont& font, int width) {
+    const QFontMetrics metrics(font);
+    const auto laid = [&](int place) {
+        return metrics.boundingRect(QRect(0, 0, place, QWIDGETSIZE_MAX), Qt::TextWordWrap, text);
+    };
+    const int height = laid(width).height();
+    int tooNarrow = 0;
+    int enough = width;
+    while (enough - tooNarrow > 1) {
+        const int middle = (tooNarrow + enough) / 2;
+        const QRect place = laid(middle);
+        const bool fits = place.height() <= height && place.width() <= middle;
+        (fits ? enough : tooNarrow) = middle;
+    }
+    return enough;
 }
 
 QLabel* MakeLabel(QWidget* parent, const QString& name, const QString& text, TextRole role) {

@@ -10,5 +10,9 @@ enum class TextRole { Text, Quiet, Strong, Small, ScreenTitle, CardTitle };
 QLabel* MakeLabel(QWidget* parent, const QString& name, const QString& text,
                   TextRole role = TextRole::Text);
 
+/// The narrowest width in which a text takes no more lines than in `width`. Set in it, its lines
+/// come out about equally long, and none holds a lone word.
+int BalancedWidth(const QString& text, const QFont& font, int width);
+
 const QFont& FontOf(TextRole role);
 const QColor& InkOf(TextRole role);

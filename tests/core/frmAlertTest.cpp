@@ -7,6 +7,7 @@
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QTest>
+#include <QTextLayout>
 #include <QTimer>
 
 class frmAlertTest : public CoreTest {
@@ -98,6 +99,29 @@ TEST_F(frmAlertTest, ALongMessageWrapsAndTheSizeStays) {
             EXPECT_EQ(label->text(), message);
             EXPECT_EQ(dialog->findChild<QScrollArea*>()->verticalScrollBar()->maximum(), 0)
                 << "a message of the usual length needs no scrolling";
+        },
+        message);
+}
+
+TEST_F(frmAlertTest, TheLinesOfAMessageAreAboutEquallyLong) {
+    const QString message =
+        QStringLiteral("There is no weight entry from 11/15/2026 to 11/21/2026, so the percent "
+                       "bars and the average values of this period cannot be worked out. Enter a "
+                       "weight for one of its days on the screen \"Daily Details\", in the field "
+                       "\"Enter today's weight:\".");
+    Ask(
+        false,
+        [](QWidget* dialog) {
+            const auto* label = Find<QLabel>(dialog, QStringLiteral("lblMSG"));
+            const int width = label->contentsRect().width();
+            QTextLayout layout(label->text(), label->font());
+            layout.beginLayout();
+            for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine())
+                line.setLineWidth(width);
+            layout.endLayout();
+            ASSERT_GT(layout.lineCount(), 1);
+            for (int i = 0; i < layout.lineCount(); ++i)
+                EXPECT_GT(layout.lineAt(i).naturalTextWidth(), width / 2) << i;
         },
         message);
 }
