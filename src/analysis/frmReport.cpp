@@ -57,7 +57,7 @@ frmReport::frmReport(QWidget* parent)
     AddPeriod();
     AddViewButtons();
     AddCharts();
-    AddDone();
+    cmdDone_ = AddButton("cmdDone", "Done", &frmReport::GoHome, "cmddone");
     ShowLastDays();
 }
 
@@ -71,7 +71,7 @@ void frmReport::AddPeriod() {
     aaLBL_->installEventFilter(this);
     txtStart_ = AddDateField("txtStart", QStringLiteral("First day of the report"));
     txtEnd_ = AddDateField("txtEnd", QStringLiteral("Last day of the report"));
-    cmdRefresh_ = AddButton("cmdRefresh", "Refresh", "cmdRefresh", &frmReport::Refresh);
+    cmdRefresh_ = AddButton("cmdRefresh", "Refresh", &frmReport::Refresh);
 }
 
 QLineEdit* frmReport::AddDateField(const char* name, const QString& accessibleName) {
@@ -105,20 +105,6 @@ void frmReport::AddCharts() {
         connect(chart, &PeriodChart::MouseMove, this, [this] { AllOff(QString()); });
     ucPie_->hide();
     ucLine_->hide();
-}
-
-void frmReport::AddDone() {
-    cmdDone_ = AddButton("cmdDone", "Done", "cmddone", &frmReport::GoHome);
-}
-
-ucButton* frmReport::AddButton(const char* name, const char* caption, const char* nameOfHover,
-                               void (frmReport::*onClick)()) {
-    auto* button = new ucButton(QLatin1String(caption), this);
-    button->setObjectName(QLatin1String(name));
-    connect(button, &ucButton::Click, this, onClick);
-    connect(button, &ucButton::MouseMove, this,
-            [this, hovered = QString(QLatin1String(nameOfHover))] { AllOff(hovered); });
-    return button;
 }
 
 void frmReport::resizeEvent(QResizeEvent*) {

@@ -34,9 +34,6 @@ private:
     QLineEdit* AddDateField(const char* name, const QString& accessibleName);
     void AddViewButtons();
     void AddCharts();
-    void AddDone();
-    ucButton* AddButton(const char* name, const char* caption, const char* nameOfHover,
-                        void (frmReport::*onClick)());
     void PlaceFirstLine();
 
     void ShowLastDays();

@@ -28,11 +28,13 @@ Screen::Screen(const QString& name, const QString& title, QWidget* parent)
     AddCleanUp(this, [this] { AllOff(QString()); });
 }
 
-ucButton* Screen::AddButton(const char* name, const char* caption, std::function<void()> pressed) {
+ucButton* Screen::AddButton(const char* name, const char* caption, std::function<void()> pressed,
+                            const char* hoverName) {
     auto* button = new ucButton(QString::fromLatin1(caption), this);
     button->setObjectName(QString::fromLatin1(name));
     connect(button, &ucButton::Click, this, std::move(pressed));
-    connect(button, &ucButton::MouseMove, this, [this, button] { AllOff(button->objectName()); });
+    const QString hovered = QString::fromLatin1(hoverName ? hoverName : name);
+    connect(button, &ucButton::MouseMove, this, [this, hovered] { AllOff(hovered); });
     buttons_ << button;
     return button;
 }

@@ -31,11 +31,15 @@ public:
 
 protected:
     /// A button of this screen: a press calls `pressed`, the pointer over it puts the others out.
-    ucButton* AddButton(const char* name, const char* caption, std::function<void()> pressed);
+    /// AllOff hears of it by `hoverName` where one is given.
+    ucButton* AddButton(const char* name, const char* caption, std::function<void()> pressed,
+                        const char* hoverName = nullptr);
     template <class Derived>
-    ucButton* AddButton(const char* name, const char* caption, void (Derived::*pressed)()) {
-        return AddButton(name, caption,
-                         [this, pressed] { (static_cast<Derived*>(this)->*pressed)(); });
+    ucButton* AddButton(const char* name, const char* caption, void (Derived::*pressed)(),
+                        const char* hoverName = nullptr) {
+        return AddButton(
+            name, caption, [this, pressed] { (static_cast<Derived*>(this)->*pressed)(); },
+            hoverName);
     }
     /// A box of this screen around its contents; the pointer over it puts the buttons out.
     ucBox* AddBox(const char* name, const char* caption, QWidget* contents);

@@ -23,6 +23,19 @@ public:
         : Screen(QStringLiteral("frmDay"), QStringLiteral("Daily Details")) {}
     void AllOff(const QString& except) override { calls << except; }
     QStringList calls;
+    ucButton* plain = AddButton("cmdAdd", "Add", [] {});
+    ucButton* renamed = AddButton(
+        "cmdDone", "Done", [] {}, "cmddone");
+};
+
+class ButtonScreen : public Screen {
+public:
+    ButtonScreen()
+        : Screen(QStringLiteral("frmDay"), QStringLiteral("Daily Details")) {
+        done->move(100, 0);
+    }
+    ucButton* add = AddButton("cmdAdd", "Add", [] {});
+    ucButton* done = AddButton("cmdDone", "Done", [] {});
 };
 
 class FormTest : public HalvaneTest {
@@ -94,13 +107,36 @@ TEST_F(FormTest, AScreenTakesTheLightsOffOnlyWhereThePointerHasReallyMoved) {
     EXPECT_EQ(screen.calls, (QStringList{QString(), QString()}));
 }
 
+TEST_F(FormTest, FromOneButtonToAnotherTheNewOneLightsAndTheOldOneGoesOut) {
+    ButtonScreen screen;
+    screen.resize(300, 100);
+    screen.show();
+    SendMove(screen.add, QPointF(5, 5));
+    SendMove(screen.done, QPointF(5, 5));
+    EXPECT_EQ(screen.add->State(), 1);
+    EXPECT_EQ(screen.done->State(), 2);
+    screen.AllOff(QStringLiteral("CMDDONE"));
+    EXPECT_EQ(screen.done->State(), 2) << "names are compared without regard to case";
+    SendMove(&screen, QPointF(150, 80));
+    EXPECT_EQ(screen.done->State(), 1);
+}
+
+TEST_F(FormTest, AButtonOfAScreenIsCalledByItsHoverNameWhereItHasOne) {
+    ListeningScreen screen;
+    screen.resize(200, 200);
+    screen.show();
+    SendMove(screen.plain, QPointF(5, 5));
+    SendMove(screen.renamed, QPointF(5, 5));
+    EXPECT_EQ(screen.calls, (QStringList{"cmdAdd", "cmddone"}));
+}
+
 TEST_F(FormTest, AScreenHasItsNameTitleAndTimer) {
     ListeningScreen screen;
     EXPECT_EQ(screen.objectName(), "frmDay");
     EXPECT_EQ(screen.Title(), "Daily Details");
     EXPECT_NE(screen.findChild<QTimer*>(QStringLiteral("cleanUp")), nullptr);
-    screen.resize(40, 40);
-    EXPECT_EQ(Grab(&screen).pixelColor(20, 20), TheStyle().canvas);
+    screen.resize(40, 80);
+    EXPECT_EQ(Grab(&screen).pixelColor(20, 60), TheStyle().canvas);
 }
 
 TEST_F(FormTest, AllOffOfADialogResetsAllButTheNamedButton) {
