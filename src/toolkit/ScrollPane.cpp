@@ -38,6 +38,7 @@ ScrollPane::ScrollPane(QWidget* parent)
     bar_->setObjectName(QStringLiteral("vsResultsPane"));
     bar_->setAccessibleName(QStringLiteral("Scroll"));
     bar_->SetMin(0);
+    bar_->SetValue(0);
     bar_->hide();
     connect(bar_, &ucScroll::Change, this, &ScrollPane::OnBarChange);
     connect(qApp, &QApplication::focusChanged, this, &ScrollPane::FollowFocus);

@@ -39,6 +39,15 @@ TEST_F(ScrollPaneTest, AFreshPaneFillsTheFrameAndHidesItsBar) {
     EXPECT_EQ(Bar().Value(), 0);
 }
 
+TEST_F(ScrollPaneTest, APaneThatWasNeverResetStandsAtTheTop) {
+    ScrollPane fresh;
+    fresh.resize(200, 100);
+    fresh.SetPaneHeight(300);
+    fresh.ShowBar();
+    EXPECT_EQ(fresh.vsResultsPane()->Value(), 0);
+    EXPECT_EQ(fresh.picResultsPane()->y(), 0);
+}
+
 TEST_F(ScrollPaneTest, TheBarIsSetUpForTheOverhangInTenthsOfTwips) {
     Overflow(300);
     EXPECT_TRUE(Bar().isVisible());
