@@ -4,6 +4,7 @@
 #include "toolkit/Labels.h"
 #include "toolkit/Style.h"
 #include "toolkit/Twips.h"
+#include "toolkit/ucScroll.h"
 
 #include <algorithm>
 
@@ -94,10 +95,20 @@ void ResultRows::SizePane() {
     } else {
         HideBar();
     }
+    FitWidths();
+}
+
+/// A list that fits has the bar's room as well.
+void ResultRows::FitWidths() {
+    const bool barShown = vsResultsPane()->isVisibleTo(this);
+    const int width = barShown ? PaneWidth() : picResultsBox()->width();
+    picResultsPane()->resize(width, picResultsPane()->height());
+    for (ucFood* row : std::as_const(rows_))
+        row->resize(width, row->height());
 }
 
 void ResultRows::PlaceNoMatch() {
-    const QSize pane(PaneWidth(), picResultsPane()->height());
+    const QSize pane = picResultsPane()->size();
     noMatch_->move((pane.width() - noMatch_->sizeHint().width()) / 2, pane.height() / 2);
     noMatch_->setVisible(Count() < 1);
 }
@@ -113,6 +124,5 @@ void ResultRows::MaterialiseShown() {
 
 void ResultRows::resizeEvent(QResizeEvent* event) {
     ScrollPane::resizeEvent(event);
-    for (ucFood* row : std::as_const(rows_))
-        row->resize(PaneWidth(), row->height());
+    FitWidths();
 }

@@ -136,6 +136,18 @@ TEST_F(ResultRowsTest, RowsTakeTheWidthOfThePane) {
     EXPECT_EQ(Row(2)->width(), Pane()->width());
 }
 
+TEST_F(ResultRowsTest, AListThatFitsHasTheBarsRoomAsWell) {
+    List(3);
+    EXPECT_FALSE(Bar()->isVisible());
+    EXPECT_EQ(Row(3)->width(), Box()->width());
+    panel_.resize(500, 440);
+    EXPECT_EQ(Row(3)->width(), Box()->width());
+    AddFoods(20, 100, "food more");
+    Search(panel_, "food");
+    EXPECT_TRUE(Bar()->isVisible());
+    EXPECT_EQ(Row(3)->width(), Box()->width() - Bar()->width());
+}
+
 TEST_F(ResultRowsTest, TheFrameFillsThePanelBelowTheFields) {
     const QRect place(Box()->mapTo(&panel_, QPoint()), Box()->size());
     EXPECT_EQ(place.left(), Twips::ToPixels(15));
