@@ -6,6 +6,8 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include <utility>
+
 TitleControl::TitleControl(QWidget* parent)
     : PaintedPanel(parent) {
     setFont(TheStyle().title);
@@ -36,14 +38,20 @@ void TitleControl::DrawOutline(QPoint cursor) {
 }
 
 void TitleControl::mouseReleaseEvent(QMouseEvent* event) {
-    const bool moved = dragging_;
-    dragging_ = false;
-    band_.reset();
-    if (!moved)
+    if (!EndDrag())
         return PaintedPanel::mouseReleaseEvent(event);
     window()->move(outline_.topLeft());
     outline_ = QRect();
     Q_EMIT Moved();
+}
+
+void TitleControl::hideEvent(QHideEvent*) {
+    EndDrag();
+}
+
+bool TitleControl::EndDrag() {
+    band_.reset();
+    return std::exchange(dragging_, false);
 }
 
 void TitleControl::PaintTitle(QPoint picM, QPointF place) {

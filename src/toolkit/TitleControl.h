@@ -29,11 +29,13 @@ protected:
     void mousePressEvent(QMouseEvent*) override;
     void mouseMoveEvent(QMouseEvent*) override;
     void mouseReleaseEvent(QMouseEvent*) override;
+    void hideEvent(QHideEvent*) override; ///< a drag under way is given up
     /// The ground, and the caption at that place of the surface `picM`.
     void PaintTitle(QPoint picM, QPointF place);
 
 private:
     void DrawOutline(QPoint cursor);
+    bool EndDrag(); ///< takes the outline off the screen; true where a drag was under way
 
     QPoint pressed_;
     QRect outline_;

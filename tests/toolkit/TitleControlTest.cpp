@@ -81,6 +81,17 @@ TEST_F(TitleControlTest, AWindowCanBeDroppedPartlyOffTheScreen) {
     EXPECT_EQ(window.pos(), QPoint(100 - 330, 80 - 210));
 }
 
+TEST_F(TitleControlTest, AWindowHiddenWhileItIsDraggedLeavesNoOutlineAndStays) {
+    SendPress(&title, QPointF(30, 10));
+    SendMove(&title, QPointF(60, 20), Qt::LeftButton);
+    window.hide();
+    EXPECT_EQ(Outlines(), 0);
+    window.show();
+    SendRelease(&title, QPointF(60, 20));
+    EXPECT_EQ(window.pos(), QPoint(100, 80));
+    EXPECT_EQ(moved.count(), 0);
+}
+
 TEST_F(TitleControlTest, AMoveWithoutTheButtonIsOnlyPassedOn) {
     QSignalSpy moves(&title, &TitleControl::MouseMove);
     SendMove(&title, QPointF(40, 10));
