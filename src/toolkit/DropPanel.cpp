@@ -49,6 +49,7 @@ DropPanel::DropPanel(QWidget* parent)
     connect(vsResults_, &QScrollBar::valueChanged, this,
             [this](int value) { picItemList_->move(0, Twips::ToPixels(-value)); });
     Load(QString(), QString())->hide();
+    resize(width(), Twips::ToPixels(panelHeight_));
 }
 
 DropItem* DropPanel::Load(const QString& caption, const QString& tag) {

@@ -196,6 +196,13 @@ TEST_F(ucDropDownTest, ClickingTheArrowTwiceOpensAndCloses) {
     EXPECT_EQ(clicks.count(), 0);
 }
 
+TEST_F(ucDropDownTest, UntilAHeightIsSetThePanelHasTheOneThatIsRead) {
+    Fill(3);
+    ClickOn(&Layout::imgArrow);
+    EXPECT_EQ(Panel()->height(), list.aHEIGHT() / 15);
+    EXPECT_EQ(list.height(), strip + list.aHEIGHT() / 15);
+}
+
 TEST_F(ucDropDownTest, TheStripAndItsTextToggleItAsWell) {
     Fill(3);
     ClickOn(&Layout::lblMyName);
