@@ -66,6 +66,15 @@ void ucBox::DrawBorder(QPainter& painter) const {
                             style.boxRadius);
 }
 
+void ucBox::mousePressEvent(QMouseEvent* event) {
+    BeginClick(event);
+}
+
+void ucBox::mouseReleaseEvent(QMouseEvent* event) {
+    if (EndsClick(event))
+        Q_EMIT Click();
+}
+
 /// Moves over the header arrive here as well, as it lets them through.
 void ucBox::mouseMoveEvent(QMouseEvent* event) {
     RaiseMouseMove(event);

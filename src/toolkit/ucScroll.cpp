@@ -139,7 +139,7 @@ void ucScroll::Repeat() {
     repeat_->setInterval(repeatPeriod);
     SetValue(value_ + repeatStep_);
     if (RepeatIsOver())
-        repeat_->stop();
+        EndPress();
 }
 
 bool ucScroll::RepeatIsOver() const {

@@ -152,6 +152,16 @@ TEST_F(PanelTest, ABoxRaisesMovesOverItselfAndItsHeader) {
     EXPECT_EQ(moves.count(), 2);
 }
 
+TEST_F(PanelTest, ABoxPassesClicksOnItselfAndItsHeaderOn) {
+    ucBox box(QStringLiteral("Tip"));
+    box.resize(200, 100);
+    box.show();
+    QSignalSpy clicks(&box, &ucBox::Click);
+    Click(&box, QPoint(50, 60));
+    Click(box.Header(), QPoint(50, 5));
+    EXPECT_EQ(clicks.count(), 2);
+}
+
 TEST_F(PanelTest, ABoxKeepsItsDrawingPlace) {
     ucBox box;
     EXPECT_EQ(box.property("CurrentX").toDouble(), 0);

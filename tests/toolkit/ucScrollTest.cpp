@@ -178,6 +178,15 @@ TEST_F(ucScrollTest, HoldingTheArrowAtMaxStopsAfterTheFirstStep) {
     EXPECT_EQ(bar.Value(), 200);
 }
 
+TEST_F(ucScrollTest, AnArrowHeldToTheEndLooksReleasedOnceItStops) {
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&bar));
+    bar.SetValue(200);
+    const QImage atRest = Grab(&bar);
+    SendPress(&bar, Down());
+    EXPECT_NE(Grab(&bar), atRest);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Grab(&bar) == atRest; }, 3000));
+}
+
 TEST_F(ucScrollTest, AHeldUpArrowStopsAtMin) {
     bar.SetValue(12);
     changes.clear();
