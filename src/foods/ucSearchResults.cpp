@@ -226,9 +226,12 @@ void ucSearchResults::resizeEvent(QResizeEvent*) {
     picStatus_->move(rows_->geometry().center() - picStatus_->rect().center());
 }
 
-/// The term waits, ready to be searched for or typed over.
+/// The term waits, ready to be searched for or typed over. Back from being minimised, the panel is
+/// as it was left.
 void ucSearchResults::showEvent(QShowEvent* event) {
     DrawnControl::showEvent(event);
+    if (event->spontaneous())
+        return;
     txtSearchString_->setFocus();
     txtSearchString_->selectAll();
 }

@@ -50,6 +50,6 @@ void frmRecSearch::HideNotice() {
 
 void frmRecSearch::showEvent(QShowEvent* event) {
     SearchDialog::showEvent(event);
-    if (parentWidget())
+    if (parentWidget() && !event->spontaneous())
         move(parentWidget()->mapToGlobal(QPoint()));
 }

@@ -48,8 +48,11 @@ QRect Dialog::Inner() const {
     return rect().adjusted(edge, title_->height(), -edge, -edge);
 }
 
+/// Back from being minimised it stands where it was.
 void Dialog::showEvent(QShowEvent* event) {
     QDialog::showEvent(event);
+    if (event->spontaneous())
+        return;
     const QWidget* owner = parentWidget() ? parentWidget()->window() : nullptr;
     QRect place = rect();
     place.moveCenter(owner ? owner->geometry().center() : screen()->availableGeometry().center());

@@ -5,6 +5,7 @@
 #include "foods/ucFood.h"
 #include "foods/ucSearchResults.h"
 #include "runtime/Settings.h"
+#include "support/Restored.h"
 #include "toolkit/ucRadio.h"
 
 #include <QApplication>
@@ -65,6 +66,18 @@ TEST_F(FrmFoodSearchTest, ExaminingShowsTheFactsOverIt) {
         },
         [&] { Click(examine); });
     EXPECT_TRUE(dialog.isVisible());
+}
+
+TEST_F(FrmFoodSearchTest, TheFactsBelongToTheWindowOfTheScreenThatOwnsTheDialog) {
+    QWidget home;
+    QWidget screen(&home);
+    home.show();
+    frmFoodSearch dialog(&screen);
+    dialog.show();
+    Search(*dialog.ucSearchResults1(), "bread");
+    QWidget* examine = Find(Rows(*dialog.ucSearchResults1())[0], "imgInfo_W_A");
+    WithModal([&](QWidget* facts) { EXPECT_EQ(facts->parentWidget(), &home); },
+              [&] { Click(examine); });
 }
 
 TEST_F(FrmFoodSearchTest, DoneAndEscapeClose) {
@@ -137,6 +150,18 @@ TEST_F(FrmFoodSearchTest, TheTermHasTheFocusWhenTheDialogOpens) {
     WithModal(
         [](QWidget* shown) { EXPECT_EQ(shown->focusWidget()->objectName(), "txtSearchString"); },
         [&] { dialog.ShowModal(); });
+}
+
+TEST_F(FrmFoodSearchTest, BackFromBeingMinimisedTheFocusIsWhereItWas) {
+    frmFoodSearch dialog;
+    dialog.show();
+    QApplication::setActiveWindow(&dialog);
+    Search(*dialog.ucSearchResults1(), "bread");
+    QWidget* quantity = Find(Rows(*dialog.ucSearchResults1())[0], "txtQTY_A");
+    quantity->setFocus();
+    SendRestored(&dialog);
+    SendRestored(dialog.ucSearchResults1());
+    EXPECT_EQ(QApplication::focusWidget(), quantity);
 }
 
 TEST_F(FrmFoodSearchTest, DoneComesLastInTheTabOrder) {

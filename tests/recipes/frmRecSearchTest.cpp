@@ -9,6 +9,7 @@
 #include "runtime/Settings.h"
 #include "store/Connection.h"
 #include "store/Schema.h"
+#include "support/Restored.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -206,7 +207,7 @@ TEST_F(frmRecSearchTest, MovingTheMouseOverFormOrPanelResetsTheButtons) {
     EXPECT_EQ(go->property("State").toInt(), 1);
 }
 
-TEST_F(frmRecSearchTest, ItStandsAtItsOwnersLeftAndTop) {
+TEST_F(frmRecSearchTest, ItComesUpAtItsOwnersLeftAndTopAndStaysWhereItIsDragged) {
     QWidget frame;
     frame.setGeometry(120, 90, 800, 600);
     QWidget screen(&frame);
@@ -215,6 +216,9 @@ TEST_F(frmRecSearchTest, ItStandsAtItsOwnersLeftAndTop) {
     frmRecSearch placed(&screen);
     placed.show();
     EXPECT_EQ(placed.pos(), QPoint(204, 148));
+    placed.move(11, 22);
+    SendRestored(&placed);
+    EXPECT_EQ(placed.pos(), QPoint(11, 22));
 }
 
 TEST_F(frmRecSearchTest, EscapeClosesAndTheTermAndMealAreKept) {

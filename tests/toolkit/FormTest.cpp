@@ -1,6 +1,7 @@
 #include "toolkit/Input.h"
 
 #include "support/HalvaneTest.h"
+#include "support/Restored.h"
 #include "toolkit/CleanUp.h"
 #include "toolkit/Dialog.h"
 #include "toolkit/Screen.h"
@@ -164,6 +165,15 @@ TEST_F(FormTest, ADialogStandsInTheMiddleOfItsOwner) {
     dialog.resize(300, 200);
     WithModal([&](QWidget* shown) { EXPECT_EQ(shown->geometry(), QRect(140, 130, 300, 200)); },
               [&] { EXPECT_EQ(dialog.ShowModal(), QDialog::Rejected); });
+}
+
+TEST_F(FormTest, BackFromBeingMinimisedADialogStandsWhereItWasDragged) {
+    Dialog dialog(QStringLiteral("frmAlert"), QStringLiteral("Halvane"));
+    dialog.resize(300, 200);
+    dialog.show();
+    dialog.move(11, 22);
+    SendRestored(&dialog);
+    EXPECT_EQ(dialog.pos(), QPoint(11, 22));
 }
 
 TEST_F(FormTest, EscapeRejectsADialog) {
