@@ -8,6 +8,7 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QLabel>
+#include <QLocale>
 #include <QTest>
 
 class FrmNutInfoTest : public FoodsTest {
@@ -109,6 +110,19 @@ TEST_F(FrmNutInfoTest, CaloriesFromFatNeverExceedTheCalories) {
 TEST_F(FrmNutInfoTest, CaloriesAreComparedAsWholeNumbers) {
     Show(Item({{"TotalFat", 1.15}, {"Calories", 10.1}}),
          [](QWidget* panel) { EXPECT_EQ(Text(panel, "lblFatCals"), "10.35"); });
+}
+
+TEST_F(FrmNutInfoTest, SeparatorsAndTheComparisonFollowTheLocale) {
+    QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
+    Show(Item({{"TotalFat", 200}, {"Calories", 1700}, {"Iron", 7.5}}, 1.5), [](QWidget* panel) {
+        EXPECT_EQ(Text(panel, "lblCalories"), "1.700");
+        EXPECT_EQ(Text(panel, "lblFatCals"), "1.700");
+        EXPECT_EQ(Text(panel, "lblIron"), "7,5");
+        EXPECT_EQ(Text(panel, "lblProtein"), "1,");
+    });
+    Show(Item({{"TotalFat", 2}, {"Calories", 18.4}}),
+         [](QWidget* panel) { EXPECT_EQ(Text(panel, "lblFatCals"), "18,"); });
+    QLocale::setDefault(QLocale::c());
 }
 
 TEST_F(FrmNutInfoTest, TwiceTheQuantityDoublesAmountsAndPercentages) {

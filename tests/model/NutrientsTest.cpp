@@ -23,6 +23,46 @@ QSet<QString> Distinct(const char* NutrientInfo::*name) {
             names << QString::fromLatin1(info.*name).toLower();
     return names;
 }
+
+/// Each nutrient as the screens name it, in the order of the record.
+struct Shown {
+    const char *property, *unit, *factsCaption, *editCaption, *textField, *factsLabel;
+};
+// clang-format off
+constexpr Shown Expected[] = {
+    {"Selenium", "mg", "Selenium (mg)", "Selenium (mg)", "txtSelenium", "lblSelenium"},
+    {"Zinc", "mg", "Zinc (mg)", "Zinc (mg)", "txtZinc", "lblZinc"},
+    {"Water", "g", "Water (g)", "Water (g)", "txtWater", "lblWater"},
+    {"VitaminC", "mg", "Vit. C (mg)", "Vit. C (mg)", "txtVitC", "lblVitaminC"},
+    {"VitaminB12", "mcg", "Vit. B12 (mcg)", "Vit. B12 (mcg)", "txtVitB12", "lblVitaminB12"},
+    {"VitaminB6", "mg", "Vit. B6 (mg)", "Vit. B6 (mg)", "txtVitB6", "lblVitaminB6"},
+    {"VitaminE", "mg", "Vit. E (mg)", "Vit. E (mg)", "txtVitE", "lblVitaminE"},
+    {"VitaminA", "iu", "Via. A (iu)", "Via. A (iu)", "txtVitA", "lblVitaminA"},
+    {"Thiamin", "mg", "Thiamin (mg)", "Thiamin (mg)", "txtThiamin", "lblThiamin"},
+    {"Riboflavin", "mg", "Riboflavin (mg)", "Riboflavin (mg)", "txtRiboflavin", "lblRiboflavin"},
+    {"Potassium", "mg", "Potassium (mg)", "Potassium (mg)", "txtPotassium", "lblPotassium"},
+    {"Phosphorus", "mg", "Phosphorus (mg)", "Phosphorus (mg)", "txtPhosphorus", "lblPhosphorus"},
+    {"Panto", "mg", "Panto. Adic (mg)", "Panto. Adic (mg)", "txtPantoAcid", "lblPantoAcid"},
+    {"Niacin", "mg", "Niacin (mg)", "Niacin (mg)", "txtNiacin", "lblNiacin"},
+    {"Manganese", "mg", "Manganese (mg)", "Manganese (mg)", "txtManganese", "lblManganese"},
+    {"Magnesium", "mg", "Magnesium (mg)", "Magnesium (mg)", "txtMagnesium", "lblMagnesium"},
+    {"Iron", "mg", "Iron (mg)", "Iron (mg)", "txtIron", "lblIron"},
+    {"Folate", "mcg", "Folate (mcg)", "Folate (mcg)", "txtFolate", "lblFolate"},
+    {"Copper", "mg", "Copper (mg)", "Copper (mg)", "txtCopper", "lblCopper"},
+    {"Calcium", "mg", "Calcium (mg)", "Calcium (mg)", "txtCalcium", "lblCalcium"},
+    {"Ash", "g", "Ash (g)", "Ash (g)", "txtAsh", "lblAsh"},
+    {"Protein", "g", "Protein (g)", "Protein (g)", "txtProtein", "lblProtein"},
+    {"Fiber", "g", "Dietary Fiber (g)", "Fiber (g)", "txtFiber", "lblFiber"},
+    {"Carbs", "g", "Total Carbohydrates (g)", "Carbohydrates (g)", "txtCarbs", "lblCarbs"},
+    {"Sodium", "mg", "Sodium (mg)", "Sodium (mg)", "txtSodium", "lblSodium"},
+    {"Cholesterol", "mg", "Cholesterol (mg)", "Cholesterol (mg)", "txtCholesterol", "lblCholesterol"},
+    {"MonoFat", "g", "Monounsaturated Fat (g)", "Monounsaturated Fat (g)", "txtMonoFat", "lblMonoFat"},
+    {"PolyFat", "g", "Polyunsaturated Fat (g)", "Polyunsaturated Fat (g)", "txtPolyFat", "lblPolyFat"},
+    {"SatFat", "g", "Saturated Fat (g)", "Saturated Fat (g)", "txtSatFat", "lblSatFat"},
+    {"TotalFat", "g", "Total Fat (g)", "Total Fat (g)", "txtTotalFat", "lblTotalFat"},
+    {"Calories", "kcal", "Calories", "Calories", "txtCals", "lblCalories"},
+};
+// clang-format on
 } // namespace
 
 TEST(Nutrients, AreThirtyOneWithNamesOfTheirOwn) {
@@ -37,6 +77,19 @@ TEST(Nutrients, AreThirtyOneWithNamesOfTheirOwn) {
 TEST(Nutrients, StandAtTheirPlaceInTheTable) {
     for (const NutrientInfo& info : Nutrients())
         EXPECT_EQ(&Info(info.id), &info);
+}
+
+TEST(Nutrients, GoByTheirNamesOnTheScreens) {
+    ASSERT_EQ(std::size(Expected), Nutrients().size());
+    for (size_t i = 0; i < std::size(Expected); ++i) {
+        const NutrientInfo& info = Nutrients()[i];
+        EXPECT_STREQ(info.property, Expected[i].property);
+        EXPECT_STREQ(info.unit, Expected[i].unit) << info.property;
+        EXPECT_STREQ(info.factsCaption, Expected[i].factsCaption);
+        EXPECT_STREQ(info.editCaption, Expected[i].editCaption);
+        EXPECT_STREQ(info.textField, Expected[i].textField);
+        EXPECT_STREQ(info.factsLabel, Expected[i].factsLabel);
+    }
 }
 
 TEST(Nutrients, EightAreWholeNumbers) {
@@ -121,16 +174,6 @@ TEST(Nutrients, ColumnsOfTheLogKeepTheirForm) {
     EXPECT_STREQ(Info(Nutrient::Ash).logColumn, "Ash");
     EXPECT_STREQ(Info(Nutrient::Sodium).logColumn, "Sodium");
     EXPECT_STREQ(Info(Nutrient::Water).logColumn, "Water");
-}
-
-TEST(Nutrients, CaptionsDifferFromViewToView) {
-    EXPECT_STREQ(Info(Nutrient::Carbs).factsCaption, "Total Carbohydrates (g)");
-    EXPECT_STREQ(Info(Nutrient::Carbs).editCaption, "Carbohydrates (g)");
-    EXPECT_STREQ(Info(Nutrient::Fiber).factsCaption, "Dietary Fiber (g)");
-    EXPECT_STREQ(Info(Nutrient::Fiber).editCaption, "Fiber (g)");
-    EXPECT_STREQ(Info(Nutrient::Panto).editCaption, "Panto. Adic (mg)");
-    EXPECT_STREQ(Info(Nutrient::VitaminA).editCaption, "Via. A (iu)");
-    EXPECT_STREQ(Info(Nutrient::VitaminA).chartCaption, "Vit. A");
 }
 
 TEST(Nutrients, AreFoundByAnyFormOfTheirName) {

@@ -3,6 +3,7 @@
 #include "model/ReferenceIntake.h"
 #include "runtime/AppState.h"
 #include "runtime/RuntimeError.h"
+#include "runtime/Seams.h"
 #include "store/Connection.h"
 #include "support/Failure.h"
 #include "support/HalvaneTest.h"
@@ -281,6 +282,17 @@ TEST_F(UserTest, EnergyBelowFiveHundredHasNoFiberTarget) {
     EXPECT_EQ(FailureOf([&] { eldest.CreateDefaultRDIs(); }), ErrorNumber::NoSuchMember);
 }
 
+TEST_F(UserTest, EnergyOfJustFiveHundredHasTheLeastFiberTarget) {
+    User child = Person(2, 11, 50, 70, 80, 1);
+    ExpectAlert("Error, gender info not found");
+    child.CreateDefaultRDIs();
+    EXPECT_EQ(child.RDIs.Calories(), 500);
+    EXPECT_EQ(child.RDIs[Nutrient::Fiber], 25);
+    child.DesiredWeight = child.CurrentWeight;
+    ExpectAlert("Error, gender info not found");
+    EXPECT_EQ(FailureOf([&] { child.CreateDefaultRDIs(); }), ErrorNumber::NoSuchMember);
+}
+
 TEST_F(UserTest, TheFailureOfTheFiberTargetSaysWhy) {
     User old = Person(0, 250, 60, 80, 80, 0);
     try {
@@ -319,6 +331,21 @@ TEST_F(UserTest, AnUnknownGenderIsReportedAndCountsAsNoBasalEnergy) {
     User child = Person(2, 10, 50, 70, 80, 1);
     child.CreateDefaultRDIs();
     EXPECT_EQ(child.RDIs.Calories(), 500);
+}
+
+TEST_F(UserTest, TheUnknownGenderIsReportedOverNoWindowAndWithoutCancel) {
+    int reports = 0;
+    TheSeams().ShowAlert = [&](const QString& message, QObject* owner, bool cancel) {
+        ++reports;
+        EXPECT_EQ(message, QStringLiteral("Error, gender info not found"));
+        EXPECT_EQ(owner, nullptr);
+        EXPECT_FALSE(cancel);
+        return true;
+    };
+    User user = Person(2, 10, 50, 70, 80, 1);
+    user.CreateDefaultRDIs();
+    DeriveEnergyTargets(user);
+    EXPECT_EQ(reports, 2);
 }
 
 TEST_F(UserTest, TheGenderIsReportedBeforeTheMissingRowFails) {
@@ -511,6 +538,18 @@ TEST_F(UserTest, RecalculationOverwritesTargetsSetByHand) {
     RecalcTargets();
     EXPECT_EQ(Target("Calories"), 3149);
     EXPECT_EQ(Target("protein"), 236);
+}
+
+TEST_F(UserTest, RecalculationEndsWithTheUserAsTheRowHoldsIt) {
+    App().AppInfo.AUTOUPDATERDI = true;
+    AddUser("Anna");
+    Users("UPDATE profiles SET Iron = 9, age = 55");
+    User::Current().UserName = QStringLiteral("somebody else");
+    RecalcTargets();
+    EXPECT_EQ(User::Current().UserName, QStringLiteral("Anna"));
+    EXPECT_EQ(User::Current().RDIs[Nutrient::Iron], 9);
+    EXPECT_EQ(User::Current().Age, 55);
+    EXPECT_EQ(Target("Calories"), 3149); // of the age that the user had before
 }
 
 TEST_F(UserTest, RecalculationOfAnUnknownGenderStillWrites) {

@@ -440,16 +440,11 @@ TEST_F(ProfileTest, StatementsInANameDoNoHarm) {
     ExpectRefusal(form, takenNew);
 }
 
-TEST_F(ProfileTest, AnEmbeddedNulWritesNoHalfName) {
+TEST_F(ProfileTest, AnEmbeddedNulIsRefusedByTheStoreAndWritesNothing) {
     frmProfile* form = Fresh();
     Type(form, "txtUserName", QStringLiteral("Ber") + QChar::Null + QStringLiteral("ta"));
-    const int failure = FailureOf([&] { form->SaveNewUser(); });
-    if (Value(form, "txtUserName").contains(QChar::Null)) {
-        EXPECT_LT(failure, 0);
-        EXPECT_EQ(Profiles(), 0);
-    } else {
-        EXPECT_EQ(failure, 0);
-    }
+    EXPECT_LT(FailureOf([&] { form->SaveNewUser(); }), 0);
+    EXPECT_EQ(Profiles(), 0);
 }
 
 // Editing
@@ -521,10 +516,31 @@ TEST_F(ProfileTest, ChangesReachTheRowAndTheCurrentUser) {
     EXPECT_EQ(Stored("height").toInt(), 65);
     EXPECT_EQ(Stored("gender").toInt(), 0);
     EXPECT_EQ(Stored("current_weight").toInt(), 150);
+    EXPECT_EQ(Stored("desired_weight").toInt(), 130);
     EXPECT_EQ(Stored("activity_level").toInt(), 1);
     EXPECT_EQ(User::Current().UserName, QStringLiteral("Berta"));
     EXPECT_EQ(User::Current().CurrentWeight, 150);
     EXPECT_FALSE(form->isVisible());
+}
+
+TEST_F(ProfileTest, AnEditClearsTheFlagsAndTheirLimits) {
+    const qint32 uid = AddUser("Anna");
+    Users("UPDATE profiles SET flagsodium = 1, flagcholesterol = 1, sodiumMAX = 11, "
+          "cholesterolMAX = 12");
+    Click(Find(Edit(uid), "cmdSave"));
+    for (const char* column : {"flagsodium", "flagcholesterol", "sodiumMAX", "cholesterolMAX"})
+        EXPECT_EQ(Stored(column, "Anna"), 0) << column;
+}
+
+TEST_F(ProfileTest, AnEditEndsTheModeOfOneMoreUser) {
+    const qint32 uid = AddUser("Anna");
+    frmProfile* form = Fresh();
+    EXPECT_EQ(Edit(uid), form);
+    EXPECT_TRUE(Find(form, "cmdAdvanced")->isVisible());
+    EXPECT_FALSE(Find(form, "ucTitleFlat1")->isVisible());
+    Click(Find(form, "cmdSave"));
+    EXPECT_EQ(Profiles(), 1);
+    EXPECT_EQ(Stored("age", "Anna").toInt(), 40);
 }
 
 TEST_F(ProfileTest, EditDerivesNoReferenceValues) {

@@ -106,6 +106,30 @@ TEST_F(DeliveredDatabasesTest, ReferenceIntakesAreThe22LifeStages) {
     }
 }
 
+TEST_F(DeliveredDatabasesTest, ReferenceIntakesAreThePublishedFigures) {
+    const struct {
+        const char *key, *column;
+        double value;
+    } figures[] = {{"INFANT_0_6 ", "Manganese", 0.003},   {"INFANT_7_12 ", "Iron", 11},
+                   {"CHILD_1_3", "Calcium", 700},         {"CHILD_4_8", "VitaminA", 1333},
+                   {"MALE_9_13", "Magnesium", 240},       {"MALE_14_18", "Zinc", 11},
+                   {"MALE_19_30", "VitaminC", 90},        {"MALE_31_50", "Selenium", 0.055},
+                   {"MALE_51_70", "VitaminB6", 1.7},      {"MALE_71_999", "Calcium", 1200},
+                   {"FEMALE_9_13", "Manganese", 1.6},     {"FEMALE_14_18", "Iron", 15},
+                   {"FEMALE_19_30", "Magnesium", 310},    {"FEMALE_31_50", "Iron", 18},
+                   {"FEMALE_51_70", "Iron", 8},           {"FEMALE_71_999", "VitaminB6", 1.5},
+                   {"LACTATION_0_18", "VitaminA", 4000},  {"LACTATION_19_30", "Copper", 1.3},
+                   {"LACTATION_31_999", "Iron", 9},       {"PREGNANCY_0_18", "Iron", 27},
+                   {"PREGNANCY_19_30", "VitaminA", 2567}, {"PREGNANCY_31_999", "Folate", 600}};
+    SQLite::Database users(Built("users.mdb").toStdString());
+    for (const auto& figure : figures) {
+        SQLite::Statement row(users, std::string("SELECT ") + figure.column +
+                                         " FROM RDI WHERE Profile = '" + figure.key + "'");
+        ASSERT_TRUE(row.executeStep()) << figure.key;
+        EXPECT_EQ(row.getColumn(0).getDouble(), figure.value) << figure.key << figure.column;
+    }
+}
+
 TEST_F(DeliveredDatabasesTest, NoJournalIsLeftBesideTheFiles) {
     CopyBuilt();
     Update();
