@@ -1,10 +1,12 @@
 #include "core/frmSplash.h"
 
+#include "toolkit/CentreWindow.h"
 #include "toolkit/Labels.h"
 #include "toolkit/Pictures.h"
 #include "toolkit/Style.h"
 
 #include <QPainter>
+#include <QShowEvent>
 #include <QTimer>
 
 namespace {
@@ -47,6 +49,13 @@ void frmSplash::LayTexts() {
     LayLine(MakeLabel(this, QStringLiteral("lblVersion"),
                       QStringLiteral("Version " HALVANE_VERSION), TextRole::Quiet),
             versionTop);
+}
+
+/// The platform's own place leaves room for a title bar, which this window has not.
+void frmSplash::showEvent(QShowEvent* event) {
+    QDialog::showEvent(event);
+    if (!event->spontaneous())
+        CentreWindow(this);
 }
 
 void frmSplash::paintEvent(QPaintEvent*) {

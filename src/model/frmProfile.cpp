@@ -7,6 +7,7 @@
 #include "runtime/Seams.h"
 #include "store/Connection.h"
 #include "store/Recordset.h"
+#include "toolkit/CentreWindow.h"
 #include "toolkit/Style.h"
 #include "toolkit/Twips.h"
 #include "toolkit/ucButton.h"
@@ -19,7 +20,6 @@
 #include <QKeyEvent>
 #include <QPainter>
 #include <QPointer>
-#include <QScreen>
 
 namespace {
 constexpr QSize nestSize(766, 562);
@@ -88,9 +88,7 @@ void frmProfile::ShowModally() {
     setWindowFlags(Qt::Dialog | Qt::FramelessWindowHint);
     setWindowModality(Qt::ApplicationModal);
     resize(firstUserSize);
-    QRect place = rect();
-    place.moveCenter(screen()->availableGeometry().center());
-    move(place.topLeft());
+    CentreWindow(this);
     QEventLoop untilClosed;
     connect(this, &QObject::destroyed, &untilClosed, &QEventLoop::quit);
     show();

@@ -1,5 +1,6 @@
 #include "toolkit/Dialog.h"
 
+#include "toolkit/CentreWindow.h"
 #include "toolkit/CleanUp.h"
 #include "toolkit/Style.h"
 #include "toolkit/ucButton.h"
@@ -8,7 +9,6 @@
 
 #include <QMouseEvent>
 #include <QPainter>
-#include <QScreen>
 
 namespace {
 
@@ -51,12 +51,8 @@ QRect Dialog::Inner() const {
 /// Back from being minimised it stands where it was.
 void Dialog::showEvent(QShowEvent* event) {
     QDialog::showEvent(event);
-    if (event->spontaneous())
-        return;
-    const QWidget* owner = parentWidget() ? parentWidget()->window() : nullptr;
-    QRect place = rect();
-    place.moveCenter(owner ? owner->geometry().center() : screen()->availableGeometry().center());
-    move(place.topLeft());
+    if (!event->spontaneous())
+        CentreWindow(this);
 }
 
 void Dialog::paintEvent(QPaintEvent*) {

@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QLabel>
+#include <QScreen>
 #include <QTest>
 #include <QTimer>
 
@@ -42,6 +43,18 @@ TEST_F(frmSplashTest, AClickOnAnyTextClosesItToo) {
         Click(Find(&splash, QLatin1String(name)));
         EXPECT_FALSE(splash.isVisible()) << name;
     }
+}
+
+TEST_F(frmSplashTest, ItStandsInTheMiddleOfTheScreenAndOfItsOwner) {
+    frmSplash splash;
+    splash.show();
+    EXPECT_EQ(splash.geometry().center(), splash.screen()->availableGeometry().center());
+    QWidget frame;
+    frame.setGeometry(60, 40, 701, 501);
+    frame.show();
+    frmSplash about(&frame);
+    about.show();
+    EXPECT_EQ(about.geometry().center(), frame.geometry().center());
 }
 
 class frmWelcomeTest : public CoreTest {};
