@@ -166,6 +166,21 @@ TEST_F(FirstRunTest, QuittingWhileAMessageStandsAnswersItNoAndEndsTheEventLoop) 
     EXPECT_FALSE(answer);
 }
 
+class QuittingOverADialog : public FirstRunTest, public ::testing::WithParamInterface<int> {};
+
+INSTANTIATE_TEST_SUITE_P(ImportPreferencesAbout, QuittingOverADialog, ::testing::Values(2, 6, 12));
+
+TEST_P(QuittingOverADialog, ClosesItAndEndsTheEventLoop) {
+    CreateAnna();
+    QTimer::singleShot(0, [] {
+        QTimer::singleShot(0, [] { Flow::QuitApp(); });
+        ChooseFromMenu(GetParam());
+    });
+    EXPECT_EQ(QApplication::exec(), 0);
+    EXPECT_FALSE(TheNavigation().HasFrame());
+    EXPECT_FALSE(Flow::HasWindow());
+}
+
 TEST_F(FirstRunTest, QuittingRightAfterTheProfileHasClosedBringsNothingBack) {
     CreateAnna();
     PressEditProfile();
