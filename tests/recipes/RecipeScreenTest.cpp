@@ -1,19 +1,14 @@
-#include "recipes/RecipesTest.h"
+#include "recipes/RecipeManagerTest.h"
 #include "support/KillPoints.h"
 
 #include "intake/ucAte.h"
 #include "recipes/RecipeStore.h"
-#include "recipes/frmRecipeManager.h"
 #include "recipes/ucIngredients.h"
 #include "store/Connection.h"
-#include "toolkit/ListBox.h"
-#include "toolkit/ucButton.h"
 #include "toolkit/ucScroll.h"
 
 #include <QApplication>
 #include <QClipboard>
-#include <QLineEdit>
-#include <QPlainTextEdit>
 #include <QScrollBar>
 #include <QTest>
 
@@ -23,30 +18,14 @@ namespace {
 
 constexpr int busy = -5;
 constexpr int readOnly = -8;
-const QStringList entries = {"txtName", "txtYield", "txtServing", "txtTime"};
-const QString askDelete = "Are you sure you want to delete this recipe?";
 
 } // namespace
 
 /// The screen of recipes without a mouse, over a store that fails, with texts of every kind.
-class RecipeScreenTest : public RecipesTest {
+class RecipeScreenTest : public RecipeManagerTest {
 protected:
-    void SetUp() override {
-        RecipesTest::SetUp();
-        window.resize(766, 562);
-        window.show();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
-    }
-    void TearDown() override {
-        screen.reset();
-        RecipesTest::TearDown();
-    }
     void Open() {
-        screen = std::make_unique<frmRecipeManager>(&window);
-        screen->setGeometry(window.rect());
-        screen->BeforeShow();
-        screen->show();
-        screen->DoWinInit();
+        RecipeManagerTest::Open();
         screen->setFocus(Qt::OtherFocusReason);
     }
     /// A recipe with its ingredients, in the form it has when it is opened for editing.
@@ -57,15 +36,10 @@ protected:
         return id;
     }
 
-    ListBox* List() { return Find<ListBox>(screen.get(), "lsRecipes"); }
-    ucButton* Button(const char* name) { return Find<ucButton>(screen.get(), name); }
-    void Press(const char* name) { Click(Button(name)); }
     /// As a press does, with the failure coming out here.
     int FailureOfPress(const char* name) {
         return FailureOf([&] { Q_EMIT Button(name)->Click(); });
     }
-    QLineEdit* Entry(const QString& name) { return Find<QLineEdit>(screen.get(), name); }
-    QPlainTextEdit* Instructions() { return Find<QPlainTextEdit>(screen.get(), "txtInstructions"); }
     QString Stored(const QString& column) {
         return Users("SELECT " + column + " FROM Recipes").toString();
     }
@@ -107,9 +81,6 @@ protected:
         return Rows(UserDB(), "SELECT * FROM Recipes") +
                Rows(UserDB(), "SELECT * FROM Ingredients");
     }
-
-    QWidget window;
-    std::unique_ptr<frmRecipeManager> screen;
 };
 
 // By keyboard

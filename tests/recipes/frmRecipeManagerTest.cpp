@@ -1,19 +1,14 @@
-#include "recipes/RecipesTest.h"
+#include "recipes/RecipeManagerTest.h"
 
 #include "intake/ucAte.h"
-#include "recipes/frmRecipeManager.h"
 #include "recipes/ucIngredients.h"
 #include "runtime/AppState.h"
 #include "store/Connection.h"
-#include "toolkit/ListBox.h"
 #include "toolkit/ucBox.h"
-#include "toolkit/ucButton.h"
 #include "toolkit/ucScroll.h"
 
 #include <QApplication>
 #include <QClipboard>
-#include <QLineEdit>
-#include <QPlainTextEdit>
 #include <QTest>
 #include <QTimer>
 
@@ -21,44 +16,14 @@
 
 namespace {
 
-const QString askDelete = "Are you sure you want to delete this recipe?";
 const QString placeholder = "(enter preparation instructions here...)";
-const QStringList entries = {"txtName", "txtYield", "txtServing", "txtTime"};
 const QStringList labels = {"aaRecipeName", "aaCals", "lblRecYield", "lblServingDesc",
                             "aaTotalTime"};
 
 } // namespace
 
-class frmRecipeManagerTest : public RecipesTest {
+class frmRecipeManagerTest : public RecipeManagerTest {
 protected:
-    void SetUp() override {
-        RecipesTest::SetUp();
-        window.resize(766, 562);
-        window.show();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
-    }
-
-    void TearDown() override {
-        screen.reset();
-        RecipesTest::TearDown();
-    }
-
-    /// Brings the screen forward as the navigation does.
-    void Open() {
-        screen = std::make_unique<frmRecipeManager>(&window);
-        screen->setGeometry(window.rect());
-        Forward();
-    }
-    void Forward() {
-        screen->BeforeShow();
-        screen->show();
-        screen->DoWinInit();
-    }
-    ListBox* List() { return Find<ListBox>(screen.get(), "lsRecipes"); }
-    ucButton* Button(const QString& name) { return Find<ucButton>(screen.get(), name); }
-    void Press(const QString& name) { Click(Button(name)); }
-    QLineEdit* Entry(const QString& name) { return Find<QLineEdit>(screen.get(), name); }
-    QPlainTextEdit* Instructions() { return Find<QPlainTextEdit>(screen.get(), "txtInstructions"); }
     ucScroll* Bar() { return Find<ucScroll>(screen.get(), "vsInstructions"); }
     QString Shown(const QString& label) {
         return Find(screen.get(), label)->property("Caption").toString();
@@ -169,9 +134,6 @@ protected:
         for (const QString& entry : entries)
             EXPECT_TRUE(Visible(entry)) << entry.toStdString();
     }
-
-    QWidget window;
-    std::unique_ptr<frmRecipeManager> screen;
 };
 
 TEST_F(frmRecipeManagerTest, ControlsCarryTheirCaptionsAndTips) {
