@@ -2,6 +2,7 @@
 
 #include "foods/frmNutInfo.h"
 #include "foods/ucSearchResults.h"
+#include "toolkit/ButtonRow.h"
 #include "toolkit/Style.h"
 #include "toolkit/ucButton.h"
 #include "toolkit/ucTitleFlat.h"
@@ -29,12 +30,8 @@ void SearchDialog::BuildPanel(const QString& name) {
 }
 
 void SearchDialog::BuildDone() {
-    cmdDone_ = new ucButton(QStringLiteral("Done"), this);
-    cmdDone_->setObjectName(QStringLiteral("cmdDone"));
-    const QPoint corner = Inner().bottomRight() - QPoint(TheStyle().nestEdge, TheStyle().nestEdge);
-    QRect place(QPoint(), cmdDone_->sizeHint());
-    place.moveBottomRight(corner);
-    cmdDone_->setGeometry(place);
+    cmdDone_ = MakeButton(this, QStringLiteral("cmdDone"), QStringLiteral("Done"));
+    LayButtonRow(Inner(), {cmdDone_});
     connect(cmdDone_, &ucButton::Click, this, &QDialog::accept);
 }
 

@@ -50,9 +50,6 @@ ucButton* ExchangeDialog::AddButtons(const char* start, const char* caption) {
     start_->SetMainAction(true);
     ucButton* cancel = MakeButton(this, QStringLiteral("cmdCancel"), QStringLiteral("Cancel"));
     LayButtonRow(Inner(), {start_, cancel});
-    for (ucButton* button : {start_, cancel})
-        connect(button, &ucButton::MouseMove, this,
-                [this, button] { AllOff(button->objectName()); });
     connect(cancel, &ucButton::Click, this, &QDialog::reject);
     return start_;
 }

@@ -1,13 +1,16 @@
 #include "toolkit/ButtonRow.h"
 
+#include "toolkit/Dialog.h"
 #include "toolkit/Style.h"
 #include "toolkit/ucButton.h"
 
 #include <ranges>
 
-ucButton* MakeButton(QWidget* dialog, const QString& name, const QString& caption) {
+ucButton* MakeButton(Dialog* dialog, const QString& name, const QString& caption) {
     auto* button = new ucButton(caption, dialog);
     button->setObjectName(name);
+    QObject::connect(button, &ucButton::MouseMove, dialog,
+                     [dialog, name] { dialog->AllOff(name); });
     return button;
 }
 

@@ -2,6 +2,7 @@
 
 #include "support/HalvaneTest.h"
 #include "support/Restored.h"
+#include "toolkit/ButtonRow.h"
 #include "toolkit/CleanUp.h"
 #include "toolkit/Dialog.h"
 #include "toolkit/Screen.h"
@@ -154,6 +155,18 @@ TEST_F(FormTest, AllOffOfADialogResetsAllButTheNamedButton) {
     EXPECT_EQ(help.Shown(), "img_NORM");
     SendMove(&dialog, QPointF(50, 60));
     EXPECT_EQ(ok.State(), 1);
+}
+
+TEST_F(FormTest, FromOneButtonOfADialogToAnotherTheOldOneGoesOut) {
+    Dialog dialog(QStringLiteral("frmAlert"), QStringLiteral("Halvane"));
+    ucButton* ok = MakeButton(&dialog, QStringLiteral("cmdOK"), QStringLiteral("OK"));
+    ucButton* cancel = MakeButton(&dialog, QStringLiteral("cmdCancel"), QStringLiteral("Cancel"));
+    LayButtonRow(QRect(0, 34, 300, 166), {ok, cancel});
+    dialog.show();
+    SendMove(ok, QPointF(5, 5));
+    SendMove(cancel, QPointF(5, 5));
+    EXPECT_EQ(ok->State(), 1);
+    EXPECT_EQ(cancel->State(), 2);
 }
 
 TEST_F(FormTest, ADialogStandsInTheMiddleOfItsOwner) {
