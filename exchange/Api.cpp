@@ -44,22 +44,22 @@ void Api::AddTo(Router& router) {
 void Api::Create(const Ask& ask, httplib::Response& response) const {
     const auto recipe = RecipeReader::ReadRecipe(ask.request.body);
     const auto& config = service_.config;
-    RecipeStore::Created created{};
-    bool allowed = false;
+    std::optional<RecipeStore::Created> created;
     {
         const Pool::Lease lease(service_.pool);
-        allowed =
-            Limits::Count(*lease, service_.limits.Daily("recipe", ask.visitor),
+        Transaction transaction(*lease);
+        if (Limits::Count(*lease, service_.limits.Daily("recipe", ask.visitor),
                           config.recipes_per_client_day) &&
-            Limits::Count(*lease, service_.limits.Daily("recipes", ""), config.recipes_per_day);
-        if (allowed)
+            Limits::Count(*lease, service_.limits.Daily("recipes", ""), config.recipes_per_day)) {
             created = RecipeStore(*lease).Create(recipe);
+            transaction.Commit();
+        }
     }
-    if (!allowed)
+    if (!created)
         throw Refusal(429, "Too many recipes have been sent today. Please try again tomorrow.");
     response.status = 201;
-    response.set_content("{\"RecipeID\":" + std::to_string(created.id) + ",\"token\":\"" +
-                             created.token + "\"}",
+    response.set_content("{\"RecipeID\":" + std::to_string(created->id) + ",\"token\":\"" +
+                             created->token + "\"}",
                          JsonType);
 }
 
@@ -91,7 +91,7 @@ void Api::Read(const Ask& ask, httplib::Response& response, RecipeStore::Part pa
             Limits::Count(*lease, misses, most);
     }
     if (document.hits >= most)
-        throw Refusal(429, "Too many recipe IDs that do not exist. Please try again later.");
+        throw Refusal(429, Limits::TooManyMisses);
     if (!document.text)
         throw Refusal(404, "There is no recipe with this ID.");
     response.set_content(*document.text, JsonType);

@@ -1,6 +1,7 @@
 #include "exchange/Config.h"
 
 #include "exchange/MailAddress.h"
+#include "exchange/NetworkAddress.h"
 #include "exchange/Text.h"
 
 #include <charconv>
@@ -121,6 +122,8 @@ void ReadFile(Config& config, const std::string& name) {
             throw ConfigError("no \"=\" in the line \"" + line + "\" of " + name);
         Set(config, Trimmed(line.substr(0, equals)), Trimmed(line.substr(equals + 1)));
     }
+    if (file.bad())
+        throw ConfigError("cannot read " + name);
 }
 
 void ReadEnvironment(Config& config) {
@@ -129,7 +132,22 @@ void ReadEnvironment(Config& config) {
             Set(config, setting.name, value);
 }
 
-void Check(const Config& config) {
+/// In the way in which clients are named, so that one is found among them.
+void SettleProxies(Config& config) {
+    for (auto& proxy : config.trusted_proxies) {
+        const auto address = NetworkAddress::Canonical(proxy);
+        if (!address)
+            throw ConfigError("trusted_proxies must be network addresses, not \"" + proxy + "\"");
+        proxy = *address;
+    }
+}
+
+void CheckDatabase(const Config& config) {
+    if (config.database.empty())
+        throw ConfigError("database must be the path of a file or an address");
+}
+
+void CheckMail(const Config& config) {
     if (!config.Mails())
         return;
     if (!config.mail_relay.starts_with("smtp://") && !config.mail_relay.starts_with("smtps://"))
@@ -146,7 +164,9 @@ Config Config::Read(const std::string& file) {
     ReadEnvironment(config);
     while (config.public_url.ends_with('/'))
         config.public_url.pop_back();
-    Check(config);
+    SettleProxies(config);
+    CheckDatabase(config);
+    CheckMail(config);
     return config;
 }
 

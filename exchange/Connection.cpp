@@ -13,17 +13,33 @@ bool IsEmbedded(std::string_view database) {
     return !database.starts_with(ServerPrefix);
 }
 
-soci::connection_parameters Parameters(const std::string& database) {
-    if (IsEmbedded(database))
-        return {soci::sqlite3, "db=\"" + database + "\" timeout=20 shared_cache=false"};
-    if (database.starts_with("postgresql://"))
-        return {soci::postgresql, database};
-    return {soci::postgresql, database.substr(ServerPrefix.size())};
+/// A database server that has vanished is noticed in seconds, unless the setting says otherwise.
+std::string WithTimeouts(std::string server) {
+    constexpr std::pair<std::string_view, std::string_view> timeouts[] = {
+        {"connect_timeout=", "5"}, {"tcp_user_timeout=", "20000"}};
+    const bool isAddress = server.starts_with("postgresql://");
+    for (const auto& [name, value] : timeouts) {
+        if (server.find(name) != std::string::npos)
+            continue;
+        const char* first = server.find('?') == std::string::npos ? "?" : "&";
+        server.append(isAddress ? first : " ").append(name).append(value);
+    }
+    return server;
 }
 
-std::mutex& Turn() {
-    static std::mutex turn;
-    return turn;
+/// The embedded library counts its memory under a lock that all threads share, for nobody.
+void CountNoMemory() {
+    [[maybe_unused]] static const int done = sqlite_api::sqlite3_config(SQLITE_CONFIG_MEMSTATUS, 0);
+}
+
+soci::connection_parameters Parameters(const std::string& database) {
+    if (IsEmbedded(database)) {
+        CountNoMemory();
+        return {soci::sqlite3, "db=\"" + database + "\" timeout=20 shared_cache=false"};
+    }
+    if (database.starts_with("postgresql://"))
+        return {soci::postgresql, WithTimeouts(database)};
+    return {soci::postgresql, WithTimeouts(database.substr(ServerPrefix.size()))};
 }
 
 /// What is acknowledged is on the disk: the log is written through at each commit.
@@ -60,8 +76,23 @@ soci::statement& Connection::Prepared(std::string_view sql) {
     return *statements_.emplace(sql, std::move(statement)).first->second;
 }
 
+std::unique_lock<std::mutex> Connection::TakeTurn() const {
+    static std::mutex turn;
+    return embedded_ && !inTransaction_ ? std::unique_lock(turn) : std::unique_lock<std::mutex>();
+}
+
+/// The first line alone, without its context: in both the values are quoted.
+std::string Connection::Describe(const std::exception& error) {
+    const auto* failure = dynamic_cast<const soci::soci_error*>(&error);
+    const std::string text = failure ? failure->get_error_message() : error.what();
+    return text.substr(0, text.find('\n'));
+}
+
 Transaction::Transaction(Connection& connection)
-    : turn_(connection.embedded_ ? std::unique_lock(Turn()) : std::unique_lock<std::mutex>())
-    , transaction_(connection.session_) {}
+    : connection_(connection)
+    , turn_(connection.TakeTurn())
+    , transaction_(connection.session_) {
+    connection_.inTransaction_ = true;
+}
 
 } // namespace exchange

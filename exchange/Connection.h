@@ -39,6 +39,7 @@ public:
 
     /// Runs a statement and tells how many rows it changed.
     template <class... Exchanges> long long Change(std::string_view sql, const Exchanges&... uses) {
+        const auto turn = TakeTurn();
         auto& statement = Bound(sql, uses...);
         statement.execute(true);
         return statement.get_affected_rows();
@@ -47,9 +48,15 @@ public:
     /// One statement that is not kept.
     void Once(const std::string& sql) { session_.once << sql; }
 
+    /// What a log may say of an error: nothing of the values that a statement was run with.
+    static std::string Describe(const std::exception& error);
+
 private:
     friend class Transaction;
     void Tune();
+    /// In the embedded database the writers of a process queue here and not at the file, where
+    /// whoever waits longest has the least chance. Empty within a transaction, which has its turn.
+    std::unique_lock<std::mutex> TakeTurn() const;
     soci::statement& Prepared(std::string_view sql);
 
     template <class... Exchanges>
@@ -62,19 +69,23 @@ private:
     }
 
     bool embedded_;
+    bool inTransaction_ = false;
     soci::session session_;
     std::map<std::string, std::unique_ptr<soci::statement>, std::less<>> statements_;
 };
 
 /// All or nothing: rolled back unless committed. Begins with a statement that writes, so that two
-/// of them never wait for each other. In the embedded database the writers of a process queue here
-/// and not at the file.
+/// of them never wait for each other.
 class Transaction {
 public:
     explicit Transaction(Connection& connection);
+    ~Transaction() { connection_.inTransaction_ = false; }
+    Transaction(const Transaction&) = delete;
+    Transaction& operator=(const Transaction&) = delete;
     void Commit() { transaction_.commit(); }
 
 private:
+    Connection& connection_;
     std::unique_lock<std::mutex> turn_;
     soci::transaction transaction_;
 };

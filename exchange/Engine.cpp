@@ -1,6 +1,7 @@
 #include "exchange/Engine.h"
 
 #include "exchange/Json.h"
+#include "exchange/Text.h"
 
 #include <cstring>
 
@@ -42,9 +43,21 @@ private:
     std::string output_;
 };
 
+/// The head without what the library would act upon while it reads it.
+std::string WithoutRanges(std::string_view head) {
+    constexpr std::string_view range = "range:";
+    std::string kept;
+    while (!head.empty()) {
+        const auto line = head.substr(0, head.find("\r\n") + 2);
+        if (Lower(line.substr(0, range.size())) != range)
+            kept += line;
+        head.remove_prefix(line.size());
+    }
+    return kept;
+}
+
 /// The library asks for nothing more than the head: the body is handed over with it.
 void Prepare(httplib::Request& request, std::string_view body) {
-    request.ranges.clear();
     request.headers.erase("Accept-Encoding");
     request.body = body;
 }
@@ -55,6 +68,8 @@ const char* Reason(int status) {
         return "Length Required";
     case 413:
         return "Payload Too Large";
+    case 414:
+        return "URI Too Long";
     case 415:
         return "Unsupported Media Type";
     case 417:
@@ -69,17 +84,23 @@ const char* Reason(int status) {
 }
 } // namespace
 
-Engine::Engine(Answer answer) {
+Engine::Engine(Answer answer, int idleSeconds) {
     set_pre_routing_handler([answer = std::move(answer)](const auto& request, auto& response) {
         answer(request, response);
         return HandlerResponse::Handled;
     });
+    set_error_handler([](const httplib::Request&, httplib::Response& response) {
+        if (response.body.empty())
+            response.set_content(Json::Reason(Reason(response.status)), "application/json");
+    });
     set_keep_alive_max_count(1'000'000);
+    set_keep_alive_timeout(idleSeconds);
 }
 
 Engine::Reply Engine::Process(std::string_view head, std::string_view body,
                               const std::string& client, bool last) {
-    Memory stream(head, client);
+    const auto kept = WithoutRanges(head);
+    Memory stream(kept, client);
     bool closed = last;
     const bool understood = process_request(
         stream, last, closed, [&](httplib::Request& request) { Prepare(request, body); });

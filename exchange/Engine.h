@@ -14,7 +14,8 @@ namespace exchange {
 class Engine : private httplib::Server {
 public:
     using Answer = std::function<void(const httplib::Request&, httplib::Response&)>;
-    explicit Engine(Answer answer);
+    Engine(Answer answer,
+           int idleSeconds); ///< how long a connection may be silent, for its replies
 
     struct Reply {
         std::string text;

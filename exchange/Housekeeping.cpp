@@ -42,7 +42,8 @@ void Housekeeping::CleanUp() const {
         store.ForgetAddresses(now - service_.config.address_days * 24 * HourMs);
         Limits::ForgetOld(*lease);
     } catch (const std::exception& error) {
-        Log::Error("housekeeping", {{"what", std::string_view(error.what())}});
+        const auto what = Connection::Describe(error);
+        Log::Error("housekeeping", {{"what", what}});
     }
 }
 

@@ -26,6 +26,11 @@ public:
     Counter Hourly(std::string_view what, std::string_view who) const;
     Counter Daily(std::string_view what, std::string_view who) const;
 
+    /// What is said to who has asked for so many IDs that do not exist that even those that do are
+    /// kept from him.
+    static constexpr const char* TooManyMisses =
+        "Too many recipe IDs that do not exist. Please try again later.";
+
     /// One more; false, and not counted, if that would be above the limit.
     static bool Count(Connection& connection, const Counter& counter, int limit);
     static int Counted(Connection& connection, const Counter& counter);

@@ -1,5 +1,6 @@
 #include "exchange/Reception.h"
 
+#include "exchange/NetworkAddress.h"
 #include "exchange/RequestFrame.h"
 
 #include <algorithm>
@@ -10,6 +11,7 @@
 #include <netdb.h>
 #include <netinet/in.h>
 #include <netinet/tcp.h>
+#include <poll.h>
 #include <sys/epoll.h>
 #include <sys/eventfd.h>
 #include <sys/socket.h>
@@ -23,6 +25,7 @@ constexpr int Backlog = 1024;
 constexpr size_t Portion = 16 * 1024;
 constexpr size_t LargestKept = 64 * 1024;
 constexpr int DrainSeconds = 2;
+constexpr int AnswersInTurn = 16;
 constexpr auto Never = std::numeric_limits<long long>::max();
 
 long long Seconds() {
@@ -38,8 +41,7 @@ std::string NameOf(const sockaddr_storage& address) {
     else
         inet_ntop(AF_INET6, &reinterpret_cast<const sockaddr_in6&>(address).sin6_addr, text,
                   sizeof text);
-    const std::string name = text;
-    return name.starts_with("::ffff:") ? name.substr(7) : name;
+    return NetworkAddress::Canonical(text).value_or(text);
 }
 
 int Listen(const std::string& address, int port) {
@@ -81,6 +83,7 @@ void Watch(int poll, int operation, int descriptor, unsigned events, void* what)
 struct Reception::Line {
     int socket;
     std::string client;
+    std::string household;
     std::string arrived;
     std::string leaving;
     size_t left = 0;
@@ -89,9 +92,10 @@ struct Reception::Line {
     std::atomic<long long> deadline;
     Registry::iterator self;
 
-    Line(int descriptor, std::string name, long long until)
+    Line(int descriptor, std::string name, std::string home, long long until)
         : socket(descriptor)
         , client(std::move(name))
+        , household(std::move(home))
         , deadline(until) {}
 };
 
@@ -134,8 +138,23 @@ void Reception::Stop() {
     }
     for (auto& thread : threads_)
         thread.join();
+    Flush();
     while (!lines_.empty())
         Close(lines_.front());
+}
+
+/// Gives the replies that are half on their way a last moment.
+void Reception::Flush() {
+    const auto end = Clock::now() + std::chrono::seconds(DrainSeconds);
+    while (Clock::now() < end) {
+        std::vector<pollfd> waiting;
+        for (auto& line : lines_)
+            if (line.left < line.leaving.size() && (SendPortion(line) || errno == EAGAIN))
+                waiting.push_back({line.socket, POLLOUT, 0});
+        if (waiting.empty())
+            return;
+        ::poll(waiting.data(), waiting.size(), 50);
+    }
 }
 
 void Reception::Work() {
@@ -158,27 +177,30 @@ void Reception::Accept() {
                                      SOCK_NONBLOCK | SOCK_CLOEXEC);
         if (socket >= 0)
             Admit(socket, NameOf(address));
-        else if (errno == EMFILE || errno == ENFILE)
-            std::this_thread::sleep_for(std::chrono::milliseconds(10));
-        else if (errno != EINTR && errno != ECONNABORTED)
+        else if (errno == EINTR || errno == ECONNABORTED)
+            continue;
+        else
             break;
     }
+    if (errno != EAGAIN) // out of descriptors or memory: not at once again
+        std::this_thread::sleep_for(std::chrono::milliseconds(10));
     Watch(poll_, EPOLL_CTL_MOD, listener_, EPOLLIN | EPOLLONESHOT, &listener_);
 }
 
-bool Reception::IsFull(const std::string& client) const {
+bool Reception::IsFull(const std::string& client, const std::string& household) const {
     if (lines_.size() >= static_cast<size_t>(config_.connections))
         return true;
     const auto& proxies = config_.trusted_proxies;
     if (std::find(proxies.begin(), proxies.end(), client) != proxies.end())
         return false;
-    const auto count = perClient_.find(client);
-    return count != perClient_.end() && count->second >= config_.connections_per_client;
+    const auto count = perHousehold_.find(household);
+    return count != perHousehold_.end() && count->second >= config_.connections_per_client;
 }
 
 void Reception::Admit(int socket, const std::string& client) {
+    const auto household = NetworkAddress::Household(client);
     const std::lock_guard lock(mutex_);
-    if (IsFull(client)) {
+    if (IsFull(client, household)) {
         const auto reply = Engine::Refusal(503);
         ::send(socket, reply.data(), reply.size(), MSG_NOSIGNAL);
         ::close(socket);
@@ -186,17 +208,18 @@ void Reception::Admit(int socket, const std::string& client) {
     }
     const int on = 1;
     setsockopt(socket, IPPROTO_TCP, TCP_NODELAY, &on, sizeof on);
-    ++perClient_[client];
-    auto& line = lines_.emplace_back(socket, client, Seconds() + config_.request_seconds);
+    ++perHousehold_[household];
+    auto& line =
+        lines_.emplace_back(socket, client, household, Seconds() + config_.request_seconds);
     line.self = std::prev(lines_.end());
     Watch(poll_, EPOLL_CTL_ADD, socket, EPOLLIN | EPOLLRDHUP | EPOLLONESHOT, &line);
 }
 
 void Reception::Close(Line& line) {
     const std::lock_guard lock(mutex_);
-    const auto count = perClient_.find(line.client);
+    const auto count = perHousehold_.find(line.household);
     if (--count->second == 0)
-        perClient_.erase(count);
+        perHousehold_.erase(count);
     ::close(line.socket);
     lines_.erase(line.self);
 }
@@ -211,11 +234,20 @@ void Reception::Await(Line& line, unsigned events, int seconds) {
 void Reception::Advance(Line& line) {
     if (line.draining)
         return Drain(line);
-    if (!Send(line) || !Receive(line))
-        return;
-    while (AnswerArrived(line))
-        if (!Send(line))
+    bool received = false;
+    for (int answered = 0; Send(line);) {
+        if (answered == AnswersInTurn)
+            return Await(line, EPOLLOUT, 0);
+        if (AnswerArrived(line))
+            ++answered;
+        else if (received)
+            return AwaitMore(line);
+        else if (received = Receive(line); !received)
             return;
+    }
+}
+
+void Reception::AwaitMore(Line& line) {
     const bool begun = !line.arrived.empty();
     Await(line, EPOLLIN | EPOLLRDHUP, begun ? 0 : config_.idle_seconds);
 }
@@ -266,21 +298,25 @@ void Reception::Reply(Line& line, std::string text, bool close) {
     line.last = close;
 }
 
+/// Sends as much as the other side takes now; false if that is nothing, with `errno` set.
+bool Reception::SendPortion(Line& line) {
+    const auto count = ::send(line.socket, line.leaving.data() + line.left,
+                              line.leaving.size() - line.left, MSG_NOSIGNAL);
+    line.left += static_cast<size_t>(std::max<ssize_t>(count, 0));
+    return count >= 0;
+}
+
 /// Sends what is to be sent. False if the line is out of this worker's hands: closed, or waiting
 /// until the rest can be sent.
 bool Reception::Send(Line& line) {
     while (line.left < line.leaving.size()) {
-        const auto count = ::send(line.socket, line.leaving.data() + line.left,
-                                  line.leaving.size() - line.left, MSG_NOSIGNAL);
-        if (count < 0 && errno == EAGAIN) {
+        if (SendPortion(line) || errno == EINTR)
+            continue;
+        if (errno == EAGAIN)
             Await(line, EPOLLOUT, 0);
-            return false;
-        }
-        if (count < 0 && errno != EINTR) {
+        else
             Close(line);
-            return false;
-        }
-        line.left += static_cast<size_t>(std::max<ssize_t>(count, 0));
+        return false;
     }
     line.leaving.clear();
     if (!line.last)

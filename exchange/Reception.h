@@ -44,12 +44,15 @@ private:
     bool AnswerArrived(Line& line);
     void Reply(Line& line, std::string text, bool close);
     bool Send(Line& line);
+    static bool SendPortion(Line& line);
     void Drain(Line& line);
     void Await(Line& line, unsigned events, int seconds);
+    void AwaitMore(Line& line);
     void Close(Line& line);
+    void Flush();
     void CloseExpired();
     void KeepTime();
-    bool IsFull(const std::string& client) const;
+    bool IsFull(const std::string& client, const std::string& household) const;
 
     const Config& config_;
     Engine& engine_;
@@ -61,7 +64,7 @@ private:
     std::mutex mutex_; ///< of what follows
     std::condition_variable stopped_;
     Registry lines_;
-    std::map<std::string, int> perClient_;
+    std::map<std::string, int> perHousehold_;
     std::vector<std::thread> threads_;
 };
 

@@ -84,7 +84,8 @@ struct BoundRow {
 
 } // namespace
 
-int RecipeStore::Insert(const Recipe& recipe, const std::string& token) {
+RecipeStore::Created RecipeStore::Create(const Recipe& recipe) {
+    const auto token = Secrets::RandomToken();
     const auto digest = Secrets::Digest(token);
     const auto now = Moment::Now();
     const int isPublic = recipe.isPublic ? 1 : 0;
@@ -94,16 +95,8 @@ int RecipeStore::Insert(const Recipe& recipe, const std::string& token) {
                                use(recipe.yield), use(recipe.instructions), use(recipe.prepTime),
                                use(recipe.from), use(recipe.to), use(isPublic), use(digest),
                                use(now)) == 1)
-            return id;
+            return {id, token};
     }
-}
-
-RecipeStore::Created RecipeStore::Create(const Recipe& recipe) {
-    const auto token = Secrets::RandomToken();
-    Transaction transaction(connection_);
-    const int id = Insert(recipe, token);
-    transaction.Commit();
-    return {id, token};
 }
 
 void RecipeStore::InsertRows(int id, int firstID, const std::vector<Ingredient>& rows) {
@@ -227,10 +220,8 @@ void RecipeStore::Publish(const Recipe& recipe, long long now) {
 
 void RecipeStore::NoteMailed(int id) {
     const auto now = Moment::Now();
-    Transaction transaction(connection_);
     connection_.Change("UPDATE recipes SET MailedAt = :now WHERE RecipeID = :id", use(now),
                        use(id));
-    transaction.Commit();
 }
 
 RecipeStore::Document RecipeStore::Read(int id, Part part, const Counter& misses) {
@@ -253,28 +244,25 @@ RecipeStore::Document RecipeStore::Read(int id, Part part, const Counter& misses
     return document;
 }
 
+/// The recipe first: whoever is just sending it has put in its words when this goes on.
 bool RecipeStore::Remove(int id) {
     Transaction transaction(connection_);
     const bool removed =
-        connection_.Change("DELETE FROM words WHERE RecipeID = :id", use(id)) >= 0 &&
         connection_.Change("DELETE FROM recipes WHERE RecipeID = :id", use(id)) > 0;
+    connection_.Change("DELETE FROM words WHERE RecipeID = :id", use(id));
     transaction.Commit();
     return removed;
 }
 
 void RecipeStore::SweepUnfinished(long long createdBefore) {
-    Transaction transaction(connection_);
     connection_.Change("DELETE FROM recipes WHERE SentAt = 0 AND CreatedAt < :moment",
                        use(createdBefore));
-    transaction.Commit();
 }
 
 void RecipeStore::ForgetAddresses(long long sentBefore) {
-    Transaction transaction(connection_);
     connection_.Change("UPDATE recipes SET EMAILFROM = '', EMAILTO = ''"
                        " WHERE EMAILTO <> '' AND SentAt <> 0 AND SentAt < :moment",
                        use(sentBefore));
-    transaction.Commit();
 }
 
 } // namespace exchange

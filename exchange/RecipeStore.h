@@ -31,7 +31,7 @@ public:
         int id;
         std::string token;
     };
-    Created Create(const Recipe& recipe);
+    Created Create(const Recipe& recipe); ///< one statement, for the caller's transaction
 
     enum class Added { Done, WrongToken, AlreadySent, TooMany };
     Added Add(int id, const std::string& token, const std::vector<Ingredient>& rows, int most);
@@ -69,7 +69,6 @@ public:
     void ForgetAddresses(long long sentBefore);
 
 private:
-    int Insert(const Recipe& recipe, const std::string& token);
     void InsertRows(int id, int firstID, const std::vector<Ingredient>& rows);
     Added WhyNotAdded(int id, const std::string& digest);
     std::optional<Recipe> ReadRow(int id);

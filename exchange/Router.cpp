@@ -1,5 +1,6 @@
 #include "exchange/Router.h"
 
+#include "exchange/Connection.h"
 #include "exchange/Log.h"
 #include "exchange/Refusal.h"
 #include "exchange/Text.h"
@@ -19,6 +20,7 @@ constexpr std::pair<const char*, const char*> Headers[] = {
     {"X-Frame-Options", "DENY"},
     {"Referrer-Policy", "no-referrer"},
     {"Cross-Origin-Resource-Policy", "same-origin"},
+    {"Accept-Ranges", "none"},
 };
 } // namespace
 
@@ -45,13 +47,14 @@ bool Router::Route::Matches(const std::string& path, std::optional<int>& id) con
 }
 
 const Router::Route* Router::Find(const httplib::Request& request, std::optional<int>& id,
-                                  bool& known) const {
+                                  std::string& allowed) const {
     const auto& method = request.method == "HEAD" ? std::string("GET") : request.method;
     for (const auto& route : routes_)
         if (route.Matches(request.path, id)) {
-            known = true;
             if (route.method == method)
                 return &route;
+            allowed.append(allowed.empty() ? "" : ", ");
+            allowed.append(route.method == "GET" ? "GET, HEAD" : route.method);
         }
     return nullptr;
 }
@@ -65,7 +68,8 @@ void Router::Run(const Route& route, const Ask& ask, httplib::Response& response
             response.set_header("Retry-After", "3600");
         failure_(ask.request, response, refusal.Status(), refusal.what());
     } catch (const std::exception& error) {
-        Log::Error("failure", {{"route", route.pattern}, {"what", std::string_view(error.what())}});
+        const auto what = Connection::Describe(error);
+        Log::Error("failure", {{"route", route.pattern}, {"what", what}});
         failure_(ask.request, response, 503, "The service is not available just now.");
     }
 }
@@ -75,14 +79,16 @@ void Router::Answer(const httplib::Request& request, httplib::Response& response
     for (const auto& [name, value] : Headers)
         response.set_header(name, value);
     std::optional<int> id;
-    bool known = false;
-    const auto* route = Find(request, id, known);
-    if (route)
+    std::string allowed;
+    const auto* route = Find(request, id, allowed);
+    if (route) {
         Run(*route, {request, id, VisitorOf(request, config_)}, response);
-    else if (known)
+    } else if (!allowed.empty()) {
+        response.set_header("Allow", allowed);
         failure_(request, response, 405, "This address does not take that method.");
-    else
+    } else {
         failure_(request, response, 404, "There is nothing at this address.");
+    }
     if (!config_.log_requests)
         return;
     const std::chrono::duration<double, std::milli> took = std::chrono::steady_clock::now() - begin;

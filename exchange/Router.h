@@ -46,7 +46,9 @@ private:
         bool Matches(const std::string& path, std::optional<int>& id) const;
     };
 
-    const Route* Find(const httplib::Request& request, std::optional<int>& id, bool& known) const;
+    /// Nothing if no route takes the request; `allowed` are the methods that its path takes then.
+    const Route* Find(const httplib::Request& request, std::optional<int>& id,
+                      std::string& allowed) const;
     void Run(const Route& route, const Ask& ask, httplib::Response& response) const;
 
     const Config& config_;

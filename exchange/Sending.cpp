@@ -30,12 +30,14 @@ void Sending::AddTo(Router& router) {
 
 Sending::Outcome Sending::Send(int id, const std::string& visitor) const {
     const auto misses = service_.limits.Hourly("miss", visitor);
+    const int most = service_.config.misses_per_client_hour;
     const Pool::Lease lease(service_.pool);
+    if (Limits::Counted(*lease, misses) >= most)
+        return {429, Limits::TooManyMisses};
     const auto state = RecipeStore(*lease).Find(id);
     if (state)
         return SendUnfinished(*lease, id, *state, visitor);
-    if (!Limits::Count(*lease, misses, service_.config.misses_per_client_hour))
-        return {429, "Too many recipe IDs that do not exist. Please try again later."};
+    Limits::Count(*lease, misses, most);
     return {404, "There is no recipe to send under this ID."};
 }
 
@@ -55,16 +57,20 @@ Sending::Outcome Sending::SendUnfinished(Connection& connection, int id,
     return MailIt(connection, *recipe, visitor);
 }
 
-/// By recipient first: whoever is mailed enough already does not use up what others may send.
+/// All or nothing: a mail that one of the limits forbids uses up nothing of the others.
 bool Sending::MayMail(Connection& connection, const std::string& to,
                       const std::string& visitor) const {
     const auto& config = service_.config;
     const auto& limits = service_.limits;
-    return Limits::Count(connection, limits.Daily("mail to", Lower(to)),
-                         config.mails_per_recipient_day) &&
-           Limits::Count(connection, limits.Daily("mail by", visitor),
-                         config.mails_per_client_day) &&
-           Limits::Count(connection, limits.Daily("mails", ""), config.mails_per_day);
+    Transaction transaction(connection);
+    const bool may =
+        Limits::Count(connection, limits.Daily("mail to", Lower(to)),
+                      config.mails_per_recipient_day) &&
+        Limits::Count(connection, limits.Daily("mail by", visitor), config.mails_per_client_day) &&
+        Limits::Count(connection, limits.Daily("mails", ""), config.mails_per_day);
+    if (may)
+        transaction.Commit();
+    return may;
 }
 
 Sending::Outcome Sending::MailIt(Connection& connection, const Recipe& recipe,

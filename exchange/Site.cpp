@@ -98,7 +98,7 @@ void Site::RecipePage(const Ask& ask, httplib::Response& response) const {
             Limits::Count(*lease, misses, most);
     }
     if (slowed)
-        throw Refusal(429, "Too many recipe IDs that do not exist. Please try again later.");
+        throw Refusal(429, Limits::TooManyMisses);
     if (!recipe)
         throw Refusal(404, "There is no recipe with this ID.");
     response.set_content(Pages::RecipePage(*recipe), HtmlType);

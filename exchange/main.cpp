@@ -9,6 +9,9 @@
 
 #include <csignal>
 #include <iostream>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <thread>
 
 namespace {
 using namespace exchange;
@@ -57,10 +60,24 @@ sigset_t HoldSignals() {
     return ends;
 }
 
+/// A connection takes a descriptor, and so does what a worker has open of the database.
+void ClaimDescriptors(const Config& config) {
+    const auto wanted = static_cast<rlim_t>(config.connections + 8 * config.workers + 64);
+    rlimit limit{};
+    getrlimit(RLIMIT_NOFILE, &limit);
+    if (limit.rlim_max < wanted)
+        throw ConfigError("connections = " + std::to_string(config.connections) + " needs " +
+                          std::to_string(wanted) + " descriptors, and the system allows " +
+                          std::to_string(limit.rlim_max));
+    limit.rlim_cur = std::max(limit.rlim_cur, wanted);
+    setrlimit(RLIMIT_NOFILE, &limit);
+}
+
 /// Servers that start in the same moment on a database without any table can trip over each other
 /// at the first one: it is there when they look again.
 void BringUpToDate(Pool& pool) {
     constexpr int attempts = 5;
+    constexpr std::chrono::milliseconds pause(100);
     for (int attempt = 1;; ++attempt) {
         try {
             const Pool::Lease lease(pool);
@@ -68,6 +85,7 @@ void BringUpToDate(Pool& pool) {
         } catch (const soci::soci_error&) {
             if (attempt == attempts)
                 throw;
+            std::this_thread::sleep_for(pause);
         }
     }
 }
@@ -80,6 +98,7 @@ std::string Prepare(Pool& pool) {
 
 void Serve(const Config& config, Pool& pool) {
     const auto ends = HoldSignals();
+    ClaimDescriptors(config);
     const Limits limits(Prepare(pool));
     const Mailer mailer(config);
     const Service service{config, pool, limits, mailer};
@@ -90,7 +109,8 @@ void Serve(const Config& config, Pool& pool) {
     api.AddTo(router);
     sending.AddTo(router);
     site.AddTo(router);
-    Engine engine([&](const auto& request, auto& response) { router.Answer(request, response); });
+    Engine engine([&](const auto& request, auto& response) { router.Answer(request, response); },
+                  config.idle_seconds);
     Reception reception(config, engine);
     reception.Open();
     const Housekeeping housekeeping(service);
@@ -109,6 +129,7 @@ int Run(const Command& command) {
         return 0;
     }
     const auto config = Config::Read(command.config);
+    ::umask(077); // the database holds addresses
     Pool pool(config.database);
     if (command.action == "serve") {
         Serve(config, pool);
@@ -128,8 +149,11 @@ int Run(const Command& command) {
 int main(int argc, char** argv) {
     try {
         return Run(ReadCommand({argv + 1, argv + argc}));
-    } catch (const std::exception& error) {
+    } catch (const ConfigError& error) {
         std::cerr << "halvane-exchange: " << error.what() << "\n";
         return 2;
+    } catch (const std::exception& error) {
+        std::cerr << "halvane-exchange: " << Connection::Describe(error) << "\n";
+        return 3;
     }
 }

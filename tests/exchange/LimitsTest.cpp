@@ -28,6 +28,14 @@ TEST_P(LimitsTest, AllClientsTogetherCreateSoManyRecipesADay) {
     EXPECT_EQ(Post("/halvane/api/recipes", Soup())->status, 429);
 }
 
+TEST_P(LimitsTest, WhatOneLimitRefusesUsesUpNothingOfTheOthers) {
+    Start({{"recipes_per_day", "1"}});
+    Create();
+    for (int i = 0; i < 3; ++i)
+        EXPECT_EQ(Post("/halvane/api/recipes", Soup())->status, 429);
+    EXPECT_EQ(Count("SELECT Hits FROM counters WHERE Name LIKE 'recipe:%'"), 1);
+}
+
 TEST_P(LimitsTest, TheLimitsHoldAcrossServersAndRestarts) {
     Start({{"recipes_per_client_day", "3"}});
     const Server second({{"database", Database()}, {"recipes_per_client_day", "3"}});
@@ -55,6 +63,17 @@ TEST_P(LimitsTest, GuessingIDsIsStoppedAtEveryAddress) {
         EXPECT_EQ(StatusOf(path), 429) << path;
     EXPECT_EQ(StatusOf("/halvane/api/recipes/" + id), 429) << "a hit must not tell itself apart";
     EXPECT_EQ(StatusOf("/halvane/recipe.asp?recID=" + id), 429);
+    EXPECT_EQ(StatusOf("/halvane/sendrecipe.asp?recID=" + id), 429);
+}
+
+TEST_P(LimitsTest, WhoGuessesTooMuchSendsNoRecipeOfOthers) {
+    Start({{"misses_per_client_hour", "1"}, {"trusted_proxies", "127.0.0.1"}});
+    const auto path = "/halvane/sendrecipe.asp?recID=" + std::to_string(Create().id);
+    EXPECT_EQ(GetAs("192.0.2.1", "/halvane/sendrecipe.asp?recID=14")->status, 404);
+    EXPECT_EQ(GetAs("192.0.2.1", path)->status, 429);
+    EXPECT_EQ(Count("SELECT COUNT(*) FROM documents"), 0);
+    EXPECT_EQ(GetAs("192.0.2.2", path)->status, 200);
+    EXPECT_EQ(Count("SELECT COUNT(*) FROM documents"), 1);
 }
 
 TEST_P(LimitsTest, ClientsBehindATrustedProxyAreCountedApart) {
@@ -63,6 +82,8 @@ TEST_P(LimitsTest, ClientsBehindATrustedProxyAreCountedApart) {
     EXPECT_EQ(GetAs("192.0.2.1", "/halvane/api/recipes/12")->status, 429);
     EXPECT_EQ(GetAs("192.0.2.2", "/halvane/api/recipes/13")->status, 404);
     EXPECT_EQ(GetAs("203.0.113.9, 192.0.2.1", "/halvane/api/recipes/14")->status, 429);
+    EXPECT_EQ(GetAs("::ffff:192.0.2.1", "/halvane/api/recipes/15")->status, 429);
+    EXPECT_EQ(GetAs("::ffff:192.0.2.3", "/halvane/api/recipes/16")->status, 404);
 }
 
 TEST_P(LimitsTest, AHouseholdWithItsManyAddressesIsOneClient) {

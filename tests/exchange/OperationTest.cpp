@@ -3,8 +3,10 @@
 #include "support/Until.h"
 
 #include <csignal>
+#include <filesystem>
 #include <future>
 #include <regex>
+#include <sys/resource.h>
 
 /// Starting, watching, ending, backing up and sharing a database.
 class OperationTest : public ExchangeTest {
@@ -132,13 +134,97 @@ TEST_P(OperationTest, AnUnusableConfigurationIsNamedAndRefused) {
           Case{"just text", "no \"=\" in the line"},
           Case{"mail_tls = maybe", "must be one of required, tried, none"},
           Case{"mail_relay = smtp://x", "mail_from must be"},
-          Case{"mail_relay = file:///etc/passwd", "mail_relay must begin with"}}) {
+          Case{"mail_relay = file:///etc/passwd", "mail_relay must begin with"},
+          Case{"trusted_proxies = 127.0.0.1, localhost", "network addresses, not \"localhost\""},
+          Case{"database =", "database must be"},
+          Case{"trusted_proxies = 10.0.0.0/8", "network addresses, not \"10.0.0.0/8\""}}) {
         const auto outcome = RunWith(line);
         EXPECT_EQ(outcome.code, 2) << line;
         EXPECT_NE(outcome.output.find(said), std::string::npos) << outcome.output;
     }
     EXPECT_EQ(RunServer({"--config", "/nowhere"}).code, 2);
+    EXPECT_EQ(RunServer({"--config", "/"}).code, 2);
     EXPECT_EQ(RunServer({"--what"}).code, 2);
+}
+
+TEST_P(OperationTest, ADatabaseThatCannotBeReachedIsNoFaultOfTheConfiguration) {
+    const auto outcome = RunWith(OnServer() ? "database = postgresql:host=/nowhere"
+                                            : "database = /nowhere/exchange.db");
+    EXPECT_EQ(outcome.code, 3);
+    EXPECT_FALSE(outcome.output.empty());
+}
+
+TEST_P(OperationTest, AFailureIsLoggedWithoutTheTextsThatItWasAbout) {
+    Start();
+    Send();
+    exchange::Connection(Database())
+        .Once(OnServer()
+                  ? "ALTER TABLE recipes ADD CONSTRAINT none CHECK (RecipeYield <> 4) NOT VALID"
+                  : "CREATE TRIGGER none BEFORE INSERT ON recipes WHEN NEW.RecipeYield = 4"
+                    " BEGIN SELECT RAISE(ABORT, 'none'); END");
+    EXPECT_EQ(Post("/halvane/api/recipes", Soup())->status, 503);
+    EXPECT_EQ(Running().End(), 0);
+    const auto log = Running().Log();
+    EXPECT_NE(log.find("\"failure\""), std::string::npos) << log;
+    EXPECT_NE(log.find("none"), std::string::npos) << log;
+    for (const auto* text : {"anna", "bert", "Lentil", "Rinse"})
+        EXPECT_EQ(log.find(text), std::string::npos) << log;
+}
+
+TEST_P(OperationTest, AReplyThatIsHalfOnItsWayIsFinishedBeforeTheEnd) {
+    Start();
+    auto recipe = Soup();
+    recipe["Instructions"] = std::string(100'000, 'x');
+    const auto path = "/halvane/api/recipes/" + std::to_string(Send(recipe));
+    RawClient slow(Running().Port());
+    constexpr int requests = 200;
+    for (int i = 0; i < requests; ++i)
+        slow.Send("GET " + path + " HTTP/1.1\r\nHost: x\r\n\r\n");
+    const auto begun = [&] { return Running().Log().find("{id}\"") != std::string::npos; };
+    EXPECT_TRUE(Until(begun));
+    auto ending = std::async(std::launch::async, [&] { return Running().End(); });
+    const auto arrived = slow.ReadToEnd();
+    EXPECT_EQ(ending.get(), 0);
+    const auto last = arrived.rfind("HTTP/1.1 200");
+    ASSERT_NE(last, std::string::npos);
+    EXPECT_EQ(json::parse(RawClient::Body(arrived.substr(last)))["RecipeName"], "Lentil soup");
+}
+
+TEST_P(OperationTest, ItClaimsTheDescriptorsThatItsConnectionsNeed) {
+    rlimit usual{};
+    ASSERT_EQ(::getrlimit(RLIMIT_NOFILE, &usual), 0);
+    const rlimit few{200, usual.rlim_max};
+    ::setrlimit(RLIMIT_NOFILE, &few);
+    Start({{"connections_per_client", "500"}});
+    ::setrlimit(RLIMIT_NOFILE, &usual);
+    std::vector<std::unique_ptr<RawClient>> clients;
+    for (int i = 0; i < 300; ++i)
+        clients.push_back(std::make_unique<RawClient>(Running().Port()));
+    for (auto& client : clients) {
+        client->Send("GET /health HTTP/1.1\r\nHost: x\r\n\r\n");
+        EXPECT_EQ(RawClient::Status(client->ReadReply()), 200);
+    }
+    EXPECT_EQ(Running().End(), 0);
+}
+
+TEST_P(OperationTest, MoreConnectionsThanTheSystemAllowsAreRefusedAtTheStart) {
+    std::string output;
+    const auto command = "ulimit -n 500 && HALVANE_EXCHANGE_DATABASE='" + Database() +
+                         "' HALVANE_EXCHANGE_PORT=0 exec " + Server::Program();
+    EXPECT_EQ(Process::Run({"bash", "-c", command}, &output), 2);
+    EXPECT_NE(output.find("descriptors, and the system allows 500"), std::string::npos) << output;
+}
+
+TEST_P(OperationTest, TheEmbeddedDatabaseIsReadByNobodyElse) {
+    if (OnServer())
+        return;
+    Start();
+    Send();
+    using std::filesystem::perms;
+    for (const auto* suffix : {"", "-wal"}) {
+        const auto mode = std::filesystem::status(Database() + suffix).permissions();
+        EXPECT_EQ(mode & (perms::group_all | perms::others_all), perms::none) << suffix;
+    }
 }
 
 TEST_P(OperationTest, TheDeliveredConfigurationNamesEverySettingWithItsDefault) {

@@ -65,6 +65,24 @@ TEST_P(SlowClientsTest, AClientThatDoesNotReadItsReplyHoldsUpNobody) {
     ExpectPromptReplies();
 }
 
+TEST_P(SlowClientsTest, AClientThatAsksWithoutEndTakesTurnsWithTheOthers) {
+    Start({{"workers", "1"}});
+    std::string many;
+    for (int i = 0; i < 2000; ++i)
+        many += "GET /halvane/community.asp HTTP/1.1\r\nHost: x\r\n\r\n";
+    RawClient greedy(Running().Port());
+    std::atomic<bool> ending = false;
+    auto asking = std::async(std::launch::async, [&] {
+        while (!ending && greedy.Send(many))
+            ;
+    });
+    auto reading = std::async(std::launch::async, [&] { return greedy.ReadToEnd(300).size(); });
+    ExpectPromptReplies();
+    ending = true;
+    asking.get();
+    EXPECT_GT(reading.get(), 100'000U);
+}
+
 TEST_P(SlowClientsTest, OneClientHasSoManyConnectionsAndTheOthersTheirs) {
     Start({{"connections_per_client", "5"}});
     std::vector<std::unique_ptr<RawClient>> many;
