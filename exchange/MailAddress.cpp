@@ -30,6 +30,13 @@ bool EachPart(std::string_view text, bool (*passes)(std::string_view)) {
     }
     return passes(text);
 }
+
+/// A name below a top-level domain, and not the number of a host.
+bool EndsInLetters(std::string_view domain) {
+    const auto dot = domain.rfind('.');
+    return dot != std::string_view::npos && dot + 1 < domain.size() &&
+           !(domain[dot + 1] >= '0' && domain[dot + 1] <= '9');
+}
 } // namespace
 
 bool IsMailAddress(std::string_view text) {
@@ -38,8 +45,8 @@ bool IsMailAddress(std::string_view text) {
         return false;
     const auto name = text.substr(0, at);
     const auto domain = text.substr(at + 1);
-    return name.size() <= 64 && EachPart(name, IsAtom) &&
-           domain.find('.') != std::string_view::npos && EachPart(domain, IsLabel);
+    return name.size() <= 64 && EachPart(name, IsAtom) && EachPart(domain, IsLabel) &&
+           EndsInLetters(domain);
 }
 
 } // namespace exchange

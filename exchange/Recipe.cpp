@@ -1,6 +1,11 @@
 #include "exchange/Recipe.h"
 
+#include <cmath>
+
 namespace exchange {
+namespace {
+constexpr double BeyondMeasure = 1e12;
+}
 
 std::optional<double> Recipe::PerServing(int nutrient) const {
     std::optional<double> sum;
@@ -9,7 +14,7 @@ std::optional<double> Recipe::PerServing(int nutrient) const {
             sum = sum.value_or(0) + *amount;
     if (sum)
         *sum /= Servings();
-    return sum;
+    return sum && std::abs(*sum) < BeyondMeasure ? sum : std::nullopt;
 }
 
 } // namespace exchange

@@ -31,7 +31,8 @@ struct Recipe {
     std::vector<Ingredient> ingredients;
 
     double Servings() const { return yield == 0 ? 1 : yield; }
-    /// The sum over the ingredients by one serving; nothing if no ingredient has a value.
+    /// The sum over the ingredients by one serving; nothing if no ingredient has a value, or if the
+    /// servings are so small that it is beyond all measure.
     std::optional<double> PerServing(int nutrient) const;
 };
 

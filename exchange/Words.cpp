@@ -7,6 +7,7 @@
 namespace exchange::Words {
 namespace {
 constexpr size_t Longest = 40;
+constexpr size_t MostOfARecipe = 1000;
 
 /// Letters and digits; every byte of a letter beyond ASCII belongs to the word.
 bool Belongs(char c) {
@@ -63,6 +64,7 @@ std::vector<std::string> Of(const Recipe& recipe) {
     Collect(recipe.name, words);
     for (const auto& ingredient : recipe.ingredients)
         Collect(ingredient.foodName.value_or(""), words);
+    words.resize(std::min(words.size(), MostOfARecipe));
     Unique(words);
     return words;
 }

@@ -9,7 +9,8 @@
 namespace exchange {
 
 /// The words that a public recipe is found by: those of its name and of its ingredients, each once,
-/// in small letters and in the singular.
+/// in small letters and in the singular. The first thousand count: no recipe is found by
+/// everything.
 namespace Words {
 std::vector<std::string> Of(std::string_view text);
 std::vector<std::string> Of(const Recipe& recipe);

@@ -118,6 +118,30 @@ TEST_P(PagesTest, ARecipeWithoutYieldOrIngredientsHasAPageToo) {
     EXPECT_EQ(page.find("Serving size"), std::string::npos);
 }
 
+TEST_P(PagesTest, AYieldBeyondAllMeasureGivesNoNumbersWithoutMeaning) {
+    for (const auto yield : {1e-300, 1e-12, -1e-320}) {
+        auto recipe = Soup();
+        recipe["RecipeYield"] = yield;
+        const auto page = Text("/halvane/recipe.asp?recID=" + std::to_string(Send(recipe)));
+        EXPECT_NE(page.find("<dd>-- per serving</dd>"), std::string::npos) << yield;
+    }
+    EXPECT_NE(List().find("-- calories per serving"), std::string::npos);
+}
+
+TEST_P(PagesTest, NoRecipeIsFoundByEverything) {
+    auto rows = json::array();
+    for (int row = 0; row < 200; ++row) {
+        std::string food;
+        for (int word = 0; word < 20; ++word)
+            food += "w" + std::to_string(row * 20 + word) + " ";
+        rows.push_back(Row(1, food));
+    }
+    Send(Soup(), rows);
+    EXPECT_EQ(Names(List("?q=lentil")).size(), 1U);
+    EXPECT_EQ(Names(List("?q=w500")).size(), 1U);
+    EXPECT_TRUE(Names(List("?q=w3999")).empty());
+}
+
 TEST_P(PagesTest, TheFrontPageAnswersAtBothItsAddresses) {
     EXPECT_EQ(Text("/index.asp?ref=Halvane"), Text("/"));
     EXPECT_NE(Text("/").find("<h1>Halvane</h1>"), std::string::npos);

@@ -97,7 +97,7 @@ TEST_P(SendingTest, ABadAddressIsSaidAndNothingIsSent) {
          {"bert", "bert@", "@example.org", "bert@host", "a b@example.org", "a@b@example.org",
           "bert@example.org,carl@example.org", "Bert <bert@example.org>", "bert@example..org",
           ".bert@example.org", "bert@-example.org", "\"bert\"@example.org", "bert@[127.0.0.1]",
-          "bert@example.org>", "böt@example.org"}) {
+          "bert@example.org>", "böt@example.org", "bert@127.0.0.1", "bert@example.org."}) {
         const auto created = Create(To(address));
         const auto sentence = SendCreated(created.id);
         EXPECT_TRUE(sentence.starts_with("Your friend's email address is not one")) << sentence;
@@ -211,6 +211,10 @@ TEST_P(SendingTest, RecipientsClientsAndDaysHaveTheirLimits) {
         EXPECT_NE(SendCreated(created.id).find("limit for today"), std::string::npos) << setting;
         EXPECT_TRUE(IsReadable(created.id));
         EXPECT_EQ(sink.Mails().size(), 2U) << setting;
+        long long counted = 0;
+        exchange::Connection(settings["database"])
+            .First("SELECT SUM(Hits) FROM counters WHERE Name LIKE 'mail%'", soci::into(counted));
+        EXPECT_EQ(counted, 6) << setting << " uses up nothing of the other limits";
     }
 }
 
