@@ -71,10 +71,10 @@ std::string Ingredients(const Recipe& recipe) {
 
 std::string Card(const Recipe& recipe) {
     std::string text = recipe.name + "\n\n";
-    text += "Recipe yield: " + Numbers::Servings(recipe.yield) + "\n";
+    text += "Recipe yield: " + Numbers::Counted(recipe.yield, "serving") + "\n";
     if (!recipe.servingName.empty())
         text += "Serving size: " + recipe.servingName + "\n";
-    text += "Total time: " + Numbers::Short(recipe.prepTime) + " minutes\n";
+    text += "Total time: " + Numbers::Counted(recipe.prepTime, "minute") + "\n";
     if (const auto calories = recipe.PerServing(CaloriesPosition - 1))
         text += "Calories: " + Numbers::Whole(*calories) + " per serving\n";
     text += "\n" + Ingredients(recipe);

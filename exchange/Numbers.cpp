@@ -21,8 +21,8 @@ std::string Short(double number) {
     return shortened == "-0" ? "0" : shortened;
 }
 
-std::string Servings(double number) {
-    return Short(number) + (number == 1 ? " serving" : " servings");
+std::string Counted(double number, const std::string& one) {
+    return Short(number) + " " + one + (number == 1 ? "" : "s");
 }
 
 } // namespace exchange::Numbers

@@ -2,11 +2,13 @@
 
 #include "exchange/Assets.h"
 #include "exchange/Numbers.h"
+#include "exchange/Text.h"
 
 #include <kainjow/mustache.hpp>
 
 #include <httplib.h>
 
+#include <cmath>
 #include <ctime>
 
 namespace exchange::Pages {
@@ -54,9 +56,14 @@ std::string Calories(const std::optional<double>& calories) {
 }
 
 std::string NoteOf(const Listed& recipe) {
-    const auto rest = Calories(recipe.calories) + " calories per serving, " +
-                      Numbers::Short(recipe.prepTime) + " minutes";
-    return recipe.servingName.empty() ? rest : recipe.servingName + ", " + rest;
+    std::vector<std::string> parts;
+    if (!recipe.servingName.empty())
+        parts.push_back(recipe.servingName);
+    if (recipe.calories)
+        parts.push_back(Numbers::Counted(std::nearbyint(*recipe.calories), "calorie") +
+                        " per serving");
+    parts.push_back(Numbers::Counted(recipe.prepTime, "minute"));
+    return Join(parts, ", ");
 }
 
 std::string LineOf(const Listed& recipe) {
@@ -74,6 +81,12 @@ std::string AddressOf(const std::string& query, int page) {
     if (!query.empty())
         address += "&q=" + httplib::detail::encode_query_param(query);
     return address;
+}
+
+std::string HeadingOf(const ListPage& list) {
+    if (list.query.empty())
+        return "Newest recipes";
+    return list.recipes.empty() ? "Nothing found" : "Recipes found";
 }
 
 std::string EmptyText(const ListPage& list) {
@@ -155,7 +168,8 @@ std::string Community(const ListPage& list) {
         lines += LineOf(list.recipes[i]);
     data values;
     values.set("query", list.query);
-    values.set("heading", list.query.empty() ? "Newest recipes" : "Recipes found");
+    values.set("searched", !list.query.empty());
+    values.set("heading", HeadingOf(list));
     values.set("any", !list.recipes.empty());
     values.set("lines", lines);
     values.set("empty", EmptyText(list));
@@ -168,11 +182,12 @@ std::string RecipePage(const Recipe& recipe) {
     data values;
     values.set("name", recipe.name);
     values.set("id", std::to_string(recipe.id));
-    values.set("yield", Numbers::Servings(recipe.yield));
-    values.set("time", Numbers::Short(recipe.prepTime));
+    values.set("yield", Numbers::Counted(recipe.yield, "serving"));
+    values.set("time", Numbers::Counted(recipe.prepTime, "minute"));
     values.set("hasServing", !recipe.servingName.empty());
     values.set("serving", recipe.servingName);
     values.set("calories", Calories(recipe.PerServing(CaloriesPosition - 1)));
+    values.set("hasInstructions", !Trimmed(recipe.instructions).empty());
     values.set("instructions", recipe.instructions);
     values.set("any", !recipe.ingredients.empty());
     values.set("ingredients", IngredientsOf(recipe));

@@ -111,10 +111,12 @@ TEST_P(PagesTest, ARecipeWithoutYieldOrIngredientsHasAPageToo) {
     auto recipe = Soup();
     recipe["RecipeYield"] = 0;
     recipe["ServingName"] = "";
+    recipe["Instructions"] = "\r\n";
     const auto page =
         Text("/halvane/recipe.asp?recID=" + std::to_string(Send(recipe, json::array())));
     EXPECT_NE(page.find("<dd>-- per serving</dd>"), std::string::npos);
     EXPECT_NE(page.find("came without ingredients"), std::string::npos);
+    EXPECT_NE(page.find("came without instructions"), std::string::npos);
     EXPECT_EQ(page.find("Serving size"), std::string::npos);
 }
 
@@ -125,7 +127,24 @@ TEST_P(PagesTest, AYieldBeyondAllMeasureGivesNoNumbersWithoutMeaning) {
         const auto page = Text("/halvane/recipe.asp?recID=" + std::to_string(Send(recipe)));
         EXPECT_NE(page.find("<dd>-- per serving</dd>"), std::string::npos) << yield;
     }
-    EXPECT_NE(List().find("-- calories per serving"), std::string::npos);
+    EXPECT_NE(List().find("<span class=\"note\">1 bowl, 45.5 minutes</span>"), std::string::npos);
+}
+
+TEST_P(PagesTest, OneOfAThingIsNotSeveral) {
+    auto recipe = Soup();
+    recipe["RecipeYield"] = recipe["PrepTime"] = 1;
+    const auto id = std::to_string(Send(recipe, json::array({Row(1)})));
+    const auto page = Text("/halvane/recipe.asp?recID=" + id);
+    EXPECT_NE(page.find("<dd>1 serving</dd>"), std::string::npos);
+    EXPECT_NE(page.find("<dd>1 minute</dd>"), std::string::npos);
+    EXPECT_NE(List().find(">1 bowl, 1 calorie per serving, 1 minute<"), std::string::npos);
+}
+
+TEST_P(PagesTest, ASearchWithoutResultSaysSoAndLeadsBack) {
+    const auto page = List("?q=nothing");
+    EXPECT_NE(page.find(">Nothing found<"), std::string::npos);
+    EXPECT_NE(page.find("<a href=\"/halvane/community.asp\">Show the newest"), std::string::npos);
+    EXPECT_EQ(List().find("Show the newest"), std::string::npos);
 }
 
 TEST_P(PagesTest, NoRecipeIsFoundByEverything) {
