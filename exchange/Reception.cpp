@@ -139,8 +139,10 @@ void Reception::Stop() {
     for (auto& thread : threads_)
         thread.join();
     Flush();
-    while (!lines_.empty())
+    while (!lines_.empty()) {
+        Discard(lines_.front());
         Close(lines_.front());
+    }
 }
 
 /// Gives the replies that are half on their way a last moment.
@@ -155,6 +157,13 @@ void Reception::Flush() {
             return;
         ::poll(waiting.data(), waiting.size(), 50);
     }
+}
+
+/// Closing on what has arrived and was not read would take from the other side what was sent.
+void Reception::Discard(const Line& line) {
+    char portion[Portion];
+    for (int i = 0; i < 64 && ::recv(line.socket, portion, sizeof portion, 0) > 0; ++i)
+        continue;
 }
 
 void Reception::Work() {

@@ -50,6 +50,7 @@ private:
     void AwaitMore(Line& line);
     void Close(Line& line);
     void Flush();
+    static void Discard(const Line& line);
     void CloseExpired();
     void KeepTime();
     bool IsFull(const std::string& client, const std::string& household) const;
