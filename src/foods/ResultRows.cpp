@@ -8,7 +8,11 @@
 
 #include <algorithm>
 
-static constexpr int belowLastRow = 120; // twips
+namespace {
+// In twips.
+constexpr int belowLastRow = 120;
+constexpr int barAbove = 15; ///< by which the bar reaches into the line around the frame
+} // namespace
 
 ResultRows::ResultRows(QWidget* parent)
     : ScrollPane(parent)
@@ -98,6 +102,12 @@ void ResultRows::SizePane() {
     FitWidths();
 }
 
+void ResultRows::PlaceBar() {
+    QRect place = vsResultsPane()->geometry();
+    place.setTop(-Twips::ToPixels(barAbove));
+    vsResultsPane()->setGeometry(place);
+}
+
 /// A list that fits has the bar's room as well.
 void ResultRows::FitWidths() {
     const bool barShown = vsResultsPane()->isVisibleTo(this);
@@ -124,5 +134,6 @@ void ResultRows::MaterialiseShown() {
 
 void ResultRows::resizeEvent(QResizeEvent* event) {
     ScrollPane::resizeEvent(event);
+    PlaceBar();
     FitWidths();
 }

@@ -37,6 +37,7 @@ private:
     void LoadRow(int index, const Food& food, bool recipeMode);
     void Connect(ucFood* row, int index);
     void SizePane();
+    void PlaceBar();
     void FitWidths();
     void PlaceNoMatch();
     void MaterialiseShown();

@@ -156,6 +156,16 @@ TEST_F(ResultRowsTest, TheFrameFillsThePanelBelowTheFields) {
     EXPECT_EQ(panel_.height() - place.bottom() - 1, Twips::ToPixels(30));
 }
 
+TEST_F(ResultRowsTest, TheBarStandsOnTheInnerRightEdgeOfTheFrameAndReachesIntoItsTopLine) {
+    List(20);
+    const QRect bar = Bar()->geometry();
+    EXPECT_EQ(bar.right(), Box()->geometry().right());
+    EXPECT_EQ(bar.top(), Box()->y() - Twips::ToPixels(15));
+    EXPECT_EQ(bar.height(), Box()->height() + Twips::ToPixels(15));
+    panel_.resize(500, 400);
+    EXPECT_EQ(Bar()->height(), Box()->height() + Twips::ToPixels(15));
+}
+
 TEST_F(ResultRowsTest, TheTemplateRowIsNeverShown) {
     List(3);
     EXPECT_FALSE(Row(0)->isVisible());

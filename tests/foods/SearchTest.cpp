@@ -394,6 +394,22 @@ TEST_F(SearchTest, StateIsWrittenOnDestructionAndReadAtCreation) {
     EXPECT_FALSE(Find(panel_.get(), "lblNoMatch")->isVisible());
 }
 
+TEST_F(SearchTest, EachSourceIsKeptUnderItsOwnName) {
+    const std::pair<const char*, const char*> sources[] = {{"ckStock", "SEARCH_STOCK"},
+                                                           {"ckCustom", "SEARCH_CUSTOM"},
+                                                           {"ckRecipes", "SEARCH_RECIPES"}};
+    for (const auto& [cleared, own] : sources) {
+        for (const auto& [box, key] : sources)
+            Tick(box, box != cleared);
+        panel_.reset();
+        for (const auto& [box, key] : sources)
+            EXPECT_EQ(GetRegValue(key), key == own ? "0" : "1") << cleared << ' ' << key;
+        Open();
+        for (const auto& [box, key] : sources)
+            EXPECT_EQ(Ticked(box), box != cleared) << cleared << ' ' << box;
+    }
+}
+
 TEST_F(SearchTest, OnlyExactlyZeroClearsABox) {
     for (const char* value : {"1", "", "abc", "00", "0.0", " 0"}) {
         panel_.reset();

@@ -8,10 +8,12 @@
 #include "support/HalvaneTest.h"
 #include "toolkit/Style.h"
 #include "toolkit/Twips.h"
+#include "toolkit/ucBox.h"
 #include "toolkit/ucButton.h"
 #include "toolkit/ucRadio.h"
 
 #include <QApplication>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QPointer>
@@ -721,6 +723,28 @@ TEST_F(ProfileTest, TheNewUserModesHaveNoAdvancedPage) {
     frmProfile* form = Fresh();
     EXPECT_FALSE(Find(form, "cmdAdvanced")->isVisible());
     EXPECT_FALSE(Find(form, "txtCals")->isVisible());
+}
+
+TEST_F(ProfileTest, BothPagesCarryTheirCaptions) {
+    frmProfile* form = Edit(AddUser("Anna"));
+    QStringList texts;
+    for (const QLabel* label : form->findChildren<QLabel*>())
+        texts << label->text();
+    for (const ucBox* box : form->findChildren<ucBox*>())
+        texts << box->Caption();
+    for (const char* caption : {"User Name", "Age", "Height", "Current Weight", "Desired Weight",
+                                "Gender", "Activity Level", "Feet", "Inches", "Years"})
+        EXPECT_EQ(texts.count(QLatin1String(caption)), 1) << caption;
+    EXPECT_EQ(texts.count(QStringLiteral("Pounds")), 2);
+    for (const NutrientInfo& info : Nutrients())
+        EXPECT_EQ(texts.count(QLatin1String(info.editCaption)), 1) << info.editCaption;
+    const std::pair<const char*, const char*> pressed[] = {
+        {"opGender0", "Female"},     {"opGender1", "Male"},       {"opAct0", "Sedentary"},
+        {"opAct1", "Low"},           {"opAct2", "Medium"},        {"opAct3", "High"},
+        {"cmdAdvanced", "Advanced"}, {"cmdSave", "Save Profile"}, {"cmdCancel", "Cancel"}};
+    for (const auto& [name, caption] : pressed)
+        EXPECT_EQ(Find(form, QLatin1String(name))->property("Caption").toString(),
+                  QLatin1String(caption));
 }
 
 TEST_F(ProfileTest, FieldsHaveTheirTips) {
