@@ -6,22 +6,12 @@
 #include "runtime/AppState.h"
 #include "runtime/RuntimeError.h"
 #include "runtime/Seams.h"
+#include "toolkit/LeaveField.h"
 #include "toolkit/MousePointer.h"
 
 #include <QApplication>
 #include <QEvent>
 #include <QScopedValueRollback>
-
-namespace {
-
-/// Takes over what is being typed, as if the person had left the field.
-void LeaveField(const QWidget* within) {
-    QWidget* field = QApplication::focusWidget();
-    if (field && within && within->isAncestorOf(field))
-        field->clearFocus();
-}
-
-} // namespace
 
 Navigation& TheNavigation() {
     static Navigation navigation;

@@ -8,6 +8,7 @@
 #include "store/Connection.h"
 #include "store/Recordset.h"
 #include "toolkit/CentreWindow.h"
+#include "toolkit/LeaveField.h"
 #include "toolkit/Style.h"
 #include "toolkit/Twips.h"
 #include "toolkit/ucButton.h"
@@ -101,10 +102,12 @@ void frmProfile::CreateUser() {
     newUser_ = true;
 }
 
+/// A weight that is being typed belongs to what the form shows.
 void frmProfile::EditUser(qint32 uid) {
     auto* form = qobject_cast<frmProfile*>(LoadScreen(QStringLiteral("frmProfile")));
     if (!form)
         return;
+    LeaveField(form->window());
     form->LoadUser(uid);
     ShowScreen(form->objectName());
 }

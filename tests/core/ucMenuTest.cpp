@@ -6,6 +6,7 @@
 #include "core/OpenURL.h"
 #include "core/frmHOME.h"
 #include "core/ucMenu.h"
+#include "intake/frmDay.h"
 #include "model/User.h"
 #include "model/frmProfile.h"
 #include "runtime/AppState.h"
@@ -306,6 +307,28 @@ TEST_F(ucMenuTest, EditMyProfileEditsTheCurrentUserAndCancelLeadsBack) {
     Click(Find(profile, QStringLiteral("cmdCancel")));
     QCoreApplication::sendPostedEvents();
     EXPECT_EQ(TheNavigation().Front()->objectName(), QStringLiteral("frmMain"));
+}
+
+TEST_F(ucMenuTest, AWeightBeingTypedReachesTheProfileThatIsEdited) {
+    OpenDatabases();
+    AddUser(QStringLiteral("Anna"));
+    App().AppInfo.AUTOUPDATERDI = true;
+    App().CurrentDate = QDate(2002, 4, 3);
+    TheNavigation().Register<frmDay>(QStringLiteral("frmDay"));
+    TheNavigation().Register<frmProfile>(QStringLiteral("frmProfile"));
+    ::ShowScreen(QStringLiteral("frmDay"));
+    auto* weight = Find<QLineEdit>(TheNavigation().Front(), QStringLiteral("txtWeight"));
+    weight->setFocus();
+    QTest::keyClicks(weight, QStringLiteral("195"));
+    Press(Label("lblEdit"));
+    Press(Item(7));
+    Screen* profile = TheNavigation().Front();
+    ASSERT_EQ(profile->objectName(), QStringLiteral("frmProfile"));
+    EXPECT_EQ(Find<QLineEdit>(profile, QStringLiteral("txtWeight"))->text(), QStringLiteral("195"));
+    EXPECT_EQ(Find<QLineEdit>(profile, QStringLiteral("txtCals"))->text(),
+              Users("SELECT Calories FROM profiles").toString());
+    Click(Find(profile, QStringLiteral("cmdSave")));
+    EXPECT_EQ(Users("SELECT current_weight FROM profiles").toInt(), 195);
 }
 
 TEST_F(ucMenuTest, ContentsOpensTheHelpAndTheWebSiteThePageOfTheServer) {
