@@ -1,4 +1,5 @@
 #include "core/CoreTest.h"
+#include "support/Unwinding.h"
 
 #include "core/Navigation.h"
 #include "core/Screens.h"
@@ -370,6 +371,7 @@ TEST_F(frmMainTest, AStoreThatFailsLeavesTheFrameAndTheNextTryShowsTheScreen) {
 }
 
 TEST_F(frmMainTest, AMonthThatCannotBeReadEndsTheProgramWithAMessage) {
+    const Unwinding leavesEvents;
     frmMain* home = ShowMain();
     Users(QStringLiteral("ALTER TABLE USER_FOODS RENAME TO gone"));
     QString message;

@@ -81,9 +81,14 @@ TEST_F(KillTest, WhatWasAcknowledgedSurvivesTwoHundredKillsAndNothingIsHalfWritt
     EXPECT_TRUE(Numbers(FoodDB(), QStringLiteral("SELECT Calories FROM FOODS WHERE ID > 23508"))
                     .contains(acknowledged.numbers["custom"]));
     EXPECT_EQ(Foods(QStringLiteral("SELECT count(*) FROM FOODS WHERE ID > 23508 AND "
-                                   "(Serv_GM_WT_A IS NOT 100 OR FoodName IS NOT "
-                                   "CAST(CAST(Calories AS INTEGER) AS TEXT))")),
+                                   "FoodName IS NOT NULL AND (Serv_GM_WT_A IS NOT 100 OR "
+                                   "FoodName IS NOT CAST(CAST(Calories AS INTEGER) AS TEXT))")),
               0);
+    EXPECT_EQ(
+        Foods(QStringLiteral("SELECT count(*) FROM FOODS WHERE ID > 23508 AND FoodName IS NULL AND "
+                             "coalesce(Calories, Serv_GM_WT_A, Serv_Desc_A) IS NOT NULL")),
+        0)
+        << "a key that was given out has nothing beside it before all of it is there";
     EXPECT_EQ(Users(QStringLiteral(
                   "SELECT count(*) FROM USER_FOODS WHERE FoodName IS NULL OR UDate IS NULL "
                   "OR QTY IS NULL OR Calories IS NULL")),
