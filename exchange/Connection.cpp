@@ -27,16 +27,9 @@ std::string WithTimeouts(std::string server) {
     return server;
 }
 
-/// The embedded library counts its memory under a lock that all threads share, for nobody.
-void CountNoMemory() {
-    [[maybe_unused]] static const int done = sqlite_api::sqlite3_config(SQLITE_CONFIG_MEMSTATUS, 0);
-}
-
 soci::connection_parameters Parameters(const std::string& database) {
-    if (IsEmbedded(database)) {
-        CountNoMemory();
+    if (IsEmbedded(database))
         return {soci::sqlite3, "db=\"" + database + "\" timeout=20 shared_cache=false"};
-    }
     if (database.starts_with("postgresql://"))
         return {soci::postgresql, WithTimeouts(database)};
     return {soci::postgresql, WithTimeouts(database.substr(ServerPrefix.size()))};

@@ -27,8 +27,8 @@ struct Append {
     void operator()(int number) const { line += std::to_string(number); }
 };
 
-/// Writes what has gathered, in a thread of its own: a log that is slow to take its lines holds up
-/// nobody who answers. What it cannot take at all is dropped beyond a measure.
+/// Writes what has gathered in a moment, in a thread of its own: a log that is slow to take its
+/// lines holds up nobody who answers. What it cannot take at all is dropped beyond a measure.
 class Writer {
 public:
     Writer()
@@ -56,11 +56,13 @@ public:
 
 private:
     static constexpr size_t Most = 4 << 20;
+    static constexpr std::chrono::milliseconds AMoment{20};
 
     void Run() {
         std::unique_lock lock(mutex_);
         while (!ending_ || !lines_.empty()) {
             wake_.wait(lock, [this] { return ending_ || !lines_.empty(); });
+            wake_.wait_for(lock, AMoment, [this] { return ending_; });
             const auto lines = std::exchange(lines_, {});
             lock.unlock();
             Write(lines);
