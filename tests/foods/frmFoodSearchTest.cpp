@@ -4,6 +4,7 @@
 #include "foods/frmNutInfo.h"
 #include "foods/ucFood.h"
 #include "foods/ucSearchResults.h"
+#include "runtime/Seams.h"
 #include "runtime/Settings.h"
 #include "support/Restored.h"
 #include "toolkit/ucRadio.h"
@@ -78,6 +79,27 @@ TEST_F(FrmFoodSearchTest, TheFactsBelongToTheWindowOfTheScreenThatOwnsTheDialog)
     QWidget* examine = Find(Rows(*dialog.ucSearchResults1())[0], "imgInfo_W_A");
     WithModal([&](QWidget* facts) { EXPECT_EQ(facts->parentWidget(), &home); },
               [&] { Click(examine); });
+}
+
+TEST_F(FrmFoodSearchTest, MessagesOfThePanelStandOverTheDialogWithoutCancel) {
+    frmFoodSearch dialog;
+    dialog.show();
+    QStringList messages;
+    TheSeams().ShowAlert = [&](const QString& message, QObject* owner, bool cancel) {
+        messages << message;
+        EXPECT_EQ(owner, &dialog);
+        EXPECT_FALSE(cancel);
+        return true;
+    };
+    Search(*dialog.ucSearchResults1(), "bread");
+    const QWidget* row = Rows(*dialog.ucSearchResults1())[0];
+    Find<QLineEdit>(row, "txtQTY_A")->setText("0");
+    Click(Find(row, "cmdEAT_a"));
+    Click(Find(row, "imgInfo_W_A"));
+    Search(*dialog.ucSearchResults1(), "");
+    EXPECT_EQ(messages, QStringList({"Please enter a quantity (QTY) between .1 and 99",
+                                     "Please enter a valid quantity (between .1 and 99)",
+                                     "Please enter a search term."}));
 }
 
 TEST_F(FrmFoodSearchTest, DoneAndEscapeClose) {
