@@ -166,11 +166,11 @@ bool Flow::HasWindow() {
 }
 
 void Flow::BringForward() {
-    QWidget* modal = QApplication::activeModalWidget();
-    QWidget* window = modal ? modal : AnyWindow();
-    if (!window)
-        return;
-    window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
-    window->raise();
-    window->activateWindow();
+    for (QWidget* window : {AnyWindow(), QApplication::activeModalWidget()}) {
+        if (!window)
+            continue;
+        window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
+        window->raise();
+        window->activateWindow();
+    }
 }

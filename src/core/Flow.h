@@ -13,5 +13,5 @@ int Main(SingleInstance& instance);
 void QuitApp();
 
 bool HasWindow();    ///< any window stands open
-void BringForward(); ///< the window that takes input, or the frame, to the front
+void BringForward(); ///< the frame to the front, and the dialog that takes the input before it
 } // namespace Flow

@@ -185,7 +185,8 @@ void frmHOME::AddShortcuts() {
 
 void frmHOME::ShowFront(const QString& screen) {
     for (int index = 0; index < logoIndex; ++index)
-        buttons_[index]->SetChosen(screen == QLatin1String(navigationButtons[index].screen));
+        buttons_[index]->SetChosen(!screen.isEmpty() &&
+                                   screen == QLatin1String(navigationButtons[index].screen));
     aaWindow_->SetCaption(App().WindowTitle);
     aaWindow_->raise();
 }

@@ -344,6 +344,18 @@ TEST_F(FlowTest, BeingAskedForwardBringsAMinimisedFrameBack) {
     EXPECT_TRUE(QTest::qWaitForWindowActive(TheNavigation().Frame()));
 }
 
+TEST_F(FlowTest, BeingAskedForwardBringsTheFrameBackBehindItsDialog) {
+    StartWithAnna();
+    WithModal(
+        [](QWidget* dialog) {
+            TheNavigation().Frame()->showMinimized();
+            Flow::BringForward();
+            EXPECT_FALSE(TheNavigation().Frame()->isMinimized());
+            EXPECT_TRUE(QTest::qWaitForWindowActive(dialog));
+        },
+        [] { ChooseFromMenu(6); });
+}
+
 TEST_F(FlowTest, QuittingStoresThePlaceInTwipsAndClosesEverything) {
     StartWithAnna();
     TheNavigation().Frame()->move(123, 77);

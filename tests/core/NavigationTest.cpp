@@ -151,11 +151,13 @@ TEST_P(ProfileOverDay, AScreenThatComesInsteadIsNotCovered) {
     EXPECT_EQ(Title(), QStringLiteral("Reports"));
 }
 
-TEST_F(NavigationTest, AScreenThatClosesWithNothingBeneathLeavesAnEmptyTitle) {
+TEST_F(NavigationTest, AScreenThatClosesWithNothingBeneathLeavesAnEmptyTitleAndNoButtonChosen) {
     Show("frmProfile");
     CloseFront();
     EXPECT_EQ(TheNavigation().Front(), nullptr);
     EXPECT_EQ(Title(), QString());
+    for (const char* button : {"cmdCal", "cmdDay", "cmdCommunity"})
+        EXPECT_FALSE(Find(Frame(), QLatin1String(button))->property("Chosen").toBool()) << button;
     EXPECT_NE(Show("frmProfile"), nullptr);
 }
 
@@ -250,6 +252,26 @@ TEST_F(NavigationTest, AScreenThatTheFramesOwnLoadingBringsIsMadeOnce) {
     QObject* home = ::LoadScreen(QStringLiteral("frmMain"));
     EXPECT_EQ(ScreenLog().count(QStringLiteral("frmMain made")), 1);
     EXPECT_EQ(TheNavigation().Front(), home);
+}
+
+TEST_F(NavigationTest, AMessageStandsOverTheFrameWithOrWithoutAnOwner) {
+    TheNavigation().InstallSeams();
+    for (QWidget* owner : {static_cast<QWidget*>(nullptr), static_cast<QWidget*>(Show("frmDay"))})
+        WithModal(
+            [this](QWidget* alert) {
+                EXPECT_EQ(alert->objectName(), QStringLiteral("frmAlert"));
+                EXPECT_EQ(alert->parentWidget(), Frame());
+                Click(Find(alert, QStringLiteral("cmdOK")));
+            },
+            [owner] { EXPECT_TRUE(::ShowAlert(QStringLiteral("Hello"), owner, true)); });
+}
+
+TEST_F(NavigationTest, AMessageBeforeThereIsAFrameStandsAlone) {
+    TheNavigation().Reset();
+    TheNavigation().InstallSeams();
+    WithModal([](QWidget* alert) { EXPECT_EQ(alert->parentWidget(), nullptr); },
+              [] { EXPECT_FALSE(::ShowAlert(QStringLiteral("Hello"))); });
+    EXPECT_FALSE(TheNavigation().HasFrame());
 }
 
 TEST_F(NavigationTest, TheTitleFloatsAboveTheScreen) {
