@@ -78,10 +78,12 @@ Screen* Navigation::ShowScreen(const QString& name) {
     Screen* screen = nullptr;
     try {
         MousePointer::SetBusy();
+        const bool fresh = !loaded_.value(name);
+        Screen* next = LoadScreen(name);
         if (name == ScreenNames::Profile)
-            Cover(LoadScreen(name));
+            Cover(next);
         else
-            LeaveOthers();
+            LeaveOthers(fresh ? next : nullptr);
         screen = LoadScreen(name);
         if (name == ScreenNames::Day)
             Frame()->ResetMenu();
@@ -96,17 +98,20 @@ Screen* Navigation::ShowScreen(const QString& name) {
     return screen;
 }
 
-/// All loaded screens, the one to be shown among them, are closed, or only hidden where the setting
-/// says so. One that is closed here comes up anew.
-void Navigation::LeaveOthers() {
+/// All loaded screens are closed, or only hidden where the setting says so: among them the one to
+/// be shown, which then comes up anew, unless it has just been made.
+void Navigation::LeaveOthers(const Screen* fresh) {
     const QScopedValueRollback<bool> own(arranging_, true);
     beneath_.clear();
     front_.clear();
-    for (const QPointer<Screen>& screen : loaded_.values())
-        if (screen && App().AppInfo.FAST)
+    for (const QPointer<Screen>& screen : loaded_.values()) {
+        if (!screen || screen == fresh)
+            continue;
+        if (App().AppInfo.FAST)
             screen->hide();
-        else if (screen)
+        else
             Close(screen);
+    }
 }
 
 void Navigation::Cover(Screen* next) {

@@ -44,7 +44,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void LeaveOthers();
+    void LeaveOthers(const Screen* fresh);
     void Cover(Screen* next);
     void Uncover();
     void Bring(Screen* screen);

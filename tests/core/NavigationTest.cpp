@@ -4,6 +4,7 @@
 #include "core/frmHOME.h"
 #include "model/User.h"
 #include "runtime/AppState.h"
+#include "runtime/RuntimeError.h"
 #include "runtime/Seams.h"
 #include "toolkit/MousePointer.h"
 
@@ -61,7 +62,7 @@ TEST_F(NavigationTest, WithoutFastLeavingAScreenClosesItAndReturningRebuildsIt) 
     Show("frmReport");
     TakeLog();
     Show("frmDay");
-    EXPECT_EQ(TakeLog(), (Log{"frmReport hidden", "frmDay made", "frmDay BeforeShow",
+    EXPECT_EQ(TakeLog(), (Log{"frmDay made", "frmReport hidden", "frmDay BeforeShow",
                               "frmDay shown", "frmDay DoWinInit", "frmReport gone"}));
     EXPECT_EQ(Frame()->findChildren<Screen*>().size(), 1);
 }
@@ -210,6 +211,20 @@ TEST_F(NavigationTest, AFailureInAStepSkipsTheRestWithoutAMessageAndLeavesThePoi
     EXPECT_NE(Show("frmDay"), nullptr);
     EXPECT_FALSE(MousePointer::IsBusy());
     EXPECT_EQ(Title(), QStringLiteral("Daily Details"));
+}
+
+TEST_F(NavigationTest, AScreenThatCannotBeMadeLeavesTheOneInFrontAsItIs) {
+    for (const char* name : {"frmReport", "frmProfile"}) {
+        Screen* day = Show("frmDay");
+        TheNavigation().Register(name, [](QWidget*) -> Screen* {
+            throw RuntimeError(ErrorNumber::NoCurrentRecord, QStringLiteral("no current record"));
+        });
+        EXPECT_EQ(Show(name), nullptr);
+        EXPECT_EQ(TheNavigation().Front(), day);
+        EXPECT_TRUE(day->isVisible());
+        EXPECT_EQ(Title(), QStringLiteral("Daily Details"));
+        EXPECT_TRUE(MousePointer::IsBusy());
+    }
 }
 
 TEST_F(NavigationTest, WhatIsBeingTypedIsTakenOverBeforeTheScreenGoes) {
