@@ -1,25 +1,16 @@
 #include "exchange/Log.h"
 
 #include "exchange/Json.h"
+#include "exchange/Moment.h"
 
 #include <chrono>
 #include <condition_variable>
-#include <ctime>
 #include <mutex>
 #include <thread>
 #include <unistd.h>
 
 namespace exchange::Log {
 namespace {
-std::string Now() {
-    const auto now = std::chrono::system_clock::now();
-    const auto seconds = std::chrono::system_clock::to_time_t(now);
-    std::tm parts{};
-    gmtime_r(&seconds, &parts);
-    char text[40];
-    return {text, std::strftime(text, sizeof text, "%Y-%m-%dT%H:%M:%SZ", &parts)};
-}
-
 struct Append {
     std::string& line;
     void operator()(std::string_view text) const { Json::AppendText(line, text); }
@@ -88,7 +79,7 @@ private:
 
 void Write(std::string_view level, std::string_view event, Fields fields) {
     static Writer writer;
-    std::string line = "{\"time\":\"" + Now() + "\",\"level\":\"";
+    std::string line = "{\"time\":\"" + Moment::Written("%Y-%m-%dT%H:%M:%SZ") + "\",\"level\":\"";
     line.append(level).append("\",\"event\":");
     Json::AppendText(line, event);
     for (const auto& [name, value] : fields) {

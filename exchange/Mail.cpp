@@ -1,12 +1,11 @@
 #include "exchange/Mail.h"
 
+#include "exchange/Moment.h"
 #include "exchange/Numbers.h"
 #include "exchange/Secrets.h"
 #include "exchange/Text.h"
 
 #include <openssl/evp.h>
-
-#include <ctime>
 
 namespace exchange {
 namespace {
@@ -48,14 +47,6 @@ std::string Body(const std::string& text) {
     for (size_t begin = 0; begin < encoded.size(); begin += lineLength)
         lines.append(encoded, begin, lineLength).append("\r\n");
     return lines;
-}
-
-std::string Date() {
-    const auto now = std::time(nullptr);
-    std::tm parts{};
-    gmtime_r(&now, &parts);
-    char text[64];
-    return {text, std::strftime(text, sizeof text, "%a, %d %b %Y %H:%M:%S +0000", &parts)};
 }
 
 std::string Ingredients(const Recipe& recipe) {
@@ -103,7 +94,7 @@ std::string Header(const std::string& name, const std::string& value) {
 
 std::string MailOf(const Recipe& recipe, const Config& config) {
     const auto domain = config.mail_from.substr(config.mail_from.find('@') + 1);
-    std::string mail = Header("Date", Date());
+    std::string mail = Header("Date", Moment::Written("%a, %d %b %Y %H:%M:%S +0000"));
     mail += Header("From", "Halvane <" + config.mail_from + ">");
     mail += Header("To", "<" + recipe.to + ">");
     mail += Header("Reply-To", "<" + recipe.from + ">");

@@ -1,6 +1,7 @@
 #include "exchange/Pages.h"
 
 #include "exchange/Assets.h"
+#include "exchange/Moment.h"
 #include "exchange/Numbers.h"
 #include "exchange/Text.h"
 
@@ -9,7 +10,6 @@
 #include <httplib.h>
 
 #include <cmath>
-#include <ctime>
 
 namespace exchange::Pages {
 namespace {
@@ -43,12 +43,8 @@ std::string Page(const std::string& title, Place place, bool unlisted, const std
 }
 
 std::string Day(long long moment) {
-    const auto seconds = static_cast<std::time_t>(moment / 1000);
-    std::tm parts{};
-    gmtime_r(&seconds, &parts);
-    char text[40];
-    const std::string name(text, std::strftime(text, sizeof text, " %B %Y", &parts));
-    return std::to_string(parts.tm_mday) + name;
+    const auto day = Moment::Written("%d %B %Y", moment);
+    return day.front() == '0' ? day.substr(1) : day;
 }
 
 std::string Calories(const std::optional<double>& calories) {

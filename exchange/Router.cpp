@@ -2,6 +2,7 @@
 
 #include "exchange/Connection.h"
 #include "exchange/Log.h"
+#include "exchange/Moment.h"
 #include "exchange/Refusal.h"
 #include "exchange/Text.h"
 #include "exchange/Visitor.h"
@@ -78,6 +79,7 @@ void Router::Answer(const httplib::Request& request, httplib::Response& response
     const auto begin = std::chrono::steady_clock::now();
     for (const auto& [name, value] : Headers)
         response.set_header(name, value);
+    response.set_header("Date", Moment::Written("%a, %d %b %Y %H:%M:%S GMT"));
     std::optional<int> id;
     std::string allowed;
     const auto* route = Find(request, id, allowed);

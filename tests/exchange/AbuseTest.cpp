@@ -372,6 +372,7 @@ TEST_P(AbuseTest, EveryReplyHasTheStrictHeaders) {
         EXPECT_EQ(policy.find("unsafe"), std::string::npos);
         EXPECT_EQ(reply->get_header_value("X-Content-Type-Options"), "nosniff");
         EXPECT_EQ(reply->get_header_value("Referrer-Policy"), "no-referrer");
+        EXPECT_TRUE(reply->get_header_value("Date").ends_with(" GMT")) << path;
         EXPECT_EQ(reply->get_header_value_count("Set-Cookie"), 0U);
     }
 }
