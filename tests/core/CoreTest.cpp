@@ -71,8 +71,11 @@ void CoreTest::SetUp() {
 
 void CoreTest::TearDown() {
     TheNavigation().Reset();
-    for (QWidget* window : QApplication::topLevelWidgets())
+    for (QWidget* window : QApplication::topLevelWidgets()) {
         window->hide();
+        if (window->testAttribute(Qt::WA_DeleteOnClose))
+            window->deleteLater();
+    }
     RunDeferredDeletes();
     HalvaneTest::TearDown();
 }
