@@ -50,13 +50,23 @@ Recipe Draw(std::mt19937& random) {
     return recipe;
 }
 
-void StoreOriginals(Connection& connection) {
+/// Under an ID that none of the copies will have.
+RecipeStore::Created CreateBeyond(RecipeStore& store, const Recipe& recipe, int copies) {
+    for (;;) {
+        const auto created = store.Create(recipe);
+        if (created.id > copies + Originals)
+            return created;
+        store.Remove(created.id);
+    }
+}
+
+void StoreOriginals(Connection& connection, int copies) {
     std::mt19937 random(4711);
     RecipeStore store(connection);
     connection.Once("CREATE TABLE fill (Place INTEGER NOT NULL PRIMARY KEY, RecipeID INTEGER)");
     for (int place = 0; place < Originals; ++place) {
         const auto recipe = Draw(random);
-        const auto created = store.Create(recipe);
+        const auto created = CreateBeyond(store, recipe, copies);
         store.Add(created.id, created.token, recipe.ingredients, 100);
         store.Finish(created.id);
         connection.Change("INSERT INTO fill (Place, RecipeID) VALUES (:p, :id)", soci::use(place),
@@ -102,7 +112,7 @@ std::vector<int> With(const std::string& database, int recipes) {
     Connection connection(database);
     if (!database.starts_with("postgresql"))
         connection.Once("PRAGMA synchronous=OFF");
-    StoreOriginals(connection);
+    StoreOriginals(connection, recipes);
     std::vector<int> ids;
     for (int first = 2; first + Originals <= recipes + 2; first += Originals) {
         Copy(connection, first);
