@@ -41,9 +41,14 @@ constexpr const char* EmbeddedSettings[] = {"PRAGMA journal_mode=WAL", "PRAGMA s
 
 /// Every join of this program looks up keys in the order of an index and ends after a page. The
 /// planner, which cannot know how words go together, is kept from joining whole tables instead.
+/// And a program that stops in the middle of a transaction must not stop the others for long.
 constexpr const char* ServerSettings[] = {"SET client_min_messages = warning",
-                                          "SET enable_hashjoin = off", "SET enable_mergejoin = off",
-                                          "SET enable_bitmapscan = off", "SET enable_sort = off"};
+                                          "SET lock_timeout = '10s'",
+                                          "SET idle_in_transaction_session_timeout = '30s'",
+                                          "SET enable_hashjoin = off",
+                                          "SET enable_mergejoin = off",
+                                          "SET enable_bitmapscan = off",
+                                          "SET enable_sort = off"};
 } // namespace
 
 Connection::Connection(const std::string& database)

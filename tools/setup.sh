@@ -1,4 +1,4 @@
-# Sourced by run.sh and test.sh: installs the packages of the given groups that are not there yet.
+# Sourced by run.sh, serve.sh and test.sh: installs the packages of the given groups that are not there yet.
 
 missing_packages() {
     local group package

@@ -268,7 +268,7 @@ TEST_P(OperationTest, ABackupIsRestoredByTheLinesOfTheHandbook) {
     EXPECT_NE(Text("/halvane/community.asp?q=lentil").find(id), std::string::npos);
 }
 
-/// PostgreSQL alone can go away and come back.
+/// PostgreSQL alone can go away and come back, and is shared with programs that can.
 class LostDatabaseTest : public ExchangeTest {};
 INSTANTIATE_TEST_SUITE_P(OperationTest, LostDatabaseTest, testing::Values("postgresql"));
 
@@ -285,4 +285,19 @@ TEST_P(LostDatabaseTest, AServerWhoseDatabaseWentAwaySaysSoAndRecovers) {
     Cluster::One().Start();
     EXPECT_TRUE(Until([&] { return Get("/ready")->status == 200; }));
     EXPECT_EQ(Get("/halvane/api/recipes/" + id)->status, 200);
+}
+
+TEST_P(LostDatabaseTest, AProgramThatStopsInATransactionStopsTheOthersForSecondsOnly) {
+    EXPECT_EQ(Cell("SELECT current_setting('lock_timeout')"), "10s");
+    EXPECT_EQ(Cell("SELECT current_setting('idle_in_transaction_session_timeout')"), "30s");
+}
+
+TEST_P(LostDatabaseTest, ReadsGoOnWhileAnotherProgramHoldsACounter) {
+    Start({{"misses_per_client_hour", "1000"}});
+    const auto path = "/halvane/api/recipes/" + std::to_string(Send());
+    exchange::Connection holder(Database());
+    exchange::Transaction held(holder);
+    holder.Change("UPDATE counters SET Hits = Hits + 1");
+    for (int i = 0; i < 20; ++i)
+        EXPECT_EQ(Get(path)->status, 200);
 }
