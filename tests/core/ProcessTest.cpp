@@ -60,6 +60,9 @@ protected:
         environment.insert(QStringLiteral("XDG_RUNTIME_DIR"), Path("run"));
         environment.insert(QStringLiteral("HOME"), Folder());
         environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+        // Where lines are counted: nobody may not write the counts beside the build.
+        if (user_ != 0)
+            environment.insert(QStringLiteral("GCOV_PREFIX"), Path("run"));
         auto process = std::make_unique<QProcess>();
         process->setProcessEnvironment(environment);
         if (user_ != 0)
