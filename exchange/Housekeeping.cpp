@@ -7,7 +7,6 @@
 namespace exchange {
 namespace {
 constexpr std::chrono::minutes Interval(10);
-constexpr long long HourMs = 3'600'000;
 } // namespace
 
 Housekeeping::Housekeeping(const Service& service)
@@ -38,8 +37,8 @@ void Housekeeping::CleanUp() const {
         const Pool::Lease lease(service_.pool);
         RecipeStore store(*lease);
         const auto now = Moment::Now();
-        store.SweepUnfinished(now - service_.config.unfinished_hours * HourMs);
-        store.ForgetAddresses(now - service_.config.address_days * 24 * HourMs);
+        store.SweepUnfinished(now - service_.config.unfinished_hours * Moment::Hour);
+        store.ForgetAddresses(now - 24 * Moment::Hour * service_.config.address_days);
         Limits::ForgetOld(*lease);
     } catch (const std::exception& error) {
         const auto what = Connection::Describe(error);

@@ -4,9 +4,6 @@
 #include "exchange/Secrets.h"
 
 namespace exchange {
-namespace {
-constexpr long long HourMs = 3'600'000;
-}
 
 std::string Limits::ReadSalt(Connection& connection) {
     std::string salt;
@@ -16,7 +13,7 @@ std::string Limits::ReadSalt(Connection& connection) {
 
 /// A slot is the number of the hour that its span begins with.
 Counter Limits::Make(std::string_view what, std::string_view who, int hours) const {
-    const auto hour = Moment::Now() / HourMs;
+    const auto hour = Moment::Now() / Moment::Hour;
     std::string name(what);
     if (!who.empty())
         name.append(":").append(Secrets::Digest(salt_ + std::string(who)), 0, 41);
@@ -50,7 +47,7 @@ int Limits::Counted(Connection& connection, const Counter& counter) {
 }
 
 void Limits::ForgetOld(Connection& connection) {
-    const auto oldest = Moment::Now() / HourMs - 48;
+    const auto oldest = Moment::Now() / Moment::Hour - 48;
     connection.Change("DELETE FROM counters WHERE Slot < :slot", soci::use(oldest));
 }
 

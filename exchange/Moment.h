@@ -7,6 +7,8 @@
 namespace exchange {
 
 namespace Moment {
+inline constexpr long long Hour = 3'600'000; ///< in milliseconds
+
 /// Milliseconds since 1970.
 inline long long Now() {
     return std::chrono::duration_cast<std::chrono::milliseconds>(

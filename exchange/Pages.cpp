@@ -108,7 +108,7 @@ data IngredientsOf(const Recipe& recipe) {
         line.set("food", ingredient.foodName.value_or(""));
         line.set("hasServing", !ingredient.serving.value_or("").empty());
         line.set("serving", ingredient.serving.value_or(""));
-        lines.push_back(std::move(line));
+        lines.push_back(line);
     }
     return lines;
 }
@@ -132,7 +132,7 @@ data NutritionOf(const Recipe& recipe, bool large) {
         data line;
         line.set("label", std::string(column.label));
         line.set("amount", AmountOf(recipe, i));
-        lines.push_back(std::move(line));
+        lines.push_back(line);
     }
     return lines;
 }

@@ -62,7 +62,8 @@ sigset_t HoldSignals() {
 
 /// A connection takes a descriptor, and so does what a worker has open of the database.
 void ClaimDescriptors(const Config& config) {
-    const auto wanted = static_cast<rlim_t>(config.connections + 8 * config.workers + 64);
+    const auto wanted =
+        static_cast<rlim_t>(config.connections) + 8 * static_cast<rlim_t>(config.workers) + 64;
     rlimit limit{};
     getrlimit(RLIMIT_NOFILE, &limit);
     if (limit.rlim_max < wanted)

@@ -21,8 +21,8 @@ Navigation& TheNavigation() {
 Navigation::Navigation() = default;
 Navigation::~Navigation() = default;
 
-void Navigation::Register(const QString& name, Factory factory) {
-    factories_.insert(name, std::move(factory));
+void Navigation::Register(const QString& name, const Factory& factory) {
+    factories_.insert(name, factory);
 }
 
 void Navigation::InstallSeams() {

@@ -22,7 +22,7 @@ public:
     Navigation();
     ~Navigation() override;
 
-    void Register(const QString& name, Factory factory);
+    void Register(const QString& name, const Factory& factory);
     template <class T> void Register(const QString& name) {
         Register(name, [](QWidget* parent) { return new T(parent); });
     }

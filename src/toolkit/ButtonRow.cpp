@@ -4,8 +4,6 @@
 #include "toolkit/Style.h"
 #include "toolkit/ucButton.h"
 
-#include <ranges>
-
 ucButton* MakeButton(Dialog* dialog, const QString& name, const QString& caption) {
     auto* button = new ucButton(caption, dialog);
     button->setObjectName(name);
@@ -18,9 +16,9 @@ QRect LayButtonRow(const QRect& inner, const QList<ucButton*>& buttons) {
     const Style& style = TheStyle();
     const int top = inner.bottom() + 1 - style.nestEdge - style.buttonHeight;
     int right = inner.right() + 1 - style.nestEdge;
-    for (ucButton* button : buttons | std::views::reverse) {
-        button->move(right - button->width(), top);
-        right -= button->width() + style.boxGap;
+    for (auto button = buttons.crbegin(); button != buttons.crend(); ++button) {
+        (*button)->move(right - (*button)->width(), top);
+        right -= (*button)->width() + style.boxGap;
     }
     const QRect above(inner.topLeft(), QPoint(inner.right(), top - 1));
     return above.adjusted(style.nestEdge, style.nestEdge, -style.nestEdge, -style.boxGap);
