@@ -7,18 +7,20 @@
 namespace exchange {
 
 namespace Moment {
-inline constexpr long long Hour = 3'600'000; ///< in milliseconds
+inline constexpr long long Second = 1'000'000;
+inline constexpr long long Hour = 3600 * Second;
 
-/// Milliseconds since 1970.
+/// Microseconds since 1970: fine enough that of two recipes that one person sends after each other
+/// the later one is the newer.
 inline long long Now() {
-    return std::chrono::duration_cast<std::chrono::milliseconds>(
+    return std::chrono::duration_cast<std::chrono::microseconds>(
                std::chrono::system_clock::now().time_since_epoch())
         .count();
 }
 
 /// In universal time, in the manner of strftime.
 inline std::string Written(const char* format, long long moment = Now()) {
-    const auto seconds = static_cast<std::time_t>(moment / 1000);
+    const auto seconds = static_cast<std::time_t>(moment / Second);
     std::tm parts{};
     gmtime_r(&seconds, &parts);
     char text[64];

@@ -11,7 +11,7 @@ using Step = std::vector<const char*>;
 
 // A recipe is unfinished while SentAt is 0. `documents` is what is read of a recipe, written once
 // when it is sent: nothing that is not sent can be read. `listing` holds the public ones alone, and
-// `words` leads to them. Moments are milliseconds since 1970.
+// `words` leads to them. Moments are microseconds since 1970.
 const Step Steps[] = {
     {
         "CREATE TABLE settings (Name TEXT NOT NULL PRIMARY KEY, Value TEXT NOT NULL)",

@@ -117,7 +117,7 @@ TEST_P(LimitsTest, UnfinishedRecipesAreSweptAfterADayAndSentOnesStay) {
     const int ids[] = {old.id, sent};
     for (const int id : ids)
         connection.Change(
-            "UPDATE recipes SET CreatedAt = CreatedAt - 90000000 WHERE RecipeID = :id",
+            "UPDATE recipes SET CreatedAt = CreatedAt - 90000000000 WHERE RecipeID = :id",
             soci::use(id));
     Start();
     EXPECT_TRUE(Until([&] { return Count("SELECT COUNT(*) FROM recipes") == 2; }));
@@ -130,7 +130,7 @@ TEST_P(LimitsTest, AddressesAreForgottenAfterTheirTime) {
     Start();
     Send();
     EXPECT_EQ(Running().End(), 0);
-    exchange::Connection(Database()).Once("UPDATE recipes SET SentAt = SentAt - 2600000000");
+    exchange::Connection(Database()).Once("UPDATE recipes SET SentAt = SentAt - 2600000000000");
     Start();
     EXPECT_TRUE(Until([&] { return Cell("SELECT EMAILTO FROM recipes").empty(); }));
     EXPECT_EQ(Cell("SELECT EMAILFROM FROM recipes"), "");
