@@ -9,9 +9,9 @@ namespace {
 constexpr const char* JsonType = "application/json";
 
 /// The token of an `Authorization: Bearer` header; empty if there is none.
-std::string Token(const httplib::Request& request) {
+std::string Token(const Request& request) {
     constexpr std::string_view scheme = "Bearer ";
-    const auto value = request.get_header_value("Authorization");
+    const auto value = request.Header("authorization");
     return value.starts_with(scheme) ? value.substr(scheme.size()) : std::string();
 }
 
@@ -29,19 +29,18 @@ std::string Token(const httplib::Request& request) {
 
 void Api::AddTo(Router& router) {
     router.Add("POST", "/halvane/api/recipes",
-               [this](const Ask& ask, auto& response) { Create(ask, response); });
-    router.Add("GET", "/halvane/api/recipes/{id}", [this](const Ask& ask, auto& response) {
-        Read(ask, response, RecipeStore::Part::Recipe);
+               [this](const Ask& ask, auto& reply) { Create(ask, reply); });
+    router.Add("GET", "/halvane/api/recipes/{id}", [this](const Ask& ask, auto& reply) {
+        Read(ask, reply, RecipeStore::Part::Recipe);
     });
-    router.Add("GET", "/halvane/api/recipes/{id}/ingredients",
-               [this](const Ask& ask, auto& response) {
-                   Read(ask, response, RecipeStore::Part::Ingredients);
-               });
+    router.Add("GET", "/halvane/api/recipes/{id}/ingredients", [this](const Ask& ask, auto& reply) {
+        Read(ask, reply, RecipeStore::Part::Ingredients);
+    });
     router.Add("POST", "/halvane/api/recipes/{id}/ingredients",
-               [this](const Ask& ask, auto& response) { AddIngredients(ask, response); });
+               [this](const Ask& ask, auto& reply) { AddIngredients(ask, reply); });
 }
 
-void Api::Create(const Ask& ask, httplib::Response& response) const {
+void Api::Create(const Ask& ask, Reply& reply) const {
     const auto recipe = RecipeReader::ReadRecipe(ask.request.body);
     const auto& config = service_.config;
     std::optional<RecipeStore::Created> created;
@@ -57,13 +56,13 @@ void Api::Create(const Ask& ask, httplib::Response& response) const {
     }
     if (!created)
         throw Refusal(429, "Too many recipes have been sent today. Please try again tomorrow.");
-    response.status = 201;
-    response.set_content("{\"RecipeID\":" + std::to_string(created->id) + ",\"token\":\"" +
-                             created->token + "\"}",
-                         JsonType);
+    reply.status = 201;
+    reply.SetContent("{\"RecipeID\":" + std::to_string(created->id) + ",\"token\":\"" +
+                         created->token + "\"}",
+                     JsonType);
 }
 
-void Api::AddIngredients(const Ask& ask, httplib::Response& response) const {
+void Api::AddIngredients(const Ask& ask, Reply& reply) const {
     const auto token = Token(ask.request);
     if (token.empty())
         Refuse(RecipeStore::Added::WrongToken);
@@ -76,11 +75,11 @@ void Api::AddIngredients(const Ask& ask, httplib::Response& response) const {
     }
     if (added != RecipeStore::Added::Done)
         Refuse(added);
-    response.status = 201;
-    response.set_content("{\"added\":" + std::to_string(rows.size()) + "}", JsonType);
+    reply.status = 201;
+    reply.SetContent("{\"added\":" + std::to_string(rows.size()) + "}", JsonType);
 }
 
-void Api::Read(const Ask& ask, httplib::Response& response, RecipeStore::Part part) const {
+void Api::Read(const Ask& ask, Reply& reply, RecipeStore::Part part) const {
     const auto misses = service_.limits.Hourly("miss", ask.visitor);
     const int most = service_.config.misses_per_client_hour;
     RecipeStore::Document document;
@@ -94,7 +93,7 @@ void Api::Read(const Ask& ask, httplib::Response& response, RecipeStore::Part pa
         throw Refusal(429, Limits::TooManyMisses);
     if (!document.text)
         throw Refusal(404, "There is no recipe with this ID.");
-    response.set_content(*document.text, JsonType);
+    reply.SetContent(*document.text, JsonType);
 }
 
 } // namespace exchange

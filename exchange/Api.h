@@ -14,9 +14,9 @@ public:
     void AddTo(Router& router);
 
 private:
-    void Create(const Ask& ask, httplib::Response& response) const;
-    void AddIngredients(const Ask& ask, httplib::Response& response) const;
-    void Read(const Ask& ask, httplib::Response& response, RecipeStore::Part part) const;
+    void Create(const Ask& ask, Reply& reply) const;
+    void AddIngredients(const Ask& ask, Reply& reply) const;
+    void Read(const Ask& ask, Reply& reply, RecipeStore::Part part) const;
 
     const Service& service_;
 };

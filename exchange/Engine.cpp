@@ -1,6 +1,7 @@
 #include "exchange/Engine.h"
 
 #include "exchange/Json.h"
+#include "exchange/Target.h"
 #include "exchange/Text.h"
 
 #include <cstring>
@@ -62,6 +63,24 @@ void Prepare(httplib::Request& request, std::string_view body) {
     request.body = body;
 }
 
+Request Understood(const httplib::Request& from) {
+    Request request;
+    request.method = from.method;
+    request.body = from.body;
+    request.peer = from.remote_addr;
+    for (const auto& [name, value] : from.headers)
+        request.headers.emplace_back(Lower(name), value);
+    if (!Target::Read(from.target, request))
+        request.path = from.path;
+    return request;
+}
+
+void Write(Reply&& reply, httplib::Response& response) {
+    response.status = reply.status;
+    response.headers.insert(reply.headers.begin(), reply.headers.end());
+    response.set_content(std::move(reply.body), reply.type);
+}
+
 const char* Reason(int status) {
     switch (status) {
     case 411:
@@ -86,7 +105,9 @@ const char* Reason(int status) {
 
 Engine::Engine(Answer answer, int idleSeconds) {
     set_pre_routing_handler([answer = std::move(answer)](const auto& request, auto& response) {
-        answer(request, response);
+        Reply reply;
+        answer(Understood(request), reply);
+        Write(std::move(reply), response);
         return HandlerResponse::Handled;
     });
     set_error_handler([](const httplib::Request&, httplib::Response& response) {
@@ -97,8 +118,8 @@ Engine::Engine(Answer answer, int idleSeconds) {
     set_keep_alive_timeout(idleSeconds);
 }
 
-Engine::Reply Engine::Process(std::string_view head, std::string_view body,
-                              const std::string& client, bool last) {
+Engine::Output Engine::Process(std::string_view head, std::string_view body,
+                               const std::string& client, bool last) {
     const auto kept = WithoutRanges(head);
     Memory stream(kept, client);
     bool closed = last;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "exchange/Http.h"
+
 #include <httplib.h>
 
 #include <functional>
@@ -13,16 +15,16 @@ namespace exchange {
 /// (ranges, compression, files) is taken from it first.
 class Engine : private httplib::Server {
 public:
-    using Answer = std::function<void(const httplib::Request&, httplib::Response&)>;
+    using Answer = std::function<void(const Request&, exchange::Reply&)>;
     Engine(Answer answer,
            int idleSeconds); ///< how long a connection may be silent, for its replies
 
-    struct Reply {
+    struct Output {
         std::string text;
         bool close = false;
     };
-    Reply Process(std::string_view head, std::string_view body, const std::string& client,
-                  bool last);
+    Output Process(std::string_view head, std::string_view body, const std::string& client,
+                   bool last);
 
     /// A reply to what cannot be understood; the connection is closed after it.
     static std::string Refusal(int status);

@@ -20,8 +20,12 @@ Counter Limits::Make(std::string_view what, std::string_view who, int hours) con
     return {name, hour - hour % hours};
 }
 
-Counter Limits::Hourly(std::string_view what, std::string_view who) const {
-    return Make(what, who, 1);
+Counter Limits::Hourly(std::string_view what, const Visitor& visitor) const {
+    return Make(what, visitor.networks.front(), 1);
+}
+
+Counter Limits::Daily(std::string_view what, const Visitor& visitor) const {
+    return Make(what, visitor.networks.front(), 24);
 }
 
 Counter Limits::Daily(std::string_view what, std::string_view who) const {

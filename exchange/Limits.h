@@ -1,6 +1,7 @@
 #pragma once
 
 #include "exchange/Connection.h"
+#include "exchange/Visitor.h"
 
 #include <string>
 #include <string_view>
@@ -23,8 +24,9 @@ public:
         : salt_(std::move(salt)) {}
     static std::string ReadSalt(Connection& connection);
 
-    Counter Hourly(std::string_view what, std::string_view who) const;
-    Counter Daily(std::string_view what, std::string_view who) const;
+    Counter Hourly(std::string_view what, const Visitor& visitor) const;
+    Counter Daily(std::string_view what, const Visitor& visitor) const;
+    Counter Daily(std::string_view what, std::string_view who) const; ///< nobody: the whole service
 
     /// What is said to who has asked for so many IDs that do not exist that even those that do are
     /// kept from him.

@@ -3,11 +3,10 @@
 #include "exchange/Assets.h"
 #include "exchange/Moment.h"
 #include "exchange/Numbers.h"
+#include "exchange/Target.h"
 #include "exchange/Text.h"
 
 #include <kainjow/mustache.hpp>
-
-#include <httplib.h>
 
 #include <cmath>
 
@@ -75,7 +74,7 @@ std::string LineOf(const Listed& recipe) {
 std::string AddressOf(const std::string& query, int page) {
     std::string address = "/halvane/community.asp?page=" + std::to_string(page);
     if (!query.empty())
-        address += "&q=" + httplib::detail::encode_query_param(query);
+        address += "&q=" + Target::Encoded(query);
     return address;
 }
 

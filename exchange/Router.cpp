@@ -5,7 +5,6 @@
 #include "exchange/Moment.h"
 #include "exchange/Refusal.h"
 #include "exchange/Text.h"
-#include "exchange/Visitor.h"
 
 #include <chrono>
 
@@ -47,7 +46,7 @@ bool Router::Route::Matches(const std::string& path, std::optional<int>& id) con
     return id.has_value();
 }
 
-const Router::Route* Router::Find(const httplib::Request& request, std::optional<int>& id,
+const Router::Route* Router::Find(const Request& request, std::optional<int>& id,
                                   std::string& allowed) const {
     const auto& method = request.method == "HEAD" ? std::string("GET") : request.method;
     for (const auto& route : routes_)
@@ -60,42 +59,42 @@ const Router::Route* Router::Find(const httplib::Request& request, std::optional
     return nullptr;
 }
 
-void Router::Run(const Route& route, const Ask& ask, httplib::Response& response) const {
+void Router::Run(const Route& route, const Ask& ask, Reply& reply) const {
     try {
-        response.status = 200;
-        route.handler(ask, response);
+        reply.status = 200;
+        route.handler(ask, reply);
     } catch (const Refusal& refusal) {
         if (refusal.Status() == 429)
-            response.set_header("Retry-After", "3600");
-        failure_(ask.request, response, refusal.Status(), refusal.what());
+            reply.SetHeader("Retry-After", "3600");
+        failure_(ask.request, reply, refusal.Status(), refusal.what());
     } catch (const std::exception& error) {
         const auto what = Connection::Describe(error);
         Log::Error("failure", {{"route", route.pattern}, {"what", what}});
-        failure_(ask.request, response, 503, "The service is not available just now.");
+        failure_(ask.request, reply, 503, "The service is not available just now.");
     }
 }
 
-void Router::Answer(const httplib::Request& request, httplib::Response& response) const {
+void Router::Answer(const Request& request, Reply& reply) const {
     const auto begin = std::chrono::steady_clock::now();
     for (const auto& [name, value] : Headers)
-        response.set_header(name, value);
-    response.set_header("Date", Moment::Written("%a, %d %b %Y %H:%M:%S GMT"));
+        reply.SetHeader(name, value);
+    reply.SetHeader("Date", Moment::Written("%a, %d %b %Y %H:%M:%S GMT"));
     std::optional<int> id;
     std::string allowed;
     const auto* route = Find(request, id, allowed);
     if (route) {
-        Run(*route, {request, id, VisitorOf(request, config_)}, response);
+        Run(*route, {request, id, VisitorOf(request, config_)}, reply);
     } else if (!allowed.empty()) {
-        response.set_header("Allow", allowed);
-        failure_(request, response, 405, "This address does not take that method.");
+        reply.SetHeader("Allow", allowed);
+        failure_(request, reply, 405, "This address does not take that method.");
     } else {
-        failure_(request, response, 404, "There is nothing at this address.");
+        failure_(request, reply, 404, "There is nothing at this address.");
     }
     if (!config_.log_requests)
         return;
     const std::chrono::duration<double, std::milli> took = std::chrono::steady_clock::now() - begin;
     Log::Info("request", {{"route", route ? std::string_view(route->pattern) : "none"},
-                          {"status", response.status},
+                          {"status", reply.status},
                           {"ms", took.count()}});
 }
 

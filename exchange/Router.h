@@ -1,8 +1,8 @@
 #pragma once
 
 #include "exchange/Config.h"
-
-#include <httplib.h>
+#include "exchange/Http.h"
+#include "exchange/Visitor.h"
 
 #include <functional>
 #include <optional>
@@ -11,29 +11,29 @@
 
 namespace exchange {
 
-/// What a handler is given: the request, the number in its path if the route has one, and the name
-/// that its client is counted under.
+/// What a handler is given: the request, the number in its path if the route has one, and who is
+/// counted for it.
 struct Ask {
-    const httplib::Request& request;
+    const Request& request;
     std::optional<int> id;
-    std::string visitor;
+    Visitor visitor;
 };
 
 /// Finds the handler of a request by method and path, and answers what no handler takes. A pattern
 /// is a path that may hold `{id}` once: a recipe's number.
 class Router {
 public:
-    using Handler = std::function<void(const Ask&, httplib::Response&)>;
+    using Handler = std::function<void(const Ask&, Reply&)>;
     /// Writes the reply for a status and a reason, in the manner of the place that was asked for.
-    using Failure = std::function<void(const httplib::Request&, httplib::Response&, int status,
-                                       const std::string& reason)>;
+    using Failure =
+        std::function<void(const Request&, Reply&, int status, const std::string& reason)>;
 
     Router(const Config& config, Failure failure)
         : config_(config)
         , failure_(std::move(failure)) {}
 
     void Add(const std::string& method, const std::string& pattern, Handler handler);
-    void Answer(const httplib::Request& request, httplib::Response& response) const;
+    void Answer(const Request& request, Reply& reply) const;
 
 private:
     struct Route {
@@ -47,9 +47,8 @@ private:
     };
 
     /// Nothing if no route takes the request; `allowed` are the methods that its path takes then.
-    const Route* Find(const httplib::Request& request, std::optional<int>& id,
-                      std::string& allowed) const;
-    void Run(const Route& route, const Ask& ask, httplib::Response& response) const;
+    const Route* Find(const Request& request, std::optional<int>& id, std::string& allowed) const;
+    void Run(const Route& route, const Ask& ask, Reply& reply) const;
 
     const Config& config_;
     Failure failure_;

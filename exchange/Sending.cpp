@@ -17,18 +17,18 @@ std::string NotAnAddress(const std::string& whose) {
 } // namespace
 
 void Sending::AddTo(Router& router) {
-    router.Add("GET", "/halvane/sendrecipe.asp", [this](const Ask& ask, auto& response) {
-        const auto id = WholeNumber(ask.request.get_param_value("recID"), 2, 0x7fffffff);
+    router.Add("GET", "/halvane/sendrecipe.asp", [this](const Ask& ask, auto& reply) {
+        const auto id = WholeNumber(ask.request.Param("recID"), 2, 0x7fffffff);
         const auto outcome = ask.request.method == "GET" && id
                                  ? Send(*id, ask.visitor)
                                  : Outcome{404, "There is no recipe to send under this ID."};
-        response.status = outcome.status;
-        response.set_header("Cache-Control", "no-store");
-        response.set_content(outcome.sentence, "text/plain; charset=utf-8");
+        reply.status = outcome.status;
+        reply.SetHeader("Cache-Control", "no-store");
+        reply.SetContent(outcome.sentence, "text/plain; charset=utf-8");
     });
 }
 
-Sending::Outcome Sending::Send(int id, const std::string& visitor) const {
+Sending::Outcome Sending::Send(int id, const Visitor& visitor) const {
     const auto misses = service_.limits.Hourly("miss", visitor);
     const int most = service_.config.misses_per_client_hour;
     const Pool::Lease lease(service_.pool);
@@ -43,7 +43,7 @@ Sending::Outcome Sending::Send(int id, const std::string& visitor) const {
 
 Sending::Outcome Sending::SendUnfinished(Connection& connection, int id,
                                          const RecipeStore::State& state,
-                                         const std::string& visitor) const {
+                                         const Visitor& visitor) const {
     if (!state.sent && service_.config.Mails()) {
         if (!IsMailAddress(state.to))
             return {200, NotAnAddress("Your friend's email address")};
@@ -58,8 +58,7 @@ Sending::Outcome Sending::SendUnfinished(Connection& connection, int id,
 }
 
 /// All or nothing: a mail that one of the limits forbids uses up nothing of the others.
-bool Sending::MayMail(Connection& connection, const std::string& to,
-                      const std::string& visitor) const {
+bool Sending::MayMail(Connection& connection, const std::string& to, const Visitor& visitor) const {
     const auto& config = service_.config;
     const auto& limits = service_.limits;
     Transaction transaction(connection);
@@ -74,7 +73,7 @@ bool Sending::MayMail(Connection& connection, const std::string& to,
 }
 
 Sending::Outcome Sending::MailIt(Connection& connection, const Recipe& recipe,
-                                 const std::string& visitor) const {
+                                 const Visitor& visitor) const {
     const auto passOn = "Please tell your friend this number: it is all that Import Recipe needs.";
     if (!service_.config.Mails())
         return {200, Stored(recipe.id) + "This server sends no mail. " + passOn};

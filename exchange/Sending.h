@@ -22,11 +22,11 @@ private:
         std::string sentence;
     };
 
-    Outcome Send(int id, const std::string& visitor) const;
+    Outcome Send(int id, const Visitor& visitor) const;
     Outcome SendUnfinished(Connection& connection, int id, const RecipeStore::State& state,
-                           const std::string& visitor) const;
-    Outcome MailIt(Connection& connection, const Recipe& recipe, const std::string& visitor) const;
-    bool MayMail(Connection& connection, const std::string& to, const std::string& visitor) const;
+                           const Visitor& visitor) const;
+    Outcome MailIt(Connection& connection, const Recipe& recipe, const Visitor& visitor) const;
+    bool MayMail(Connection& connection, const std::string& to, const Visitor& visitor) const;
 
     const Service& service_;
 };

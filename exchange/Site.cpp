@@ -14,19 +14,19 @@ constexpr const char* HtmlType = "text/html; charset=utf-8";
 constexpr size_t LongestQuery = 200;
 
 Router::Handler File(const std::string& text, const char* type) {
-    return [&text, type](const Ask&, httplib::Response& response) {
-        response.set_header("Cache-Control", "public, max-age=300");
-        response.set_content(text, type);
+    return [&text, type](const Ask&, Reply& reply) {
+        reply.SetHeader("Cache-Control", "public, max-age=300");
+        reply.SetContent(text, type);
     };
 }
 
-Pages::ListPage ReadListPage(const httplib::Request& request) {
+Pages::ListPage ReadListPage(const Request& request) {
     Pages::ListPage list;
-    list.query = Trimmed(request.get_param_value("q"));
+    list.query = Trimmed(request.Param("q"));
     if (list.query.size() > LongestQuery || !IsUtf8(list.query) || !IsPlain(list.query))
         throw Refusal(400, "These words cannot be searched for.");
-    if (request.has_param("page")) {
-        const auto page = WholeNumber(request.get_param_value("page"), 1, Pages::LastPage);
+    if (request.HasParam("page")) {
+        const auto page = WholeNumber(request.Param("page"), 1, Pages::LastPage);
         if (!page)
             throw Refusal(404, "The list has no such page.");
         list.page = *page;
@@ -42,15 +42,13 @@ void Site::AddTo(Router& router) {
 }
 
 void Site::AddPages(Router& router) {
-    const auto front = [](const Ask&, httplib::Response& response) {
-        response.set_content(Pages::Front(), HtmlType);
-    };
+    const auto front = [](const Ask&, Reply& reply) { reply.SetContent(Pages::Front(), HtmlType); };
     router.Add("GET", "/", front);
     router.Add("GET", "/index.asp", front);
     router.Add("GET", "/halvane/community.asp",
-               [this](const Ask& ask, auto& response) { Community(ask, response); });
+               [this](const Ask& ask, auto& reply) { Community(ask, reply); });
     router.Add("GET", "/halvane/recipe.asp",
-               [this](const Ask& ask, auto& response) { RecipePage(ask, response); });
+               [this](const Ask& ask, auto& reply) { RecipePage(ask, reply); });
 }
 
 void Site::AddFiles(Router& router) {
@@ -60,17 +58,17 @@ void Site::AddFiles(Router& router) {
 }
 
 void Site::AddWatches(Router& router) {
-    router.Add("GET", "/health", [](const Ask&, httplib::Response& response) {
-        response.set_content("{\"healthy\":true}", "application/json");
+    router.Add("GET", "/health", [](const Ask&, Reply& reply) {
+        reply.SetContent("{\"healthy\":true}", "application/json");
     });
-    router.Add("GET", "/ready", [this](const Ask&, httplib::Response& response) {
+    router.Add("GET", "/ready", [this](const Ask&, Reply& reply) {
         const Pool::Lease lease(service_.pool);
         Schema::Check(*lease);
-        response.set_content("{\"ready\":true}", "application/json");
+        reply.SetContent("{\"ready\":true}", "application/json");
     });
 }
 
-void Site::Community(const Ask& ask, httplib::Response& response) const {
+void Site::Community(const Ask& ask, Reply& reply) const {
     auto list = ReadListPage(ask.request);
     auto words = Words::Of(list.query);
     if (words.size() > RecipeStore::MostWords)
@@ -79,11 +77,11 @@ void Site::Community(const Ask& ask, httplib::Response& response) const {
         const Pool::Lease lease(service_.pool);
         list.recipes = RecipeStore(*lease).List(words, list.page);
     }
-    response.set_content(Pages::Community(list), HtmlType);
+    reply.SetContent(Pages::Community(list), HtmlType);
 }
 
-void Site::RecipePage(const Ask& ask, httplib::Response& response) const {
-    const auto id = WholeNumber(ask.request.get_param_value("recID"), 2, 0x7fffffff);
+void Site::RecipePage(const Ask& ask, Reply& reply) const {
+    const auto id = WholeNumber(ask.request.Param("recID"), 2, 0x7fffffff);
     if (!id)
         throw Refusal(404, "There is no recipe with this ID.");
     const auto misses = service_.limits.Hourly("miss", ask.visitor);
@@ -101,18 +99,17 @@ void Site::RecipePage(const Ask& ask, httplib::Response& response) const {
         throw Refusal(429, Limits::TooManyMisses);
     if (!recipe)
         throw Refusal(404, "There is no recipe with this ID.");
-    response.set_content(Pages::RecipePage(*recipe), HtmlType);
+    reply.SetContent(Pages::RecipePage(*recipe), HtmlType);
 }
 
-void Site::Fail(const httplib::Request& request, httplib::Response& response, int status,
-                const std::string& reason) {
-    response.status = status;
+void Site::Fail(const Request& request, Reply& reply, int status, const std::string& reason) {
+    reply.status = status;
     if (request.path.starts_with("/halvane/api/"))
-        response.set_content(Json::Reason(reason), "application/json");
+        reply.SetContent(Json::Reason(reason), "application/json");
     else if (request.path == "/halvane/sendrecipe.asp")
-        response.set_content(reason, "text/plain; charset=utf-8");
+        reply.SetContent(reason, "text/plain; charset=utf-8");
     else
-        response.set_content(Pages::Problem(status, reason), HtmlType);
+        reply.SetContent(Pages::Problem(status, reason), HtmlType);
 }
 
 } // namespace exchange

@@ -13,15 +13,14 @@ public:
     void AddTo(Router& router);
 
     /// A page below / and a JSON reason below /halvane/api/.
-    static void Fail(const httplib::Request& request, httplib::Response& response, int status,
-                     const std::string& reason);
+    static void Fail(const Request& request, Reply& reply, int status, const std::string& reason);
 
 private:
     void AddPages(Router& router);
     void AddFiles(Router& router);
     void AddWatches(Router& router);
-    void Community(const Ask& ask, httplib::Response& response) const;
-    void RecipePage(const Ask& ask, httplib::Response& response) const;
+    void Community(const Ask& ask, Reply& reply) const;
+    void RecipePage(const Ask& ask, Reply& reply) const;
 
     const Service& service_;
 };

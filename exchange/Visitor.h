@@ -2,14 +2,19 @@
 
 #include "exchange/Config.h"
 
-#include <httplib.h>
-
 #include <string>
+#include <vector>
 
 namespace exchange {
 
-/// Who is counted for a request: the network address of the client, or what a trusted proxy says of
-/// it; of an IPv6 address the part that a household has.
-std::string VisitorOf(const httplib::Request& request, const Config& config);
+struct Request;
+
+/// Who is counted for a request: the names of the networks that its client is in, narrowest first.
+struct Visitor {
+    std::vector<std::string> networks;
+};
+
+/// By the address of the client, or by what a trusted proxy says of it.
+Visitor VisitorOf(const Request& request, const Config& config);
 
 } // namespace exchange
