@@ -3,6 +3,7 @@
 #include "exchange/Moment.h"
 #include "exchange/Numbers.h"
 #include "exchange/Secrets.h"
+#include "exchange/ShownText.h"
 #include "exchange/Text.h"
 
 #include <openssl/evp.h>
@@ -52,24 +53,37 @@ std::string Body(const std::string& text) {
 std::string Ingredients(const Recipe& recipe) {
     std::string text;
     for (const auto& ingredient : recipe.ingredients) {
-        text.append("- ").append(ingredient.foodName.value_or(""));
-        if (ingredient.serving)
-            text.append(", ").append(*ingredient.serving);
+        const auto serving = ShownText::Line(ingredient.serving.value_or(""), ShownText::InCard);
+        text.append("- ");
+        text += ShownText::Name(ingredient.foodName.value_or(""), ShownText::InCard);
+        if (!serving.empty())
+            text.append(", ").append(serving);
         text += "\n";
     }
     return text.empty() ? text : "Ingredients\n" + text + "\n";
 }
 
+/// Relays refuse mails of several mebibytes.
+std::string Instructions(const Recipe& recipe) {
+    constexpr size_t most = 100'000;
+    const auto text = ShownText::Lines(recipe.instructions);
+    if (text.size() <= most)
+        return text;
+    return text.substr(0, WholeLetters(text, 0, most)) +
+           "…\n\nThe instructions are too long for a mail. Import the recipe to read all of them.";
+}
+
 std::string Card(const Recipe& recipe) {
-    std::string text = recipe.name + "\n\n";
+    const auto serving = ShownText::Line(recipe.servingName, ShownText::InCard);
+    std::string text = ShownText::Name(recipe.name, ShownText::InCard) + "\n\n";
     text += "Recipe yield: " + Numbers::Counted(recipe.yield, "serving") + "\n";
-    if (!recipe.servingName.empty())
-        text += "Serving size: " + recipe.servingName + "\n";
+    if (!serving.empty())
+        text += "Serving size: " + serving + "\n";
     text += "Total time: " + Numbers::Counted(recipe.prepTime, "minute") + "\n";
     if (const auto calories = recipe.PerServing(CaloriesPosition - 1))
         text += "Calories: " + Numbers::Whole(*calories) + " per serving\n";
     text += "\n" + Ingredients(recipe);
-    return text + "Preparation\n" + recipe.instructions + "\n\n";
+    return text + "Preparation\n" + Instructions(recipe) + "\n\n";
 }
 
 std::string Text(const Recipe& recipe, const Config& config) {
@@ -98,7 +112,8 @@ std::string MailOf(const Recipe& recipe, const Config& config) {
     mail += Header("From", "Halvane <" + config.mail_from + ">");
     mail += Header("To", "<" + recipe.to + ">");
     mail += Header("Reply-To", "<" + recipe.from + ">");
-    mail += Header("Subject", Encoded("A recipe for you: " + recipe.name));
+    mail += Header("Subject",
+                   Encoded("A recipe for you: " + ShownText::Name(recipe.name, ShownText::InList)));
     mail += Header("Message-ID", "<" + Secrets::RandomToken().substr(0, 32) + "@" + domain + ">");
     mail += Header("MIME-Version", "1.0");
     mail += Header("Content-Type", "text/plain; charset=utf-8");

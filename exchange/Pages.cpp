@@ -3,6 +3,7 @@
 #include "exchange/Assets.h"
 #include "exchange/Moment.h"
 #include "exchange/Numbers.h"
+#include "exchange/ShownText.h"
 #include "exchange/Target.h"
 #include "exchange/Text.h"
 
@@ -52,8 +53,9 @@ std::string Calories(const std::optional<double>& calories) {
 
 std::string NoteOf(const Listed& recipe) {
     std::vector<std::string> parts;
-    if (!recipe.servingName.empty())
-        parts.push_back(recipe.servingName);
+    const auto serving = ShownText::Line(recipe.servingName, ShownText::InList);
+    if (!serving.empty())
+        parts.push_back(serving);
     if (recipe.calories)
         parts.push_back(Numbers::Counted(std::nearbyint(*recipe.calories), "calorie") +
                         " per serving");
@@ -65,7 +67,7 @@ std::string LineOf(const Listed& recipe) {
     thread_local Template line(Assets::line);
     data values;
     values.set("id", std::to_string(recipe.id));
-    values.set("name", recipe.name);
+    values.set("name", ShownText::Name(recipe.name, ShownText::InList));
     values.set("note", NoteOf(recipe));
     values.set("date", Day(recipe.listedAt));
     return line.Fill(values);
@@ -103,10 +105,11 @@ void SetPager(data& values, const ListPage& list, bool more) {
 data IngredientsOf(const Recipe& recipe) {
     data lines(data::type::list);
     for (const auto& ingredient : recipe.ingredients) {
+        const auto serving = ShownText::Line(ingredient.serving.value_or(""), ShownText::InCard);
         data line;
-        line.set("food", ingredient.foodName.value_or(""));
-        line.set("hasServing", !ingredient.serving.value_or("").empty());
-        line.set("serving", ingredient.serving.value_or(""));
+        line.set("food", ShownText::Name(ingredient.foodName.value_or(""), ShownText::InCard));
+        line.set("hasServing", !serving.empty());
+        line.set("serving", serving);
         lines.push_back(line);
     }
     return lines;
@@ -162,7 +165,7 @@ std::string Community(const ListPage& list) {
     for (size_t i = 0; i < list.recipes.size() - (more ? 1 : 0); ++i)
         lines += LineOf(list.recipes[i]);
     data values;
-    values.set("query", list.query);
+    values.set("query", ShownText::Line(list.query, list.query.size()));
     values.set("searched", !list.query.empty());
     values.set("heading", HeadingOf(list));
     values.set("any", !list.recipes.empty());
@@ -174,21 +177,24 @@ std::string Community(const ListPage& list) {
 
 std::string RecipePage(const Recipe& recipe) {
     thread_local Template content(Assets::recipe);
+    const auto serving = ShownText::Line(recipe.servingName, ShownText::InCard);
+    const auto instructions = ShownText::Lines(recipe.instructions);
     data values;
-    values.set("name", recipe.name);
+    values.set("name", ShownText::Name(recipe.name, ShownText::InCard));
     values.set("id", std::to_string(recipe.id));
     values.set("yield", Numbers::Counted(recipe.yield, "serving"));
     values.set("time", Numbers::Counted(recipe.prepTime, "minute"));
-    values.set("hasServing", !recipe.servingName.empty());
-    values.set("serving", recipe.servingName);
+    values.set("hasServing", !serving.empty());
+    values.set("serving", serving);
     values.set("calories", Calories(recipe.PerServing(CaloriesPosition - 1)));
-    values.set("hasInstructions", !Trimmed(recipe.instructions).empty());
-    values.set("instructions", recipe.instructions);
+    values.set("hasInstructions", !Trimmed(instructions).empty());
+    values.set("instructions", instructions);
     values.set("any", !recipe.ingredients.empty());
     values.set("ingredients", IngredientsOf(recipe));
     values.set("large", NutritionOf(recipe, true));
     values.set("small", NutritionOf(recipe, false));
-    return Page(recipe.name, Place::Elsewhere, !recipe.isPublic, content.Fill(values));
+    return Page(ShownText::Name(recipe.name, ShownText::InList), Place::Elsewhere, !recipe.isPublic,
+                content.Fill(values));
 }
 
 std::string Problem(int status, const std::string& reason) {

@@ -3,6 +3,8 @@
 #include "exchange/Documents.h"
 #include "exchange/Moment.h"
 #include "exchange/Secrets.h"
+#include "exchange/ShownText.h"
+#include "exchange/StoredText.h"
 #include "exchange/Words.h"
 
 namespace exchange {
@@ -63,11 +65,17 @@ struct BoundRow {
         return is == soci::i_null ? std::nullopt : std::optional<T>(variable);
     }
 
+    template <class Change>
+    static std::optional<std::string> Map(const std::optional<std::string>& text,
+                                          const Change& change) {
+        return text ? std::optional(change(*text)) : std::nullopt;
+    }
+
     void Put(const Ingredient& row) {
         for (size_t i = 0; i < NutrientCount; ++i)
             Put(row.nutrients[i], nutrients[i], nutrientsAre[i]);
-        Put(row.foodName, foodName, foodNameIs);
-        Put(row.serving, serving, servingIs);
+        Put(Map(row.foodName, StoredText::Of), foodName, foodNameIs);
+        Put(Map(row.serving, StoredText::Of), serving, servingIs);
         Put(row.quantity, quantity, quantityIs);
     }
 
@@ -75,16 +83,22 @@ struct BoundRow {
         Ingredient row;
         for (size_t i = 0; i < NutrientCount; ++i)
             row.nutrients[i] = Get(nutrients[i], nutrientsAre[i]);
-        row.foodName = Get(foodName, foodNameIs);
-        row.serving = Get(serving, servingIs);
+        row.foodName = Map(Get(foodName, foodNameIs), StoredText::Read);
+        row.serving = Map(Get(serving, servingIs), StoredText::Read);
         row.quantity = Get(quantity, quantityIs);
         return row;
     }
 };
 
+/// Changes each text of a recipe that may hold any letter, on its way into its row and back.
+void EachText(Recipe& recipe, std::string (*change)(std::string_view)) {
+    for (auto* text : {&recipe.name, &recipe.servingName, &recipe.instructions})
+        *text = change(*text);
+}
 } // namespace
 
-RecipeStore::Created RecipeStore::Create(const Recipe& recipe) {
+RecipeStore::Created RecipeStore::Create(Recipe recipe) {
+    EachText(recipe, StoredText::Of);
     const auto token = Secrets::RandomToken();
     const auto digest = Secrets::Digest(token);
     const auto now = Moment::Now();
@@ -161,6 +175,7 @@ std::optional<Recipe> RecipeStore::ReadRow(int id) {
                            into(recipe.from), into(recipe.to), into(isPublic)))
         return {};
     recipe.isPublic = isPublic != 0;
+    EachText(recipe, StoredText::Read);
     return recipe;
 }
 
@@ -209,10 +224,12 @@ void RecipeStore::Publish(const Recipe& recipe, long long now) {
     double calories = 0;
     soci::indicator caloriesAre = soci::i_null;
     BoundRow::Put(recipe.PerServing(CaloriesPosition - 1), calories, caloriesAre);
+    const auto name = ShownText::Name(recipe.name, ShownText::InList);
+    const auto serving = ShownText::Line(recipe.servingName, ShownText::InList);
     connection_.Change("INSERT INTO listing (ListedAt, RecipeID, RecipeName, ServingName, PrepTime,"
                        " Calories) VALUES (:now, :id, :name, :serving, :time, :calories)",
-                       use(now), use(recipe.id), use(recipe.name), use(recipe.servingName),
-                       use(recipe.prepTime), use(calories, caloriesAre));
+                       use(now), use(recipe.id), use(name), use(serving), use(recipe.prepTime),
+                       use(calories, caloriesAre));
     for (const auto& word : Words::Of(recipe))
         connection_.Change("INSERT INTO words (Word, ListedAt, RecipeID) VALUES (:w, :now, :id)",
                            use(word), use(now), use(recipe.id));

@@ -10,7 +10,7 @@
 
 namespace exchange {
 
-/// One line of the public list.
+/// One line of the public list, with its texts as they are shown.
 struct Listed {
     int id = 0;
     std::string name;
@@ -31,7 +31,7 @@ public:
         int id;
         std::string token;
     };
-    Created Create(const Recipe& recipe); ///< one statement, for the caller's transaction
+    Created Create(Recipe recipe); ///< one statement, for the caller's transaction
 
     enum class Added { Done, WrongToken, AlreadySent, TooMany };
     Added Add(int id, const std::string& token, const std::vector<Ingredient>& rows, int most);

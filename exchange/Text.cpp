@@ -75,30 +75,36 @@ size_t LengthOf(unsigned lead) {
     return lead >> 3 == 0b11110 ? 4 : 0;
 }
 
-bool IsLetter(std::string_view bytes) {
-    constexpr unsigned least[] = {0, 0, 0x80, 0x800, 0x10000};
-    unsigned code = static_cast<unsigned char>(bytes[0]);
+std::optional<char32_t> CodeOf(std::string_view bytes) {
+    constexpr char32_t least[] = {0, 0, 0x80, 0x800, 0x10000};
+    char32_t code = static_cast<unsigned char>(bytes[0]);
     if (bytes.size() > 1)
         code &= 0x7fU >> bytes.size();
     for (const char c : bytes.substr(1)) {
         const unsigned next = static_cast<unsigned char>(c);
         if (next >> 6 != 0b10)
-            return false;
+            return {};
         code = code << 6 | (next & 0x3fU);
     }
     const bool surrogate = code >> 11 == 0x1b;
-    return code >= least[bytes.size()] && code <= 0x10ffff && !surrogate;
+    if (code < least[bytes.size()] || code > 0x10ffff || surrogate)
+        return {};
+    return code;
 }
 } // namespace
 
+std::optional<Letter> FirstLetter(std::string_view text) {
+    const auto size = text.empty() ? 0 : LengthOf(static_cast<unsigned char>(text[0]));
+    if (size == 0 || size > text.size())
+        return {};
+    const auto code = CodeOf(text.substr(0, size));
+    return code ? std::optional<Letter>({*code, size}) : std::nullopt;
+}
+
 bool IsUtf8(std::string_view text) {
-    while (!text.empty()) {
-        const auto length = LengthOf(static_cast<unsigned char>(text[0]));
-        if (length == 0 || length > text.size() || !IsLetter(text.substr(0, length)))
-            return false;
-        text.remove_prefix(length);
-    }
-    return true;
+    for (auto letter = FirstLetter(text); letter; letter = FirstLetter(text))
+        text.remove_prefix(letter->size);
+    return text.empty();
 }
 
 bool IsPlain(std::string_view text, std::string_view allowed) {

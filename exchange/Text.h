@@ -17,6 +17,12 @@ void ReplaceAll(std::string& text, std::string_view what, std::string_view with)
 /// Decimal digits alone, from least to most; anything else is nothing.
 std::optional<int> WholeNumber(std::string_view text, int least, int most);
 
+struct Letter {
+    char32_t code;
+    size_t size; ///< in bytes
+};
+/// The letter that a text in UTF-8 begins with; nothing at its end or if no letter stands there.
+std::optional<Letter> FirstLetter(std::string_view text);
 bool IsUtf8(std::string_view text);
 
 /// No control character but those of the given ones; the text is known to be UTF-8.

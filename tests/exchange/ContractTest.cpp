@@ -1,5 +1,6 @@
 #include "support/ExchangeTest.h"
 
+#include <limits>
 #include <set>
 
 /// What the program relies on when it imports and sends; docs/exchange.md is where it is written.
@@ -178,6 +179,48 @@ TEST_P(ContractTest, TextsOfEveryKindComeBackToTheLetter) {
     const auto stored = json::parse(Text(Path(Send(recipe))));
     EXPECT_EQ(stored["RecipeName"], recipe["RecipeName"]);
     EXPECT_EQ(stored["Instructions"], recipe["Instructions"]);
+}
+
+TEST_P(ContractTest, TextsOfEveryLetterAndLengthComeBackToTheByte) {
+    std::string letters;
+    for (char c = 0; c < 0x20; ++c)
+        letters += c;
+    letters += "\x7f\u0080\u009b\u200b\u202e\ufeff\ufffe";
+    for (const auto& text : {letters, std::string(300'000, 'x'), std::string(1, '\0'),
+                             std::string("\x01"
+                                         "0"),
+                             std::string(" ")}) {
+        auto recipe = Soup();
+        for (const auto* field : {"RecipeName", "ServingName", "Instructions"})
+            recipe[field] = text;
+        auto row = Row(1, text);
+        row[33] = text;
+        const int id = Send(recipe, json::array({row}));
+        const auto stored = json::parse(Text(Path(id)));
+        for (const auto* field : {"RecipeName", "ServingName", "Instructions"})
+            EXPECT_EQ(stored[field], text) << field;
+        EXPECT_EQ(Ingredients(id)["rows"][0][32], text);
+        EXPECT_EQ(Ingredients(id)["rows"][0][33], text);
+    }
+}
+
+TEST_P(ContractTest, EveryFiniteNumberComesBack) {
+    using Numbers = std::numeric_limits<double>;
+    auto row = Row(Numbers::max());
+    row[2] = Numbers::lowest();
+    row[3] = Numbers::denorm_min();
+    row[4] = Numbers::min();
+    row[5] = 0.1 + 0.2;
+    row[6] = 9007199254740993.0;
+    auto recipe = Soup();
+    recipe["RecipeYield"] = Numbers::max();
+    recipe["PrepTime"] = 1e15 / 3;
+    const int id = Send(recipe, json::array({row}));
+    const auto stored = Ingredients(id)["rows"][0];
+    for (size_t i = 1; i <= 6; ++i)
+        EXPECT_EQ(stored[i].get<double>(), row[i].get<double>()) << i;
+    EXPECT_EQ(json::parse(Text(Path(id)))["RecipeYield"], Numbers::max());
+    EXPECT_EQ(json::parse(Text(Path(id)))["PrepTime"], 1e15 / 3);
 }
 
 TEST_P(ContractTest, TheTokenIsNotStored) {

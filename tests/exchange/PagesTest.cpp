@@ -130,6 +130,36 @@ TEST_P(PagesTest, AYieldBeyondAllMeasureGivesNoNumbersWithoutMeaning) {
     EXPECT_NE(List().find("<span class=\"note\">1 bowl, 45.5 minutes</span>"), std::string::npos);
 }
 
+TEST_P(PagesTest, AnEnormousNameIsShownShortened) {
+    auto recipe = Named(std::string(400'000, 'W'));
+    recipe["ServingName"] = std::string(400'000, 'm');
+    const auto id = std::to_string(Send(recipe, json::array({Row(1, std::string(900'000, 'i'))})));
+    const auto list = List();
+    EXPECT_EQ(Names(list), (Texts{std::string(120, 'W') + "…"}));
+    EXPECT_LT(list.size(), 5000U);
+    const auto page = Text("/halvane/recipe.asp?recID=" + id);
+    EXPECT_NE(page.find("<h1>" + std::string(400, 'W') + "…</h1>"), std::string::npos);
+    EXPECT_LT(page.size(), 20'000U);
+}
+
+TEST_P(PagesTest, WhatCannotBeShownIsLeftOut) {
+    auto recipe = Named("Soup\u202egpj.\u0085exe\u0000\u001b");
+    recipe["Instructions"] = "1.\tCut\r\n\u0007\u009b2. Boil";
+    const auto id = std::to_string(Send(recipe, json::array({Row(1, "\u200b")})));
+    EXPECT_EQ(Names(List()), (Texts{"Soupgpj. exe"}));
+    const auto page = Text("/halvane/recipe.asp?recID=" + id);
+    EXPECT_NE(page.find("<h1>Soupgpj. exe</h1>"), std::string::npos);
+    EXPECT_NE(page.find(">1.\tCut\n2. Boil<"), std::string::npos);
+    EXPECT_NE(page.find("<li>(no name)"), std::string::npos);
+}
+
+TEST_P(PagesTest, ANameThatCannotBeSeenIsToldSo) {
+    const auto id = std::to_string(Send(Named("\u200b \u3164")));
+    EXPECT_EQ(Names(List()), (Texts{"(no name)"}));
+    EXPECT_NE(Text("/halvane/recipe.asp?recID=" + id).find("<h1>(no name)</h1>"),
+              std::string::npos);
+}
+
 TEST_P(PagesTest, OneOfAThingIsNotSeveral) {
     auto recipe = Soup();
     recipe["RecipeYield"] = recipe["PrepTime"] = 1;

@@ -121,7 +121,7 @@ TEST_P(SendingTest, LineEndsInAnAddressAreRefusedAtOnce) {
     Start(Mailing(sink));
     for (const auto* address : {"bert@example.org\r\nBcc: all@example.org", "bert@example.org\n.\n",
                                 "bert\r@example.org", "bert@example.org\x7f"})
-        for (const auto* field : {"EMAILTO", "EMAILFROM", "RecipeName", "ServingName"}) {
+        for (const auto* field : {"EMAILTO", "EMAILFROM"}) {
             auto recipe = Soup();
             recipe[field] = address;
             EXPECT_EQ(Post("/halvane/api/recipes", recipe)->status, 400) << field;
@@ -141,6 +141,33 @@ TEST_P(SendingTest, ANameOfAnyLettersMakesAHarmlessSubject) {
         EXPECT_GE(c, 0);
     EXPECT_TRUE(mail.Header("Subject").starts_with("=?utf-8?B?"));
     EXPECT_NE(mail.Body().find(recipe["RecipeName"].get<std::string>()), std::string::npos);
+}
+
+TEST_P(SendingTest, ANameOfAnyLengthWithLineEndsMakesAHarmlessMailToo) {
+    const SmtpSink sink;
+    Start(Mailing(sink));
+    auto recipe = Soup();
+    recipe["RecipeName"] = "Soup\r\nBcc: all@example.org\r\n\u202e" + std::string(400'000, 'x');
+    recipe["Instructions"] = std::string(400'000, 'y');
+    SendCreated(Create(recipe).id);
+    ASSERT_EQ(sink.Mails().size(), 1U);
+    const auto mail = sink.Mails()[0];
+    EXPECT_EQ(mail.to, std::vector<std::string>{"bert@example.org"});
+    EXPECT_EQ(mail.Header("Bcc"), "");
+    EXPECT_LT(mail.Header("Subject").size(), 1000U);
+    EXPECT_TRUE(mail.Body().find("Soup Bcc: all@example.org x") != std::string::npos);
+    EXPECT_NE(mail.Body().find("too long for a mail"), std::string::npos);
+    EXPECT_LT(mail.text.size(), 200'000U);
+}
+
+TEST_P(SendingTest, AMailNamesANameThatCannotBeSeen) {
+    const SmtpSink sink;
+    Start(Mailing(sink));
+    auto recipe = Soup();
+    recipe["RecipeName"] = "\u200b";
+    SendCreated(Create(recipe).id);
+    ASSERT_EQ(sink.Mails().size(), 1U);
+    EXPECT_NE(sink.Mails()[0].Body().find("(no name)"), std::string::npos);
 }
 
 TEST_P(SendingTest, InstructionsCannotEndTheMail) {
