@@ -1,7 +1,7 @@
 #include "Ground.h"
 #include "Table.h"
 
-#include "analysis/ucCal_LG.h"
+#include "analysis/ui/ucCal_LG.h"
 #include "model/User.h"
 #include "store/Connection.h"
 #include "toolkit/DropItem.h"

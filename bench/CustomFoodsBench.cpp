@@ -2,7 +2,7 @@
 #include "Table.h"
 #include "Typing.h"
 
-#include "foods/frmFoodList.h"
+#include "foods/ui/frmFoodList.h"
 #include "model/Nutrients.h"
 #include "store/Connection.h"
 #include "toolkit/ucButton.h"

@@ -2,9 +2,9 @@
 #include "Ground.h"
 #include "Table.h"
 
-#include "analysis/ucDaily.h"
+#include "analysis/ui/ucDaily.h"
 #include "foods/ScaledFood.h"
-#include "intake/ucMyFood.h"
+#include "intake/ui/ucMyFood.h"
 #include "model/Nutrients.h"
 #include "model/User.h"
 #include "store/Connection.h"

@@ -2,8 +2,8 @@
 #include "Ground.h"
 #include "Table.h"
 
-#include "analysis/frmReport.h"
-#include "analysis/ucLineChart.h"
+#include "analysis/ui/frmReport.h"
+#include "analysis/ui/ucLineChart.h"
 #include "model/Nutrients.h"
 #include "model/User.h"
 #include "runtime/Format.h"

@@ -3,7 +3,7 @@
 #include "Table.h"
 #include "Typing.h"
 
-#include "recipes/frmRecipeManager.h"
+#include "recipes/ui/frmRecipeManager.h"
 #include "store/Connection.h"
 #include "toolkit/ucButton.h"
 

@@ -5,7 +5,7 @@
 #include "foods/FoodSearch.h"
 #include "foods/SearchTerms.h"
 #include "recipes/RecipeStore.h"
-#include "recipes/ucIngredients.h"
+#include "recipes/ui/ucIngredients.h"
 #include "store/Connection.h"
 
 #include <SQLiteCpp/SQLiteCpp.h>

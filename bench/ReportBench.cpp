@@ -2,8 +2,8 @@
 #include "Ground.h"
 #include "Table.h"
 
-#include "analysis/ucBarChart.h"
-#include "analysis/ucPieChart.h"
+#include "analysis/ui/ucBarChart.h"
+#include "analysis/ui/ucPieChart.h"
 #include "model/Nutrients.h"
 #include "model/User.h"
 #include "store/Connection.h"

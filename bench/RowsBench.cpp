@@ -2,7 +2,7 @@
 #include "Table.h"
 
 #include "foods/FoodList.h"
-#include "foods/ResultRows.h"
+#include "foods/ui/ResultRows.h"
 
 #include <QApplication>
 #include <QLabel>

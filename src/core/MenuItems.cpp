@@ -5,8 +5,8 @@
 #include "core/frmPrefs.h"
 #include "core/frmSplash.h"
 #include "model/User.h"
-#include "model/frmProfile.h"
-#include "recipes/frmImport.h"
+#include "model/ui/frmProfile.h"
+#include "recipes/ui/frmImport.h"
 #include "runtime/Server.h"
 
 #include <QTimer>

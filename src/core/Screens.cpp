@@ -1,13 +1,13 @@
 #include "core/Screens.h"
 
-#include "analysis/frmReport.h"
+#include "analysis/ui/frmReport.h"
 #include "core/Navigation.h"
 #include "core/ScreenNames.h"
 #include "core/frmMain.h"
-#include "foods/frmFoodList.h"
-#include "intake/frmDay.h"
-#include "model/frmProfile.h"
-#include "recipes/frmRecipeManager.h"
+#include "foods/ui/frmFoodList.h"
+#include "intake/ui/frmDay.h"
+#include "model/ui/frmProfile.h"
+#include "recipes/ui/frmRecipeManager.h"
 
 void RegisterScreens(Navigation& navigation) {
     navigation.Register<frmMain>(ScreenNames::Home);

@@ -1,7 +1,7 @@
 #include "core/frmMain.h"
 
-#include "analysis/ucCal_LG.h"
-#include "analysis/ucGlance.h"
+#include "analysis/ui/ucCal_LG.h"
+#include "analysis/ui/ucGlance.h"
 #include "core/ScreenNames.h"
 #include "core/TipBox.h"
 #include "runtime/AppState.h"

@@ -1,6 +1,6 @@
 #include "core/frmWelcome.h"
 
-#include "model/frmProfile.h"
+#include "model/ui/frmProfile.h"
 #include "runtime/Seams.h"
 #include "toolkit/ButtonRow.h"
 #include "toolkit/Labels.h"

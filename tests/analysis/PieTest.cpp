@@ -1,5 +1,5 @@
-#include "analysis/Pie.h"
-#include "analysis/PieChart.h"
+#include "analysis/ui/Pie.h"
+#include "analysis/ui/PieChart.h"
 #include "support/HalvaneTest.h"
 #include "toolkit/Style.h"
 #include "toolkit/ucAALBL.h"

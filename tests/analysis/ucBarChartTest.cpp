@@ -1,8 +1,8 @@
-#include "analysis/ucBarChart.h"
+#include "analysis/ui/ucBarChart.h"
 
 #include "AnalysisTest.h"
-#include "analysis/ChartBar.h"
-#include "analysis/ChartLabel.h"
+#include "analysis/ui/ChartBar.h"
+#include "analysis/ui/ChartLabel.h"
 #include "model/User.h"
 #include "runtime/AppState.h"
 #include "runtime/RuntimeError.h"

@@ -1,7 +1,7 @@
-#include "analysis/ucCal_LG.h"
+#include "analysis/ui/ucCal_LG.h"
 
 #include "Statements.h"
-#include "analysis/DayCell.h"
+#include "analysis/ui/DayCell.h"
 #include "model/User.h"
 #include "runtime/AppState.h"
 #include "runtime/Clock.h"

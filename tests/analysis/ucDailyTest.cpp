@@ -1,9 +1,9 @@
-#include "analysis/ucDaily.h"
+#include "analysis/ui/ucDaily.h"
 
 #include "AnalysisTest.h"
-#include "analysis/ChartBar.h"
-#include "analysis/ChartLabel.h"
-#include "analysis/PiePicture.h"
+#include "analysis/ui/ChartBar.h"
+#include "analysis/ui/ChartLabel.h"
+#include "analysis/ui/PiePicture.h"
 #include "model/User.h"
 #include "runtime/AppState.h"
 #include "runtime/Clock.h"

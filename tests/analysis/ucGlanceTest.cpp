@@ -1,7 +1,7 @@
-#include "analysis/ucGlance.h"
+#include "analysis/ui/ucGlance.h"
 
 #include "AnalysisTest.h"
-#include "analysis/PiePicture.h"
+#include "analysis/ui/PiePicture.h"
 #include "model/User.h"
 #include "runtime/RuntimeError.h"
 #include "store/Connection.h"

@@ -1,7 +1,7 @@
-#include "analysis/ucLineChart.h"
+#include "analysis/ui/ucLineChart.h"
 
 #include "AnalysisTest.h"
-#include "analysis/AxisLabel.h"
+#include "analysis/ui/AxisLabel.h"
 #include "model/User.h"
 #include "runtime/AppState.h"
 #include "runtime/RuntimeError.h"

@@ -6,7 +6,7 @@
 #include "core/frmAlert.h"
 #include "core/frmHOME.h"
 #include "model/User.h"
-#include "model/frmProfile.h"
+#include "model/ui/frmProfile.h"
 #include "runtime/AppPath.h"
 #include "runtime/AppState.h"
 #include "runtime/Clock.h"

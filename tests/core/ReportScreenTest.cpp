@@ -1,6 +1,6 @@
 #include "core/CoreTest.h"
 
-#include "analysis/ucLineChart.h"
+#include "analysis/ui/ucLineChart.h"
 #include "core/Navigation.h"
 #include "core/Screens.h"
 #include "core/frmHOME.h"

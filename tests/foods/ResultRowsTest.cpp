@@ -1,8 +1,8 @@
 #include "foods/FoodsTest.h"
 
-#include "foods/SearchProgress.h"
-#include "foods/ucFood.h"
-#include "foods/ucSearchResults.h"
+#include "foods/ui/SearchProgress.h"
+#include "foods/ui/ucFood.h"
+#include "foods/ui/ucSearchResults.h"
 #include "runtime/AppState.h"
 #include "toolkit/Twips.h"
 #include "toolkit/ucScroll.h"

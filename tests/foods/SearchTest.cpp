@@ -1,7 +1,7 @@
 #include "foods/FoodsTest.h"
 
-#include "foods/ucFood.h"
-#include "foods/ucSearchResults.h"
+#include "foods/ui/ucFood.h"
+#include "foods/ui/ucSearchResults.h"
 #include "runtime/AppState.h"
 #include "runtime/Settings.h"
 #include "store/Connection.h"

@@ -1,9 +1,9 @@
 #include "foods/FoodsTest.h"
 
-#include "foods/frmFoodSearch.h"
-#include "foods/frmNutInfo.h"
-#include "foods/ucFood.h"
-#include "foods/ucSearchResults.h"
+#include "foods/ui/frmFoodSearch.h"
+#include "foods/ui/frmNutInfo.h"
+#include "foods/ui/ucFood.h"
+#include "foods/ui/ucSearchResults.h"
 #include "runtime/Seams.h"
 #include "runtime/Settings.h"
 #include "support/Restored.h"

@@ -1,6 +1,6 @@
 #include "foods/FoodsTest.h"
 
-#include "foods/frmNutInfo.h"
+#include "foods/ui/frmNutInfo.h"
 #include "model/User.h"
 #include "toolkit/Style.h"
 #include "toolkit/Twips.h"

@@ -1,6 +1,6 @@
 #include "foods/FoodsTest.h"
 
-#include "foods/ucFood.h"
+#include "foods/ui/ucFood.h"
 
 #include <QHelpEvent>
 #include <QLabel>

@@ -1,6 +1,6 @@
 #include "IntakeTest.h"
 
-#include "intake/AtePane.h"
+#include "toolkit/AtePane.h"
 #include "toolkit/Style.h"
 #include "toolkit/ucButtonA.h"
 #include "toolkit/ucScroll.h"

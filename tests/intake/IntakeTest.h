@@ -1,8 +1,8 @@
 #pragma once
 
 #include "foods/ScaledFood.h"
-#include "intake/ucAte.h"
 #include "support/HalvaneTest.h"
+#include "toolkit/ucAte.h"
 
 #include <QDate>
 

@@ -1,4 +1,4 @@
-#include "model/frmProfile.h"
+#include "model/ui/frmProfile.h"
 #include "model/Nutrients.h"
 #include "model/User.h"
 #include "runtime/AppState.h"

@@ -1,4 +1,4 @@
-#include "recipes/HttpClient.h"
+#include "recipes/net/HttpClient.h"
 
 #include "support/Failure.h"
 #include "support/ScriptedServer.h"

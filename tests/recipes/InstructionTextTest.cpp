@@ -1,4 +1,4 @@
-#include "recipes/InstructionText.h"
+#include "recipes/ui/InstructionText.h"
 
 #include "support/HalvaneTest.h"
 #include "toolkit/ucScroll.h"

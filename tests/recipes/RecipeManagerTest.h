@@ -1,7 +1,7 @@
 #pragma once
 
 #include "recipes/RecipesTest.h"
-#include "recipes/frmRecipeManager.h"
+#include "recipes/ui/frmRecipeManager.h"
 #include "toolkit/ListBox.h"
 #include "toolkit/ucButton.h"
 

@@ -1,10 +1,10 @@
 #include "recipes/RecipeManagerTest.h"
 #include "support/KillPoints.h"
 
-#include "intake/ucAte.h"
 #include "recipes/RecipeStore.h"
-#include "recipes/ucIngredients.h"
+#include "recipes/ui/ucIngredients.h"
 #include "store/Connection.h"
+#include "toolkit/ucAte.h"
 #include "toolkit/ucScroll.h"
 
 #include <QApplication>

@@ -1,14 +1,14 @@
 #include "recipes/RecipesTest.h"
 
-#include "foods/frmFoodSearch.h"
-#include "foods/frmNutInfo.h"
-#include "foods/ucFood.h"
-#include "foods/ucSearchResults.h"
-#include "intake/ucAte.h"
-#include "intake/ucMyFood.h"
+#include "foods/ui/frmFoodSearch.h"
+#include "foods/ui/frmNutInfo.h"
+#include "foods/ui/ucFood.h"
+#include "foods/ui/ucSearchResults.h"
+#include "intake/ui/ucMyFood.h"
 #include "recipes/RecipeStore.h"
 #include "store/Connection.h"
 #include "store/Schema.h"
+#include "toolkit/ucAte.h"
 
 #include <QLabel>
 #include <QLineEdit>

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "recipes/RecipesTest.h"
-#include "recipes/frmImport.h"
-#include "recipes/frmSend.h"
+#include "recipes/ui/frmImport.h"
+#include "recipes/ui/frmSend.h"
 #include "support/ScriptedServer.h"
 
 #include "runtime/Seams.h"

@@ -1,9 +1,9 @@
 #include "recipes/RecipeManagerTest.h"
 
-#include "intake/ucAte.h"
-#include "recipes/ucIngredients.h"
+#include "recipes/ui/ucIngredients.h"
 #include "runtime/AppState.h"
 #include "store/Connection.h"
+#include "toolkit/ucAte.h"
 #include "toolkit/ucBox.h"
 #include "toolkit/ucScroll.h"
 

@@ -1,13 +1,13 @@
 #include "recipes/RecipesTest.h"
 
-#include "intake/ucAte.h"
-#include "recipes/ucIngredients.h"
+#include "recipes/ui/ucIngredients.h"
 #include "runtime/AppState.h"
 #include "runtime/Round.h"
 #include "store/Connection.h"
 #include "toolkit/MousePointer.h"
 #include "toolkit/Style.h"
 #include "toolkit/Twips.h"
+#include "toolkit/ucAte.h"
 #include "toolkit/ucButtonA.h"
 #include "toolkit/ucScroll.h"
 

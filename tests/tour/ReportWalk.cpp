@@ -2,8 +2,8 @@
 
 #include "tour/Guide.h"
 
-#include "analysis/ChartLabel.h"
-#include "analysis/ucLineChart.h"
+#include "analysis/ui/ChartLabel.h"
+#include "analysis/ui/ucLineChart.h"
 #include "model/Nutrients.h"
 #include "model/User.h"
 #include "runtime/Clock.h"

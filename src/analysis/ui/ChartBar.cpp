@@ -1,0 +1,45 @@
+#include "analysis/ui/ChartBar.h"
+
+#include "toolkit/Style.h"
+#include "toolkit/Twips.h"
+
+#include <QPainter>
+
+namespace {
+
+QImage BarPicture(const QColor (&rows)[ChartBar::Height]) {
+    constexpr int PictureWidth = 7;
+    QImage picture(PictureWidth, ChartBar::Height, QImage::Format_RGB32);
+    for (int y = 0; y < picture.height(); ++y)
+        for (int x = 0; x < picture.width(); ++x)
+            picture.setPixelColor(x, y, rows[y]);
+    return picture;
+}
+
+} // namespace
+
+ChartBar::ChartBar(QWidget* parent)
+    : ChartPiece(parent) {
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    resize(0, Height);
+}
+
+void ChartBar::SetWidth(double twips) {
+    if (width_ == twips)
+        return;
+    width_ = twips;
+    resize(Twips::ToPixels(twips), Height);
+}
+
+void ChartBar::SetHilited(bool hilited) {
+    if (hilited_ == hilited)
+        return;
+    hilited_ = hilited;
+    update();
+}
+
+void ChartBar::paintEvent(QPaintEvent*) {
+    static const QImage picBarGraph_Bars_N = BarPicture(TheStyle().barNormal);
+    static const QImage picBarGraph_Bars_R = BarPicture(TheStyle().barHover);
+    QPainter(this).drawImage(rect(), hilited_ ? picBarGraph_Bars_R : picBarGraph_Bars_N);
+}

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "analysis/ui/ChartPiece.h"
+
+#include <QColor>
+
+/// A line of chart text: a row's name, or its value behind a leader of points.
+class ChartLabel : public ChartPiece {
+    Q_OBJECT
+    Q_PROPERTY(QString Caption READ Caption WRITE SetCaption)
+    Q_PROPERTY(QColor ForeColor READ ForeColor WRITE SetForeColor)
+
+public:
+    explicit ChartLabel(QWidget* parent = nullptr);
+
+    QString Caption() const { return caption_; }
+    void SetCaption(const QString& caption);
+    QColor ForeColor() const { return foreColor_; }
+    void SetForeColor(const QColor& color);
+    Qt::Alignment Alignment() const { return alignment_; }
+    void SetAlignment(Qt::Alignment alignment) { alignment_ = alignment; }
+    QString SpokenName() const override { return caption_; }
+    QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent*) override;
+
+private:
+    int TextWidth() const;
+
+    QString caption_;
+    mutable int textWidth_ = 0; ///< of the caption; negative until it is measured
+    QColor foreColor_;
+    Qt::Alignment alignment_ = Qt::AlignLeft | Qt::AlignBottom;
+};

@@ -1,0 +1,81 @@
+#include "analysis/ui/DailyRow.h"
+
+#include "analysis/ui/BarGrid.h"
+#include "analysis/ui/ChartBar.h"
+#include "analysis/ui/ChartLabel.h"
+#include "runtime/Convert.h"
+#include "toolkit/Style.h"
+#include "toolkit/Twips.h"
+
+namespace {
+
+const QString Leader = QStringLiteral(".......................");
+const QString EmptyValue = QStringLiteral("..............................0");
+
+// Pixels.
+constexpr int LabelLeft = 7;
+constexpr int RowHeight = 14;
+constexpr int FirstTop = 2;
+
+constexpr int RightMargin = 30; ///< twips
+
+} // namespace
+
+DailyRow::DailyRow(int i, Nutrient nutrient, const Views& views)
+    : ChartRow(i, nutrient, Info(nutrient).unit, views) {
+    lbl()->setGeometry(LabelLeft, Top(i), views.labels->width() - LabelLeft,
+                       RowHeight + Twips::ToPixels(ValueDrop));
+    imgBar()->move(Twips::ToPixels(BarGrid::Origin), Top(i) + Twips::ToPixels(BarDrop));
+    lblVal()->move(0, Top(i) + Twips::ToPixels(ValueDrop));
+    SetFigure(0, 0);
+}
+
+int DailyRow::Top(int i) {
+    return FirstTop + (i - 1) * RowHeight;
+}
+
+void DailyRow::Show(double value, double rdi, int panelWidth) {
+    value_ = value;
+    rdi_ = rdi;
+    SetBar(barWidth(value_, rdi_, panelWidth));
+    lblVal()->SetCaption(Leader + DecimalText(numFix(value)) + u' ' +
+                         QLatin1String(Info(nutrient()).unit));
+    SetFigure(value, rdi);
+}
+
+void DailyRow::ShowNothing() {
+    value_ = 0;
+    SetBar(0);
+    lblVal()->SetCaption(EmptyValue);
+    SetFigure(0, rdi_);
+}
+
+void DailyRow::SetBar(double width) {
+    imgBar()->SetWidth(width);
+    imgBar()->setHidden(BarIsNarrow());
+}
+
+void DailyRow::FitBar(int panelWidth) {
+    const double width = barWidth(value_, rdi_, panelWidth);
+    if (width != imgBar()->Width())
+        SetBar(width);
+}
+
+void DailyRow::FitValue() {
+    lblVal()->resize(lblVal()->sizeHint());
+}
+
+void DailyRow::SetLit(bool lit) {
+    const QColor& colour = lit ? TheStyle().barRowHover : TheStyle().barRowText;
+    lbl()->SetForeColor(colour);
+    lblVal()->SetForeColor(colour);
+    imgBar()->SetHilited(lit);
+}
+
+double DailyRow::barWidth(double value, double rdi, int panelWidth) {
+    const double width = Twips::PerPixel() * 100 * PartOfTarget(value, rdi);
+    const int end = Twips::FromPixels(panelWidth) - RightMargin;
+    if (static_cast<float>(end) < static_cast<float>(width + BarGrid::Origin))
+        return qMax(0, end - BarGrid::Origin);
+    return qMax(0.0, width);
+}

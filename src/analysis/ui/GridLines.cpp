@@ -1,0 +1,15 @@
+#include "analysis/ui/GridLines.h"
+
+#include "toolkit/Style.h"
+#include "toolkit/Twips.h"
+
+#include <QPainter>
+
+void GridLines::DrawGrid(QPainter& painter, int height) const {
+    const Style& style = TheStyle();
+    const int bottom = Twips::ToPixels(Twips::FromPixels(height) - Foot);
+    for (int n = 0; origin + n <= end; n += step) {
+        const QColor& colour = n % darkStep == 0 ? style.gridDark : style.gridLight;
+        painter.fillRect(Twips::ToPixels(origin + n), 0, 1, bottom, colour);
+    }
+}

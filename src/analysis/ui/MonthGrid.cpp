@@ -1,0 +1,114 @@
+#include "analysis/ui/MonthGrid.h"
+
+#include "runtime/Dates.h"
+#include "toolkit/PaintedPanel.h"
+#include "toolkit/Style.h"
+#include "toolkit/Twips.h"
+
+#include <QPainter>
+
+namespace {
+
+constexpr int headHeight = 22;   // pixels
+constexpr double lineWidth = 15; // twips
+
+} // namespace
+
+/// The strip over a column of days.
+class WeekdayHead : public PaintedPanel {
+public:
+    using PaintedPanel::PaintedPanel;
+
+protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        painter.fillRect(rect(), TheStyle().navigation);
+        PrintCaption(painter, TheStyle().windowInk, (width() - TextWidth()) / 2);
+    }
+};
+
+MonthGrid::MonthGrid(QWidget* parent)
+    : QWidget(parent) {
+    setObjectName(QStringLiteral("picCalBG"));
+    setMouseTracking(true);
+    for (int column = 0; column < Columns; ++column) {
+        auto* head = new WeekdayHead(this);
+        head->setObjectName("ucDay" + QString::number(column));
+        head->setFont(TheStyle().smallStrong);
+        head->SetCaption(Dates::WeekdayName(column + 1).left(3));
+        head->setAccessibleName(Dates::WeekdayName(column + 1));
+        connect(head, &PaintedPanel::MouseMove, this, &MonthGrid::HeadMouseMove);
+        ucDay_[column] = head;
+    }
+}
+
+double MonthGrid::CellWidth() const {
+    return double(Twips::FromPixels(width())) / Columns;
+}
+
+double MonthGrid::RowHeight() const {
+    return double(Twips::FromPixels(height() - headHeight)) / Rows;
+}
+
+int MonthGrid::FirstTop() const {
+    return Twips::FromPixels(headHeight + ucDay_[0]->y()) + int(lineWidth);
+}
+
+int MonthGrid::ColumnLine(int column) const {
+    return qMin(Twips::ToPixels(CellWidth() * column), width() - Twips::ToPixels(lineWidth));
+}
+
+int MonthGrid::RowLine(int row) const {
+    return qMin(headHeight + Twips::ToPixels(RowHeight() * row),
+                height() - Twips::ToPixels(lineWidth));
+}
+
+QRect MonthGrid::SlotAt(int x, int y, int column, int row) const {
+    const int line = Twips::ToPixels(lineWidth);
+    const QPoint corner(qMax(Twips::ToPixels(x), ColumnLine(column) + line),
+                        qMax(Twips::ToPixels(y), RowLine(row) + line));
+    return {corner, QPoint(ColumnLine(column + 1) - 1, RowLine(row + 1) - 1)};
+}
+
+void MonthGrid::SetMonth(int firstColumn, int days) {
+    firstUsed_ = firstColumn;
+    endUsed_ = firstColumn + days;
+    update();
+}
+
+/// The strips are as wide as the step to the next one, whatever it rounds to.
+void MonthGrid::resizeEvent(QResizeEvent*) {
+    for (int column = 0; column < Columns; ++column) {
+        const int left = Twips::ToPixels(CellWidth() * column);
+        const int right = Twips::ToPixels(CellWidth() * (column + 1));
+        ucDay_[column]->setGeometry(left, 0, right - left, headHeight);
+    }
+}
+
+void MonthGrid::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.fillRect(rect(), TheStyle().paper);
+    PaintSlots(painter);
+    PaintLines(painter);
+}
+
+void MonthGrid::PaintSlots(QPainter& painter) const {
+    for (int slot = 0; slot < Columns * Rows; ++slot) {
+        const int column = slot % Columns;
+        const int row = slot / Columns;
+        const QPoint corner(ColumnLine(column) + 1, RowLine(row) + 1);
+        const QPoint end(ColumnLine(column + 1) - 1, RowLine(row + 1) - 1);
+        if (slot < firstUsed_ || slot >= endUsed_)
+            painter.fillRect(QRect(corner, end), TheStyle().canvas);
+    }
+}
+
+void MonthGrid::PaintLines(QPainter& painter) const {
+    const QColor& line = TheStyle().frame;
+    const int thick = Twips::ToPixels(lineWidth);
+    for (int column = 0; column <= Columns; ++column)
+        painter.fillRect(ColumnLine(column), 0, thick, height(), line);
+    for (int row = 0; row <= Rows; ++row)
+        painter.fillRect(0, RowLine(row), width(), thick, line);
+    painter.fillRect(0, 0, width(), thick, line);
+}

@@ -1,0 +1,226 @@
+#include "analysis/ui/frmReport.h"
+
+#include "analysis/Period.h"
+#include "analysis/WeightLog.h"
+#include "analysis/ui/ViewButtons.h"
+#include "analysis/ui/ucBarChart.h"
+#include "analysis/ui/ucLineChart.h"
+#include "analysis/ui/ucPieChart.h"
+#include "runtime/Clock.h"
+#include "runtime/Convert.h"
+#include "runtime/Dates.h"
+#include "runtime/Format.h"
+#include "runtime/RuntimeError.h"
+#include "runtime/Seams.h"
+#include "runtime/Settings.h"
+#include "toolkit/MousePointer.h"
+#include "toolkit/Style.h"
+#include "toolkit/ucAALBL.h"
+#include "toolkit/ucButton.h"
+
+#include <QEvent>
+#include <QLineEdit>
+
+#include <utility>
+
+namespace {
+
+const QString StateSetting = QStringLiteral("REPORTSTATE");
+constexpr int DaysBefore = 6; ///< of the period that the screen comes up with
+
+const QString NoWeight = QStringLiteral(
+    "There is no weight entry from %1 to %2, so the percent bars and the average values of this "
+    "period cannot be worked out. Enter a weight for one of its days on the screen \"Daily "
+    "Details\", in the field \"Enter today's weight:\".");
+const QString DaysReversed =
+    QStringLiteral("There is no weight entry from %1 to %2, as the first day lies behind the last "
+                   "one. Enter the earlier day on the left.");
+
+enum View { Bars, Pie, Line, Values };
+constexpr ViewButton Views[] = {
+    {"cmdBar", "bars", "Bar chart of Percent RDI"},
+    {"cmdPie", "pie", "Pie chart breakdown of caloric intake"},
+    {"cmdLine", "line-chart", "Line chart of daily weights"},
+    {"cmdVals", "values", "Numeric values of averages"},
+};
+
+// Measures in pixels.
+constexpr int firstLineLeft = 204; ///< beside the frame's title of the screen
+constexpr int dateWidth = 84;
+constexpr int viewsGap = 12;
+
+} // namespace
+
+frmReport::frmReport(QWidget* parent)
+    : Screen(QStringLiteral("frmReport"), QStringLiteral("Report"), parent) {
+    setFocusPolicy(Qt::ClickFocus);
+    AddPeriod();
+    AddViewButtons();
+    AddCharts();
+    cmdDone_ = AddButton("cmdDone", "Done", &frmReport::GoHome, "cmddone");
+    ShowLastDays();
+}
+
+void frmReport::AddPeriod() {
+    aaLBL_ = new ucAALBL(this);
+    aaLBL_->setObjectName(QStringLiteral("aaLBL"));
+    aaLBL_->SetFont(TheStyle().text);
+    aaLBL_->SetForeColor(TheStyle().ink);
+    aaLBL_->SetBackColor(TheStyle().canvas);
+    aaLBL_->SetCaption(QStringLiteral("Report date range:"));
+    aaLBL_->installEventFilter(this);
+    txtStart_ = AddDateField("txtStart", QStringLiteral("First day of the report"));
+    txtEnd_ = AddDateField("txtEnd", QStringLiteral("Last day of the report"));
+    cmdRefresh_ = AddButton("cmdRefresh", "Refresh", &frmReport::Refresh);
+}
+
+QLineEdit* frmReport::AddDateField(const char* name, const QString& accessibleName) {
+    auto* field = new QLineEdit(this);
+    field->setObjectName(QLatin1String(name));
+    field->setAccessibleName(accessibleName);
+    field->resize(dateWidth, TheStyle().fieldHeight);
+    field->installEventFilter(this);
+    connect(field, &QLineEdit::returnPressed, this, &frmReport::Refresh);
+    return field;
+}
+
+void frmReport::AddViewButtons() {
+    views_ = new ViewButtons(Views, this);
+    views_->resize(views_->sizeHint());
+    connect(views_, &ViewButtons::Asked, this, &frmReport::ChooseView);
+    connect(views_, &ViewButtons::Hovered, this, &frmReport::AllOff);
+}
+
+/// Until a view is chosen the bars are the one that is there.
+void frmReport::AddCharts() {
+    ucBar_ = new ucBarChart(this);
+    ucBar_->setObjectName(QStringLiteral("ucBar"));
+    ucPie_ = new ucPieChart(this);
+    ucPie_->setObjectName(QStringLiteral("ucPie"));
+    ucLine_ = new ucLineChart(this);
+    ucLine_->setObjectName(QStringLiteral("ucLine"));
+    ucLine_->ReadPeriodFrom(txtStart_, txtEnd_);
+    for (PeriodChart* chart : {static_cast<PeriodChart*>(ucBar_), static_cast<PeriodChart*>(ucPie_),
+                               static_cast<PeriodChart*>(ucLine_)})
+        connect(chart, &PeriodChart::MouseMove, this, [this] { AllOff(QString()); });
+    ucPie_->hide();
+    ucLine_->hide();
+}
+
+void frmReport::resizeEvent(QResizeEvent*) {
+    PlaceFirstLine();
+    for (QWidget* chart : {static_cast<QWidget*>(ucBar_), static_cast<QWidget*>(ucPie_),
+                           static_cast<QWidget*>(ucLine_)})
+        chart->setGeometry(BoxesPlace());
+    PlaceAtEnd(cmdDone_);
+}
+
+void frmReport::PlaceFirstLine() {
+    int left = firstLineLeft;
+    for (QWidget* control : {static_cast<QWidget*>(aaLBL_), static_cast<QWidget*>(txtStart_),
+                             static_cast<QWidget*>(txtEnd_), static_cast<QWidget*>(cmdRefresh_)})
+        left = PlaceInTitleLine(control, left) + TheStyle().boxGap;
+    PlaceInTitleLine(views_, left + viewsGap);
+}
+
+void frmReport::ShowLastDays() {
+    const QDate today = Clock::Today();
+    txtEnd_->setText(FormatShortDate(today));
+    txtStart_->setText(FormatShortDate(Dates::AddDays(today, -DaysBefore)));
+    UpdateCharts();
+}
+
+QDate frmReport::Start() const {
+    return ToDate(txtStart_->text());
+}
+
+QDate frmReport::End() const {
+    return ToDate(txtEnd_->text());
+}
+
+void frmReport::Refresh() {
+    if (!Dates::IsDate(txtStart_->text()) || !Dates::IsDate(txtEnd_->text())) {
+        ShowAlert(QStringLiteral("Please enter a valid start date for the report in the format "
+                                 "'month/day/year' (eg 4/3/2002)."),
+                  this);
+        return;
+    }
+    UpdateCharts();
+    TellNoWeight();
+}
+
+void frmReport::UpdateCharts() {
+    MousePointer::SetBusy();
+    const MousePointer::NormalAtEnd normalAtEnd;
+    missesWeight_ = !UpdateBars();
+    ucPie_->updatePie(Start(), End());
+    ucLine_->updateLineChart(Start(), End());
+}
+
+/// False where the period has no weight: its average is Null then, and there is nothing to work the
+/// targets out for. The other charts are not held up by that.
+bool frmReport::UpdateBars() {
+    try {
+        ucBar_->updateBars(Start(), End());
+        return true;
+    } catch (const RuntimeError& failure) {
+        const bool averageIsNull = failure.Number() == ErrorNumber::InvalidUseOfNull;
+        if (!averageIsNull || !WeightLog::Entries({Start(), End()}).empty())
+            throw;
+    }
+    ucBar_->ClearBars();
+    return false;
+}
+
+void frmReport::TellNoWeight() {
+    if (isHidden() || !std::exchange(missesWeight_, false))
+        return;
+    const QString& message = End() < Start() ? DaysReversed : NoWeight;
+    ShowAlert(message.arg(Dates::ShortText(Start()), Dates::ShortText(End())), this);
+}
+
+/// What the loading has found is told when the screen has come up, not while it does.
+void frmReport::DoWinInit() {
+    if (missesWeight_)
+        QMetaObject::invokeMethod(this, &frmReport::TellNoWeight, Qt::QueuedConnection);
+    const QString state = GetRegValue(StateSetting);
+    ChooseView(state.isEmpty() ? Bars : ToInteger(state));
+}
+
+void frmReport::ChooseView(qint32 view) {
+    state_ = QString::number(view);
+    if (view < Bars || view > Values)
+        return;
+    ucLine_->setVisible(view == Line);
+    ucBar_->setVisible(view == Bars || view == Values);
+    ucPie_->setVisible(view == Pie);
+    if (ucBar_->isVisibleTo(this))
+        ucBar_->Toggle(view == Values ? 1 : 0);
+    views_->SetChosen(view);
+}
+
+void frmReport::GoHome() {
+    ShowScreen(QStringLiteral("frmMain"));
+}
+
+void frmReport::closeEvent(QCloseEvent* event) {
+    SetRegValue(StateSetting, state_);
+    ucBar_->StoreMode();
+    Screen::closeEvent(event);
+}
+
+void frmReport::AllOff(const QString& except) {
+    if (except != QLatin1String("cmdRefresh"))
+        cmdRefresh_->Reset();
+    if (except != QLatin1String("cmddone"))
+        cmdDone_->Reset();
+    views_->ResetAllBut(except);
+}
+
+/// The label and the fields stand so near to `cmdRefresh` alone.
+bool frmReport::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() != QEvent::MouseMove)
+        return Screen::eventFilter(watched, event);
+    cmdRefresh_->Reset();
+    return watched == aaLBL_;
+}

@@ -1,0 +1,252 @@
+#include "analysis/ui/ucBarChart.h"
+
+#include "analysis/LoggedSums.h"
+#include "analysis/ui/ChartBar.h"
+#include "analysis/ui/ChartLabel.h"
+#include "analysis/ui/GridLines.h"
+#include "model/User.h"
+#include "runtime/Format.h"
+#include "runtime/Round.h"
+#include "runtime/Settings.h"
+#include "store/Connection.h"
+#include "store/Recordset.h"
+#include "toolkit/Style.h"
+#include "toolkit/Twips.h"
+#include "toolkit/ucHeader.h"
+#include "toolkit/ucStrip.h"
+
+#include <QPainter>
+
+namespace {
+
+const QString BarsMode = QStringLiteral("BARS");
+const QString ValuesMode = QStringLiteral("VALS");
+const QString ModeSetting = QStringLiteral("REPORTMODE");
+const QString Leader(148, u'.');
+
+// Twips.
+constexpr GridLines Grid{2430, 300, 1500, 11000};
+constexpr int BarLeft = 2445;
+constexpr int FirstTop = 60;
+constexpr int Overlap = 45; ///< of a label and the one below it
+constexpr int ValueWidth = 7815;
+
+constexpr int PixelsAtTarget = 400;
+constexpr int MostPixels = 534;
+
+struct ScaleMark {
+    const char* caption;
+    int left; ///< twips
+};
+constexpr ScaleMark Scale[] = {
+    {"25%", 3645}, {"50%", 5160}, {"75%", 6630}, {"100%", 8160}, {"125%", 9630}};
+
+// Pixels.
+constexpr int UsualWidth = 738;
+constexpr int UsualHeight = 476;
+constexpr int LabelLeft = 8;
+constexpr int HeaderDrop = 1; ///< the header reaches below the upper edge of the first label
+constexpr int LeastPitch = 13;
+
+/// In twips: the tallest whole pixels with which the rows fit.
+int LabelHeight(int chartHeight) {
+    const int rows = Twips::FromPixels(chartHeight) - FirstTop - Overlap - GridLines::Foot;
+    const int pitch = rows / ((NutrientCount + 1) * Twips::PerPixel());
+    return Twips::FromPixels(qMax(LeastPitch, pitch)) + Overlap;
+}
+
+} // namespace
+
+ucBarChart::ucBarChart(QWidget* parent)
+    : PeriodChart(parent) {
+    setAccessibleName(QStringLiteral("Average intake"));
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    SetSpokenValue([this] { return Spoken(); });
+    AddHead();
+    AddRows();
+    TrackParts();
+    resize(sizeHint());
+    PlaceAll();
+    Toggle(GetRegValue(ModeSetting) == ValuesMode ? 1 : 0);
+}
+
+ucBarChart::~ucBarChart() {
+    StoreMode();
+}
+
+void ucBarChart::StoreMode() const {
+    SetRegValue(ModeSetting, mode_);
+}
+
+void ucBarChart::AddHead() {
+    header_ = new ucHeader(this);
+    header_->setObjectName(QStringLiteral("ucHeader1"));
+    header_->setFont(TheStyle().strong);
+    header_->SetCenterAlignText(false);
+    for (const ScaleMark& mark : Scale) {
+        auto* strip = new ucStrip(this);
+        strip->setObjectName(QStringLiteral("ucRDI%1").arg(scale_.size() + 1));
+        strip->SetCaption(QLatin1String(mark.caption));
+        KeepMoves(strip);
+        scale_.push_back(strip);
+    }
+}
+
+void ucBarChart::AddRows() {
+    picVals_ = new QWidget(this);
+    picVals_->setObjectName(QStringLiteral("picVals"));
+    picVals_->setPalette(TheStyle().paper);
+    picVals_->setAutoFillBackground(true);
+    KeepMoves(picVals_);
+    for (const Nutrient nutrient : PeriodOrder()) {
+        rows_.push_back(std::make_unique<ChartRow>(int(rows_.size()) + 1, nutrient,
+                                                   Info(nutrient).periodUnit,
+                                                   ChartRow::Views{this, this, picVals_}));
+        KeepMoves(rows_.back()->imgBar());
+    }
+}
+
+QSize ucBarChart::sizeHint() const {
+    return {UsualWidth, UsualHeight};
+}
+
+void ucBarChart::resizeEvent(QResizeEvent*) {
+    PlaceAll();
+}
+
+void ucBarChart::PlaceAll() {
+    const int labelHeight = LabelHeight(height());
+    PlaceHead(Twips::ToPixels(labelHeight - Overlap + FirstTop) + HeaderDrop);
+    for (int i = 1; i <= int(rows_.size()); ++i)
+        PlaceRow(i, labelHeight);
+}
+
+void ucBarChart::PlaceHead(int height) {
+    header_->setGeometry(1, 1, width() - 2, height - 1);
+    for (size_t i = 0; i < scale_.size(); ++i)
+        scale_[i]->setGeometry(Twips::ToPixels(Scale[i].left), 1, scale_[i]->sizeHint().width(),
+                               height - 1);
+    const int left = Twips::ToPixels(Grid.origin);
+    picVals_->setGeometry(left, height, width() - 1 - left, this->height() - 1 - height);
+}
+
+void ucBarChart::PlaceRow(int i, int labelHeight) {
+    const ChartRow& row = *rows_[size_t(i - 1)];
+    const int top = (labelHeight - Overlap) * i + FirstTop;
+    const int left = Twips::ToPixels(Grid.origin);
+    const int textHeight = row.lbl()->fontMetrics().height();
+    const int textTop = Twips::ToPixels(ChartRow::ValueDrop);
+    row.lbl()->setGeometry(LabelLeft, Twips::ToPixels(top), left - LabelLeft,
+                           Twips::ToPixels(labelHeight));
+    row.lbl()->setContentsMargins(0, 0, 0, row.lbl()->height() - textTop - textHeight);
+    row.imgBar()->move(Twips::ToPixels(BarLeft), Twips::ToPixels(top + ChartRow::BarDrop));
+    row.lblVal()->setGeometry(0, Twips::ToPixels(top) - picVals_->y() + textTop,
+                              Twips::ToPixels(ValueWidth), textHeight);
+}
+
+void ucBarChart::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.fillRect(rect(), TheStyle().paper);
+    Grid.DrawGrid(painter, height());
+    painter.setPen(TheStyle().frame);
+    painter.drawRect(QRectF(rect()).adjusted(.5, .5, -.5, -.5));
+}
+
+void ucBarChart::updateBars(QDate start, QDate end) {
+    const Period period{start, end};
+    const qint32 kept = User::Current().CurrentWeight;
+    AdjustToAverageWeight(period);
+    const std::optional<Nuts> sums = LoggedSums::OfPeriod(period);
+    if (!sums)
+        return ClearBars();
+    sums_ = *sums;
+    days_ = LoggedSums::LoggedDays(period);
+    ShowBars();
+    ShowValues();
+    User::Current().CurrentWeight = kept;
+    RecalcTargets();
+    TellValueChanged();
+}
+
+void ucBarChart::AdjustToAverageWeight(const Period& period) {
+    Recordset average(UserDB(),
+                      "SELECT Avg(USER_WEIGHTS.Weight) AS [Weight] FROM USER_WEIGHTS WHERE Weight "
+                      "> 0 AND UID=" +
+                          QString::number(User::Current().UID) + " AND " + period.Condition(),
+                      Cursor::Static, Lock::ReadOnly);
+    averageWeight_ = Round(average[QStringLiteral("Weight")].Number());
+    User::Current().CurrentWeight = averageWeight_;
+    header_->SetCaption(PercentCaption());
+    RecalcTargets();
+    average.Close();
+}
+
+void ucBarChart::ShowBars() {
+    for (const auto& row : rows_) {
+        double value = sums_[row->nutrient()];
+        const double rdi = User::Current().RDIs[row->nutrient()];
+        row->imgBar()->SetWidth(barWidth(days_, value, rdi));
+        row->SetFigure(value, rdi);
+        if (row->BarIsNarrow() || mode_ == BarsMode)
+            row->imgBar()->setHidden(row->BarIsNarrow());
+    }
+}
+
+void ucBarChart::ShowValues() {
+    for (const auto& row : rows_) {
+        double value = sums_[row->nutrient()];
+        row->lblVal()->SetCaption(Leader + numFix(value) + u' ' +
+                                  QLatin1String(Info(row->nutrient()).periodUnit));
+    }
+}
+
+void ucBarChart::ClearBars() {
+    for (const auto& row : rows_) {
+        row->imgBar()->SetWidth(0);
+        row->imgBar()->hide();
+        row->ClearFigure();
+    }
+    TellValueChanged();
+}
+
+void ucBarChart::Toggle(int mode) {
+    if (mode != 0 && mode != 1)
+        return;
+    const bool bars = mode == 0;
+    mode_ = bars ? BarsMode : ValuesMode;
+    header_->SetCaption(bars ? PercentCaption()
+                             : QStringLiteral("             Average Nutrient Values"));
+    picVals_->setVisible(!bars);
+    for (ucStrip* strip : scale_)
+        strip->setVisible(bars);
+    for (const auto& row : rows_)
+        row->imgBar()->setVisible(bars);
+}
+
+double ucBarChart::barWidth(qint32 days, double& value, double rdi) {
+    value /= days;
+    const double width = Twips::PerPixel() * PixelsAtTarget * ChartRow::PartOfTarget(value, rdi);
+    const double limit = Twips::PerPixel() * MostPixels;
+    if (static_cast<float>(width) > static_cast<float>(limit))
+        return limit;
+    return qMax(0.0, width);
+}
+
+QString ucBarChart::numFix(double& value) const {
+    if (value == 0)
+        return QStringLiteral("0");
+    value /= days_;
+    return Format(value, value < 100 ? NumberMask::UpToTwoDecimals : NumberMask::CalorieTotal);
+}
+
+QString ucBarChart::PercentCaption() const {
+    return " Percent RDI (avg weight: " + QString::number(averageWeight_) + " lbs)";
+}
+
+QString ucBarChart::Spoken() const {
+    QStringList figures;
+    for (const auto& row : rows_)
+        if (const QString figure = row->SpokenValue(); !figure.isEmpty())
+            figures << row->lbl()->Caption() + u": " + figure;
+    return figures.isEmpty() ? QStringLiteral("No data to chart") : figures.join(u"; ");
+}

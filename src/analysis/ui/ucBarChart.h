@@ -1,0 +1,67 @@
+#pragma once
+
+#include "analysis/ui/ChartRow.h"
+#include "analysis/ui/PeriodChart.h"
+#include "model/Nuts.h"
+
+#include <QDate>
+
+#include <memory>
+#include <vector>
+
+class ucHeader;
+class ucStrip;
+struct Period;
+
+/// The intake of an average day of a period, as bars of percent of the targets or as a list of
+/// values. The targets are those for the average weight of the period; afterwards the user has the
+/// present weight and its targets again, save where there was no food to draw. An average is taken
+/// over the days with food.
+class ucBarChart : public PeriodChart {
+    Q_OBJECT
+    Q_PROPERTY(QString Mode READ Mode)
+
+public:
+    explicit ucBarChart(QWidget* parent = nullptr);
+    ~ucBarChart() override;
+
+    /// Fails with an invalid use of Null, and changes nothing, where the period has no weight.
+    void updateBars(QDate start, QDate end);
+    void ClearBars();                      ///< the values stay
+    void Toggle(int mode);                 ///< 0 bars, 1 values; any other does nothing
+    QString Mode() const { return mode_; } ///< "BARS" or "VALS"
+    void StoreMode() const; ///< as its end does; for a host that closes before its parts go
+    const Nuts& Sums() const { return sums_; }
+    qint32 AverageWeight() const { return averageWeight_; } ///< 0 until one was found
+
+    /// Both make the sum they are given the average of a day.
+    QString numFix(double& value) const;
+    static double barWidth(qint32 days, double& value, double rdi); ///< in twips
+
+    QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent*) override;
+    void resizeEvent(QResizeEvent*) override;
+
+private:
+    void AddHead();
+    void AddRows();
+    void PlaceAll();
+    void PlaceHead(int height);
+    void PlaceRow(int i, int labelHeight);
+    void AdjustToAverageWeight(const Period& period);
+    void ShowBars();
+    void ShowValues();
+    QString PercentCaption() const;
+    QString Spoken() const;
+
+    Nuts sums_;
+    QString mode_;
+    qint32 days_ = 0;
+    qint32 averageWeight_ = 0;
+    ucHeader* header_;
+    std::vector<ucStrip*> scale_;
+    QWidget* picVals_;
+    std::vector<std::unique_ptr<ChartRow>> rows_;
+};

@@ -1,0 +1,94 @@
+#pragma once
+
+#include "analysis/ui/DailyRow.h"
+#include "model/Nuts.h"
+#include "toolkit/DrawnControl.h"
+
+#include <QDate>
+#include <QHash>
+
+#include <memory>
+#include <vector>
+
+class BarGrid;
+class PieChart;
+class ScaleCaption;
+class ucStrip;
+class ViewButtons;
+
+/// One day's intake against the current user's targets, in three views over the same figures: bars
+/// of percent, a list of values, a pie of the calories. Told the day by setDate, it queries the log
+/// itself. What the last found day summed to stays in place until another day is found. Raises
+/// MouseMove from the names, the values and its background.
+class ucDaily : public DrawnControl {
+    Q_OBJECT
+    Q_PROPERTY(QString Mode READ Mode)
+    Q_PROPERTY(QDate Date READ Date)
+
+public:
+    explicit ucDaily(QWidget* parent = nullptr);
+    ~ucDaily() override;
+
+    void setDate(QDate date);
+    QDate Date() const { return date_; }
+    void updateCharts();
+    void Toggle(int mode);                 ///< 0 bars, 1 values, 2 pie; any other does nothing
+    QString Mode() const { return mode_; } ///< "RDI", "VALS" or "PIE"
+    void StoreMode() const; ///< as its end does; for a host that closes before its parts go
+    const Nuts& Sums() const { return sums_; }
+    void AddOverLay();
+
+    static double numFix(double value) { return DailyRow::numFix(value); }
+    double barWidth(double value, double rdi) const; ///< in twips
+
+    void Unhilite();
+    void AllOff(const QString& name); ///< every hover look but that of the named button
+    QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent*) override;
+    void resizeEvent(QResizeEvent*) override;
+    void showEvent(QShowEvent*) override;
+    void leaveEvent(QEvent*) override;
+    bool eventFilter(QObject*, QEvent*) override;
+
+private:
+    /// What a move of the pointer over a control does: highlight its row (0: none), tell the host.
+    struct Hover {
+        int row;
+        bool raises;
+    };
+    struct Layout {
+        QRect strip, buttons, labels, view, pie;
+    };
+
+    Layout layoutRects() const;
+    void PlaceAll();
+    void PlaceScale(const Layout& layout);
+    void AddHead();
+    void AddViews();
+    void AddRows();
+    void AddPie();
+    void WatchPointer(QWidget* control, Hover hover = {});
+    void OnPointer(const Hover& hover, const QMouseEvent* move);
+    void hilite(int row);
+
+    void ShowSums();
+    void ShowNoData();
+    void FitValues();
+
+    QDate date_;
+    Nuts sums_;
+    QString mode_;
+    std::vector<std::unique_ptr<DailyRow>> rows_;
+    int hilited_ = 0; ///< row, or 0
+    QHash<const QObject*, Hover> hovers_;
+
+    ucStrip* strip_;
+    ViewButtons* buttons_;
+    ScaleCaption* lblPercents_;
+    QWidget* labels_;
+    BarGrid* picRDIs_;
+    QWidget* picVals_;
+    PieChart* picPieChart_;
+};

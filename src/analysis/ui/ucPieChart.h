@@ -1,0 +1,26 @@
+#pragma once
+
+#include "analysis/ui/PeriodChart.h"
+
+#include <QDate>
+
+class PieChart;
+class ucBox;
+
+/// Where the calories of an average day of a period came from, as a pie.
+class ucPieChart : public PeriodChart {
+    Q_OBJECT
+
+public:
+    explicit ucPieChart(QWidget* parent = nullptr); ///< with three equal sectors
+
+    void updatePie(QDate start, QDate end);
+    void AddOverLay();
+
+protected:
+    void resizeEvent(QResizeEvent*) override;
+
+private:
+    ucBox* box_;
+    PieChart* pie_;
+};

@@ -1,5 +1,0 @@
-#include "foods/frmFoodSearch.h"
-
-frmFoodSearch::frmFoodSearch(QWidget* owner)
-    : SearchDialog(QStringLiteral("frmFoodSearch"), QStringLiteral("Food Search"),
-                   QStringLiteral("ucSearchResults1"), owner) {}

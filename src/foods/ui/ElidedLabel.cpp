@@ -1,0 +1,73 @@
+#include "foods/ui/ElidedLabel.h"
+
+#include "toolkit/PlainTip.h"
+#include "toolkit/SmoothedPrint.h"
+#include "toolkit/Style.h"
+
+#include <QFontMetrics>
+#include <QHelpEvent>
+#include <QMetaMethod>
+#include <QMouseEvent>
+#include <QPainter>
+
+ElidedLabel::ElidedLabel(QWidget* parent, const QString& name)
+    : QLabel(parent)
+    , fonts_{TheStyle().text}
+    , ink_(TheStyle().ink) {
+    setObjectName(name);
+    setTextFormat(Qt::PlainText);
+    setMouseTracking(true);
+}
+
+void ElidedLabel::SetCaption(const QString& caption) {
+    setText(caption);
+    setAccessibleName(caption);
+}
+
+void ElidedLabel::SetLook(const QList<QFont>& fonts, const QColor& ink) {
+    fonts_ = fonts;
+    ink_ = ink;
+    update();
+}
+
+void ElidedLabel::Print(QPainter& painter, const QRect& place, const QString& text,
+                        const QFont& font, const QColor& ink) {
+    const QFontMetrics metrics(SmoothedFont(font));
+    painter.setPen(ink);
+    SmoothedPrint(painter, QPointF(place.x(), place.y() + (place.height() - metrics.height()) / 2),
+                  FittingText(text, font, place.width()), font);
+}
+
+bool ElidedLabel::Fits(const QFont& font) const {
+    return QFontMetrics(SmoothedFont(font)).horizontalAdvance(text()) <= width();
+}
+
+QFont ElidedLabel::FittingFont() const {
+    for (const QFont& font : fonts_)
+        if (Fits(font))
+            return font;
+    return fonts_.last();
+}
+
+bool ElidedLabel::event(QEvent* event) {
+    if (event->type() != QEvent::ToolTip)
+        return QLabel::event(event);
+    const QString cut = Fits(fonts_.last()) ? QString() : text();
+    ShowPlainTip(static_cast<QHelpEvent*>(event)->globalPos(),
+                 toolTip().isEmpty() ? cut : toolTip(), this);
+    return true;
+}
+
+void ElidedLabel::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    Print(painter, rect(), text(), FittingFont(), isEnabled() ? ink_ : TheStyle().disabledInk);
+}
+
+void ElidedLabel::mousePressEvent(QMouseEvent* event) {
+    event->setAccepted(isSignalConnected(QMetaMethod::fromSignal(&ElidedLabel::Click)));
+}
+
+void ElidedLabel::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint()))
+        Q_EMIT Click();
+}

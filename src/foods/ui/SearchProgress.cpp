@@ -1,0 +1,90 @@
+#include "foods/ui/SearchProgress.h"
+
+#include "toolkit/Labels.h"
+#include "toolkit/Style.h"
+
+#include <QPainter>
+
+namespace {
+
+constexpr int frameMilliseconds = 16;
+constexpr QSize barSize(280, 12);
+constexpr QSize panelSize(320, 64);
+
+/// The trough; its fill is the part of the picture that the fraction gives.
+class Bar : public QWidget {
+public:
+    Bar(SearchProgress* panel, const QLabel* fill)
+        : QWidget(panel)
+        , panel_(panel)
+        , fill_(fill) {}
+
+protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        painter.fillRect(rect(), TheStyle().rule);
+        const QRect filled(0, 0, panel_->FilledPixels(), height());
+        painter.drawPixmap(filled, fill_->pixmap(Qt::ReturnByValue), filled);
+    }
+
+private:
+    SearchProgress* panel_;
+    const QLabel* fill_;
+};
+
+QPixmap FillPicture() {
+    QPixmap picture(barSize);
+    QPainter painter(&picture);
+    const auto& rows = TheStyle().barNormal;
+    for (int y = 0; y < barSize.height(); ++y)
+        painter.fillRect(0, y, barSize.width(), 1,
+                         rows[y * int(std::size(rows)) / barSize.height()]);
+    return picture;
+}
+
+} // namespace
+
+SearchProgress::SearchProgress(QWidget* parent)
+    : QWidget(parent) {
+    setObjectName(QStringLiteral("picStatus"));
+    caption_ = MakeLabel(this, QStringLiteral("lblStatus"), QStringLiteral("Search Progress"));
+    picSlide_ = MakeLabel(this, QStringLiteral("picSlide"), {});
+    picSlide_->setPixmap(FillPicture());
+    picSlide_->hide();
+    picHome_ = new Bar(this, picSlide_);
+    picHome_->setObjectName(QStringLiteral("picHome"));
+    picHome_->setAccessibleName(caption_->text());
+    resize(panelSize);
+    const int left = (width() - barSize.width()) / 2;
+    caption_->setGeometry(left, 11, barSize.width(), 18);
+    picHome_->setGeometry(QRect(QPoint(left, 36), barSize));
+    hide();
+}
+
+void SearchProgress::Begin() {
+    fraction_ = 0;
+    show();
+    raise();
+    repaint();
+    painted_.start();
+}
+
+void SearchProgress::SetFraction(double fraction) {
+    const int before = FilledPixels();
+    fraction_ = fraction;
+    if (FilledPixels() == before || !isVisible() || painted_.elapsed() < frameMilliseconds)
+        return;
+    picHome_->repaint();
+    painted_.restart();
+}
+
+int SearchProgress::FilledPixels() const {
+    return int(picHome_->width() * fraction_);
+}
+
+void SearchProgress::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.fillRect(rect(), TheStyle().paper);
+    painter.setPen(TheStyle().frame);
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+}

@@ -1,0 +1,34 @@
+#include "foods/ui/TermField.h"
+
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+
+#include <algorithm>
+
+/// What the settings keep of a term, and few enough words for one statement.
+static constexpr int longestTerm = 255;
+
+TermField::TermField(QWidget* parent)
+    : QLineEdit(parent) {
+    setMaxLength(longestTerm);
+}
+
+static bool IsRefused(QChar typed) {
+    return typed == u'"' || typed == u'*' || typed == u'\'';
+}
+
+void TermField::keyPressEvent(QKeyEvent* event) {
+    const QString typed = event->text();
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        Q_EMIT SearchAsked();
+    else if (std::none_of(typed.cbegin(), typed.cend(), IsRefused))
+        QLineEdit::keyPressEvent(event);
+}
+
+/// Dead keys and the like: what they compose is typed text too.
+void TermField::inputMethodEvent(QInputMethodEvent* event) {
+    QString typed = event->commitString();
+    typed.removeIf(IsRefused);
+    event->setCommitString(typed, event->replacementStart(), event->replacementLength());
+    QLineEdit::inputMethodEvent(event);
+}

@@ -1,0 +1,242 @@
+#include "foods/ui/frmNutInfo.h"
+
+#include "foods/FormatNutrient.h"
+#include "foods/ui/ElidedLabel.h"
+#include "model/User.h"
+#include "runtime/Convert.h"
+#include "runtime/Format.h"
+#include "runtime/RuntimeError.h"
+#include "toolkit/Style.h"
+#include "toolkit/Twips.h"
+#include "toolkit/ucButton.h"
+#include "toolkit/ucTitleFlat.h"
+
+#include <QPainter>
+
+namespace {
+
+constexpr int divisionByZero = 11;
+constexpr double caloriesOfFatGram = 9;
+
+// The thin lines, in twips: one under each row of the two blocks.
+constexpr int lineLeft = 180;
+constexpr int lineRight = 4685;
+constexpr int rowStep = 255;
+constexpr int headlineTop = 1700;
+constexpr int headlineLines = 7;
+constexpr int othersTop = 3795;
+constexpr int othersLines = 11;
+
+// In pixels.
+constexpr QSize panelSize(324, 494);
+constexpr int cardBottom = 448;
+constexpr int titleHeight = 30;
+constexpr int heavyRule = 3;
+constexpr int nameTop = 31, nameHeight = 22;
+constexpr int servingTop = 51, servingHeight = 15;
+constexpr int nameRuleTop = 67;
+constexpr int headingTop = 69, headingHeight = 13;
+constexpr int caloriesTop = 82, caloriesHeight = 15;
+constexpr int othersRuleTop = 224;
+constexpr int amountRight = 228;
+constexpr int leftColumnRight = 179;
+constexpr int rightColumnLeft = 189;
+
+struct Headline {
+    Nutrient id;
+    const char* percentLabel;
+};
+constexpr Headline headlines[] = {
+    {Nutrient::TotalFat, "lblPerFat"},
+    {Nutrient::SatFat, "lblPerSatFat"},
+    {Nutrient::Cholesterol, "lblPerCholesterol"},
+    {Nutrient::Sodium, "lblPerSodium"},
+    {Nutrient::Carbs, "lblPerCarbs"},
+    {Nutrient::Fiber, "lblPerFiber"},
+    {Nutrient::Protein, "lblPerProtein"},
+};
+
+/// Down the left column, which has room for the long captions, then down the right one.
+constexpr int othersRows = 12;
+constexpr Nutrient others[] = {
+    Nutrient::MonoFat,   Nutrient::PolyFat,    Nutrient::Ash,       Nutrient::Calcium,
+    Nutrient::Copper,    Nutrient::Folate,     Nutrient::Iron,      Nutrient::Magnesium,
+    Nutrient::Manganese, Nutrient::Niacin,     Nutrient::Panto,     Nutrient::Phosphorus,
+    Nutrient::Potassium, Nutrient::Riboflavin, Nutrient::Selenium,  Nutrient::Thiamin,
+    Nutrient::VitaminA,  Nutrient::VitaminB12, Nutrient::VitaminB6, Nutrient::VitaminC,
+    Nutrient::VitaminE,  Nutrient::Water,      Nutrient::Zinc,
+};
+static_assert(1 + std::size(headlines) + std::size(others) == NutrientCount);
+
+int Left() {
+    return Twips::ToPixels(lineLeft);
+}
+
+int Right() {
+    return Twips::ToPixels(lineRight);
+}
+
+/// The place of a row, from one edge to the other, above its line.
+QRect RowPlace(int firstLine, int row, int left, int right) {
+    const int top = Twips::ToPixels(firstLine + (row - 1) * rowStep) + 1;
+    const int bottom = Twips::ToPixels(firstLine + row * rowStep);
+    return {left, top, right - left, bottom - top};
+}
+
+double Percentage(double amount, double target) {
+    if (target == 0)
+        throw RuntimeError(divisionByZero, QStringLiteral("Division by zero"));
+    return amount / target;
+}
+
+} // namespace
+
+frmNutInfo::frmNutInfo(QWidget* owner)
+    : Dialog(QStringLiteral("frmNutInfo"), QStringLiteral("Details"), owner) {
+    Title()->setObjectName(QStringLiteral("ucTitleFlat1"));
+    Title()->setFixedHeight(titleHeight);
+    setFixedSize(panelSize);
+    BuildName();
+    BuildCalories();
+    BuildHeadlines();
+    BuildOthers();
+    BuildDone();
+}
+
+void frmNutInfo::BuildName() {
+    const Style& style = TheStyle();
+    aaFoodName_ = new ElidedLabel(this, QStringLiteral("aaFoodName"));
+    aaFoodName_->SetLook({style.screenTitle, style.strong}, style.heading);
+    aaFoodName_->setGeometry(Left(), nameTop, Right() - Left(), nameHeight);
+    const QRect serving(Left(), servingTop, Right() - Left(), servingHeight);
+    const int caption = AddCaption(serving, QStringLiteral("lblServSize"),
+                                   QStringLiteral("Serving Size"), TextRole::Quiet)
+                            ->sizeHint()
+                            .width();
+    aaServSize_ = new ElidedLabel(this, QStringLiteral("aaServSize"));
+    aaServSize_->SetLook({style.text, style.small}, style.ink);
+    aaServSize_->setGeometry(serving.adjusted(caption + style.boxGap, 0, 0, 0));
+}
+
+void frmNutInfo::BuildCalories() {
+    const QRect heading(Left(), headingTop, Right() - Left(), headingHeight);
+    AddCaption(heading, QStringLiteral("lblAmount"), QStringLiteral("Amount Per Serving"),
+               TextRole::Small);
+    AddCaption(heading, QStringLiteral("lblDailyValue"), QStringLiteral("% Daily Value"),
+               TextRole::Small)
+        ->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    const int middle = (Left() + Right()) / 2;
+    const QRect row(Left(), caloriesTop, middle - Left() - TheStyle().boxGap, caloriesHeight);
+    AddAmount(row, Nutrient::Calories, TextRole::Strong);
+    const QRect fat = row.translated(middle - Left() + TheStyle().boxGap, 0);
+    AddCaption(fat, QStringLiteral("lblFatCalsCaption"), QStringLiteral("Calories from fat"),
+               TextRole::Text);
+    lblFatCals_ = AddFigure(fat, QStringLiteral("lblFatCals"), QStringLiteral("Calories from fat"));
+}
+
+void frmNutInfo::BuildHeadlines() {
+    for (int row = 0; row < headlineCount; ++row) {
+        AddAmount(RowPlace(headlineTop, row, Left(), amountRight), headlines[row].id,
+                  TextRole::Text);
+        const QRect place = RowPlace(headlineTop, row, amountRight, Right());
+        percents_[size_t(row)] =
+            AddFigure(place, QString::fromLatin1(headlines[row].percentLabel),
+                      QLatin1String(Info(headlines[row].id).factsCaption) + u", % Daily Value");
+    }
+}
+
+void frmNutInfo::BuildOthers() {
+    for (int i = 0; i < int(std::size(others)); ++i) {
+        const bool inLeft = i < othersRows;
+        AddAmount(RowPlace(othersTop, i % othersRows, inLeft ? Left() : rightColumnLeft,
+                           inLeft ? leftColumnRight : Right()),
+                  others[i], TextRole::Small);
+    }
+}
+
+void frmNutInfo::BuildDone() {
+    cmdDone_ = new ucButton(QStringLiteral("Done"), this);
+    cmdDone_->setObjectName(QStringLiteral("cmdDone"));
+    QRect place(QPoint(), cmdDone_->sizeHint());
+    place.moveBottomRight({Right() - 1, height() - TheStyle().boxGap - 2});
+    cmdDone_->setGeometry(place);
+    connect(cmdDone_, &ucButton::Click, this, &QDialog::accept);
+}
+
+QLabel* frmNutInfo::AddCaption(const QRect& place, const QString& name, const QString& text,
+                               TextRole role) {
+    QLabel* caption = MakeLabel(this, name, text, role);
+    caption->setGeometry(place);
+    return caption;
+}
+
+/// To assistive tools a figure is its text, described by the caption beside it.
+QLabel* frmNutInfo::AddFigure(const QRect& place, const QString& name, const QString& caption) {
+    QLabel* figure = MakeLabel(this, name, {}, TextRole::Strong);
+    figure->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    figure->setAccessibleDescription(caption);
+    figure->setGeometry(place);
+    return figure;
+}
+
+void frmNutInfo::AddAmount(const QRect& place, Nutrient id, TextRole captionRole) {
+    const QString name = QString::fromLatin1(Info(id).factsLabel);
+    AddCaption(place, name + u"Caption", QString::fromLatin1(Info(id).factsCaption), captionRole);
+    amounts_[size_t(id)] = AddFigure(place, name, QString::fromLatin1(Info(id).factsCaption));
+}
+
+void frmNutInfo::showFood(const ScaledFood& item) {
+    try {
+        Fill(item);
+    } catch (const RuntimeError&) {
+        close();
+        return;
+    }
+    ShowModal();
+}
+
+void frmNutInfo::Fill(const ScaledFood& item) {
+    aaFoodName_->SetCaption(item.Text(QStringLiteral("foodname")));
+    aaServSize_->SetCaption(item.Text(QStringLiteral("serving")) + u" (X " +
+                            DecimalText(item.Amount(QStringLiteral("QTY"))) + u")");
+    for (const NutrientInfo& nutrient : Nutrients())
+        amounts_[size_t(nutrient.id)]->setText(
+            FormatNutrient(item.Amount(QString::fromLatin1(nutrient.logColumn))));
+    lblFatCals_->setText(
+        FormatNutrient(item.Amount(QStringLiteral("TotalFat")) * caloriesOfFatGram));
+    FillPercents(item);
+    CapFatCalories();
+}
+
+void frmNutInfo::FillPercents(const ScaledFood& item) {
+    const Nuts& targets = User::Current().RDIs;
+    for (size_t row = 0; row < percents_.size(); ++row) {
+        const Nutrient id = headlines[row].id;
+        const double amount = item.Amount(QString::fromLatin1(Info(id).logColumn));
+        percents_[row]->setText(Format(Percentage(amount, targets[id]), NumberMask::Percent));
+    }
+}
+
+/// A food's calories are rounded, so that those of its fat can come out above them.
+void frmNutInfo::CapFatCalories() {
+    const QString calories = amounts_[size_t(Nutrient::Calories)]->text();
+    if (WholeNumber(lblFatCals_->text()) > WholeNumber(calories))
+        lblFatCals_->setText(calories);
+}
+
+void frmNutInfo::paintEvent(QPaintEvent* event) {
+    Dialog::paintEvent(event);
+    const Style& style = TheStyle();
+    const QRect inner = Inner();
+    QPainter painter(this);
+    painter.fillRect(inner.left(), inner.top(), inner.width(), cardBottom - inner.top(),
+                     style.paper);
+    painter.fillRect(inner.left(), cardBottom, inner.width(), 1, style.rule);
+    for (const int top : {nameRuleTop, othersRuleTop})
+        painter.fillRect(Left(), top, Right() - Left(), heavyRule, style.ink);
+    for (const auto& [first, count] :
+         {std::pair(headlineTop, headlineLines), std::pair(othersTop, othersLines)})
+        for (int line = 0; line < count; ++line)
+            painter.fillRect(Left(), Twips::ToPixels(first + line * rowStep), Right() - Left(), 1,
+                             style.factsRule);
+}

@@ -1,0 +1,270 @@
+#include "foods/ui/ucSearchResults.h"
+
+#include "foods/FoodSearch.h"
+#include "foods/SearchTerms.h"
+#include "foods/ui/ResultRows.h"
+#include "foods/ui/SearchProgress.h"
+#include "foods/ui/TermField.h"
+#include "runtime/AppState.h"
+#include "runtime/Convert.h"
+#include "runtime/Round.h"
+#include "runtime/Seams.h"
+#include "runtime/Settings.h"
+#include "runtime/Val.h"
+#include "toolkit/Labels.h"
+#include "toolkit/MousePointer.h"
+#include "toolkit/Style.h"
+#include "toolkit/Twips.h"
+#include "toolkit/ucButton.h"
+#include "toolkit/ucRadio.h"
+
+#include <QCheckBox>
+#include <QMouseEvent>
+#include <QPainter>
+
+namespace {
+
+constexpr const char* meals[] = {"Breakfast", "Lunch", "Dinner", "Snacks"};
+constexpr int mealCount = std::size(meals);
+
+constexpr int limitedRows = 50;
+constexpr double mostLogged = 99;
+
+// In twips.
+constexpr int resultsLeft = 15;
+constexpr int resultsTop = 1065;
+constexpr int resultsBelow = 30;
+
+// The two lines of fields above the results, in pixels.
+constexpr int captionTop = 0;
+constexpr int captionHeight = 15;
+constexpr int fieldTop = 16;
+constexpr int termWidth = 196;
+constexpr int sourceTop = 46;
+constexpr int sourceHeight = 22;
+
+QString Named(const char* name, int index) {
+    return QLatin1String(name) + QString::number(index);
+}
+
+QLabel* CaptionAt(QWidget* panel, const char* name, const char* text, QPoint place) {
+    QLabel* caption = MakeLabel(panel, QLatin1String(name), QLatin1String(text), TextRole::Small);
+    caption->setGeometry(QRect(place, QSize(caption->sizeHint().width(), captionHeight)));
+    return caption;
+}
+
+ScaledFood Scaled(qint32 id, const QString& serv, double qty, bool isRecipe) {
+    return isRecipe ? ScaledFood::FromRecipe(id, qty) : ScaledFood::FromCatalogue(id, serv, qty);
+}
+
+} // namespace
+
+ucSearchResults::ucSearchResults(QWidget* parent)
+    : DrawnControl(parent) {
+    BuildTerm();
+    BuildMeals();
+    BuildSources();
+    BuildResults();
+    RestoreState();
+}
+
+ucSearchResults::~ucSearchResults() {
+    StoreState();
+}
+
+void ucSearchResults::BuildTerm() {
+    Watch(CaptionAt(this, "lblFoodName", "Food name:", {1, captionTop}));
+    txtSearchString_ = new TermField(this);
+    txtSearchString_->setObjectName(QStringLiteral("txtSearchString"));
+    txtSearchString_->setAccessibleName(QStringLiteral("Food name"));
+    txtSearchString_->setGeometry(1, fieldTop, termWidth, TheStyle().fieldHeight);
+    Watch(txtSearchString_);
+    cmdGo_ = new ucButton(QStringLiteral("Search"), this);
+    cmdGo_->setObjectName(QStringLiteral("cmdGo"));
+    cmdGo_->SetMainAction(true);
+    cmdGo_->move(txtSearchString_->geometry().right() + TheStyle().boxGap, fieldTop - 1);
+    connect(txtSearchString_, &TermField::SearchAsked, this, &ucSearchResults::SearchFoodsDB);
+    connect(cmdGo_, &ucButton::Click, this, &ucSearchResults::SearchFoodsDB);
+}
+
+void ucSearchResults::BuildMeals() {
+    int left = cmdGo_->geometry().right() + 20;
+    Watch(CaptionAt(this, "lblMeals", "Add foods to meal:", {left, captionTop}));
+    for (int i = 0; i < mealCount; ++i) {
+        opMeal_[i] = new ucRadio(QLatin1String(meals[i]), this);
+        opMeal_[i]->setObjectName(Named("opMeal", i));
+        const QSize size = opMeal_[i]->sizeHint();
+        opMeal_[i]->setGeometry(left, fieldTop, size.width(), TheStyle().fieldHeight);
+        left += size.width() + 2;
+        connect(opMeal_[i], &ucRadio::Click, this, [this, i] { TickMeal(i); });
+        Watch(opMeal_[i]);
+    }
+}
+
+void ucSearchResults::BuildSources() {
+    QLabel* caption = CaptionAt(this, "lblLocations", "Search locations:", {1, sourceTop});
+    caption->setFixedHeight(sourceHeight);
+    Watch(caption);
+    struct Source {
+        QCheckBox*& box;
+        const char *name, *text;
+    };
+    int left = caption->geometry().right() + 14;
+    for (const Source& source : {Source{ckStock_, "ckStock", "Standard foods"},
+                                 Source{ckCustom_, "ckCustom", "Custom foods"},
+                                 Source{ckRecipes_, "ckRecipes", "Recipes"}}) {
+        source.box = new QCheckBox(QLatin1String(source.text), this);
+        source.box->setObjectName(QLatin1String(source.name));
+        source.box->setGeometry(left, sourceTop, source.box->sizeHint().width(), sourceHeight);
+        left += source.box->width() + 18;
+        Watch(source.box);
+    }
+}
+
+void ucSearchResults::BuildResults() {
+    rows_ = new ResultRows(this);
+    rows_->SetTabPredecessor(ckRecipes_);
+    Watch(rows_->picResultsPane());
+    picStatus_ = new SearchProgress(this);
+    connect(rows_, &ResultRows::EatFood, this, &ucSearchResults::LogChosenFood);
+    connect(rows_, &ResultRows::ExamineFood, this, &ucSearchResults::ExamineChosenFood);
+    connect(rows_, &ResultRows::RowMouseMove, this, &ucSearchResults::ResetButtons);
+}
+
+void ucSearchResults::Watch(QWidget* control) {
+    control->setMouseTracking(true);
+    control->installEventFilter(this);
+}
+
+bool ucSearchResults::eventFilter(QObject* control, QEvent* event) {
+    if (event->type() == QEvent::MouseMove)
+        mouseMoveEvent(static_cast<QMouseEvent*>(event));
+    return DrawnControl::eventFilter(control, event);
+}
+
+void ucSearchResults::mouseMoveEvent(QMouseEvent* event) {
+    ResetButtons();
+    RaiseMouseMove(event);
+}
+
+void ucSearchResults::ResetButtons() {
+    cmdGo_->Reset();
+}
+
+void ucSearchResults::SetRecipeMode(bool on) {
+    recipeMode_ = on;
+    for (int i = 1; i < mealCount; ++i)
+        opMeal_[i]->setVisible(!on);
+}
+
+void ucSearchResults::SetMeal(int meal) {
+    meal_ = meal;
+    if (meal >= 0 && meal < mealCount)
+        TickMeal(meal);
+}
+
+int ucSearchResults::TickedMeal() const {
+    for (int i = 0; i < mealCount; ++i)
+        if (opMeal_[i]->Value())
+            return i;
+    return -1;
+}
+
+void ucSearchResults::TickMeal(int meal) {
+    for (int i = 0; i < mealCount; ++i)
+        opMeal_[i]->SetValue(i == meal);
+}
+
+void ucSearchResults::RestoreState() {
+    const auto ticked = [](const char* name) { return GetRegValue(QLatin1String(name)) != u"0"; };
+    ckCustom_->setChecked(ticked("SEARCH_CUSTOM"));
+    ckRecipes_->setChecked(ticked("SEARCH_RECIPES"));
+    ckStock_->setChecked(ticked("SEARCH_STOCK"));
+    const double meal = Val(GetRegValue(QStringLiteral("OPMEAL")));
+    TickMeal(meal > 0 && meal < mealCount - 0.5 ? Round(meal) : 0);
+    txtSearchString_->setText(GetRegValue(QStringLiteral("SEARCH_STRING")));
+}
+
+void ucSearchResults::StoreState() const {
+    const auto number = [](int value) { return QString::number(value); };
+    SetRegValue(QStringLiteral("SEARCH_CUSTOM"), number(ckCustom_->isChecked()));
+    SetRegValue(QStringLiteral("SEARCH_RECIPES"), number(ckRecipes_->isChecked()));
+    SetRegValue(QStringLiteral("SEARCH_STOCK"), number(ckStock_->isChecked()));
+    SetRegValue(QStringLiteral("SEARCH_STRING"), txtSearchString_->text());
+    SetRegValue(QStringLiteral("OPMEAL"), number(std::max(TickedMeal(), 0)));
+}
+
+void ucSearchResults::SearchFoodsDB() {
+    foods_ = FoodList();
+    if (txtSearchString_->text().isEmpty()) {
+        MousePointer::SetNormal();
+        ShowAlert(QStringLiteral("Please enter a search term."), window());
+        return;
+    }
+    MousePointer::SetBusy();
+    const MousePointer::NormalAtEnd normal;
+    picStatus_->Begin();
+    foods_ =
+        FoodSearch::Find(SearchTerms(txtSearchString_->text()),
+                         {ckRecipes_->isChecked(), ckCustom_->isChecked(), ckStock_->isChecked()});
+    ShowResults();
+}
+
+void ucSearchResults::ShowResults() {
+    const int count = foods_.Count();
+    const int shown = App().AppInfo.LIMITRESULTS ? std::min(count, limitedRows) : count;
+    rows_->Load(foods_, shown, recipeMode_,
+                [this](double fraction) { picStatus_->SetFraction(fraction); });
+    picStatus_->hide();
+}
+
+void ucSearchResults::resizeEvent(QResizeEvent*) {
+    const int left = Twips::ToPixels(resultsLeft);
+    const int top = Twips::ToPixels(resultsTop);
+    rows_->setGeometry(left, top, width() - 2 * left,
+                       height() - top - Twips::ToPixels(resultsBelow));
+    picStatus_->move(rows_->geometry().center() - picStatus_->rect().center());
+}
+
+/// The term waits, ready to be searched for or typed over. Back from being minimised, the panel is
+/// as it was left.
+void ucSearchResults::showEvent(QShowEvent* event) {
+    DrawnControl::showEvent(event);
+    if (event->spontaneous())
+        return;
+    txtSearchString_->setFocus();
+    txtSearchString_->selectAll();
+}
+
+void ucSearchResults::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setPen(TheStyle().frame);
+    painter.drawRect(rows_->geometry().adjusted(-1, -1, 0, 0));
+}
+
+/// A refused quantity leaves the pointer busy: the next routine that sets it ends that.
+void ucSearchResults::LogChosenFood(int, qint32 ID, const QString& Serv, double QTY,
+                                    bool isRecipe) {
+    MousePointer::SetBusy();
+    const double q = Val(DecimalText(QTY));
+    if (q == 0 || q > mostLogged)
+        return Refuse(QStringLiteral("Please enter a quantity (QTY) between .1 and 99"));
+    ScaledFood item;
+    {
+        const MousePointer::NormalAtEnd normal;
+        item = Scaled(ID, Serv, QTY, isRecipe);
+    }
+    const int ticked = TickedMeal();
+    Q_EMIT FoodChosen(ticked < 0 ? QString() : QString(QLatin1String(meals[ticked])), item);
+}
+
+void ucSearchResults::ExamineChosenFood(int, qint32 ID, const QString& Serv, double QTY,
+                                        bool isRecipe) {
+    if (Val(DecimalText(QTY)) == 0)
+        return Refuse(QStringLiteral("Please enter a valid quantity (between .1 and 99)"));
+    Q_EMIT FoodExamined(Scaled(ID, Serv, QTY, isRecipe));
+}
+
+void ucSearchResults::Refuse(const QString& message) {
+    ShowAlert(message, window());
+}

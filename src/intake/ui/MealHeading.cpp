@@ -1,0 +1,90 @@
+#include "intake/ui/MealHeading.h"
+
+#include "toolkit/Pictures.h"
+#include "toolkit/SmoothedPrint.h"
+#include "toolkit/Style.h"
+
+#include <QFontMetricsF>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+
+namespace {
+
+constexpr int captionLeft = 11;
+constexpr int signRight = 8;
+constexpr int signSide = 16;
+
+QFont HeadingFont() {
+    QFont font = TheStyle().strong;
+    font.setBold(true);
+    return font;
+}
+
+} // namespace
+
+MealHeading::MealHeading(const QString& name, const QString& caption, QWidget* parent)
+    : DrawnControl(parent)
+    , caption_(caption) {
+    setObjectName(name);
+    setFocusPolicy(Qt::TabFocus);
+    setCursor(Qt::PointingHandCursor);
+    setToolTip("Add food to " + caption.toLower());
+    setAccessibleName(caption);
+    setAccessibleDescription(toolTip());
+    resize(sizeHint());
+}
+
+QColor MealHeading::ForeColor() const {
+    return lit_ ? TheStyle().chosenRowText : TheStyle().mealText;
+}
+
+void MealHeading::SetLit(bool lit) {
+    if (lit == lit_)
+        return;
+    lit_ = lit;
+    update();
+}
+
+QSize MealHeading::sizeHint() const {
+    return {0, TheStyle().rowHeight};
+}
+
+void MealHeading::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    const Style& style = TheStyle();
+    painter.fillRect(rect(), lit_ ? style.mealStripLit : style.mealStrip);
+    painter.setPen(style.rule);
+    painter.drawLine(0, 0, width(), 0);
+    painter.drawLine(0, height() - 1, width(), height() - 1);
+    painter.setPen(ForeColor());
+    const double textHeight = QFontMetricsF(SmoothedFont(HeadingFont())).height();
+    SmoothedPrint(painter, QPointF(captionLeft, (height() - textHeight) / 2), caption_,
+                  HeadingFont());
+    Pictures::Paint(
+        painter,
+        QRect(width() - signRight - signSide, (height() - signSide) / 2, signSide, signSide),
+        QStringLiteral("add"), ForeColor());
+    if (FocusShown())
+        PaintFocusRing(painter, rect().adjusted(2, 1, -1, -1), style.fieldRadius);
+}
+
+void MealHeading::mousePressEvent(QMouseEvent* event) {
+    BeginClick(event);
+}
+
+void MealHeading::mouseMoveEvent(QMouseEvent* event) {
+    RaiseMouseMove(event);
+}
+
+void MealHeading::mouseReleaseEvent(QMouseEvent* event) {
+    if (EndsClick(event))
+        Q_EMIT Click();
+}
+
+void MealHeading::keyPressEvent(QKeyEvent* event) {
+    if (IsPressKey(event))
+        Activate();
+    else
+        DrawnControl::keyPressEvent(event);
+}

@@ -1,0 +1,283 @@
+#include "intake/ui/frmDay.h"
+
+#include "analysis/ui/ucDaily.h"
+#include "foods/ui/frmFoodSearch.h"
+#include "foods/ui/ucSearchResults.h"
+#include "intake/DayLog.h"
+#include "intake/ui/DayCalendar.h"
+#include "intake/ui/WeightField.h"
+#include "intake/ui/ucMyFood.h"
+#include "model/User.h"
+#include "runtime/AppState.h"
+#include "runtime/Convert.h"
+#include "runtime/Format.h"
+#include "runtime/Round.h"
+#include "runtime/Seams.h"
+#include "runtime/Val.h"
+#include "toolkit/Labels.h"
+#include "toolkit/Style.h"
+#include "toolkit/ucAALBL.h"
+#include "toolkit/ucBox.h"
+#include "toolkit/ucButton.h"
+#include "toolkit/ucButtonA.h"
+
+#include <QKeyEvent>
+#include <QLabel>
+
+namespace {
+
+constexpr auto homeScreen = "frmMain";
+
+// Measures in pixels.
+constexpr int dateLeft = 204; ///< beside the frame's title of the screen
+constexpr int panelWidth = 338;
+constexpr int weightWidth = 62;
+constexpr QSize calendarPicture(18, 18);
+
+/// No one's energy need is worked out beyond this: heavier entries would not fit a whole number.
+constexpr double heaviest = 1'000'000; // pounds
+
+bool IsWeight(double weight) {
+    return weight > 0 && weight <= heaviest;
+}
+
+} // namespace
+
+frmDay::frmDay(QWidget* parent)
+    : Screen(QStringLiteral("frmDay"), QStringLiteral("Daily Details"), parent) {
+    setFocusPolicy(Qt::ClickFocus);
+    AddDateLine();
+    AddWeightField();
+    AddFoodBox();
+    AddPanel();
+    AddButtons();
+    AddCalendar();
+}
+
+void frmDay::AddDateLine() {
+    aadate_ = new ucAALBL(this);
+    aadate_->setObjectName(QStringLiteral("aadate"));
+    aadate_->SetFont(TheStyle().title);
+    aadate_->SetForeColor(TheStyle().ink);
+    aadate_->SetBackColor(TheStyle().canvas);
+    cmdCal_ = new ucButtonA(this);
+    cmdCal_->setObjectName(QStringLiteral("cmdCal"));
+    cmdCal_->SetPictures(QStringLiteral("calendar"), QStringLiteral("Select a new date"));
+    cmdCal_->SetPictureSize(calendarPicture);
+    cmdCal_->SetBordered(true);
+    connect(cmdCal_, &ucButtonA::Click, this, &frmDay::OpenCalendar);
+    connect(cmdCal_, &ucButtonA::MouseMove, this, [this] { AllOff(cmdCal_->objectName()); });
+}
+
+void frmDay::AddWeightField() {
+    lblWeight_ = MakeLabel(this, QStringLiteral("lblWeight"),
+                           QStringLiteral("Enter today's weight:"), TextRole::Text);
+    txtWeight_ = new WeightField(this);
+    txtWeight_->setObjectName(QStringLiteral("txtWeight"));
+    txtWeight_->setAccessibleName(QStringLiteral("Today's weight in pounds"));
+    txtWeight_->resize(weightWidth, TheStyle().fieldHeight);
+    lblWeight_->setBuddy(txtWeight_);
+    connect(txtWeight_, &WeightField::Left, this, &frmDay::SaveWeight);
+    connect(txtWeight_, &WeightField::returnPressed, this, [this] { focusNextChild(); });
+}
+
+void frmDay::AddFoodBox() {
+    myFood_ = new ucMyFood;
+    myFood_->setObjectName(QStringLiteral("ucMyFood"));
+    box_ = AddBox("ucBoxMyFood", "Food Intake", myFood_);
+    connect(myFood_, &ucMyFood::AddRequested, this, &frmDay::ChooseFoods);
+    connect(myFood_, &ucMyFood::FoodRemoved, this, [this] { daily_->updateCharts(); });
+    connect(myFood_, &ucMyFood::MouseMove, this, [this](int, int, double x, double y) {
+        if (HasMoved(x, y))
+            AllOff(QStringLiteral("ucmyfood"));
+    });
+}
+
+void frmDay::AddPanel() {
+    daily_ = new ucDaily(this);
+    daily_->setObjectName(QStringLiteral("ucDaily"));
+    connect(daily_, &ucDaily::MouseMove, this, [this](int, int, double x, double y) {
+        if (HasMoved(x, y))
+            AllOff(QString());
+    });
+}
+
+void frmDay::AddButtons() {
+    cmdAddFoods_ = AddButton("cmdAddFoods", "Eat foods", &frmDay::EatFoods);
+    cmdAddFoods_->SetMainAction(true);
+    cmdClear_ = AddButton("cmdClear", "Clear foods", &frmDay::ClearFoods);
+    cmdDone_ = AddButton("cmdDone", "Done", &frmDay::GoHome);
+}
+
+void frmDay::AddCalendar() {
+    picCal_ = new DayCalendar(this);
+    connect(picCal_, &DayCalendar::Picked, this, &frmDay::PickDay);
+}
+
+void frmDay::resizeEvent(QResizeEvent*) {
+    PlaceDateLine();
+    PlaceBoxes();
+    PlaceButtons();
+}
+
+void frmDay::PlaceDateLine() {
+    const Style& style = TheStyle();
+    PlaceInTitleLine(cmdCal_, PlaceInTitleLine(aadate_, dateLeft) + style.boxGap);
+    picCal_->setGeometry(QRect(QPoint(cmdCal_->x(), BoxesPlace().top()), picCal_->sizeHint()));
+    PlaceInTitleLine(txtWeight_, width() - style.nestEdge - txtWeight_->width());
+    PlaceInTitleLine(lblWeight_, txtWeight_->x() - style.boxGap - lblWeight_->width());
+}
+
+void frmDay::PlaceBoxes() {
+    QRect place = BoxesPlace();
+    daily_->setGeometry(place.right() + 1 - panelWidth, place.top(), panelWidth, place.height());
+    place.setRight(daily_->x() - TheStyle().boxGap - 1);
+    box_->setGeometry(place);
+}
+
+void frmDay::PlaceButtons() {
+    PlaceInRow(box_->x(), {cmdAddFoods_, cmdClear_});
+    PlaceAtEnd(cmdDone_);
+}
+
+void frmDay::buildDate() {
+    const QString text = FormatLongDate(App().CurrentDate);
+    aadate_->SetCaption(text);
+    box_->SetCaption("My food intake for " + text);
+    PlaceDateLine();
+}
+
+void frmDay::PassDay() {
+    daily_->setDate(App().CurrentDate);
+    myFood_->setDate(App().CurrentDate);
+}
+
+void frmDay::BeforeShow() {
+    PassDay();
+}
+
+void frmDay::DoWinInit() {
+    buildDate();
+    const double weight = DayLog::Weight(App().CurrentDate);
+    const QString text = DecimalText(weight);
+    txtWeight_->setText(text == "0" ? QString() : text);
+    if (IsWeight(weight))
+        TakeWeight(weight);
+}
+
+/// The row is written before the targets follow it: they are derived from what is stored.
+void frmDay::SaveWeight() {
+    const QString text = txtWeight_->text();
+    const double weight = Val(text);
+    if (!text.isEmpty() && !IsWeight(weight)) {
+        ShowAlert(QStringLiteral(
+                      "Please enter a valid weight greater than '0'. To remove the weight entry "
+                      "for this day, delete the entry from the weight field."),
+                  this);
+        return;
+    }
+    DayLog::SetWeight(App().CurrentDate, weight);
+    txtWeight_->setModified(false);
+    if (weight > 0)
+        TakeWeight(weight);
+}
+
+void frmDay::TakeWeight(double weight) {
+    User::Current().CurrentWeight = Round(weight);
+    RecalcTargets();
+    if (App().AppInfo.AUTOUPDATERDI)
+        daily_->updateCharts();
+}
+
+/// What is typed counts as entered when the screen goes, by whatever way it goes.
+void frmDay::hideEvent(QHideEvent* event) {
+    Screen::hideEvent(event);
+    if (!event->spontaneous() && txtWeight_->HoldsUnsaved())
+        txtWeight_->Leave();
+}
+
+/// The next day screen may be made before this one has gone.
+void frmDay::closeEvent(QCloseEvent* event) {
+    daily_->StoreMode();
+    Screen::closeEvent(event);
+}
+
+void frmDay::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape && !picCal_->isHidden())
+        CloseCalendar();
+    else
+        Screen::keyPressEvent(event);
+}
+
+void frmDay::OpenCalendar() {
+    picCal_->Open(App().CurrentDate);
+}
+
+/// The button takes the focus first: hiding the panel with the focus in it would send that on into
+/// another control.
+void frmDay::CloseCalendar() {
+    cmdCal_->setFocus();
+    picCal_->hide();
+}
+
+/// Month first, whatever the machine's date settings.
+void frmDay::PickDay(QDate day) {
+    CloseCalendar();
+    App().CurrentDate =
+        ToDate(QString(QString::number(day.month()) + u'/' + QString::number(day.day()) + u'/' +
+                       QString::number(day.year())));
+    PassDay();
+    buildDate();
+    DoWinInit();
+}
+
+/// The dialog stays open for one food after the other; list and totals behind it follow each.
+void frmDay::ChooseFoods(int meal) {
+    frmFoodSearch dialog(this);
+    if (meal >= 0)
+        dialog.ucSearchResults1()->SetMeal(meal);
+    connect(&dialog, &frmFoodSearch::FoodChosen, this,
+            [this](const QString& name, const ScaledFood& item) {
+                myFood_->AddFood(item, name);
+                daily_->updateCharts();
+            });
+    dialog.ShowModal();
+}
+
+void frmDay::ClearFoods() {
+    if (!ShowAlert(
+            QStringLiteral("Are you sure you wish to remove all foods from your daily intake?"),
+            this, true))
+        return;
+    DayLog::ClearFoods(App().CurrentDate);
+    myFood_->DisplayFoods();
+    daily_->updateCharts();
+}
+
+void frmDay::GoHome() {
+    ShowScreen(homeScreen);
+}
+
+/// Both must differ: a redraw under a resting pointer sends moves as well.
+bool frmDay::HasMoved(double x, double y) {
+    const qint32 newX = Round(x);
+    const qint32 newY = Round(y);
+    if (newX == lastX_ || newY == lastY_)
+        return false;
+    lastX_ = newX;
+    lastY_ = newY;
+    return true;
+}
+
+void frmDay::AllOff(const QString& except) {
+    const auto named = [&except](const QWidget* control) {
+        return control->objectName().compare(except, Qt::CaseInsensitive) == 0;
+    };
+    if (!named(cmdCal_))
+        cmdCal_->Reset();
+    Screen::AllOff(except);
+    daily_->Unhilite();
+    daily_->AllOff(QString());
+    if (!named(myFood_))
+        myFood_->AllOff(QString());
+}

@@ -1,0 +1,257 @@
+#include "model/ui/ProfileBasics.h"
+
+#include "runtime/Convert.h"
+#include "runtime/Val.h"
+#include "store/Recordset.h"
+#include "toolkit/Labels.h"
+#include "toolkit/Style.h"
+#include "toolkit/ucBox.h"
+#include "toolkit/ucRadio.h"
+
+#include <QGridLayout>
+#include <QLineEdit>
+
+#include <span>
+
+namespace {
+constexpr int numberWidth = 56;
+constexpr int captionWidth = 100;
+constexpr int rowGap = 22;
+constexpr int margin = 16;
+constexpr int lastColumn = 5; // takes the room that is left over
+constexpr int inchesInAFoot = 12;
+
+struct Choice {
+    const char* caption;
+    const char* note;
+};
+constexpr Choice genders[] = {{"Female", ""}, {"Male", ""}};
+constexpr Choice activities[] = {
+    {"Sedentary", "Mostly sitting, no regular exercise"},
+    {"Low", "Light exercise on one to three days a week"},
+    {"Medium", "Moderate exercise on three to five days a week"},
+    {"High", "Hard exercise or physical work on most days"},
+};
+
+QString Text(const char* text) {
+    return QString::fromUtf8(text);
+}
+
+/// A box that takes the width its column gives it, so that columns stand equally wide.
+ucBox* MakeBox(QWidget* parent, const char* caption) {
+    auto* box = new ucBox(Text(caption), parent);
+    box->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    return box;
+}
+
+/// Room for the contents of a box, below its header.
+template <class Layout> Layout* LayOut(ucBox* box) {
+    auto* layout = new Layout(box);
+    layout->setContentsMargins(margin, TheStyle().headerHeight + margin, margin, margin);
+    return layout;
+}
+
+QLineEdit* MakeField(QWidget* parent, const char* name, const char* spoken, const char* tip) {
+    auto* field = new QLineEdit(parent);
+    field->setObjectName(Text(name));
+    field->setAccessibleName(Text(spoken));
+    field->setToolTip(Text(tip));
+    return field;
+}
+
+QLineEdit* MakeNumber(QWidget* parent, const char* name, const char* spoken, const char* tip) {
+    QLineEdit* field = MakeField(parent, name, spoken, tip);
+    field->setFixedWidth(numberWidth);
+    field->setAlignment(Qt::AlignRight);
+    return field;
+}
+
+/// One line of the page: a caption, a field, what it counts.
+QLineEdit* AddNumber(QGridLayout* grid, QPoint place, const char* name, const char* spoken,
+                     const char* tip, const char* unit) {
+    QWidget* box = grid->parentWidget();
+    QLineEdit* field = MakeNumber(box, name, spoken, tip);
+    grid->addWidget(field, place.y(), place.x());
+    const QString label = u"lbl" + Text(name).mid(3) + Text(unit);
+    grid->addWidget(MakeLabel(box, label, Text(unit), TextRole::Quiet), place.y(), place.x() + 1);
+    return field;
+}
+
+void AddCaptions(QGridLayout* grid) {
+    int row = 0;
+    for (const char* caption : {"User Name", "Age", "Height", "Current Weight", "Desired Weight"}) {
+        const QString name = u"lbl" + Text(caption).remove(u' ');
+        grid->addWidget(MakeLabel(grid->parentWidget(), name, Text(caption)), row++, 0);
+    }
+}
+
+/// What the figures are for, at the foot of the box.
+void AddNote(QGridLayout* grid) {
+    QLabel* note = MakeLabel(
+        grid->parentWidget(), QStringLiteral("lblNote"),
+        QStringLiteral("Your recommended daily intake is worked out from these figures when the "
+                       "profile is created. After that, your weight adjusts it if the preferences "
+                       "say so."),
+        TextRole::Quiet);
+    note->setWordWrap(true);
+    const int foot = grid->rowCount();
+    grid->setRowStretch(foot, 1);
+    grid->addWidget(note, foot, 0, 1, lastColumn + 1, Qt::AlignBottom);
+}
+
+/// A click on one of the radios clears the others.
+void Group(std::span<ucRadio* const> radios) {
+    for (ucRadio* chosen : radios)
+        QObject::connect(chosen, &ucRadio::Click, chosen, [radios, chosen] {
+            for (ucRadio* radio : radios)
+                if (radio != chosen)
+                    radio->SetValue(false);
+        });
+}
+
+void AddRadios(ucBox* box, const QString& stem, std::span<const Choice> choices,
+               std::span<ucRadio*> radios) {
+    auto* column = LayOut<QVBoxLayout>(box);
+    column->setSpacing(0);
+    for (size_t i = 0; i < radios.size(); ++i) {
+        radios[i] = new ucRadio(Text(choices[i].caption), box);
+        radios[i]->setObjectName(stem + QString::number(i));
+        column->addWidget(radios[i], 0, Qt::AlignLeft);
+        if (*choices[i].note) {
+            QLabel* note = MakeLabel(box, u"lbl" + radios[i]->objectName(), Text(choices[i].note),
+                                     TextRole::Quiet);
+            note->setIndent(radios[i]->layoutRects().caption.left());
+            column->addWidget(note);
+            radios[i]->setAccessibleDescription(note->text());
+        }
+        column->addSpacing(TheStyle().boxGap);
+    }
+    column->addStretch();
+    Group(radios);
+}
+
+template <size_t Count> int Selected(const std::array<ucRadio*, Count>& radios) {
+    for (size_t i = 0; i < Count; ++i)
+        if (radios[i]->Value())
+            return int(i);
+    return -1;
+}
+} // namespace
+
+ProfileBasics::ProfileBasics(QWidget* parent)
+    : QWidget(parent) {
+    setObjectName(QStringLiteral("picCover"));
+    setMouseTracking(true);
+    auto* columns = new QHBoxLayout(this);
+    columns->setContentsMargins(0, 0, 0, 0);
+    columns->setSpacing(TheStyle().boxGap);
+    columns->addWidget(MakePersonBox(), 1);
+    auto* choices = new QVBoxLayout;
+    choices->addWidget(MakeGenderBox());
+    choices->addWidget(MakeActivityBox(), 1);
+    columns->addLayout(choices, 1);
+}
+
+QWidget* ProfileBasics::MakePersonBox() {
+    auto* box = MakeBox(this, "Profile");
+    auto* grid = LayOut<QGridLayout>(box);
+    grid->setHorizontalSpacing(TheStyle().boxGap);
+    grid->setVerticalSpacing(rowGap);
+    grid->setColumnMinimumWidth(0, captionWidth);
+    grid->setColumnStretch(lastColumn, 1);
+    AddCaptions(grid);
+    txtUserName_ =
+        MakeField(box, "txtUserName", "User Name", "Enter the user name you'd like to use");
+    grid->addWidget(txtUserName_, 0, 1, 1, lastColumn);
+    txtAge_ = AddNumber(grid, {1, 1}, "txtAge", "Age", "Enter your age in years", "Years");
+    txtFeet_ = AddNumber(grid, {1, 2}, "txtFeet", "Height, Feet", "Enter your height", "Feet");
+    txtInches_ =
+        AddNumber(grid, {3, 2}, "txtInches", "Height, Inches", "Enter your height", "Inches");
+    txtWeight_ = AddNumber(grid, {1, 3}, "txtWeight", "Current Weight",
+                           "Enter your current weight in pounds", "Pounds");
+    txtDWeight_ = AddNumber(grid, {1, 4}, "txtDWeight", "Desired Weight",
+                            "Enter your desired weight in pounds", "Pounds");
+    AddNote(grid);
+    return box;
+}
+
+QWidget* ProfileBasics::MakeGenderBox() {
+    auto* box = MakeBox(this, "Gender");
+    AddRadios(box, QStringLiteral("opGender"), genders, opGender_);
+    return box;
+}
+
+QWidget* ProfileBasics::MakeActivityBox() {
+    auto* box = MakeBox(this, "Activity Level");
+    AddRadios(box, QStringLiteral("opAct"), activities, opAct_);
+    return box;
+}
+
+void ProfileBasics::Fill(const Recordset& row) {
+    const bool male = row[QStringLiteral("gender")].Boolean();
+    opGender_[1]->SetValue(male);
+    opGender_[0]->SetValue(!male);
+    const qint32 level = row[QStringLiteral("activity_level")].Integer();
+    for (size_t i = 0; i < opAct_.size(); ++i)
+        opAct_[i]->SetValue(level == qint32(i));
+    const qint32 height = row[QStringLiteral("height")].Integer();
+    const qint32 inches = height % inchesInAFoot;
+    txtAge_->setText(row[QStringLiteral("age")].Text());
+    txtInches_->setText(QString::number(inches));
+    txtFeet_->setText(QString::number((height - inches) / inchesInAFoot));
+    txtWeight_->setText(row[QStringLiteral("current_weight")].Text());
+    txtDWeight_->setText(row[QStringLiteral("desired_weight")].Text());
+    txtUserName_->setText(row[QStringLiteral("UserName")].Text());
+}
+
+void ProfileBasics::FocusFirst() {
+    txtUserName_->setFocus(Qt::TabFocusReason);
+}
+
+QString ProfileBasics::FirstProblem() const {
+    const struct {
+        bool failed;
+        const char* message;
+    } tests[] = {
+        {UserName().isEmpty(), "Please enter a User Name."},
+        {Val(txtFeet_->text()) <= 0 && Val(txtInches_->text()) <= 0, "Please enter your Height."},
+        {Val(txtInches_->text()) >= inchesInAFoot, "Please enter an Inches value of 11 or less."},
+        {Age() <= 0, "Please enter your Age."},
+        {CurrentWeight() <= 0, "Please enter your Current Weight."},
+        {DesiredWeight() <= 0, "Please enter your Desired Weight."},
+        {Gender() < 0, "Please select your Gender."},
+        {ActivityLevel() < 0, "Please select your Activity Level."},
+    };
+    for (const auto& test : tests)
+        if (test.failed)
+            return Text(test.message);
+    return {};
+}
+
+QString ProfileBasics::UserName() const {
+    return txtUserName_->text();
+}
+
+double ProfileBasics::Age() const {
+    return Val(txtAge_->text());
+}
+
+double ProfileBasics::Height() const {
+    return Val(txtInches_->text()) + ToDouble(txtFeet_->text()) * inchesInAFoot;
+}
+
+double ProfileBasics::CurrentWeight() const {
+    return Val(txtWeight_->text());
+}
+
+double ProfileBasics::DesiredWeight() const {
+    return Val(txtDWeight_->text());
+}
+
+int ProfileBasics::Gender() const {
+    return Selected(opGender_);
+}
+
+int ProfileBasics::ActivityLevel() const {
+    return Selected(opAct_);
+}

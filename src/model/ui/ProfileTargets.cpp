@@ -1,0 +1,85 @@
+#include "model/ui/ProfileTargets.h"
+
+#include "runtime/Val.h"
+#include "store/Recordset.h"
+#include "toolkit/Labels.h"
+#include "toolkit/Style.h"
+#include "toolkit/ucBox.h"
+
+#include <QGridLayout>
+#include <QLineEdit>
+
+#include <cmath>
+
+namespace {
+constexpr int numberWidth = 66;
+constexpr int margin = 12;
+constexpr int lineGap = 15; // the longest group fills its box
+
+using enum Nutrient;
+
+constexpr Nutrient energy[] = {Calories, TotalFat, SatFat,  PolyFat, MonoFat, Cholesterol,
+                               Carbs,    Fiber,    Protein, Ash,     Water};
+constexpr Nutrient minerals[] = {Sodium, Potassium, Calcium, Phosphorus, Magnesium,
+                                 Iron,   Zinc,      Copper,  Manganese,  Selenium};
+constexpr Nutrient vitamins[] = {VitaminA,  Thiamin, Riboflavin, Niacin,   Panto,
+                                 VitaminB6, Folate,  VitaminB12, VitaminC, VitaminE};
+static_assert(std::size(energy) + std::size(minerals) + std::size(vitamins) == NutrientCount);
+
+QString Column(const NutrientInfo& nutrient) {
+    return QString::fromLatin1(nutrient.profileColumn);
+}
+} // namespace
+
+ProfileTargets::ProfileTargets(QWidget* parent)
+    : QWidget(parent) {
+    setObjectName(QStringLiteral("picAdvanced"));
+    setMouseTracking(true);
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(TheStyle().boxGap);
+    row->addWidget(MakeGroup("Energy and Macronutrients", energy), 1);
+    row->addWidget(MakeGroup("Minerals", minerals), 1);
+    row->addWidget(MakeGroup("Vitamins", vitamins), 1);
+}
+
+QWidget* ProfileTargets::MakeGroup(const char* caption, std::span<const Nutrient> nutrients) {
+    auto* box = new ucBox(QString::fromLatin1(caption), this);
+    box->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    auto* grid = new QGridLayout(box);
+    grid->setContentsMargins(margin, TheStyle().headerHeight + margin, margin, margin);
+    grid->setVerticalSpacing(lineGap);
+    grid->setColumnStretch(0, 1);
+    int line = 0;
+    for (Nutrient id : nutrients) {
+        const NutrientInfo& nutrient = Info(id);
+        const QString label = u"lbl" + QString::fromLatin1(nutrient.textField).mid(3);
+        grid->addWidget(MakeLabel(box, label, QString::fromLatin1(nutrient.editCaption)), line, 0);
+        grid->addWidget(MakeField(box, nutrient), line++, 1);
+    }
+    grid->setRowStretch(line, 1);
+    return box;
+}
+
+QLineEdit* ProfileTargets::MakeField(QWidget* box, const NutrientInfo& nutrient) {
+    auto* field = new QLineEdit(box);
+    field->setObjectName(QString::fromLatin1(nutrient.textField));
+    field->setAccessibleName(QString::fromLatin1(nutrient.editCaption));
+    field->setFixedWidth(numberWidth);
+    field->setAlignment(Qt::AlignRight);
+    fields_[static_cast<size_t>(nutrient.id)] = field;
+    return field;
+}
+
+void ProfileTargets::Fill(const Recordset& row) {
+    for (Nutrient id : CanonicalOrder()) {
+        QLineEdit* field = fields_[static_cast<size_t>(id)];
+        field->setText(row[Column(Info(id))].Text());
+        field->setCursorPosition(0);
+    }
+}
+
+void ProfileTargets::Write(Recordset& row) const {
+    for (Nutrient id : CanonicalOrder())
+        row.Set(Column(Info(id)), std::abs(Val(fields_[static_cast<size_t>(id)]->text())));
+}

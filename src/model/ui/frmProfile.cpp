@@ -1,0 +1,305 @@
+#include "model/ui/frmProfile.h"
+
+#include "model/User.h"
+#include "model/ui/ProfileBasics.h"
+#include "model/ui/ProfileTargets.h"
+#include "runtime/Round.h"
+#include "runtime/Seams.h"
+#include "store/Connection.h"
+#include "store/Recordset.h"
+#include "toolkit/CentreWindow.h"
+#include "toolkit/LeaveField.h"
+#include "toolkit/Style.h"
+#include "toolkit/Twips.h"
+#include "toolkit/ucButton.h"
+#include "toolkit/ucTitleFlat.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QEventLoop>
+#include <QGridLayout>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QPointer>
+
+namespace {
+constexpr QSize nestSize(766, 562);
+constexpr QSize firstUserSize(766, 470);
+constexpr int contentsTop = 42;
+constexpr int dragBand = 255; // twips
+
+QWidget* HomeWindow() {
+    const auto windows = QApplication::topLevelWidgets();
+    for (QWidget* window : windows)
+        if (window->objectName() == u"frmHOME")
+            return window;
+    return nullptr;
+}
+} // namespace
+
+frmProfile::frmProfile(QWidget* parent)
+    : Screen(QStringLiteral("frmProfile"), QStringLiteral("User Profile"), parent)
+    , title_(new ucTitleFlat(this)) {
+    setAttribute(Qt::WA_DeleteOnClose);
+    resize(nestSize);
+    title_->setObjectName(QStringLiteral("ucTitleFlat1"));
+    title_->SetCaption(Title());
+    MakePages();
+    AddButtons();
+    LayOut();
+    Cover(true);
+}
+
+void frmProfile::MakePages() {
+    basics_ = new ProfileBasics(this);
+    targets_ = new ProfileTargets(this);
+}
+
+void frmProfile::AddButtons() {
+    cmdAdvanced_ = AddButton("cmdAdvanced", "Advanced", &frmProfile::cmdAdvanced_Click);
+    cmdSave_ = AddButton("cmdSave", "Save Profile", &frmProfile::cmdSave_Click);
+    cmdCancel_ = AddButton("cmdCancel", "Cancel", &frmProfile::cmdCancel_Click);
+    cmdSave_->SetMainAction(true);
+}
+
+void frmProfile::LayOut() {
+    const Style& style = TheStyle();
+    auto* page = new QGridLayout(this);
+    page->setContentsMargins(style.nestEdge, contentsTop, style.nestEdge, 10);
+    page->setSpacing(style.boxGap);
+    page->addWidget(basics_, 0, 0);
+    page->addWidget(targets_, 0, 0);
+    auto* buttons = new QHBoxLayout;
+    buttons->addWidget(cmdAdvanced_);
+    buttons->addStretch();
+    buttons->addWidget(cmdSave_);
+    buttons->addWidget(cmdCancel_);
+    page->addLayout(buttons, 1, 0);
+}
+
+void frmProfile::CreateFirstUser() {
+    QPointer<frmProfile> form = new frmProfile;
+    form->firstUser_ = true;
+    form->cmdAdvanced_->hide();
+    form->ShowModally();
+    delete form.data();
+}
+
+void frmProfile::ShowModally() {
+    setWindowFlags(Qt::Dialog | Qt::FramelessWindowHint);
+    setWindowModality(Qt::ApplicationModal);
+    resize(firstUserSize);
+    CentreWindow(this);
+    QEventLoop untilClosed;
+    connect(this, &QObject::destroyed, &untilClosed, &QEventLoop::quit);
+    show();
+    basics_->FocusFirst();
+    untilClosed.exec();
+}
+
+void frmProfile::CreateUser() {
+    cmdAdvanced_->hide();
+    newUser_ = true;
+}
+
+/// A weight that is being typed belongs to what the form shows.
+void frmProfile::EditUser(qint32 uid) {
+    auto* form = qobject_cast<frmProfile*>(LoadScreen(QStringLiteral("frmProfile")));
+    if (!form)
+        return;
+    LeaveField(form->window());
+    form->LoadUser(uid);
+    ShowScreen(form->objectName());
+}
+
+void frmProfile::LoadUser(qint32 uid) {
+    newUser_ = false;
+    firstUser_ = false;
+    uid_ = uid;
+    Recordset row(UserDB(),
+                  QStringLiteral("SELECT * FROM profiles WHERE UID = ") + QString::number(uid),
+                  Cursor::Static, Lock::ReadOnly);
+    basics_->Fill(row);
+    targets_->Fill(row);
+    row.Close();
+    cmdAdvanced_->show();
+    title_->hide();
+}
+
+void frmProfile::DoWinInit() {
+    basics_->FocusFirst();
+}
+
+void frmProfile::cmdAdvanced_Click() {
+    Cover(tag_ != u"0");
+}
+
+/// The page that cannot be seen cannot be reached with the keyboard either.
+void frmProfile::Cover(bool covered) {
+    tag_ = covered ? QStringLiteral("0") : QStringLiteral("1");
+    basics_->setVisible(covered);
+    targets_->setVisible(!covered);
+}
+
+void frmProfile::cmdSave_Click() {
+    if (!newUser_ && !firstUser_)
+        return SaveChanges();
+    if (!SaveNewUser() || !firstUser_)
+        return;
+    firstUser_ = false;
+    ShowHome();
+    ShowScreen(QStringLiteral("frmMain"));
+    ShowAlert(QStringLiteral(
+        "Your profile has been created. The RDI values created should be used only as guidelines. "
+        "You can edit these values by using the 'Edit My Profile' feature (under the 'Edit' "
+        "menu)."));
+}
+
+void frmProfile::cmdCancel_Click() {
+    if (!firstUser_)
+        return Leave();
+    const QString question =
+        QStringLiteral("You must create a user profile to use Halvane. Are you sure you wish to "
+                       "quit without creating your profile?");
+    if (!ShowAlert(question, HomeWindow(), true))
+        return;
+    leaving_ = true;
+    EndProcess();
+}
+
+void frmProfile::Leave() {
+    leaving_ = true;
+    close();
+}
+
+bool frmProfile::PassesTests() {
+    const QString problem = basics_->FirstProblem();
+    if (problem.isEmpty())
+        return true;
+    ShowAlert(problem, this);
+    return false;
+}
+
+bool frmProfile::IsTaken(const QString& statement, const char* verb) {
+    Recordset holders(UserDB(), statement, Cursor::Static, Lock::ReadOnly);
+    if (holders.RecordCount() == 0)
+        return false;
+    ShowAlert(QStringLiteral("A user with this name already exists in the database. Please ") +
+                  QLatin1String(verb) + QStringLiteral(" a different User Name."),
+              this);
+    return true;
+}
+
+User frmProfile::EnteredUser() const {
+    User user;
+    user.ActivityLevel = basics_->ActivityLevel();
+    user.UserName = basics_->UserName();
+    user.Age = basics_->Age();
+    user.Height = Round(basics_->Height());
+    user.CurrentWeight = Round(basics_->CurrentWeight());
+    user.DesiredWeight = Round(basics_->DesiredWeight());
+    user.Gender = basics_->Gender();
+    return user;
+}
+
+bool frmProfile::SaveNewUser() {
+    if (!PassesTests())
+        return false;
+    const QString sameName =
+        QStringLiteral("SELECT * FROM profiles WHERE UserName = '") + basics_->UserName() + u'\'';
+    if (IsTaken(sameName, "select"))
+        return false;
+    User user = EnteredUser();
+    user.CreateDefaultRDIs();
+    user.UID = AppendProfile(user);
+    if (firstUser_)
+        User::Current() = user;
+    Leave();
+    return true;
+}
+
+qint32 frmProfile::AppendProfile(const User& user) const {
+    Recordset row(UserDB(), QStringLiteral("SELECT * FROM profiles"), Cursor::Dynamic,
+                  Lock::Optimistic);
+    row.AddNew();
+    WritePerson(row);
+    for (Nutrient id : ProfileOrder())
+        row.Set(QString::fromLatin1(Info(id).profileColumn), user.RDIs[id]);
+    row.Update();
+    return row[QStringLiteral("UID")].Integer();
+}
+
+/// The store rounds what goes into a whole-number column.
+void frmProfile::WritePerson(Recordset& row) const {
+    row.Set(QStringLiteral("UserName"), basics_->UserName());
+    row.Set(QStringLiteral("age"), basics_->Age());
+    row.Set(QStringLiteral("height"), basics_->Height());
+    row.Set(QStringLiteral("Gender"), basics_->Gender());
+    row.Set(QStringLiteral("current_weight"), basics_->CurrentWeight());
+    row.Set(QStringLiteral("desired_weight"), basics_->DesiredWeight());
+    row.Set(QStringLiteral("activity_level"), basics_->ActivityLevel());
+    row.Set(QStringLiteral("flagsodium"), false);
+    row.Set(QStringLiteral("flagcholesterol"), false);
+    row.Set(QStringLiteral("cholesterolMAX"), 0);
+    row.Set(QStringLiteral("sodiumMAX"), 0);
+}
+
+void frmProfile::SaveChanges() {
+    if (!PassesTests())
+        return;
+    const QString key = QString::number(uid_);
+    const QString sameName = QStringLiteral("SELECT * FROM profiles WHERE UserName = '") +
+                             basics_->UserName() + QStringLiteral("' AND UID <>") + key;
+    if (IsTaken(sameName, "enter"))
+        return;
+    Recordset row(UserDB(), QStringLiteral("SELECT * FROM profiles WHERE UID=") + key,
+                  Cursor::Dynamic, Lock::Pessimistic);
+    WritePerson(row);
+    targets_->Write(row);
+    row.Update();
+    row.Close();
+    Leave();
+    if (uid_ != User::Current().UID)
+        return;
+    User::Current().GetUserProfile(uid_);
+    RecalcTargets();
+}
+
+/// Where it is a window of its own, an edge sets it off from what lies below.
+void frmProfile::paintEvent(QPaintEvent* event) {
+    Screen::paintEvent(event);
+    if (!isWindow())
+        return;
+    QPainter painter(this);
+    painter.setPen(TheStyle().frame);
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+}
+
+/// The first user cannot do without a profile: closing the window asks like Cancel.
+void frmProfile::closeEvent(QCloseEvent* event) {
+    event->setAccepted(leaving_ || !firstUser_);
+    if (!event->isAccepted())
+        cmdCancel_Click();
+}
+
+void frmProfile::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape && firstUser_)
+        return cmdCancel_Click();
+    Screen::keyPressEvent(event);
+}
+
+void frmProfile::mousePressEvent(QMouseEvent* event) {
+    const bool inBand = event->position().y() < Twips::ToPixels(dragBand);
+    dragging_ = event->button() == Qt::LeftButton && inBand;
+    grip_ = event->globalPosition().toPoint() - pos();
+}
+
+void frmProfile::mouseMoveEvent(QMouseEvent* event) {
+    if (dragging_ && event->buttons() & Qt::LeftButton)
+        move(event->globalPosition().toPoint() - grip_);
+    Screen::mouseMoveEvent(event);
+}
+
+void frmProfile::mouseReleaseEvent(QMouseEvent*) {
+    dragging_ = false;
+}

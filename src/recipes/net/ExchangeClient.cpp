@@ -1,0 +1,105 @@
+#include "recipes/net/ExchangeClient.h"
+
+#include "recipes/net/RemoteValue.h"
+#include "runtime/RuntimeError.h"
+#include "runtime/Server.h"
+
+#include <QJsonDocument>
+
+#include <algorithm>
+
+namespace {
+
+// What is read of a reply, in bytes: many times what the largest recipe and the longest sentence
+// take.
+constexpr qint64 longestDocument = 8 * 1024 * 1024;
+constexpr qint64 longestSentence = 64 * 1024;
+
+/// Rows that go out in one call: few enough for a server that limits what it takes at once.
+constexpr qsizetype rowsAtOnce = 100;
+
+enum Status { Done = 200, Created = 201, Unknown = 404 };
+
+QString RecipesPath(qint32 RecipeID) {
+    return "/halvane/api/recipes/" + QString::number(RecipeID);
+}
+
+[[noreturn]] void Refuse() {
+    throw RuntimeError(ErrorNumber::ServiceFailed,
+                       QStringLiteral("The exchange did not answer as agreed."));
+}
+
+QJsonObject ObjectIn(const HttpReply& reply, int status) {
+    const QJsonDocument document = QJsonDocument::fromJson(reply.body);
+    if (reply.status != status || !document.isObject())
+        Refuse();
+    return document.object();
+}
+
+/// It goes into a header as it is.
+QByteArray TokenIn(const QJsonValue& value) {
+    const QByteArray token = RemoteValue::Text(value).toString().toUtf8();
+    const auto isVisible = [](char c) { return c > ' ' && c < 0x7f; };
+    if (token.isEmpty() || !std::all_of(token.cbegin(), token.cend(), isVisible))
+        Refuse();
+    return token;
+}
+
+QJsonArray Slice(const QJsonArray& rows, qsizetype from) {
+    QJsonArray slice;
+    for (qsizetype i = from; i < std::min(rows.size(), from + rowsAtOnce); ++i)
+        slice.append(rows.at(i));
+    return slice;
+}
+
+} // namespace
+
+/// Only the exchange itself says that it has no such recipe, and gives its reason: any other page
+/// that is not found is a server that is not there.
+std::optional<QJsonObject> ExchangeClient::ReadRecipe(qint32 RecipeID) {
+    const HttpReply reply = http_.Get(Server::Address() + RecipesPath(RecipeID), longestDocument);
+    if (reply.status == Unknown && ObjectIn(reply, Unknown)[QLatin1String("reason")].isString())
+        return std::nullopt;
+    const QJsonObject recipe = ObjectIn(reply, Done);
+    if (RemoteValue::Count(recipe[QLatin1String("RecipeID")]) != RecipeID)
+        Refuse();
+    return recipe;
+}
+
+QJsonArray ExchangeClient::ReadIngredients(qint32 RecipeID) {
+    const QString address = Server::Address() + RecipesPath(RecipeID) + "/ingredients";
+    const QJsonObject table = ObjectIn(http_.Get(address, longestDocument), Done);
+    const QJsonValue rows = table[QLatin1String("rows")];
+    if (!rows.isArray())
+        Refuse();
+    return rows.toArray();
+}
+
+ExchangeClient::Appended ExchangeClient::AppendRecipe(const QJsonObject& recipe) {
+    const QJsonObject created = Append(QStringLiteral("/halvane/api/recipes"), recipe, {});
+    return {RemoteValue::Count(created[QLatin1String("RecipeID")]),
+            TokenIn(created[QLatin1String("token")])};
+}
+
+void ExchangeClient::AppendIngredients(const Appended& recipe, const QJsonArray& rows) {
+    const QString path = RecipesPath(recipe.RecipeID) + "/ingredients";
+    for (qsizetype from = 0; from < rows.size(); from += rowsAtOnce) {
+        const QJsonArray slice = Slice(rows, from);
+        const QJsonObject added = Append(path, {{QStringLiteral("rows"), slice}}, recipe.token);
+        if (RemoteValue::Count(added[QLatin1String("added")]) != slice.size())
+            Refuse();
+    }
+}
+
+QJsonObject ExchangeClient::Append(const QString& path, const QJsonObject& body,
+                                   const QByteArray& token) {
+    const QByteArray json = QJsonDocument(body).toJson(QJsonDocument::Compact);
+    return ObjectIn(http_.PostJson(Server::Address() + path, json, token, longestDocument),
+                    Created);
+}
+
+QString ExchangeClient::SendRecipe(qint32 RecipeID) {
+    const QString address =
+        Server::Address() + "/halvane/sendrecipe.asp?recID=" + QString::number(RecipeID);
+    return QString::fromUtf8(http_.Get(address, longestSentence).body);
+}

@@ -1,0 +1,117 @@
+#include "recipes/net/HttpClient.h"
+
+#include "runtime/InputHold.h"
+#include "runtime/RuntimeError.h"
+
+#include <QEventLoop>
+#include <QIODevice>
+#include <QNetworkAccessManager>
+#include <QNetworkReply>
+#include <QTimer>
+
+#include <algorithm>
+
+namespace {
+
+/// The network layer sends a request again where its connection closes before a reply, which would
+/// append what has been appended already. A body that can be read only once keeps it from that.
+class OneWayBody : public QIODevice {
+public:
+    explicit OneWayBody(const QByteArray& bytes)
+        : rest_(bytes) {
+        open(QIODevice::ReadOnly);
+    }
+    bool isSequential() const override { return true; }
+    bool seek(qint64) override { return false; }
+    bool atEnd() const override { return bytesAvailable() == 0; }
+    qint64 bytesAvailable() const override { return rest_.size() + QIODevice::bytesAvailable(); }
+
+protected:
+    qint64 readData(char* to, qint64 most) override {
+        const qint64 count = std::min<qint64>(most, rest_.size());
+        std::copy_n(rest_.cbegin(), count, to);
+        rest_.remove(0, count);
+        return count;
+    }
+    qint64 writeData(const char*, qint64) override { return -1; }
+
+private:
+    QByteArray rest_;
+};
+
+/// Replies come unpacked, so that their length is known as they come.
+QNetworkRequest RequestTo(const QString& address) {
+    QNetworkRequest request{QUrl(address)};
+    request.setHeader(QNetworkRequest::UserAgentHeader, QStringLiteral("Halvane"));
+    request.setRawHeader("Accept-Encoding", "identity");
+    request.setAttribute(QNetworkRequest::RedirectPolicyAttribute,
+                         QNetworkRequest::ManualRedirectPolicy);
+    return request;
+}
+
+int StatusOf(const QNetworkReply& reply) {
+    return reply.attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
+}
+
+/// Of a reply whose length is not told nobody knows whether it was cut short, nor of one in chunks:
+/// the network layer takes it for whole where its last chunk is missing.
+bool IsOfItsLength(const QNetworkReply& reply, qint64 length) {
+    return length == reply.header(QNetworkRequest::ContentLengthHeader).toLongLong();
+}
+
+/// The network layer takes a status of 400 or above for an error of its own: these are the errors
+/// that it makes of them.
+bool HasCome(const QNetworkReply& reply) {
+    const QNetworkReply::NetworkError error = reply.error();
+    const bool refused = (error >= QNetworkReply::ContentAccessDenied &&
+                          error <= QNetworkReply::UnknownContentError) ||
+                         error == QNetworkReply::ProtocolInvalidOperationError ||
+                         error >= QNetworkReply::InternalServerError;
+    return reply.isFinished() &&
+           (error == QNetworkReply::NoError || (refused && StatusOf(reply) >= 400));
+}
+
+} // namespace
+
+/// Each call has a connection of its own: one that is kept may be closing just when it is used.
+HttpReply HttpClient::Get(const QString& address, qint64 atMost) const {
+    QNetworkAccessManager network;
+    return Await(*network.get(RequestTo(address)), atMost);
+}
+
+HttpReply HttpClient::PostJson(const QString& address, const QByteArray& json,
+                               const QByteArray& token, qint64 atMost) const {
+    OneWayBody body(json);
+    QNetworkAccessManager network;
+    QNetworkRequest request = RequestTo(address);
+    request.setHeader(QNetworkRequest::ContentTypeHeader, QStringLiteral("application/json"));
+    request.setHeader(QNetworkRequest::ContentLengthHeader, json.size());
+    request.setAttribute(QNetworkRequest::DoNotBufferUploadDataAttribute, true);
+    if (!token.isEmpty())
+        request.setRawHeader("Authorization", "Bearer " + token);
+    return Await(*network.post(request, &body), atMost);
+}
+
+HttpReply HttpClient::Await(QNetworkReply& reply, qint64 atMost) const {
+    HttpReply received;
+    const auto take = [&] {
+        if (reply.isOpen())
+            received.body += reply.readAll();
+        if (received.body.size() > atMost)
+            reply.abort();
+    };
+    const InputHold hold;
+    QEventLoop waiting;
+    reply.setReadBufferSize(atMost + 1);
+    QTimer::singleShot(limit_, Qt::PreciseTimer, &reply, &QNetworkReply::abort);
+    QObject::connect(&reply, &QNetworkReply::readyRead, &waiting, take);
+    QObject::connect(&reply, &QNetworkReply::finished, &waiting, &QEventLoop::quit);
+    if (!reply.isFinished())
+        waiting.exec();
+    take();
+    const qint64 length = received.body.size();
+    if (!HasCome(reply) || length > atMost || !IsOfItsLength(reply, length))
+        throw RuntimeError(ErrorNumber::ServiceFailed, reply.errorString());
+    received.status = StatusOf(reply);
+    return received;
+}

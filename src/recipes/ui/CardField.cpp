@@ -1,0 +1,107 @@
+#include "recipes/ui/CardField.h"
+
+#include "foods/ui/ElidedLabel.h"
+#include "toolkit/Labels.h"
+#include "toolkit/SmoothedPrint.h"
+#include "toolkit/Style.h"
+
+#include <QFontMetricsF>
+#include <QLineEdit>
+#include <QtMath>
+
+namespace {
+
+// Measures in pixels.
+constexpr int captionGap = 8;
+constexpr int unitGap = 4;
+constexpr int blankWidth = 8; // in front of a unit where there is no number
+constexpr int numberWidth = 56;
+
+} // namespace
+
+void PlaceOnLine(const QRect& line, QWidget* control) {
+    control->move(line.left(), line.top() + (line.height() - control->height()) / 2);
+}
+
+CardField::CardField(QWidget* card, RecipeField field) {
+    const RecipeFieldInfo& info = RecipeFields()[static_cast<size_t>(field)];
+    label_ = new ElidedLabel(card, QLatin1String(info.label));
+    label_->SetLook({TheStyle().strong}, TheStyle().ink);
+    entry_ = new QLineEdit(card);
+    entry_->setObjectName(QLatin1String(info.entry));
+    entry_->setAccessibleName(QLatin1String(info.spoken));
+}
+
+void CardField::AddCaption(const char* name, const char* text) {
+    caption_ = MakeLabel(label_->parentWidget(), QLatin1String(name), QLatin1String(text),
+                         TextRole::Quiet);
+    caption_->setBuddy(entry_);
+}
+
+void CardField::AddUnit(const char* name, const char* text) {
+    unit_ = MakeLabel(label_->parentWidget(), QLatin1String(name), QLatin1String(text));
+}
+
+void CardField::SetLook(const QList<QFont>& shown, const QColor& ink, const QFont& typed) {
+    label_->SetLook(shown, ink);
+    entry_->setFont(typed);
+}
+
+void CardField::Show(const QString& text) {
+    label_->SetCaption(text);
+    PlaceParts();
+}
+
+QString CardField::Shown() const {
+    return label_->text();
+}
+
+void CardField::SetEntry(const QString& text) {
+    entry_->setText(text);
+    entry_->setCursorPosition(0);
+}
+
+QString CardField::Entry() const {
+    return entry_->text();
+}
+
+void CardField::SetEditing(bool editing) {
+    editing_ = editing;
+    label_->setVisible(!editing);
+    entry_->setVisible(editing);
+    PlaceParts();
+}
+
+void CardField::Focus() {
+    entry_->setFocus(Qt::OtherFocusReason);
+    entry_->end(false);
+    entry_->home(true);
+}
+
+int CardField::CaptionWidth() const {
+    return caption_->width() + captionGap;
+}
+
+void CardField::Place(const QRect& line, int captionWidth) {
+    if (caption_)
+        PlaceOnLine(line, caption_);
+    place_ = line.adjusted(captionWidth, 0, 0, 0);
+    PlaceParts();
+}
+
+/// A unit follows what stands before it: the number on the label, or the entry.
+void CardField::PlaceParts() {
+    const int taken = unit_ ? unitGap + unit_->width() : 0;
+    const int room = qMax(0, place_.width() - taken);
+    const int shown = unit_ ? qMin(room, qMax(blankWidth, ShownWidth())) : room;
+    label_->setGeometry(place_.left(), place_.top(), shown, place_.height());
+    entry_->resize(unit_ ? numberWidth : room, TheStyle().fieldHeight);
+    PlaceOnLine(place_, entry_);
+    if (unit_)
+        PlaceOnLine(place_.translated((editing_ ? numberWidth : shown) + unitGap, 0), unit_);
+}
+
+int CardField::ShownWidth() const {
+    const QFontMetricsF metrics(SmoothedFont(TheStyle().strong));
+    return qCeil(metrics.horizontalAdvance(label_->text()));
+}

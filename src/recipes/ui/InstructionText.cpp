@@ -1,0 +1,186 @@
+#include "recipes/ui/InstructionText.h"
+
+#include "toolkit/DrawnControl.h"
+#include "toolkit/Style.h"
+#include "toolkit/ucScroll.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QPainter>
+#include <QPlainTextEdit>
+#include <QScrollBar>
+#include <QTextBlock>
+
+namespace {
+
+constexpr int textLeft = 8;
+constexpr int textTop = 6; // also below the last line
+constexpr int slack = 1;   // without it the last line in sight would count as cut
+
+/// The frame around the text is this control's: the field itself has none.
+const char* const bareField =
+    "#txtInstructions { background: transparent; border: none; padding: 0; }";
+
+} // namespace
+
+InstructionText::InstructionText(QWidget* parent)
+    : QWidget(parent) {
+    setObjectName(QStringLiteral("picInstBox"));
+    setMouseTracking(true);
+    AddText();
+    AddBar();
+    setFocusProxy(text_);
+    SetReadOnly(true);
+}
+
+void InstructionText::AddText() {
+    text_ = new QPlainTextEdit(this);
+    text_->setObjectName(QStringLiteral("txtInstructions"));
+    text_->setAccessibleName(QStringLiteral("Preparation instructions"));
+    text_->setStyleSheet(QLatin1String(bareField));
+    text_->setFont(TheStyle().reading);
+    text_->document()->setDocumentMargin(0);
+    text_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    text_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    text_->setTabChangesFocus(true);
+    text_->installEventFilter(this);
+    text_->viewport()->installEventFilter(this);
+    text_->viewport()->setMouseTracking(true);
+    connect(text_, &QPlainTextEdit::textChanged, this, &InstructionText::OnTextChange);
+}
+
+void InstructionText::AddBar() {
+    bar_ = new ucScroll(this);
+    bar_->setObjectName(QStringLiteral("vsInstructions"));
+    bar_->setAccessibleName(QStringLiteral("Scroll the preparation instructions"));
+    bar_->installEventFilter(this);
+    bar_->SetMin(0);
+    bar_->SetValue(0);
+    bar_->hide();
+    connect(bar_, &ucScroll::Change, this, &InstructionText::OnBarChange);
+}
+
+/// As it was typed: the plain text of a document would have blanks in place of hard blanks.
+QString InstructionText::Text() const {
+    QString text = text_->document()->toRawText();
+    for (const QChar end : {QChar(QChar::ParagraphSeparator), QChar(QChar::LineSeparator)})
+        text.replace(end, u'\n');
+    return text;
+}
+
+void InstructionText::SetText(const QString& text) {
+    if (text == given_ && !text_->document()->isModified())
+        return;
+    given_ = text;
+    text_->setPlainText(text);
+}
+
+/// A text that cannot be changed can still be read, chosen and copied with the keyboard.
+void InstructionText::SetReadOnly(bool readOnly) {
+    text_->setTextInteractionFlags(readOnly
+                                       ? Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard
+                                       : Qt::TextEditorInteraction);
+    update();
+}
+
+void InstructionText::ResetBar() {
+    bar_->SetValue(0);
+}
+
+/// Only what has changed is broken into lines anew.
+int InstructionText::LineCount() const {
+    const QTextDocument* document = text_->document();
+    for (QTextBlock block = document->begin(); block.isValid(); block = block.next())
+        if (block.layout()->lineCount() == 0)
+            document->documentLayout()->blockBoundingRect(block);
+    return document->lineCount();
+}
+
+int InstructionText::CaretLine() const {
+    const QTextCursor caret = text_->textCursor();
+    const QTextLine line = caret.block().layout()->lineForTextPosition(caret.positionInBlock());
+    return caret.block().firstLineNumber() + (line.isValid() ? line.lineNumber() : 0);
+}
+
+void InstructionText::OnTextChange() {
+    const int lines = LineCount();
+    if (lines <= LinesInSight)
+        return bar_->hide();
+    bar_->SetMin(0);
+    bar_->SetMax(lines - LinesInSight);
+    bar_->SetSmallChange(1);
+    bar_->SetLargeChange(1);
+    bar_->SetValue(CaretLine() + 1);
+    bar_->show();
+}
+
+void InstructionText::OnBarChange(int value) {
+    if (value > lastValue_)
+        ScrollText(text_, 1);
+    else if (value < lastValue_)
+        ScrollText(text_, -1);
+    lastValue_ = value;
+}
+
+void InstructionText::ScrollText(QPlainTextEdit* control, int lines) {
+    QScrollBar* place = control->verticalScrollBar();
+    place->setValue(place->value() + lines);
+}
+
+void InstructionText::Wheel(QEvent* event) {
+    QScrollBar* place = text_->verticalScrollBar();
+    QApplication::sendEvent(place, event);
+    lastValue_ = qMin(place->value(), bar_->Max());
+    bar_->SetValue(lastValue_);
+}
+
+bool InstructionText::eventFilter(QObject* watched, QEvent* event) {
+    switch (event->type()) {
+    case QEvent::Wheel:
+        Wheel(event);
+        return true;
+    case QEvent::MouseMove:
+        if (watched == text_->viewport())
+            Q_EMIT MouseMove();
+        break;
+    case QEvent::FocusIn:
+    case QEvent::FocusOut:
+        update();
+        break;
+    default:
+        break;
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+int InstructionText::LineHeight() const {
+    return QFontMetrics(text_->font()).lineSpacing();
+}
+
+QSize InstructionText::sizeHint() const {
+    return {QWidget::sizeHint().width(), LinesInSight * LineHeight() + slack + 2 * textTop};
+}
+
+/// The bar's room is kept free while it is hidden: the text breaks alike with it and without it.
+void InstructionText::resizeEvent(QResizeEvent*) {
+    const int barWidth = TheStyle().scrollWidth;
+    text_->setGeometry(textLeft, textTop, width() - 2 * textLeft - barWidth,
+                       height() - 2 * textTop);
+    bar_->setGeometry(width() - barWidth - 1, 1, barWidth, height() - 2);
+}
+
+void InstructionText::paintEvent(QPaintEvent*) {
+    const Style& style = TheStyle();
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setBrush(style.paper);
+    painter.setPen(text_->isReadOnly() ? style.rule : style.fieldEdge);
+    painter.drawRoundedRect(QRectF(rect()).adjusted(.5, .5, -.5, -.5), style.fieldRadius,
+                            style.fieldRadius);
+    const QRect text = text_->geometry();
+    for (int line = 1; line <= LinesInSight; ++line)
+        painter.fillRect(text.left(), text.top() + line * LineHeight(), text.width(), 1,
+                         style.cardRuling);
+    if (text_->hasFocus())
+        PaintFocusRing(painter, rect(), style.fieldRadius);
+}

@@ -1,0 +1,225 @@
+#include "recipes/ui/RecipeCard.h"
+
+#include "foods/ui/ElidedLabel.h"
+#include "recipes/ui/CardField.h"
+#include "recipes/ui/InstructionText.h"
+#include "recipes/ui/ucIngredients.h"
+#include "toolkit/Style.h"
+#include "toolkit/ucAALBL.h"
+#include "toolkit/ucButton.h"
+
+#include <QPainter>
+
+namespace {
+
+// Measures in pixels.
+constexpr int margin = 18;
+constexpr QRect nameLine(margin, 10, 0, 32); // as wide as the card lets it
+constexpr int nameRule = 44;
+constexpr int ruling = 27; // from one ruled line of the card to the next
+constexpr int factsTop = nameRule + 4;
+constexpr int secondColumn = 262; // from the left margin
+constexpr int columnGap = 14;
+constexpr int headingTop = factsTop + 2 * ruling + 4;
+constexpr int headingHeight = 26;
+constexpr int headingGap = 4; // above the ingredients
+constexpr int lowerMargin = 14;
+
+ucAALBL* MakeHeading(QWidget* parent, const char* name, const char* caption) {
+    auto* heading = new ucAALBL(parent);
+    heading->setObjectName(QLatin1String(name));
+    heading->SetFont(TheStyle().strong);
+    heading->SetForeColor(TheStyle().heading);
+    heading->SetBackColor(QColor());
+    heading->SetCaption(QLatin1String(caption));
+    return heading;
+}
+
+QRect LineAt(int left, int line, int right) {
+    return {margin + left, factsTop + line * ruling, right - left, ruling};
+}
+
+} // namespace
+
+RecipeCard::RecipeCard(QWidget* parent)
+    : QWidget(parent) {
+    setObjectName(QStringLiteral("picRecCard"));
+    setAccessibleName(QStringLiteral("Recipe card"));
+    setMouseTracking(true);
+    AddName();
+    AddFacts();
+    AddInstructions();
+    AddIngredients();
+    SetEditing(false);
+}
+
+RecipeCard::~RecipeCard() = default;
+
+CardField* RecipeCard::FieldOf(RecipeField field) const {
+    return fields_[static_cast<size_t>(field)].get();
+}
+
+CardField* RecipeCard::AddField(RecipeField field) {
+    fields_[static_cast<size_t>(field)] = std::make_unique<CardField>(this, field);
+    return FieldOf(field);
+}
+
+void RecipeCard::AddName() {
+    const Style& style = TheStyle();
+    AddField(RecipeField::Name)
+        ->SetLook({style.cardTitle, style.screenTitle}, style.heading, style.title);
+}
+
+/// In reading order, which the Tab key follows.
+void RecipeCard::AddFacts() {
+    CardField* yield = AddField(RecipeField::Yield);
+    yield->AddCaption("Label1", "Recipe yield:");
+    yield->AddUnit("Label2", "servings");
+    CardField* time = AddField(RecipeField::Time);
+    time->AddCaption("Label5", "Total Time:");
+    time->AddUnit("Label6", "minutes");
+    AddField(RecipeField::Serving)->AddCaption("Label3", "Serving size:");
+    aaCals_ = new ElidedLabel(this, QStringLiteral("aaCals"));
+    aaCals_->SetLook({TheStyle().strong}, TheStyle().ink);
+    aaCals_->SetCaption(QStringLiteral("Calories:"));
+}
+
+void RecipeCard::AddInstructions() {
+    aaPrepare_ = MakeHeading(this, "aaPrepare", "Preparation Instructions");
+    instructions_ = new InstructionText(this);
+    connect(instructions_, &InstructionText::MouseMove, this, &RecipeCard::MouseMove);
+}
+
+void RecipeCard::AddIngredients() {
+    aaIngredientsLBL_ = MakeHeading(this, "aaIngredientsLBL", "Ingredients");
+    cmdIngreds_ = new ucButton(QStringLiteral("Ingredients"), this);
+    cmdIngreds_->setObjectName(QStringLiteral("cmdIngreds"));
+    cmdIngreds_->setToolTip(QStringLiteral("Add ingredients to this recipe"));
+    cmdIngreds_->setAccessibleDescription(cmdIngreds_->toolTip());
+    connect(cmdIngreds_, &ucButton::Click, this, &RecipeCard::IngredientsAsked);
+    ucING_ = new ucIngredients(this);
+    ucING_->setObjectName(QStringLiteral("ucING"));
+}
+
+void RecipeCard::Clear() {
+    ShowCalories(QString());
+    for (const RecipeFieldInfo& field : RecipeFields())
+        ShowText(field.id, QString());
+    ClearIngredients();
+}
+
+void RecipeCard::ShowText(RecipeField field, const QString& text) {
+    if (CardField* shown = FieldOf(field))
+        shown->Show(text);
+    else
+        instructions_->SetText(text);
+}
+
+QString RecipeCard::ShownText(RecipeField field) const {
+    const CardField* shown = FieldOf(field);
+    return shown ? shown->Shown() : instructions_->Text();
+}
+
+void RecipeCard::ShowCalories(const QString& caption) {
+    aaCals_->SetCaption(caption);
+}
+
+void RecipeCard::ClearIngredients() {
+    ucING_->ClearList();
+}
+
+void RecipeCard::ShowIngredients(qint32 recipeID) {
+    ucING_->SetRecipeID(recipeID);
+    ucING_->DisplayFoods(true);
+}
+
+void RecipeCard::SetEntry(RecipeField field, const QString& text) {
+    if (CardField* entry = FieldOf(field))
+        entry->SetEntry(text);
+    else
+        instructions_->SetText(text);
+}
+
+RecipeTexts RecipeCard::Entries() const {
+    RecipeTexts texts;
+    for (const RecipeFieldInfo& field : RecipeFields()) {
+        const CardField* entry = FieldOf(field.id);
+        texts[field.id] = entry ? entry->Entry() : instructions_->Text();
+    }
+    return texts;
+}
+
+void RecipeCard::FocusEntry(RecipeField field) {
+    if (CardField* entry = FieldOf(field))
+        entry->Focus();
+    else
+        instructions_->setFocus(Qt::OtherFocusReason);
+}
+
+void RecipeCard::SetEditing(bool editing) {
+    for (const auto& field : fields_)
+        if (field)
+            field->SetEditing(editing);
+    aaCals_->setVisible(!editing);
+    cmdIngreds_->setVisible(editing);
+    instructions_->SetReadOnly(!editing);
+}
+
+int RecipeCard::InnerWidth() const {
+    return width() - 2 * margin;
+}
+
+void RecipeCard::resizeEvent(QResizeEvent*) {
+    PlaceName();
+    PlaceFacts();
+    PlaceInstructions();
+    PlaceIngredients();
+}
+
+void RecipeCard::PlaceName() {
+    FieldOf(RecipeField::Name)->Place(nameLine.adjusted(0, 0, InnerWidth(), 0), 0);
+}
+
+void RecipeCard::PlaceFacts() {
+    CardField* yield = FieldOf(RecipeField::Yield);
+    CardField* serving = FieldOf(RecipeField::Serving);
+    CardField* time = FieldOf(RecipeField::Time);
+    const int captions = qMax(yield->CaptionWidth(), serving->CaptionWidth());
+    const int firstEnd = secondColumn - columnGap;
+    yield->Place(LineAt(0, 0, firstEnd), captions);
+    time->Place(LineAt(secondColumn, 0, InnerWidth()), time->CaptionWidth());
+    serving->Place(LineAt(0, 1, firstEnd), captions);
+    aaCals_->setGeometry(LineAt(secondColumn, 1, InnerWidth()));
+}
+
+void RecipeCard::PlaceInstructions() {
+    PlaceOnLine(QRect(margin, headingTop, InnerWidth(), headingHeight), aaPrepare_);
+    instructions_->setGeometry(margin, headingTop + headingHeight, InnerWidth(),
+                               instructions_->sizeHint().height());
+}
+
+void RecipeCard::PlaceIngredients() {
+    const QRect above = instructions_->geometry();
+    const QRect heading(margin, above.bottom() + 1 + headingGap, above.width(), headingHeight);
+    PlaceOnLine(heading, aaIngredientsLBL_);
+    cmdIngreds_->move(heading.right() + 1 - cmdIngreds_->width(), heading.top());
+    const int top = heading.bottom() + 1 + headingGap / 2;
+    ucING_->setGeometry(margin, top, above.width(), height() - lowerMargin - top);
+}
+
+void RecipeCard::paintEvent(QPaintEvent*) {
+    const Style& style = TheStyle();
+    QPainter painter(this);
+    painter.fillRect(rect(), style.paper);
+    painter.setPen(style.cardRuling);
+    for (const int y : {factsTop + ruling, factsTop + 2 * ruling})
+        painter.drawLine(margin, y, width() - margin - 1, y);
+    painter.fillRect(margin, nameRule, width() - 2 * margin, 2, style.cardLine);
+    painter.setPen(style.frame);
+    painter.drawRoundedRect(QRectF(rect()).adjusted(.5, .5, -.5, -.5), style.boxRadius,
+                            style.boxRadius);
+}
+
+void RecipeCard::mouseMoveEvent(QMouseEvent*) {
+    Q_EMIT MouseMove();
+}

@@ -1,0 +1,287 @@
+#include "recipes/ui/frmRecipeManager.h"
+
+#include "foods/ScaledFood.h"
+#include "recipes/RecipeStore.h"
+#include "recipes/ui/InstructionText.h"
+#include "recipes/ui/RecipeCard.h"
+#include "recipes/ui/frmImport.h"
+#include "recipes/ui/frmRecSearch.h"
+#include "recipes/ui/frmSend.h"
+#include "recipes/ui/ucIngredients.h"
+#include "runtime/Attempt.h"
+#include "runtime/Seams.h"
+#include "store/Connection.h"
+#include "store/Recordset.h"
+#include "toolkit/ListBox.h"
+#include "toolkit/Style.h"
+#include "toolkit/ucBox.h"
+#include "toolkit/ucButton.h"
+
+namespace {
+
+constexpr qint32 noRecipe = -1;
+constexpr auto homeScreen = "frmMain";
+
+constexpr QLatin1String editCaption("Edit Recipe");
+constexpr QLatin1String saveCaption("Save Changes");
+
+constexpr int listWidth = 186; // in pixels
+
+} // namespace
+
+frmRecipeManager::frmRecipeManager(QWidget* parent)
+    : Screen(QStringLiteral("frmRecipeManager"), QStringLiteral("Recipe Manager"), parent) {
+    setFocusPolicy(Qt::ClickFocus);
+    AddList();
+    AddCard();
+    AddButtons();
+    AllowAll({cmdEdit_, cmdDelete_, cmdSend_}, false);
+}
+
+void frmRecipeManager::AddList() {
+    lsRecipes_ = new ListBox;
+    lsRecipes_->setObjectName(QStringLiteral("lsRecipes"));
+    lsRecipes_->setToolTip(QStringLiteral("Select a recipe to edit or delete"));
+    ucBox1_ = AddBox("ucBox1", "Recipe List", lsRecipes_);
+    lsRecipes_->setAccessibleName(ucBox1_->Caption());
+    connect(lsRecipes_, &ListBox::MouseMove, this, [this] { AllOff(QString()); });
+    connect(lsRecipes_, &ListBox::Click, this, &frmRecipeManager::lsRecipes_Click);
+    cmdNew_ = AddButton("cmdNew", "New", "Create a new recipe", &frmRecipeManager::cmdNew_Click);
+    cmdImport_ = AddButton("cmdImport", "Import", "Import a recipe from the web",
+                           &frmRecipeManager::cmdImport_Click);
+}
+
+void frmRecipeManager::AddCard() {
+    card_ = new RecipeCard(this);
+    connect(card_, &RecipeCard::MouseMove, this, [this] { AllOff(QString()); });
+    connect(card_, &RecipeCard::IngredientsAsked, this, &frmRecipeManager::cmdIngreds_Click);
+}
+
+void frmRecipeManager::AddButtons() {
+    cmdEdit_ = AddButton("cmdEdit", "Edit Recipe", "Edit the current recipe",
+                         &frmRecipeManager::cmdEdit_Click);
+    cmdDelete_ = AddButton("cmdDelete", "Delete Recipe", "Delete the current recipe",
+                           &frmRecipeManager::cmdDelete_Click);
+    cmdSend_ = AddButton("cmdSend", "Send to Friend", "Send the current recipe to a friend",
+                         &frmRecipeManager::cmdSend_Click);
+    cmdDone_ = AddButton("cmdDone", "Done", "", &frmRecipeManager::cmdDone_Click);
+    for (ucButton* button : {cmdNew_, cmdDone_}) // they put no other button out
+        disconnect(button, &ucButton::MouseMove, this, nullptr);
+}
+
+ucButton* frmRecipeManager::AddButton(const char* name, const char* caption, const char* tip,
+                                      void (frmRecipeManager::*pressed)()) {
+    ucButton* button = Screen::AddButton(name, caption, pressed);
+    button->setToolTip(QLatin1String(tip));
+    button->setAccessibleDescription(QLatin1String(tip));
+    return button;
+}
+
+void frmRecipeManager::resizeEvent(QResizeEvent*) {
+    PlaceBoxes();
+    PlaceButtons();
+}
+
+void frmRecipeManager::PlaceBoxes() {
+    QRect place = BoxesPlace();
+    ucBox1_->setGeometry(QRect(place.topLeft(), QSize(listWidth, place.height())));
+    place.setLeft(ucBox1_->geometry().right() + 1 + TheStyle().boxGap);
+    card_->setGeometry(place);
+}
+
+void frmRecipeManager::PlaceButtons() {
+    PlaceInRow(ucBox1_->x(), {cmdNew_, cmdImport_});
+    PlaceInRow(card_->x(), {cmdEdit_, cmdDelete_, cmdSend_});
+    PlaceAtEnd(cmdDone_);
+}
+
+/// A kept screen that comes back in the middle of an edit goes on with it: what is typed stays.
+void frmRecipeManager::DoWinInit() {
+    if (!IsEditing())
+        ListRecipes();
+}
+
+/// Choosing a line raises the list's click, which shows the recipe.
+void frmRecipeManager::ListRecipes() {
+    const int chosen = qMax(0, lsRecipes_->ListIndex());
+    lsRecipes_->Clear();
+    current_ = noRecipe;
+    card_->Clear();
+    AllowAll({cmdEdit_, cmdDelete_, cmdSend_}, false);
+    Attempt([this] { FillList(); });
+    if (lsRecipes_->ListCount() > 0)
+        Attempt([&] { lsRecipes_->SetListIndex(qMin(chosen, lsRecipes_->ListCount() - 1)); });
+}
+
+/// In the store's order, which is that of creation.
+void frmRecipeManager::FillList() {
+    Recordset rows(UserDB(), QStringLiteral("SELECT  * FROM Recipes"), Cursor::Static,
+                   Lock::ReadOnly);
+    for (; !rows.AtEnd(); rows.MoveNext())
+        lsRecipes_->AddItem(rows[QStringLiteral("RecipeName")].Text(),
+                            rows[QStringLiteral("RecipeID")].Integer());
+    rows.Close();
+}
+
+void frmRecipeManager::lsRecipes_Click() {
+    current_ = lsRecipes_->ItemData(lsRecipes_->ListIndex());
+    ShowRecipe(current_);
+}
+
+void frmRecipeManager::ShowRecipe(qint32 recipeID) {
+    card_->ShowText(RecipeField::Instructions, QString());
+    card_->ShowText(RecipeField::Name, QString());
+    card_->ClearIngredients();
+    ReadTexts(recipeID);
+    card_->ShowCalories(
+        RecipeStore::CaloriesPerServing(recipeID, card_->ShownText(RecipeField::Yield)));
+    card_->ShowIngredients(recipeID);
+    AllowAll({cmdDelete_, cmdEdit_, cmdSend_}, true);
+    card_->Instructions()->ResetBar();
+}
+
+/// What holds no value leaves its label as it stood.
+void frmRecipeManager::ReadTexts(qint32 recipeID) {
+    Recordset row(UserDB(), "SELECT * FROM Recipes where RecipeID = " + QString::number(recipeID),
+                  Cursor::Static, Lock::ReadOnly);
+    for (const RecipeFieldInfo& info : RecipeFields()) {
+        const Field field = row[QLatin1String(info.column)];
+        if (!field.IsNull())
+            card_->ShowText(info.id, field.Text());
+    }
+    row.Close();
+}
+
+void frmRecipeManager::cmdNew_Click() {
+    AddRecipe();
+    SetEditCaption(saveCaption);
+    lsRecipes_->setEnabled(false);
+    cmdEdit_->Reset();
+    ShowRecipe(current_);
+    EditRecipe(current_);
+}
+
+/// The fields get what a new recipe starts with, a serving among it; EditRecipe then reads them
+/// from the row, which has none.
+void frmRecipeManager::AddRecipe() {
+    current_ = RecipeStore::AddRecipe();
+    card_->Ingredients()->SetRecipeID(current_);
+    const RecipeTexts initial = RecipeTexts::OfNewRecipe();
+    for (const RecipeFieldInfo& field : RecipeFields())
+        card_->SetEntry(field.id, initial[field.id]);
+}
+
+void frmRecipeManager::cmdEdit_Click() {
+    if (current_ == noRecipe)
+        return;
+    if (!IsEditing()) {
+        SetEditCaption(saveCaption);
+        cmdEdit_->Reset();
+        EditRecipe(current_);
+    } else if (SaveRecipe()) {
+        EndEdit();
+    }
+}
+
+/// A field that cannot be read keeps what stands in it, and the others are read all the same.
+void frmRecipeManager::EditRecipe(qint32 recipeID) {
+    Recordset row;
+    Attempt([&] {
+        row.Open(UserDB(), "SELECT * FROM Recipes WHERE RecipeID =" + QString::number(recipeID),
+                 Cursor::Static, Lock::ReadOnly);
+    });
+    for (const RecipeFieldInfo& field : RecipeFields())
+        Attempt([&] { card_->SetEntry(field.id, row[QLatin1String(field.column)].Text()); });
+    Attempt([&] { row.Close(); });
+    card_->SetEditing(true);
+    Attempt([&] { card_->ShowIngredients(recipeID); });
+    lsRecipes_->setEnabled(false);
+    AllowAll({cmdNew_, cmdImport_, cmdDelete_, cmdSend_}, false);
+    card_->FocusEntry(RecipeField::Name);
+}
+
+bool frmRecipeManager::SaveRecipe() {
+    const RecipeTexts texts = card_->Entries();
+    if (const RecipeCheck* failed = texts.FirstFailed()) {
+        ShowAlert(QLatin1String(failed->message), this);
+        card_->FocusEntry(failed->field);
+        return false;
+    }
+    Recordset row(UserDB(), "SELECT * FROM Recipes WHERE RecipeID =" + QString::number(current_),
+                  Cursor::Dynamic, Lock::Optimistic);
+    texts.Write(row);
+    row.Update();
+    row.Close();
+    return true;
+}
+
+void frmRecipeManager::EndEdit() {
+    SetEditCaption(editCaption);
+    card_->SetEditing(false);
+    ListRecipes();
+    lsRecipes_->setEnabled(true);
+    AllowAll({cmdNew_, cmdImport_, cmdDelete_, cmdSend_}, true);
+    card_->Instructions()->ResetBar();
+    lsRecipes_->setFocus();
+}
+
+void frmRecipeManager::cmdDelete_Click() {
+    if (current_ == noRecipe)
+        return;
+    if (!ShowAlert(QStringLiteral("Are you sure you want to delete this recipe?"), this, true))
+        return;
+    RecipeStore::DeleteRecipe(current_);
+    ListRecipes();
+    if (current_ == noRecipe)
+        cmdNew_->setFocus();
+    else
+        lsRecipes_->setFocus();
+}
+
+void frmRecipeManager::cmdSend_Click() {
+    if (current_ == noRecipe)
+        ShowAlert(QStringLiteral("You must first search for a recipe to send."), this);
+    else
+        frmSend(current_, this).ShowModal();
+}
+
+void frmRecipeManager::cmdImport_Click() {
+    frmImport(this).ShowModal();
+    ListRecipes();
+}
+
+/// The list on the card follows when the dialog has closed.
+void frmRecipeManager::cmdIngreds_Click() {
+    frmRecSearch dialog(this);
+    connect(&dialog, &frmRecSearch::FoodChosen, this,
+            [this](const QString&, const ScaledFood& item) { AddFood(item); });
+    dialog.ShowModal();
+    card_->Ingredients()->DisplayFoods(true);
+}
+
+void frmRecipeManager::AddFood(const ScaledFood& item) {
+    RecipeStore::AddIngredient(current_, item);
+}
+
+void frmRecipeManager::cmdDone_Click() {
+    ::ShowScreen(homeScreen);
+}
+
+bool frmRecipeManager::IsEditing() const {
+    return cmdEdit_->Caption().compare(saveCaption, Qt::CaseInsensitive) == 0;
+}
+
+/// What changes a recipe for good is the screen's main action.
+void frmRecipeManager::SetEditCaption(QLatin1String caption) {
+    cmdEdit_->SetCaption(caption);
+    cmdEdit_->SetMainAction(IsEditing());
+    cmdEdit_->resize(cmdEdit_->sizeHint());
+    PlaceButtons();
+}
+
+void frmRecipeManager::AllowAll(std::initializer_list<ucButton*> buttons, bool allowed) {
+    for (ucButton* button : buttons) {
+        button->SetEnabled(allowed);
+        button->Reset();
+    }
+}

@@ -1,0 +1,48 @@
+#include "runtime/InputHold.h"
+
+#include <QCoreApplication>
+#include <QEvent>
+
+#include <algorithm>
+#include <iterator>
+
+namespace {
+
+constexpr QEvent::Type inputs[] = {
+    QEvent::KeyPress,
+    QEvent::KeyRelease,
+    QEvent::ShortcutOverride,
+    QEvent::Shortcut,
+    QEvent::InputMethod,
+    QEvent::MouseButtonPress,
+    QEvent::MouseButtonRelease,
+    QEvent::MouseButtonDblClick,
+    QEvent::MouseMove,
+    QEvent::Wheel,
+    QEvent::ContextMenu,
+    QEvent::TouchBegin,
+    QEvent::TouchUpdate,
+    QEvent::TouchEnd,
+    QEvent::TabletPress,
+    QEvent::TabletMove,
+    QEvent::TabletRelease,
+    QEvent::NativeGesture,
+    QEvent::DragEnter,
+    QEvent::Drop,
+    QEvent::Close,
+};
+
+} // namespace
+
+InputHold::InputHold() {
+    QCoreApplication::instance()->installEventFilter(this);
+}
+
+/// A window whose closing is accepted would be taken away.
+bool InputHold::eventFilter(QObject*, QEvent* event) {
+    if (std::find(std::begin(inputs), std::end(inputs), event->type()) == std::end(inputs))
+        return false;
+    if (event->type() == QEvent::Close)
+        event->ignore();
+    return true;
+}

@@ -1,0 +1,168 @@
+#include "toolkit/ucAte.h"
+
+#include "runtime/Convert.h"
+#include "toolkit/Pictures.h"
+#include "toolkit/PlainTip.h"
+#include "toolkit/SmoothedPrint.h"
+#include "toolkit/Style.h"
+#include "toolkit/Twips.h"
+#include "toolkit/ucButtonA.h"
+
+#include <QFontMetrics>
+#include <QHelpEvent>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QtMath>
+
+namespace {
+
+constexpr int textLeft = 14;
+constexpr int textRight = 8;
+constexpr int iconSide = 20;
+constexpr int trashSide = 24;
+constexpr QSize trashPicture(16, 16);
+constexpr int trashRight = 4;
+constexpr double quantityGap = 120; // twips
+constexpr int longestShown = 1000;  // characters: more never fit a line
+
+/// Line breaks and other blanks of a name become single spaces.
+QString OneLine(const QString& text) {
+    return text.left(longestShown).remove(QChar::Null).simplified();
+}
+
+int WidthOf(const QString& text, const QFont& font) {
+    return qCeil(QFontMetricsF(SmoothedFont(font)).horizontalAdvance(text));
+}
+
+void Print(QPainter& painter, const QRect& place, const QString& text, const QFont& font) {
+    SmoothedPrint(painter, place.topLeft(), FittingText(OneLine(text), font, place.width()), font);
+}
+
+} // namespace
+
+ucAte::ucAte(QWidget* parent)
+    : ListRow(parent)
+    , imgTrash_(new ucButtonA(this)) {
+    setFont(TheStyle().text);
+    SetBackColor(TheStyle().paper);
+    SetBorderStyle(1);
+    imgTrash_->setObjectName(QStringLiteral("imgTrash"));
+    imgTrash_->SetPictures(QStringLiteral("trash"), QStringLiteral("Remove"));
+    imgTrash_->SetPictureSize(trashPicture);
+    connect(imgTrash_, &ucButtonA::Click, this, &ucAte::Remove);
+    connect(imgTrash_, &ucButtonA::MouseMove, this, &ucAte::MouseMove);
+    resize(sizeHint());
+}
+
+void ucAte::SetFoodName(const QString& name) {
+    if (name == foodName_)
+        return;
+    setToolTip(name);
+    imgTrash_->setAccessibleName("Remove " + name);
+    Take(foodName_, name);
+}
+
+void ucAte::SetServ(const QString& serving) {
+    Take(serv_, serving);
+}
+
+void ucAte::SetQTY(const QString& quantity) {
+    Take(qty_, quantity);
+}
+
+void ucAte::SetID(const QString& id) {
+    id_ = id;
+}
+
+QString ucAte::Caption() const {
+    return foodName_ + u", " + serv_ + u", " + qty_;
+}
+
+QSize ucAte::sizeHint() const {
+    return {textLeft + textRight + trashSide + trashRight, TheStyle().tallRowHeight};
+}
+
+QRect ucAte::TrashPlace() const {
+    return {width() - trashRight - trashSide, (height() - trashSide) / 2, trashSide, trashSide};
+}
+
+QRect ucAte::TextPlace() const {
+    const int left = textLeft + (FoodIcon().isEmpty() ? 0 : iconSide + TheStyle().groupGap);
+    const int right = width() - trashRight - trashSide - textRight;
+    return {left, 0, qMax(0, right - left), height()};
+}
+
+/// The quantity stands right behind the serving; a serving too long for both is cut.
+ucAte::Layout ucAte::layoutRects() const {
+    const QFontMetrics name(SmoothedFont(font()));
+    const QFontMetrics small(SmoothedFont(TheStyle().small));
+    const QRect texts = TextPlace();
+    const int top = (height() - name.height() - small.height()) / 2;
+    const int gap = Twips::ToPixels(quantityGap);
+    const int qtyWidth = qMin(WidthOf(qty_, TheStyle().small), texts.width());
+    const int servWidth =
+        qMin(WidthOf(OneLine(serv_), TheStyle().small), qMax(0, texts.width() - gap - qtyWidth));
+    const int second = top + name.height();
+    return {QRect(textLeft, (height() - iconSide) / 2, iconSide, iconSide),
+            QRect(texts.left(), top, texts.width(), name.height()),
+            QRect(texts.left(), second, servWidth, small.height()),
+            QRect(texts.left() + servWidth + gap, second, qtyWidth, small.height()), TrashPlace()};
+}
+
+void ucAte::resizeEvent(QResizeEvent*) {
+    imgTrash_->setGeometry(TrashPlace());
+}
+
+void ucAte::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    PaintGround(painter);
+    PaintTexts(painter);
+}
+
+void ucAte::PaintGround(QPainter& painter) const {
+    if (BackStyle() != 0)
+        painter.fillRect(rect(), BackColor());
+    if (BorderStyle() != 0)
+        painter.fillRect(QRect(0, height() - 1, width(), 1), TheStyle().rule);
+    if (!FoodIcon().isEmpty())
+        Pictures::Paint(painter, layoutRects().imgFoodIcon, FoodIcon(), TheStyle().quietInk);
+}
+
+void ucAte::PaintTexts(QPainter& painter) const {
+    const Style& style = TheStyle();
+    const Layout at = layoutRects();
+    painter.setPen(isEnabled() ? ForeColor() : style.disabledInk);
+    Print(painter, at.lblFood, foodName_, font());
+    painter.setPen(isEnabled() ? style.quietInk : style.disabledInk);
+    Print(painter, at.lblServ, serv_, style.small);
+    Print(painter, at.lblQTY, qty_, style.small);
+}
+
+bool ucAte::event(QEvent* event) {
+    if (event->type() != QEvent::ToolTip)
+        return ListRow::event(event);
+    const auto* help = static_cast<QHelpEvent*>(event);
+    const bool onName = layoutRects().lblFood.contains(help->pos());
+    ShowPlainTip(help->globalPos(), onName ? foodName_ : QString(), this);
+    return true;
+}
+
+/// A line is not the empty pane: a press on it ends here.
+void ucAte::mousePressEvent(QMouseEvent* event) {
+    event->accept();
+}
+
+void ucAte::mouseMoveEvent(QMouseEvent* event) {
+    RaiseMouseMove(event);
+}
+
+void ucAte::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Delete && !event->isAutoRepeat())
+        Remove();
+    else
+        ListRow::keyPressEvent(event);
+}
+
+void ucAte::Remove() {
+    Q_EMIT RemoveFood(ToInteger(id_));
+}
