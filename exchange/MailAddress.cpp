@@ -1,5 +1,7 @@
 #include "exchange/MailAddress.h"
 
+#include "exchange/Text.h"
+
 #include <algorithm>
 
 namespace exchange {
@@ -9,7 +11,7 @@ bool IsAlphanumeric(char c) {
 }
 
 bool IsAtom(std::string_view text) {
-    constexpr std::string_view marks = "!#$%&'*+-/=?^_`{|}~";
+    constexpr std::string_view marks = "&'+-=_~";
     return !text.empty() && std::all_of(text.begin(), text.end(), [&](char c) {
         return IsAlphanumeric(c) || marks.find(c) != std::string_view::npos;
     });
@@ -37,6 +39,25 @@ bool EndsInLetters(std::string_view domain) {
     return dot != std::string_view::npos && dot + 1 < domain.size() &&
            !(domain[dot + 1] >= '0' && domain[dot + 1] <= '9');
 }
+
+/// Hosts that lead several names to one mailbox. A host that stands here twice is one host.
+struct Host {
+    std::string_view domain;
+    std::string_view mailboxDomain;
+    std::string_view ignored; ///< marks within a name that make no difference
+};
+constexpr Host Hosts[] = {
+    {"gmail.com", "gmail.com", "."},       {"googlemail.com", "gmail.com", "."},
+    {"proton.me", "proton.me", "._-"},     {"protonmail.com", "proton.me", "._-"},
+    {"protonmail.ch", "proton.me", "._-"}, {"pm.me", "proton.me", "._-"},
+};
+
+Host HostOf(std::string_view domain) {
+    for (const auto& host : Hosts)
+        if (host.domain == domain)
+            return host;
+    return {domain, domain, ""};
+}
 } // namespace
 
 bool IsMailAddress(std::string_view text) {
@@ -45,8 +66,17 @@ bool IsMailAddress(std::string_view text) {
         return false;
     const auto name = text.substr(0, at);
     const auto domain = text.substr(at + 1);
-    return name.size() <= 64 && EachPart(name, IsAtom) && EachPart(domain, IsLabel) &&
-           EndsInLetters(domain);
+    return name.size() <= 64 && !name.starts_with('-') && EachPart(name, IsAtom) &&
+           EachPart(domain, IsLabel) && EndsInLetters(domain);
+}
+
+std::string MailboxOf(std::string_view address) {
+    const auto lower = Lower(address);
+    const auto at = std::min(lower.rfind('@'), lower.size());
+    const auto host = HostOf(std::string_view(lower).substr(std::min(at + 1, lower.size())));
+    auto name = lower.substr(0, std::min(lower.find('+', 1), at));
+    std::erase_if(name, [&](char c) { return host.ignored.find(c) != std::string_view::npos; });
+    return name + "@" + std::string(host.mailboxDomain);
 }
 
 } // namespace exchange

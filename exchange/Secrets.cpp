@@ -2,6 +2,7 @@
 
 #include <openssl/crypto.h>
 #include <openssl/evp.h>
+#include <openssl/hmac.h>
 #include <openssl/rand.h>
 
 #include <array>
@@ -47,6 +48,16 @@ std::string Digest(std::string_view text) {
     std::array<unsigned char, 32> bytes{};
     unsigned int size = 0;
     if (EVP_Digest(text.data(), text.size(), bytes.data(), &size, EVP_sha256(), nullptr) != 1)
+        throw std::runtime_error("no digest");
+    return Hex(bytes);
+}
+
+std::string Keyed(std::string_view key, std::string_view text) {
+    std::array<unsigned char, 32> bytes{};
+    unsigned int size = 0;
+    if (!HMAC(EVP_sha256(), key.data(), static_cast<int>(key.size()),
+              reinterpret_cast<const unsigned char*>(text.data()), text.size(), bytes.data(),
+              &size))
         throw std::runtime_error("no digest");
     return Hex(bytes);
 }

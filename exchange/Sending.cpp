@@ -63,7 +63,7 @@ bool Sending::MayMail(Connection& connection, const std::string& to, const Visit
     const auto& limits = service_.limits;
     Transaction transaction(connection);
     const bool may =
-        Limits::Count(connection, limits.Daily("mail to", Lower(to)),
+        Limits::Count(connection, limits.Daily("mail to", MailboxOf(to)),
                       config.mails_per_recipient_day) &&
         Limits::Count(connection, limits.Daily("mail by", visitor), config.mails_per_client_day) &&
         Limits::Count(connection, limits.Daily("mails", ""), config.mails_per_day);

@@ -224,7 +224,7 @@ TEST_P(SendingTest, RecipientsClientsAndDaysHaveTheirLimits) {
         const char* setting;
         const char* other;
     };
-    for (const auto& [setting, other] : {Case{"mails_per_recipient_day", "BERT@example.org"},
+    for (const auto& [setting, other] : {Case{"mails_per_recipient_day", "BERT+1@example.org"},
                                          Case{"mails_per_client_day", "carl@example.org"},
                                          Case{"mails_per_day", "dora@example.org"}}) {
         const SmtpSink sink;
