@@ -1,5 +1,7 @@
 #include "model/Nutrients.h"
 
+#include <string_view>
+
 namespace {
 // clang-format off
 constexpr NutrientInfo Table[] = {
@@ -98,6 +100,31 @@ constexpr auto SumTemplate =
     " Sum(%1.Manganese) AS [Manganese],Sum(%1.Selenium) AS [Selenium],"
     " Sum(%1.Thiamin) AS [Thiamin],Sum(%1.Riboflavin) AS [Riboflavin],"
     " Sum(%1.Niacin) AS [Niacin],Sum(%1.Cholesterol) AS [Cholesterol]";
+
+constexpr Nutrient Stored[] = {
+    VitaminC, VitaminE,  VitaminB12, VitaminB6, VitaminA,   SatFat,    Potassium,  PolyFat,
+    MonoFat,  Folate,    Water,      Calories,  Protein,    TotalFat,  Carbs,      Fiber,
+    Ash,      Calcium,   Phosphorus, Iron,      Sodium,     Magnesium, Panto,      Zinc,
+    Copper,   Manganese, Selenium,   Thiamin,   Riboflavin, Niacin,    Cholesterol};
+static_assert(std::size(Stored) == NutrientCount);
+
+/// Whether the aliases of the sums are the columns of the log in the order of `Stored`.
+constexpr bool SumsStandInOrder() {
+    constexpr std::string_view opening = "AS [";
+    std::string_view rest = SumTemplate;
+    for (const Nutrient id : Stored) {
+        const size_t alias = rest.find(opening);
+        if (alias == rest.npos)
+            return false;
+        rest.remove_prefix(alias + opening.size());
+        const size_t length = rest.find(']');
+        if (rest.substr(0, length) != Table[static_cast<size_t>(id)].logColumn)
+            return false;
+        rest.remove_prefix(length);
+    }
+    return rest.find(opening) == rest.npos;
+}
+static_assert(SumsStandInOrder(), "a recipe hands its sums on by position");
 } // namespace
 
 const NutrientInfo& Info(Nutrient id) {
@@ -130,6 +157,10 @@ std::span<const Nutrient> ChartOrder() {
 
 std::span<const Nutrient> PeriodOrder() {
     return Period;
+}
+
+std::span<const Nutrient> StoredOrder() {
+    return Stored;
 }
 
 QString NutrientSumSQL(const QString& table) {

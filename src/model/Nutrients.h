@@ -77,6 +77,8 @@ std::span<const Nutrient>
 ReferenceOrder();                        ///< 20: those that the table RDI holds, in reading order
 std::span<const Nutrient> ChartOrder();  ///< 28: rows of the daily panel
 std::span<const Nutrient> PeriodOrder(); ///< 31: rows of the bar chart of a period
+std::span<const Nutrient>
+StoredOrder(); ///< 31: positions 1 to 31 of FOODS, USER_FOODS and Ingredients, and of the sums
 
 /// "SELECT Sum(T.VitaminC) AS [VitaminC],..." up to the last alias, without the FROM clause.
 QString NutrientSumSQL(const QString& table);

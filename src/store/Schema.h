@@ -12,7 +12,7 @@ class Database;
 
 /// The tables, indexes and versions of both files.
 namespace Schema {
-inline constexpr int Version = 1;
+inline constexpr int Version = 2;
 inline constexpr int LastStockFood = 23508; ///< foods above this key are the user's own
 
 /// What leads from one version to the next: the first step makes a new file, and what a step holds

@@ -376,7 +376,7 @@ TEST_F(RecipeScreenTest, AKillWhileAddingOrRemovingAnIngredientLeavesNoHalfOfOne
     const KillPoints adding(UserDB(), [this] { screen->AddFood(Counting("Flour", 2)); });
     ASSERT_EQ(adding.Count(), 2);
     const char* whole = "SELECT count(*) FROM Ingredients WHERE FoodName = 'Flour' AND QTY = 2 AND "
-                        "Calories = 1 AND Water = 31 AND RecipeID = 1";
+                        "VitaminC = 1 AND Cholesterol = 31 AND RecipeID = 1";
     adding.ForEach([&](int point, SQLite::Database& left) {
         EXPECT_EQ(left.execAndGet("SELECT count(*) FROM Ingredients").getInt(), point);
         EXPECT_EQ(left.execAndGet(whole).getInt(), point);

@@ -74,11 +74,17 @@ QJsonArray TransferTest::SoupRows() {
     return rows;
 }
 
+QJsonArray TransferTest::Fields() {
+    QJsonArray fields{"ID"};
+    for (const Nutrient id : StoredOrder())
+        fields.append(Info(id).logColumn);
+    for (const char* name : {"FoodName", "Serving", "RecipeID", "QTY"})
+        fields.append(name);
+    return fields;
+}
+
 QByteArray TransferTest::Table(const QJsonArray& rows) {
-    QJsonArray fields;
-    for (int i = 0; i <= NutrientCount + 4; ++i)
-        fields.append(QString("field %1").arg(i));
-    return Json({{"fields", fields}, {"rows", rows}});
+    return Json({{"fields", Fields()}, {"rows", rows}});
 }
 
 void TransferTest::TellSoup() {

@@ -35,6 +35,7 @@ protected:
     static QJsonObject SoupRecipe();
     static QJsonArray SoupRows();
     static QByteArray Json(const QJsonObject& object);
+    static QJsonArray Fields(); ///< names of the 36 columns of an ingredient, in order
     static QByteArray Table(const QJsonArray& rows);
 
     QString AllRecipes(); ///< what is stored of all recipes and ingredients, as one text

@@ -156,11 +156,11 @@ TEST_F(frmRecSearchTest, ARecipeCanBecomeAnIngredientOfAnotherAndOfItself) {
     const qint32 soup = AddRecipe("Bread soup", "1 bowl");
     RecipesTest::AddIngredient(soup, {{"Calories", 300}, {"VitaminC", 12}});
     Add("soup", "2");
-    EXPECT_EQ(Rows(UserDB(), "SELECT FoodName, Serving, QTY, Calories, Copper FROM Ingredients "
+    EXPECT_EQ(Rows(UserDB(), "SELECT FoodName, Serving, QTY, Calories, VitaminC FROM Ingredients "
                              "WHERE RecipeID = " +
                                  QString::number(recipe))
                   .value(0),
-              (QVariantList{"Bread soup", "1 bowl", 2.0, 24.0, 600.0}));
+              (QVariantList{"Bread soup", "1 bowl", 2.0, 600.0, 24.0}));
     Add("my recipe", "1");
     EXPECT_EQ(Count("Ingredients", "FoodName = 'My Recipe'"), 1);
 }

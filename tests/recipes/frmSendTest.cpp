@@ -129,6 +129,15 @@ TEST_F(frmSendTest, IngredientsGoByPositionWithoutKeyAndQuantity) {
     }
 }
 
+TEST_F(frmSendTest, TheNamesOfTheColumnsAndTheQuantitiesGoBesideTheRows) {
+    UserDB().Raw().exec("UPDATE Ingredients SET QTY = NULL WHERE FoodName = 'Water'");
+    FillIn();
+    ExpectAlert(sentence);
+    Press("cmdSend");
+    EXPECT_EQ(Body(1)["fields"].toArray(), Fields());
+    EXPECT_EQ(Body(1)["quantities"].toArray(), (QJsonArray{2, QJsonValue::Null}));
+}
+
 TEST_F(frmSendTest, NullsGoAsNulls) {
     UserDB().Raw().exec("UPDATE Recipes SET Instructions = NULL, PrepTime = NULL");
     UserDB().Raw().exec("UPDATE Ingredients SET Calories = NULL, Serving = NULL");
@@ -164,6 +173,8 @@ TEST_F(frmSendTest, ManyIngredientsGoInSeveralCalls) {
     EXPECT_EQ(Body(1)["rows"][0][32], "Food 1");
     EXPECT_EQ(Body(2)["rows"][0][32], "Food 101");
     EXPECT_EQ(Body(3)["rows"][49][32], "Food 250");
+    EXPECT_EQ(Body(1)["quantities"].toArray().size(), 100);
+    EXPECT_EQ(Body(3)["quantities"].toArray().size(), 50);
 }
 
 TEST_F(frmSendTest, TheTickMakesItPublic) {

@@ -93,6 +93,13 @@ TEST_F(ucIngredientsTest, AQuantityIsInItsShortestDecimalText) {
         EXPECT_EQ(Line(i + 1)->property("QTY"), cases[i].second);
 }
 
+TEST_F(ucIngredientsTest, AnUnknownQuantityShowsAsOne) {
+    AddLine("Salt", "1 tsp", 7);
+    UserDB().Raw().exec("UPDATE Ingredients SET QTY = NULL");
+    list.DisplayFoods(true);
+    EXPECT_EQ(Line(1)->property("QTY"), "(x 1)");
+}
+
 TEST_F(ucIngredientsTest, ANullServingIsAnEmptyText) {
     AddLine("Salt", QVariant(), 1);
     list.DisplayFoods(true);
@@ -272,7 +279,7 @@ TEST_F(ucIngredientsTest, AnAddedFoodIsARowOfItsRecipeAndShownAtOnce) {
     list.AddFood(Counting("Flour", 2.5));
     EXPECT_EQ(Names(), (QStringList{"Food 1", "Food 2", "Flour"}));
     EXPECT_EQ(Line(3)->property("QTY"), "(x 2.5)");
-    EXPECT_EQ(Count("Ingredients", "Calories = 1 AND RecipeID = " + QString::number(recipe)), 1);
+    EXPECT_EQ(Count("Ingredients", "VitaminC = 1 AND RecipeID = " + QString::number(recipe)), 1);
 }
 
 TEST_F(ucIngredientsTest, AwkwardTextsAreShownAndRemoved) {

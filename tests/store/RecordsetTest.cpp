@@ -1,5 +1,6 @@
 #include "StoreTest.h"
 
+#include "store/Schema.h"
 #include "store/StoreError.h"
 
 #include <SQLiteCpp/SQLiteCpp.h>
@@ -573,7 +574,7 @@ TEST_F(RecordsetTest, AStatementThatWritesIsRefusedUnderEveryLock) {
         EXPECT_EQ(ErrorOf([&] { Change(sql); }), Denied) << sql;
     }
     EXPECT_EQ(Weights(), "151.0,152.0,153.0");
-    EXPECT_EQ(First(users_, "PRAGMA user_version"), 1);
+    EXPECT_EQ(First(users_, "PRAGMA user_version"), Schema::Version);
 }
 
 TEST_F(RecordsetTest, PragmasAreRefusedAsTablesToo) {

@@ -45,10 +45,10 @@ QByteArray TokenIn(const QJsonValue& value) {
     return token;
 }
 
-QJsonArray Slice(const QJsonArray& rows, qsizetype from) {
+QJsonArray Slice(const QJsonArray& values, qsizetype from) {
     QJsonArray slice;
-    for (qsizetype i = from; i < std::min(rows.size(), from + rowsAtOnce); ++i)
-        slice.append(rows.at(i));
+    for (qsizetype i = from; i < std::min(values.size(), from + rowsAtOnce); ++i)
+        slice.append(values.at(i));
     return slice;
 }
 
@@ -66,13 +66,13 @@ std::optional<QJsonObject> ExchangeClient::ReadRecipe(qint32 RecipeID) {
     return recipe;
 }
 
-QJsonArray ExchangeClient::ReadIngredients(qint32 RecipeID) {
+ExchangeClient::Ingredients ExchangeClient::ReadIngredients(qint32 RecipeID) {
     const QString address = Server::Address() + RecipesPath(RecipeID) + "/ingredients";
     const QJsonObject table = ObjectIn(http_.Get(address, longestDocument), Done);
     const QJsonValue rows = table[QLatin1String("rows")];
     if (!rows.isArray())
         Refuse();
-    return rows.toArray();
+    return {table[QLatin1String("fields")].toArray(), rows.toArray(), {}};
 }
 
 ExchangeClient::Appended ExchangeClient::AppendRecipe(const QJsonObject& recipe) {
@@ -81,12 +81,15 @@ ExchangeClient::Appended ExchangeClient::AppendRecipe(const QJsonObject& recipe)
             TokenIn(created[QLatin1String("token")])};
 }
 
-void ExchangeClient::AppendIngredients(const Appended& recipe, const QJsonArray& rows) {
+void ExchangeClient::AppendIngredients(const Appended& recipe, const Ingredients& ingredients) {
     const QString path = RecipesPath(recipe.RecipeID) + "/ingredients";
-    for (qsizetype from = 0; from < rows.size(); from += rowsAtOnce) {
-        const QJsonArray slice = Slice(rows, from);
-        const QJsonObject added = Append(path, {{QStringLiteral("rows"), slice}}, recipe.token);
-        if (RemoteValue::Count(added[QLatin1String("added")]) != slice.size())
+    for (qsizetype from = 0; from < ingredients.rows.size(); from += rowsAtOnce) {
+        const QJsonArray rows = Slice(ingredients.rows, from);
+        const QJsonObject body{{QStringLiteral("fields"), ingredients.fields},
+                               {QStringLiteral("rows"), rows},
+                               {QStringLiteral("quantities"), Slice(ingredients.quantities, from)}};
+        const QJsonObject added = Append(path, body, recipe.token);
+        if (RemoteValue::Count(added[QLatin1String("added")]) != rows.size())
             Refuse();
     }
 }

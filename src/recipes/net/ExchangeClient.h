@@ -17,15 +17,21 @@ public:
         qint32 RecipeID;
         QByteArray token; ///< allows to append ingredients
     };
+    /// Ingredients in the order of `fields`, the names of all positions of a row.
+    struct Ingredients {
+        QJsonArray fields;
+        QJsonArray rows;       ///< each an array by position
+        QJsonArray quantities; ///< one a row, null where it is unknown; only sent
+    };
 
     HttpClient& Http() { return http_; }
 
     /// Nothing where the exchange says that it has no such recipe.
     std::optional<QJsonObject> ReadRecipe(qint32 RecipeID);
-    QJsonArray ReadIngredients(qint32 RecipeID); ///< rows, each an array by position
+    Ingredients ReadIngredients(qint32 RecipeID);
 
     Appended AppendRecipe(const QJsonObject& recipe);
-    void AppendIngredients(const Appended& recipe, const QJsonArray& rows);
+    void AppendIngredients(const Appended& recipe, const Ingredients& ingredients);
 
     QString SendRecipe(qint32 RecipeID); ///< what the page answers, whatever its status
 

@@ -21,10 +21,12 @@ constexpr Column recipeColumns[] = {
 };
 
 // An ingredient: its key, the amounts, name, serving, key of the recipe, quantity. The keys are
-// made anew where it comes to, and the quantity does not travel.
+// made anew where it comes to. The quantity travels beside the rows: readers get it in the serving.
 constexpr int lastCarried = NutrientCount + 3;
 constexpr int foodNamePosition = NutrientCount + 1;
 constexpr int servingPosition = NutrientCount + 2;
+
+using Ingredients = ExchangeClient::Ingredients;
 
 QString Number(qint32 number) {
     return QString::number(number);
@@ -33,6 +35,13 @@ QString Number(qint32 number) {
 QVariant IngredientValue(const QJsonArray& row, int position) {
     const bool isText = position == foodNamePosition || position == servingPosition;
     return isText ? RemoteValue::Text(row[position]) : RemoteValue::Number(row[position]);
+}
+
+QJsonArray FieldNames(const Recordset& rows) {
+    QJsonArray names;
+    for (int i = 0; i < rows.FieldCount(); ++i)
+        names.append(rows.FieldName(i));
+    return names;
 }
 
 /// Gives the key that the store made.
@@ -81,12 +90,14 @@ QJsonArray IngredientToSend(const Recordset& rows, qint32 remoteID) {
     return values;
 }
 
-QJsonArray IngredientsToSend(qint32 RecipeID, qint32 remoteID) {
+Ingredients IngredientsToSend(qint32 RecipeID, qint32 remoteID) {
     Recordset rows(UserDB(), "SELECT * FROM ingredients WHERE RecipeID=" + Number(RecipeID),
                    Cursor::Static, Lock::ReadOnly);
-    QJsonArray all;
-    for (; !rows.AtEnd(); rows.MoveNext())
-        all.append(IngredientToSend(rows, remoteID));
+    Ingredients all{FieldNames(rows), {}, {}};
+    for (; !rows.AtEnd(); rows.MoveNext()) {
+        all.rows.append(IngredientToSend(rows, remoteID));
+        all.quantities.append(QJsonValue::fromVariant(rows[QStringLiteral("QTY")].Value()));
+    }
     rows.Close();
     return all;
 }
@@ -102,7 +113,7 @@ bool RecipeExchange::Import(ExchangeClient& exchange, qint32 RecipeID) {
     if (!remote)
         return false;
     const QString id = KeepRecipe(recipe, *remote);
-    KeepIngredients(id, exchange.ReadIngredients(RecipeID));
+    KeepIngredients(id, exchange.ReadIngredients(RecipeID).rows);
     return true;
 }
 

@@ -9,8 +9,8 @@ class ExchangeClient;
 namespace RecipeExchange {
 
 /// Appends a recipe of the exchange to one's own, under keys that the store makes: imported twice,
-/// it is there twice. Its ingredients come without their quantity. False where the exchange has no
-/// such recipe; nothing is written then.
+/// it is there twice. Its ingredients come with the quantity 1, as the exchange tells any other in
+/// the serving. False where the exchange has no such recipe; nothing is written then.
 bool Import(ExchangeClient& exchange, qint32 RecipeID);
 
 struct Envelope {

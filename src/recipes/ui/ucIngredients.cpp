@@ -45,7 +45,7 @@ void ucIngredients::DisplayFoods(bool ResetPane) {
         pane_->AddBlankLine();
     for (; !rows.AtEnd(); rows.MoveNext())
         showFood(rows[QStringLiteral("FoodName")].Text(), rows[QStringLiteral("Serving")].Text(),
-                 rows[QStringLiteral("ID")].Integer(), rows[QStringLiteral("QTY")].NumberOr(0));
+                 rows[QStringLiteral("ID")].Integer(), rows[QStringLiteral("QTY")].NumberOr(1));
     rows.Close();
 }
 

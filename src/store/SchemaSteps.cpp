@@ -1,0 +1,138 @@
+#include "store/SchemaSteps.h"
+
+#include <iterator>
+
+namespace {
+// Generated keys are AUTOINCREMENT, so that none is given
+// out twice; the key of a food is not, as the next custom food takes the highest one plus 1.
+// Texts fold A to Z with the collation that every tool has.
+constexpr auto UsersStep1 = R"(
+CREATE TABLE profiles (
+    UID INTEGER PRIMARY KEY AUTOINCREMENT,
+    UserName TEXT COLLATE NOCASE,
+    gender INTEGER, age REAL, height INTEGER, current_weight INTEGER, desired_weight INTEGER,
+    activity_level INTEGER, flagsodium BOOLEAN DEFAULT 0, flagcholesterol BOOLEAN DEFAULT 0,
+    sodiumMAX INTEGER, cholesterolMAX INTEGER,
+    Calories INTEGER, protein REAL, carbs REAL, TotalFat REAL, SatFat REAL, PolyFat REAL,
+    MonoFat REAL, fiber REAL, water REAL,
+    Cholesterol INTEGER, sodium INTEGER, Calcium INTEGER, Folate INTEGER, Magnesium INTEGER,
+    Phosphorus INTEGER, Potassium INTEGER,
+    ASH REAL, Copper REAL, Iron REAL, Manganese REAL, Niacin REAL, Panto REAL, Riboflavin REAL,
+    Selenium REAL, Thiamin REAL, VitaminA REAL, VitaminB12 REAL, VitaminB6 REAL, VitaminC REAL,
+    VitaminE REAL, Zinc REAL);
+
+CREATE TABLE RDI (
+    Profile TEXT COLLATE NOCASE,
+    Calcium REAL, Cholesterol REAL, Folate REAL, Magnesium REAL, Phosphorus REAL,
+    Ash REAL, Copper REAL, Iron REAL, Manganese REAL, Niacin REAL, Panto REAL, Riboflavin REAL,
+    Selenium REAL, Thiamin REAL, VitaminA REAL, VitaminB12 REAL, VitaminB6 REAL, VitaminC REAL,
+    VitaminE REAL, Zinc REAL);
+
+CREATE TABLE USER_FOODS (
+    RecID INTEGER PRIMARY KEY AUTOINCREMENT,
+    VitaminC REAL, VitaminE REAL, VitaminB12 REAL, VitaminB6 REAL, VitaminA REAL, SatFat REAL,
+    Potassium REAL, PolyFat REAL, MonoFat REAL, Folate REAL, Water REAL, Calories REAL,
+    Protein REAL, TotalFat REAL, carbs REAL, fiber REAL, Ash REAL, Calcium REAL, Phosphorus REAL,
+    Iron REAL, Sodium REAL, Magnesium REAL, Panto REAL, Zinc REAL, Copper REAL, Manganese REAL,
+    Selenium REAL, Thiamin REAL, Riboflavin REAL, Niacin REAL, Cholesterol REAL,
+    UID INTEGER, FoodName TEXT COLLATE NOCASE, Serving TEXT COLLATE NOCASE, ID INTEGER,
+    Meal TEXT COLLATE NOCASE, UDate DATE, QTY REAL);
+CREATE INDEX USER_FOODS_Day ON USER_FOODS (UID, UDate);
+
+CREATE TABLE USER_WEIGHTS (UID INTEGER, UDate DATE, Weight REAL);
+CREATE INDEX USER_WEIGHTS_Day ON USER_WEIGHTS (UID, UDate);
+
+CREATE TABLE Recipes (
+    RecipeID INTEGER PRIMARY KEY AUTOINCREMENT,
+    RecipeName TEXT COLLATE NOCASE, ServingName TEXT COLLATE NOCASE, RecipeYield REAL,
+    Instructions TEXT COLLATE NOCASE, PrepTime REAL);
+CREATE INDEX Recipes_Name ON Recipes (RecipeName, ServingName);
+
+CREATE TABLE Ingredients (
+    ID INTEGER PRIMARY KEY AUTOINCREMENT,
+    Calories REAL, TotalFat REAL, SatFat REAL, MonoFat REAL, PolyFat REAL, Cholesterol REAL,
+    Sodium REAL, carbs REAL, fiber REAL, Protein REAL, Calcium REAL, Copper REAL, Folate REAL,
+    Iron REAL, Magnesium REAL, Manganese REAL, Niacin REAL, Panto REAL, Phosphorus REAL,
+    Potassium REAL, Riboflavin REAL, Selenium REAL, Thiamin REAL, VitaminA REAL, VitaminB12 REAL,
+    VitaminB6 REAL, VitaminC REAL, VitaminE REAL, Zinc REAL, Ash REAL, Water REAL,
+    FoodName TEXT COLLATE NOCASE, Serving TEXT COLLATE NOCASE, RecipeID INTEGER, QTY REAL);
+CREATE INDEX Ingredients_Recipe ON Ingredients (RecipeID);
+)";
+
+// The index holds every column that a search reads, so that a search never touches the table.
+// NDB_No is the number that the release gives the food, by which each figure can be traced.
+constexpr auto FoodsStep1 = R"(
+CREATE TABLE FOODS (
+    ID INTEGER PRIMARY KEY,
+    Calories REAL, TotalFat REAL, SatFat REAL, MonoFat REAL, PolyFat REAL, Cholesterol REAL,
+    sodium REAL, carbs REAL, fiber REAL, protein REAL, Calcium REAL, Copper REAL, Folate REAL,
+    Iron REAL, Magnesium REAL, Manganese REAL, Niacin REAL, Panto REAL, Phosphorus REAL,
+    Potassium REAL, Riboflavin REAL, Selenium REAL, Thiamin REAL, VitaminA REAL, VitaminB12 REAL,
+    VitaminB6 REAL, VitaminC REAL, VitaminE REAL, Zinc REAL, ASH REAL, water REAL,
+    FoodName TEXT COLLATE NOCASE, Serv_Desc_A TEXT COLLATE NOCASE, Serv_Desc_B TEXT COLLATE NOCASE,
+    Serv_GM_WT_A REAL, Serv_GM_WT_B REAL, NDB_No TEXT COLLATE NOCASE);
+CREATE INDEX FOODS_Name ON FOODS (FoodName, Serv_Desc_A, Serv_Desc_B);
+)";
+
+// The nutrients stand at positions 1 to 31 of FOODS, Ingredients and USER_FOODS in one order, which
+// is that of the sums over a recipe: amounts are handed on by position. Values move by name, and
+// keys of deleted ingredients are still not given out again.
+constexpr auto UsersStep2 = R"(
+CREATE TEMP TABLE moved AS SELECT * FROM main.Ingredients;
+CREATE TEMP TABLE highest AS SELECT seq FROM main.sqlite_sequence WHERE name = 'Ingredients';
+DROP TABLE main.Ingredients;
+
+CREATE TABLE Ingredients (
+    ID INTEGER PRIMARY KEY AUTOINCREMENT,
+    VitaminC REAL, VitaminE REAL, VitaminB12 REAL, VitaminB6 REAL, VitaminA REAL, SatFat REAL,
+    Potassium REAL, PolyFat REAL, MonoFat REAL, Folate REAL, Water REAL, Calories REAL,
+    Protein REAL, TotalFat REAL, carbs REAL, fiber REAL, Ash REAL, Calcium REAL, Phosphorus REAL,
+    Iron REAL, Sodium REAL, Magnesium REAL, Panto REAL, Zinc REAL, Copper REAL, Manganese REAL,
+    Selenium REAL, Thiamin REAL, Riboflavin REAL, Niacin REAL, Cholesterol REAL,
+    FoodName TEXT COLLATE NOCASE, Serving TEXT COLLATE NOCASE, RecipeID INTEGER,
+    QTY REAL DEFAULT 1);
+INSERT INTO Ingredients SELECT ID,
+    VitaminC, VitaminE, VitaminB12, VitaminB6, VitaminA, SatFat, Potassium, PolyFat, MonoFat,
+    Folate, Water, Calories, Protein, TotalFat, carbs, fiber, Ash, Calcium, Phosphorus, Iron,
+    Sodium, Magnesium, Panto, Zinc, Copper, Manganese, Selenium, Thiamin, Riboflavin, Niacin,
+    Cholesterol,
+    FoodName, Serving, RecipeID, QTY FROM temp.moved;
+CREATE INDEX Ingredients_Recipe ON Ingredients (RecipeID);
+
+DELETE FROM sqlite_sequence WHERE name = 'Ingredients';
+INSERT INTO sqlite_sequence SELECT 'Ingredients', seq FROM temp.highest;
+DROP TABLE temp.moved;
+DROP TABLE temp.highest;
+)";
+
+constexpr auto FoodsStep2 = R"(
+CREATE TEMP TABLE moved AS SELECT * FROM main.FOODS;
+DROP TABLE main.FOODS;
+
+CREATE TABLE FOODS (
+    ID INTEGER PRIMARY KEY,
+    VitaminC REAL, VitaminE REAL, VitaminB12 REAL, VitaminB6 REAL, VitaminA REAL, SatFat REAL,
+    Potassium REAL, PolyFat REAL, MonoFat REAL, Folate REAL, water REAL, Calories REAL,
+    protein REAL, TotalFat REAL, carbs REAL, fiber REAL, ASH REAL, Calcium REAL, Phosphorus REAL,
+    Iron REAL, sodium REAL, Magnesium REAL, Panto REAL, Zinc REAL, Copper REAL, Manganese REAL,
+    Selenium REAL, Thiamin REAL, Riboflavin REAL, Niacin REAL, Cholesterol REAL,
+    FoodName TEXT COLLATE NOCASE, Serv_Desc_A TEXT COLLATE NOCASE, Serv_Desc_B TEXT COLLATE NOCASE,
+    Serv_GM_WT_A REAL, Serv_GM_WT_B REAL, NDB_No TEXT COLLATE NOCASE);
+INSERT INTO FOODS SELECT ID,
+    VitaminC, VitaminE, VitaminB12, VitaminB6, VitaminA, SatFat, Potassium, PolyFat, MonoFat,
+    Folate, water, Calories, protein, TotalFat, carbs, fiber, ASH, Calcium, Phosphorus, Iron,
+    sodium, Magnesium, Panto, Zinc, Copper, Manganese, Selenium, Thiamin, Riboflavin, Niacin,
+    Cholesterol,
+    FoodName, Serv_Desc_A, Serv_Desc_B, Serv_GM_WT_A, Serv_GM_WT_B, NDB_No FROM temp.moved;
+CREATE INDEX FOODS_Name ON FOODS (FoodName, Serv_Desc_A, Serv_Desc_B);
+
+DROP TABLE temp.moved;
+)";
+
+constexpr Schema::Step Steps[] = {{UsersStep1, FoodsStep1}, {UsersStep2, FoodsStep2}};
+static_assert(std::size(Steps) == Schema::Version);
+} // namespace
+
+std::span<const Schema::Step> SchemaSteps() {
+    return Steps;
+}
