@@ -104,6 +104,7 @@ TEST_F(CatalogueTest, NamesAreReadAsLatin1) {
 TEST_F(CatalogueTest, WeightsAreTakenInTheirSequenceWithoutTheMeasureThatIsThere) {
     QByteArrayList record(ShortLayout, "");
     record[0] = "~01000~";
+    record[3] = "10";
     record[46] = "56.00";
     record[47] = "~1 serving,  2 oz~";
     Write("ABBREV.txt", record.join('^') + "\r\n");
@@ -122,6 +123,30 @@ TEST_F(CatalogueTest, FoodWithoutAFullDescriptionIsLeftAndTold) {
     EXPECT_EQ(made.Unnamed(), QStringList{QStringLiteral("01000")});
     EXPECT_EQ(made.Foods().size(), 1);
     EXPECT_TRUE(CatalogueReport(made).contains(QStringLiteral("no full description: 01000.")));
+}
+
+TEST_F(CatalogueTest, FoodWithoutOneKnownValueIsLeftAndToldAndItsKeyStaysUnused) {
+    QByteArrayList empty(ShortLayout, "");
+    empty[0] = "~01500~";
+    empty[46] = "100";
+    empty[47] = "~1 cup~";
+    Write("ABBREV.txt", Values("01000") + empty.join('^') + "\r\n" + Values("02000"));
+    Write("FOOD_DES.txt", Description("01000", "First") + Description("01500", "A calculator") +
+                              Description("02000", "Last"));
+    const Catalogue made = Made();
+    ASSERT_EQ(made.Foods().size(), 2);
+    EXPECT_EQ(made.Foods()[0].id, 23506);
+    EXPECT_EQ(made.Foods()[1].id, 23508);
+    EXPECT_EQ(made.Table().Rows().size(), 2);
+    EXPECT_TRUE(CatalogueReport(made).contains(
+        QStringLiteral("not one value is known: 01500 (key 23507, \"A calculator\")")));
+}
+
+TEST_F(CatalogueTest, ReleaseWhoseLastFoodHasNoValueIsRefused) {
+    QByteArrayList empty(ShortLayout, "");
+    empty[0] = "~02000~";
+    Write("ABBREV.txt", Values("01000") + empty.join('^') + "\r\n");
+    EXPECT_EQ(Refusal(), QStringLiteral("the last food of the release has no value"));
 }
 
 TEST_F(CatalogueTest, LineOfAnotherLayoutIsRefusedWithItsPlace) {

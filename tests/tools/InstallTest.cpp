@@ -62,7 +62,7 @@ TEST_F(InstallTest, InstallingAgainLosesNothing) {
     Install();
     EXPECT_EQ(Number("users.mdb", "SELECT COUNT(*) FROM profiles WHERE UserName = 'Anna'"), 1);
     EXPECT_EQ(Number("foods.mdb", "SELECT COUNT(*) FROM FOODS WHERE ID = 23509"), 1);
-    EXPECT_EQ(Number("foods.mdb", "SELECT COUNT(*) FROM FOODS WHERE ID <= 23508"), 7413);
+    EXPECT_EQ(Number("foods.mdb", "SELECT COUNT(*) FROM FOODS WHERE ID <= 23508"), 7412);
 }
 
 TEST(Tools, WrongArgumentsGiveTheUsageAndChangeNothing) {

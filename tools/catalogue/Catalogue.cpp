@@ -7,6 +7,8 @@
 #include <QDir>
 
 #include <algorithm>
+#include <functional>
+#include <iterator>
 
 namespace {
 
@@ -34,6 +36,10 @@ CatalogueFood Food(const ReleaseTable::Record& values, const QString& name,
 
 } // namespace
 
+bool CatalogueFood::HasValue() const {
+    return std::ranges::any_of(nutrients, [](const QString& value) { return !value.isEmpty(); });
+}
+
 Catalogue Catalogue::FromRelease(const QString& folder) {
     const QDir release(folder);
     const auto values = ReleaseTable::Read(release.filePath(QStringLiteral("ABBREV.txt")),
@@ -48,6 +54,7 @@ Catalogue Catalogue::FromRelease(const QString& folder) {
     catalogue.weightsRead_ = int(weights.Records().size());
     catalogue.AddFoods(values, descriptions, Measures(weights));
     catalogue.Number();
+    catalogue.SetValuelessAside();
     return catalogue;
 }
 
@@ -76,6 +83,16 @@ void Catalogue::Number() {
     int id = Schema::LastStockFood - int(foods_.size());
     for (CatalogueFood& food : foods_)
         food.id = ++id;
+}
+
+void Catalogue::SetValuelessAside() {
+    const auto valueless =
+        std::stable_partition(foods_.begin(), foods_.end(), std::mem_fn(&CatalogueFood::HasValue));
+    std::move(valueless, foods_.end(), std::back_inserter(valueless_));
+    foods_.erase(valueless, foods_.end());
+    if (foods_.isEmpty() || foods_.last().id != Schema::LastStockFood)
+        throw RuntimeError(ErrorNumber::TypeMismatch,
+                           QStringLiteral("the last food of the release has no value"));
 }
 
 TsvTable Catalogue::Table() const {

@@ -16,10 +16,13 @@ struct CatalogueFood {
     QStringList nutrients; ///< in the order of FoodColumns
     Servings servings;
     bool plainFolate = false; ///< folate is the total, dietary equivalents are unknown
+
+    bool HasValue() const; ///< at least one nutrient is known
 };
 
 /// The stock catalogue made from a release: the foods in ascending order of the release's own
-/// number, with keys that end at 23508.
+/// number, with keys that end at 23508. A food that is left out for want of values keeps its key
+/// to itself, so that no other food ever changes its own.
 class Catalogue {
 public:
     /// Reads ABBREV.txt, FOOD_DES.txt and WEIGHT.txt of the folder. Fails where one is missing,
@@ -29,6 +32,8 @@ public:
     const QList<CatalogueFood>& Foods() const { return foods_; }
     /// Numbers of foods with values and no full description, which the catalogue leaves out.
     const QStringList& Unnamed() const { return unnamed_; }
+    /// Foods of which the release knows no value at all, which the catalogue leaves out.
+    const QList<CatalogueFood>& Valueless() const { return valueless_; }
     int ValuesRead() const { return valuesRead_; }
     int DescriptionsRead() const { return descriptionsRead_; }
     int WeightsRead() const { return weightsRead_; }
@@ -39,9 +44,11 @@ private:
     void AddFoods(const ReleaseTable& values, const ReleaseTable& descriptions,
                   const Measures& measures);
     void Number();
+    void SetValuelessAside();
 
     QList<CatalogueFood> foods_;
     QStringList unnamed_;
+    QList<CatalogueFood> valueless_;
     int valuesRead_ = 0;
     int descriptionsRead_ = 0;
     int weightsRead_ = 0;

@@ -49,6 +49,15 @@ QString ListOrNone(const QStringList& list) {
     return list.isEmpty() ? QStringLiteral("none") : list.join(QStringLiteral(", "));
 }
 
+QString Valueless(const Catalogue& catalogue) {
+    QStringList list;
+    for (const CatalogueFood& food : catalogue.Valueless())
+        list << food.number + u" (key " + QString::number(food.id) + u", \"" + food.name + u"\")";
+    return list.isEmpty() ? ListOrNone(list)
+                          : ListOrNone(list) +
+                                u"; the keys stay unused, so that every other food keeps its own";
+}
+
 QString Records(const Catalogue& catalogue) {
     const auto foods = catalogue.Foods().size();
     return u"## Records\n\n| file | read | mapped | left |\n|---|---:|---:|---:|\n" +
@@ -58,8 +67,10 @@ QString Records(const Catalogue& catalogue) {
            u"\nKeys: " + QString::number(catalogue.Foods().first().id) + u" to " +
            QString::number(catalogue.Foods().last().id) +
            u". Foods left because they have no full description: " +
-           ListOrNone(catalogue.Unnamed()) +
-           u". The weights left are measures that `ABBREV.txt` gives already, or further ones of "
+           ListOrNone(catalogue.Unnamed()) + u". Foods left because not one value is known: " +
+           Valueless(catalogue) +
+           u". The weights left "
+           u"are measures that `ABBREV.txt` gives already, or further ones of "
            "foods that have two.\n\n";
 }
 
