@@ -3,42 +3,65 @@
 namespace exchange {
 namespace {
 constexpr std::array<NutrientColumn, NutrientCount> Table{{
-    {"Calories", "Calories", "", true},
-    {"TotalFat", "Total fat", "g", true},
-    {"SatFat", "Saturated fat", "g", true},
-    {"MonoFat", "Monounsaturated fat", "g", true},
-    {"PolyFat", "Polyunsaturated fat", "g", true},
-    {"Cholesterol", "Cholesterol", "mg", true},
-    {"Sodium", "Sodium", "mg", true},
-    {"carbs", "Carbohydrates", "g", true},
-    {"fiber", "Fiber", "g", true},
-    {"Protein", "Protein", "g", true},
-    {"Calcium", "Calcium", "mg", false},
-    {"Copper", "Copper", "mg", false},
-    {"Folate", "Folate", "mcg", false},
-    {"Iron", "Iron", "mg", false},
-    {"Magnesium", "Magnesium", "mg", false},
-    {"Manganese", "Manganese", "mg", false},
-    {"Niacin", "Niacin", "mg", false},
-    {"Panto", "Pantothenic acid", "mg", false},
-    {"Phosphorus", "Phosphorus", "mg", false},
-    {"Potassium", "Potassium", "mg", false},
-    {"Riboflavin", "Riboflavin", "mg", false},
-    {"Selenium", "Selenium", "mg", false},
-    {"Thiamin", "Thiamin", "mg", false},
-    {"VitaminA", "Vitamin A", "iu", false},
-    {"VitaminB12", "Vitamin B12", "mcg", false},
-    {"VitaminB6", "Vitamin B6", "mg", false},
     {"VitaminC", "Vitamin C", "mg", false},
     {"VitaminE", "Vitamin E", "mg", false},
-    {"Zinc", "Zinc", "mg", false},
-    {"Ash", "Ash", "g", false},
+    {"VitaminB12", "Vitamin B12", "mcg", false},
+    {"VitaminB6", "Vitamin B6", "mg", false},
+    {"VitaminA", "Vitamin A", "iu", false},
+    {"SatFat", "Saturated fat", "g", true},
+    {"Potassium", "Potassium", "mg", false},
+    {"PolyFat", "Polyunsaturated fat", "g", true},
+    {"MonoFat", "Monounsaturated fat", "g", true},
+    {"Folate", "Folate", "mcg", false},
     {"Water", "Water", "g", false},
+    {"Calories", "Calories", "", true},
+    {"Protein", "Protein", "g", true},
+    {"TotalFat", "Total fat", "g", true},
+    {"carbs", "Carbohydrates", "g", true},
+    {"fiber", "Fiber", "g", true},
+    {"Ash", "Ash", "g", false},
+    {"Calcium", "Calcium", "mg", false},
+    {"Phosphorus", "Phosphorus", "mg", false},
+    {"Iron", "Iron", "mg", false},
+    {"Sodium", "Sodium", "mg", true},
+    {"Magnesium", "Magnesium", "mg", false},
+    {"Panto", "Pantothenic acid", "mg", false},
+    {"Zinc", "Zinc", "mg", false},
+    {"Copper", "Copper", "mg", false},
+    {"Manganese", "Manganese", "mg", false},
+    {"Selenium", "Selenium", "mg", false},
+    {"Thiamin", "Thiamin", "mg", false},
+    {"Riboflavin", "Riboflavin", "mg", false},
+    {"Niacin", "Niacin", "mg", false},
+    {"Cholesterol", "Cholesterol", "mg", true},
 }};
+
+constexpr std::string_view LabelNames[] = {
+    "Calories",  "TotalFat",  "SatFat",   "MonoFat",    "PolyFat",    "Cholesterol", "Sodium",
+    "carbs",     "fiber",     "Protein",  "Calcium",    "Copper",     "Folate",      "Iron",
+    "Magnesium", "Manganese", "Niacin",   "Panto",      "Phosphorus", "Potassium",   "Riboflavin",
+    "Selenium",  "Thiamin",   "VitaminA", "VitaminB12", "VitaminB6",  "VitaminC",    "VitaminE",
+    "Zinc",      "Ash",       "Water"};
+
+/// Fails to compile if a name stands in one of the two lists only.
+consteval std::array<int, NutrientCount> FindLabelOrder() {
+    std::array<int, NutrientCount> order{};
+    for (size_t i = 0; i < NutrientCount; ++i)
+        while (Table.at(static_cast<size_t>(order[i])).name != LabelNames[i])
+            ++order[i];
+    return order;
+}
+constexpr auto Order = FindLabelOrder();
+static_assert(std::size(LabelNames) == NutrientCount);
+static_assert(Table[CaloriesPosition - 1].name == "Calories");
 } // namespace
 
 std::span<const NutrientColumn, NutrientCount> NutrientColumns() {
     return Table;
+}
+
+std::span<const int, NutrientCount> LabelOrder() {
+    return Order;
 }
 
 std::array<std::string_view, FieldCount> FieldNames() {

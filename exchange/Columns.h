@@ -21,7 +21,7 @@ inline constexpr int FieldCount = 36;
 /// Positions that mean more than a nutrient.
 enum Position {
     IDPosition = 0,
-    CaloriesPosition = 1,
+    CaloriesPosition = 12,
     FoodNamePosition = 32,
     ServingPosition = 33,
     RecipeIDPosition = 34,
@@ -29,6 +29,9 @@ enum Position {
 };
 
 std::span<const NutrientColumn, NutrientCount> NutrientColumns();
+/// Indexes of NutrientColumns in the order of a nutrition label, calories first. Programs that do
+/// not name their fields send the values in this order.
+std::span<const int, NutrientCount> LabelOrder();
 std::array<std::string_view, FieldCount> FieldNames(); ///< all 36, by position
 
 } // namespace exchange

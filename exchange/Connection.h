@@ -5,8 +5,23 @@
 #include <map>
 #include <memory>
 #include <mutex>
+#include <optional>
 #include <string>
 #include <string_view>
+
+namespace soci {
+/// What is empty is null in the database.
+template <class T> struct type_conversion<std::optional<T>> {
+    using base_type = typename type_conversion<T>::base_type;
+    static void from_base(const base_type& value, indicator is, std::optional<T>& member) {
+        member = is == i_null ? std::nullopt : std::optional<T>(value);
+    }
+    static void to_base(const std::optional<T>& member, base_type& value, indicator& is) {
+        is = member ? i_ok : i_null;
+        value = member.value_or(T());
+    }
+};
+} // namespace soci
 
 namespace exchange {
 

@@ -4,12 +4,12 @@
 
 namespace exchange::Documents {
 namespace {
-void Text(std::string& json, std::string_view name, const std::string& text) {
+void Text(std::string& json, std::string_view name, const std::optional<std::string>& text) {
     json.append("\"").append(name).append("\":");
-    Json::AppendText(json, std::string_view(text));
+    Json::AppendText(json, text);
 }
 
-void Number(std::string& json, std::string_view name, double number) {
+void Number(std::string& json, std::string_view name, const std::optional<double>& number) {
     json.append("\"").append(name).append("\":");
     Json::AppendNumber(json, number);
 }
@@ -21,15 +21,14 @@ std::string Fields() {
     return json;
 }
 
+/// The quantity goes with the serving: programs do not carry the last position.
 void Row(std::string& json, const Ingredient& ingredient, int id, int recipeID) {
     json.append("[").append(std::to_string(id));
     for (const auto& amount : ingredient.nutrients)
         Json::AppendNumber(json += ',', amount);
     Json::AppendText(json += ',', ingredient.foodName);
-    Json::AppendText(json += ',', ingredient.serving);
-    json.append(",").append(std::to_string(recipeID));
-    Json::AppendNumber(json += ',', ingredient.quantity);
-    json += ']';
+    Json::AppendText(json += ',', ingredient.Portion());
+    json.append(",").append(std::to_string(recipeID)).append(",null]");
 }
 } // namespace
 

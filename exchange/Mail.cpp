@@ -53,7 +53,7 @@ std::string Body(const std::string& text) {
 std::string Ingredients(const Recipe& recipe) {
     std::string text;
     for (const auto& ingredient : recipe.ingredients) {
-        const auto serving = ShownText::Line(ingredient.serving.value_or(""), ShownText::InCard);
+        const auto serving = ShownText::Line(ingredient.Portion().value_or(""), ShownText::InCard);
         text.append("- ");
         text += ShownText::Name(ingredient.foodName.value_or(""), ShownText::InCard);
         if (!serving.empty())
@@ -66,7 +66,7 @@ std::string Ingredients(const Recipe& recipe) {
 /// Relays refuse mails of several mebibytes.
 std::string Instructions(const Recipe& recipe) {
     constexpr size_t most = 100'000;
-    const auto text = ShownText::Lines(recipe.instructions);
+    const auto text = ShownText::Lines(recipe.instructions.value_or(""));
     if (text.size() <= most)
         return text;
     return text.substr(0, WholeLetters(text, 0, most)) +
@@ -74,12 +74,14 @@ std::string Instructions(const Recipe& recipe) {
 }
 
 std::string Card(const Recipe& recipe) {
-    const auto serving = ShownText::Line(recipe.servingName, ShownText::InCard);
-    std::string text = ShownText::Name(recipe.name, ShownText::InCard) + "\n\n";
-    text += "Recipe yield: " + Numbers::Counted(recipe.yield, "serving") + "\n";
+    const auto serving = ShownText::Line(recipe.servingName.value_or(""), ShownText::InCard);
+    std::string text = ShownText::Name(recipe.name.value_or(""), ShownText::InCard) + "\n\n";
+    if (recipe.yield)
+        text += "Recipe yield: " + Numbers::Counted(*recipe.yield, "serving") + "\n";
     if (!serving.empty())
         text += "Serving size: " + serving + "\n";
-    text += "Total time: " + Numbers::Counted(recipe.prepTime, "minute") + "\n";
+    if (recipe.prepTime)
+        text += "Total time: " + Numbers::Counted(*recipe.prepTime, "minute") + "\n";
     if (const auto calories = recipe.PerServing(CaloriesPosition - 1))
         text += "Calories: " + Numbers::Whole(*calories) + " per serving\n";
     text += "\n" + Ingredients(recipe);
@@ -112,8 +114,9 @@ std::string MailOf(const Recipe& recipe, const Config& config) {
     mail += Header("From", "Halvane <" + config.mail_from + ">");
     mail += Header("To", "<" + recipe.to + ">");
     mail += Header("Reply-To", "<" + recipe.from + ">");
-    mail += Header("Subject",
-                   Encoded("A recipe for you: " + ShownText::Name(recipe.name, ShownText::InList)));
+    mail +=
+        Header("Subject", Encoded("A recipe for you: " +
+                                  ShownText::Name(recipe.name.value_or(""), ShownText::InList)));
     mail += Header("Message-ID", "<" + Secrets::RandomToken().substr(0, 32) + "@" + domain + ">");
     mail += Header("MIME-Version", "1.0");
     mail += Header("Content-Type", "text/plain; charset=utf-8");

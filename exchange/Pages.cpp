@@ -51,6 +51,10 @@ std::string Calories(const std::optional<double>& calories) {
     return calories ? Numbers::Whole(*calories) : "--";
 }
 
+std::string CountOf(const std::optional<double>& number, const std::string& one) {
+    return number ? Numbers::Counted(*number, one) : "--";
+}
+
 std::string NoteOf(const Listed& recipe) {
     std::vector<std::string> parts;
     const auto serving = ShownText::Line(recipe.servingName, ShownText::InList);
@@ -59,7 +63,8 @@ std::string NoteOf(const Listed& recipe) {
     if (recipe.calories)
         parts.push_back(Numbers::Counted(std::nearbyint(*recipe.calories), "calorie") +
                         " per serving");
-    parts.push_back(Numbers::Counted(recipe.prepTime, "minute"));
+    if (recipe.prepTime)
+        parts.push_back(Numbers::Counted(*recipe.prepTime, "minute"));
     return Join(parts, ", ");
 }
 
@@ -105,7 +110,7 @@ void SetPager(data& values, const ListPage& list, bool more) {
 data IngredientsOf(const Recipe& recipe) {
     data lines(data::type::list);
     for (const auto& ingredient : recipe.ingredients) {
-        const auto serving = ShownText::Line(ingredient.serving.value_or(""), ShownText::InCard);
+        const auto serving = ShownText::Line(ingredient.Portion().value_or(""), ShownText::InCard);
         data line;
         line.set("food", ShownText::Name(ingredient.foodName.value_or(""), ShownText::InCard));
         line.set("hasServing", !serving.empty());
@@ -127,7 +132,7 @@ std::string AmountOf(const Recipe& recipe, int nutrient) {
 
 data NutritionOf(const Recipe& recipe, bool large) {
     data lines(data::type::list);
-    for (int i = 0; i < NutrientCount; ++i) {
+    for (const int i : LabelOrder()) {
         const auto& column = NutrientColumns()[static_cast<size_t>(i)];
         if (column.large != large)
             continue;
@@ -177,13 +182,14 @@ std::string Community(const ListPage& list) {
 
 std::string RecipePage(const Recipe& recipe) {
     thread_local Template content(Assets::recipe);
-    const auto serving = ShownText::Line(recipe.servingName, ShownText::InCard);
-    const auto instructions = ShownText::Lines(recipe.instructions);
+    const auto serving = ShownText::Line(recipe.servingName.value_or(""), ShownText::InCard);
+    const auto instructions = ShownText::Lines(recipe.instructions.value_or(""));
+    const auto name = recipe.name.value_or("");
     data values;
-    values.set("name", ShownText::Name(recipe.name, ShownText::InCard));
+    values.set("name", ShownText::Name(name, ShownText::InCard));
     values.set("id", std::to_string(recipe.id));
-    values.set("yield", Numbers::Counted(recipe.yield, "serving"));
-    values.set("time", Numbers::Counted(recipe.prepTime, "minute"));
+    values.set("yield", CountOf(recipe.yield, "serving"));
+    values.set("time", CountOf(recipe.prepTime, "minute"));
     values.set("hasServing", !serving.empty());
     values.set("serving", serving);
     values.set("calories", Calories(recipe.PerServing(CaloriesPosition - 1)));
@@ -193,7 +199,7 @@ std::string RecipePage(const Recipe& recipe) {
     values.set("ingredients", IngredientsOf(recipe));
     values.set("large", NutritionOf(recipe, true));
     values.set("small", NutritionOf(recipe, false));
-    return Page(ShownText::Name(recipe.name, ShownText::InList), Place::Elsewhere, !recipe.isPublic,
+    return Page(ShownText::Name(name, ShownText::InList), Place::Elsewhere, !recipe.isPublic,
                 content.Fill(values));
 }
 

@@ -1,10 +1,20 @@
 #include "exchange/Recipe.h"
 
+#include "exchange/Numbers.h"
+
 #include <cmath>
 
 namespace exchange {
 namespace {
 constexpr double BeyondMeasure = 1e12;
+}
+
+std::optional<std::string> Ingredient::Portion() const {
+    if (quantity.value_or(1) == 1)
+        return serving;
+    if (serving.value_or("").empty())
+        return Numbers::Counted(*quantity, "serving");
+    return Numbers::Short(*quantity) + " x " + *serving;
 }
 
 std::optional<double> Recipe::PerServing(int nutrient) const {

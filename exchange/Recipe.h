@@ -15,22 +15,25 @@ struct Ingredient {
     std::optional<std::string> foodName;
     std::optional<std::string> serving;
     std::optional<double> quantity;
+
+    /// The serving as a cook reads it, with the quantity where that is not 1: "1.5 x 1 cup".
+    std::optional<std::string> Portion() const;
 };
 
-/// One row of `recipes`, as a sender gives it.
+/// One row of `recipes`, as a sender gives it: what he left empty stays empty.
 struct Recipe {
     int id = 0;
-    std::string name;
-    std::string servingName;
-    double yield = 0;
-    std::string instructions;
-    double prepTime = 0;
+    std::optional<std::string> name;
+    std::optional<std::string> servingName;
+    std::optional<double> yield;
+    std::optional<std::string> instructions;
+    std::optional<double> prepTime;
     std::string from;
     std::string to;
     bool isPublic = false;
     std::vector<Ingredient> ingredients;
 
-    double Servings() const { return yield == 0 ? 1 : yield; }
+    double Servings() const { return yield.value_or(0) == 0 ? 1 : *yield; }
     /// The sum over the ingredients by one serving; nothing if no ingredient has a value, or if the
     /// servings are so small that it is beyond all measure.
     std::optional<double> PerServing(int nutrient) const;

@@ -33,15 +33,10 @@ std::vector<Listed> Select(Connection& connection, const std::vector<std::string
     static const std::string statement = Statement(Count);
     std::vector<Listed> found;
     Listed row;
-    double calories = 0;
-    soci::indicator caloriesAre = soci::i_null;
-    const auto keep = [&] {
-        row.calories = caloriesAre == soci::i_ok ? std::optional(calories) : std::nullopt;
-        found.push_back(row);
-    };
+    const auto keep = [&] { found.push_back(row); };
     [&]<size_t... I>(std::index_sequence<I...>) {
         connection.Each(statement, keep, use(words[I])..., use(skip), into(row.id), into(row.name),
-                        into(row.servingName), into(row.prepTime), into(calories, caloriesAre),
+                        into(row.servingName), into(row.prepTime), into(row.calories),
                         into(row.listedAt));
     }
     (std::make_index_sequence<Count>());

@@ -4,6 +4,9 @@
 #include "exchange/Refusal.h"
 #include "exchange/Text.h"
 
+#include <algorithm>
+#include <numeric>
+
 namespace exchange::RecipeReader {
 namespace {
 constexpr size_t LongestAddress = 320;
@@ -13,7 +16,7 @@ constexpr size_t LongestAddress = 320;
 }
 
 /// Each takes a value into its place, or refuses it; null stands for a value that is not there.
-std::string TextOf(JsonValue&& value, std::string_view name) {
+std::optional<std::string> TextOf(JsonValue&& value, std::string_view name) {
     if (std::holds_alternative<std::nullptr_t>(value))
         return {};
     if (auto* text = std::get_if<std::string>(&value))
@@ -21,9 +24,9 @@ std::string TextOf(JsonValue&& value, std::string_view name) {
     Refuse(std::string(name) + " must be a text.");
 }
 
-double NumberOf(JsonValue&& value, std::string_view name) {
+std::optional<double> NumberOf(JsonValue&& value, std::string_view name) {
     if (std::holds_alternative<std::nullptr_t>(value))
-        return 0;
+        return {};
     if (const auto* number = std::get_if<double>(&value))
         return *number;
     Refuse(std::string(name) + " must be a number.");
@@ -38,7 +41,7 @@ bool TruthOf(JsonValue&& value, std::string_view name) {
 }
 
 std::string AddressOf(JsonValue&& value, std::string_view name) {
-    auto text = TextOf(std::move(value), name);
+    auto text = TextOf(std::move(value), name).value_or("");
     if (text.size() > LongestAddress)
         Refuse(std::string(name) + " is longer than " + std::to_string(LongestAddress) + " bytes.");
     if (!IsPlain(text))
@@ -61,7 +64,7 @@ template <auto Member> bool IsBlank(const Recipe& recipe) {
     return Trimmed(recipe.*Member).empty();
 }
 bool IsNameless(const Recipe& recipe) {
-    return recipe.name.empty();
+    return recipe.name == "";
 }
 
 constexpr Field Fields[] = {
@@ -97,77 +100,157 @@ private:
     std::string name_;
 };
 
-/// The body of ingredients: an object with an array of rows, each an array of values by position.
+/// Where the value of each of our positions stands in the rows of a body.
+using Places = std::array<size_t, FieldCount>;
+
+/// The order of programs that do not name their fields.
+Places UnnamedPlaces() {
+    Places places{};
+    std::iota(places.begin(), places.end(), size_t{0});
+    for (size_t i = 0; i < NutrientCount; ++i)
+        places[static_cast<size_t>(LabelOrder()[i]) + 1] = i + 1;
+    return places;
+}
+
+/// Each of our names must be there, in any case; as they are as many, no other is.
+Places NamedPlaces(const std::vector<JsonValue>& fields) {
+    Places places{};
+    for (size_t position = 0; position < FieldCount; ++position) {
+        const auto name = Upper(FieldNames()[position]);
+        const auto isOurs = [&](const JsonValue& field) {
+            const auto* text = std::get_if<std::string>(&field);
+            return text && Upper(*text) == name;
+        };
+        const auto found = std::find_if(fields.begin(), fields.end(), isOurs);
+        if (found == fields.end() || fields.size() != FieldCount)
+            Refuse("\"fields\" must be an array of the " + std::to_string(FieldCount) +
+                   " names of the fields.");
+        places[position] = static_cast<size_t>(found - fields.begin());
+    }
+    return places;
+}
+
+/// A place that is null or not there keeps nothing.
+Ingredient IngredientOf(std::vector<JsonValue>& row, const Places& places) {
+    static const auto names = FieldNames();
+    row.resize(FieldCount);
+    const auto take = [&](size_t position, auto& member, const auto& convert) {
+        member = convert(std::move(row[places[position]]), names[position]);
+    };
+    Ingredient ingredient;
+    for (size_t i = 0; i < NutrientCount; ++i)
+        take(i + 1, ingredient.nutrients[i], NumberOf);
+    take(FoodNamePosition, ingredient.foodName, TextOf);
+    take(ServingPosition, ingredient.serving, TextOf);
+    take(QuantityPosition, ingredient.quantity, NumberOf);
+    return ingredient;
+}
+
+/// The body of ingredients: an object with an array of rows, each an array of values. Beside them
+/// may stand the names of the fields, and the quantities, since programs leave the last position
+/// out of their rows. What a row means is known at the end: the names may come last.
 class RowsListener : public JsonListener {
 public:
     explicit RowsListener(int most)
         : most_(static_cast<size_t>(most)) {}
 
-    std::vector<Ingredient> ingredients;
-    bool anyRows = false;
+    std::vector<Ingredient> Ingredients() {
+        if (!rows_)
+            RefuseBody();
+        const auto places = fields_ ? NamedPlaces(*fields_) : UnnamedPlaces();
+        std::vector<Ingredient> ingredients;
+        for (auto& row : *rows_)
+            ingredients.push_back(IngredientOf(row, places));
+        TakeQuantities(ingredients);
+        return ingredients;
+    }
 
     void Key(int depth, std::string&& name) override {
         if (depth == 1)
-            inRows_ = name == "rows";
+            key_ = std::move(name);
     }
 
     void Value(int depth, JsonValue&& value) override {
-        if (depth == 0 || (depth == 1 && inRows_))
-            BeginBody(depth, value);
-        else if (depth == 2 && inRows_)
+        if (depth == 0 && value != JsonValue(JsonGroup::Object))
+            RefuseBody();
+        if (depth == 1)
+            Begin(value);
+        else if (depth == 2 && key_ == "rows")
             BeginRow(value);
-        else if (depth == 3 && inRows_)
-            TakeValue(std::move(value));
+        else if (depth == 2)
+            AddBeside(std::move(value));
+        else if (depth == 3 && key_ == "rows")
+            AddToRow(std::move(value));
     }
 
     void End(int depth) override {
-        if (depth == 2 && inRows_ && position_ == 0)
+        if (depth == 2 && key_ == "rows" && rows_->back().empty())
             RefuseRow();
     }
 
 private:
+    using Values = std::vector<JsonValue>;
+
+    [[noreturn]] static void RefuseBody() {
+        Refuse("The body must be an object with an array \"rows\".");
+    }
     [[noreturn]] static void RefuseRow() {
         Refuse("A row must be an array of 1 to " + std::to_string(FieldCount) + " values.");
     }
+    [[noreturn]] static void RefuseQuantities() {
+        Refuse("\"quantities\" must be an array with a number or null for each row.");
+    }
 
-    void BeginBody(int depth, const JsonValue& value) {
-        if (value != JsonValue(depth == 0 ? JsonGroup::Object : JsonGroup::Array))
-            Refuse("The body must be an object with an array \"rows\".");
-        anyRows = depth == 1;
-        ingredients.clear();
+    void Begin(const JsonValue& value) {
+        const bool isArray = value == JsonValue(JsonGroup::Array);
+        if (key_ == "rows" && !isArray)
+            RefuseBody();
+        if (key_ == "rows")
+            rows_.emplace();
+        else if (key_ == "fields")
+            fields_.emplace(isArray ? 0 : 1);
+        else if (key_ == "quantities" && isArray)
+            quantities_.emplace();
+        else if (key_ == "quantities" && !std::holds_alternative<std::nullptr_t>(value))
+            RefuseQuantities();
     }
 
     void BeginRow(const JsonValue& value) {
         if (value != JsonValue(JsonGroup::Array))
             RefuseRow();
-        if (ingredients.size() == most_)
+        if (rows_->size() == most_)
             throw Refusal(413, "A recipe takes " + std::to_string(most_) + " ingredients at most.");
-        ingredients.emplace_back();
-        position_ = 0;
+        rows_->emplace_back();
     }
 
-    /// A position that is null or not there keeps nothing.
-    void TakeValue(JsonValue&& value) {
-        const auto position = position_++;
-        if (position >= FieldCount)
+    void AddToRow(JsonValue&& value) {
+        if (rows_->back().size() == FieldCount)
             RefuseRow();
-        if (std::holds_alternative<std::nullptr_t>(value))
+        rows_->back().push_back(std::move(value));
+    }
+
+    void AddBeside(JsonValue&& value) {
+        if (key_ == "fields" && fields_->size() <= FieldCount)
+            fields_->push_back(std::move(value));
+        if (key_ == "quantities" && quantities_ && quantities_->size() <= most_)
+            quantities_->push_back(std::move(value));
+    }
+
+    void TakeQuantities(std::vector<Ingredient>& ingredients) {
+        if (!quantities_)
             return;
-        static const auto names = FieldNames();
-        auto& row = ingredients.back();
-        if (position >= 1 && position <= NutrientCount)
-            row.nutrients[position - 1] = NumberOf(std::move(value), names[position]);
-        else if (position == FoodNamePosition)
-            row.foodName = TextOf(std::move(value), names[position]);
-        else if (position == ServingPosition)
-            row.serving = TextOf(std::move(value), names[position]);
-        else if (position == QuantityPosition)
-            row.quantity = NumberOf(std::move(value), names[position]);
+        if (quantities_->size() != ingredients.size())
+            RefuseQuantities();
+        for (size_t i = 0; i < ingredients.size(); ++i)
+            if (const auto quantity = NumberOf(std::move((*quantities_)[i]), "A quantity"))
+                ingredients[i].quantity = quantity;
     }
 
     size_t most_;
-    bool inRows_ = false;
-    size_t position_ = 0;
+    std::string key_;
+    std::optional<std::vector<Values>> rows_;
+    std::optional<Values> fields_;
+    std::optional<Values> quantities_;
 };
 } // namespace
 
@@ -183,9 +266,7 @@ Recipe ReadRecipe(const std::string& body) {
 std::vector<Ingredient> ReadIngredients(const std::string& body, int most) {
     RowsListener listener(most);
     JsonReader::Read(body, listener);
-    if (!listener.anyRows)
-        Refuse("The body must be an object with an array \"rows\".");
-    return std::move(listener.ingredients);
+    return listener.Ingredients();
 }
 
 } // namespace exchange::RecipeReader

@@ -45,55 +45,18 @@ std::string SelectIngredients() {
     return "SELECT " + columns + " FROM ingredients WHERE RecipeID = :id ORDER BY ID";
 }
 
-/// One row of `ingredients` in variables that a statement can be bound to.
-struct BoundRow {
-    double nutrients[NutrientCount] = {};
-    soci::indicator nutrientsAre[NutrientCount] = {};
-    std::string foodName;
-    std::string serving;
-    double quantity = 0;
-    soci::indicator foodNameIs = soci::i_null;
-    soci::indicator servingIs = soci::i_null;
-    soci::indicator quantityIs = soci::i_null;
-
-    template <class T>
-    static void Put(const std::optional<T>& value, T& variable, soci::indicator& is) {
-        is = value ? soci::i_ok : soci::i_null;
-        variable = value.value_or(T());
-    }
-    template <class T> static std::optional<T> Get(const T& variable, soci::indicator is) {
-        return is == soci::i_null ? std::nullopt : std::optional<T>(variable);
-    }
-
-    template <class Change>
-    static std::optional<std::string> Map(const std::optional<std::string>& text,
-                                          const Change& change) {
-        return text ? std::optional(change(*text)) : std::nullopt;
-    }
-
-    void Put(const Ingredient& row) {
-        for (size_t i = 0; i < NutrientCount; ++i)
-            Put(row.nutrients[i], nutrients[i], nutrientsAre[i]);
-        Put(Map(row.foodName, StoredText::Of), foodName, foodNameIs);
-        Put(Map(row.serving, StoredText::Of), serving, servingIs);
-        Put(row.quantity, quantity, quantityIs);
-    }
-
-    Ingredient Get() const {
-        Ingredient row;
-        for (size_t i = 0; i < NutrientCount; ++i)
-            row.nutrients[i] = Get(nutrients[i], nutrientsAre[i]);
-        row.foodName = Map(Get(foodName, foodNameIs), StoredText::Read);
-        row.serving = Map(Get(serving, servingIs), StoredText::Read);
-        row.quantity = Get(quantity, quantityIs);
-        return row;
-    }
-};
-
-/// Changes each text of a recipe that may hold any letter, on its way into its row and back.
-void EachText(Recipe& recipe, std::string (*change)(std::string_view)) {
-    for (auto* text : {&recipe.name, &recipe.servingName, &recipe.instructions})
-        *text = change(*text);
+/// Changes each text that may hold any letter, on its way into its row and back.
+using ChangeOfText = std::string (*)(std::string_view);
+void EachText(std::initializer_list<std::optional<std::string>*> texts, ChangeOfText change) {
+    for (auto* text : texts)
+        if (*text)
+            *text = change(**text);
+}
+void EachText(Recipe& recipe, ChangeOfText change) {
+    EachText({&recipe.name, &recipe.servingName, &recipe.instructions}, change);
+}
+void EachText(Ingredient& row, ChangeOfText change) {
+    EachText({&row.foodName, &row.serving}, change);
 }
 } // namespace
 
@@ -115,14 +78,11 @@ RecipeStore::Created RecipeStore::Create(Recipe recipe) {
 
 void RecipeStore::InsertRows(int id, int firstID, const std::vector<Ingredient>& rows) {
     static const std::string insert = InsertIngredient();
-    BoundRow bound;
-    for (const auto& row : rows) {
-        bound.Put(row);
+    for (auto row : rows) {
+        EachText(row, StoredText::Of);
         [&]<size_t... I>(std::index_sequence<I...>) {
-            connection_.Change(
-                insert, use(firstID), use(bound.nutrients[I], bound.nutrientsAre[I])...,
-                use(bound.foodName, bound.foodNameIs), use(bound.serving, bound.servingIs), use(id),
-                use(bound.quantity, bound.quantityIs));
+            connection_.Change(insert, use(firstID), use(row.nutrients[I])..., use(row.foodName),
+                               use(row.serving), use(id), use(row.quantity));
         }
         (std::make_index_sequence<NutrientCount>());
         ++firstID;
@@ -181,13 +141,11 @@ std::optional<Recipe> RecipeStore::ReadRow(int id) {
 
 void RecipeStore::ReadIngredients(Recipe& recipe) {
     static const std::string select = SelectIngredients();
-    BoundRow bound;
-    const auto keep = [&] { recipe.ingredients.push_back(bound.Get()); };
+    Ingredient row;
+    const auto keep = [&] { EachText(recipe.ingredients.emplace_back(row), StoredText::Read); };
     [&]<size_t... I>(std::index_sequence<I...>) {
-        connection_.Each(
-            select, keep, use(recipe.id), into(bound.nutrients[I], bound.nutrientsAre[I])...,
-            into(bound.foodName, bound.foodNameIs), into(bound.serving, bound.servingIs),
-            into(bound.quantity, bound.quantityIs));
+        connection_.Each(select, keep, use(recipe.id), into(row.nutrients[I])...,
+                         into(row.foodName), into(row.serving), into(row.quantity));
     }
     (std::make_index_sequence<NutrientCount>());
 }
@@ -211,7 +169,7 @@ std::optional<Recipe> RecipeStore::Finish(int id) {
     ReadIngredients(*recipe);
     const auto document = Documents::RecipeDocument(*recipe);
     const auto ingredients = Documents::IngredientsDocument(*recipe);
-    connection_.Change("INSERT INTO documents (RecipeID, Recipe, Ingredients)"
+    connection_.Change("INSERT INTO documents (RecipeID, RecipeText, IngredientsText)"
                        " VALUES (:id, :recipe, :ingredients)",
                        use(id), use(document), use(ingredients));
     if (recipe->isPublic)
@@ -221,15 +179,13 @@ std::optional<Recipe> RecipeStore::Finish(int id) {
 }
 
 void RecipeStore::Publish(const Recipe& recipe, long long now) {
-    double calories = 0;
-    soci::indicator caloriesAre = soci::i_null;
-    BoundRow::Put(recipe.PerServing(CaloriesPosition - 1), calories, caloriesAre);
-    const auto name = ShownText::Name(recipe.name, ShownText::InList);
-    const auto serving = ShownText::Line(recipe.servingName, ShownText::InList);
+    const auto calories = recipe.PerServing(CaloriesPosition - 1);
+    const auto name = ShownText::Name(recipe.name.value_or(""), ShownText::InList);
+    const auto serving = ShownText::Line(recipe.servingName.value_or(""), ShownText::InList);
     connection_.Change("INSERT INTO listing (ListedAt, RecipeID, RecipeName, ServingName, PrepTime,"
                        " Calories) VALUES (:now, :id, :name, :serving, :time, :calories)",
                        use(now), use(recipe.id), use(name), use(serving), use(recipe.prepTime),
-                       use(calories, caloriesAre));
+                       use(calories));
     for (const auto& word : Words::Of(recipe))
         connection_.Change("INSERT INTO words (Word, ListedAt, RecipeID) VALUES (:w, :now, :id)",
                            use(word), use(now), use(recipe.id));
@@ -243,21 +199,16 @@ void RecipeStore::NoteMailed(int id) {
 
 RecipeStore::Document RecipeStore::Read(int id, Part part, const Counter& misses) {
     constexpr const char* recipe =
-        "SELECT (SELECT Recipe FROM documents WHERE RecipeID = :id),"
+        "SELECT (SELECT RecipeText FROM documents WHERE RecipeID = :id),"
         " (SELECT Hits FROM counters WHERE Name = :name AND Slot = :slot)";
     constexpr const char* ingredients =
-        "SELECT (SELECT Ingredients FROM documents WHERE RecipeID = :id),"
+        "SELECT (SELECT IngredientsText FROM documents WHERE RecipeID = :id),"
         " (SELECT Hits FROM counters WHERE Name = :name AND Slot = :slot)";
-    std::string text;
-    int hits = 0;
-    soci::indicator textIs = soci::i_null;
-    soci::indicator hitsAre = soci::i_null;
-    connection_.First(part == Part::Recipe ? recipe : ingredients, use(id), use(misses.name),
-                      use(misses.slot), into(text, textIs), into(hits, hitsAre));
     Document document;
-    if (textIs == soci::i_ok)
-        document.text = std::move(text);
-    document.hits = hitsAre == soci::i_ok ? hits : 0;
+    std::optional<int> hits;
+    connection_.First(part == Part::Recipe ? recipe : ingredients, use(id), use(misses.name),
+                      use(misses.slot), into(document.text), into(hits));
+    document.hits = hits.value_or(0);
     return document;
 }
 

@@ -15,7 +15,7 @@ struct Listed {
     int id = 0;
     std::string name;
     std::string servingName;
-    double prepTime = 0;
+    std::optional<double> prepTime;
     std::optional<double> calories;
     long long listedAt = 0;
 };

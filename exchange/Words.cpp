@@ -61,7 +61,7 @@ std::vector<std::string> Of(std::string_view text) {
 
 std::vector<std::string> Of(const Recipe& recipe) {
     std::vector<std::string> words;
-    Collect(recipe.name, words);
+    Collect(recipe.name.value_or(""), words);
     for (const auto& ingredient : recipe.ingredients)
         Collect(ingredient.foodName.value_or(""), words);
     words.resize(std::min(words.size(), MostOfARecipe));

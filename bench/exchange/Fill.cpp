@@ -91,7 +91,7 @@ std::vector<std::string> Copies() {
             "INSERT INTO ingredients SELECT ID, " + NutrientList() +
                 "FoodName, Serving, Place + @, QTY FROM fill"
                 " JOIN ingredients ON ingredients.RecipeID = fill.RecipeID",
-            "INSERT INTO documents SELECT Place + @, Recipe, Ingredients FROM fill"
+            "INSERT INTO documents SELECT Place + @, RecipeText, IngredientsText FROM fill"
             " JOIN documents ON documents.RecipeID = fill.RecipeID",
             "INSERT INTO listing SELECT ListedAt - @, Place + @, RecipeName, ServingName, PrepTime,"
             " Calories FROM fill JOIN listing ON listing.RecipeID = fill.RecipeID",

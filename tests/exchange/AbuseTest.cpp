@@ -260,7 +260,7 @@ protected:
                    " CAST(SUM(IngredientCount) AS TEXT) || ' ' || CAST(SUM(SentAt) AS TEXT) || ' '"
                    " || CAST(SUM(MailedAt) AS TEXT) FROM recipes") +
                Cell("SELECT ' ' || CAST(COUNT(*) AS TEXT) FROM ingredients") +
-               Cell("SELECT ' ' || MAX(Recipe) || MAX(Ingredients) FROM documents") +
+               Cell("SELECT ' ' || MAX(RecipeText) || MAX(IngredientsText) FROM documents") +
                Cell("SELECT ' ' || CAST(COUNT(*) AS TEXT) FROM listing") +
                Cell("SELECT ' ' || CAST(COUNT(*) AS TEXT) FROM words");
     }

@@ -1,5 +1,7 @@
 #include "support/ExchangeTest.h"
 
+#include "exchange/Columns.h"
+
 const std::string& ExchangeTest::Database() {
     if (database_.empty())
         database_ = OnServer() ? Cluster::One().CreateDatabase() : folder_ / "exchange.db";
@@ -43,9 +45,10 @@ nlohmann::json ExchangeTest::Soup(bool isPublic) {
 }
 
 nlohmann::json ExchangeTest::Row(double calories, const std::string& food) {
-    auto row = json::array({nullptr, calories});
-    for (int position = 2; position <= 31; ++position)
+    auto row = json::array({nullptr});
+    for (int position = 1; position <= exchange::NutrientCount; ++position)
         row.push_back(position + 0.25);
+    row[exchange::CaloriesPosition] = calories;
     row.push_back(food);
     row.push_back("1 cup");
     return row;
@@ -63,7 +66,7 @@ ExchangeTest::Created ExchangeTest::Create(const json& recipe) {
 
 void ExchangeTest::Add(const Created& recipe, const json& rows) {
     const auto reply = Post("/halvane/api/recipes/" + std::to_string(recipe.id) + "/ingredients",
-                            {{"rows", rows}}, recipe.token);
+                            {{"fields", exchange::FieldNames()}, {"rows", rows}}, recipe.token);
     ASSERT_TRUE(reply);
     EXPECT_EQ(reply->status, 201) << reply->body;
 }

@@ -29,6 +29,7 @@ protected:
     std::string Text(const std::string& path); ///< the body of a reply with status 200
 
     static json Soup(bool isPublic = true);
+    /// By position up to the serving, without a quantity.
     static json Row(double calories, const std::string& food = "Lentils, raw");
     Created Create(const json& recipe = Soup());
     void Add(const Created& recipe, const json& rows);
