@@ -35,6 +35,8 @@ const Setting Settings[] = {
     {"database", &Config::database},
     {"public_url", &Config::public_url},
     {"trusted_proxies", &Config::trusted_proxies},
+    {"secret", &Config::secret},
+    {"secret_file", &Config::secret_file},
     {"workers", Range{&Config::workers, 1, 256}},
     {"connections", Range{&Config::connections, 1, 100'000}},
     {"connections_per_client", Range{&Config::connections_per_client, 1, 100'000}},
@@ -48,6 +50,7 @@ const Setting Settings[] = {
     {"mail_tls", Choice{&Config::mail_tls, {"required", "tried", "none"}}},
     {"mail_seconds", Range{&Config::mail_seconds, 1, 25}},
     {"body_bytes", Range{&Config::body_bytes, 1024, 64 << 20}},
+    {"bodies_bytes", Range{&Config::bodies_bytes, 1 << 20, 1 << 30}},
     {"ingredients_per_recipe", Range{&Config::ingredients_per_recipe, 1, 10'000}},
     {"recipes_per_client_day", Range{&Config::recipes_per_client_day, 0, Many}},
     {"recipes_per_day", Range{&Config::recipes_per_day, 0, Many}},
@@ -132,14 +135,10 @@ void ReadEnvironment(Config& config) {
             Set(config, setting.name, value);
 }
 
-/// In the way in which clients are named, so that one is found among them.
-void SettleProxies(Config& config) {
-    for (auto& proxy : config.trusted_proxies) {
-        const auto address = NetworkAddress::Canonical(proxy);
-        if (!address)
+void CheckProxies(const Config& config) {
+    for (const auto& proxy : config.trusted_proxies)
+        if (!Network::Read(proxy))
             throw ConfigError("trusted_proxies must be network addresses, not \"" + proxy + "\"");
-        proxy = *address;
-    }
 }
 
 void CheckDatabase(const Config& config) {
@@ -164,7 +163,7 @@ Config Config::Read(const std::string& file) {
     ReadEnvironment(config);
     while (config.public_url.ends_with('/'))
         config.public_url.pop_back();
-    SettleProxies(config);
+    CheckProxies(config);
     CheckDatabase(config);
     CheckMail(config);
     return config;

@@ -20,6 +20,8 @@ struct Config {
     std::string database = "exchange.db";
     std::string public_url;
     std::vector<std::string> trusted_proxies;
+    std::string secret;
+    std::string secret_file = "exchange.secret";
     int workers = 8;
     int connections = 1000;
     int connections_per_client = 64;
@@ -35,6 +37,7 @@ struct Config {
     int mail_seconds = 15;
 
     int body_bytes = 1 << 20;
+    int bodies_bytes = 128 << 20;
     int ingredients_per_recipe = 500;
     int recipes_per_client_day = 100;
     int recipes_per_day = 20000;

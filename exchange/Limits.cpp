@@ -5,20 +5,16 @@
 
 namespace exchange {
 
-std::string Limits::ReadSalt(Connection& connection) {
-    std::string salt;
-    connection.First("SELECT Value FROM settings WHERE Name = 'salt'", soci::into(salt));
-    return salt;
-}
-
+namespace {
 /// A slot is the number of the hour that its span begins with.
-Counter Limits::Make(std::string_view what, std::string_view who, int hours) const {
+Counter Make(std::string_view what, std::string_view digest, int hours) {
     const auto hour = Moment::Now() / Moment::Hour;
     std::string name(what);
-    if (!who.empty())
-        name.append(":").append(Secrets::Digest(salt_ + std::string(who)), 0, 41);
+    if (!digest.empty())
+        name.append(":").append(digest);
     return {name, hour - hour % hours};
 }
+} // namespace
 
 Counter Limits::Hourly(std::string_view what, const Visitor& visitor) const {
     return Make(what, visitor.networks.front(), 1);
@@ -29,7 +25,7 @@ Counter Limits::Daily(std::string_view what, const Visitor& visitor) const {
 }
 
 Counter Limits::Daily(std::string_view what, std::string_view who) const {
-    return Make(what, who, 24);
+    return Make(what, who.empty() ? std::string() : Secrets::Keyed(secret_, who), 24);
 }
 
 bool Limits::Count(Connection& connection, const Counter& counter, int limit) {

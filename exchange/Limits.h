@@ -9,7 +9,7 @@
 namespace exchange {
 
 /// One thing that is counted for somebody, in an hour or a day by the clock (UTC). Who it is stands
-/// in the name as a salted digest only.
+/// in the name as a keyed digest only.
 struct Counter {
     std::string name;
     long long slot;
@@ -19,10 +19,8 @@ struct Counter {
 /// that all servers on it count together.
 class Limits {
 public:
-    /// The salt is drawn once for a database, by its first server.
-    explicit Limits(std::string salt)
-        : salt_(std::move(salt)) {}
-    static std::string ReadSalt(Connection& connection);
+    explicit Limits(std::string secret)
+        : secret_(std::move(secret)) {}
 
     Counter Hourly(std::string_view what, const Visitor& visitor) const;
     Counter Daily(std::string_view what, const Visitor& visitor) const;
@@ -39,8 +37,7 @@ public:
     static void ForgetOld(Connection& connection);
 
 private:
-    Counter Make(std::string_view what, std::string_view who, int hours) const;
-    std::string salt_;
+    std::string secret_;
 };
 
 } // namespace exchange

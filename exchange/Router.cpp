@@ -2,30 +2,63 @@
 
 #include "exchange/Connection.h"
 #include "exchange/Log.h"
-#include "exchange/Moment.h"
 #include "exchange/Refusal.h"
 #include "exchange/Text.h"
-
-#include <chrono>
 
 namespace exchange {
 namespace {
 constexpr std::string_view Number = "{id}";
 
-/// Safe for every reply; a handler may replace one of its own.
-constexpr std::pair<const char*, const char*> Headers[] = {
-    {"Content-Security-Policy", "default-src 'none'; style-src 'self'; img-src 'self'; form-action"
-                                " 'self'; base-uri 'none'; frame-ancestors 'none'"},
-    {"X-Content-Type-Options", "nosniff"},
-    {"X-Frame-Options", "DENY"},
-    {"Referrer-Policy", "no-referrer"},
-    {"Cross-Origin-Resource-Policy", "same-origin"},
-    {"Accept-Ranges", "none"},
+struct Sentence {
+    int status;
+    const char* text;
 };
+constexpr Sentence Sentences[] = {
+    {408, "The request did not arrive in time."},
+    {411, "A body must come with its length."},
+    {413, "The body is too large."},
+    {414, "The address is too long."},
+    {415, "The body must come unpacked."},
+    {417, "A body must come without waiting to be invited."},
+    {431, "The head of the request is too large."},
+    {503, "The service is not available just now."},
+};
+
+std::string SentenceFor(int status) {
+    for (const auto& sentence : Sentences)
+        if (sentence.status == status)
+            return sentence.text;
+    return "The request cannot be understood.";
+}
+
+/// The type alone, without its parameters.
+std::string TypeOf(const Request& request) {
+    const auto type = request.Header("content-type");
+    return Lower(Trimmed(type.substr(0, type.find(';'))));
+}
+
+bool IsRead(const std::string& method) {
+    return method == "GET" || method == "HEAD";
+}
+
+/// A browser says of a request whether a page of another site made it. Such a page may lead people
+/// here, but not have them change anything.
+void RefuseForeign(const Request& request, const RouteTerms& terms) {
+    if (terms.changes && request.Header("sec-fetch-site") == "cross-site")
+        throw Refusal(403, "This address cannot be used from a page of another site.");
+}
+
+/// A form of another site can send few types only, and the right one is not among them.
+void RefuseOtherTypes(const Request& request, const RouteTerms& terms) {
+    if (!IsRead(request.method) && TypeOf(request) != terms.body)
+        throw Refusal(415, "The body must be " + terms.body + ".");
+}
 } // namespace
 
-void Router::Add(const std::string& method, const std::string& pattern, Handler handler) {
-    Route route{method, pattern, pattern, std::nullopt, std::move(handler)};
+void Router::Add(const std::string& method, const std::string& pattern, Handler handler,
+                 RouteTerms terms) {
+    terms.changes = terms.changes || !IsRead(method);
+    Route route{method, pattern, pattern, std::nullopt, std::move(handler), std::move(terms)};
     const auto number = pattern.find(Number);
     if (number != std::string::npos) {
         route.before = pattern.substr(0, number);
@@ -46,56 +79,56 @@ bool Router::Route::Matches(const std::string& path, std::optional<int>& id) con
     return id.has_value();
 }
 
-const Router::Route* Router::Find(const Request& request, std::optional<int>& id,
-                                  std::string& allowed) const {
-    const auto& method = request.method == "HEAD" ? std::string("GET") : request.method;
-    for (const auto& route : routes_)
-        if (route.Matches(request.path, id)) {
-            if (route.method == method)
-                return &route;
-            allowed.append(allowed.empty() ? "" : ", ");
-            allowed.append(route.method == "GET" ? "GET, HEAD" : route.method);
+Router::Match Router::Find(const Request& request) const {
+    Match match;
+    const auto method = request.method == "HEAD" ? "GET" : std::string_view(request.method);
+    for (const auto& route : routes_) {
+        if (!route.Matches(request.path, match.id))
+            continue;
+        if (route.method == method) {
+            match.route = &route;
+            match.lane = route.terms.lane;
+            return match;
         }
-    return nullptr;
+        match.allowed.append(match.allowed.empty() ? "" : ", ");
+        match.allowed.append(route.method == "GET" ? "GET, HEAD" : route.method);
+    }
+    return match;
 }
 
-void Router::Run(const Route& route, const Ask& ask, Reply& reply) const {
+void Router::Run(const Match& match, const Ask& ask, Reply& reply) const {
     try {
-        reply.status = 200;
-        route.handler(ask, reply);
+        RefuseForeign(ask.request, match.route->terms);
+        RefuseOtherTypes(ask.request, match.route->terms);
+        match.route->handler(ask, reply);
     } catch (const Refusal& refusal) {
         if (refusal.Status() == 429)
             reply.SetHeader("Retry-After", "3600");
         failure_(ask.request, reply, refusal.Status(), refusal.what());
     } catch (const std::exception& error) {
         const auto what = Connection::Describe(error);
-        Log::Error("failure", {{"route", route.pattern}, {"what", what}});
-        failure_(ask.request, reply, 503, "The service is not available just now.");
+        Log::Error("failure", {{"route", match.Name()}, {"what", what}});
+        failure_(ask.request, reply, 503, SentenceFor(503));
     }
 }
 
-void Router::Answer(const Request& request, Reply& reply) const {
-    const auto begin = std::chrono::steady_clock::now();
-    for (const auto& [name, value] : Headers)
-        reply.SetHeader(name, value);
-    reply.SetHeader("Date", Moment::Written("%a, %d %b %Y %H:%M:%S GMT"));
-    std::optional<int> id;
-    std::string allowed;
-    const auto* route = Find(request, id, allowed);
-    if (route) {
-        Run(*route, {request, id, VisitorOf(request, config_)}, reply);
-    } else if (!allowed.empty()) {
-        reply.SetHeader("Allow", allowed);
+Reply Router::Answer(const Match& match, const Request& request, const Visitor& visitor) const {
+    Reply reply;
+    if (match.route) {
+        Run(match, {request, match.id, visitor}, reply);
+    } else if (!match.allowed.empty()) {
+        reply.SetHeader("Allow", match.allowed);
         failure_(request, reply, 405, "This address does not take that method.");
     } else {
         failure_(request, reply, 404, "There is nothing at this address.");
     }
-    if (!config_.log_requests)
-        return;
-    const std::chrono::duration<double, std::milli> took = std::chrono::steady_clock::now() - begin;
-    Log::Info("request", {{"route", route ? std::string_view(route->pattern) : "none"},
-                          {"status", reply.status},
-                          {"ms", took.count()}});
+    return reply;
+}
+
+Reply Router::Refused(const Request& request, int status) const {
+    Reply reply;
+    failure_(request, reply, status, SentenceFor(status));
+    return reply;
 }
 
 } // namespace exchange

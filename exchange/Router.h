@@ -1,6 +1,5 @@
 #pragma once
 
-#include "exchange/Config.h"
 #include "exchange/Http.h"
 #include "exchange/Visitor.h"
 
@@ -16,7 +15,17 @@ namespace exchange {
 struct Ask {
     const Request& request;
     std::optional<int> id;
-    Visitor visitor;
+    const Visitor& visitor;
+};
+
+/// Where a handler runs: on the thread of the connections if it never waits, otherwise on a worker;
+/// what watches the service has a thread of its own.
+enum class Lane { Here, Workers, Watch };
+
+struct RouteTerms {
+    Lane lane = Lane::Workers;
+    bool changes = false; ///< a GET that changes something, as every other method does
+    std::string body = "application/json"; ///< the only type of a body that is taken
 };
 
 /// Finds the handler of a request by method and path, and answers what no handler takes. A pattern
@@ -28,13 +37,6 @@ public:
     using Failure =
         std::function<void(const Request&, Reply&, int status, const std::string& reason)>;
 
-    Router(const Config& config, Failure failure)
-        : config_(config)
-        , failure_(std::move(failure)) {}
-
-    void Add(const std::string& method, const std::string& pattern, Handler handler);
-    void Answer(const Request& request, Reply& reply) const;
-
 private:
     struct Route {
         std::string method;
@@ -42,15 +44,36 @@ private:
         std::string before;
         std::optional<std::string> after;
         Handler handler;
+        RouteTerms terms;
 
         bool Matches(const std::string& path, std::optional<int>& id) const;
     };
 
-    /// Nothing if no route takes the request; `allowed` are the methods that its path takes then.
-    const Route* Find(const Request& request, std::optional<int>& id, std::string& allowed) const;
-    void Run(const Route& route, const Ask& ask, Reply& reply) const;
+public:
+    /// What takes a request: nothing, or a route.
+    struct Match {
+        const Route* route = nullptr;
+        std::optional<int> id;
+        std::string allowed; ///< the methods that the path takes, if it takes others
+        Lane lane = Lane::Here;
 
-    const Config& config_;
+        std::string_view Name() const { return route ? std::string_view(route->pattern) : "none"; }
+    };
+
+    explicit Router(Failure failure)
+        : failure_(std::move(failure)) {}
+
+    void Add(const std::string& method, const std::string& pattern, Handler handler,
+             RouteTerms terms = {});
+
+    Match Find(const Request& request) const;
+    Reply Answer(const Match& match, const Request& request, const Visitor& visitor) const;
+    /// The reply to what is refused before any handler sees it.
+    Reply Refused(const Request& request, int status) const;
+
+private:
+    void Run(const Match& match, const Ask& ask, Reply& reply) const;
+
     Failure failure_;
     std::vector<Route> routes_;
 };

@@ -17,15 +17,18 @@ std::string NotAnAddress(const std::string& whose) {
 } // namespace
 
 void Sending::AddTo(Router& router) {
-    router.Add("GET", "/halvane/sendrecipe.asp", [this](const Ask& ask, auto& reply) {
-        const auto id = WholeNumber(ask.request.Param("recID"), 2, 0x7fffffff);
-        const auto outcome = ask.request.method == "GET" && id
-                                 ? Send(*id, ask.visitor)
-                                 : Outcome{404, "There is no recipe to send under this ID."};
-        reply.status = outcome.status;
-        reply.SetHeader("Cache-Control", "no-store");
-        reply.SetContent(outcome.sentence, "text/plain; charset=utf-8");
-    });
+    router.Add("GET", "/halvane/sendrecipe.asp",
+               [this](const Ask& ask, auto& reply) {
+                   const auto id = WholeNumber(ask.request.Param("recID"), 2, 0x7fffffff);
+                   const auto outcome =
+                       ask.request.method == "GET" && id
+                           ? Send(*id, ask.visitor)
+                           : Outcome{404, "There is no recipe to send under this ID."};
+                   reply.status = outcome.status;
+                   reply.SetHeader("Cache-Control", "no-store");
+                   reply.SetContent(outcome.sentence, "text/plain; charset=utf-8");
+               },
+               {.changes = true});
 }
 
 Sending::Outcome Sending::Send(int id, const Visitor& visitor) const {

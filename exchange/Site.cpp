@@ -20,6 +20,12 @@ Router::Handler File(const std::string& text, const char* type) {
     };
 }
 
+/// What is asked for where no address was understood gets the reason in the same manner.
+bool IsForPrograms(const std::string& path) {
+    return path.empty() || path == "/health" || path == "/ready" ||
+           path.starts_with("/halvane/api/");
+}
+
 Pages::ListPage ReadListPage(const Request& request) {
     Pages::ListPage list;
     list.query = Trimmed(request.Param("q"));
@@ -52,20 +58,23 @@ void Site::AddPages(Router& router) {
 }
 
 void Site::AddFiles(Router& router) {
-    router.Add("GET", "/halvane/style.css", File(Assets::style, "text/css; charset=utf-8"));
-    router.Add("GET", "/halvane/logo.svg", File(Assets::logo, "image/svg+xml"));
-    router.Add("GET", "/favicon.ico", File(Assets::logo, "image/svg+xml"));
+    const RouteTerms here{.lane = Lane::Here};
+    router.Add("GET", "/halvane/style.css", File(Assets::style, "text/css; charset=utf-8"), here);
+    router.Add("GET", "/halvane/logo.svg", File(Assets::logo, "image/svg+xml"), here);
+    router.Add("GET", "/favicon.ico", File(Assets::logo, "image/svg+xml"), here);
 }
 
 void Site::AddWatches(Router& router) {
-    router.Add("GET", "/health", [](const Ask&, Reply& reply) {
+    const auto health = [](const Ask&, Reply& reply) {
         reply.SetContent("{\"healthy\":true}", "application/json");
-    });
-    router.Add("GET", "/ready", [this](const Ask&, Reply& reply) {
+    };
+    const auto ready = [this](const Ask&, Reply& reply) {
         const Pool::Lease lease(service_.pool);
         Schema::Check(*lease);
         reply.SetContent("{\"ready\":true}", "application/json");
-    });
+    };
+    router.Add("GET", "/health", health, {.lane = Lane::Here});
+    router.Add("GET", "/ready", ready, {.lane = Lane::Watch});
 }
 
 void Site::Community(const Ask& ask, Reply& reply) const {
@@ -104,7 +113,7 @@ void Site::RecipePage(const Ask& ask, Reply& reply) const {
 
 void Site::Fail(const Request& request, Reply& reply, int status, const std::string& reason) {
     reply.status = status;
-    if (request.path.starts_with("/halvane/api/"))
+    if (IsForPrograms(request.path))
         reply.SetContent(Json::Reason(reason), "application/json");
     else if (request.path == "/halvane/sendrecipe.asp")
         reply.SetContent(reason, "text/plain; charset=utf-8");

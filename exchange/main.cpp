@@ -1,8 +1,9 @@
 #include "exchange/Api.h"
+#include "exchange/Front.h"
 #include "exchange/Housekeeping.h"
 #include "exchange/Log.h"
-#include "exchange/Reception.h"
 #include "exchange/Schema.h"
+#include "exchange/SecretFile.h"
 #include "exchange/Sending.h"
 #include "exchange/Site.h"
 #include "exchange/Text.h"
@@ -63,7 +64,7 @@ sigset_t HoldSignals() {
 /// A connection takes a descriptor, and so does what a worker has open of the database.
 void ClaimDescriptors(const Config& config) {
     const auto wanted =
-        static_cast<rlim_t>(config.connections) + 8 * static_cast<rlim_t>(config.workers) + 64;
+        static_cast<rlim_t>(config.connections) + 8 * static_cast<rlim_t>(config.workers) + 192;
     rlimit limit{};
     getrlimit(RLIMIT_NOFILE, &limit);
     if (limit.rlim_max < wanted)
@@ -91,36 +92,34 @@ void BringUpToDate(Pool& pool) {
     }
 }
 
-std::string Prepare(Pool& pool) {
-    BringUpToDate(pool);
-    const Pool::Lease lease(pool);
-    return Limits::ReadSalt(*lease);
+std::string SecretOf(const Config& config) {
+    return config.secret.empty() ? SecretFile::Read(config.secret_file) : config.secret;
 }
 
 void Serve(const Config& config, Pool& pool) {
     const auto ends = HoldSignals();
     ClaimDescriptors(config);
-    const Limits limits(Prepare(pool));
+    const auto secret = SecretOf(config);
+    BringUpToDate(pool);
+    const Limits limits(secret);
+    const Visitors visitors(config, secret);
     const Mailer mailer(config);
     const Service service{config, pool, limits, mailer};
     Api api(service);
     Sending sending(service);
     Site site(service);
-    Router router(config, Site::Fail);
+    Router router(Site::Fail);
     api.AddTo(router);
     sending.AddTo(router);
     site.AddTo(router);
-    Engine engine([&](const auto& request, auto& response) { router.Answer(request, response); },
-                  config.idle_seconds);
-    Reception reception(config, engine);
-    reception.Open();
+    Front front(config, router, visitors);
+    front.Open();
     const Housekeeping housekeeping(service);
-    reception.Start();
-    Log::Info("started",
-              {{"address", std::string_view(config.address)}, {"port", reception.Port()}});
+    front.Start();
+    Log::Info("started", {{"address", std::string_view(config.address)}, {"port", front.Port()}});
     int signal = 0;
     sigwait(&ends, &signal);
-    reception.Stop();
+    front.Stop();
     Log::Info("ended");
 }
 

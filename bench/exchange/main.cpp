@@ -1,4 +1,4 @@
-// What the exchange takes, beside a bare reply of the same HTTP library in the same run. The load
+// What the exchange takes, beside a bare reply of the library that it stands on in the same run. The load
 // comes from a second process. Fails if a figure misses its limit.
 #include "Fill.h"
 

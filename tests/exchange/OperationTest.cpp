@@ -140,7 +140,7 @@ TEST_P(OperationTest, AnUnusableConfigurationIsNamedAndRefused) {
           Case{"mail_relay = file:///etc/passwd", "mail_relay must begin with"},
           Case{"trusted_proxies = 127.0.0.1, localhost", "network addresses, not \"localhost\""},
           Case{"database =", "database must be"},
-          Case{"trusted_proxies = 10.0.0.0/8", "network addresses, not \"10.0.0.0/8\""}}) {
+          Case{"trusted_proxies = 10.0.0.0/33", "network addresses, not \"10.0.0.0/33\""}}) {
         const auto outcome = RunWith(line);
         EXPECT_EQ(outcome.code, 2) << line;
         EXPECT_NE(outcome.output.find(said), std::string::npos) << outcome.output;

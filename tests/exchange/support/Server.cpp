@@ -14,6 +14,7 @@ std::string Server::Program() {
 
 Server::Server(Settings settings) {
     settings.try_emplace("port", "0");
+    settings.try_emplace("secret", "the secret of the servers that a test starts");
     Process::Environment environment;
     for (const auto& [name, value] : settings)
         environment["HALVANE_EXCHANGE_" + exchange::Upper(name)] = value;

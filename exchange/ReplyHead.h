@@ -1,0 +1,14 @@
+#pragma once
+
+#include "exchange/Http.h"
+
+namespace exchange {
+
+/// The head of a reply as it goes onto the connection, with what every reply has: its length, the
+/// date, and the headers that keep a browser from doing more with it than show it.
+namespace ReplyHead {
+std::string Written(const Reply& reply, bool close);
+std::string_view Phrase(int status); ///< the words for a status: "Not Found"
+} // namespace ReplyHead
+
+} // namespace exchange

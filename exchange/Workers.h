@@ -1,0 +1,45 @@
+#pragma once
+
+#include <condition_variable>
+#include <deque>
+#include <functional>
+#include <map>
+#include <mutex>
+#include <string>
+#include <thread>
+#include <vector>
+
+namespace exchange {
+
+/// Threads that do the work which may take time. Each client has a queue of its own, and the queues
+/// take turns: one that asks for much waits for itself. No client ever has all of the threads.
+class Workers {
+public:
+    explicit Workers(int threads);
+    ~Workers(); ///< drops what has not begun, and waits for the rest
+    Workers(const Workers&) = delete;
+    Workers& operator=(const Workers&) = delete;
+
+    using Job = std::function<void()>; ///< must not throw
+    void Add(const std::string& client, Job job);
+
+private:
+    struct Queue {
+        std::deque<Job> jobs;
+        int running = 0;
+        bool hasTurn = false; ///< stands in turns_
+    };
+
+    void Run();
+    void GiveTurn(const std::string& client, Queue& queue);
+
+    std::mutex mutex_;
+    std::condition_variable wake_;
+    bool ending_ = false;
+    int mostPerClient_;
+    std::map<std::string, Queue> queues_;
+    std::deque<std::string> turns_; ///< clients whose next job may begin, in order
+    std::vector<std::thread> threads_;
+};
+
+} // namespace exchange
