@@ -18,6 +18,7 @@
 
 namespace {
 constexpr qint64 plenty = 1024 * 1024;
+const QByteArray chunked = "HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n";
 using std::chrono::milliseconds;
 } // namespace
 
@@ -91,13 +92,45 @@ TEST_F(HttpClientTest, AFloodIsNotReadToItsEnd) {
     EXPECT_LT(server.Flooded(), 50 * 1024 * 1024);
 }
 
-TEST_F(HttpClientTest, AReplyThatDoesNotTellItsLengthIsNotTaken) {
-    for (const char* reply : {"HTTP/1.1 200 OK\r\n\r\nwhole?", "HTTP/1.0 200 OK\r\n\r\nwhole?",
-                              "HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n"
-                              "6\r\nwhole?\r\n0\r\n\r\n"}) {
-        server.Tell("GET /page", ScriptedServer::Raw(reply));
-        EXPECT_EQ(Failure("/page"), ErrorNumber::ServiceFailed) << reply;
+TEST_F(HttpClientTest, WithoutALengthTheReplyEndsWithTheConnection) {
+    for (const char* head : {"HTTP/1.1 200 OK\r\n\r\n", "HTTP/1.0 200 OK\r\n\r\n",
+                             "HTTP/1.1 200 OK\r\nConnection: close\r\n\r\n"}) {
+        server.Tell("GET /page", ScriptedServer::Raw(head + QByteArray("Sent.")));
+        EXPECT_EQ(http.Get(server.Address() + "/page", plenty).body, "Sent.") << head;
+        server.Tell("GET /page", ScriptedServer::Raw(head));
+        EXPECT_EQ(http.Get(server.Address() + "/page", plenty).body, "") << head;
     }
+}
+
+TEST_F(HttpClientTest, AChunkedReplyIsTaken) {
+    server.Tell("GET /page", ScriptedServer::Raw(chunked + "2\r\nSe\r\n3\r\nnt.\r\n0\r\n\r\n"));
+    EXPECT_EQ(http.Get(server.Address() + "/page", plenty).body, "Sent.");
+}
+
+TEST_F(HttpClientTest, AChunkThatIsCutShortFails) {
+    server.Tell("GET /page", ScriptedServer::Raw(chunked + "5\r\nSen"));
+    EXPECT_EQ(Failure("/page"), ErrorNumber::ServiceFailed);
+}
+
+TEST_F(HttpClientTest, AnEndOfTheConnectionWithinTheHeadFails) {
+    for (const char* head :
+         {"", "HTTP/1.1", "HTTP/1.1 200 OK\r\n", "HTTP/1.1 200 OK\r\nServer: a\r\n"}) {
+        server.Tell("GET /page", ScriptedServer::Raw(head));
+        EXPECT_EQ(Failure("/page"), ErrorNumber::ServiceFailed) << head;
+    }
+}
+
+TEST_F(HttpClientTest, AReplyWithoutALengthIsNotReadBeyondTheGreatestLength) {
+    server.Tell("GET /page",
+                ScriptedServer::Raw("HTTP/1.1 200 OK\r\n\r\n" + QByteArray(1001, 'x')));
+    EXPECT_EQ(http.Get(server.Address() + "/page", 1001).body.size(), 1001);
+    EXPECT_NE(FailureOf([&] { http.Get(server.Address() + "/page", 1000); }), 0);
+}
+
+TEST_F(HttpClientTest, ABodyShorterThanItsLengthFails) {
+    server.Tell("GET /page",
+                ScriptedServer::Raw("HTTP/1.1 200 OK\r\nContent-Length: 6\r\n\r\nSent."));
+    EXPECT_EQ(Failure("/page"), ErrorNumber::ServiceFailed);
 }
 
 TEST_F(HttpClientTest, TheLimitHoldsForSilenceAndForATrickle) {

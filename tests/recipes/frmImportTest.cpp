@@ -224,6 +224,26 @@ TEST_F(frmImportTest, APageThatIsNotTheExchangesOwnRefusalIsAFailure) {
     }
 }
 
+TEST_F(frmImportTest, WithoutContentLengthARecipeIsImported) {
+    const QByteArray head = "HTTP/1.1 200 OK\r\n\r\n";
+    server->Tell(RecipePath(), ScriptedServer::Raw(head + Json(SoupRecipe())));
+    server->Tell(RecipePath("/ingredients"), ScriptedServer::Raw(head + Table(SoupRows())));
+    ExpectAlert(successText);
+    SubmitSoup();
+    EXPECT_EQ(Count("Recipes"), 1);
+    EXPECT_EQ(Count("Ingredients"), 2);
+}
+
+TEST_F(frmImportTest, WithoutContentLengthACutDocumentFailsWhereverItWasCut) {
+    const QByteArray whole = Json(SoupRecipe());
+    for (qsizetype length = 0; length < whole.size(); ++length) {
+        const QByteArray reply = "HTTP/1.1 200 OK\r\n\r\n" + whole.left(length);
+        server->Tell(RecipePath(), ScriptedServer::Raw(reply));
+        ExpectFailure();
+    }
+    EXPECT_EQ(Count("Recipes"), 0);
+}
+
 TEST_F(frmImportTest, ARefusalIsAFailure) {
     for (const int status : {201, 302, 400, 403, 429, 500, 503}) {
         server->Tell(RecipePath(), status, R"({"reason":"No."})");

@@ -208,6 +208,18 @@ TEST_F(frmSendTest, AddressesAreNotChecked) {
     EXPECT_EQ(Body(0)["EMAILFROM"], "<b>'\";");
 }
 
+TEST_F(frmSendTest, AReplyWithoutContentLengthIsShownAsItIs) {
+    for (const char* head : {"HTTP/1.1 200 OK\r\n\r\n", "HTTP/1.0 500 No\r\n\r\n"}) {
+        server->Tell(pageLine, ScriptedServer::Raw(head + sentence.toUtf8()));
+        ExpectReply(sentence);
+    }
+}
+
+TEST_F(frmSendTest, AnEmptyReplyWithoutContentLengthFails) {
+    server->Tell(pageLine, ScriptedServer::Raw("HTTP/1.1 200 OK\r\n\r\n"));
+    ExpectFailure();
+}
+
 // The settings
 
 TEST_F(frmSendTest, TheAddressesComeBackNextTime) {

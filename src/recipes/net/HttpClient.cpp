@@ -39,7 +39,7 @@ private:
     QByteArray rest_;
 };
 
-/// Replies come unpacked, so that their length is known as they come.
+/// Replies come unpacked, so that their length can be compared with Content-Length.
 QNetworkRequest RequestTo(const QString& address) {
     QNetworkRequest request{QUrl(address)};
     request.setHeader(QNetworkRequest::UserAgentHeader, QStringLiteral("Halvane"));
@@ -53,10 +53,11 @@ int StatusOf(const QNetworkReply& reply) {
     return reply.attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
 }
 
-/// Of a reply whose length is not told nobody knows whether it was cut short, nor of one in chunks:
-/// the network layer takes it for whole where its last chunk is missing.
+/// Without Content-Length we cannot detect truncation: the end of the connection ends the reply, and
+/// the network layer takes a reset, or an end between two chunks, for such an end.
 bool IsOfItsLength(const QNetworkReply& reply, qint64 length) {
-    return length == reply.header(QNetworkRequest::ContentLengthHeader).toLongLong();
+    const QVariant told = reply.header(QNetworkRequest::ContentLengthHeader);
+    return told.isNull() || told.toLongLong() == length;
 }
 
 /// The network layer takes a status of 400 or above for an error of its own: these are the errors

@@ -12,11 +12,11 @@ struct HttpReply {
     QByteArray body;
 };
 
-/// Blocking HTTP. A call returns when its reply is there as a whole, whatever its status; it fails
-/// with a RuntimeError where there is no such reply: no connection, a certificate that is not
-/// trusted, a reply that is cut short, does not tell its length or is longer than is taken, the
-/// limit over. Redirections are not followed. While a call waits, the interface repaints and takes
-/// no input.
+/// Blocking HTTP. A call returns when its reply is there, whatever its status. It fails with a
+/// RuntimeError where there is no reply: no connection, a certificate that is not trusted, a body
+/// shorter than its Content-Length, a body longer than is taken, the limit over. A reply without
+/// Content-Length ends with the connection: who needs it whole checks its content. Redirections are
+/// not followed. While a call waits, the interface repaints and takes no input.
 class HttpClient {
 public:
     /// For one call as a whole, from the look-up of the name to the last byte.
