@@ -4,7 +4,7 @@
 
 #include <vector>
 
-/// The tokens of a statement of the old dialect. They view the source, which must outlive them.
+/// The tokens of a statement of the dialect. They view the source, which must outlive them.
 namespace DialectTokens {
 enum class Kind { Word, Number, Text, Quoted, Bracketed, Date, Comparison, Comment, Other, End };
 
