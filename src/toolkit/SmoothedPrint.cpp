@@ -9,6 +9,8 @@
 namespace {
 
 constexpr qint32 firstSmoothingFamily = 2;
+constexpr double leastPoints = 5; ///< the smallest that can still be read
+constexpr double pointStep = 0.25;
 
 bool Smooths() {
     return App().AppInfo.OSVERSION >= firstSmoothingFamily;
@@ -27,6 +29,13 @@ void SmoothedPrint(QPainter& painter, QPointF place, const QString& text, const 
     const double ascent = QFontMetricsF(painter.font(), painter.device()).ascent();
     painter.drawText(place + QPointF(0, ascent), text);
     painter.setFont(previous);
+}
+
+QFont FittingFont(QFont font, const QString& text, double width) {
+    while (font.pointSizeF() > leastPoints &&
+           QFontMetricsF(SmoothedFont(font)).horizontalAdvance(text) > width)
+        font.setPointSizeF(font.pointSizeF() - pointStep);
+    return font;
 }
 
 // Measured first, because the ellipsis is worked out from unhinted widths: text that fits to the

@@ -13,5 +13,8 @@ void SmoothedPrint(QPainter& painter, QPointF place, const QString& text, const 
 /// The font as the smoothed print uses it, for measuring.
 QFont SmoothedFont(QFont font);
 
+/// The font as it is where that text fits that width, else so much smaller that it fits.
+QFont FittingFont(QFont font, const QString& text, double width);
+
 /// The text as it is where it fits that width in that font, else cut with an ellipsis.
 QString FittingText(const QString& text, const QFont& font, double width);

@@ -1,21 +1,10 @@
 #include "toolkit/Style.h"
 
-#include <QFontDatabase>
-#include <QGuiApplication>
+#include "toolkit/Fonts.h"
 
 namespace {
 
-QString FamilyAtHand() {
-    const QStringList wanted{QStringLiteral("Inter"), QStringLiteral("Segoe UI"),
-                             QStringLiteral("Noto Sans"), QStringLiteral("DejaVu Sans")};
-    for (const QString& family : wanted)
-        if (QFontDatabase::hasFamily(family))
-            return family;
-    return QGuiApplication::font().family();
-}
-
-QFont FontAt(double points, QFont::Weight weight) {
-    static const QString family = FamilyAtHand();
+QFont FontAt(const QString& family, double points, QFont::Weight weight) {
     QFont font(family);
     font.setPointSizeF(points);
     font.setWeight(weight);
@@ -25,18 +14,18 @@ QFont FontAt(double points, QFont::Weight weight) {
     return font;
 }
 
-void SetFonts(Style& style) {
-    style.text = FontAt(9, QFont::Normal);
-    style.small = FontAt(8, QFont::Normal);
-    style.smallStrong = FontAt(8, QFont::DemiBold);
-    style.strong = FontAt(9, QFont::DemiBold);
-    style.screenTitle = FontAt(13, QFont::DemiBold);
-    style.cardTitle = FontAt(15, QFont::DemiBold);
-    style.control = FontAt(10, QFont::Medium);
-    style.title = FontAt(10, QFont::DemiBold);
-    style.reading = FontAt(10, QFont::Normal);
-    style.chartNotice = FontAt(12, QFont::Bold);
-    style.raised = FontAt(14, QFont::DemiBold);
+void SetFonts(Style& style, const QString& family) {
+    style.text = FontAt(family, 9, QFont::Normal);
+    style.small = FontAt(family, 8, QFont::Normal);
+    style.smallStrong = FontAt(family, 8, QFont::DemiBold);
+    style.strong = FontAt(family, 9, QFont::DemiBold);
+    style.screenTitle = FontAt(family, 13, QFont::DemiBold);
+    style.cardTitle = FontAt(family, 15, QFont::DemiBold);
+    style.control = FontAt(family, 10, QFont::Medium);
+    style.title = FontAt(family, 10, QFont::DemiBold);
+    style.reading = FontAt(family, 10, QFont::Normal);
+    style.chartNotice = FontAt(family, 12, QFont::Bold);
+    style.raised = FontAt(family, 14, QFont::DemiBold);
 }
 
 void SetGrounds(Style& style) {
@@ -136,7 +125,7 @@ void SetLineColours(Style& style) {
 
 Style MakeStyle() {
     Style style;
-    SetFonts(style);
+    SetFonts(style, Fonts::Family());
     SetGrounds(style);
     SetInks(style);
     SetButtons(style);
@@ -146,9 +135,17 @@ Style MakeStyle() {
     return style;
 }
 
+Style& OneStyle() {
+    static Style style = MakeStyle();
+    return style;
+}
+
 } // namespace
 
 const Style& TheStyle() {
-    static const Style style = MakeStyle();
-    return style;
+    return OneStyle();
+}
+
+void SetFontFamily(const QString& family) {
+    SetFonts(OneStyle(), family);
 }

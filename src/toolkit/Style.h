@@ -4,6 +4,7 @@
 #include <QFont>
 
 class QApplication;
+class QString;
 
 /// Every colour, font and measure of the program, by role. Controls paint from this table and hold
 /// no literals.
@@ -87,6 +88,9 @@ struct Style {
 };
 
 const Style& TheStyle();
+
+/// For what is made from here on. Only tests take another than the delivered one.
+void SetFontFamily(const QString& family);
 
 /// Gives the application the palette, the font and the look of the stock fields, check boxes, tips
 /// and calendar.

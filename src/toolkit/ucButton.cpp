@@ -101,13 +101,13 @@ void ucButton::paintEvent(QPaintEvent*) {
 }
 
 void ucButton::PaintCaption(QPainter& painter, const QRect& picM) const {
-    const double textHeight = QFontMetricsF(SmoothedFont(font())).height();
+    const int left = Twips::ToPixels(captionLeft);
+    const QFont font = FittingFont(this->font(), caption_, picM.width() - left);
+    const double textHeight = QFontMetricsF(SmoothedFont(font)).height();
     const int sunk = state_ == Pressed ? 1 : 0;
     painter.setPen(Face().text);
-    SmoothedPrint(painter,
-                  QPointF(picM.left() + Twips::ToPixels(captionLeft),
-                          picM.height() / 2.0 - textHeight / 2 + sunk),
-                  caption_, font());
+    SmoothedPrint(painter, QPointF(picM.left() + left, picM.height() / 2.0 - textHeight / 2 + sunk),
+                  caption_, font);
 }
 
 void ucButton::mousePressEvent(QMouseEvent*) {

@@ -50,6 +50,9 @@ TEST_F(InstallTest, EverythingStandsBesideTheProgram) {
         EXPECT_TRUE(files.contains(QLatin1String(name))) << name;
     EXPECT_TRUE(QFileInfo(folder_.filePath(QStringLiteral("halvane"))).isExecutable());
     EXPECT_TRUE(QFileInfo(folder_.filePath(QStringLiteral("help/index.html"))).isFile());
+    for (const char* font : {"Inter-Regular.otf", "Inter-Medium.otf", "Inter-SemiBold.otf",
+                             "Inter-Bold.otf", "OFL.txt"})
+        EXPECT_TRUE(QFileInfo(folder_.filePath(QLatin1String("fonts/") + font)).isFile()) << font;
     for (const QString& file : files)
         EXPECT_FALSE(file.contains(QStringLiteral(".mdb-"))) << file.toStdString();
 }

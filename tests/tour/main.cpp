@@ -2,6 +2,7 @@
 #include "tour/Walk.h"
 
 #include "core/Application.h"
+#include "toolkit/Style.h"
 
 #include <QProcess>
 #include <QTemporaryDir>
@@ -16,6 +17,13 @@ bool Start(const QString& stage, const QString& pictures, const QString& folder)
     start.start(QCoreApplication::applicationFilePath(), {pictures, folder, stage});
     return start.waitForFinished(-1) && start.exitStatus() == QProcess::NormalExit &&
            start.exitCode() == 0;
+}
+
+void TakeFont(QApplication& application, const QString& family) {
+    if (family.isEmpty())
+        return;
+    SetFontFamily(family);
+    ApplyStyle(application);
 }
 
 int WalkStage(const QStringList& arguments) {
@@ -34,7 +42,7 @@ int WalkStage(const QStringList& arguments) {
 /// tour PICTURES: walks the whole way through the real screens on a fresh folder, from the
 /// agreement to a day's food set against the targets, then starts the program again and finds
 /// everything there. A friend, with a folder of her own, gets the recipe that was sent. Pictures go
-/// to that folder.
+/// to that folder. TOUR_FONT in the environment names another font than the delivered one.
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     std::setvbuf(stdout, nullptr, _IOLBF, 0);
@@ -42,6 +50,7 @@ int main(int argc, char** argv) {
     qputenv("XDG_RUNTIME_DIR", fresh.path().toLocal8Bit());
     Application application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
+    TakeFont(application, qEnvironmentVariable("TOUR_FONT"));
     const QStringList arguments = QCoreApplication::arguments();
     if (arguments.size() == 4)
         return WalkStage(arguments);

@@ -1,5 +1,6 @@
 #include "analysis/ui/ChartLabel.h"
 
+#include "toolkit/SmoothedPrint.h"
 #include "toolkit/Style.h"
 
 #include <QPainter>
@@ -14,6 +15,10 @@ void ChartLabel::SetCaption(const QString& caption) {
     if (caption_ == caption)
         return;
     caption_ = caption;
+    ShowAnew();
+}
+
+void ChartLabel::ShowAnew() {
     textWidth_ = -1;
     update();
 }
@@ -27,7 +32,7 @@ void ChartLabel::SetForeColor(const QColor& color) {
 
 int ChartLabel::TextWidth() const {
     if (textWidth_ < 0)
-        textWidth_ = fontMetrics().horizontalAdvance(caption_);
+        textWidth_ = fontMetrics().horizontalAdvance(Shown());
     return textWidth_;
 }
 
@@ -38,7 +43,7 @@ QSize ChartLabel::sizeHint() const {
 void ChartLabel::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setPen(foreColor_);
-    const bool fits = TextWidth() <= width();
-    painter.drawText(contentsRect(), int(alignment_),
-                     fits ? caption_ : fontMetrics().elidedText(caption_, Qt::ElideRight, width()));
+    if (TextWidth() > width())
+        painter.setFont(FittingFont(font(), Shown(), width()));
+    painter.drawText(contentsRect(), int(alignment_), Shown());
 }

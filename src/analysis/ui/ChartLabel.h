@@ -4,7 +4,7 @@
 
 #include <QColor>
 
-/// A line of chart text: a row's name, or its value behind a leader of points.
+/// A line of chart text.
 class ChartLabel : public ChartPiece {
     Q_OBJECT
     Q_PROPERTY(QString Caption READ Caption WRITE SetCaption)
@@ -23,13 +23,15 @@ public:
     QSize sizeHint() const override;
 
 protected:
+    virtual QString Shown() const { return caption_; } ///< what is painted of the caption
+    void ShowAnew();                                   ///< where that changes
     void paintEvent(QPaintEvent*) override;
 
 private:
     int TextWidth() const;
 
     QString caption_;
-    mutable int textWidth_ = 0; ///< of the caption; negative until it is measured
+    mutable int textWidth_ = 0; ///< of what is shown; negative until it is measured
     QColor foreColor_;
     Qt::Alignment alignment_ = Qt::AlignLeft | Qt::AlignBottom;
 };

@@ -2,6 +2,7 @@
 
 #include "analysis/ui/ChartBar.h"
 #include "analysis/ui/ChartLabel.h"
+#include "analysis/ui/LedLabel.h"
 #include "runtime/Convert.h"
 #include "runtime/Format.h"
 
@@ -15,7 +16,7 @@ ChartRow::ChartRow(int i, Nutrient nutrient, const char* unit, const Views& view
     , unit_(unit)
     , lbl_(new ChartLabel(views.labels))
     , imgBar_(new ChartBar(views.bars))
-    , lblVal_(new ChartLabel(views.values)) {
+    , lblVal_(new LedLabel(views.values)) {
     lbl_->setObjectName(QStringLiteral("lbl%1").arg(i));
     lbl_->SetCaption(QLatin1String(Info(nutrient).chartCaption));
     lbl_->SetSpokenValue([this] { return SpokenValue(); });

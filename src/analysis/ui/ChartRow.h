@@ -8,6 +8,7 @@
 
 class ChartBar;
 class ChartLabel;
+class LedLabel;
 class QWidget;
 
 /// One nutrient of a chart: its name, its bar of percent, and its value behind a leader of points.
@@ -37,7 +38,7 @@ public:
     Nutrient nutrient() const { return nutrient_; }
     ChartLabel* lbl() const { return lbl_; }
     ChartBar* imgBar() const { return imgBar_; }
-    ChartLabel* lblVal() const { return lblVal_; }
+    LedLabel* lblVal() const { return lblVal_; }
 
     /// Rounded as the charts write it: to two decimals below 100, whole from there.
     static double numFix(double value);
@@ -53,6 +54,6 @@ private:
     const char* unit_;
     ChartLabel* lbl_;
     ChartBar* imgBar_;
-    ChartLabel* lblVal_;
+    LedLabel* lblVal_;
     std::optional<Figure> figure_;
 };

@@ -3,6 +3,7 @@
 #include "analysis/ui/BarGrid.h"
 #include "analysis/ui/ChartBar.h"
 #include "analysis/ui/ChartLabel.h"
+#include "analysis/ui/LedLabel.h"
 #include "runtime/Convert.h"
 #include "toolkit/Style.h"
 #include "toolkit/Twips.h"
@@ -62,6 +63,7 @@ void DailyRow::FitBar(int panelWidth) {
 }
 
 void DailyRow::FitValue() {
+    lblVal()->SetSpace(lblVal()->parentWidget()->width());
     lblVal()->resize(lblVal()->sizeHint());
 }
 

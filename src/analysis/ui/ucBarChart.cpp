@@ -4,6 +4,7 @@
 #include "analysis/ui/ChartBar.h"
 #include "analysis/ui/ChartLabel.h"
 #include "analysis/ui/GridLines.h"
+#include "analysis/ui/LedLabel.h"
 #include "model/User.h"
 #include "runtime/Format.h"
 #include "runtime/Round.h"
@@ -140,6 +141,7 @@ void ucBarChart::PlaceRow(int i, int labelHeight) {
                            Twips::ToPixels(labelHeight));
     row.lbl()->setContentsMargins(0, 0, 0, row.lbl()->height() - textTop - textHeight);
     row.imgBar()->move(Twips::ToPixels(BarLeft), Twips::ToPixels(top + ChartRow::BarDrop));
+    row.lblVal()->SetSpace(Twips::ToPixels(ValueWidth));
     row.lblVal()->setGeometry(0, Twips::ToPixels(top) - picVals_->y() + textTop,
                               Twips::ToPixels(ValueWidth), textHeight);
 }

@@ -4,6 +4,7 @@
 #include "analysis/ui/BarGrid.h"
 #include "analysis/ui/ChartBar.h"
 #include "analysis/ui/ChartLabel.h"
+#include "analysis/ui/LedLabel.h"
 #include "analysis/ui/PieChart.h"
 #include "analysis/ui/ScaleCaption.h"
 #include "analysis/ui/ViewButtons.h"

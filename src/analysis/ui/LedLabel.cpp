@@ -1,0 +1,30 @@
+#include "analysis/ui/LedLabel.h"
+
+#include <algorithm>
+
+namespace {
+
+const QString usualValue = QStringLiteral("88,888 kcal"); // longer ones begin left of the column
+
+qsizetype LeaderLength(const QString& caption) {
+    const auto isPoint = [](QChar c) { return c == u'.'; };
+    return std::find_if_not(caption.cbegin(), caption.cend(), isPoint) - caption.cbegin();
+}
+
+} // namespace
+
+void LedLabel::SetSpace(int pixels) {
+    if (space_ == pixels)
+        return;
+    space_ = pixels;
+    ShowAnew();
+}
+
+QString LedLabel::Shown() const {
+    const qsizetype leader = LeaderLength(Caption());
+    const QFontMetricsF metrics(font());
+    const double value = metrics.horizontalAdvance(Caption().mid(leader));
+    const double room = std::max(value, metrics.horizontalAdvance(usualValue));
+    const auto points = qsizetype((space_ - room) / metrics.horizontalAdvance(u'.'));
+    return Caption().mid(leader - std::clamp<qsizetype>(points, 0, leader));
+}
