@@ -4,6 +4,7 @@
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")"
 source tools/setup.sh
+source tools/display.sh
 
 program=dist/halvane/halvane
 
@@ -13,46 +14,13 @@ build() {
     cmake --install build/release --prefix "$PWD/dist/halvane"
 }
 
-helpers=()
-notes=$(mktemp -d)
-clean_up() {
-    [ ${#helpers[@]} -eq 0 ] || kill "${helpers[@]}" 2>/dev/null || true
-    wait
-    rm -rf "$notes"
-}
-
-# wait_for_line FILE PATTERN WHAT: until the helper has written what it was started for
-wait_for_line() {
-    for _ in {1..100}; do
-        grep -q "$2" "$1" 2>/dev/null && return
-        sleep 0.1
-    done
-    echo "$3 did not start." >&2
-    exit 1
-}
-
-start_display() {
-    Xvfb -displayfd 3 -screen 0 1280x800x24 -nolisten tcp 3>"$notes/display" 2>/dev/null &
-    helpers+=($!)
-    wait_for_line "$notes/display" '[0-9]' "The virtual display"
-    export DISPLAY=:$(cat "$notes/display")
-}
-
-serve_display() {
-    x11vnc -display "$DISPLAY" -localhost -autoport "${HALVANE_VNC_PORT:-5900}" -forever -shared \
-        -nopw -quiet >"$notes/vnc" 2>/dev/null &
-    helpers+=($!)
-    wait_for_line "$notes/vnc" '^PORT=' "The VNC server"
-    echo "There is no display here, so Halvane's window is served over VNC to this machine alone:"
-    echo "point a viewer at 127.0.0.1:$(sed -n 's/^PORT=//p' "$notes/vnc"). Ctrl+C ends it."
-}
-
 trap clean_up EXIT
 install_packages build
 build
 if [ -z "${DISPLAY:-}" ] && [ -z "${WAYLAND_DISPLAY:-}" ]; then
     install_packages display
     start_display
+    manage_windows
     serve_display
 fi
 "$program"

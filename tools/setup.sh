@@ -23,8 +23,34 @@ known_packages() {
     done
 }
 
+# lock_holder FILE: who holds the lock that apt-get could not get; fails where that was not the error
+lock_holder() {
+    grep -qE 'Could not get lock|locked by another process' "$1" || return 1
+    sed -nE 's/.*held by process ([0-9]+) \((.*)\).*/\2, process \1/p' "$1" | head -n 1
+}
+
+# apt_get ARGUMENT...: where another package manager holds a lock, this one waits until it has ended
+lock_pause=2
+apt_get() {
+    local errors holder told=
+    errors=$(mktemp)
+    until as_root env LC_ALL=C DEBIAN_FRONTEND=noninteractive apt-get -q "$@" 2>"$errors" |
+        { grep --line-buffered -v '^Reading package lists' || true; }; do
+        if ! holder=$(lock_holder "$errors"); then
+            cat "$errors" >&2
+            rm -f "$errors"
+            return 1
+        fi
+        [ -n "$told" ] || echo "Waiting for another package manager to finish${holder:+ ($holder)}. Ctrl+C ends the wait." >&2
+        told=yes
+        sleep "$lock_pause"
+    done
+    cat "$errors" >&2
+    rm -f "$errors"
+}
+
 apt_install() {
-    as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -q --no-install-recommends "$@"
+    apt_get install -y --no-install-recommends "$@"
 }
 
 install_packages() {
@@ -37,6 +63,6 @@ install_packages() {
     [ ${#missing[@]} -gt 0 ] || return 0
     echo "Installing ${missing[*]}"
     known_packages "${missing[@]}" && apt_install "${missing[@]}" && return
-    as_root apt-get update -q
+    apt_get update
     apt_install "${missing[@]}"
 }
