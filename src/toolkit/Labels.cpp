@@ -1,8 +1,11 @@
 #include "toolkit/Labels.h"
 
+#include "toolkit/SmoothedPrint.h"
 #include "toolkit/Style.h"
 
 #include <QFontMetrics>
+#include <QPainter>
+#include <QStyle>
 
 namespace {
 
@@ -24,6 +27,23 @@ constexpr RoleLook roleLooks[] = {
 const RoleLook& LookOf(TextRole role) {
     return roleLooks[static_cast<int>(role)];
 }
+
+/// In a font that is wider than the place it is made for, a line is shown smaller, not cut.
+class LineLabel : public QLabel {
+public:
+    using QLabel::QLabel;
+
+protected:
+    void paintEvent(QPaintEvent* event) override {
+        const QFont fitting = FittingFont(font(), text(), contentsRect().width());
+        if (wordWrap() || text().contains(u'\n') || fitting == font())
+            return QLabel::paintEvent(event);
+        QPainter painter(this);
+        painter.setFont(fitting);
+        style()->drawItemText(&painter, contentsRect(), int(alignment()), palette(), isEnabled(),
+                              text(), foregroundRole());
+    }
+};
 
 } // namespace
 
@@ -53,7 +73,7 @@ int BalancedWidth(const QString& text, const QFont& font, int width) {
 }
 
 QLabel* MakeLabel(QWidget* parent, const QString& name, const QString& text, TextRole role) {
-    auto* label = new QLabel(text, parent);
+    auto* label = new LineLabel(text, parent);
     label->setObjectName(name);
     label->setTextFormat(Qt::PlainText);
     label->setFont(FontOf(role));

@@ -2,6 +2,7 @@
 
 #include "support/HalvaneTest.h"
 #include "toolkit/Style.h"
+#include "toolkit/ucButton.h"
 
 #include <QFontMetrics>
 
@@ -46,4 +47,31 @@ TEST_F(LabelsTest, ATextOfOneLineTakesItsOwnWidth) {
 TEST_F(LabelsTest, AWordLongerThanThePlaceTakesAllOfIt) {
     EXPECT_EQ(BalancedWidth(QString(200, u'W'), font, 300), 300);
     EXPECT_EQ(BalancedWidth(QString(), font, 0), 0);
+}
+
+/// All letters are of one width: two pictures differ only where the last letter can be seen.
+class NarrowTextTest : public HalvaneTest {
+protected:
+    QImage Shown(QWidget* control, int width) {
+        control->setFont(QFont("DejaVu Sans Mono", 9));
+        control->resize(width, 26);
+        return Grab(control);
+    }
+    QImage ShownLabel(const char* text) { return Shown(MakeLabel(&window, "lbl", text), 45); }
+    QImage ShownButton(const char* text) {
+        auto* button = new ucButton(&window);
+        button->SetCaption(text);
+        return Shown(button, 64);
+    }
+    QWidget window;
+};
+
+TEST_F(NarrowTextTest, ALabelWithoutRoomShowsItsLineSmallerNotCut) {
+    EXPECT_EQ(ShownLabel("Calories A"), ShownLabel("Calories A"));
+    EXPECT_NE(ShownLabel("Calories A"), ShownLabel("Calories B"));
+}
+
+TEST_F(NarrowTextTest, AButtonWithoutRoomShowsItsCaptionSmallerNotCut) {
+    EXPECT_EQ(ShownButton("Calories A"), ShownButton("Calories A"));
+    EXPECT_NE(ShownButton("Calories A"), ShownButton("Calories B"));
 }
