@@ -7,8 +7,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
-
-#include <utility>
+#include <QtMath>
 
 DrawnControl::DrawnControl(QWidget* parent)
     : QWidget(parent) {
@@ -42,12 +41,8 @@ void DrawnControl::RaiseMouseMove(const QMouseEvent* event) {
                      event->position().x() * ratio, event->position().y() * ratio);
 }
 
-void DrawnControl::BeginClick(const QMouseEvent* press) {
-    clickBegun_ = press->button() == Qt::LeftButton;
-}
-
-bool DrawnControl::EndsClick(const QMouseEvent* release) {
-    return std::exchange(clickBegun_, false) && rect().contains(release->position().toPoint());
+QPoint DrawnControl::PixelOf(const QMouseEvent* event) {
+    return {qFloor(event->position().x()), qFloor(event->position().y())};
 }
 
 int DrawnControl::ShiftOf(const QMouseEvent* event) {

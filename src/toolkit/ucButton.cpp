@@ -11,6 +11,8 @@
 #include <QPainter>
 #include <QtMath>
 
+#include <utility>
+
 namespace {
 
 enum ButtonState { AtRest = 1, PointerOver = 2, Pressed = 3, Disabled = 4 };
@@ -110,7 +112,8 @@ void ucButton::PaintCaption(QPainter& painter, const QRect& picM) const {
                   caption_, font);
 }
 
-void ucButton::mousePressEvent(QMouseEvent*) {
+void ucButton::mousePressEvent(QMouseEvent* event) {
+    BeginClick(event);
     SetState(Pressed);
 }
 
@@ -123,10 +126,8 @@ void ucButton::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void ucButton::mouseReleaseEvent(QMouseEvent* event) {
-    const bool inside = IsInside(event->position());
-    const bool clicked = inside && state_ == Pressed && event->button() == Qt::LeftButton;
-    SetState(inside ? PointerOver : AtRest);
-    if (clicked)
+    SetState(IsInside(event->position()) ? PointerOver : AtRest);
+    if (EndsClick(event))
         Q_EMIT Click();
 }
 
@@ -139,13 +140,19 @@ void ucButton::keyPressEvent(QKeyEvent* event) {
     if (!IsPressKey(event))
         DrawnControl::keyPressEvent(event);
     else if (event->key() == Qt::Key_Space)
-        SetState(Pressed);
+        HoldSpace();
     else
         Activate();
 }
 
+void ucButton::HoldSpace() {
+    spaceHeld_ = true;
+    SetState(Pressed);
+}
+
 void ucButton::keyReleaseEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Space && !event->isAutoRepeat() && state_ == Pressed)
+    const bool spaceUp = event->key() == Qt::Key_Space && !event->isAutoRepeat();
+    if (spaceUp && std::exchange(spaceHeld_, false))
         Activate();
     else
         DrawnControl::keyReleaseEvent(event);
@@ -167,6 +174,7 @@ void ucButton::leaveEvent(QEvent*) {
 }
 
 void ucButton::focusOutEvent(QFocusEvent* event) {
+    spaceHeld_ = false;
     if (state_ == Pressed)
         Reset();
     DrawnControl::focusOutEvent(event);

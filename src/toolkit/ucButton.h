@@ -51,10 +51,12 @@ protected:
 
 private:
     void SetState(int state);
+    void HoldSpace(); ///< until it is let go or the focus leaves
     const Style::ButtonFace& Face() const;
     void PaintCaption(QPainter& painter, const QRect& picM) const;
 
     QString caption_ = QStringLiteral("Custom");
     int state_ = 1;
     bool mainAction_ = false;
+    bool spaceHeld_ = false;
 };

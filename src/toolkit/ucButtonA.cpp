@@ -194,7 +194,8 @@ void ucButtonA::paintEvent(QPaintEvent*) {
         PaintFocusRing(painter, rect(), TheStyle().buttonRadius);
 }
 
-void ucButtonA::mousePressEvent(QMouseEvent*) {
+void ucButtonA::mousePressEvent(QMouseEvent* event) {
+    BeginClick(event);
     Show(Image::Down);
 }
 
@@ -207,10 +208,8 @@ void ucButtonA::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void ucButtonA::mouseReleaseEvent(QMouseEvent* event) {
-    const bool inside = IsInside(event->position());
-    const bool clicked = inside && shown_ == Image::Down && event->button() == Qt::LeftButton;
     Reset();
-    if (clicked)
+    if (EndsClick(event))
         Activate();
 }
 

@@ -90,6 +90,7 @@ void ucCalButton::Track(bool leftButton, QPointF place) {
 }
 
 void ucCalButton::mousePressEvent(QMouseEvent* event) {
+    BeginClick(event);
     Track(event->button() == Qt::LeftButton, event->position());
 }
 
@@ -100,7 +101,7 @@ void ucCalButton::mouseMoveEvent(QMouseEvent* event) {
 
 void ucCalButton::mouseReleaseEvent(QMouseEvent* event) {
     Track(event->button() == Qt::LeftButton, event->position());
-    if (state_ == Pressed)
+    if (EndsClick(event))
         Q_EMIT Click();
 }
 

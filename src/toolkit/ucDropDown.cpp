@@ -197,7 +197,7 @@ void ucDropDown::TrackArrow(bool leftHeld, QPoint place) {
 }
 
 void ucDropDown::mousePressEvent(QMouseEvent* event) {
-    const QPoint place = event->position().toPoint();
+    const QPoint place = PixelOf(event);
     const Layout at = layoutRects();
     if (!at.picSelItem.contains(place))
         return;
@@ -209,7 +209,7 @@ void ucDropDown::mousePressEvent(QMouseEvent* event) {
 
 /// Moves over the items arrive here as well.
 void ucDropDown::mouseMoveEvent(QMouseEvent* event) {
-    const QPoint place = event->position().toPoint();
+    const QPoint place = PixelOf(event);
     const bool held = event->buttons().testFlag(Qt::LeftButton);
     const bool onArrow = held ? arrowPressed_ : layoutRects().picArrow.contains(place);
     if (onArrow)
@@ -221,7 +221,7 @@ void ucDropDown::mouseMoveEvent(QMouseEvent* event) {
 
 void ucDropDown::mouseReleaseEvent(QMouseEvent* event) {
     if (arrowPressed_)
-        TrackArrow(event->buttons().testFlag(Qt::LeftButton), event->position().toPoint());
+        TrackArrow(event->buttons().testFlag(Qt::LeftButton), PixelOf(event));
     arrowPressed_ = false;
 }
 

@@ -105,7 +105,7 @@ ucScroll::Part ucScroll::PartAt(QPoint place) const {
 void ucScroll::mousePressEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton)
         return;
-    const QPoint place = event->position().toPoint();
+    const QPoint place = PixelOf(event);
     pressed_ = PartAt(place);
     update();
     if (pressed_ == Part::Down) {
@@ -149,8 +149,8 @@ bool ucScroll::RepeatIsOver() const {
 
 void ucScroll::mouseMoveEvent(QMouseEvent* event) {
     if (event->buttons().testFlag(Qt::LeftButton) && dragOffset_ != noDrag)
-        DragTo(event->position().toPoint().y() - layoutRects().picSlot.top());
-    const Part under = PartAt(event->position().toPoint());
+        DragTo(PixelOf(event).y() - layoutRects().picSlot.top());
+    const Part under = PartAt(PixelOf(event));
     if (under != lit_)
         update();
     lit_ = under;

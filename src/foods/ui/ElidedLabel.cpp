@@ -64,10 +64,11 @@ void ElidedLabel::paintEvent(QPaintEvent*) {
 }
 
 void ElidedLabel::mousePressEvent(QMouseEvent* event) {
+    click_.Begin(event);
     event->setAccepted(isSignalConnected(QMetaMethod::fromSignal(&ElidedLabel::Click)));
 }
 
 void ElidedLabel::mouseReleaseEvent(QMouseEvent* event) {
-    if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint()))
+    if (click_.Ends(event, this))
         Q_EMIT Click();
 }

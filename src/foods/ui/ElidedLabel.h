@@ -1,5 +1,7 @@
 #pragma once
 
+#include "toolkit/ClickRule.h"
+
 #include <QLabel>
 #include <QList>
 
@@ -33,4 +35,5 @@ private:
 
     QList<QFont> fonts_;
     QColor ink_;
+    ClickRule click_;
 };

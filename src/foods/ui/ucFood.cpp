@@ -219,8 +219,14 @@ void ucFood::mouseMoveEvent(QMouseEvent* event) {
     RaiseMouseMove(event);
 }
 
+/// The pane below hears of the press as well.
+void ucFood::mousePressEvent(QMouseEvent* event) {
+    BeginClick(event);
+    event->ignore();
+}
+
 void ucFood::mouseReleaseEvent(QMouseEvent* event) {
-    if (event->button() == Qt::LeftButton && IsInside(event->position()))
+    if (EndsClick(event))
         Q_EMIT Click();
 }
 
