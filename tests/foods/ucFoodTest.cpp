@@ -2,7 +2,9 @@
 
 #include "foods/ui/ucFood.h"
 
+#include <QApplication>
 #include <QHelpEvent>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QSignalSpy>
@@ -173,6 +175,21 @@ TEST_F(UcFoodTest, EnterInAQuantityAddsThatServing) {
     QTest::keyClick(Field("txtQTY_B"), Qt::Key_Return);
     ASSERT_EQ(eaten.size(), 1);
     EXPECT_EQ(eaten[0], QVariantList({4711, "B", 4.0, false}));
+}
+
+TEST_F(UcFoodTest, AHeldEnterInAQuantityAddsThatServingOnce) {
+    QSignalSpy eaten(&row_, &ucFood::EatFood);
+    QLineEdit* quantity = Field("txtQTY_A");
+    QTest::keyPress(quantity, Qt::Key_Return);
+    for (int repeat = 0; repeat < 20; ++repeat) {
+        QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QStringLiteral("\r"),
+                       true);
+        QApplication::sendEvent(quantity, &held);
+    }
+    QTest::keyRelease(quantity, Qt::Key_Return);
+    EXPECT_EQ(eaten.size(), 1);
+    QTest::keyClick(quantity, Qt::Key_Enter);
+    EXPECT_EQ(eaten.size(), 2);
 }
 
 TEST_F(UcFoodTest, AQuantityThatIsNoNumberCountsAsZero) {

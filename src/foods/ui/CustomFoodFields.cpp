@@ -3,10 +3,10 @@
 #include "runtime/Val.h"
 #include "store/Recordset.h"
 #include "toolkit/Labels.h"
+#include "toolkit/LineField.h"
 #include "toolkit/Style.h"
 
 #include <QGridLayout>
-#include <QLineEdit>
 #include <QPainter>
 
 #include <cmath>
@@ -106,7 +106,7 @@ void CustomFoodFields::AddColumn(std::span<const Nutrient> nutrients, int column
 }
 
 QLineEdit* CustomFoodFields::AddField(const char* name, const char* caption, TextRole role) {
-    auto* field = new QLineEdit(this);
+    auto* field = new LineField(this);
     field->setObjectName(QString::fromLatin1(name));
     field->setAccessibleName(QString::fromLatin1(caption));
     field->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);

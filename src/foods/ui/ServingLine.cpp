@@ -2,10 +2,9 @@
 
 #include "foods/ui/ElidedLabel.h"
 #include "runtime/Convert.h"
+#include "toolkit/LineField.h"
 #include "toolkit/Style.h"
 #include "toolkit/ucButtonA.h"
-
-#include <QLineEdit>
 
 namespace {
 struct Names {
@@ -34,7 +33,7 @@ ServingLine::ServingLine(QWidget* row, Letter letter)
 }
 
 void ServingLine::BuildQuantity(QWidget* row, const QString& name) {
-    txtQTY_ = new QLineEdit(QStringLiteral("1"), row);
+    txtQTY_ = new LineField(QStringLiteral("1"), row);
     txtQTY_->setObjectName(name);
     txtQTY_->setToolTip(QStringLiteral("Enter a quantity"));
     txtQTY_->setAlignment(Qt::AlignRight);

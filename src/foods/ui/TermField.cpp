@@ -9,8 +9,9 @@
 static constexpr int longestTerm = 255;
 
 TermField::TermField(QWidget* parent)
-    : QLineEdit(parent) {
+    : LineField(parent) {
     setMaxLength(longestTerm);
+    connect(this, &QLineEdit::returnPressed, this, &TermField::SearchAsked);
 }
 
 static bool IsRefused(QChar typed) {
@@ -19,10 +20,8 @@ static bool IsRefused(QChar typed) {
 
 void TermField::keyPressEvent(QKeyEvent* event) {
     const QString typed = event->text();
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
-        Q_EMIT SearchAsked();
-    else if (std::none_of(typed.cbegin(), typed.cend(), IsRefused))
-        QLineEdit::keyPressEvent(event);
+    if (std::none_of(typed.cbegin(), typed.cend(), IsRefused))
+        LineField::keyPressEvent(event);
 }
 
 /// Dead keys and the like: what they compose is typed text too.
@@ -30,5 +29,5 @@ void TermField::inputMethodEvent(QInputMethodEvent* event) {
     QString typed = event->commitString();
     typed.removeIf(IsRefused);
     event->setCommitString(typed, event->replacementStart(), event->replacementLength());
-    QLineEdit::inputMethodEvent(event);
+    LineField::inputMethodEvent(event);
 }

@@ -1,11 +1,11 @@
 #pragma once
 
-#include <QLineEdit>
+#include "toolkit/LineField.h"
 
 /// The field of the search term. Typed double quotes, asterisks and apostrophes are swallowed,
 /// since the term goes into the statement as it stands; pasted ones are not. Enter starts the
 /// search.
-class TermField : public QLineEdit {
+class TermField : public LineField {
     Q_OBJECT
 
 public:

@@ -3,17 +3,17 @@
 #include <QFocusEvent>
 
 WeightField::WeightField(QWidget* parent)
-    : QLineEdit(parent) {
+    : LineField(parent) {
     connect(this, &QLineEdit::textEdited, this, [this] { entered_ = true; });
 }
 
 void WeightField::focusInEvent(QFocusEvent* event) {
-    QLineEdit::focusInEvent(event);
+    LineField::focusInEvent(event);
     entered_ = true;
 }
 
 void WeightField::focusOutEvent(QFocusEvent* event) {
-    QLineEdit::focusOutEvent(event);
+    LineField::focusOutEvent(event);
     const Qt::FocusReason reason = event->reason();
     if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason &&
         reason != Qt::MenuBarFocusReason)

@@ -1,10 +1,10 @@
 #pragma once
 
-#include <QLineEdit>
+#include "toolkit/LineField.h"
 
 /// The text field of the day's weight. It tells when the person leaves it, and not when another
 /// window comes in front or a menu opens: the person is still in it then.
-class WeightField : public QLineEdit {
+class WeightField : public LineField {
     Q_OBJECT
 
 public:

@@ -3,11 +3,11 @@
 #include "runtime/Val.h"
 #include "store/Recordset.h"
 #include "toolkit/Labels.h"
+#include "toolkit/LineField.h"
 #include "toolkit/Style.h"
 #include "toolkit/ucBox.h"
 
 #include <QGridLayout>
-#include <QLineEdit>
 
 #include <cmath>
 
@@ -62,7 +62,7 @@ QWidget* ProfileTargets::MakeGroup(const char* caption, std::span<const Nutrient
 }
 
 QLineEdit* ProfileTargets::MakeField(QWidget* box, const NutrientInfo& nutrient) {
-    auto* field = new QLineEdit(box);
+    auto* field = new LineField(box);
     field->setObjectName(QString::fromLatin1(nutrient.textField));
     field->setAccessibleName(QString::fromLatin1(nutrient.editCaption));
     field->setFixedWidth(numberWidth);

@@ -2,11 +2,11 @@
 
 #include "foods/ui/ElidedLabel.h"
 #include "toolkit/Labels.h"
+#include "toolkit/LineField.h"
 #include "toolkit/SmoothedPrint.h"
 #include "toolkit/Style.h"
 
 #include <QFontMetricsF>
-#include <QLineEdit>
 #include <QtMath>
 
 namespace {
@@ -27,7 +27,7 @@ CardField::CardField(QWidget* card, RecipeField field) {
     const RecipeFieldInfo& info = RecipeFields()[static_cast<size_t>(field)];
     label_ = new ElidedLabel(card, QLatin1String(info.label));
     label_->SetLook({TheStyle().strong}, TheStyle().ink);
-    entry_ = new QLineEdit(card);
+    entry_ = new LineField(card);
     entry_->setObjectName(QLatin1String(info.entry));
     entry_->setAccessibleName(QLatin1String(info.spoken));
 }

@@ -2,6 +2,7 @@
 
 #include "runtime/Attempt.h"
 #include "toolkit/ButtonRow.h"
+#include "toolkit/LineField.h"
 #include "toolkit/MousePointer.h"
 #include "toolkit/Style.h"
 #include "toolkit/ucAALBL.h"
@@ -9,7 +10,6 @@
 #include "toolkit/ucTitleFlat.h"
 
 #include <QEvent>
-#include <QLineEdit>
 #include <QPointer>
 
 static constexpr int captionWidth = 150;
@@ -36,7 +36,7 @@ QLineEdit* ExchangeDialog::AddField(int top, const char* label, const char* capt
     text->SetCaption(QLatin1String(caption));
     text->move(Inner().left() + style.nestEdge, top + (style.fieldHeight - text->height()) / 2);
     connect(text, &ucAALBL::MouseMove, this, [this] { AllOff(QString()); });
-    auto* entry = new QLineEdit(this);
+    auto* entry = new LineField(this);
     entry->setObjectName(QLatin1String(field));
     entry->setAccessibleName(text->Caption());
     entry->setGeometry(QRect(QPoint(FieldLeft(), top), QPoint(Inner().right() - style.nestEdge,
