@@ -6,6 +6,7 @@
 
 namespace {
 constexpr int EarliestYear = 100;
+constexpr int LatestYear = 9999;
 constexpr int LastYearOf2000s = 29;
 
 constexpr std::array MonthNames = {"January",   "February", "March",    "April",
@@ -58,6 +59,14 @@ QDate DateOf(const QRegularExpressionMatch& match) {
     return year < EarliestYear ? QDate() : date;
 }
 } // namespace
+
+QDate Dates::First() {
+    return {EarliestYear, 1, 1};
+}
+
+QDate Dates::Last() {
+    return {LatestYear, 12, 31};
+}
 
 bool Dates::IsDate(QStringView text) {
     return Parse(text).isValid();

@@ -7,9 +7,11 @@
 /// Text is read month first whatever the locale: m/d/yyyy with / or -, yyyy-mm-dd, and month names.
 /// Two-digit years: 00-29 are 2000-2029, 30-99 are 1930-1999. Days and months are never swapped.
 namespace Dates {
+QDate First(); ///< January 1 of the year 100: no text is read as an earlier date
+QDate Last();  ///< December 31 of the year 9999
 bool IsDate(QStringView text);
 QDate Parse(QStringView text); ///< null where the text is not a date
-QString ShortText(QDate date); ///< "4/3/2002": the form in which a date reaches a statement
+QString ShortText(QDate date); ///< "4/3/2002", with four digits of the year: as statements hold it
 int DaysBetween(QDate from, QDate to);
 QDate AddDays(QDate date, int days);
 QDate AddMonths(QDate date, int months); ///< the last day of the month where the day is missing

@@ -1,14 +1,24 @@
 #include "toolkit/MonthCalendar.h"
 
 #include "runtime/Clock.h"
+#include "runtime/Dates.h"
 #include "toolkit/Style.h"
 
+#include <QKeyEvent>
 #include <QPainter>
+#include <QSpinBox>
 #include <QTextCharFormat>
+
+#include <algorithm>
+#include <iterator>
 
 namespace {
 
 constexpr int chosenFrame = 2;
+
+/// They end the entry of a year.
+constexpr int leavingKeys[] = {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Tab, Qt::Key_Backtab,
+                               Qt::Key_Escape};
 
 void PaintChosen(QPainter* painter, const QRect& place) {
     const Style& style = TheStyle();
@@ -22,12 +32,15 @@ void PaintChosen(QPainter* painter, const QRect& place) {
 } // namespace
 
 MonthCalendar::MonthCalendar(QWidget* parent)
-    : QCalendarWidget(parent) {
+    : QCalendarWidget(parent)
+    , yearField_(findChild<QSpinBox*>(QStringLiteral("qt_calendar_yearedit"))) {
     const Style& style = TheStyle();
     setLocale(QLocale(QLocale::English, QLocale::UnitedStates));
     setFirstDayOfWeek(Qt::Sunday);
     setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
     setDateEditEnabled(false);
+    setDateRange(Dates::First(), Dates::Last());
+    yearField_->installEventFilter(this);
     QTextCharFormat heads;
     heads.setBackground(style.navigation);
     heads.setForeground(style.windowInk);
@@ -35,6 +48,20 @@ MonthCalendar::MonthCalendar(QWidget* parent)
     setHeaderTextFormat(heads);
     for (const Qt::DayOfWeek weekend : {Qt::Saturday, Qt::Sunday})
         setWeekdayTextFormat(weekend, QTextCharFormat());
+}
+
+/// The field goes away with its focus. The days take that first: left alone it would leave the
+/// calendar.
+bool MonthCalendar::eventFilter(QObject* watched, QEvent* event) {
+    if (watched != yearField_ || event->type() != QEvent::KeyPress)
+        return QCalendarWidget::eventFilter(watched, event);
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    if (std::find(std::begin(leavingKeys), std::end(leavingKeys), key) == std::end(leavingKeys))
+        return false;
+    if (key == Qt::Key_Escape)
+        yearField_->setValue(yearShown());
+    setFocus(Qt::OtherFocusReason);
+    return true;
 }
 
 void MonthCalendar::paintCell(QPainter* painter, const QRect& place, QDate date) const {

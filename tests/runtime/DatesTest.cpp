@@ -117,6 +117,20 @@ TEST(Dates, ShortTextReadsBackAsTheSameDay) {
         EXPECT_EQ(Dates::Parse(Dates::ShortText(date)), date);
 }
 
+TEST(Dates, ShortTextHasFourDigitsOfTheYear) {
+    EXPECT_EQ(Dates::ShortText(QDate(100, 1, 1)), "1/1/0100");
+    EXPECT_EQ(Dates::ShortText(QDate(202, 3, 4)), "3/4/0202");
+    EXPECT_EQ(Dates::ShortText(QDate(9999, 12, 31)), "12/31/9999");
+    for (const QDate day : {Dates::First(), QDate(202, 3, 4), QDate(500, 12, 31), Dates::Last()})
+        EXPECT_EQ(Dates::Parse(Dates::ShortText(day)), day);
+}
+
+TEST(Dates, FirstAndLastAreTheOutermostThatAreRead) {
+    EXPECT_EQ(Dates::First(), QDate(100, 1, 1));
+    EXPECT_EQ(Dates::Last(), QDate(9999, 12, 31));
+    EXPECT_FALSE(Dates::IsDate(Dates::ShortText(Dates::First().addDays(-1))));
+}
+
 TEST(Dates, DaysBetweenCountsBothWays) {
     EXPECT_EQ(Dates::DaysBetween(QDate(2002, 3, 4), QDate(2002, 3, 4)), 0);
     EXPECT_EQ(Dates::DaysBetween(QDate(2002, 2, 28), QDate(2002, 3, 1)), 1);

@@ -12,6 +12,19 @@ TEST_F(MonthCalendarTest, WeeksBeginOnSunday) {
     EXPECT_EQ(MonthCalendar().firstDayOfWeek(), Qt::Sunday);
 }
 
+TEST_F(MonthCalendarTest, GoesFromTheYear100To9999) {
+    MonthCalendar calendar;
+    calendar.show();
+    EXPECT_EQ(calendar.minimumDate(), QDate(100, 1, 1));
+    EXPECT_EQ(calendar.maximumDate(), QDate(9999, 12, 31));
+    calendar.setCurrentPage(100, 1);
+    Click(Find(&calendar, QStringLiteral("qt_calendar_prevmonth")));
+    EXPECT_EQ(calendar.yearShown(), 100);
+    calendar.setCurrentPage(9999, 12);
+    Click(Find(&calendar, QStringLiteral("qt_calendar_nextmonth")));
+    EXPECT_EQ(calendar.yearShown(), 9999);
+}
+
 TEST_F(MonthCalendarTest, TheChosenDayStandsInTheFrameBrown) {
     Clock::SetToday(QDate(2026, 11, 21));
     MonthCalendar calendar;

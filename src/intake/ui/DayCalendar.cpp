@@ -48,8 +48,15 @@ void DayCalendar::OnPick(QDate day) {
         Q_EMIT Picked(day);
 }
 
+/// The menu of the months is a window of its own, and yet a part.
+bool DayCalendar::HasPart(const QObject* control) const {
+    while (control && control != this)
+        control = control->parent();
+    return control;
+}
+
 /// Another program in front leaves the focus where it is.
 void DayCalendar::FollowFocus(QWidget*, QWidget* now) {
-    if (now && now != this && !isAncestorOf(now))
+    if (now && !HasPart(now))
         hide();
 }

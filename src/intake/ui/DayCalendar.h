@@ -26,6 +26,7 @@ protected:
 
 private:
     void OnPick(QDate day);
+    bool HasPart(const QObject* control) const;
     void FollowFocus(QWidget* old, QWidget* now);
 
     MonthCalendar* smCal_;
