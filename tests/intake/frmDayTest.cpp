@@ -19,8 +19,11 @@
 #include <QApplication>
 #include <QCalendarWidget>
 #include <QLineEdit>
+#include <QMenu>
+#include <QSpinBox>
 #include <QTest>
 #include <QTimer>
+#include <QToolButton>
 
 #include <SQLiteCpp/SQLiteCpp.h>
 
@@ -29,6 +32,9 @@ namespace {
 const QString invalidWeight =
     "Please enter a valid weight greater than '0'. To remove the weight entry for this day, delete "
     "the entry from the weight field.";
+const QString tooHeavy =
+    "Please enter a weight of 1,000,000 pounds or less. To remove the weight entry for this day, "
+    "delete the entry from the weight field.";
 const QString askClear = "Are you sure you wish to remove all foods from your daily intake?";
 
 } // namespace
@@ -88,6 +94,14 @@ protected:
                      "'");
     }
     int WeightRows() { return Users("SELECT count(*) FROM USER_WEIGHTS").toInt(); }
+
+    QSpinBox* YearField() { return Find<QSpinBox>(Calendar(), "qt_calendar_yearedit"); }
+    /// Opens the year field of the open calendar and types there.
+    void EnterYear(const QString& year) {
+        Click(Find(Calendar(), "qt_calendar_yearbutton"));
+        YearField()->selectAll();
+        QTest::keyClicks(YearField(), year);
+    }
 
     /// Opens the calendar and clicks on that day of the month that it shows.
     void PickWithTheMouse(int dayOfMonth) {
@@ -210,8 +224,8 @@ TEST_F(frmDayTest, HalfAPoundIsStoredButRoundsToTheEvenPoundInTheCurrentWeight) 
 
 TEST_F(frmDayTest, WeightsOfZeroOrLessAreRefusedAndLeaveTheTextInTheField) {
     Open();
-    for (const char* text : {"0", "-1", "abc", "1e400", " ", "lb 150", "0.0", "'; DROP TABLE x; --",
-                             "99999999999", "1e300"}) {
+    for (const char* text :
+         {"0", "-1", "abc", "1e400", " ", "lb 150", "0.0", "'; DROP TABLE x; --"}) {
         ExpectAlert(invalidWeight);
         Enter(text);
         EXPECT_EQ(Weight()->text(), text);
@@ -219,6 +233,18 @@ TEST_F(frmDayTest, WeightsOfZeroOrLessAreRefusedAndLeaveTheTextInTheField) {
         EXPECT_EQ(WeightRows(), 0) << text;
     }
     EXPECT_EQ(User::Current().CurrentWeight, 200);
+}
+
+TEST_F(frmDayTest, AWeightAboveAMillionHasAMessageOfItsOwn) {
+    Open();
+    for (const char* text : {"1000000.5", "1000001", "99999999999", "1e300"}) {
+        ExpectAlert(tooHeavy);
+        Enter(text);
+        EXPECT_EQ(Weight()->text(), text);
+        EXPECT_EQ(WeightRows(), 0) << text;
+    }
+    Enter("1000000");
+    EXPECT_EQ(StoredWeight().toDouble(), 1'000'000);
 }
 
 TEST_F(frmDayTest, RefusedWeightIsTestedAgainAtTheNextChangeOfFocus) {
@@ -437,6 +463,83 @@ TEST_F(frmDayTest, AnyPastOrFutureDayCanBePicked) {
         EXPECT_EQ(Names(screen.get()), QStringList{"Oats"});
     }
     EXPECT_EQ(LogCount(), 6);
+}
+
+TEST_F(frmDayTest, DaysOfEarlyYearsCanBePickedAndKeepTheirFoods) {
+    Open();
+    for (const QDate& date : {QDate(100, 1, 1), QDate(202, 3, 4), QDate(500, 12, 31)}) {
+        Click(CalendarButton());
+        Calendar()->setSelectedDate(date);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+        EXPECT_EQ(App().CurrentDate, date);
+        List()->AddFood(Scaled("Oats"), "Lunch");
+        EXPECT_EQ(Names(screen.get()), QStringList{"Oats"});
+        EXPECT_EQ(Users("SELECT count(*) FROM USER_FOODS WHERE UDate = '" +
+                        date.toString(Qt::ISODate) + "'"),
+                  1);
+        Enter("150");
+        EXPECT_EQ(StoredWeight(date).toDouble(), 150);
+    }
+}
+
+TEST_F(frmDayTest, NoDayBeforeTheYear100CanBePicked) {
+    Open();
+    Click(CalendarButton());
+    Calendar()->setSelectedDate(QDate(50, 6, 1));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    EXPECT_EQ(App().CurrentDate, QDate(100, 1, 1));
+}
+
+TEST_F(frmDayTest, KeysInTheYearFieldEndTheEntryOfTheYearAndNotTheCalendar) {
+    Open();
+    for (const auto& [key, year] : {std::pair(Qt::Key_Return, 1999), std::pair(Qt::Key_Enter, 1999),
+                                    std::pair(Qt::Key_Tab, 1999), std::pair(Qt::Key_Backtab, 1999),
+                                    std::pair(Qt::Key_Escape, 2002)}) {
+        Click(CalendarButton());
+        EnterYear("1999");
+        QTest::keyClick(YearField(), key);
+        EXPECT_TRUE(Find(screen.get(), "picCal")->isVisible()) << key;
+        EXPECT_FALSE(YearField()->isVisible()) << key;
+        EXPECT_EQ(Calendar()->yearShown(), year) << key;
+        EXPECT_TRUE(Calendar()->isAncestorOf(QApplication::focusWidget())) << key;
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+        EXPECT_FALSE(Find(screen.get(), "picCal")->isVisible()) << key;
+    }
+    EXPECT_EQ(App().CurrentDate, day);
+}
+
+TEST_F(frmDayTest, LeavingTheScreensCalendarFromTheYearFieldClosesIt) {
+    Open();
+    Click(CalendarButton());
+    EnterYear("1999");
+    Button("cmdClear")->setFocus();
+    EXPECT_FALSE(Find(screen.get(), "picCal")->isVisible());
+}
+
+TEST_F(frmDayTest, TheMenuOfMonthsWorksFromTheKeyboard) {
+    Open();
+    Click(CalendarButton());
+    auto* months = Find<QToolButton>(Calendar(), "qt_calendar_monthbutton");
+    months->setFocus(Qt::TabFocusReason);
+    QTimer::singleShot(0, [] {
+        QWidget* menu = QApplication::activePopupWidget();
+        ASSERT_NE(menu, nullptr);
+        for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Down, Qt::Key_Return})
+            QTest::keyClick(menu, key);
+    });
+    QTest::keyClick(months, Qt::Key_Space);
+    EXPECT_TRUE(Find(screen.get(), "picCal")->isVisible());
+    EXPECT_NE(Calendar()->monthShown(), 3);
+}
+
+TEST_F(frmDayTest, TheMenuOfMonthsIsAPartOfTheCalendar) {
+    Open();
+    Click(CalendarButton());
+    auto* menu = Find<QToolButton>(Calendar(), "qt_calendar_monthbutton")->menu();
+    menu->show();
+    menu->setFocus();
+    EXPECT_TRUE(Find(screen.get(), "picCal")->isVisible());
+    menu->hide();
 }
 
 TEST_F(frmDayTest, WeightBeingTypedIsSavedUnderTheOldDayWhenTheDayChanges) {

@@ -328,10 +328,18 @@ TEST_F(ProfileTest, InchesAloneFailOnTheFeetAndWriteNothing) {
     ExpectFailure(form, ErrorNumber::Overflow);
 }
 
-TEST_F(ProfileTest, WeightsBeyondAWholeNumberFailAndWriteNothing) {
-    frmProfile* form = Fresh();
-    Type(form, "txtWeight", "1e10");
-    ExpectFailure(form, ErrorNumber::Overflow);
+TEST_F(ProfileTest, WeightsAboveAMillionHaveAMessageOfTheirOwn) {
+    const std::pair<const char*, const char*> fields[] = {
+        {"txtWeight", "Please enter a Current Weight of 1,000,000 pounds or less."},
+        {"txtDWeight", "Please enter a Desired Weight of 1,000,000 pounds or less."}};
+    for (const auto& [field, message] : fields) {
+        frmProfile* form = Fresh();
+        for (const char* pounds : {"1000000.5", "1e10"}) {
+            Type(form, field, QLatin1String(pounds));
+            ExpectRefusal(form, QLatin1String(message));
+        }
+        delete form;
+    }
 }
 
 TEST_F(ProfileTest, AgesInAGapFailAndWriteNothing) {
@@ -864,6 +872,18 @@ TEST_F(ProfileTest, TheTopBandMovesTheForm) {
     EXPECT_EQ(form->pos(), QPoint(90, 40));
     Drag(form, QPoint(300, Twips::ToPixels(255) - 1), QPoint(-40, 20));
     EXPECT_EQ(form->pos(), QPoint(50, 60));
+}
+
+TEST_F(ProfileTest, InTheNestTheTopBandMovesNothing) {
+    frmProfile* form = Edit(AddUser("Anna"));
+    QWidget nest;
+    nest.resize(900, 700);
+    form->setParent(&nest);
+    form->move(84, 66);
+    form->show();
+    Drag(form, QPoint(300, 5), QPoint(40, 20));
+    EXPECT_EQ(form->pos(), QPoint(84, 66));
+    form->setParent(nullptr);
 }
 
 TEST_F(ProfileTest, BelowTheTopBandNothingMoves) {

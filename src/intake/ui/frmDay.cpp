@@ -7,6 +7,7 @@
 #include "intake/ui/DayCalendar.h"
 #include "intake/ui/WeightField.h"
 #include "intake/ui/ucMyFood.h"
+#include "model/EnergyTargets.h"
 #include "model/User.h"
 #include "runtime/AppState.h"
 #include "runtime/Convert.h"
@@ -34,12 +35,16 @@ constexpr int panelWidth = 338;
 constexpr int weightWidth = 62;
 constexpr QSize calendarPicture(18, 18);
 
-/// No one's energy need is worked out beyond this: heavier entries would not fit a whole number.
-constexpr double heaviest = 1'000'000; // pounds
-
 bool IsWeight(double weight) {
-    return weight > 0 && weight <= heaviest;
+    return weight > 0 && weight <= HeaviestWeight;
 }
+
+const QString NoWeight = QStringLiteral(
+    "Please enter a valid weight greater than '0'. To remove the weight entry for this day, delete "
+    "the entry from the weight field.");
+const QString TooHeavy = QStringLiteral(
+    "Please enter a weight of 1,000,000 pounds or less. To remove the weight entry for this day, "
+    "delete the entry from the weight field.");
 
 } // namespace
 
@@ -170,10 +175,7 @@ void frmDay::SaveWeight() {
     const QString text = txtWeight_->text();
     const double weight = Val(text);
     if (!text.isEmpty() && !IsWeight(weight)) {
-        ShowAlert(QStringLiteral(
-                      "Please enter a valid weight greater than '0'. To remove the weight entry "
-                      "for this day, delete the entry from the weight field."),
-                  this);
+        ShowAlert(weight > HeaviestWeight ? TooHeavy : NoWeight, this);
         return;
     }
     DayLog::SetWeight(App().CurrentDate, weight);
@@ -220,12 +222,9 @@ void frmDay::CloseCalendar() {
     picCal_->hide();
 }
 
-/// Month first, whatever the machine's date settings.
 void frmDay::PickDay(QDate day) {
     CloseCalendar();
-    App().CurrentDate =
-        ToDate(QString(QString::number(day.month()) + u'/' + QString::number(day.day()) + u'/' +
-                       QString::number(day.year())));
+    App().CurrentDate = day;
     PassDay();
     buildDate();
     DoWinInit();

@@ -1,15 +1,16 @@
 #include "model/ui/ProfileBasics.h"
 
+#include "model/EnergyTargets.h"
 #include "runtime/Convert.h"
 #include "runtime/Val.h"
 #include "store/Recordset.h"
 #include "toolkit/Labels.h"
+#include "toolkit/LineField.h"
 #include "toolkit/Style.h"
 #include "toolkit/ucBox.h"
 #include "toolkit/ucRadio.h"
 
 #include <QGridLayout>
-#include <QLineEdit>
 
 #include <span>
 
@@ -52,7 +53,7 @@ template <class Layout> Layout* LayOut(ucBox* box) {
 }
 
 QLineEdit* MakeField(QWidget* parent, const char* name, const char* spoken, const char* tip) {
-    auto* field = new QLineEdit(parent);
+    auto* field = new LineField(parent);
     field->setObjectName(Text(name));
     field->setAccessibleName(Text(spoken));
     field->setToolTip(Text(tip));
@@ -218,7 +219,11 @@ QString ProfileBasics::FirstProblem() const {
         {Val(txtInches_->text()) >= inchesInAFoot, "Please enter an Inches value of 11 or less."},
         {Age() <= 0, "Please enter your Age."},
         {CurrentWeight() <= 0, "Please enter your Current Weight."},
+        {CurrentWeight() > HeaviestWeight,
+         "Please enter a Current Weight of 1,000,000 pounds or less."},
         {DesiredWeight() <= 0, "Please enter your Desired Weight."},
+        {DesiredWeight() > HeaviestWeight,
+         "Please enter a Desired Weight of 1,000,000 pounds or less."},
         {Gender() < 0, "Please select your Gender."},
         {ActivityLevel() < 0, "Please select your Activity Level."},
     };

@@ -85,12 +85,15 @@ void frmProfile::CreateFirstUser() {
     delete form.data();
 }
 
+/// The loop ends with the form: a press that it still took would be lost for the window that comes
+/// next.
 void frmProfile::ShowModally() {
     setWindowFlags(Qt::Dialog | Qt::FramelessWindowHint);
     setWindowModality(Qt::ApplicationModal);
     resize(firstUserSize);
     CentreWindow(this);
     QEventLoop untilClosed;
+    connect(this, &frmProfile::Closed, &untilClosed, &QEventLoop::quit);
     connect(this, &QObject::destroyed, &untilClosed, &QEventLoop::quit);
     show();
     basics_->FocusFirst();
@@ -278,7 +281,9 @@ void frmProfile::paintEvent(QPaintEvent* event) {
 /// The first user cannot do without a profile: closing the window asks like Cancel.
 void frmProfile::closeEvent(QCloseEvent* event) {
     event->setAccepted(leaving_ || !firstUser_);
-    if (!event->isAccepted())
+    if (event->isAccepted())
+        Q_EMIT Closed();
+    else
         cmdCancel_Click();
 }
 
@@ -288,9 +293,10 @@ void frmProfile::keyPressEvent(QKeyEvent* event) {
     Screen::keyPressEvent(event);
 }
 
+/// In the nest it stays where it is.
 void frmProfile::mousePressEvent(QMouseEvent* event) {
     const bool inBand = event->position().y() < Twips::ToPixels(dragBand);
-    dragging_ = event->button() == Qt::LeftButton && inBand;
+    dragging_ = isWindow() && event->button() == Qt::LeftButton && inBand;
     grip_ = event->globalPosition().toPoint() - pos();
 }
 

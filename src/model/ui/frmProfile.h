@@ -30,6 +30,9 @@ public:
     QString Tag() const { return tag_; }
     void DoWinInit() override;
 
+Q_SIGNALS:
+    void Closed();
+
 protected:
     void closeEvent(QCloseEvent*) override;
     void paintEvent(QPaintEvent*) override;
