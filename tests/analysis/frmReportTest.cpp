@@ -423,6 +423,60 @@ TEST_F(frmReportTest, ChoosingAViewAfterwardsShowsNoBarOfThePeriodBefore) {
         EXPECT_EQ(Find(Bars(), QStringLiteral("imgBar%1").arg(row))->width(), 0) << row;
 }
 
+TEST_F(frmReportTest, AfterTheMessageNoViewShowsFiguresOfThePeriodBefore) {
+    LogWeek();
+    Open();
+    Press("cmdVals");
+    SetPeriod(QStringLiteral("1/1/2002"), QStringLiteral("1/31/2002"));
+    ExpectAlert(NoWeight("1/1/2002", "1/31/2002"));
+    Press("cmdRefresh");
+    for (const char* view : {"cmdVals", "cmdBar", "cmdPie", "cmdLine"}) {
+        Press(view);
+        for (int row = 1; row <= 31; ++row) {
+            EXPECT_EQ(ValueText(row), QString()) << row;
+            EXPECT_EQ(BarWidth(row), 0) << row;
+        }
+        for (const AxisLabel* label : Line()->findChildren<AxisLabel*>())
+            EXPECT_TRUE(label->isHidden() || label->Caption().isEmpty()) << view;
+    }
+    Press("cmdBar");
+    EXPECT_EQ(Find(Bars(), QStringLiteral("ucHeader1"))->property("Caption").toString(),
+              QStringLiteral(" Percent RDI (avg weight: 0 lbs)"));
+    EXPECT_EQ(PieText(), QStringLiteral("No data to chart"));
+    EXPECT_EQ(LineText(), QStringLiteral("No weight data To chart"));
+    EXPECT_EQ(Bars()->SpokenValue(), QStringLiteral("No data to chart"));
+}
+
+TEST_F(frmReportTest, AWeightInTheNextPeriodBringsAllFiguresBack) {
+    LogWeek();
+    Open();
+    SetPeriod(QStringLiteral("1/1/2002"), QStringLiteral("1/31/2002"));
+    ExpectAlert(NoWeight("1/1/2002", "1/31/2002"));
+    Press("cmdRefresh");
+    SetPeriod(QStringLiteral("3/28/2002"), QStringLiteral("4/3/2002"));
+    Press("cmdRefresh");
+    EXPECT_EQ(BarWidth(1), 3000);
+    Press("cmdVals");
+    EXPECT_TRUE(ValueText(1).endsWith(QStringLiteral("1,000 kcal")));
+    Press("cmdLine");
+    EXPECT_EQ(Line()->Points().size(), 7U);
+    EXPECT_FALSE(Find<AxisLabel>(Line(), QStringLiteral("lblWeight7"))->Caption().isEmpty());
+}
+
+TEST_F(frmReportTest, TheChartItselfFailsOnAnInvalidDateWhenItIsShown) {
+    LogWeek();
+    Open();
+    Type("txtStart", QStringLiteral("rubbish"));
+    EXPECT_EQ(FailureOf([&] { Line()->show(); }), ErrorNumber::TypeMismatch);
+}
+
+TEST_F(frmReportTest, TheMessageNamesThePeriodThatWasRead) {
+    Open();
+    Type("txtStart", QStringLiteral("4/1/2002"));
+    ExpectAlert(NoWeight("3/28/2002", "4/3/2002"));
+    RunQueued();
+}
+
 TEST_F(frmReportTest, EntriesOfZeroAreNoWeight) {
     Weigh(0, Today);
     Open();

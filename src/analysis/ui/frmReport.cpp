@@ -1,11 +1,11 @@
 #include "analysis/ui/frmReport.h"
 
-#include "analysis/Period.h"
 #include "analysis/WeightLog.h"
 #include "analysis/ui/ViewButtons.h"
 #include "analysis/ui/ucBarChart.h"
 #include "analysis/ui/ucLineChart.h"
 #include "analysis/ui/ucPieChart.h"
+#include "runtime/Attempt.h"
 #include "runtime/Clock.h"
 #include "runtime/Convert.h"
 #include "runtime/Dates.h"
@@ -13,13 +13,13 @@
 #include "runtime/RuntimeError.h"
 #include "runtime/Seams.h"
 #include "runtime/Settings.h"
+#include "toolkit/LineField.h"
 #include "toolkit/MousePointer.h"
 #include "toolkit/Style.h"
 #include "toolkit/ucAALBL.h"
 #include "toolkit/ucButton.h"
 
-#include <QEvent>
-#include <QLineEdit>
+#include <QShowEvent>
 
 #include <utility>
 
@@ -28,6 +28,9 @@ namespace {
 const QString StateSetting = QStringLiteral("REPORTSTATE");
 constexpr int DaysBefore = 6; ///< of the period that the screen comes up with
 
+const QString InvalidDate =
+    QStringLiteral("Please enter a valid start date for the report in the format 'month/day/year' "
+                   "(eg 4/3/2002).");
 const QString NoWeight = QStringLiteral(
     "There is no weight entry from %1 to %2, so the percent bars and the average values of this "
     "period cannot be worked out. Enter a weight for one of its days on the screen \"Daily "
@@ -75,7 +78,7 @@ void frmReport::AddPeriod() {
 }
 
 QLineEdit* frmReport::AddDateField(const char* name, const QString& accessibleName) {
-    auto* field = new QLineEdit(this);
+    auto* field = new LineField(this);
     field->setObjectName(QLatin1String(name));
     field->setAccessibleName(accessibleName);
     field->resize(dateWidth, TheStyle().fieldHeight);
@@ -130,21 +133,17 @@ void frmReport::ShowLastDays() {
     UpdateCharts();
 }
 
-QDate frmReport::Start() const {
-    return ToDate(txtStart_->text());
+bool frmReport::HasPeriod() const {
+    return Dates::IsDate(txtStart_->text()) && Dates::IsDate(txtEnd_->text());
 }
 
-QDate frmReport::End() const {
-    return ToDate(txtEnd_->text());
+Period frmReport::PeriodTyped() const {
+    return {ToDate(txtStart_->text()), ToDate(txtEnd_->text())};
 }
 
 void frmReport::Refresh() {
-    if (!Dates::IsDate(txtStart_->text()) || !Dates::IsDate(txtEnd_->text())) {
-        ShowAlert(QStringLiteral("Please enter a valid start date for the report in the format "
-                                 "'month/day/year' (eg 4/3/2002)."),
-                  this);
-        return;
-    }
+    if (!HasPeriod())
+        return TellInvalidDate();
     UpdateCharts();
     TellNoWeight();
 }
@@ -152,42 +151,94 @@ void frmReport::Refresh() {
 void frmReport::UpdateCharts() {
     MousePointer::SetBusy();
     const MousePointer::NormalAtEnd normalAtEnd;
-    missesWeight_ = !UpdateBars();
-    ucPie_->updatePie(Start(), End());
-    ucLine_->updateLineChart(Start(), End());
+    shown_ = PeriodTyped();
+    hasWeight_ = UpdateBars();
+    untold_ = !hasWeight_;
+    ucPie_->updatePie(shown_.from, shown_.to);
+    ucLine_->updateLineChart(shown_.from, shown_.to);
+    if (!hasWeight_)
+        ucLine_->ClearLabels();
 }
 
 /// False where the period has no weight: its average is Null then, and there is nothing to work the
 /// targets out for. The other charts are not held up by that.
 bool frmReport::UpdateBars() {
     try {
-        ucBar_->updateBars(Start(), End());
+        ucBar_->updateBars(shown_.from, shown_.to);
         return true;
     } catch (const RuntimeError& failure) {
         const bool averageIsNull = failure.Number() == ErrorNumber::InvalidUseOfNull;
-        if (!averageIsNull || !WeightLog::Entries({Start(), End()}).empty())
+        if (!averageIsNull || !WeightLog::Entries(shown_).empty())
             throw;
     }
-    ucBar_->ClearBars();
+    ucBar_->ClearFigures();
     return false;
 }
 
-void frmReport::TellNoWeight() {
-    if (isHidden() || !std::exchange(missesWeight_, false))
-        return;
-    const QString& message = End() < Start() ? DaysReversed : NoWeight;
-    ShowAlert(message.arg(Dates::ShortText(Start()), Dates::ShortText(End())), this);
+/// A weight that was missing before is not told again.
+void frmReport::CatchUp() {
+    const bool known = !hasWeight_ && !untold_;
+    UpdateCharts();
+    untold_ = untold_ && !known;
 }
 
-/// What the loading has found is told when the screen has come up, not while it does.
+/// Without a period the line keeps what it shows: it would fail on reading the fields.
+void frmReport::hideEvent(QHideEvent* event) {
+    Screen::hideEvent(event);
+    if (event->spontaneous())
+        return;
+    left_ = true;
+    SetRegValue(StateSetting, state_);
+    if (!HasPeriod())
+        ucLine_->ReadPeriodFrom(nullptr, nullptr);
+}
+
+void frmReport::showEvent(QShowEvent* event) {
+    Screen::showEvent(event);
+    if (event->spontaneous())
+        return;
+    ucLine_->ReadPeriodFrom(txtStart_, txtEnd_);
+    if (std::exchange(left_, false) && HasPeriod())
+        Attempt([this] { CatchUp(); });
+}
+
+void frmReport::TellFindings() {
+    if (isHidden())
+        return;
+    if (HasPeriod())
+        TellNoWeight();
+    else
+        TellInvalidDate();
+}
+
+void frmReport::TellInvalidDate() {
+    ShowAlert(InvalidDate, this);
+}
+
+void frmReport::TellNoWeight() {
+    if (!std::exchange(untold_, false))
+        return;
+    const QString& message = shown_.to < shown_.from ? DaysReversed : NoWeight;
+    ShowAlert(message.arg(Dates::ShortText(shown_.from), Dates::ShortText(shown_.to)), this);
+}
+
+/// What is amiss is told when the screen has come up, not while it does.
 void frmReport::DoWinInit() {
-    if (missesWeight_)
-        QMetaObject::invokeMethod(this, &frmReport::TellNoWeight, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(this, &frmReport::TellFindings, Qt::QueuedConnection);
     const QString state = GetRegValue(StateSetting);
-    ChooseView(state.isEmpty() ? Bars : ToInteger(state));
+    const qint32 view = state.isEmpty() ? Bars : ToInteger(state);
+    if (HasPeriod())
+        ShowView(view);
 }
 
 void frmReport::ChooseView(qint32 view) {
+    if (HasPeriod())
+        ShowView(view);
+    else
+        TellInvalidDate();
+}
+
+void frmReport::ShowView(qint32 view) {
     state_ = QString::number(view);
     if (view < Bars || view > Values)
         return;

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "analysis/Period.h"
 #include "toolkit/Screen.h"
 
-class QDate;
 class QLineEdit;
 class ViewButtons;
 class ucAALBL;
@@ -13,7 +13,7 @@ class ucPieChart;
 
 /// The screen "Report": a period and one of four views of it. The three charts are refreshed
 /// together; choosing a view only shows and hides them. It comes up with the last seven days, and
-/// with the view that was shown last.
+/// with the view that was shown last. Kept hidden and shown again, it has the figures of now.
 class frmReport : public Screen {
     Q_OBJECT
 
@@ -26,6 +26,8 @@ public:
 
 protected:
     void resizeEvent(QResizeEvent*) override;
+    void showEvent(QShowEvent*) override;
+    void hideEvent(QHideEvent*) override;
     void closeEvent(QCloseEvent*) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -38,12 +40,16 @@ private:
 
     void ShowLastDays();
     void Refresh();
+    bool HasPeriod() const; ///< both fields hold a date
+    Period PeriodTyped() const;
     void UpdateCharts();
     bool UpdateBars();
+    void CatchUp();
+    void TellFindings();
+    void TellInvalidDate();
     void TellNoWeight();
-    QDate Start() const;
-    QDate End() const;
     void ChooseView(qint32 view);
+    void ShowView(qint32 view);
     void GoHome();
 
     ucAALBL* aaLBL_;
@@ -55,6 +61,9 @@ private:
     ucBarChart* ucBar_;
     ucPieChart* ucPie_;
     ucLineChart* ucLine_;
-    QString state_;             ///< the view's number
-    bool missesWeight_ = false; ///< to be told when the screen stands in front
+    QString state_;         ///< the view's number
+    Period shown_;          ///< by the charts
+    bool hasWeight_ = true; ///< that period
+    bool untold_ = false;   ///< that it has none: to be told when the screen stands in front
+    bool left_ = false;     ///< hidden since the charts were refreshed
 };

@@ -211,6 +211,16 @@ void ucBarChart::ClearBars() {
     TellValueChanged();
 }
 
+void ucBarChart::ClearFigures() {
+    sums_ = Nuts();
+    days_ = 0;
+    averageWeight_ = 0;
+    for (const auto& row : rows_)
+        row->lblVal()->SetCaption(QString());
+    Toggle(mode_ == ValuesMode ? 1 : 0);
+    ClearBars();
+}
+
 void ucBarChart::Toggle(int mode) {
     if (mode != 0 && mode != 1)
         return;

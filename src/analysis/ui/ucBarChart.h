@@ -28,6 +28,7 @@ public:
     /// Fails with an invalid use of Null, and changes nothing, where the period has no weight.
     void updateBars(QDate start, QDate end);
     void ClearBars();                      ///< the values stay
+    void ClearFigures();                   ///< bars, values and the average weight
     void Toggle(int mode);                 ///< 0 bars, 1 values; any other does nothing
     QString Mode() const { return mode_; } ///< "BARS" or "VALS"
     void StoreMode() const; ///< as its end does; for a host that closes before its parts go

@@ -118,6 +118,14 @@ void ucLineChart::updateLineChart(QDate startDate, QDate endDate) {
     TellValueChanged();
 }
 
+void ucLineChart::ClearLabels() {
+    for (AxisLabel* label : lblWeight_)
+        label->SetCaption(QString());
+    for (AxisLabel* label : lblDate_)
+        label->hide();
+    update();
+}
+
 void ucLineChart::ShowDates(const DateAxis& axis) {
     std::array<bool, DateAxis::LabelCount> shown{};
     for (const DateAxis::Label& date : axis.Labels()) {

@@ -21,7 +21,8 @@ struct PlotPoint {
 
 /// The user's weights of a period as a line over a date axis and a weight axis. Both axes follow
 /// from the entries, not from the period asked for. Without any entry a notice stands on the axes,
-/// whose labels stay as they were. Raises MouseMove from its background, labels and header.
+/// whose labels stay as they were until they are cleared. Raises MouseMove from its background,
+/// labels and header.
 class ucLineChart : public PeriodChart {
     Q_OBJECT
 
@@ -33,6 +34,7 @@ public:
     void ReadPeriodFrom(const QLineEdit* txtStart, const QLineEdit* txtEnd);
     void updateLineChart(QDate startDate, QDate endDate);
     void Liner(std::vector<PlotPoint> points); ///< draws the line through these points
+    void ClearLabels();                        ///< of both axes
 
     const std::vector<PlotPoint>& Points() const { return points_; }
     QSize sizeHint() const override;
