@@ -1,5 +1,6 @@
 #include "core/MenuItems.h"
 
+#include "core/Navigation.h"
 #include "core/OpenURL.h"
 #include "core/frmHOME.h"
 #include "core/frmPrefs.h"
@@ -7,6 +8,7 @@
 #include "model/User.h"
 #include "model/ui/frmProfile.h"
 #include "recipes/ui/frmImport.h"
+#include "recipes/ui/frmRecipeManager.h"
 #include "runtime/Server.h"
 
 #include <QTimer>
@@ -17,8 +19,11 @@ void Exit(frmHOME& frame) {
     Q_EMIT frame.QuitRequested();
 }
 
+/// A list of recipes that stands in front shows the new one.
 void ImportRecipes(frmHOME& frame) {
     frmImport(&frame).ShowModal();
+    if (auto* recipes = qobject_cast<frmRecipeManager*>(TheNavigation().Front()))
+        recipes->DoWinInit();
 }
 
 void Preferences(frmHOME& frame) {

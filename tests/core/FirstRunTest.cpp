@@ -7,12 +7,14 @@
 #include "core/frmHOME.h"
 #include "model/User.h"
 #include "model/ui/frmProfile.h"
+#include "recipes/RecipeStore.h"
 #include "runtime/AppPath.h"
 #include "runtime/AppState.h"
 #include "runtime/Clock.h"
 #include "runtime/Seams.h"
 #include "runtime/Settings.h"
 #include "store/Connection.h"
+#include "toolkit/ListBox.h"
 
 #include <QApplication>
 #include <QLineEdit>
@@ -45,16 +47,17 @@ protected:
         Click(Find(form, QStringLiteral("opGender0")));
         Click(Find(form, QStringLiteral("opAct1")));
     }
-    void CreateAnna() {
+    void CreateAnna(const std::function<void()>& whenSaved = [] {}) {
         ASSERT_EQ(RunMain(), 0);
         ExpectAlert(QStringLiteral(
             "Your profile has been created. The RDI values created should be used only as "
             "guidelines. You can edit these values by using the 'Edit My Profile' feature (under "
             "the 'Edit' menu)."));
         WithModal(
-            [](QWidget* profile) {
+            [&](QWidget* profile) {
                 FillIn(profile);
                 Click(Find(profile, QStringLiteral("cmdSave")));
+                whenSaved();
             },
             [this] {
                 Click(Find(Window(QStringLiteral("frmWelcome")), QStringLiteral("cmdBegin")));
@@ -74,6 +77,22 @@ protected:
         Click(Find(Frame(), QStringLiteral("cmdDay")));
         RunDeferredDeletes();
     }
+    void ShowRecipes() {
+        Click(Find(Frame(), QStringLiteral("cmdRecipes")));
+        RunDeferredDeletes();
+    }
+    QStringList ListedRecipes() {
+        return Find<ListBox>(Frame(), QStringLiteral("lsRecipes"))->List();
+    }
+    /// Opens the import by the menu; a recipe comes in while it stands open.
+    void ImportByTheMenu() {
+        WithModal(
+            [](QWidget* dialog) {
+                RecipeStore::AddRecipe();
+                dialog->close();
+            },
+            [] { ChooseFromMenu(2); });
+    }
     void PressEditProfile() { ChooseFromMenu(7); }
     static void EndOfRoutine() { QCoreApplication::sendPostedEvents(); }
 };
@@ -89,6 +108,44 @@ TEST_F(FirstRunTest, FromWelcomeThroughTheProfileToTheHomeScreen) {
     EXPECT_EQ(App().CurrentDate, QDate(2026, 11, 21));
     EXPECT_EQ(Window(QStringLiteral("frmWelcome")), nullptr);
     EXPECT_EQ(Window(QStringLiteral("frmProfile")), nullptr);
+}
+
+TEST_F(FirstRunTest, TheLoopOfTheFirstProfileEndsWhenTheFormCloses) {
+    bool waiting = true;
+    bool handledInside = false;
+    QTimer next;
+    QObject::connect(&next, &QTimer::timeout, [&] { handledInside = handledInside || waiting; });
+    CreateAnna([&] { next.start(0); });
+    waiting = false;
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(handledInside);
+}
+
+TEST_F(FirstRunTest, ImportingByTheMenuRefreshesTheListOfRecipesInFront) {
+    CreateAnna();
+    ShowRecipes();
+    ASSERT_EQ(ListedRecipes(), QStringList());
+    ImportByTheMenu();
+    EXPECT_EQ(ListedRecipes().size(), 1);
+}
+
+TEST_F(FirstRunTest, ImportingByTheMenuLeavesARecipeThatIsBeingEdited) {
+    CreateAnna();
+    ShowRecipes();
+    Click(Find(Frame(), QStringLiteral("cmdNew")));
+    Type(Frame(), "txtName", "Soup");
+    ImportByTheMenu();
+    EXPECT_EQ(ListedRecipes(), QStringList());
+    auto* name = Find<QLineEdit>(Frame(), QStringLiteral("txtName"));
+    EXPECT_TRUE(name->isVisible());
+    EXPECT_EQ(name->text(), QStringLiteral("Soup"));
+}
+
+TEST_F(FirstRunTest, ImportingByTheMenuOverAnotherScreenLeavesThatInFront) {
+    CreateAnna();
+    ShowDay();
+    ImportByTheMenu();
+    EXPECT_EQ(TheNavigation().Front()->objectName(), QStringLiteral("frmDay"));
 }
 
 TEST_F(FirstRunTest, TheSecondStartFindsEverythingThere) {
