@@ -56,3 +56,12 @@ TEST(Agreement, IsShortEnoughToBeRead) {
     EXPECT_GE(words, 300);
     EXPECT_LE(words, 500);
 }
+
+/// The facts have no blank: a value that is not known is shown as 0 and counted as 0.
+TEST(Texts, SayThatAnUnknownValueShowsAsZeroAndNoneThatItIsABlank) {
+    for (const char* name : {"tips.txt", "agreement.txt", "help/facts.html"}) {
+        const QString text = Lines(name).join(u' ');
+        EXPECT_TRUE(text.contains(QStringLiteral("shows as 0"))) << name;
+        EXPECT_FALSE(text.contains(QStringLiteral("blank"), Qt::CaseInsensitive)) << name;
+    }
+}
