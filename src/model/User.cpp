@@ -78,7 +78,7 @@ void User::GetUserProfile(qint32 uid) {
     DesiredWeight = row[QStringLiteral("desired_weight")].Integer();
     UserName = row[QStringLiteral("UserName")].Text();
     for (Nutrient id : ProfileOrder())
-        RDIs.Set(id, row[Column(id)].Number());
+        RDIs.Set(id, row[Column(id)].NumberOr(0));
     row.Close();
 }
 

@@ -453,11 +453,16 @@ TEST_F(UserTest, AKeyWithoutARowFails) {
     EXPECT_EQ(FailureOf([&] { user.GetUserProfile(4711); }), ErrorNumber::NoCurrentRecord);
 }
 
-TEST_F(UserTest, ANullReadIntoANumberFails) {
+TEST_F(UserTest, ATargetThatIsNotSetLoadsAsZero) {
     const qint32 uid = AddUser();
-    Users("UPDATE profiles SET protein = NULL");
-    User user;
-    EXPECT_EQ(FailureOf([&] { user.GetUserProfile(uid); }), ErrorNumber::InvalidUseOfNull);
+    User& user = User::Current();
+    for (const char* column : {"VitaminA", "VitaminE", "Calories", "protein"})
+        Users(QStringLiteral("UPDATE profiles SET %1 = NULL").arg(QLatin1String(column)));
+    user.GetUserProfile(uid);
+    for (const Nutrient id :
+         {Nutrient::VitaminA, Nutrient::VitaminE, Nutrient::Calories, Nutrient::Protein})
+        EXPECT_EQ(user.RDIs[id], 0) << Info(id).property;
+    EXPECT_EQ(user.RDIs[Nutrient::VitaminC], 90);
 }
 
 TEST_F(UserTest, RecalculationDoesNothingWhereTheSettingIsOff) {
