@@ -108,6 +108,13 @@ qint32 ListBox::ItemData(int index) const {
     return line ? line->itemData : 0;
 }
 
+int ListBox::LineOf(qint32 itemData) const {
+    for (int line = 0; line < ListCount(); ++line)
+        if (ItemData(line) == itemData)
+            return line;
+    return -1;
+}
+
 void ListBox::selectionChanged(const QItemSelection& chosen, const QItemSelection& left) {
     QListView::selectionChanged(chosen, left);
     if (!quiet_ && !chosen.isEmpty())

@@ -26,6 +26,7 @@ public:
     QStringList List() const;
     Q_INVOKABLE QString Text(int index) const;    ///< empty where there is no such line
     Q_INVOKABLE qint32 ItemData(int index) const; ///< 0 where there is no such line
+    int LineOf(qint32 itemData) const;            ///< the first line that carries it; -1 for none
 
 Q_SIGNALS:
     void Click();

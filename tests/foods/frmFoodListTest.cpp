@@ -528,6 +528,16 @@ TEST_F(frmFoodListTest, AnEmptyAmountComesBackAsZero) {
         EXPECT_EQ(Field(row.field).text(), "0") << row.field;
 }
 
+TEST_F(frmFoodListTest, OwnFoodsAreListedInTheOrderThatAPersonExpects) {
+    const char* names[] = {"Zebra", "éclair", "Äpfel", "apple", "Apple", "œuf", "Ñame", "nut"};
+    for (int i = 0; i < int(std::size(names)); ++i)
+        AddFood({.id = 23509 + i, .name = QString::fromUtf8(names[i])});
+    frmFoodList form;
+    EXPECT_EQ(Find<ListBox>(&form, "FoodList")->List(),
+              QStringList({"apple", "Apple", "Äpfel", "éclair", "nut", "Ñame", "œuf", "Zebra"}));
+    EXPECT_EQ(Find<ListBox>(&form, "FoodList")->ItemData(7), 23509);
+}
+
 TEST_F(frmFoodListTest, KeysCountOnFromTheHighestWhateverTheOrderOfAdding) {
     AddFood({.id = 23600, .name = "a"});
     AddFood({.id = 23550, .name = "z"});

@@ -183,7 +183,7 @@ TEST_F(frmRecipeManagerTest, NoRecipesLeaveTheScreenEmptyWithoutASelection) {
 
 TEST_F(frmRecipeManagerTest, ShowsTheFirstRecipeAsSoonAsItOpens) {
     const qint32 id = Recipe("Lentil soup", "1 bowl", 4, 45, "Rinse the lentils.");
-    Recipe("Bean salad");
+    Recipe("Melon salad");
     AddIngredients(id, 3, 400);
     Open();
     ExpectViewing();
@@ -198,14 +198,37 @@ TEST_F(frmRecipeManagerTest, ShowsTheFirstRecipeAsSoonAsItOpens) {
     EXPECT_EQ(IngredientNames(), QStringList({"Food 1", "Food 2", "Food 3"}));
 }
 
-TEST_F(frmRecipeManagerTest, ListsRecipesInTheOrderOfCreation) {
-    const qint32 zucchini = Recipe("Zucchini");
+TEST_F(frmRecipeManagerTest, ListsRecipesInTheOrderThatAPersonExpects) {
+    const qint32 zebra = Recipe("Zebra");
+    Recipe("éclair");
+    Recipe("Äpfel");
     const qint32 apple = Recipe("apple");
+    Open();
+    EXPECT_EQ(List()->List(), QStringList({"apple", "Äpfel", "éclair", "Zebra"}));
+    EXPECT_EQ(List()->ItemData(0), apple);
+    EXPECT_EQ(List()->ItemData(3), zebra);
+}
+
+TEST_F(frmRecipeManagerTest, RecipesOfOneNameStandInTheOrderOfCreation) {
+    const qint32 first = Recipe("Soup");
+    const qint32 second = Recipe("soup");
+    const qint32 third = Recipe("Soup");
+    Open();
+    EXPECT_EQ(List()->ItemData(0), first);
+    EXPECT_EQ(List()->ItemData(1), second);
+    EXPECT_EQ(List()->ItemData(2), third);
+}
+
+TEST_F(frmRecipeManagerTest, ARenamedRecipeStaysChosenAtItsNewPlace) {
+    const qint32 id = Recipe("Apple pie");
     Recipe("Middle");
     Open();
-    EXPECT_EQ(List()->List(), QStringList({"Zucchini", "apple", "Middle"}));
-    EXPECT_EQ(List()->ItemData(0), zucchini);
-    EXPECT_EQ(List()->ItemData(1), apple);
+    Press("cmdEdit");
+    Type("txtName", "Zebra cake");
+    Press("cmdEdit");
+    EXPECT_EQ(List()->List(), QStringList({"Middle", "Zebra cake"}));
+    EXPECT_EQ(screen->CurrentRecipe(), id);
+    EXPECT_EQ(List()->ListIndex(), 1);
 }
 
 TEST_F(frmRecipeManagerTest, ARecipeWithoutANameStillHasALine) {
@@ -217,7 +240,7 @@ TEST_F(frmRecipeManagerTest, ARecipeWithoutANameStillHasALine) {
 }
 
 TEST_F(frmRecipeManagerTest, ClickOnALineShowsThatRecipe) {
-    Recipe("Soup");
+    Recipe("Bean soup");
     const qint32 salad = Recipe("Salad", "1 plate", 2, 10, "Toss.");
     AddIngredients(salad, 1, 90);
     Open();
@@ -229,7 +252,7 @@ TEST_F(frmRecipeManagerTest, ClickOnALineShowsThatRecipe) {
 }
 
 TEST_F(frmRecipeManagerTest, ArrowKeysWalkTheList) {
-    Recipe("Soup");
+    Recipe("Bean soup");
     Recipe("Salad");
     Open();
     QTest::keyClick(List(), Qt::Key_Down);
@@ -243,12 +266,13 @@ TEST_F(frmRecipeManagerTest, RecipeWithoutIngredientsShowsNoCalories) {
 }
 
 TEST_F(frmRecipeManagerTest, NullsLeaveNameAndInstructionsEmptyAndTheOtherLabelsAsTheyStood) {
-    Recipe("Soup", "1 bowl", 4, 45, "Stir.");
+    Recipe("Bean soup", "1 bowl", 4, 45, "Stir.");
     Recipe("Salad");
     UserDB().Raw().exec("UPDATE Recipes SET RecipeName = NULL, Instructions = NULL, ServingName = "
                         "NULL, RecipeYield = NULL, PrepTime = NULL WHERE RecipeName = 'Salad'");
     Open();
     List()->SetListIndex(1);
+    List()->SetListIndex(0);
     EXPECT_EQ(Shown("aaRecipeName"), "");
     EXPECT_EQ(Instructions()->toPlainText(), "");
     EXPECT_EQ(Shown("lblRecYield"), "4");
@@ -264,26 +288,26 @@ TEST_F(frmRecipeManagerTest, FractionsShowInTheirShortestForm) {
 }
 
 TEST_F(frmRecipeManagerTest, ListingKeepsTheChosenPlace) {
-    Recipe("One");
-    Recipe("Two");
-    Recipe("Three");
+    Recipe("Apple");
+    Recipe("Bread");
+    Recipe("Cake");
     Open();
     List()->SetListIndex(1);
     screen->ListRecipes();
     EXPECT_EQ(List()->ListIndex(), 1);
-    EXPECT_EQ(Shown("aaRecipeName"), "Two");
+    EXPECT_EQ(Shown("aaRecipeName"), "Bread");
 }
 
 TEST_F(frmRecipeManagerTest, ListingAShorterListChoosesItsLastLine) {
-    Recipe("One");
-    Recipe("Two");
-    Recipe("Three");
+    Recipe("Apple");
+    Recipe("Bread");
+    Recipe("Cake");
     Open();
     List()->SetListIndex(2);
-    UserDB().Raw().exec("DELETE FROM Recipes WHERE RecipeName <> 'One'");
+    UserDB().Raw().exec("DELETE FROM Recipes WHERE RecipeName <> 'Apple'");
     screen->ListRecipes();
     EXPECT_EQ(List()->ListIndex(), 0);
-    EXPECT_EQ(Shown("aaRecipeName"), "One");
+    EXPECT_EQ(Shown("aaRecipeName"), "Apple");
 }
 
 TEST_F(frmRecipeManagerTest, FailedReadsOfTheListAreIgnored) {
@@ -586,19 +610,19 @@ TEST_F(frmRecipeManagerTest, NewRecipeEndsWithTheStoredEmptyServingAndAsksForIt)
     ExpectRefused("Please give your new recipe a serving size.");
 }
 
-TEST_F(frmRecipeManagerTest, SavedNewRecipeStandsLastAndTheCardShowsTheOneAtTheOldPlace) {
-    Recipe("One");
-    Recipe("Two");
+TEST_F(frmRecipeManagerTest, SavedNewRecipeIsListedByItsNameAndTheCardShowsTheOneThatWasChosen) {
+    Recipe("Apple");
+    Recipe("Bread");
     Open();
     List()->SetListIndex(1);
     Press("cmdNew");
-    Type("txtName", "Three");
+    Type("txtName", "Almonds");
     Type("txtServing", "1 slice");
     Press("cmdEdit");
     ExpectViewing();
-    EXPECT_EQ(List()->List(), QStringList({"One", "Two", "Three"}));
-    EXPECT_EQ(List()->ListIndex(), 1);
-    EXPECT_EQ(Shown("aaRecipeName"), "Two");
+    EXPECT_EQ(List()->List(), QStringList({"Almonds", "Apple", "Bread"}));
+    EXPECT_EQ(List()->ListIndex(), 2);
+    EXPECT_EQ(Shown("aaRecipeName"), "Bread");
 }
 
 TEST_F(frmRecipeManagerTest, FirstRecipeOfAllIsShownWhenSaved) {
@@ -652,7 +676,7 @@ TEST_F(frmRecipeManagerTest, KeptScreenListsAnewWhenItComesForward) {
     screen->hide();
     Recipe("Salad");
     Forward();
-    EXPECT_EQ(List()->List(), QStringList({"Soup", "Salad"}));
+    EXPECT_EQ(List()->List(), QStringList({"Salad", "Soup"}));
 }
 
 // Deleting
@@ -667,28 +691,28 @@ TEST_F(frmRecipeManagerTest, DeleteAsksFirst) {
 }
 
 TEST_F(frmRecipeManagerTest, DeletedRecipeGivesItsPlaceToTheNext) {
-    Recipe("One");
-    Recipe("Two");
-    Recipe("Three");
+    Recipe("Apple");
+    Recipe("Bread");
+    Recipe("Cake");
     Open();
     List()->SetListIndex(1);
     ExpectAlert(askDelete);
     Press("cmdDelete");
-    EXPECT_EQ(List()->List(), QStringList({"One", "Three"}));
+    EXPECT_EQ(List()->List(), QStringList({"Apple", "Cake"}));
     EXPECT_EQ(List()->ListIndex(), 1);
-    EXPECT_EQ(Shown("aaRecipeName"), "Three");
+    EXPECT_EQ(Shown("aaRecipeName"), "Cake");
 }
 
 TEST_F(frmRecipeManagerTest, DeletingTheLastLineSelectsTheNewLastLine) {
-    Recipe("One");
-    Recipe("Two");
+    Recipe("Apple");
+    Recipe("Bread");
     Open();
     List()->SetListIndex(1);
     ExpectAlert(askDelete);
     Press("cmdDelete");
     ExpectViewing();
     EXPECT_EQ(List()->ListIndex(), 0);
-    EXPECT_EQ(Shown("aaRecipeName"), "One");
+    EXPECT_EQ(Shown("aaRecipeName"), "Apple");
 }
 
 TEST_F(frmRecipeManagerTest, DeletingTheOnlyRecipeLeavesTheScreenEmpty) {
@@ -790,8 +814,8 @@ TEST_F(frmRecipeManagerTest, ImportOpensItsDialogAndListsTheRecipesAnewAfterward
 }
 
 TEST_F(frmRecipeManagerTest, SendOpensItsDialogOverTheCurrentRecipe) {
-    Recipe("One");
-    const qint32 two = Recipe("Two");
+    Recipe("Apple");
+    const qint32 two = Recipe("Bread");
     Open();
     List()->SetListIndex(1);
     WithModal([](QWidget* dialog) { EXPECT_EQ(dialog->objectName(), "frmSend"); },

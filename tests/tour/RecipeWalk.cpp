@@ -162,9 +162,9 @@ void RecipeWalk::WriteLongRecipe() {
                 QStringLiteral("1 piece as large as a hand, or two for a hungry guest"));
     guide_.Press(Screen(), QStringLiteral("cmdEdit"));
     auto* list = guide_.Find<ListBox>(Screen(), QStringLiteral("lsRecipes"));
-    guide_.Check(list->ListIndex() == 0,
-                 QStringLiteral("the recipe at the old place is shown, not the new one"));
-    list->SetListIndex(1);
+    guide_.Check(list->List() == QStringList{LongName, Name} && list->ListIndex() == 1,
+                 QStringLiteral("the recipe that was chosen is shown, not the new one"));
+    list->SetListIndex(0);
     Picture("recipe-long-name");
 }
 

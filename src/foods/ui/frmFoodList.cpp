@@ -1,6 +1,7 @@
 #include "foods/ui/frmFoodList.h"
 
 #include "foods/ui/CustomFoodFields.h"
+#include "foods/ui/NameList.h"
 #include "runtime/Round.h"
 #include "runtime/Seams.h"
 #include "store/Connection.h"
@@ -87,7 +88,7 @@ void frmFoodList::ListFoods() {
     }
     if (!editing_ && index < 0)
         index = last;
-    const int shown = LineOf(id_);
+    const int shown = foodList_->LineOf(id_);
     foodList_->SetListIndex(shown >= 0 ? shown : std::min(index, last));
     UIMode(1);
 }
@@ -97,16 +98,7 @@ void frmFoodList::FillList() {
     Recordset foods(FoodDB(),
                     QStringLiteral("SELECT * FROM foods WHERE ID > 23508 ORDER BY FoodName"),
                     Cursor::Static, Lock::ReadOnly);
-    for (; !foods.AtEnd(); foods.MoveNext())
-        foodList_->AddItem(foods[QStringLiteral("FoodName")].Text(),
-                           foods[QStringLiteral("ID")].Integer());
-}
-
-int frmFoodList::LineOf(qint32 id) const {
-    for (int line = 0; line < foodList_->ListCount(); ++line)
-        if (foodList_->ItemData(line) == id)
-            return line;
-    return -1;
+    ListByName(*foodList_, foods, QStringLiteral("FoodName"), QStringLiteral("ID"));
 }
 
 void frmFoodList::FoodList_Click() {

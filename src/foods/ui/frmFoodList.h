@@ -41,7 +41,6 @@ private:
     void PlaceBoxes();
     void PlaceButtons();
     void FillList();
-    int LineOf(qint32 id) const;
     void FoodList_Click();
     void cmdSave_Click();
     void cmdCancel_Click();

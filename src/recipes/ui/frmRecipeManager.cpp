@@ -1,6 +1,7 @@
 #include "recipes/ui/frmRecipeManager.h"
 
 #include "foods/ScaledFood.h"
+#include "foods/ui/NameList.h"
 #include "recipes/RecipeStore.h"
 #include "recipes/ui/InstructionText.h"
 #include "recipes/ui/RecipeCard.h"
@@ -101,25 +102,29 @@ void frmRecipeManager::DoWinInit() {
         ListRecipes();
 }
 
-/// Choosing a line raises the list's click, which shows the recipe.
+/// Choosing a line raises the list's click, which shows the recipe. The recipe that was chosen
+/// stays chosen, wherever its name has moved it; where it is gone, its neighbour takes its place.
 void frmRecipeManager::ListRecipes() {
-    const int chosen = qMax(0, lsRecipes_->ListIndex());
+    const int index = qMax(0, lsRecipes_->ListIndex());
+    const qint32 chosen = lsRecipes_->ItemData(index);
     lsRecipes_->Clear();
     current_ = noRecipe;
     card_->Clear();
     AllowAll({cmdEdit_, cmdDelete_, cmdSend_}, false);
     Attempt([this] { FillList(); });
     if (lsRecipes_->ListCount() > 0)
-        Attempt([&] { lsRecipes_->SetListIndex(qMin(chosen, lsRecipes_->ListCount() - 1)); });
+        Attempt([&] { lsRecipes_->SetListIndex(LineToChoose(chosen, index)); });
 }
 
-/// In the store's order, which is that of creation.
+int frmRecipeManager::LineToChoose(qint32 recipe, int index) const {
+    const int line = lsRecipes_->LineOf(recipe);
+    return line >= 0 ? line : qMin(index, lsRecipes_->ListCount() - 1);
+}
+
 void frmRecipeManager::FillList() {
     Recordset rows(UserDB(), QStringLiteral("SELECT  * FROM Recipes"), Cursor::Static,
                    Lock::ReadOnly);
-    for (; !rows.AtEnd(); rows.MoveNext())
-        lsRecipes_->AddItem(rows[QStringLiteral("RecipeName")].Text(),
-                            rows[QStringLiteral("RecipeID")].Integer());
+    ListByName(*lsRecipes_, rows, QStringLiteral("RecipeName"), QStringLiteral("RecipeID"));
     rows.Close();
 }
 

@@ -50,6 +50,7 @@ private:
     void lsRecipes_Click();
 
     void FillList();
+    int LineToChoose(qint32 recipe, int index) const;
     void ReadTexts(qint32 recipeID);
     bool IsEditing() const;
     void SetEditCaption(QLatin1String caption);
