@@ -126,6 +126,42 @@ TEST_F(frmImportTest, IngredientsGoByPositionUnderNewKeysAndHaveTheQuantityOne) 
     EXPECT_EQ(Count("Ingredients", "RecipeID = 2 AND QTY = 1"), 2);
 }
 
+TEST_F(frmImportTest, ColumnsInAnotherOrderAreRefusedBeforeAnythingIsWritten) {
+    TellSoup();
+    QJsonArray swapped = Fields();
+    const QJsonValue first = swapped[1];
+    swapped[1] = swapped[2];
+    swapped[2] = first;
+    QJsonArray shorter = Fields();
+    shorter.removeLast();
+    QJsonArray longer = Fields();
+    longer.append("VitaminK");
+    QJsonArray unknown = Fields();
+    unknown[12] = "Energy";
+    QJsonArray numbers = Fields();
+    numbers[12] = 12;
+    for (const QJsonValue& fields :
+         {QJsonValue(swapped), QJsonValue(shorter), QJsonValue(longer), QJsonValue(unknown),
+          QJsonValue(numbers), QJsonValue(QJsonArray{}), QJsonValue("ID"), QJsonValue(),
+          QJsonValue(QJsonValue::Undefined)}) {
+        server->Tell(RecipePath("/ingredients"), 200,
+                     Json({{"fields", fields}, {"rows", SoupRows()}}));
+        ExpectFailure();
+    }
+    EXPECT_EQ(AllRecipes(), "");
+}
+
+TEST_F(frmImportTest, TheCaseOfAColumnsNameDoesNotMatter) {
+    TellSoup();
+    QJsonArray upper;
+    for (const QJsonValue& name : Fields())
+        upper.append(name.toString().toUpper());
+    server->Tell(RecipePath("/ingredients"), 200, Json({{"fields", upper}, {"rows", SoupRows()}}));
+    ExpectAlert(successText);
+    SubmitSoup();
+    EXPECT_EQ(Count("Ingredients"), 2);
+}
+
 TEST_F(frmImportTest, TheSameRecipeTwiceGivesTwo) {
     TellSoup();
     for (int i = 0; i < 2; ++i) {

@@ -3,8 +3,11 @@
 #include "model/Nutrients.h"
 #include "recipes/net/ExchangeClient.h"
 #include "recipes/net/RemoteValue.h"
+#include "runtime/Attempt.h"
 #include "store/Connection.h"
 #include "store/Recordset.h"
+
+#include <algorithm>
 
 namespace {
 
@@ -42,6 +45,17 @@ QJsonArray FieldNames(const Recordset& rows) {
     for (int i = 0; i < rows.FieldCount(); ++i)
         names.append(rows.FieldName(i));
     return names;
+}
+
+/// In any other order every amount would come to stand under another nutrient.
+void RequireOwnOrder(const QJsonArray& fields) {
+    const Recordset own(UserDB(), QStringLiteral("SELECT * FROM Ingredients WHERE ID < 1"));
+    const auto isSame = [](const QJsonValue& one, const QJsonValue& other) {
+        return one.toString().compare(other.toString(), Qt::CaseInsensitive) == 0;
+    };
+    if (!std::ranges::equal(fields, FieldNames(own), isSame))
+        throw RuntimeError(ErrorNumber::ServiceFailed,
+                           QStringLiteral("The exchange lists the nutrients in another order."));
 }
 
 /// Gives the key that the store made.
@@ -105,6 +119,7 @@ Ingredients IngredientsToSend(qint32 RecipeID, qint32 remoteID) {
 } // namespace
 
 /// The new row is begun before it is known whether there is such a recipe; if not, it is dropped.
+/// Ingredients that do not arrive leave the recipe alone.
 bool RecipeExchange::Import(ExchangeClient& exchange, qint32 RecipeID) {
     Recordset recipe(UserDB(), QStringLiteral("SELECT * FROM Recipes WHERE RecipeID < 2"),
                      Cursor::Dynamic, Lock::Optimistic);
@@ -112,8 +127,15 @@ bool RecipeExchange::Import(ExchangeClient& exchange, qint32 RecipeID) {
     const std::optional<QJsonObject> remote = exchange.ReadRecipe(RecipeID);
     if (!remote)
         return false;
+    Ingredients ingredients;
+    const bool arrived = Attempt([&] { ingredients = exchange.ReadIngredients(RecipeID); });
+    if (arrived)
+        RequireOwnOrder(ingredients.fields);
     const QString id = KeepRecipe(recipe, *remote);
-    KeepIngredients(id, exchange.ReadIngredients(RecipeID).rows);
+    if (!arrived)
+        throw RuntimeError(ErrorNumber::ServiceFailed,
+                           QStringLiteral("The ingredients did not arrive."));
+    KeepIngredients(id, ingredients.rows);
     return true;
 }
 

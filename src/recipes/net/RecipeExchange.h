@@ -10,7 +10,8 @@ namespace RecipeExchange {
 
 /// Appends a recipe of the exchange to one's own, under keys that the store makes: imported twice,
 /// it is there twice. Its ingredients come with the quantity 1, as the exchange tells any other in
-/// the serving. False where the exchange has no such recipe; nothing is written then.
+/// the serving. False where the exchange has no such recipe; nothing is written then. Ingredients
+/// whose columns stand in another order than one's own are refused before anything is written.
 bool Import(ExchangeClient& exchange, qint32 RecipeID);
 
 struct Envelope {

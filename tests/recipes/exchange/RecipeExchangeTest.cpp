@@ -75,6 +75,14 @@ protected:
                                                " FROM Ingredients WHERE RecipeID = " +
                                                QString::number(id) + " ORDER BY ID");
     }
+    QString ServingsOf(qint32 id) {
+        QStringList servings;
+        for (const QVariantList& row :
+             HalvaneTest::Rows(UserDB(), "SELECT Serving FROM Ingredients WHERE RecipeID = " +
+                                             QString::number(id) + " ORDER BY ID"))
+            servings << (row[0].isNull() ? "null" : row[0].toString());
+        return servings.join(u'|');
+    }
     QList<QVariantList> CardOf(qint32 id) {
         return HalvaneTest::Rows(UserDB(), "SELECT RecipeName, ServingName, RecipeYield, PrepTime, "
                                            "Instructions FROM Recipes WHERE RecipeID = " +
@@ -90,6 +98,7 @@ INSTANTIATE_TEST_SUITE_P(Both, RecipeExchangeTest, testing::Values("sqlite", "po
                          [](const auto& run) { return std::string(run.param); });
 
 TEST_P(RecipeExchangeTest, WhatWasSentIsImportedToTheLastFigure) {
+    UserDB().Raw().exec("UPDATE Ingredients SET QTY = 1");
     const qint32 remote = Send(recipe);
     ASSERT_GT(remote, 1) << answer.toStdString();
     EXPECT_EQ(Import(QString::number(remote)), importedText);
@@ -98,6 +107,40 @@ TEST_P(RecipeExchangeTest, WhatWasSentIsImportedToTheLastFigure) {
     EXPECT_EQ(RowsOf(recipe + 1).size(), 10);
     EXPECT_EQ(RecipeStore::CaloriesPerServing(recipe + 1, "2.5"),
               RecipeStore::CaloriesPerServing(recipe, "2.5"));
+}
+
+TEST_P(RecipeExchangeTest, AQuantityOtherThanOneArrivesInTheServing) {
+    UserDB().Raw().exec("UPDATE Ingredients SET QTY = NULL WHERE ID > 4");
+    UserDB().Raw().exec("UPDATE Ingredients SET QTY = 1.5 WHERE ID = 2");
+    UserDB().Raw().exec("DELETE FROM Ingredients WHERE ID > 5");
+    const qint32 remote = Send(recipe);
+    EXPECT_EQ(Import(QString::number(remote)), importedText);
+    EXPECT_EQ(ServingsOf(recipe + 1), "1 cup|1.5 x 1 cup|3 x 1 cup|4 x 1 cup|1 cup");
+    EXPECT_EQ(Count("Ingredients", "QTY = 1 AND RecipeID = " + QString::number(recipe + 1)), 5);
+    const qint32 again = Send(recipe + 1);
+    EXPECT_EQ(Import(QString::number(again)), importedText);
+    EXPECT_EQ(ServingsOf(recipe + 2), ServingsOf(recipe + 1));
+}
+
+TEST_P(RecipeExchangeTest, NullsStayNullOnTheirWay) {
+    UserDB().Raw().exec("UPDATE Recipes SET RecipeYield = NULL, PrepTime = NULL, "
+                        "Instructions = NULL, ServingName = NULL");
+    UserDB().Raw().exec("UPDATE Ingredients SET Serving = NULL, FoodName = NULL, VitaminC = NULL, "
+                        "Cholesterol = NULL, QTY = 1");
+    const qint32 remote = Send(recipe);
+    EXPECT_EQ(Import(QString::number(remote)), importedText);
+    EXPECT_EQ(CardOf(recipe + 1), CardOf(recipe));
+    EXPECT_EQ(RowsOf(recipe + 1), RowsOf(recipe));
+}
+
+TEST_P(RecipeExchangeTest, ARecipeWithARecipeInItArrivesWithItsCalories) {
+    const qint32 pie = FoodsTest::AddRecipe("Pie", "1 pie");
+    RecipeStore::AddIngredient(pie, ScaledFood::FromRecipe(recipe, 2));
+    const qint32 remote = Send(pie);
+    EXPECT_EQ(Import(QString::number(remote)), importedText);
+    EXPECT_EQ(RecipeStore::CaloriesPerServing(pie + 1, "1"), "Calories: 11 per serving");
+    EXPECT_EQ(Users("SELECT Copper FROM Ingredients WHERE RecipeID = " + QString::number(pie + 1)),
+              Users("SELECT Copper FROM Ingredients WHERE RecipeID = " + QString::number(pie)));
 }
 
 TEST_P(RecipeExchangeTest, ARecipeWithoutIngredientsArrivesWithoutThem) {
