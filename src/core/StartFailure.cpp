@@ -2,6 +2,7 @@
 
 #include "core/FailureText.h"
 #include "runtime/Seams.h"
+#include "store/StoreError.h"
 
 #include <QMessageBox>
 #include <QPushButton>
@@ -36,6 +37,14 @@ void AddHelp(QMessageBox& box, const QString& help) {
     });
 }
 
+/// What only the person can decide is told in words of its own.
+void ShowChoice(const RuntimeError& error) {
+    QMessageBox box(QMessageBox::Warning, QStringLiteral("Halvane cannot start"),
+                    error.Description(), QMessageBox::Ok);
+    box.setTextFormat(Qt::PlainText);
+    box.exec();
+}
+
 void ShowMessage(const std::exception& error) {
     QMessageBox box(QMessageBox::NoIcon, QLatin1String(title), QLatin1String(text) + Address(),
                     QMessageBox::Ok);
@@ -48,11 +57,15 @@ void ShowMessage(const std::exception& error) {
 } // namespace
 
 void StartFailure::Report(const std::exception& error, const QString& file) {
-    const QString line =
-        "halvane: could not start: " + file + ": " + FailureText::Short(error) + '\n';
+    const QString line = "halvane: could not start: " + file + ": " +
+                         FailureText::Short(error).replace(QLatin1String("\n\n"), " ") + '\n';
     std::fputs(line.toLocal8Bit().constData(), stderr);
     if (FailureText::Number(error) <= lastSilentNumber)
         return;
-    ShowMessage(error);
+    const auto* known = dynamic_cast<const RuntimeError*>(&error);
+    if (known != nullptr && known->Number() == StoreError::JournalDoesNotFit)
+        ShowChoice(*known);
+    else
+        ShowMessage(error);
     EndProcess(1);
 }

@@ -1,6 +1,7 @@
 #include "store/Connection.h"
 
 #include "store/FileCheck.h"
+#include "store/RollbackJournal.h"
 #include "store/Schema.h"
 #include "store/StatementCache.h"
 #include "store/StoreError.h"
@@ -30,32 +31,6 @@ DatabasePtr OpenForWriting(const QString& path) {
     return database;
 }
 
-/// A journal of a killed process counts as part of the file, so the checks wait until the store has
-/// read both. Closing must not merge them where the file is refused.
-void CheckWithJournal(SQLite::Database& database, const QString& path) {
-    Configure(database, SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1);
-    FileCheck::Inside(database, path);
-    Configure(database, SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 0);
-}
-
-/// A write-ahead journal synced at each commit: one sync a commit, and what was committed is there
-/// after a kill (the journal is read at the next start) and after a power cut (the sync has put it
-/// on the disk). Closing merges the journal, so that the folder then holds single files.
-void UseDurableJournal(SQLite::Database& database, const QString& path) {
-    std::string mode;
-    try {
-        mode = database.execAndGet("PRAGMA journal_mode = WAL").getString();
-    } catch (const SQLite::Exception& failure) {
-        const int code = failure.getErrorCode();
-        if (code != SQLITE_CANTOPEN && code != SQLITE_READONLY)
-            throw;
-    }
-    if (mode != "wal")
-        throw StoreError::Make(SQLITE_CANTOPEN, path,
-                               QStringLiteral("its folder must allow writing, as a journal is kept "
-                                              "beside it"));
-    database.exec("PRAGMA synchronous = FULL");
-}
 } // namespace
 
 struct Connection::Impl {
@@ -79,11 +54,8 @@ void Connection::Open(const QString& path, DatabaseKind kind) {
     Close();
     StoreError::Guarded(path, [&] {
         FileCheck::Untouched(path, kind);
-        const bool hasJournal = FileCheck::HasJournal(path);
         DatabasePtr database = OpenForWriting(path);
-        if (hasJournal)
-            CheckWithJournal(*database, path);
-        UseDurableJournal(*database, path);
+        RollbackJournal::Use(*database, path);
         Schema::Migrate(*database, kind);
         TextFunctions::Register(database->getHandle());
         impl_ = std::make_unique<Impl>(path, std::move(database));

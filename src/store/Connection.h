@@ -15,7 +15,8 @@ enum class DatabaseKind { Users, Foods };
 /// One open database file, alive from start to the quit path. Every failure is a RuntimeError with
 /// a negative number (the store's result code) and a description that names the file.
 ///
-/// Journal and sync modes are chosen so that a committed row survives a kill and a power cut.
+/// A committed row survives a kill and a power cut, and outside a commit the file is whole by
+/// itself: a copy of it is a backup, even while it is open.
 class Connection {
 public:
     enum State { Closed = 0, Opened = 1 };

@@ -1,5 +1,6 @@
 #include "store/Schema.h"
 
+#include "store/RollbackJournal.h"
 #include "store/SchemaSteps.h"
 #include "store/StoreError.h"
 
@@ -27,6 +28,7 @@ void Schema::Create(const QString& path, DatabaseKind kind) {
         throw StoreError::Make(SQLITE_CANTOPEN, path, QStringLiteral("it is there already"));
     StoreError::Guarded(path, [&] {
         SQLite::Database database(path.toStdString(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
+        RollbackJournal::Use(database, path);
         database.exec("PRAGMA application_id = " + std::to_string(ApplicationId(kind)));
         Migrate(database, kind);
     });

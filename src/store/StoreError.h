@@ -13,6 +13,9 @@ namespace StoreError {
 inline constexpr int CannotBeChanged = 3251;
 inline constexpr int NoSuchColumn = 3265;
 inline constexpr int NotOpen = 3704;
+/// A journal beside a file is not of that file, or that cannot be told: the description is for the
+/// person, who alone can decide.
+inline constexpr int JournalDoesNotFit = 3343;
 
 RuntimeError Make(int resultCode, const QString& path, const QString& detail);
 RuntimeError From(const SQLite::Exception& failure, const QString& path);

@@ -281,6 +281,43 @@ TEST_F(FlowTest, AFailureAboveFourHundredShowsTheMessageThenEndsTheProcess) {
     EXPECT_EQ(endings, QList<int>{1});
 }
 
+TEST_F(FlowTest, AJournalThatDoesNotFitEndsWithAMessageThatNamesTheFilesAndChangesNothing) {
+    Deliver();
+    Accept();
+    AddProfiles({QStringLiteral("Anna")});
+    const QByteArray copy = ReadFile(QStringLiteral("users.mdb"));
+    QByteArray log;
+    {
+        SQLite::Database file(FileBeside(QStringLiteral("users.mdb")).toStdString(),
+                              SQLite::OPEN_READWRITE);
+        file.exec("PRAGMA journal_mode = WAL");
+        file.exec("UPDATE profiles SET UserName = 'Zoe'");
+        log = ReadFile(QStringLiteral("users.mdb-wal"));
+    }
+    WriteFile(QStringLiteral("users.mdb"), copy);
+    WriteFile(QStringLiteral("users.mdb-wal"), log);
+    QString title, text;
+    answers[QStringLiteral("")] = [&](QWidget* window) {
+        auto* box = qobject_cast<QMessageBox*>(window);
+        ASSERT_NE(box, nullptr);
+        title = box->windowTitle();
+        text = box->text();
+        box->accept();
+    };
+    EXPECT_EQ(RunMain(), 1);
+    EXPECT_EQ(title, QStringLiteral("Halvane cannot start"));
+    EXPECT_TRUE(text.contains(QStringLiteral("move users.mdb-wal out of the folder")))
+        << text.toStdString();
+    EXPECT_TRUE(text.contains(Folder())) << text.toStdString();
+    const QStringList lines = stderrText.split(u'\n').filter(QStringLiteral("users.mdb"));
+    ASSERT_EQ(lines.size(), 1) << stderrText.toStdString();
+    EXPECT_TRUE(lines.first().startsWith(QStringLiteral("halvane: could not start: users.mdb: ")));
+    EXPECT_TRUE(lines.first().endsWith(QStringLiteral("(3343)")));
+    EXPECT_EQ(endings, QList<int>{1});
+    EXPECT_TRUE(ReadFile(QStringLiteral("users.mdb")) == copy);
+    EXPECT_TRUE(ReadFile(QStringLiteral("users.mdb-wal")) == log);
+}
+
 TEST_F(FlowTest, TheMessageComesFromFourHundredAndOneUp) {
     Deliver();
     Accept();

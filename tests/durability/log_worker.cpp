@@ -3,6 +3,7 @@
 #include "intake/ui/frmDay.h"
 #include "intake/ui/ucMyFood.h"
 #include "model/User.h"
+#include "recipes/ui/frmRecipeManager.h"
 #include "runtime/AppPath.h"
 #include "runtime/AppState.h"
 #include "store/Connection.h"
@@ -15,8 +16,8 @@
 
 #include <cstdio>
 
-/// log_worker FOLDER FIRST: logs foods and weights through the day screen and makes custom foods on
-/// theirs until it is killed, numbering all from FIRST on. Each number is acknowledged on standard
+/// log_worker FOLDER FIRST: logs foods and weights through the day screen, and makes custom foods,
+/// recipes and ingredients on theirs until it is killed, numbering all from FIRST on. Each number is acknowledged on standard
 /// output once the screen has returned from saving it.
 
 namespace {
@@ -52,6 +53,7 @@ void LogWeight(frmDay& day, int number) {
     weight->clearFocus();
     Acknowledge("weight", number);
 }
+
 /// The number is the name and the calories.
 void MakeCustomFood(frmFoodList& foods, int number) {
     foods.NewFood();
@@ -59,6 +61,20 @@ void MakeCustomFood(frmFoodList& foods, int number) {
         foods.findChild<QLineEdit*>(QString::fromLatin1(field))->setText(QString::number(number));
     foods.findChild<ucButton*>(QStringLiteral("cmdSave"))->Activate();
     Acknowledge("custom", number);
+}
+
+/// The number is the name of the recipe and the quantity of its one ingredient.
+void MakeRecipe(frmRecipeManager& recipes, int number) {
+    const auto press = [&](const char* button) {
+        recipes.findChild<ucButton*>(QString::fromLatin1(button))->Activate();
+    };
+    press("cmdNew");
+    recipes.findChild<QLineEdit*>(QStringLiteral("txtName"))->setText(QString::number(number));
+    recipes.AddFood(ScaledFood::FromCatalogue(23508, QStringLiteral("A"), number));
+    Acknowledge("ingredient", number);
+    recipes.findChild<QLineEdit*>(QStringLiteral("txtServing"))->setText(QStringLiteral("1 cup"));
+    press("cmdEdit");
+    Acknowledge("recipe", number);
 }
 } // namespace
 
@@ -74,9 +90,12 @@ int main(int argc, char** argv) {
     day.DoWinInit();
     QApplication::setActiveWindow(&day);
     frmFoodList foods;
+    frmRecipeManager recipes;
+    recipes.DoWinInit();
     for (int number = QByteArray(argv[2]).toInt();; ++number) {
         LogFood(day, number);
         LogWeight(day, number);
         MakeCustomFood(foods, number);
+        MakeRecipe(recipes, number);
     }
 }

@@ -3,6 +3,7 @@
 #include "store/Schema.h"
 #include "store/StoreError.h"
 
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -94,6 +95,63 @@ protected:
         ASSERT_TRUE(QFile::copy(FoodsFile() + journal, File(name) + journal));
     }
 
+    /// Leaves killed.mdb with changes of its last write in it, and the journal that takes them back.
+    void KillInTheMiddleOfAWrite(const QString& rows = "ID > 0") {
+        foods_.Open(FoodsFile(), DatabaseKind::Foods);
+        Run(foods_, "UPDATE FOODS SET Calories = 1 WHERE ID = 1");
+        Run(foods_, "BEGIN");
+        Run(foods_, "PRAGMA cache_spill = 1");
+        Run(foods_, "PRAGMA cache_size = 1");
+        Run(foods_, "UPDATE FOODS SET FoodName = FoodName || ' changed' WHERE " + rows);
+        Run(foods_, "SELECT count(*) FROM FOODS NOT INDEXED WHERE Serv_Desc_A = ''");
+        CopyAsKilled("killed.mdb", "-journal");
+        Run(foods_, "ROLLBACK");
+        ASSERT_TRUE(Contents(File("killed.mdb")).contains("changed"));
+    }
+
+    /// Leaves killed.mdb as the version with a `-wal` left it: the last change is only in there.
+    void KillTheEarlierVersion(const std::string& change) {
+        SQLite::Database earlier(FoodsFile().toStdString(), SQLite::OPEN_READWRITE);
+        earlier.exec("PRAGMA journal_mode = WAL");
+        earlier.exec(change);
+        CopyAsKilled("killed.mdb", "-wal");
+        earlier.exec("PRAGMA journal_mode = DELETE");
+    }
+
+    /// A file is moved, copied or restored at a time of its own, which is later than the other's.
+    void MoveLater(const QString& path, const QString& than) {
+        const auto time = [](const QString& file) { return QFileInfo(file).metadataChangeTime(); };
+        while (time(path) <= time(than)) {
+            ASSERT_TRUE(QFile::rename(path, path + ".moved"));
+            ASSERT_TRUE(QFile::rename(path + ".moved", path));
+        }
+    }
+    void PutInPlaceOfKilled(const QByteArray& copy, const QString& journal) {
+        Write(File("killed.mdb"), copy);
+        MoveLater(File("killed.mdb"), File("killed.mdb") + journal);
+    }
+
+    /// The journal beside killed.mdb is not taken for its own, and all stays as it is.
+    void ExpectSetAside(const QString& journal) {
+        const QByteArray file = Contents(File("killed.mdb"));
+        const QByteArray changes = Contents(File("killed.mdb") + journal);
+        const QStringList before = Listing();
+        Connection killed;
+        QString text;
+        try {
+            killed.Open(File("killed.mdb"), DatabaseKind::Foods);
+            ADD_FAILURE() << "a journal of another file was taken in";
+        } catch (const RuntimeError& error) {
+            EXPECT_EQ(error.Number(), StoreError::JournalDoesNotFit);
+            text = error.Description();
+        }
+        EXPECT_TRUE(text.contains("killed.mdb" + journal)) << text.toStdString();
+        EXPECT_TRUE(text.contains("the file killed.mdb ")) << text.toStdString();
+        EXPECT_TRUE(Contents(File("killed.mdb")) == file);
+        EXPECT_TRUE(Contents(File("killed.mdb") + journal) == changes);
+        EXPECT_EQ(Listing(), before);
+    }
+
     QByteArray sound_;
 };
 
@@ -135,8 +193,8 @@ TEST_F(ConnectionTest, ClosedFilesStandAlone) {
 
 TEST_F(ConnectionTest, ACommitReachesTheDisk) {
     foods_.Open(FoodsFile(), DatabaseKind::Foods);
-    EXPECT_EQ(First(foods_, "PRAGMA journal_mode"), "wal");
-    EXPECT_EQ(First(foods_, "PRAGMA synchronous"), 2);
+    EXPECT_EQ(First(foods_, "PRAGMA journal_mode"), "delete");
+    EXPECT_EQ(First(foods_, "PRAGMA synchronous"), 3);
 }
 
 TEST_F(ConnectionTest, PathsOfEveryKindOpen) {
@@ -234,7 +292,6 @@ TEST_F(ConnectionTest, ANewerSchemaIsRefused) {
     {
         SQLite::Database database(FoodsFile().toStdString(), SQLite::OPEN_READWRITE);
         database.exec("PRAGMA user_version = " + std::to_string(Schema::Version + 1));
-        database.exec("PRAGMA wal_checkpoint(TRUNCATE)");
     }
     const QByteArray before = Contents(FoodsFile());
     ExpectRefused(NoDatabase, "newer version");
@@ -302,55 +359,60 @@ TEST_F(ConnectionTest, ARefusalDoesNotCloseTheOtherConnection) {
     EXPECT_EQ(First(foods_, "SELECT count(*) FROM FOODS"), 300);
 }
 
-TEST_F(ConnectionTest, WhatAKilledProcessCommittedIsThere) {
+TEST_F(ConnectionTest, ACopyOfTheOpenFileAloneHoldsEverythingThatWasCommitted) {
     foods_.Open(FoodsFile(), DatabaseKind::Foods);
     AddFood(23509, "Mine");
-    CopyAsKilled("killed.mdb", "-wal");
-    Connection killed;
-    killed.Open(File("killed.mdb"), DatabaseKind::Foods);
-    EXPECT_EQ(First(killed, "SELECT FoodName FROM FOODS WHERE ID = 23509"), "Mine");
-    EXPECT_EQ(First(killed, "PRAGMA integrity_check"), "ok");
-    killed.Close();
-    EXPECT_FALSE(QFile::exists(File("killed.mdb-wal")));
-    EXPECT_FALSE(QFile::exists(File("killed.mdb-shm")));
+    EXPECT_EQ(Listing(), QStringList({"foods.mdb", "users.mdb"}));
+    ASSERT_TRUE(QFile::copy(FoodsFile(), File("copy.mdb")));
+    Connection copy;
+    copy.Open(File("copy.mdb"), DatabaseKind::Foods);
+    EXPECT_EQ(First(copy, "SELECT FoodName FROM FOODS WHERE ID = 23509"), "Mine");
+    EXPECT_EQ(First(copy, "PRAGMA integrity_check"), "ok");
+}
+
+TEST_F(ConnectionTest, OpeningLeavesAFileAsItWasToTheByte) {
+    foods_.Open(FoodsFile(), DatabaseKind::Foods);
+    EXPECT_TRUE(Contents(FoodsFile()) == sound_);
+    foods_.Close();
+    EXPECT_TRUE(Contents(FoodsFile()) == sound_);
 }
 
 TEST_F(ConnectionTest, WhatAKilledProcessDidNotCommitIsNotThere) {
-    foods_.Open(FoodsFile(), DatabaseKind::Foods);
-    Run(foods_, "BEGIN");
-    AddFood(23509, "Mine");
-    Run(foods_, "PRAGMA cache_spill = 1");
-    Run(foods_, "PRAGMA cache_size = 1");
-    Run(foods_, "UPDATE FOODS SET FoodName = FoodName || ' changed'");
-    CopyAsKilled("killed.mdb", "-wal");
-    Run(foods_, "ROLLBACK");
+    KillInTheMiddleOfAWrite();
     Connection killed;
     killed.Open(File("killed.mdb"), DatabaseKind::Foods);
     EXPECT_EQ(First(killed, "SELECT count(*) FROM FOODS"), 300);
     EXPECT_EQ(First(killed, "SELECT count(*) FROM FOODS WHERE FoodName LIKE '%changed'"), 0);
     EXPECT_EQ(First(killed, "PRAGMA integrity_check"), "ok");
+    EXPECT_FALSE(QFile::exists(File("killed.mdb-journal")));
 }
 
-TEST_F(ConnectionTest, AJournalOfAnotherToolIsRolledBack) {
-    {
-        SQLite::Database other(FoodsFile().toStdString(), SQLite::OPEN_READWRITE);
-        other.exec("PRAGMA journal_mode = DELETE");
-        other.exec("PRAGMA cache_size = 1");
-        other.exec("BEGIN");
-        other.exec("UPDATE FOODS SET FoodName = FoodName || ' changed'");
-        CopyAsKilled("killed.mdb", "-journal");
-        other.exec("ROLLBACK");
-    }
+TEST_F(ConnectionTest, AWriteAheadLogOfAnEarlierVersionIsTakenInOnce) {
+    KillTheEarlierVersion("UPDATE FOODS SET FoodName = 'Mine' WHERE ID = 300");
     Connection killed;
     killed.Open(File("killed.mdb"), DatabaseKind::Foods);
-    EXPECT_EQ(First(killed, "SELECT count(*) FROM FOODS WHERE FoodName LIKE '%changed'"), 0);
+    EXPECT_EQ(First(killed, "SELECT FoodName FROM FOODS WHERE ID = 300"), "Mine");
     EXPECT_EQ(First(killed, "PRAGMA integrity_check"), "ok");
+    EXPECT_EQ(First(killed, "PRAGMA journal_mode"), "delete");
+    EXPECT_FALSE(QFile::exists(File("killed.mdb-wal")));
+    EXPECT_FALSE(QFile::exists(File("killed.mdb-shm")));
+    ASSERT_TRUE(QFile::copy(File("killed.mdb"), File("copy.mdb")));
+    SQLite::Database copy(File("copy.mdb").toStdString());
+    EXPECT_EQ(copy.execAndGet("SELECT FoodName FROM FOODS WHERE ID = 300").getString(), "Mine");
+    EXPECT_EQ(copy.execAndGet("PRAGMA journal_mode").getString(), "delete");
+}
+
+TEST_F(ConnectionTest, AClosedFileOfAnEarlierVersionIsSwitched) {
+    SQLite::Database(FoodsFile().toStdString(), SQLite::OPEN_READWRITE)
+        .exec("PRAGMA journal_mode = WAL");
+    foods_.Open(FoodsFile(), DatabaseKind::Foods);
+    EXPECT_EQ(First(foods_, "SELECT count(*) FROM FOODS"), 300);
+    EXPECT_EQ(First(foods_, "PRAGMA journal_mode"), "delete");
+    EXPECT_EQ(Listing(), QStringList({"foods.mdb", "users.mdb"}));
 }
 
 TEST_F(ConnectionTest, ANewerSchemaInTheJournalIsRefusedUnchanged) {
-    foods_.Open(FoodsFile(), DatabaseKind::Foods);
-    Run(foods_, "PRAGMA user_version = 99");
-    CopyAsKilled("killed.mdb", "-wal");
+    KillTheEarlierVersion("PRAGMA user_version = 99");
     const QByteArray file = Contents(File("killed.mdb"));
     const QByteArray journal = Contents(File("killed.mdb-wal"));
     Connection killed;
@@ -360,10 +422,94 @@ TEST_F(ConnectionTest, ANewerSchemaInTheJournalIsRefusedUnchanged) {
 }
 
 TEST_F(ConnectionTest, AJournalThatIsGarbageIsPassedOver) {
-    Write(FoodsFile() + "-wal", QByteArray(10000, 'x'));
+    for (const char* ending : {"-wal", "-journal"}) {
+        Write(FoodsFile() + ending, QByteArray(10000, 'x'));
+        foods_.Open(FoodsFile(), DatabaseKind::Foods);
+        EXPECT_EQ(First(foods_, "SELECT count(*) FROM FOODS"), 300);
+        EXPECT_EQ(First(foods_, "PRAGMA integrity_check"), "ok");
+    }
+}
+
+TEST_F(ConnectionTest, AnOlderCopyBesideTheJournalOfAKilledWriteIsLeftAlone) {
+    KillInTheMiddleOfAWrite();
+    PutInPlaceOfKilled(sound_.replace("with a name", "WITH A NAME"), "-journal");
+    Run(foods_, "UPDATE FOODS SET Calories = 2 WHERE ID = 1");
+    ExpectSetAside("-journal");
+}
+
+TEST_F(ConnectionTest, ANewerCopyBesideTheJournalOfAKilledWriteIsLeftAlone) {
+    KillInTheMiddleOfAWrite();
+    Run(foods_, "UPDATE FOODS SET Calories = 2 WHERE ID = 1");
+    Run(foods_, "UPDATE FOODS SET Calories = 3 WHERE ID = 1");
+    PutInPlaceOfKilled(Contents(FoodsFile()), "-journal");
+    ExpectSetAside("-journal");
+}
+
+TEST_F(ConnectionTest, AnotherFileWithAsManyChangesBesideAJournalIsLeftAlone) {
+    KillInTheMiddleOfAWrite("ID <= 3");
+    foods_.Close();
+    ASSERT_TRUE(QFile::remove(FoodsFile()));
+    Schema::Create(FoodsFile(), DatabaseKind::Foods);
     foods_.Open(FoodsFile(), DatabaseKind::Foods);
-    EXPECT_EQ(First(foods_, "SELECT count(*) FROM FOODS"), 300);
-    EXPECT_EQ(First(foods_, "PRAGMA integrity_check"), "ok");
+    Run(foods_, "BEGIN");
+    for (int i = 1; i <= 300; ++i)
+        AddFood(i, QStringLiteral("Meal %1 with a name long enough to fill some pages").arg(-i));
+    Run(foods_, "COMMIT");
+    Run(foods_, "UPDATE FOODS SET Calories = 1 WHERE ID = 1");
+    PutInPlaceOfKilled(Contents(FoodsFile()), "-journal");
+    ExpectSetAside("-journal");
+}
+
+TEST_F(ConnectionTest, TheCopyOfJustThatStateBesideAJournalOpens) {
+    KillInTheMiddleOfAWrite();
+    PutInPlaceOfKilled(Contents(FoodsFile()), "-journal");
+    Connection killed;
+    killed.Open(File("killed.mdb"), DatabaseKind::Foods);
+    EXPECT_EQ(First(killed, "PRAGMA integrity_check"), "ok");
+    killed.Close();
+    EXPECT_TRUE(Contents(File("killed.mdb")) == Contents(FoodsFile()));
+}
+
+TEST_F(ConnectionTest, ACopyBesideTheLogOfAnEarlierVersionIsLeftAloneUntilThePersonDecides) {
+    KillTheEarlierVersion("UPDATE FOODS SET FoodName = 'Mine' WHERE ID = 300");
+    PutInPlaceOfKilled(Contents(File("killed.mdb")), "-wal");
+    ExpectSetAside("-wal");
+    MoveLater(File("killed.mdb-wal"), File("killed.mdb"));
+    Connection killed;
+    killed.Open(File("killed.mdb"), DatabaseKind::Foods);
+    EXPECT_EQ(First(killed, "SELECT FoodName FROM FOODS WHERE ID = 300"), "Mine");
+}
+
+TEST_F(ConnectionTest, ALogThatWasHalfTakenInIsTakenInAgain) {
+    KillTheEarlierVersion("UPDATE FOODS SET FoodName = 'Mine' WHERE ID = 300");
+    const QByteArray after = Contents(FoodsFile());
+    QByteArray half = Contents(File("killed.mdb"));
+    constexpr qsizetype page = 4096;
+    qsizetype first = page; // the first page of the file changes by the switch of its mode alone
+    while (half.mid(first, page) == after.mid(first, page))
+        first += page;
+    half.replace(first, page, after.mid(first, page));
+    PutInPlaceOfKilled(half, "-wal");
+    Connection killed;
+    killed.Open(File("killed.mdb"), DatabaseKind::Foods);
+    EXPECT_EQ(First(killed, "SELECT FoodName FROM FOODS WHERE ID = 300"), "Mine");
+    EXPECT_EQ(First(killed, "PRAGMA integrity_check"), "ok");
+}
+
+TEST_F(ConnectionTest, ACopySetApartFromTheLogOfAnEarlierVersionOpens) {
+    KillTheEarlierVersion("UPDATE FOODS SET FoodName = 'Mine' WHERE ID = 300");
+    PutInPlaceOfKilled(Contents(File("killed.mdb")), "-wal");
+    ASSERT_TRUE(QFile::rename(File("killed.mdb-wal"), File("aside")));
+    Connection killed;
+    killed.Open(File("killed.mdb"), DatabaseKind::Foods);
+    EXPECT_EQ(First(killed, "SELECT count(*) FROM FOODS WHERE FoodName = 'Mine'"), 0);
+}
+
+TEST_F(ConnectionTest, AFileOfThisVersionNeverTakesALogIn) {
+    KillTheEarlierVersion("UPDATE FOODS SET FoodName = 'Mine' WHERE ID = 300");
+    Write(File("killed.mdb"), sound_);
+    MoveLater(File("killed.mdb-wal"), File("killed.mdb"));
+    ExpectSetAside("-wal");
 }
 
 TEST_F(ConnectionTest, AFileCutShortBesideAJournalIsRefused) {

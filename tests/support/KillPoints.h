@@ -11,7 +11,7 @@ class Database;
 class Connection;
 
 /// What a kill would leave of a database while a piece of work is done on it: copies of the file
-/// and its journal from the moment at which each row is written, and from the end.
+/// and its journal, if there is one, from the moment at which each row is written, and from the end.
 class KillPoints {
 public:
     KillPoints(Connection& watched, const std::function<void()>& work);
