@@ -62,10 +62,22 @@ void Api::Create(const Ask& ask, Reply& reply) const {
                      JsonType);
 }
 
+/// Before the body is read, so that nobody else can make us read one.
+void Api::RequireCreator(int id, const std::string& token) const {
+    auto may = RecipeStore::Added::Done;
+    {
+        const Pool::Lease lease(service_.pool);
+        may = RecipeStore(*lease).MayAdd(id, token);
+    }
+    if (may != RecipeStore::Added::Done)
+        Refuse(may);
+}
+
 void Api::AddIngredients(const Ask& ask, Reply& reply) const {
     const auto token = Token(ask.request);
     if (token.empty())
         Refuse(RecipeStore::Added::WrongToken);
+    RequireCreator(*ask.id, token);
     const int most = service_.config.ingredients_per_recipe;
     const auto rows = RecipeReader::ReadIngredients(ask.request.body, most);
     auto added = RecipeStore::Added::Done;

@@ -15,6 +15,7 @@ public:
 
 private:
     void Create(const Ask& ask, Reply& reply) const;
+    void RequireCreator(int id, const std::string& token) const;
     void AddIngredients(const Ask& ask, Reply& reply) const;
     void Read(const Ask& ask, Reply& reply, RecipeStore::Part part) const;
 

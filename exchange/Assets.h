@@ -11,6 +11,8 @@ extern const std::string front;
 extern const std::string community;
 extern const std::string line;
 extern const std::string recipe;
+extern const std::string report;
+extern const std::string nomail;
 extern const std::string problem;
 extern const std::string style;
 extern const std::string logo;

@@ -23,7 +23,8 @@ constexpr const char* Make[] = {
     " RecipeYield DOUBLE PRECISION, Instructions TEXT, PrepTime DOUBLE PRECISION,"
     " EMAILFROM TEXT NOT NULL, EMAILTO TEXT NOT NULL, ISPUBLIC INTEGER NOT NULL,"
     " Token TEXT NOT NULL, IngredientCount INTEGER NOT NULL, CreatedAt BIGINT NOT NULL,"
-    " SentAt BIGINT NOT NULL, MailedAt BIGINT NOT NULL)",
+    " SentAt BIGINT NOT NULL, MailedAt BIGINT NOT NULL,"
+    " HiddenAt BIGINT NOT NULL DEFAULT 0)",
     "CREATE INDEX recipes_unfinished ON recipes (CreatedAt) WHERE SentAt = 0",
     "CREATE INDEX recipes_addresses ON recipes (SentAt) WHERE EMAILTO <> ''",
     "CREATE TABLE ingredients (ID INTEGER NOT NULL,"
@@ -52,7 +53,8 @@ constexpr const char* Make[] = {
 
 constexpr const char* Fill[] = {
     "INSERT INTO recipes SELECT RecipeID, RecipeName, ServingName, RecipeYield, Instructions,"
-    " PrepTime, EMAILFROM, EMAILTO, ISPUBLIC, Token, IngredientCount, CreatedAt, SentAt, MailedAt"
+    " PrepTime, EMAILFROM, EMAILTO, ISPUBLIC, Token, IngredientCount, CreatedAt, SentAt, MailedAt, "
+    "0"
     " FROM old_recipes",
     "INSERT INTO ingredients SELECT ID,"
     " VitaminC, VitaminE, VitaminB12, VitaminB6, VitaminA, SatFat, Potassium, PolyFat,"

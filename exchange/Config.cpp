@@ -58,6 +58,8 @@ const Setting Settings[] = {
     {"mails_per_recipient_day", Range{&Config::mails_per_recipient_day, 0, Many}},
     {"mails_per_day", Range{&Config::mails_per_day, 0, Many}},
     {"misses_per_client_hour", Range{&Config::misses_per_client_hour, 1, Many}},
+    {"reports_per_client_day", Range{&Config::reports_per_client_day, 0, Many}},
+    {"reports_per_day", Range{&Config::reports_per_day, 0, Many}},
     {"unfinished_hours", Range{&Config::unfinished_hours, 1, 1000}},
     {"address_days", Range{&Config::address_days, 0, 3650}},
 };

@@ -45,6 +45,8 @@ struct Config {
     int mails_per_recipient_day = 10;
     int mails_per_day = 1000;
     int misses_per_client_hour = 60;
+    int reports_per_client_day = 10;
+    int reports_per_day = 1000;
     int unfinished_hours = 24;
     int address_days = 30;
 

@@ -88,7 +88,20 @@ std::string Card(const Recipe& recipe) {
     return text + "Preparation\n" + Instructions(recipe) + "\n\n";
 }
 
-std::string Text(const Recipe& recipe, const Config& config) {
+/// Empty if nobody has said where people reach this server.
+std::string NoMailLink(const Config& config, const std::string& token) {
+    if (config.public_url.empty())
+        return {};
+    return config.public_url + "/halvane/nomail.asp?token=" + token;
+}
+
+std::string HowToEnd(const Config& config, const std::string& link) {
+    if (link.empty())
+        return "To have no more mails from here, write to " + config.mail_from + ".\n";
+    return "To have no more mails from here, open this page and press the button:\n" + link + "\n";
+}
+
+std::string Text(const Recipe& recipe, const Config& config, const std::string& link) {
     const auto id = std::to_string(recipe.id);
     auto text = recipe.from + " sends you a recipe from Halvane.\n\n" + Card(recipe);
     text += "The recipe ID is " + id +
@@ -100,15 +113,26 @@ std::string Text(const Recipe& recipe, const Config& config) {
                 "\n";
     return text +
            "\nThis mail was sent once, because somebody entered your address. Answers go to " +
-           recipe.from + ".\n";
+           recipe.from + ".\n" + HowToEnd(config, link);
 }
 
 std::string Header(const std::string& name, const std::string& value) {
     return name + ": " + value + "\r\n";
 }
+
+/// A mail program can follow the link for its reader by one press. That needs a safe connection.
+std::string NoMailHeaders(const Config& config, const std::string& link) {
+    if (link.empty())
+        return Header("List-Unsubscribe", "<mailto:" + config.mail_from + ">");
+    auto headers = Header("List-Unsubscribe", "<" + link + ">");
+    if (link.starts_with("https://"))
+        headers += Header("List-Unsubscribe-Post", "List-Unsubscribe=One-Click");
+    return headers;
+}
 } // namespace
 
-std::string MailOf(const Recipe& recipe, const Config& config) {
+std::string MailOf(const Recipe& recipe, const Config& config, const std::string& noMailToken) {
+    const auto link = NoMailLink(config, noMailToken);
     const auto domain = config.mail_from.substr(config.mail_from.find('@') + 1);
     std::string mail = Header("Date", Moment::Written("%a, %d %b %Y %H:%M:%S +0000"));
     mail += Header("From", "Halvane <" + config.mail_from + ">");
@@ -118,10 +142,11 @@ std::string MailOf(const Recipe& recipe, const Config& config) {
         Header("Subject", Encoded("A recipe for you: " +
                                   ShownText::Name(recipe.name.value_or(""), ShownText::InList)));
     mail += Header("Message-ID", "<" + Secrets::RandomToken().substr(0, 32) + "@" + domain + ">");
+    mail += NoMailHeaders(config, link);
     mail += Header("MIME-Version", "1.0");
     mail += Header("Content-Type", "text/plain; charset=utf-8");
     mail += Header("Content-Transfer-Encoding", "base64");
-    return mail + "\r\n" + Body(Text(recipe, config));
+    return mail + "\r\n" + Body(Text(recipe, config, link));
 }
 
 } // namespace exchange

@@ -3,6 +3,7 @@
 #include "exchange/Assets.h"
 #include "exchange/Moment.h"
 #include "exchange/Numbers.h"
+#include "exchange/Reports.h"
 #include "exchange/ShownText.h"
 #include "exchange/Target.h"
 #include "exchange/Text.h"
@@ -144,6 +145,23 @@ data NutritionOf(const Recipe& recipe, bool large) {
     return lines;
 }
 
+std::string ReportForm(int id, const std::string& token) {
+    thread_local Template form(Assets::report);
+    data complaints(data::type::list);
+    for (const auto& complaint : Reports::Complaints()) {
+        data option;
+        option.set("name", std::string(complaint.name));
+        option.set("label", std::string(complaint.label));
+        complaints.push_back(option);
+    }
+    data values;
+    values.set("id", std::to_string(id));
+    values.set("token", token);
+    values.set("most", std::to_string(Reports::LongestWords));
+    values.set("complaints", complaints);
+    return form.Fill(values);
+}
+
 std::string HeadingOf(int status) {
     switch (status) {
     case 404:
@@ -180,7 +198,7 @@ std::string Community(const ListPage& list) {
     return Page("Online Community", Place::List, false, content.Fill(values));
 }
 
-std::string RecipePage(const Recipe& recipe) {
+std::string RecipePage(const Recipe& recipe, const std::string& token) {
     thread_local Template content(Assets::recipe);
     const auto serving = ShownText::Line(recipe.servingName.value_or(""), ShownText::InCard);
     const auto instructions = ShownText::Lines(recipe.instructions.value_or(""));
@@ -199,16 +217,28 @@ std::string RecipePage(const Recipe& recipe) {
     values.set("ingredients", IngredientsOf(recipe));
     values.set("large", NutritionOf(recipe, true));
     values.set("small", NutritionOf(recipe, false));
+    values.set("report", ReportForm(recipe.id, token));
     return Page(ShownText::Name(name, ShownText::InList), Place::Elsewhere, !recipe.isPublic,
                 content.Fill(values));
 }
 
-std::string Problem(int status, const std::string& reason) {
+std::string NoMail(const std::string& token) {
+    thread_local Template content(Assets::nomail);
+    data values;
+    values.set("token", token);
+    return Page("No more mails", Place::Elsewhere, true, content.Fill(values));
+}
+
+std::string Notice(const std::string& heading, const std::string& text) {
     thread_local Template content(Assets::problem);
     data values;
-    values.set("heading", HeadingOf(status));
-    values.set("reason", reason);
-    return Page(HeadingOf(status), Place::Elsewhere, true, content.Fill(values));
+    values.set("heading", heading);
+    values.set("reason", text);
+    return Page(heading, Place::Elsewhere, true, content.Fill(values));
+}
+
+std::string Problem(int status, const std::string& reason) {
+    return Notice(HeadingOf(status), reason);
 }
 
 } // namespace exchange::Pages

@@ -19,7 +19,10 @@ struct ListPage {
 
 std::string Front();
 std::string Community(const ListPage& list);
-std::string RecipePage(const Recipe& recipe);
+/// `token` is that of the form that reports the recipe.
+std::string RecipePage(const Recipe& recipe, const std::string& token);
+std::string NoMail(const std::string& token);
+std::string Notice(const std::string& heading, const std::string& text);
 std::string Problem(int status, const std::string& reason);
 inline constexpr int LastPage = 500;
 } // namespace Pages

@@ -22,10 +22,10 @@ constexpr const char* InsertRecipe =
 /// limit, and no one else writes to the recipe until the transaction ends.
 constexpr const char* ClaimRows =
     "UPDATE recipes SET IngredientCount = IngredientCount + :n WHERE RecipeID = :id"
-    " AND Token = :token AND SentAt = 0 AND IngredientCount + :more <= :most";
+    " AND Token = :token AND SentAt = 0 AND HiddenAt = 0 AND IngredientCount + :more <= :most";
 
 constexpr const char* Claim =
-    "UPDATE recipes SET SentAt = :now WHERE RecipeID = :id AND SentAt = 0";
+    "UPDATE recipes SET SentAt = :now WHERE RecipeID = :id AND SentAt = 0 AND HiddenAt = 0";
 
 std::string InsertIngredient() {
     std::string columns;
@@ -104,10 +104,16 @@ RecipeStore::Added RecipeStore::Add(int id, const std::string& token,
     return Added::Done;
 }
 
+RecipeStore::Added RecipeStore::MayAdd(int id, const std::string& token) {
+    const auto why = WhyNotAdded(id, Secrets::Digest(token));
+    return why == Added::TooMany ? Added::Done : why;
+}
+
 RecipeStore::Added RecipeStore::WhyNotAdded(int id, const std::string& digest) {
     std::string token;
     long long sentAt = 0;
-    const bool known = connection_.First("SELECT Token, SentAt FROM recipes WHERE RecipeID = :id",
+    const bool known = connection_.First("SELECT Token, SentAt FROM recipes"
+                                         " WHERE RecipeID = :id AND HiddenAt = 0",
                                          use(id), into(token), into(sentAt));
     if (!known || !Secrets::Equal(token, digest))
         return Added::WrongToken;
@@ -117,7 +123,8 @@ RecipeStore::Added RecipeStore::WhyNotAdded(int id, const std::string& digest) {
 std::optional<RecipeStore::State> RecipeStore::Find(int id) {
     State state;
     long long sentAt = 0;
-    if (!connection_.First("SELECT SentAt, EMAILFROM, EMAILTO FROM recipes WHERE RecipeID = :id",
+    if (!connection_.First("SELECT SentAt, EMAILFROM, EMAILTO FROM recipes"
+                           " WHERE RecipeID = :id AND HiddenAt = 0",
                            use(id), into(sentAt), into(state.from), into(state.to)))
         return {};
     state.sent = sentAt != 0;
@@ -129,7 +136,7 @@ std::optional<Recipe> RecipeStore::ReadRow(int id) {
     int isPublic = 0;
     if (!connection_.First("SELECT RecipeID, RecipeName, ServingName, RecipeYield, Instructions,"
                            " PrepTime, EMAILFROM, EMAILTO, ISPUBLIC FROM recipes"
-                           " WHERE RecipeID = :id AND SentAt <> 0",
+                           " WHERE RecipeID = :id AND SentAt <> 0 AND HiddenAt = 0",
                            use(id), into(recipe.id), into(recipe.name), into(recipe.servingName),
                            into(recipe.yield), into(recipe.instructions), into(recipe.prepTime),
                            into(recipe.from), into(recipe.to), into(isPublic)))
@@ -167,15 +174,19 @@ std::optional<Recipe> RecipeStore::Finish(int id) {
         return {};
     auto recipe = ReadRow(id);
     ReadIngredients(*recipe);
-    const auto document = Documents::RecipeDocument(*recipe);
-    const auto ingredients = Documents::IngredientsDocument(*recipe);
-    connection_.Change("INSERT INTO documents (RecipeID, RecipeText, IngredientsText)"
-                       " VALUES (:id, :recipe, :ingredients)",
-                       use(id), use(document), use(ingredients));
-    if (recipe->isPublic)
-        Publish(*recipe, now);
+    MakeReadable(*recipe, now);
     transaction.Commit();
     return recipe;
+}
+
+void RecipeStore::MakeReadable(const Recipe& recipe, long long sentAt) {
+    const auto document = Documents::RecipeDocument(recipe);
+    const auto ingredients = Documents::IngredientsDocument(recipe);
+    connection_.Change("INSERT INTO documents (RecipeID, RecipeText, IngredientsText)"
+                       " VALUES (:id, :recipe, :ingredients)",
+                       use(recipe.id), use(document), use(ingredients));
+    if (recipe.isPublic)
+        Publish(recipe, sentAt);
 }
 
 void RecipeStore::Publish(const Recipe& recipe, long long now) {
@@ -210,6 +221,40 @@ RecipeStore::Document RecipeStore::Read(int id, Part part, const Counter& misses
                       use(misses.slot), into(document.text), into(hits));
     document.hits = hits.value_or(0);
     return document;
+}
+
+void RecipeStore::Unpublish(int id) {
+    connection_.Change("DELETE FROM listing WHERE RecipeID = :id", use(id));
+    connection_.Change("DELETE FROM words WHERE RecipeID = :id", use(id));
+}
+
+bool RecipeStore::Hide(int id) {
+    const auto now = Moment::Now();
+    Transaction transaction(connection_);
+    if (connection_.Change("UPDATE recipes SET HiddenAt = :now"
+                           " WHERE RecipeID = :id AND HiddenAt = 0",
+                           use(now), use(id)) == 0)
+        return false;
+    connection_.Change("DELETE FROM documents WHERE RecipeID = :id", use(id));
+    Unpublish(id);
+    transaction.Commit();
+    return true;
+}
+
+bool RecipeStore::Show(int id) {
+    Transaction transaction(connection_);
+    if (connection_.Change("UPDATE recipes SET HiddenAt = 0"
+                           " WHERE RecipeID = :id AND HiddenAt <> 0",
+                           use(id)) == 0)
+        return false;
+    long long sentAt = 0;
+    connection_.First("SELECT SentAt FROM recipes WHERE RecipeID = :id", use(id), into(sentAt));
+    if (auto recipe = ReadRow(id)) {
+        ReadIngredients(*recipe);
+        MakeReadable(*recipe, sentAt);
+    }
+    transaction.Commit();
+    return true;
 }
 
 /// The recipe first: whoever is just sending it has put in its words when this goes on.

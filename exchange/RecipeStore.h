@@ -34,6 +34,7 @@ public:
     Created Create(Recipe recipe); ///< one statement, for the caller's transaction
 
     enum class Added { Done, WrongToken, AlreadySent, TooMany };
+    Added MayAdd(int id, const std::string& token); ///< whether Add could do anything
     Added Add(int id, const std::string& token, const std::vector<Ingredient>& rows, int most);
 
     /// What a sender has to be told about, without the ingredients.
@@ -64,6 +65,8 @@ public:
     /// One more than a page, if there are more, newest first.
     std::vector<Listed> List(const std::vector<std::string>& words, int page);
 
+    bool Hide(int id); ///< from every reader, and from whoever would send it
+    bool Show(int id); ///< again, as it was
     bool Remove(int id);
     void SweepUnfinished(long long createdBefore);
     void ForgetAddresses(long long sentBefore);
@@ -73,7 +76,9 @@ private:
     Added WhyNotAdded(int id, const std::string& digest);
     std::optional<Recipe> ReadRow(int id);
     void ReadIngredients(Recipe& recipe);
+    void MakeReadable(const Recipe& recipe, long long sentAt);
     void Publish(const Recipe& recipe, long long now);
+    void Unpublish(int id);
 
     Connection& connection_;
 };

@@ -25,7 +25,7 @@ enum class Lane { Here, Workers, Watch };
 struct RouteTerms {
     Lane lane = Lane::Workers;
     bool changes = false; ///< a GET that changes something, as every other method does
-    std::string body = "application/json"; ///< the only type of a body that is taken
+    std::string body = "application/json"; ///< the only type of a body that is taken; empty: any
 };
 
 /// Finds the handler of a request by method and path, and answers what no handler takes. A pattern

@@ -61,7 +61,18 @@ void MakeTables(Connection& connection) {
         });
 }
 
-constexpr Step Steps[] = {MakeTables, ColumnOrderStep::Take};
+void MakeModerationTables(Connection& connection) {
+    Run(connection,
+        {
+            "CREATE TABLE reports ("
+            " RecipeID INTEGER NOT NULL REFERENCES recipes ON DELETE CASCADE,"
+            " ReportedAt BIGINT NOT NULL, Complaint TEXT NOT NULL, Words TEXT NOT NULL,"
+            " PRIMARY KEY (RecipeID, ReportedAt))",
+            "CREATE TABLE no_mail (Digest TEXT NOT NULL PRIMARY KEY, Since BIGINT NOT NULL)",
+        });
+}
+
+constexpr Step Steps[] = {MakeTables, ColumnOrderStep::Take, MakeModerationTables};
 } // namespace
 
 std::span<const Step> All() {

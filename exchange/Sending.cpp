@@ -80,10 +80,13 @@ Sending::Outcome Sending::MailIt(Connection& connection, const Recipe& recipe,
     const auto passOn = "Please tell your friend this number: it is all that Import Recipe needs.";
     if (!service_.config.Mails())
         return {200, Stored(recipe.id) + "This server sends no mail. " + passOn};
+    if (noMail_.Holds(connection, recipe.to))
+        return {200, Stored(recipe.id) + "Your friend wants no mails from here. " + passOn};
     if (!MayMail(connection, recipe.to, visitor))
         return {200, Stored(recipe.id) + "No mail was sent, as the limit for today is reached. " +
                          passOn};
-    if (!service_.mailer.Send(recipe.to, MailOf(recipe, service_.config)))
+    if (!service_.mailer.Send(recipe.to,
+                              MailOf(recipe, service_.config, noMail_.TokenFor(recipe.to))))
         return {200, Stored(recipe.id) + "The mail could not be sent just now. " + passOn};
     RecipeStore(connection).NoteMailed(recipe.id);
     return {200, "Your recipe has been sent to your friend. Its recipe ID is " +

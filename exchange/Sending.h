@@ -1,5 +1,6 @@
 #pragma once
 
+#include "exchange/NoMail.h"
 #include "exchange/RecipeStore.h"
 #include "exchange/Router.h"
 #include "exchange/Service.h"
@@ -13,7 +14,8 @@ namespace exchange {
 class Sending {
 public:
     explicit Sending(const Service& service)
-        : service_(service) {}
+        : service_(service)
+        , noMail_(service.secret) {}
     void AddTo(Router& router);
 
 private:
@@ -29,6 +31,7 @@ private:
     bool MayMail(Connection& connection, const std::string& to, const Visitor& visitor) const;
 
     const Service& service_;
+    NoMail noMail_;
 };
 
 } // namespace exchange

@@ -13,6 +13,7 @@ struct Service {
     Pool& pool;
     const Limits& limits;
     const Mailer& mailer;
+    const std::string& secret; ///< the key of every digest and token; it is in no database
 };
 
 } // namespace exchange

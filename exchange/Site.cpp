@@ -108,7 +108,7 @@ void Site::RecipePage(const Ask& ask, Reply& reply) const {
         throw Refusal(429, Limits::TooManyMisses);
     if (!recipe)
         throw Refusal(404, "There is no recipe with this ID.");
-    reply.SetContent(Pages::RecipePage(*recipe), HtmlType);
+    reply.SetContent(Pages::RecipePage(*recipe, reportToken_.For(*id, ask.visitor)), HtmlType);
 }
 
 void Site::Fail(const Request& request, Reply& reply, int status, const std::string& reason) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "exchange/ReportToken.h"
 #include "exchange/Router.h"
 #include "exchange/Service.h"
 
@@ -9,7 +10,8 @@ namespace exchange {
 class Site {
 public:
     explicit Site(const Service& service)
-        : service_(service) {}
+        : service_(service)
+        , reportToken_(service.secret) {}
     void AddTo(Router& router);
 
     /// A page below / and a JSON reason below /halvane/api/.
@@ -23,6 +25,7 @@ private:
     void RecipePage(const Ask& ask, Reply& reply) const;
 
     const Service& service_;
+    ReportToken reportToken_;
 };
 
 } // namespace exchange

@@ -29,17 +29,18 @@ std::string DecodedValue(std::string_view text) {
     return Decoded(value);
 }
 
-void ReadParams(std::string_view query, Request& request) {
-    while (!query.empty()) {
-        const auto part = query.substr(0, query.find('&'));
-        query.remove_prefix(std::min(query.size(), part.size() + 1));
+} // namespace
+
+void ReadParams(std::string_view text, Request& request) {
+    while (!text.empty()) {
+        const auto part = text.substr(0, text.find('&'));
+        text.remove_prefix(std::min(text.size(), part.size() + 1));
         const auto equals = std::min(part.find('='), part.size());
         const auto value = part.substr(std::min(part.size(), equals + 1));
         if (!part.empty())
             request.params.emplace_back(DecodedValue(part.substr(0, equals)), DecodedValue(value));
     }
 }
-} // namespace
 
 std::string Decoded(std::string_view text) {
     std::string decoded;

@@ -1,7 +1,11 @@
 #include "exchange/Api.h"
+#include "exchange/Forms.h"
 #include "exchange/Front.h"
 #include "exchange/Housekeeping.h"
 #include "exchange/Log.h"
+#include "exchange/MailAddress.h"
+#include "exchange/Moderation.h"
+#include "exchange/NoMail.h"
 #include "exchange/Schema.h"
 #include "exchange/SecretFile.h"
 #include "exchange/Sending.h"
@@ -17,15 +21,48 @@
 namespace {
 using namespace exchange;
 
-constexpr const char* Usage =
-    "halvane-exchange [--config FILE]              serve until SIGTERM\n"
-    "halvane-exchange [--config FILE] --check      read the configuration and reach the database\n"
-    "halvane-exchange [--config FILE] --remove ID  take a recipe away for good\n";
+/// What the operator does about one recipe.
+struct Act {
+    std::string_view option;
+    const char* help;
+    bool (Moderation::*act)(int recipeID);
+    const char* done;
+    const char* notDone;
+};
+constexpr const char* NoRecipe = "There is no such recipe.\n";
+constexpr Act Acts[] = {
+    {"--hide", "keep a recipe from everybody", &Moderation::Hide, "The recipe is hidden.\n",
+     "There is no such recipe, or it is hidden already.\n"},
+    {"--show", "show a hidden recipe again", &Moderation::Show, "The recipe is shown again.\n",
+     "There is no such recipe, or it is not hidden.\n"},
+    {"--remove", "take a recipe away for good", &Moderation::Remove, "The recipe is removed.\n",
+     NoRecipe},
+    {"--dismiss", "forget the reports of a recipe", &Moderation::Dismiss,
+     "The reports are forgotten.\n", "There is no report of such a recipe.\n"},
+};
+
+std::string Usage() {
+    const std::string begin = "halvane-exchange [--config FILE] ";
+    auto usage = begin + "                 serve until SIGTERM\n" + begin +
+                 "--check          read the configuration and reach the database\n" + begin +
+                 "--reported       list the recipes that readers have reported\n";
+    for (const auto& act : Acts)
+        usage +=
+            begin + (std::string(act.option) + " ID           ").substr(0, 17) + act.help + "\n";
+    return usage + begin + "--nomail ADDRESS send no more mails to an address\n";
+}
+
+const Act* ActOf(std::string_view option) {
+    for (const auto& act : Acts)
+        if (act.option == option)
+            return &act;
+    return nullptr;
+}
 
 struct Command {
     std::string config;
     std::string action = "serve";
-    int id = 0;
+    std::string object; ///< what the action is done to
 };
 
 Command ReadCommand(std::vector<std::string> words) {
@@ -33,17 +70,17 @@ Command ReadCommand(std::vector<std::string> words) {
     while (!words.empty()) {
         const auto word = words.front();
         words.erase(words.begin());
-        if (word == "--check" || word == "--help") {
+        if (word == "--check" || word == "--help" || word == "--reported") {
             command.action = word;
             continue;
         }
-        if ((word != "--config" && word != "--remove") || words.empty())
-            throw ConfigError("\n" + std::string(Usage));
+        if ((word != "--config" && word != "--nomail" && !ActOf(word)) || words.empty())
+            throw ConfigError("\n" + Usage());
         if (word == "--config") {
             command.config = words.front();
         } else {
             command.action = word;
-            command.id = WholeNumber(words.front(), 2, 0x7fffffff).value_or(0);
+            command.object = words.front();
         }
         words.erase(words.begin());
     }
@@ -104,14 +141,16 @@ void Serve(const Config& config, Pool& pool) {
     const Limits limits(secret);
     const Visitors visitors(config, secret);
     const Mailer mailer(config);
-    const Service service{config, pool, limits, mailer};
+    const Service service{config, pool, limits, mailer, secret};
     Api api(service);
     Sending sending(service);
     Site site(service);
+    Forms forms(service);
     Router router(Site::Fail);
     api.AddTo(router);
     sending.AddTo(router);
     site.AddTo(router);
+    forms.AddTo(router);
     Front front(config, router, visitors);
     front.Open();
     const Housekeeping housekeeping(service);
@@ -123,9 +162,38 @@ void Serve(const Config& config, Pool& pool) {
     Log::Info("ended");
 }
 
+int Say(bool done, const char* text, const char* otherwise) {
+    std::cout << (done ? text : otherwise);
+    return done ? 0 : 1;
+}
+
+int EndMails(Connection& connection, const Config& config, const std::string& address) {
+    const NoMail noMail(SecretOf(config));
+    const bool done = IsMailAddress(address) && noMail.Note(connection, noMail.TokenFor(address));
+    return Say(done, "No more mails go to this address.\n", "This is no mail address.\n");
+}
+
+/// Everything but serving: it is done at once.
+int Do(const Command& command, const Config& config, Connection& connection) {
+    if (command.action == "--check") {
+        Schema::Check(connection);
+        return 0;
+    }
+    if (command.action == "--nomail")
+        return EndMails(connection, config, command.object);
+    Moderation moderation(connection);
+    if (command.action == "--reported") {
+        std::cout << moderation.Reported();
+        return 0;
+    }
+    const auto* act = ActOf(command.action);
+    const int id = WholeNumber(command.object, 2, 0x7fffffff).value_or(0);
+    return Say((moderation.*act->act)(id), act->done, act->notDone);
+}
+
 int Run(const Command& command) {
     if (command.action == "--help") {
-        std::cout << Usage;
+        std::cout << Usage();
         return 0;
     }
     const auto config = Config::Read(command.config);
@@ -136,13 +204,7 @@ int Run(const Command& command) {
         return 0;
     }
     const Pool::Lease lease(pool);
-    if (command.action == "--check") {
-        Schema::Check(*lease);
-        return 0;
-    }
-    const bool removed = RecipeStore(*lease).Remove(command.id);
-    std::cout << (removed ? "The recipe is removed.\n" : "There is no such recipe.\n");
-    return removed ? 0 : 1;
+    return Do(command, config, *lease);
 }
 } // namespace
 

@@ -75,7 +75,7 @@ const rules = {
     return first && doc.querySelector(first.getAttribute('href')) ? [] : ['skip'];
   },
   'pictures have a text': (doc) => all(doc, 'img:not([alt])').map(where),
-  'fields have a label': (doc) => all(doc, 'input,select,textarea')
+  'fields have a label': (doc) => all(doc, 'input:not([type=hidden]),select,textarea')
     .filter((node) => !(node.labels && node.labels.length && text(node.labels[0]))).map(where),
   'links and buttons have a name': (doc) => all(doc, 'a,button')
     .filter((node) => !nameOf(doc, node)).map(where),
@@ -97,7 +97,8 @@ const rules = {
       const ink = colours(view.getComputedStyle(node).color)[0];
       return grounds(view, node).some((ground) => contrast(ink, ground.slice(0, 3)) < 4.5);
     }).map(where),
-  'targets are large enough': (doc, view) => all(doc, 'a,button,input')
+  'targets are large enough': (doc, view) =>
+    all(doc, 'a,button,summary,select,textarea,input:not([type=hidden])')
     .filter((node) => isShown(view, node))
     .filter((node) => node.getBoundingClientRect().height < 24 && !node.closest('.list li'))
     .map(where),

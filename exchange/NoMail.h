@@ -1,0 +1,30 @@
+#pragma once
+
+#include "exchange/Connection.h"
+
+#include <string>
+#include <string_view>
+
+namespace exchange {
+
+/// Who wants no mail from here. The database holds keyed digests of mailboxes alone. Each mail
+/// carries a token for its own mailbox; nobody without the key can make one.
+class NoMail {
+public:
+    explicit NoMail(std::string secret)
+        : secret_(std::move(secret)) {}
+
+    std::string TokenFor(std::string_view address) const;
+    /// Notes the mailbox that the token was made for; false if it is no token of ours.
+    bool Note(Connection& connection, std::string_view token) const;
+    bool IsToken(std::string_view token) const;
+    bool Holds(Connection& connection, std::string_view address) const;
+
+private:
+    std::string DigestOf(std::string_view address) const;
+    std::string SealOf(std::string_view digest) const;
+
+    std::string secret_;
+};
+
+} // namespace exchange

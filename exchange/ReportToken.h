@@ -1,0 +1,24 @@
+#pragma once
+
+#include "exchange/Visitor.h"
+
+#include <string>
+#include <string_view>
+
+namespace exchange {
+
+/// The token in the form that reports a recipe. It fits one recipe and the network that was shown
+/// the form, for a day at least: a page of another site cannot have its visitors send the form.
+class ReportToken {
+public:
+    explicit ReportToken(std::string secret)
+        : secret_(std::move(secret)) {}
+    std::string For(int recipeID, const Visitor& visitor) const;
+    bool Fits(std::string_view token, int recipeID, const Visitor& visitor) const;
+
+private:
+    std::string OfDay(long long day, int recipeID, const Visitor& visitor) const;
+    std::string secret_;
+};
+
+} // namespace exchange
