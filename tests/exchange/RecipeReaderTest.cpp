@@ -128,7 +128,8 @@ TEST(RecipeReaderTest, ANameOfOneBlankIsANameNullStaysNullAndAnEmptyOneIsRefused
 
 TEST(RecipeReaderTest, OfAKeyThatStandsTwiceTheLastCounts) {
     EXPECT_EQ(RecipeReader::ReadRecipe(With(R"("PrepTime":1,"PrepTime":2)")).prepTime, 2);
-    EXPECT_EQ(RecipeReader::ReadRecipe(With(R"("PrepTime":1,"PrepTime":null)")).prepTime, std::nullopt);
+    EXPECT_EQ(RecipeReader::ReadRecipe(With(R"("PrepTime":1,"PrepTime":null)")).prepTime,
+              std::nullopt);
     const auto rows = RecipeReader::ReadIngredients(R"({"rows":[[null,1]],"rows":[[null,2]]})", 1);
     ASSERT_EQ(rows.size(), 1U);
     EXPECT_EQ(rows[0].nutrients[11], 2) << "calories come first in older programs";
