@@ -1,7 +1,7 @@
 #include "analysis/WeightLog.h"
 
-#include "analysis/Period.h"
 #include "model/User.h"
+#include "runtime/Round.h"
 #include "store/Connection.h"
 #include "store/Recordset.h"
 
@@ -24,19 +24,21 @@ std::vector<WeightLog::Entry> WeightLog::Entries(const Period& period) {
     for (; !rows.AtEnd(); rows.MoveNext())
         entries.push_back(
             {rows[QStringLiteral("Weight")].Number(), rows[QStringLiteral("UDate")].Date()});
-    rows.Close();
     return entries;
 }
 
 WeightLog::Extremes WeightLog::LeastAndGreatest(const Period& period) {
-    Recordset row(UserDB(),
-                  "SELECT  Min(Weight) As [MinWeight], Max(Weight) As [MaxWeight] "
-                  "FROM USER_WEIGHTS "
-                  " WHERE  Weight > 0 AND UID=" +
-                      OfUser(period),
-                  Cursor::Static, Lock::ReadOnly);
-    const Extremes extremes{row[QStringLiteral("MinWeight")].Integer(),
-                            row[QStringLiteral("MaxWeight")].Integer()};
-    row.Close();
-    return extremes;
+    const Recordset row(UserDB(), "SELECT  Min(Weight) As [MinWeight], Max(Weight) As [MaxWeight] "
+                                  "FROM USER_WEIGHTS "
+                                  " WHERE  Weight > 0 AND UID=" +
+                                      OfUser(period));
+    return {row[QStringLiteral("MinWeight")].Integer(), row[QStringLiteral("MaxWeight")].Integer()};
+}
+
+qint32 WeightLog::Average(const Period& period) {
+    const Recordset row(UserDB(),
+                        "SELECT Avg(USER_WEIGHTS.Weight) AS [Weight] FROM USER_WEIGHTS WHERE "
+                        "Weight > 0 AND UID=" +
+                            QString::number(User::Current().UID) + " AND " + period.Condition());
+    return Round(row[QStringLiteral("Weight")].Number());
 }

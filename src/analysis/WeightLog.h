@@ -1,13 +1,10 @@
 #pragma once
 
-#include <QDate>
+#include "analysis/Period.h"
 
 #include <vector>
 
-struct Period;
-
-/// The weights that the current user has entered. An entry of 0 is one that was taken back: it is
-/// passed over.
+/// The weights that the current user has entered. An entry of 0 was taken back and does not count.
 namespace WeightLog {
 
 struct Entry {
@@ -19,6 +16,8 @@ struct Extremes {
 };
 
 std::vector<Entry> Entries(const Period& period); ///< in the order of their days
-Extremes LeastAndGreatest(const Period& period);  ///< of a period that has entries
+/// Both fail with an invalid use of Null where the period has no entry.
+Extremes LeastAndGreatest(const Period& period);
+qint32 Average(const Period& period); ///< rounded half to even
 
 } // namespace WeightLog

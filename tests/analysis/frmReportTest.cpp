@@ -361,7 +361,7 @@ TEST_F(frmReportTest, ANullOfAnotherKindIsNotTakenForAMissingWeight) {
     LogWeek();
     App().AppInfo.AUTOUPDATERDI = true;
     Open();
-    Users(QStringLiteral("UPDATE profiles SET Zinc = NULL"));
+    Users(QStringLiteral("UPDATE profiles SET gender = NULL"));
     EXPECT_EQ(
         FailureOf([&] { Find<ucButton>(report.get(), QStringLiteral("cmdRefresh"))->Activate(); }),
         ErrorNumber::InvalidUseOfNull);

@@ -1,16 +1,14 @@
 #include "analysis/ui/ucBarChart.h"
 
 #include "analysis/LoggedSums.h"
+#include "analysis/WeightLog.h"
 #include "analysis/ui/ChartBar.h"
 #include "analysis/ui/ChartLabel.h"
 #include "analysis/ui/GridLines.h"
 #include "analysis/ui/LedLabel.h"
 #include "model/User.h"
 #include "runtime/Format.h"
-#include "runtime/Round.h"
 #include "runtime/Settings.h"
-#include "store/Connection.h"
-#include "store/Recordset.h"
 #include "toolkit/Style.h"
 #include "toolkit/Twips.h"
 #include "toolkit/ucHeader.h"
@@ -171,16 +169,10 @@ void ucBarChart::updateBars(QDate start, QDate end) {
 }
 
 void ucBarChart::AdjustToAverageWeight(const Period& period) {
-    Recordset average(UserDB(),
-                      "SELECT Avg(USER_WEIGHTS.Weight) AS [Weight] FROM USER_WEIGHTS WHERE Weight "
-                      "> 0 AND UID=" +
-                          QString::number(User::Current().UID) + " AND " + period.Condition(),
-                      Cursor::Static, Lock::ReadOnly);
-    averageWeight_ = Round(average[QStringLiteral("Weight")].Number());
+    averageWeight_ = WeightLog::Average(period);
     User::Current().CurrentWeight = averageWeight_;
     header_->SetCaption(PercentCaption());
     RecalcTargets();
-    average.Close();
 }
 
 void ucBarChart::ShowBars() {

@@ -1,14 +1,12 @@
 #include "analysis/ui/ucCal_LG.h"
 
+#include "analysis/LoggedDays.h"
 #include "analysis/ui/DayCell.h"
 #include "analysis/ui/MonthGrid.h"
-#include "model/User.h"
 #include "runtime/AppState.h"
 #include "runtime/Clock.h"
 #include "runtime/Dates.h"
 #include "runtime/Round.h"
-#include "store/Connection.h"
-#include "store/Recordset.h"
 #include "toolkit/Labels.h"
 #include "toolkit/SmoothedPrint.h"
 #include "toolkit/Style.h"
@@ -23,13 +21,10 @@
 #include <QMouseEvent>
 #include <QPainter>
 
-#include <bitset>
-
 namespace {
 
 constexpr int firstYear = 1992;
 constexpr int lastListedYear = 2012; ///< or the present year, where that is later
-constexpr int longestMonth = 31;
 
 // Pixels.
 constexpr int titleHeight = 38;
@@ -43,11 +38,6 @@ constexpr int cellEdge = 15;
 constexpr int buttonPlace = -15;
 
 } // namespace
-
-/// The days of the month that have food, and those that have a weight.
-struct ucCal_LG::Marks {
-    std::bitset<longestMonth + 1> food, scale;
-};
 
 ucCal_LG::ucCal_LG(QWidget* parent)
     : DrawnControl(parent) {
@@ -89,7 +79,7 @@ void ucCal_LG::AddGrid() {
     connect(picCalBG_, &MonthGrid::HeadMouseMove, this, &ucCal_LG::ResetButtons);
     ucCalButton_ = new ucCalButton(picCalBG_);
     ucCalButton_->setObjectName(QStringLiteral("ucCalButton"));
-    connect(ucCalButton_, &ucCalButton::Click, this, [this] { picDay_Click(day_.toInt()); });
+    connect(ucCalButton_, &ucCalButton::Click, this, [this] { picDay_Click(date_.day()); });
     lblToday_ = MakeLabel(picCalBG_, QStringLiteral("lblToday"), QStringLiteral("Today"));
     lblToday_->setFont(TheStyle().smallStrong);
     lblToday_->setAttribute(Qt::WA_TransparentForMouseEvents);
@@ -108,46 +98,40 @@ void ucCal_LG::FillLists() {
 
 /// A year before the first of the list is only shown.
 void ucCal_LG::OpenOn(QDate today) {
-    month_ = QString::number(today.month());
-    year_ = QString::number(today.year());
-    day_ = QStringLiteral("1");
     ucMonth_->SetIndex(qint16(today.month()));
     if (today.year() >= firstYear)
         ucYear_->SetIndex(qint16(today.year() - (firstYear - 1)));
     else
-        ucYear_->SetText(year_);
-    ShowDays();
-    day_ = QString::number(today.day());
+        ucYear_->SetText(QString::number(today.year()));
+    date_ = today;
     getDate();
 }
 
 void ucCal_LG::getDate() {
-    date_ = Dates::Parse(QString(month_ + u'/' + day_ + u'/' + year_));
-    aadate_->SetCaption(Dates::MonthName(date_.month()) + u' ' + year_);
+    aadate_->SetCaption(Dates::MonthName(date_.month()) + u' ' + QString::number(date_.year()));
     ShowDays();
     PaintLabels();
 }
 
 QDate ucCal_LG::FirstOfMonth() const {
-    return Dates::Parse(QString(month_ + "/1/" + year_));
+    return {date_.year(), date_.month(), 1};
 }
 
 QDate ucCal_LG::LastOfMonth() const {
-    return Dates::LastOfMonth(FirstOfMonth());
+    return Dates::LastOfMonth(date_);
 }
 
 void ucCal_LG::ShowDays() {
     const auto* focused = qobject_cast<DrawnControl*>(QApplication::focusWidget());
     const bool focusOnDays = FocusedDay() > 0;
     const bool ringShown = focusOnDays && focused->FocusShown();
-    lastDay_ = LastOfMonth().day();
     PlaceDays();
     PlaceButton();
-    for (int day = lastDay_ + 1; day <= int(picDay_.size()); ++day)
+    for (int day = date_.daysInMonth() + 1; day <= int(picDay_.size()); ++day)
         CellAt(day)->hide();
     PlaceToday();
     if (focusOnDays)
-        FocusDay(day_.toInt(), ringShown ? Qt::OtherFocusReason : Qt::MouseFocusReason);
+        FocusDay(date_.day(), ringShown ? Qt::OtherFocusReason : Qt::MouseFocusReason);
     ShowIcons();
     update();
 }
@@ -158,8 +142,8 @@ void ucCal_LG::PlaceDays() {
     const double cellWidth = picCalBG_->CellWidth();
     int x = Round(cellWidth * column + cellEdge + column);
     int y = picCalBG_->FirstTop();
-    picCalBG_->SetMonth(column, lastDay_);
-    for (int day = 1; day <= lastDay_; ++day) {
+    picCalBG_->SetMonth(column, date_.daysInMonth());
+    for (int day = 1; day <= date_.daysInMonth(); ++day) {
         DayCell* cell = CellAt(day);
         PrintDay(cell, QString::number(day));
         cell->setGeometry(picCalBG_->SlotAt(x, y, column, row));
@@ -191,20 +175,19 @@ void ucCal_LG::PrintDay(DayCell* cell, const QString& text) {
 
 /// Below the icons, which the button must not hide.
 void ucCal_LG::PlaceButton() {
-    DayCell* cell = CellAt(day_.toInt());
+    DayCell* cell = CellAt(date_.day());
     if (ucCalButton_->parentWidget() != cell)
         ucCalButton_->setParent(cell);
     const int place = Twips::ToPixels(buttonPlace);
     ucCalButton_->setGeometry(place, place, cell->width() - 2 * place, cell->height() - 2 * place);
-    ucCalButton_->SetCaption(day_);
+    ucCalButton_->SetCaption(QString::number(date_.day()));
     ucCalButton_->lower();
     ucCalButton_->show();
 }
 
 void ucCal_LG::PlaceToday() {
     const QDate today = Clock::Today();
-    const QDate first = FirstOfMonth();
-    const bool shown = today.month() == first.month() && today.year() == first.year();
+    const bool shown = today.month() == date_.month() && today.year() == date_.year();
     lblToday_->setVisible(shown);
     if (!shown)
         return;
@@ -215,73 +198,53 @@ void ucCal_LG::PlaceToday() {
 }
 
 void ucCal_LG::ShowIcons() {
-    const Marks marks = App().AppStarted ? ReadMarks() : Marks();
-    const QString month = Dates::MonthName(month_.toInt());
-    for (int day = 1; day <= lastDay_; ++day) {
-        CellAt(day)->SetMarks(marks.food[size_t(day)], marks.scale[size_t(day)]);
-        CellAt(day)->Name(month);
+    LoggedDays::Days food, weight;
+    if (App().AppStarted) {
+        const Period month{FirstOfMonth(), LastOfMonth()};
+        food = LoggedDays::WithFood(month);
+        weight = LoggedDays::WithWeight(month);
     }
-    ucCalButton_->setAccessibleName(CellAt(day_.toInt())->accessibleName());
+    for (int day = 1; day <= date_.daysInMonth(); ++day) {
+        CellAt(day)->SetMarks(food[size_t(day)], weight[size_t(day)]);
+        CellAt(day)->Name(Dates::MonthName(date_.month()));
+    }
+    ucCalButton_->setAccessibleName(CellAt(date_.day())->accessibleName());
     picCalBG_->setAccessibleName(aadate_->Caption());
 }
 
-ucCal_LG::Marks ucCal_LG::ReadMarks() const {
-    const QString range = QString::number(User::Current().UID) + " AND UDate Between #" + month_ +
-                          "/1/" + year_ + "# AND #" + month_ + u'/' + QString::number(lastDay_) +
-                          u'/' + year_ + u'#';
-    Marks marks;
-    Recordset foods(UserDB(), "SELECT DISTINCT UDate FROM USER_FOODS WHERE UID=" + range);
-    for (; !foods.AtEnd(); foods.MoveNext())
-        marks.food.set(size_t(foods["UDate"].Date().day()));
-    foods.Close();
-    Recordset weights(UserDB(), "SELECT * FROM USER_WEIGHTS WHERE UID=" + range);
-    for (; !weights.AtEnd(); weights.MoveNext())
-        if (weights["Weight"].NumberOr(0) != 0)
-            marks.scale.set(size_t(weights["UDate"].Date().day()));
-    return marks;
-}
-
 void ucCal_LG::picDay_Click(int index) {
-    day_ = QString::number(index);
+    date_ = QDate(date_.year(), date_.month(), index);
     getDate();
     Q_EMIT DayChosen(date_);
 }
 
 void ucCal_LG::OnMonth() {
-    const QString value = QString::number(ucMonth_->SelectedID());
-    if (value == month_)
-        return;
-    month_ = value;
-    ShowMonth();
+    const int month = ucMonth_->SelectedID();
+    if (month != date_.month())
+        ShowMonth(QDate(date_.year(), month, 1));
 }
 
 void ucCal_LG::OnYear() {
-    const QString value = QString::number(ucYear_->SelectedID());
-    if (value == year_)
-        return;
-    year_ = value;
-    ShowMonth();
+    const int year = ucYear_->SelectedID();
+    if (year != date_.year())
+        ShowMonth(QDate(year, date_.month(), 1));
 }
 
-/// The first of a month is a date whatever day was chosen before.
-void ucCal_LG::ShowMonth() {
-    day_ = QStringLiteral("1");
+void ucCal_LG::ShowMonth(QDate first) {
+    date_ = first;
     getDate();
-    Q_EMIT MonthChanged(FirstOfMonth(), LastOfMonth());
+    Q_EMIT MonthChanged(first, LastOfMonth());
 }
 
 void ucCal_LG::TurnMonth(int months) {
-    const QDate month = Dates::AddMonths(FirstOfMonth(), months);
-    const QString year = QString::number(month.year());
-    if (year != year_) {
-        if (month.year() < firstYear || month.year() > lastYear_)
+    const QDate first = Dates::AddMonths(FirstOfMonth(), months);
+    if (first.year() != date_.year()) {
+        if (first.year() < firstYear || first.year() > lastYear_)
             return;
-        ucYear_->SetIndex(qint16(month.year() - (firstYear - 1)));
-        year_ = year;
+        ucYear_->SetIndex(qint16(first.year() - (firstYear - 1)));
     }
-    ucMonth_->SetIndex(qint16(month.month()));
-    month_ = QString::number(month.month());
-    ShowMonth();
+    ucMonth_->SetIndex(qint16(first.month()));
+    ShowMonth(first);
 }
 
 void ucCal_LG::ResetButtons() {
@@ -302,7 +265,7 @@ void ucCal_LG::mouseMoveEvent(QMouseEvent* event) {
 int ucCal_LG::FocusedDay() const {
     const QWidget* focused = QApplication::focusWidget();
     if (focused == this)
-        return day_.toInt();
+        return date_.day();
     for (size_t i = 0; i < picDay_.size(); ++i)
         if (focused && picDay_[i]->isAncestorOf(focused))
             return int(i) + 1;
@@ -310,9 +273,9 @@ int ucCal_LG::FocusedDay() const {
 }
 
 void ucCal_LG::FocusDay(int day, Qt::FocusReason reason) {
-    const int target = qBound(1, day, lastDay_);
+    const int target = qBound(1, day, date_.daysInMonth());
     QWidget* control = CellAt(target);
-    if (target == day_.toInt())
+    if (target == date_.day())
         control = ucCalButton_;
     control->setFocus(reason);
 }

@@ -27,7 +27,7 @@ class ucCal_LG : public DrawnControl {
 public:
     explicit ucCal_LG(QWidget* parent = nullptr);
 
-    void getDate();      ///< takes the fields for the date and shows it all anew
+    void getDate();      ///< shows the chosen day and its month anew
     void ShowDays();     ///< lays out the days of the month
     void ShowIcons();    ///< reads what is logged in the month and shows its icons
     void ResetButtons(); ///< takes the hover look off the chosen day
@@ -54,7 +54,6 @@ private:
     struct Layout {
         QRect ucHead, aadate, ucMonth, ucYear, picCalBG;
     };
-    struct Marks;
 
     void AddHead();
     ucDropDown* AddList(const QString& name, const QString& spoken);
@@ -69,18 +68,15 @@ private:
     void PlaceToday();
     void PrintDay(DayCell* cell, const QString& text);
     void PaintLabels();
-    Marks ReadMarks() const;
 
     void OnMonth();
     void OnYear();
-    void ShowMonth();
+    void ShowMonth(QDate first);
     void TurnMonth(int months);
     int FocusedDay() const; ///< 0 where the focus is not among the days
     void FocusDay(int day, Qt::FocusReason reason);
 
-    QString month_, year_, day_;
     QDate date_;
-    int lastDay_ = 0;
     int lastYear_ = 0; ///< of the list
     QPoint lastMouse_{-1, -1};
 

@@ -11,8 +11,6 @@
 #include "model/User.h"
 #include "runtime/AppState.h"
 #include "runtime/Clock.h"
-#include "runtime/Dates.h"
-#include "runtime/Format.h"
 #include "runtime/Settings.h"
 #include "toolkit/Style.h"
 #include "toolkit/Twips.h"
@@ -65,7 +63,7 @@ int ModeNumber(const QString& mode) {
 
 ucDaily::ucDaily(QWidget* parent)
     : DrawnControl(parent)
-    , date_(Dates::Parse(FormatShortDate(Clock::Today()))) {
+    , date_(Clock::Today()) {
     setAccessibleName(QStringLiteral("Daily summary"));
     setAttribute(Qt::WA_OpaquePaintEvent);
     AddHead();

@@ -1,0 +1,34 @@
+#include "analysis/LoggedDays.h"
+
+#include "model/User.h"
+#include "store/Connection.h"
+#include "store/Recordset.h"
+
+namespace {
+
+QString OfUser(const Period& month) {
+    return QString::number(User::Current().UID) + " AND " + month.Condition();
+}
+
+size_t DayOf(const Recordset& row) {
+    return size_t(row[QStringLiteral("UDate")].Date().day());
+}
+
+} // namespace
+
+LoggedDays::Days LoggedDays::WithFood(const Period& month) {
+    Recordset foods(UserDB(), "SELECT DISTINCT UDate FROM USER_FOODS WHERE UID=" + OfUser(month));
+    Days days;
+    for (; !foods.AtEnd(); foods.MoveNext())
+        days.set(DayOf(foods));
+    return days;
+}
+
+LoggedDays::Days LoggedDays::WithWeight(const Period& month) {
+    Recordset weights(UserDB(), "SELECT * FROM USER_WEIGHTS WHERE UID=" + OfUser(month));
+    Days days;
+    for (; !weights.AtEnd(); weights.MoveNext())
+        if (weights[QStringLiteral("Weight")].NumberOr(0) != 0)
+            days.set(DayOf(weights));
+    return days;
+}
