@@ -206,7 +206,9 @@ TEST_P(MigrationTest, AServerThatIsKilledWhileItMigratesLosesNothing) {
     const Folder folder;
     for (const int milliseconds : {50, 150, 300, 600}) {
         Process server({Server::Program()},
-                       {{"HALVANE_EXCHANGE_DATABASE", Database()}, {"HALVANE_EXCHANGE_PORT", "0"}},
+                       {{"HALVANE_EXCHANGE_DATABASE", Database()},
+                        {"HALVANE_EXCHANGE_PORT", "0"},
+                        {"HALVANE_EXCHANGE_SECRET", "the secret of a server that is killed"}},
                        folder / "log");
         std::this_thread::sleep_for(std::chrono::milliseconds(milliseconds));
         server.Signal(SIGKILL);
