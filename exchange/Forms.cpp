@@ -32,7 +32,7 @@ Report ReadReport(const Request& form) {
     return report;
 }
 
-void NotALink() {
+[[noreturn]] void NotALink() {
     throw Refusal(404, "This link is not complete. Please take it from the mail as a whole.");
 }
 } // namespace

@@ -20,7 +20,7 @@ struct Reported {
     int count = 0;
 };
 
-/// The newest reports lead to their recipes, so that a long history of others costs nothing.
+/// The recipes with the newest reports, by the index of the reports.
 constexpr const char* SelectReported =
     "SELECT r.RecipeID, COALESCE(r.RecipeName, ''), r.HiddenAt, s.Count"
     " FROM (SELECT RecipeID, COUNT(*) AS Count, MAX(ReportedAt) AS Newest FROM reports"

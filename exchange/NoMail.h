@@ -7,7 +7,7 @@
 
 namespace exchange {
 
-/// Who wants no mail from here. The database holds keyed digests of mailboxes alone. Each mail
+/// Who wants no mail from here. The database holds keyed digests of mailboxes only. Each mail
 /// carries a token for its own mailbox; nobody without the key can make one.
 class NoMail {
 public:
