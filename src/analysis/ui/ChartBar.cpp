@@ -39,7 +39,12 @@ void ChartBar::SetHilited(bool hilited) {
 }
 
 void ChartBar::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    Paint(painter, rect(), hilited_);
+}
+
+void ChartBar::Paint(QPainter& painter, const QRect& place, bool hilited) {
     static const QImage picBarGraph_Bars_N = BarPicture(TheStyle().barNormal);
     static const QImage picBarGraph_Bars_R = BarPicture(TheStyle().barHover);
-    QPainter(this).drawImage(rect(), hilited_ ? picBarGraph_Bars_R : picBarGraph_Bars_N);
+    painter.drawImage(place, hilited ? picBarGraph_Bars_R : picBarGraph_Bars_N);
 }

@@ -1,10 +1,10 @@
 #include "analysis/ui/DailyRow.h"
 
+#include "analysis/DayFigures.h"
 #include "analysis/ui/BarGrid.h"
 #include "analysis/ui/ChartBar.h"
 #include "analysis/ui/ChartLabel.h"
 #include "analysis/ui/LedLabel.h"
-#include "runtime/Convert.h"
 #include "toolkit/Style.h"
 #include "toolkit/Twips.h"
 
@@ -22,33 +22,35 @@ constexpr int RightMargin = 30; ///< twips
 
 } // namespace
 
-DailyRow::DailyRow(int i, Nutrient nutrient, const Views& views)
-    : ChartRow(i, nutrient, Info(nutrient).unit, views) {
+DailyRow::DailyRow(int i, const NutrientFigure& figure, const Views& views)
+    : ChartRow(i, figure.nutrient, views)
+    , shown_(figure) {
     lbl()->setGeometry(LabelLeft, Top(i), views.labels->width() - LabelLeft,
                        RowHeight + Twips::ToPixels(ValueDrop));
     imgBar()->move(Twips::ToPixels(BarGrid::Origin), Top(i) + Twips::ToPixels(BarDrop));
     lblVal()->move(0, Top(i) + Twips::ToPixels(ValueDrop));
-    SetFigure(0, 0);
+    SetFigure(figure);
 }
 
 int DailyRow::Top(int i) {
     return FirstTop + (i - 1) * RowHeight;
 }
 
-void DailyRow::Show(double value, double rdi, int panelWidth) {
-    value_ = value;
-    rdi_ = rdi;
-    SetBar(barWidth(value_, rdi_, panelWidth));
-    lblVal()->SetCaption(Leader + DecimalText(numFix(value)) + u' ' +
-                         QLatin1String(Info(nutrient()).unit));
-    SetFigure(value, rdi);
+void DailyRow::Show(const NutrientFigure& figure, int panelWidth) {
+    Take(figure);
+    SetBar(barWidth(figure.value, figure.target, panelWidth));
+    lblVal()->SetCaption(Leader + DayFigures::Text(figure));
 }
 
-void DailyRow::ShowNothing() {
-    value_ = 0;
+void DailyRow::ShowNothing(const NutrientFigure& figure) {
+    Take(figure);
     SetBar(0);
     lblVal()->SetCaption(EmptyValue);
-    SetFigure(0, rdi_);
+}
+
+void DailyRow::Take(const NutrientFigure& figure) {
+    shown_ = figure;
+    SetFigure(figure);
 }
 
 void DailyRow::SetBar(double width) {
@@ -57,7 +59,7 @@ void DailyRow::SetBar(double width) {
 }
 
 void DailyRow::FitBar(int panelWidth) {
-    const double width = barWidth(value_, rdi_, panelWidth);
+    const double width = barWidth(shown_.value, shown_.target, panelWidth);
     if (width != imgBar()->Width())
         SetBar(width);
 }
@@ -75,7 +77,7 @@ void DailyRow::SetLit(bool lit) {
 }
 
 double DailyRow::barWidth(double value, double rdi, int panelWidth) {
-    const double width = Twips::PerPixel() * 100 * PartOfTarget(value, rdi);
+    const double width = Twips::PerPixel() * 100 * NutrientFigure::PartOfTarget(value, rdi);
     const int end = Twips::FromPixels(panelWidth) - RightMargin;
     if (static_cast<float>(end) < static_cast<float>(width + BarGrid::Origin))
         return qMax(0, end - BarGrid::Origin);

@@ -1,6 +1,5 @@
 #include "analysis/ui/Pie.h"
 
-#include "runtime/Format.h"
 #include "toolkit/Pictures.h"
 #include "toolkit/SmoothedPrint.h"
 #include "toolkit/Style.h"
@@ -13,13 +12,7 @@
 
 namespace {
 
-constexpr double ShareOfNone = 0.0001;
-constexpr double SumOfNone = 0.00031;
-constexpr double TooLarge = 99.9;
-constexpr double Largest = 99.8;
 constexpr double DegreesPerPercent = 3.6;
-
-const QString NoDataText = QStringLiteral("No data to chart");
 
 int Mixed(int onto, int over, int alpha) {
     return (over * alpha + onto * (255 - alpha) + 127) / 255;
@@ -30,10 +23,6 @@ QRgb Mixed(QRgb onto, QRgb over, int alpha) {
                 Mixed(qBlue(onto), qBlue(over), alpha));
 }
 
-QString ShareCaption(const char* name, double share) {
-    return QLatin1String(name) + Format(share, NumberMask::WholeNumber) + u'%';
-}
-
 } // namespace
 
 Pie::Pie(PieForm form)
@@ -41,27 +30,13 @@ Pie::Pie(PieForm form)
     SetNoDataCaptions();
 }
 
-void Pie::DrawPie(double fat, double protein, double carbs) {
-    std::array<double, 3> shares{fat, protein, carbs};
-    for (double& share : shares)
-        share = share == 0 ? ShareOfNone : share;
-    const double total = shares[0] + shares[1] + shares[2];
-    if (!(total > SumOfNone))
-        return SetContent(Content::Nothing);
-    for (size_t i = 0; i < 3; ++i) {
-        const double share = shares[i] / total * 100;
-        const bool atBoundary = i == 0 || form_.clampAllFrom999;
-        const bool clamped = atBoundary ? share >= TooLarge : share > TooLarge;
-        shares_[i] = clamped ? Largest : share;
-    }
-    captions_ = {ShareCaption("Fat ", shares_[0]), ShareCaption("Protein ", shares_[1]),
-                 ShareCaption("Carbs. ", shares_[2])};
-    SetContent(Content::Slices);
-}
-
-void Pie::ShowNoData() {
-    SetNoDataCaptions();
-    SetContent(Content::NoData);
+void Pie::Show(const EnergyShares& shares) {
+    shares_ = shares;
+    ratio_ = 0;
+    if (shares.What() == EnergyShares::Content::Sectors)
+        captions_ = shares.Captions();
+    else if (shares.What() == EnergyShares::Content::NoData)
+        SetNoDataCaptions();
 }
 
 void Pie::SetNoDataCaptions() {
@@ -69,20 +44,8 @@ void Pie::SetNoDataCaptions() {
         captions_[i] = QLatin1String(form_.noDataCaptions[i]);
 }
 
-void Pie::SetContent(Content content) {
-    content_ = content;
-    ratio_ = 0;
-}
-
-QString Pie::Summary() const {
-    switch (content_) {
-    case Content::Slices:
-        return captions_[0] + u", " + captions_[1] + u", " + captions_[2];
-    case Content::NoData:
-        return NoDataText;
-    default:
-        return {};
-    }
+void Pie::Paint(QPainter& painter) {
+    painter.drawImage(0, 0, picPIE(painter.deviceTransform().m11()));
 }
 
 QImage Pie::picPIE(double ratio) {
@@ -102,13 +65,13 @@ void Pie::Render(double ratio) {
     picPIE_ = Blank();
     PaintBackground();
     temp_ = Blank();
-    if (content_ == Content::NoData)
+    if (shares_.What() == EnergyShares::Content::NoData)
         return PaintNoData();
-    if (content_ == Content::Slices) {
-        const Style& style = TheStyle();
-        AddPieSlice(style.pieFat, 0.001, shares_[0]);
-        AddPieSlice(style.pieProtein, shares_[0], shares_[0] + shares_[1]);
-        AddPieSlice(style.pieCarbs, shares_[0] + shares_[1], 99.999);
+    if (shares_.What() == EnergyShares::Content::Sectors) {
+        const auto [fat, protein, carbs] = shares_.Sectors();
+        AddPieSlice(TheStyle().pieFat, fat);
+        AddPieSlice(TheStyle().pieProtein, protein);
+        AddPieSlice(TheStyle().pieCarbs, carbs);
     }
     AddOverLay();
 }
@@ -129,19 +92,20 @@ void Pie::PaintBackground() {
                     QStringLiteral("overlay"));
 }
 
-void Pie::AddPieSlice(const QColor& colour, double from, double to) {
+void Pie::AddPieSlice(const QColor& colour, const EnergyShares::Sector& sector) {
+    const auto [from, to] = sector;
     if (!std::isfinite(from) || !std::isfinite(to))
         return;
     const QPointF reach(form_.radius, form_.radius);
-    QPainterPath sector(form_.centre);
-    sector.arcTo(QRectF(form_.centre - reach, form_.centre + reach), from * DegreesPerPercent,
-                 (to - from) * DegreesPerPercent);
-    sector.closeSubpath();
+    QPainterPath path(form_.centre);
+    path.arcTo(QRectF(form_.centre - reach, form_.centre + reach), from * DegreesPerPercent,
+               (to - from) * DegreesPerPercent);
+    path.closeSubpath();
     QPainter painter(&temp_);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(colour, 1, Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin));
     painter.setBrush(colour);
-    painter.drawPath(sector);
+    painter.drawPath(path);
 }
 
 void Pie::PaintNoData() {
@@ -151,10 +115,10 @@ void Pie::PaintNoData() {
         if (form_.coverWithoutData)
             painter.drawImage(0, 0, temp_);
         painter.setPen(TheStyle().barRowText);
-        const QSizeF text = QFontMetricsF(SmoothedFont(font)).size(0, NoDataText);
+        const QSizeF text = QFontMetricsF(SmoothedFont(font)).size(0, Summary());
         const QPointF centred((form_.size.width() - text.width()) / 2,
                               (form_.size.height() - text.height()) / 2);
-        SmoothedPrint(painter, form_.noDataPlace.value_or(centred), NoDataText, font);
+        SmoothedPrint(painter, form_.noDataPlace.value_or(centred), Summary(), font);
     }
     if (form_.overlayWithoutData)
         AddOverLay();

@@ -1,6 +1,5 @@
 #include "analysis/ui/PieChart.h"
 
-#include "model/Nuts.h"
 #include "toolkit/Style.h"
 #include "toolkit/ucAALBL.h"
 
@@ -52,23 +51,9 @@ void PieChart::AddLabels() {
     ShowCaptions();
 }
 
-void PieChart::DrawPie(double fat, double protein, double carbs) {
-    picture_->DrawPie(fat, protein, carbs);
+void PieChart::Show(const EnergyShares& shares) {
+    picture_->Show(shares);
     ShowCaptions();
-}
-
-void PieChart::ShowNoData() {
-    picture_->ShowNoData();
-    ShowCaptions();
-}
-
-void PieChart::ShowEnergy(const std::optional<Nuts>& amounts) {
-    if (!amounts || amounts->Calories() < 1)
-        return ShowNoData();
-    const double calories = amounts->Calories();
-    DrawPie(amounts->TotalFat() * KcalPerGram::Fat / calories,
-            amounts->Protein() * KcalPerGram::Protein / calories,
-            amounts->Carbs() * KcalPerGram::Carbs / calories);
 }
 
 void PieChart::ShowCaptions() {

@@ -10,14 +10,10 @@ PiePicture::PiePicture(PieForm form, QWidget* parent)
     setAccessibleName(QStringLiteral("Caloric breakdown"));
 }
 
-void PiePicture::DrawPie(double fat, double protein, double carbs) {
-    pie_.DrawPie(fat, protein, carbs);
-    Refresh();
-}
-
-void PiePicture::ShowNoData() {
-    pie_.ShowNoData();
-    Refresh();
+void PiePicture::Show(const EnergyShares& shares) {
+    pie_.Show(shares);
+    setAccessibleDescription(pie_.Summary());
+    update();
 }
 
 void PiePicture::AddOverLay() {
@@ -25,12 +21,7 @@ void PiePicture::AddOverLay() {
     update();
 }
 
-void PiePicture::Refresh() {
-    setAccessibleDescription(pie_.Summary());
-    update();
-}
-
 void PiePicture::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.drawImage(0, 0, pie_.picPIE(painter.deviceTransform().m11()));
+    pie_.Paint(painter);
 }

@@ -4,16 +4,15 @@
 
 #include <QWidget>
 
-/// The control that shows a pie, at the size of the pie's picture. It paints no earlier than it is
-/// seen, and says the shares to assistive programs.
+/// The control that shows a pie in the size of its picture. Assistive programs read the shares as
+/// its description.
 class PiePicture : public QWidget {
     Q_OBJECT
 
 public:
     explicit PiePicture(PieForm form, QWidget* parent = nullptr);
 
-    void DrawPie(double fat, double protein, double carbs);
-    void ShowNoData();
+    void Show(const EnergyShares& shares);
     void AddOverLay();
     Pie& pie() { return pie_; }
 
@@ -21,7 +20,5 @@ protected:
     void paintEvent(QPaintEvent*) override;
 
 private:
-    void Refresh();
-
     Pie pie_;
 };

@@ -7,7 +7,6 @@
 #include "analysis/ui/GridLines.h"
 #include "analysis/ui/LedLabel.h"
 #include "model/User.h"
-#include "runtime/Format.h"
 #include "runtime/Settings.h"
 #include "toolkit/Style.h"
 #include "toolkit/Twips.h"
@@ -54,13 +53,21 @@ int LabelHeight(int chartHeight) {
     return Twips::FromPixels(qMax(LeastPitch, pitch)) + Overlap;
 }
 
+double BarWidth(double partOfTarget) {
+    const double width = Twips::PerPixel() * PixelsAtTarget * partOfTarget;
+    const double limit = Twips::PerPixel() * MostPixels;
+    if (static_cast<float>(width) > static_cast<float>(limit))
+        return limit;
+    return qMax(0.0, width);
+}
+
 } // namespace
 
 ucBarChart::ucBarChart(QWidget* parent)
     : PeriodChart(parent) {
     setAccessibleName(QStringLiteral("Average intake"));
     setAttribute(Qt::WA_OpaquePaintEvent);
-    SetSpokenValue([this] { return Spoken(); });
+    SetSpokenValue([this] { return figures_.Summary(); });
     AddHead();
     AddRows();
     TrackParts();
@@ -99,7 +106,6 @@ void ucBarChart::AddRows() {
     KeepMoves(picVals_);
     for (const Nutrient nutrient : PeriodOrder()) {
         rows_.push_back(std::make_unique<ChartRow>(int(rows_.size()) + 1, nutrient,
-                                                   Info(nutrient).periodUnit,
                                                    ChartRow::Views{this, this, picVals_}));
         KeepMoves(rows_.back()->imgBar());
     }
@@ -161,8 +167,8 @@ void ucBarChart::updateBars(QDate start, QDate end) {
         return ClearBars();
     sums_ = *sums;
     days_ = LoggedSums::LoggedDays(period);
-    ShowBars();
-    ShowValues();
+    figures_ = PeriodFigures(sums_, days_, User::Current().RDIs);
+    ShowFigures();
     User::Current().CurrentWeight = kept;
     RecalcTargets();
     TellValueChanged();
@@ -175,30 +181,24 @@ void ucBarChart::AdjustToAverageWeight(const Period& period) {
     RecalcTargets();
 }
 
-void ucBarChart::ShowBars() {
-    for (const auto& row : rows_) {
-        double value = sums_[row->nutrient()];
-        const double rdi = User::Current().RDIs[row->nutrient()];
-        row->imgBar()->SetWidth(barWidth(days_, value, rdi));
-        row->SetFigure(value, rdi);
-        if (row->BarIsNarrow() || mode_ == BarsMode)
-            row->imgBar()->setHidden(row->BarIsNarrow());
-    }
-}
-
-void ucBarChart::ShowValues() {
-    for (const auto& row : rows_) {
-        double value = sums_[row->nutrient()];
-        row->lblVal()->SetCaption(Leader + numFix(value) + u' ' +
-                                  QLatin1String(Info(row->nutrient()).periodUnit));
+void ucBarChart::ShowFigures() {
+    for (size_t i = 0; i < rows_.size(); ++i) {
+        const NutrientFigure& figure = figures_.Rows()[i];
+        const ChartRow& row = *rows_[i];
+        rows_[i]->SetFigure(figure);
+        row.lblVal()->SetCaption(Leader + PeriodFigures::Text(figure));
+        row.imgBar()->SetWidth(BarWidth(figure.Part()));
+        if (row.BarIsNarrow() || mode_ == BarsMode)
+            row.imgBar()->setHidden(row.BarIsNarrow());
     }
 }
 
 void ucBarChart::ClearBars() {
+    figures_ = PeriodFigures();
     for (const auto& row : rows_) {
         row->imgBar()->SetWidth(0);
         row->imgBar()->hide();
-        row->ClearFigure();
+        row->SetFigure(std::nullopt);
     }
     TellValueChanged();
 }
@@ -229,28 +229,15 @@ void ucBarChart::Toggle(int mode) {
 
 double ucBarChart::barWidth(qint32 days, double& value, double rdi) {
     value /= days;
-    const double width = Twips::PerPixel() * PixelsAtTarget * ChartRow::PartOfTarget(value, rdi);
-    const double limit = Twips::PerPixel() * MostPixels;
-    if (static_cast<float>(width) > static_cast<float>(limit))
-        return limit;
-    return qMax(0.0, width);
+    return BarWidth(NutrientFigure::PartOfTarget(value, rdi));
 }
 
 QString ucBarChart::numFix(double& value) const {
-    if (value == 0)
-        return QStringLiteral("0");
-    value /= days_;
-    return Format(value, value < 100 ? NumberMask::UpToTwoDecimals : NumberMask::CalorieTotal);
+    if (value != 0)
+        value /= days_;
+    return PeriodFigures::numFix(value);
 }
 
 QString ucBarChart::PercentCaption() const {
     return " Percent RDI (avg weight: " + QString::number(averageWeight_) + " lbs)";
-}
-
-QString ucBarChart::Spoken() const {
-    QStringList figures;
-    for (const auto& row : rows_)
-        if (const QString figure = row->SpokenValue(); !figure.isEmpty())
-            figures << row->lbl()->Caption() + u": " + figure;
-    return figures.isEmpty() ? QStringLiteral("No data to chart") : figures.join(u"; ");
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "analysis/PeriodFigures.h"
 #include "analysis/ui/ChartRow.h"
 #include "analysis/ui/PeriodChart.h"
 #include "model/Nuts.h"
@@ -52,12 +53,11 @@ private:
     void PlaceHead(int height);
     void PlaceRow(int i, int labelHeight);
     void AdjustToAverageWeight(const Period& period);
-    void ShowBars();
-    void ShowValues();
+    void ShowFigures();
     QString PercentCaption() const;
-    QString Spoken() const;
 
     Nuts sums_;
+    PeriodFigures figures_; ///< none once the bars were cleared
     QString mode_;
     qint32 days_ = 0;
     qint32 averageWeight_ = 0;

@@ -113,10 +113,10 @@ void ucDaily::AddViews() {
 
 void ucDaily::AddRows() {
     labels_->resize(LabelsWidth, 0);
-    for (const Nutrient nutrient : ChartOrder()) {
+    for (const NutrientFigure& figure : figures_.Rows()) {
         const int i = int(rows_.size()) + 1;
         rows_.push_back(
-            std::make_unique<DailyRow>(i, nutrient, DailyRow::Views{labels_, picRDIs_, picVals_}));
+            std::make_unique<DailyRow>(i, figure, DailyRow::Views{labels_, picRDIs_, picVals_}));
         WatchPointer(rows_.back()->lbl(), {.row = i, .raises = true});
         WatchPointer(rows_.back()->imgBar(), {.row = i, .raises = false});
         WatchPointer(rows_.back()->lblVal(), {.row = i, .raises = true});
@@ -201,27 +201,20 @@ void ucDaily::updateCharts() {
     if (!App().AppStarted)
         return;
     const std::optional<Nuts> sums = LoggedSums::OfDay(date_);
-    if (!sums)
-        return ShowNoData();
-    sums_ = *sums;
-    ShowSums();
-    if (sums_.Calories() < 1)
-        return ShowNoData();
-    picPieChart_->ShowEnergy(sums_);
+    if (sums)
+        sums_ = *sums;
+    figures_ = sums ? DayFigures(*sums, User::Current().RDIs) : figures_.WithoutData();
+    ShowFigures();
 }
 
-void ucDaily::ShowSums() {
-    const Nuts& targets = User::Current().RDIs;
-    for (const auto& row : rows_)
-        row->Show(sums_[row->nutrient()], targets[row->nutrient()], width());
+void ucDaily::ShowFigures() {
+    for (size_t i = 0; i < rows_.size(); ++i)
+        if (figures_.HasData())
+            rows_[i]->Show(figures_.Rows()[i], width());
+        else
+            rows_[i]->ShowNothing(figures_.Rows()[i]);
     FitValues();
-}
-
-void ucDaily::ShowNoData() {
-    for (const auto& row : rows_)
-        row->ShowNothing();
-    FitValues();
-    picPieChart_->ShowNoData();
+    picPieChart_->Show(figures_.Energy());
 }
 
 void ucDaily::FitValues() {

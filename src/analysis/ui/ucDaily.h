@@ -1,5 +1,6 @@
 #pragma once
 
+#include "analysis/DayFigures.h"
 #include "analysis/ui/DailyRow.h"
 #include "model/Nuts.h"
 #include "toolkit/DrawnControl.h"
@@ -38,7 +39,7 @@ public:
     const Nuts& Sums() const { return sums_; }
     void AddOverLay();
 
-    static double numFix(double value) { return DailyRow::numFix(value); }
+    static double numFix(double value) { return NutrientFigure::numFix(value); }
     double barWidth(double value, double rdi) const; ///< in twips
 
     void Unhilite();
@@ -73,12 +74,12 @@ private:
     void OnPointer(const Hover& hover, const QMouseEvent* move);
     void hilite(int row);
 
-    void ShowSums();
-    void ShowNoData();
+    void ShowFigures();
     void FitValues();
 
     QDate date_;
     Nuts sums_;
+    DayFigures figures_;
     QString mode_;
     std::vector<std::unique_ptr<DailyRow>> rows_;
     int hilited_ = 0; ///< row, or 0

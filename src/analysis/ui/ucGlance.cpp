@@ -22,7 +22,6 @@ PieForm GlancePie() {
     form.centre = QPointF(54, 54);
     form.radius = 48;
     form.coverWithoutData = false;
-    form.clampAllFrom999 = true;
     form.noDataCaptions = {"Total Fat: --", "Protein: --", "Carbs: --"};
     form.ground = TheStyle().paper;
     form.background = 54;
@@ -54,7 +53,7 @@ ucAALBL* ucGlance::AddLine(const char* name, const QString& caption, const QColo
 
 void ucGlance::UpdateGlance(QDate from, QDate to) {
     const std::optional<Nuts> average = LoggedSums::AverageEnergy({from, to});
-    pie_->ShowEnergy(average);
+    pie_->Show(EnergyShares::Of(average, EnergyShares::TooLarge::EachFrom999));
     if (average)
         lblAvgCals_->SetCaption("Average daily calories: " + DecimalText(average->Calories()));
 }

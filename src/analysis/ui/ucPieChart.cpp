@@ -31,11 +31,11 @@ ucPieChart::ucPieChart(QWidget* parent)
     box_->Header()->setObjectName(QStringLiteral("ucHeader1"));
     KeepMoves(box_->Header());
     TrackParts();
-    pie_->DrawPie(0.33, 0.33, 0.33);
+    pie_->Show({0.33, 0.33, 0.33});
 }
 
 void ucPieChart::updatePie(QDate start, QDate end) {
-    pie_->ShowEnergy(LoggedSums::AverageEnergy({start, end}));
+    pie_->Show(EnergyShares::Of(LoggedSums::AverageEnergy({start, end})));
     TellValueChanged();
 }
 

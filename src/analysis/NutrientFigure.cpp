@@ -1,0 +1,32 @@
+#include "analysis/NutrientFigure.h"
+
+#include "runtime/Convert.h"
+#include "runtime/Format.h"
+
+namespace {
+constexpr double NoTarget = 0.001;
+}
+
+QString NutrientFigure::Caption() const {
+    return QLatin1String(Info(nutrient).chartCaption);
+}
+
+QString NutrientFigure::Percent() const {
+    return target == 0 ? QString() : Format(value / target, NumberMask::Percent);
+}
+
+QString NutrientFigure::Spoken() const {
+    const QString amount = DecimalText(numFix(value)) + u' ' + unit;
+    return target == 0 ? amount : QString(amount + u", " + Percent());
+}
+
+double NutrientFigure::numFix(double value) {
+    if (value == 0)
+        return 0;
+    const auto mask = value < 100 ? NumberMask::UpToTwoDecimals : NumberMask::Thousands;
+    return PlainNumber(Format(value, mask)).toDouble() + 0.0; // no sign on zero
+}
+
+double NutrientFigure::PartOfTarget(double value, double target) {
+    return value / (target == 0 ? NoTarget : target);
+}
