@@ -12,11 +12,13 @@ public:
     static constexpr int Left = 945;
     static constexpr int Width = 8200;
     static constexpr int LabelCount = 5;
+    static constexpr int LabelWidth = 990;
 
     struct Label {
         int index; ///< which of the five
         QDate day;
         double left;
+        bool operator==(const Label&) const = default;
     };
 
     DateAxis(QDate first, QDate last);

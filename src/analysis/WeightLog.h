@@ -10,6 +10,7 @@ namespace WeightLog {
 struct Entry {
     double weight; ///< pounds
     QDate day;
+    bool operator==(const Entry&) const = default;
 };
 struct Extremes {
     qint32 min, max; ///< rounded half to even

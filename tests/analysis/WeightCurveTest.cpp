@@ -1,0 +1,84 @@
+#include "analysis/WeightCurve.h"
+
+#include "analysis/ui/WeightCurvePainting.h"
+#include "support/HalvaneTest.h"
+#include "toolkit/Style.h"
+
+#include <QPainter>
+
+namespace {
+
+const QDate First(2002, 4, 3);
+constexpr int FirstMiddle = 945 + 495;
+
+WeightCurve Curve() {
+    return WeightCurve::Of({{150, First}, {153.25, First.addDays(2)}, {157, First.addDays(4)}},
+                           {150, 157});
+}
+
+} // namespace
+
+TEST(WeightCurveTest, PointsStandAtTheirDayAndTheirWeight) {
+    EXPECT_EQ(Curve().points, (std::vector<PlotPoint>{{FirstMiddle, 5310, 150},
+                                                      {FirstMiddle + 2 * 2050, 3161, 153},
+                                                      {FirstMiddle + 4 * 2050, 675, 157}}));
+    EXPECT_FALSE(Curve().noData);
+}
+
+TEST(WeightCurveTest, TheAxesFollowFromTheEntries) {
+    const WeightCurve curve = Curve();
+    ASSERT_EQ(curve.dates.size(), 5U);
+    EXPECT_EQ(curve.dates.front(), (DateAxis::Label{0, First, 945}));
+    EXPECT_EQ(curve.dates.back(), (DateAxis::Label{4, First.addDays(4), 945 + 8200}));
+    EXPECT_EQ(curve.weights, (std::vector<qint64>{157, 156, 155, 154, 153, 152, 151, 150}));
+}
+
+TEST(WeightCurveTest, ASingleEntryStandsInTheMiddle) {
+    const WeightCurve curve = WeightCurve::Of({{150, First}}, {150, 150});
+    EXPECT_EQ(curve.points, (std::vector<PlotPoint>{{FirstMiddle + 4100, 5310, 150}}));
+    EXPECT_EQ(curve.dates.size(), 1U);
+}
+
+TEST(WeightCurveTest, TheAxesAloneHaveNeitherEntriesNorALine) {
+    const WeightCurve axes = Curve().AxesAlone();
+    EXPECT_EQ(axes.dates, Curve().dates);
+    EXPECT_EQ(axes.weights, Curve().weights);
+    EXPECT_TRUE(axes.points.empty());
+    EXPECT_EQ(axes.Summary(), QString());
+    EXPECT_EQ(WeightCurve().AxesAlone(), WeightCurve());
+}
+
+TEST(WeightCurveTest, TheSummaryListsDaysAndWeights) {
+    EXPECT_EQ(Curve().Summary(), "4/3/2002 150 lbs, 4/5/2002 153.25 lbs, 4/7/2002 157 lbs");
+    WeightCurve empty;
+    empty.noData = true;
+    EXPECT_EQ(empty.Summary(), "No weight data To chart");
+}
+
+class WeightCurvePaintingTest : public HalvaneTest {
+protected:
+    static QImage Painted(const WeightCurve& curve, QPoint origin = {}) {
+        QImage page(800, 500, QImage::Format_RGB32);
+        page.fill(Qt::green);
+        QPainter painter(&page);
+        painter.translate(origin);
+        WeightCurvePainting::Paint(painter, curve, QSize(716, 400));
+        return page;
+    }
+};
+
+TEST_F(WeightCurvePaintingTest, AnyPainterGetsAxesLabelsAndLineWithoutAWindow) {
+    const QImage page = Painted(Curve());
+    EXPECT_EQ(page.pixel(0, 0), TheStyle().frame.rgb());
+    EXPECT_EQ(page.pixel(FirstMiddle / 15, 300), TheStyle().gridDark.rgb());
+    EXPECT_NE(page, Painted(Curve().AxesAlone()));
+    EXPECT_NE(Painted(Curve().AxesAlone()), Painted(WeightCurve()));
+    EXPECT_EQ(page.pixel(716, 100), qRgb(0, 255, 0));
+    EXPECT_EQ(page.pixel(100, 400), qRgb(0, 255, 0));
+}
+
+TEST_F(WeightCurvePaintingTest, ThePictureStandsAtThePaintersOrigin) {
+    const QRect place(0, 0, 716, 400);
+    EXPECT_EQ(Painted(Curve(), QPoint(40, 60)).copy(place.translated(40, 60)),
+              Painted(Curve()).copy(place));
+}
