@@ -47,9 +47,8 @@ void Api::Create(const Ask& ask, Reply& reply) const {
     {
         const Pool::Lease lease(service_.pool);
         Transaction transaction(*lease);
-        if (Limits::Count(*lease, service_.limits.Daily("recipe", ask.visitor),
-                          config.recipes_per_client_day) &&
-            Limits::Count(*lease, service_.limits.Daily("recipes", ""), config.recipes_per_day)) {
+        if (service_.limits.CountToday(*lease, "recipe", ask.visitor, config.recipes_per_client_day,
+                                       config.recipes_per_day)) {
             created = RecipeStore(*lease).Create(recipe);
             transaction.Commit();
         }
@@ -92,19 +91,15 @@ void Api::AddIngredients(const Ask& ask, Reply& reply) const {
 }
 
 void Api::Read(const Ask& ask, Reply& reply, RecipeStore::Part part) const {
-    const auto misses = service_.limits.Hourly("miss", ask.visitor);
-    const int most = service_.config.misses_per_client_hour;
+    const auto guess = service_.guard.Of(ask.visitor);
     RecipeStore::Document document;
+    auto verdict = MissGuard::Verdict::Found;
     {
         const Pool::Lease lease(service_.pool);
-        document = RecipeStore(*lease).Read(*ask.id, part, misses);
-        if (!document.text && document.hits < most)
-            Limits::Count(*lease, misses, most);
+        document = RecipeStore(*lease).Read(*ask.id, part, guess);
+        verdict = service_.guard.Judge(*lease, guess, document.misses, document.text.has_value());
     }
-    if (document.hits >= most)
-        throw Refusal(429, Limits::TooManyMisses);
-    if (!document.text)
-        throw Refusal(404, "There is no recipe with this ID.");
+    MissGuard::Require(verdict);
     reply.SetContent(*document.text, JsonType);
 }
 

@@ -12,8 +12,8 @@ public:
 };
 
 /// What the operator decides: defaults, then a file of `name = value` lines, then the environment
-/// (HALVANE_EXCHANGE_ and the name in capitals). Read once at the start and never changed.
-/// docs/exchange.md says what each is for.
+/// (HALVANE_EXCHANGE_ and the name in capitals), then the command line. Read once at the start and
+/// never changed. Those that limit something are explained in LimitTable.
 struct Config {
     std::string address = "127.0.0.1";
     int port = 8613;
@@ -47,14 +47,21 @@ struct Config {
     int misses_per_client_hour = 60;
     int reports_per_client_day = 10;
     int reports_per_day = 1000;
+    int misses_per_hour = 20000;
+    int searches_per_client_minute = 120;
+    int pages_per_client_minute = 600;
     int unfinished_hours = 24;
     int address_days = 30;
 
     bool Mails() const { return !mail_relay.empty(); }
 
-    /// An empty name means no file. Fails with ConfigError on a file that cannot be read, an
-    /// unknown name, or a value that the setting does not take.
-    static Config Read(const std::string& file);
+    static std::vector<std::string> Names(); ///< of all settings
+
+    /// Each fails with ConfigError: on an unknown name or a value that the setting does not take,
+    /// on a file that cannot be read, on settings that do not go together.
+    void Set(const std::string& name, const std::string& value);
+    void ReadFile(const std::string& name);
+    void Settle();
 };
 
 } // namespace exchange

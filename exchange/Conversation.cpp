@@ -160,6 +160,7 @@ Front::Task<void> Conversation::ReceiveBody(RequestHead& head) {
     auto& body = head.request.body;
     const auto length = static_cast<size_t>(head.bodyLength);
     const auto here = std::min(length, arrived_.size());
+    body.reserve(length); // takes memory only as it is filled
     body.assign(arrived_, 0, here);
     arrived_.erase(0, here);
     while (body.size() < length && head.status == 0) {
@@ -175,8 +176,9 @@ Front::Task<void> Conversation::ReceiveBody(RequestHead& head) {
     }
 }
 
-void Conversation::Refuse(const RequestHead& head) {
+void Conversation::Refuse(RequestHead& head) {
     HoldBody(0);
+    std::string().swap(head.request.body); // the connection stays for a while
     reply_ = front_.router_.Refused(head.request, head.status);
     if (front_.config_.log_requests)
         LogRequest("refused", Clock::now());

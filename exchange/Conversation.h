@@ -41,7 +41,7 @@ private:
     void Leave();
     RequestHead TakeHead();
     void HoldBody(size_t bytes);
-    void Refuse(const RequestHead& head);
+    void Refuse(RequestHead& head);
     void LogRequest(std::string_view route, Clock::time_point begin) const;
     void Enter(State state, std::chrono::milliseconds most);
     void KeepTime();

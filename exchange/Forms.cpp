@@ -2,6 +2,7 @@
 
 #include "exchange/Moment.h"
 #include "exchange/Pages.h"
+#include "exchange/RecipeID.h"
 #include "exchange/Refusal.h"
 #include "exchange/Reports.h"
 #include "exchange/ShownText.h"
@@ -49,7 +50,7 @@ void Forms::AddTo(Router& router) {
 
 void Forms::TakeReport(const Ask& ask, Reply& reply) const {
     const auto form = FieldsOf(ask.request);
-    const auto id = WholeNumber(form.Param("recID"), 2, 0x7fffffff).value_or(0);
+    const auto id = RecipeID::Read(form.Param("recID")).value_or(0);
     if (!reportToken_.Fits(form.Param("token"), id, ask.visitor))
         throw Refusal(403, "This form is too old, or was not made for you. Please open the page of "
                            "the recipe again.");
@@ -62,12 +63,10 @@ void Forms::TakeReport(const Ask& ask, Reply& reply) const {
 void Forms::KeepReport(const Ask& ask, int id, const Request& form) const {
     const auto report = ReadReport(form);
     const auto& config = service_.config;
-    const auto& limits = service_.limits;
     const Pool::Lease lease(service_.pool);
     Transaction transaction(*lease);
-    if (!Limits::Count(*lease, limits.Daily("report", ask.visitor),
-                       config.reports_per_client_day) ||
-        !Limits::Count(*lease, limits.Daily("reports", ""), config.reports_per_day))
+    if (!service_.limits.CountToday(*lease, "report", ask.visitor, config.reports_per_client_day,
+                                    config.reports_per_day))
         throw Refusal(429, "Too many reports have been sent today. Please try again tomorrow.");
     Reports(*lease).Add(id, report);
     transaction.Commit();

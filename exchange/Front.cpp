@@ -1,6 +1,7 @@
 #include "exchange/Front.h"
 
 #include "exchange/Conversation.h"
+#include "exchange/Supervisor.h"
 
 #include <boost/asio/co_spawn.hpp>
 #include <boost/asio/detached.hpp>
@@ -56,6 +57,7 @@ void Front::Open() {
 
 void Front::Start() {
     asio::co_spawn(io_.get_executor(), Accept(), asio::detached);
+    asio::co_spawn(io_.get_executor(), TellAlive(), asio::detached);
     thread_ = std::thread([this] { io_.run(); });
 }
 
@@ -72,6 +74,7 @@ void Front::EndAll() {
     stopping_ = true;
     acceptor_.close(ignored);
     pause_.cancel();
+    alive_.cancel();
     const auto all = conversations_;
     for (auto* conversation : all)
         if (conversation->Now() <= Conversation::State::Receiving)
@@ -99,6 +102,17 @@ Front::Task<void> Front::Accept() {
             pause_.expires_after(OutOfDescriptors);
             co_await pause_.async_wait(asio::redirect_error(Await, error));
         }
+    }
+}
+
+/// From the thread of the connections, so that it is true.
+Front::Task<void> Front::TellAlive() {
+    const auto interval = Supervisor::Interval();
+    while (interval && !stopping_) {
+        Error ignored;
+        Supervisor::TellAlive();
+        alive_.expires_after(*interval / 2);
+        co_await alive_.async_wait(asio::redirect_error(Await, ignored));
     }
 }
 

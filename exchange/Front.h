@@ -48,8 +48,8 @@ private:
         std::chrono::steady_clock, boost::asio::wait_traits<std::chrono::steady_clock>, Executor>;
 
     Task<void> Accept();
+    Task<void> TellAlive();
     void Admit(Socket socket);
-    void BeginConversation(Socket socket, std::string peer, bool full);
     bool HasPlaceFor(const Visitor& visitor);
     bool TakePlaceFrom(const std::string& network);
     bool TakeBodyRoom(const Conversation& taker, size_t bytes);
@@ -68,6 +68,7 @@ private:
     boost::asio::io_context io_{1};
     Acceptor acceptor_{io_.get_executor()};
     Timer pause_{io_.get_executor()};
+    Timer alive_{io_.get_executor()};
     Timer end_{io_.get_executor()};
     Workers workers_;
     Workers watch_{1}; ///< answers whether the service is well, also when all workers are busy

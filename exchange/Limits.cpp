@@ -3,12 +3,17 @@
 #include "exchange/Moment.h"
 #include "exchange/Secrets.h"
 
+#include <algorithm>
+
 namespace exchange {
 
 namespace {
+constexpr int Day = 24;
+constexpr int ShareOfAll = 10;
+
 /// A slot is the number of the hour that its span begins with.
 Counter Make(std::string_view what, std::string_view digest, int hours) {
-    const auto hour = Moment::Now() / Moment::Hour;
+    const auto hour = Limits::Hour();
     std::string name(what);
     if (!digest.empty())
         name.append(":").append(digest);
@@ -16,16 +21,12 @@ Counter Make(std::string_view what, std::string_view digest, int hours) {
 }
 } // namespace
 
-Counter Limits::Hourly(std::string_view what, const Visitor& visitor) const {
-    return Make(what, visitor.networks.front(), 1);
-}
-
-Counter Limits::Daily(std::string_view what, const Visitor& visitor) const {
-    return Make(what, visitor.networks.front(), 24);
+long long Limits::Hour() {
+    return Moment::Now() / Moment::Hour;
 }
 
 Counter Limits::Daily(std::string_view what, std::string_view who) const {
-    return Make(what, who.empty() ? std::string() : Secrets::Keyed(secret_, who), 24);
+    return Make(what, who.empty() ? std::string() : Secrets::Keyed(secret_, who), Day);
 }
 
 bool Limits::Count(Connection& connection, const Counter& counter, int limit) {
@@ -38,12 +39,15 @@ bool Limits::Count(Connection& connection, const Counter& counter, int limit) {
                              soci::use(limit)) > 0;
 }
 
-int Limits::Counted(Connection& connection, const Counter& counter) {
-    int hits = 0;
-    const bool any =
-        connection.First("SELECT Hits FROM counters WHERE Name = :name AND Slot = :slot",
-                         soci::use(counter.name), soci::use(counter.slot), soci::into(hits));
-    return any ? hits : 0;
+bool Limits::CountToday(Connection& connection, std::string_view what, const Visitor& visitor,
+                        int limit, int limitOfAll) const {
+    const int share = std::max(limit, limitOfAll / ShareOfAll);
+    for (size_t width = 0; width < visitor.networks.size(); ++width) {
+        const auto allowed = std::min<long long>(1LL * limit * Growth[width], share);
+        if (!Count(connection, Make(what, visitor.networks[width], Day), static_cast<int>(allowed)))
+            return false;
+    }
+    return Count(connection, Make(what, {}, Day), limitOfAll);
 }
 
 void Limits::ForgetOld(Connection& connection) {

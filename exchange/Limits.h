@@ -22,18 +22,20 @@ public:
     explicit Limits(std::string secret)
         : secret_(std::move(secret)) {}
 
-    Counter Hourly(std::string_view what, const Visitor& visitor) const;
-    Counter Daily(std::string_view what, const Visitor& visitor) const;
     Counter Daily(std::string_view what, std::string_view who) const; ///< nobody: the whole service
-
-    /// What is said to who has asked for so many IDs that do not exist that even those that do are
-    /// kept from him.
-    static constexpr const char* TooManyMisses =
-        "Too many recipe IDs that do not exist. Please try again later.";
 
     /// One more; false, and not counted, if that would be above the limit.
     static bool Count(Connection& connection, const Counter& counter, int limit);
-    static int Counted(Connection& connection, const Counter& counter);
+
+    /// One more today for a visitor and for all. False if that is too much for one of his networks,
+    /// or for all; then the caller rolls back. A network has at most a tenth of what all have.
+    bool CountToday(Connection& connection, std::string_view what, const Visitor& visitor,
+                    int limit, int limitOfAll) const;
+
+    static long long Hour(); ///< the slot of this hour
+
+    /// How many times the allowance of one client each wider network has, narrowest first.
+    static constexpr int Growth[] = {1, 4, 16, 64};
     static void ForgetOld(Connection& connection);
 
 private:

@@ -3,14 +3,44 @@
 #include "exchange/Json.h"
 #include "exchange/Moment.h"
 
-#include <chrono>
-#include <condition_variable>
-#include <mutex>
-#include <thread>
+#include <spdlog/async.h>
+#include <spdlog/sinks/base_sink.h>
+
+#include <poll.h>
 #include <unistd.h>
 
 namespace exchange::Log {
 namespace {
+constexpr size_t MostWaiting = 8192;
+constexpr size_t Portion = 4096; ///< a pipe that is ready takes so much without waiting
+constexpr int Patience = 100;
+
+/// Writes lines to the standard output as long as somebody reads them. Once nobody does, lines are
+/// dropped until somebody reads again: the log never keeps the server from ending.
+class Output : public spdlog::sinks::base_sink<std::mutex> {
+private:
+    bool IsReady() {
+        pollfd output{STDOUT_FILENO, POLLOUT, 0};
+        const bool ready = ::poll(&output, 1, stalled_ ? 0 : Patience) > 0;
+        stalled_ = !ready;
+        return ready;
+    }
+
+    void sink_it_(const spdlog::details::log_msg& message) override {
+        std::string_view line(message.payload.data(), message.payload.size());
+        while (!line.empty() && IsReady()) {
+            const auto written =
+                ::write(STDOUT_FILENO, line.data(), std::min(line.size(), Portion));
+            if (written <= 0)
+                return;
+            line.remove_prefix(static_cast<size_t>(written));
+        }
+    }
+    void flush_() override {}
+
+    bool stalled_ = false;
+};
+
 struct Append {
     std::string& line;
     void operator()(std::string_view text) const { Json::AppendText(line, text); }
@@ -18,63 +48,20 @@ struct Append {
     void operator()(int number) const { line += std::to_string(number); }
 };
 
-/// Writes what has gathered in a moment, in a thread of its own: a log that is slow to take its
-/// lines holds up nobody who answers. What it cannot take at all is dropped beyond a measure.
+/// What waits to be written has its measure, too: the oldest lines are dropped.
 class Writer {
 public:
     Writer()
-        : thread_([this] { Run(); }) {}
+        : pool_(std::make_shared<spdlog::details::thread_pool>(MostWaiting, 1))
+        , logger_(std::make_shared<spdlog::async_logger>(
+              "exchange", std::make_shared<Output>(), pool_,
+              spdlog::async_overflow_policy::overrun_oldest)) {}
 
-    ~Writer() {
-        {
-            const std::lock_guard lock(mutex_);
-            ending_ = true;
-        }
-        wake_.notify_one();
-        thread_.join();
-    }
-    Writer(const Writer&) = delete;
-    Writer& operator=(const Writer&) = delete;
-
-    void Add(const std::string& line) {
-        const std::lock_guard lock(mutex_);
-        if (lines_.size() > Most)
-            return;
-        if (lines_.empty())
-            wake_.notify_one();
-        lines_ += line;
-    }
+    void Add(const std::string& line) { logger_->info(spdlog::string_view_t(line)); }
 
 private:
-    static constexpr size_t Most = 4 << 20;
-    static constexpr std::chrono::milliseconds AMoment{20};
-
-    void Run() {
-        std::unique_lock lock(mutex_);
-        while (!ending_ || !lines_.empty()) {
-            wake_.wait(lock, [this] { return ending_ || !lines_.empty(); });
-            wake_.wait_for(lock, AMoment, [this] { return ending_; });
-            const auto lines = std::exchange(lines_, {});
-            lock.unlock();
-            Write(lines);
-            lock.lock();
-        }
-    }
-
-    static void Write(std::string_view lines) {
-        while (!lines.empty()) {
-            const auto written = ::write(STDOUT_FILENO, lines.data(), lines.size());
-            if (written <= 0)
-                return;
-            lines.remove_prefix(static_cast<size_t>(written));
-        }
-    }
-
-    std::mutex mutex_;
-    std::condition_variable wake_;
-    std::string lines_;
-    bool ending_ = false;
-    std::thread thread_;
+    std::shared_ptr<spdlog::details::thread_pool> pool_;
+    std::shared_ptr<spdlog::async_logger> logger_;
 };
 
 void Write(std::string_view level, std::string_view event, Fields fields) {

@@ -208,18 +208,20 @@ void RecipeStore::NoteMailed(int id) {
                        use(id));
 }
 
-RecipeStore::Document RecipeStore::Read(int id, Part part, const Counter& misses) {
-    constexpr const char* recipe =
-        "SELECT (SELECT RecipeText FROM documents WHERE RecipeID = :id),"
-        " (SELECT Hits FROM counters WHERE Name = :name AND Slot = :slot)";
-    constexpr const char* ingredients =
-        "SELECT (SELECT IngredientsText FROM documents WHERE RecipeID = :id),"
-        " (SELECT Hits FROM counters WHERE Name = :name AND Slot = :slot)";
+RecipeStore::Document RecipeStore::Read(int id, Part part, const MissGuard::Guess& guess) {
+    static const std::string recipe =
+        std::string("SELECT (SELECT RecipeText FROM documents WHERE RecipeID = :id), ") +
+        MissGuard::Counting;
+    static const std::string ingredients =
+        std::string("SELECT (SELECT IngredientsText FROM documents WHERE RecipeID = :id), ") +
+        MissGuard::Counting;
+    const auto& names = guess.names;
     Document document;
-    std::optional<int> hits;
-    connection_.First(part == Part::Recipe ? recipe : ingredients, use(id), use(misses.name),
-                      use(misses.slot), into(document.text), into(hits));
-    document.hits = hits.value_or(0);
+    std::optional<int> misses;
+    connection_.First(part == Part::Recipe ? recipe : ingredients, use(id), use(names[0]),
+                      use(names[1]), use(names[2]), use(names[3]), use(guess.slot),
+                      into(document.text), into(misses));
+    document.misses = misses.value_or(0);
     return document;
 }
 

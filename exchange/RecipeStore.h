@@ -1,7 +1,7 @@
 #pragma once
 
 #include "exchange/Connection.h"
-#include "exchange/Limits.h"
+#include "exchange/MissGuard.h"
 #include "exchange/Recipe.h"
 
 #include <optional>
@@ -50,14 +50,14 @@ public:
     std::optional<Recipe> Finish(int id);
     void NoteMailed(int id);
 
-    /// What is read of a sent recipe. `hits` is the count of the misses of the one who asks, read
-    /// in the same statement.
+    /// What is read of a sent recipe. `misses` are those of the one who asks, read in the
+    /// same statement.
     enum class Part { Recipe, Ingredients };
     struct Document {
         std::optional<std::string> text;
-        int hits = 0;
+        int misses = 0;
     };
-    Document Read(int id, Part part, const Counter& misses);
+    Document Read(int id, Part part, const MissGuard::Guess& guess);
     std::optional<Recipe> ReadWhole(int id); ///< of a sent recipe, without its addresses
 
     static constexpr int PageSize = 20;

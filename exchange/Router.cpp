@@ -2,6 +2,7 @@
 
 #include "exchange/Connection.h"
 #include "exchange/Log.h"
+#include "exchange/RecipeID.h"
 #include "exchange/Refusal.h"
 #include "exchange/Text.h"
 
@@ -75,7 +76,7 @@ bool Router::Route::Matches(const std::string& path, std::optional<int>& id) con
         return false;
     const auto digits =
         std::string_view(path).substr(before.size(), path.size() - before.size() - after->size());
-    id = WholeNumber(digits, 2, 0x7fffffff);
+    id = RecipeID::Read(digits);
     return id.has_value();
 }
 

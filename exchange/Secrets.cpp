@@ -1,5 +1,7 @@
 #include "exchange/Secrets.h"
 
+#include "exchange/RecipeID.h"
+
 #include <openssl/crypto.h>
 #include <openssl/evp.h>
 #include <openssl/hmac.h>
@@ -33,7 +35,7 @@ int RandomID() {
         Fill(bytes);
         std::uint32_t number = 0;
         std::memcpy(&number, bytes.data(), sizeof number);
-        if ((number &= 0x7fffffffU) >= 2)
+        if ((number &= RecipeID::Most) >= RecipeID::Least)
             return static_cast<int>(number);
     }
 }

@@ -2,7 +2,7 @@
 
 #include "exchange/Mail.h"
 #include "exchange/MailAddress.h"
-#include "exchange/Text.h"
+#include "exchange/RecipeID.h"
 
 namespace exchange {
 namespace {
@@ -19,7 +19,7 @@ std::string NotAnAddress(const std::string& whose) {
 void Sending::AddTo(Router& router) {
     router.Add("GET", "/halvane/sendrecipe.asp",
                [this](const Ask& ask, auto& reply) {
-                   const auto id = WholeNumber(ask.request.Param("recID"), 2, 0x7fffffff);
+                   const auto id = RecipeID::Read(ask.request.Param("recID"));
                    const auto outcome =
                        ask.request.method == "GET" && id
                            ? Send(*id, ask.visitor)
@@ -32,16 +32,19 @@ void Sending::AddTo(Router& router) {
 }
 
 Sending::Outcome Sending::Send(int id, const Visitor& visitor) const {
-    const auto misses = service_.limits.Hourly("miss", visitor);
-    const int most = service_.config.misses_per_client_hour;
     const Pool::Lease lease(service_.pool);
-    if (Limits::Counted(*lease, misses) >= most)
-        return {429, Limits::TooManyMisses};
-    const auto state = RecipeStore(*lease).Find(id);
-    if (state)
+    std::optional<RecipeStore::State> state;
+    switch (service_.guard.Look(*lease, visitor, [&] {
+        state = RecipeStore(*lease).Find(id);
+        return state.has_value();
+    })) {
+    case MissGuard::Verdict::Found:
         return SendUnfinished(*lease, id, *state, visitor);
-    Limits::Count(*lease, misses, most);
-    return {404, "There is no recipe to send under this ID."};
+    case MissGuard::Verdict::TooMany:
+        return {429, MissGuard::TooMany};
+    default:
+        return {404, "There is no recipe to send under this ID."};
+    }
 }
 
 Sending::Outcome Sending::SendUnfinished(Connection& connection, int id,
@@ -65,11 +68,10 @@ bool Sending::MayMail(Connection& connection, const std::string& to, const Visit
     const auto& config = service_.config;
     const auto& limits = service_.limits;
     Transaction transaction(connection);
-    const bool may =
-        Limits::Count(connection, limits.Daily("mail to", MailboxOf(to)),
-                      config.mails_per_recipient_day) &&
-        Limits::Count(connection, limits.Daily("mail by", visitor), config.mails_per_client_day) &&
-        Limits::Count(connection, limits.Daily("mails", ""), config.mails_per_day);
+    const bool may = Limits::Count(connection, limits.Daily("mail to", MailboxOf(to)),
+                                   config.mails_per_recipient_day) &&
+                     limits.CountToday(connection, "mail", visitor, config.mails_per_client_day,
+                                       config.mails_per_day);
     if (may)
         transaction.Commit();
     return may;

@@ -3,7 +3,9 @@
 #include "exchange/Config.h"
 #include "exchange/Limits.h"
 #include "exchange/Mailer.h"
+#include "exchange/MissGuard.h"
 #include "exchange/Pool.h"
+#include "exchange/Rates.h"
 
 namespace exchange {
 
@@ -14,6 +16,8 @@ struct Service {
     const Limits& limits;
     const Mailer& mailer;
     const std::string& secret; ///< the key of every digest and token; it is in no database
+    const MissGuard& guard;
+    Rates& rates;
 };
 
 } // namespace exchange

@@ -3,6 +3,7 @@
 #include "exchange/Assets.h"
 #include "exchange/Json.h"
 #include "exchange/Pages.h"
+#include "exchange/RecipeID.h"
 #include "exchange/Refusal.h"
 #include "exchange/Schema.h"
 #include "exchange/Text.h"
@@ -79,6 +80,7 @@ void Site::AddWatches(Router& router) {
 
 void Site::Community(const Ask& ask, Reply& reply) const {
     auto list = ReadListPage(ask.request);
+    service_.rates.Take(list.query.empty() ? Rates::Pages : Rates::Searches, ask.visitor);
     auto words = Words::Of(list.query);
     if (words.size() > RecipeStore::MostWords)
         words.resize(RecipeStore::MostWords);
@@ -90,24 +92,20 @@ void Site::Community(const Ask& ask, Reply& reply) const {
 }
 
 void Site::RecipePage(const Ask& ask, Reply& reply) const {
-    const auto id = WholeNumber(ask.request.Param("recID"), 2, 0x7fffffff);
+    const auto id = RecipeID::Read(ask.request.Param("recID"));
     if (!id)
-        throw Refusal(404, "There is no recipe with this ID.");
-    const auto misses = service_.limits.Hourly("miss", ask.visitor);
-    const int most = service_.config.misses_per_client_hour;
+        MissGuard::Require(MissGuard::Verdict::Missed);
+    service_.rates.Take(Rates::Pages, ask.visitor);
     std::optional<Recipe> recipe;
-    bool slowed = false;
+    auto verdict = MissGuard::Verdict::Found;
     {
         const Pool::Lease lease(service_.pool);
-        slowed = Limits::Counted(*lease, misses) >= most;
-        recipe = slowed ? std::nullopt : RecipeStore(*lease).ReadWhole(*id);
-        if (!slowed && !recipe)
-            Limits::Count(*lease, misses, most);
+        verdict = service_.guard.Look(*lease, ask.visitor, [&] {
+            recipe = RecipeStore(*lease).ReadWhole(*id);
+            return recipe.has_value();
+        });
     }
-    if (slowed)
-        throw Refusal(429, Limits::TooManyMisses);
-    if (!recipe)
-        throw Refusal(404, "There is no recipe with this ID.");
+    MissGuard::Require(verdict);
     reply.SetContent(Pages::RecipePage(*recipe, reportToken_.For(*id, ask.visitor)), HtmlType);
 }
 

@@ -1,4 +1,5 @@
 #include "exchange/Api.h"
+#include "exchange/CommandLine.h"
 #include "exchange/Forms.h"
 #include "exchange/Front.h"
 #include "exchange/Housekeeping.h"
@@ -6,14 +7,16 @@
 #include "exchange/MailAddress.h"
 #include "exchange/Moderation.h"
 #include "exchange/NoMail.h"
+#include "exchange/RecipeID.h"
 #include "exchange/Schema.h"
 #include "exchange/SecretFile.h"
 #include "exchange/Sending.h"
 #include "exchange/Site.h"
-#include "exchange/Text.h"
+#include "exchange/Supervisor.h"
 
 #include <csignal>
 #include <iostream>
+#include <malloc.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <thread>
@@ -41,15 +44,14 @@ constexpr Act Acts[] = {
      "The reports are forgotten.\n", "There is no report of such a recipe.\n"},
 };
 
-std::string Usage() {
-    const std::string begin = "halvane-exchange [--config FILE] ";
-    auto usage = begin + "                 serve until SIGTERM\n" + begin +
-                 "--check          read the configuration and reach the database\n" + begin +
-                 "--reported       list the recipes that readers have reported\n";
+std::vector<CommandLine::Option> Options() {
+    std::vector<CommandLine::Option> options = {
+        {"--check", "", "read the settings and reach the database"},
+        {"--reported", "", "list the recipes that readers have reported"},
+        {"--nomail", "ADDRESS", "send no more mails to an address"}};
     for (const auto& act : Acts)
-        usage +=
-            begin + (std::string(act.option) + " ID           ").substr(0, 17) + act.help + "\n";
-    return usage + begin + "--nomail ADDRESS send no more mails to an address\n";
+        options.push_back({std::string(act.option), "ID", act.help});
+    return options;
 }
 
 const Act* ActOf(std::string_view option) {
@@ -57,34 +59,6 @@ const Act* ActOf(std::string_view option) {
         if (act.option == option)
             return &act;
     return nullptr;
-}
-
-struct Command {
-    std::string config;
-    std::string action = "serve";
-    std::string object; ///< what the action is done to
-};
-
-Command ReadCommand(std::vector<std::string> words) {
-    Command command;
-    while (!words.empty()) {
-        const auto word = words.front();
-        words.erase(words.begin());
-        if (word == "--check" || word == "--help" || word == "--reported") {
-            command.action = word;
-            continue;
-        }
-        if ((word != "--config" && word != "--nomail" && !ActOf(word)) || words.empty())
-            throw ConfigError("\n" + Usage());
-        if (word == "--config") {
-            command.config = words.front();
-        } else {
-            command.action = word;
-            command.object = words.front();
-        }
-        words.erase(words.begin());
-    }
-    return command;
 }
 
 /// The signals that end the server reach nobody but the one who waits for them.
@@ -96,6 +70,12 @@ sigset_t HoldSignals() {
     pthread_sigmask(SIG_BLOCK, &ends, nullptr);
     std::signal(SIGPIPE, SIG_IGN);
     return ends;
+}
+
+/// What is large goes back to the system as soon as it is free.
+void KeepMemorySmall() {
+    constexpr int large = 128 * 1024;
+    ::mallopt(M_MMAP_THRESHOLD, large);
 }
 
 /// A connection takes a descriptor, and so does what a worker has open of the database.
@@ -136,12 +116,15 @@ std::string SecretOf(const Config& config) {
 void Serve(const Config& config, Pool& pool) {
     const auto ends = HoldSignals();
     ClaimDescriptors(config);
+    KeepMemorySmall();
     const auto secret = SecretOf(config);
     BringUpToDate(pool);
     const Limits limits(secret);
     const Visitors visitors(config, secret);
     const Mailer mailer(config);
-    const Service service{config, pool, limits, mailer, secret};
+    const MissGuard guard(config);
+    Rates rates(config);
+    const Service service{config, pool, limits, mailer, secret, guard, rates};
     Api api(service);
     Sending sending(service);
     Site site(service);
@@ -155,9 +138,11 @@ void Serve(const Config& config, Pool& pool) {
     front.Open();
     const Housekeeping housekeeping(service);
     front.Start();
+    Supervisor::TellReady();
     Log::Info("started", {{"address", std::string_view(config.address)}, {"port", front.Port()}});
     int signal = 0;
     sigwait(&ends, &signal);
+    Supervisor::TellEnding();
     front.Stop();
     Log::Info("ended");
 }
@@ -174,43 +159,42 @@ int EndMails(Connection& connection, const Config& config, const std::string& ad
 }
 
 /// Everything but serving: it is done at once.
-int Do(const Command& command, const Config& config, Connection& connection) {
+int Do(const CommandLine::Command& command, Connection& connection) {
     if (command.action == "--check") {
         Schema::Check(connection);
         return 0;
     }
     if (command.action == "--nomail")
-        return EndMails(connection, config, command.object);
+        return EndMails(connection, command.config, command.object);
     Moderation moderation(connection);
     if (command.action == "--reported") {
         std::cout << moderation.Reported();
         return 0;
     }
     const auto* act = ActOf(command.action);
-    const int id = WholeNumber(command.object, 2, 0x7fffffff).value_or(0);
+    const int id = RecipeID::Read(command.object).value_or(0);
     return Say((moderation.*act->act)(id), act->done, act->notDone);
 }
 
-int Run(const Command& command) {
-    if (command.action == "--help") {
-        std::cout << Usage();
+int Run(const CommandLine::Command& command) {
+    if (!command.help.empty()) {
+        std::cout << command.help;
         return 0;
     }
-    const auto config = Config::Read(command.config);
     ::umask(077); // the database holds addresses
-    Pool pool(config.database);
-    if (command.action == "serve") {
-        Serve(config, pool);
+    Pool pool(command.config.database);
+    if (command.action.empty()) {
+        Serve(command.config, pool);
         return 0;
     }
     const Pool::Lease lease(pool);
-    return Do(command, config, *lease);
+    return Do(command, *lease);
 }
 } // namespace
 
 int main(int argc, char** argv) {
     try {
-        return Run(ReadCommand({argv + 1, argv + argc}));
+        return Run(CommandLine::Read(argc, argv, Options()));
     } catch (const ConfigError& error) {
         std::cerr << "halvane-exchange: " << error.what() << "\n";
         return 2;

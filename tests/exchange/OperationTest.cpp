@@ -4,11 +4,16 @@
 
 #include "exchange/SchemaSteps.h"
 
+#include "exchange/Config.h"
+
 #include <csignal>
+#include <fcntl.h>
 #include <filesystem>
 #include <future>
 #include <regex>
 #include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 /// Starting, watching, ending, backing up and sharing a database.
 class OperationTest : public ExchangeTest {
@@ -79,6 +84,45 @@ TEST_P(OperationTest, EachLogLineIsAnObject) {
             EXPECT_TRUE(entry.contains(name)) << line;
     }
     EXPECT_GE(lines, 6);
+}
+
+TEST_P(OperationTest, ALogThatNobodyReadsDoesNotKeepItFromEnding) {
+    const std::string log = folder_ / "unread";
+    ASSERT_EQ(::mkfifo(log.c_str(), 0600), 0);
+    const int reader = ::open(log.c_str(), O_RDWR);
+    const int port = Server::FreePort();
+    Process server({Server::Program(), "--port", std::to_string(port), "--database", Database(),
+                    "--secret", "a secret of a test, long enough for it"},
+                   {}, log);
+    httplib::Client client("127.0.0.1", port);
+    client.set_keep_alive(true);
+    EXPECT_TRUE(Until([&] { return bool(client.Get("/health")); }));
+    for (int i = 0; i < 3000; ++i)
+        EXPECT_EQ(client.Get("/health")->status, 200);
+    const auto begin = std::chrono::steady_clock::now();
+    server.Signal(SIGTERM);
+    EXPECT_EQ(server.Wait(), 0);
+    EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(5));
+    ::close(reader);
+}
+
+TEST_P(OperationTest, TheCommandLineCountsBeforeTheEnvironmentAndThatBeforeTheFile) {
+    WriteFile(folder_ / "exchange.conf", "mail_relay = ftp://file\nport = 0");
+    const std::vector<std::string> check = {"--config", folder_ / "exchange.conf", "--check"};
+    EXPECT_NE(RunServer(check).output.find("mail_relay must begin"), std::string::npos);
+    ::setenv("HALVANE_EXCHANGE_MAIL_RELAY", "smtp://relay", 1);
+    EXPECT_NE(RunServer(check).output.find("mail_from must be"), std::string::npos);
+    auto with = check;
+    with.insert(with.end(), {"--mail_relay", "", "--database", Database()});
+    EXPECT_EQ(RunServer(with).output.find("mail"), std::string::npos);
+    ::unsetenv("HALVANE_EXCHANGE_MAIL_RELAY");
+}
+
+TEST_P(OperationTest, HelpNamesEverySetting) {
+    const auto help = RunServer({"--help"});
+    EXPECT_EQ(help.code, 0);
+    for (const auto& name : exchange::Config::Names())
+        EXPECT_NE(help.output.find("--" + name), std::string::npos) << name;
 }
 
 TEST_P(OperationTest, ServersThatStartTogetherOnANewDatabaseMakeItOnce) {

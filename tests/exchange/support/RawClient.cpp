@@ -1,15 +1,18 @@
 #include "support/RawClient.h"
 
+#include <arpa/inet.h>
 #include <cstdlib>
 #include <netinet/in.h>
 #include <poll.h>
 #include <sys/socket.h>
 #include <unistd.h>
 
-RawClient::RawClient(int port)
+RawClient::RawClient(int port, const std::string& from)
     : socket_(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0)) {
     sockaddr_in address{};
     address.sin_family = AF_INET;
+    inet_pton(AF_INET, from.c_str(), &address.sin_addr);
+    ::bind(socket_, reinterpret_cast<sockaddr*>(&address), sizeof address);
     address.sin_port = htons(static_cast<std::uint16_t>(port));
     address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
     if (::connect(socket_, reinterpret_cast<sockaddr*>(&address), sizeof address) != 0)
@@ -28,6 +31,10 @@ bool RawClient::Send(std::string_view bytes) const {
         bytes.remove_prefix(static_cast<size_t>(count));
     }
     return true;
+}
+
+void RawClient::FinishSending() const {
+    ::shutdown(socket_, SHUT_WR);
 }
 
 template <class Enough> std::string RawClient::ReadUntil(const Enough& enough, int milliseconds) {

@@ -6,12 +6,13 @@
 /// A connection that sends whatever it is told, byte for byte.
 class RawClient {
 public:
-    explicit RawClient(int port);
+    explicit RawClient(int port, const std::string& from = "127.0.0.1");
     ~RawClient();
     RawClient(const RawClient&) = delete;
     RawClient& operator=(const RawClient&) = delete;
 
     bool Send(std::string_view bytes) const; ///< false if the other side has closed
+    void FinishSending() const;              ///< and goes on reading
     /// What arrives until the other side closes, or until nothing does for so long.
     std::string ReadToEnd(int milliseconds = 5000);
     std::string ReadReply(int milliseconds = 5000); ///< one whole reply
@@ -20,7 +21,7 @@ public:
     /// Sends bytes on a new connection and reads to its end.
     static std::string Talk(int port, std::string_view bytes, int milliseconds = 5000);
     static std::string Ask(int port, std::string_view bytes); ///< and reads one reply
-    static int Status(std::string_view reply); ///< 0 if it is none
+    static int Status(std::string_view reply);                ///< 0 if it is none
     static std::string Body(std::string_view reply);
 
 private:

@@ -6,10 +6,25 @@
 
 #include <csignal>
 #include <gtest/gtest.h>
+#include <netinet/in.h>
 #include <regex>
+#include <sys/socket.h>
+#include <unistd.h>
 
 std::string Server::Program() {
     return HALVANE_EXCHANGE_PROGRAM;
+}
+
+int Server::FreePort() {
+    sockaddr_in address{};
+    address.sin_family = AF_INET;
+    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    socklen_t size = sizeof address;
+    const int socket = ::socket(AF_INET, SOCK_STREAM, 0);
+    ::bind(socket, reinterpret_cast<sockaddr*>(&address), size);
+    ::getsockname(socket, reinterpret_cast<sockaddr*>(&address), &size);
+    ::close(socket);
+    return ntohs(address.sin_port);
 }
 
 Server::Server(Settings settings) {

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "exchange/Config.h"
+
+namespace exchange {
+
+/// The words that the program is started with, and what stands in the environment and in the file
+/// that they name.
+namespace CommandLine {
+/// Something that is done instead of serving, perhaps to an object.
+struct Option {
+    std::string name;
+    std::string object; ///< what it is called in the help; empty if there is none
+    std::string help;
+};
+
+struct Command {
+    std::string action; ///< the name of an option; empty to serve
+    std::string object;
+    std::string help; ///< the text, if that is what was asked for
+    Config config;
+};
+
+/// Fails with ConfigError on words and settings that cannot be used.
+Command Read(int count, const char* const* words, const std::vector<Option>& options);
+} // namespace CommandLine
+
+} // namespace exchange

@@ -1,0 +1,85 @@
+#include "exchange/MissGuard.h"
+
+#include "exchange/Refusal.h"
+
+#include <algorithm>
+#include <optional>
+
+namespace exchange {
+namespace {
+using soci::into;
+using soci::use;
+
+/// A miss weighs less the wider a network is, so that the same sum shuts each of them.
+constexpr int Widest = Limits::Growth[std::size(Limits::Growth) - 1];
+constexpr int UnderAlarm = 10;
+
+void Add(Connection& connection, const std::string& name, long long slot, int weight) {
+    connection.Change(
+        "INSERT INTO counters (Name, Slot, Hits) VALUES (:name, :slot, :weight)"
+        " ON CONFLICT (Name, Slot) DO UPDATE SET Hits = counters.Hits + EXCLUDED.Hits",
+        use(name), use(slot), use(weight));
+}
+
+int Hits(Connection& connection, const std::string& name, long long slot) {
+    int hits = 0;
+    connection.First("SELECT Hits FROM counters WHERE Name = :name AND Slot = :slot", use(name),
+                     use(slot), into(hits));
+    return hits;
+}
+} // namespace
+
+MissGuard::Guess MissGuard::Of(const Visitor& visitor) const {
+    Guess guess;
+    for (size_t width = 0; width < visitor.networks.size(); ++width)
+        guess.names[width] = "miss:" + visitor.networks[width];
+    guess.slot = Limits::Hour();
+    return guess;
+}
+
+int MissGuard::Counted(Connection& connection, const Guess& guess) {
+    static const std::string counting = std::string("SELECT ") + Counting;
+    const auto& names = guess.names;
+    std::optional<int> misses;
+    connection.First(counting, use(names[0]), use(names[1]), use(names[2]), use(names[3]),
+                     use(guess.slot), into(misses));
+    return misses.value_or(0);
+}
+
+bool MissGuard::IsShut(int misses, const Guess& guess) const {
+    const int allowed = alarm_ == guess.slot
+                            ? std::max(1, config_.misses_per_client_hour / UnderAlarm)
+                            : config_.misses_per_client_hour;
+    return misses >= allowed * Widest;
+}
+
+MissGuard::Verdict MissGuard::Judge(Connection& connection, const Guess& guess, int misses,
+                                    bool found) const {
+    if (IsShut(misses, guess))
+        return Verdict::TooMany;
+    if (found)
+        return Verdict::Found;
+    Note(connection, guess);
+    return Verdict::Missed;
+}
+
+void MissGuard::Note(Connection& connection, const Guess& guess) const {
+    const std::string all = "miss";
+    Transaction transaction(connection);
+    for (size_t width = 0; width < guess.names.size(); ++width)
+        if (!guess.names[width].empty())
+            Add(connection, guess.names[width], guess.slot, Widest / Limits::Growth[width]);
+    Add(connection, all, guess.slot, 1);
+    if (Hits(connection, all, guess.slot) > config_.misses_per_hour)
+        alarm_ = guess.slot;
+    transaction.Commit();
+}
+
+void MissGuard::Require(Verdict verdict) {
+    if (verdict == Verdict::TooMany)
+        throw Refusal(429, TooMany);
+    if (verdict == Verdict::Missed)
+        throw Refusal(404, "There is no recipe with this ID.");
+}
+
+} // namespace exchange

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "exchange/Text.h"
+
+namespace exchange {
+
+/// The number of a recipe. The program shows 0 and 1 for other things.
+namespace RecipeID {
+inline constexpr int Least = 2;
+inline constexpr int Most = 0x7fffffff;
+
+inline std::optional<int> Read(std::string_view text) {
+    return WholeNumber(text, Least, Most);
+}
+} // namespace RecipeID
+
+} // namespace exchange
