@@ -40,24 +40,33 @@ void Api::AddTo(Router& router) {
                [this](const Ask& ask, auto& reply) { AddIngredients(ask, reply); });
 }
 
-void Api::Create(const Ask& ask, Reply& reply) const {
-    const auto recipe = RecipeReader::ReadRecipe(ask.request.body);
+/// Before the body is read, so that bodies that are refused use up the limit, too.
+void Api::CountRecipe(const Visitor& visitor) const {
     const auto& config = service_.config;
-    std::optional<RecipeStore::Created> created;
+    bool may = false;
     {
         const Pool::Lease lease(service_.pool);
         Transaction transaction(*lease);
-        if (service_.limits.CountToday(*lease, "recipe", ask.visitor, config.recipes_per_client_day,
-                                       config.recipes_per_day)) {
-            created = RecipeStore(*lease).Create(recipe);
+        may = service_.limits.CountToday(*lease, "recipe", visitor, config.recipes_per_client_day,
+                                         config.recipes_per_day);
+        if (may)
             transaction.Commit();
-        }
     }
-    if (!created)
+    if (!may)
         throw Refusal(429, "Too many recipes have been sent today. Please try again tomorrow.");
+}
+
+void Api::Create(const Ask& ask, Reply& reply) const {
+    CountRecipe(ask.visitor);
+    const auto recipe = RecipeReader::ReadRecipe(ask.request.body);
+    RecipeStore::Created created;
+    {
+        const Pool::Lease lease(service_.pool);
+        created = RecipeStore(*lease).Create(recipe);
+    }
     reply.status = 201;
-    reply.SetContent("{\"RecipeID\":" + std::to_string(created->id) + ",\"token\":\"" +
-                         created->token + "\"}",
+    reply.SetContent("{\"RecipeID\":" + std::to_string(created.id) + ",\"token\":\"" +
+                         created.token + "\"}",
                      JsonType);
 }
 

@@ -14,6 +14,7 @@ public:
     void AddTo(Router& router);
 
 private:
+    void CountRecipe(const Visitor& visitor) const;
     void Create(const Ask& ask, Reply& reply) const;
     void RequireCreator(int id, const std::string& token) const;
     void AddIngredients(const Ask& ask, Reply& reply) const;

@@ -28,10 +28,10 @@ public:
         : connection_(connection) {}
 
     struct Created {
-        int id;
+        int id = 0;
         std::string token;
     };
-    Created Create(Recipe recipe); ///< one statement, for the caller's transaction
+    Created Create(Recipe recipe);
 
     enum class Added { Done, WrongToken, AlreadySent, TooMany };
     Added MayAdd(int id, const std::string& token); ///< whether Add could do anything

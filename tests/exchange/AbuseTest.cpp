@@ -197,7 +197,7 @@ TEST_P(AbuseTest, ReportsAndHiddenRecipesAreGuarded) {
 
 TEST_P(AbuseTest, ANetworkIsCountedOnceHoweverItsAddressesAreWritten) {
     Start(Settings({{"trusted_proxies", "127.0.0.1"}, {"misses_per_client_hour", "1"}}));
-    TryAll(AbuseCases::Networks(), 24);
+    TryAll(AbuseCases::Networks(), 30);
 }
 
 TEST_P(AbuseTest, WhatIsRefusedIsRefusedWithAReason) {

@@ -21,6 +21,13 @@ TEST_P(LimitsTest, AClientCreatesSoManyRecipesADay) {
     EXPECT_EQ(Count("SELECT COUNT(*) FROM recipes"), 3);
 }
 
+TEST_P(LimitsTest, ABodyThatIsRefusedUsesUpTheLimitToo) {
+    Start({{"recipes_per_client_day", "2"}});
+    EXPECT_EQ(Post("/halvane/api/recipes", json::object())->status, 400);
+    EXPECT_EQ(Post("/halvane/api/recipes", json::array())->status, 400);
+    EXPECT_EQ(Post("/halvane/api/recipes", Soup())->status, 429);
+}
+
 TEST_P(LimitsTest, AllClientsTogetherCreateSoManyRecipesADay) {
     Start({{"recipes_per_day", "2"}});
     Create();

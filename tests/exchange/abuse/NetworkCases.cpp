@@ -57,6 +57,11 @@ Abuses Networks() {
                        .status = same ? 429 : 404,
                        .before = Miss(one)});
     all.push_back(Wide("a /64 with many addresses", "2a01:21:1:1::{n}", 3));
+    all.push_back(Wide("a /56 with many households", "2a01:22:1:{n}::1", 9));
+    all.push_back(Wide("a /48 with many households", "2a01:23:1:{n}00::1", 29));
+    all.push_back(Wide("a /32 with many customers", "2a01:24:{n}::1", 99));
+    all.push_back(Wide("a /24 with many addresses", "31.1.1.{n}", 9));
+    all.push_back(Wide("a /16 with many addresses", "32.1.{n}.1", 29));
     return all;
 }
 
