@@ -7,13 +7,13 @@
 
 namespace {
 
-constexpr int MostParts = 4; ///< of the width, between five labels
+constexpr int MostParts = 4; ///< five labels divide the width into four parts
 
-/// Which of the five labels stands at each end of the parts, by their number.
+/// For each number of parts: the labels at their ends.
 const std::vector<int> LabelsAt[MostParts + 1] = {
     {0}, {0, 4}, {0, 2, 4}, {0, 1, 3, 4}, {0, 1, 2, 3, 4}};
 
-/// The least whole number of days, from the rounded quarter up, whose four parts hold them all.
+/// The rounded quarter, raised until four parts cover all days.
 int DaysInPart(int days) {
     const int needed = (days + MostParts - 1) / MostParts;
     return std::max(Round(double(days) / MostParts), needed);

@@ -4,9 +4,9 @@
 
 #include <vector>
 
-/// The date axis under a line of days, from its first day to its last: five labels at most, and the
-/// place of each day. From four days on the labels stand a whole number of days apart, so that the
-/// fifth can lie past the last day. Lengths are twips.
+/// The date axis of the line chart, from the first day to the last: up to five labels, and the
+/// place of each day. From four days on, the labels are a whole number of days apart, so the fifth
+/// can lie past the last day. Lengths are twips.
 class DateAxis {
 public:
     static constexpr int Left = 945;

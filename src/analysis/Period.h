@@ -3,9 +3,10 @@
 #include <QDate>
 #include <QString>
 
-/// The days from one to another, both counted. With the end before the start there are none.
+/// The days from the first to the last, both included. If the last lies before the first, there are
+/// none.
 struct Period {
     QDate from, to;
 
-    QString Condition() const; ///< on `UDate`, for a statement
+    QString Condition() const; ///< the SQL condition on `UDate`
 };

@@ -4,9 +4,9 @@
 
 #include <array>
 
-/// The weight axis beside a line of weights: eight labels from the least weight upward, a whole
-/// number of pounds apart. That number grows with the weights' range and with the days alike: a
-/// long time makes a coarse axis even where the weight hardly changes. Lengths are twips.
+/// The weight axis of the line chart: eight labels from the least weight upward, a whole number of
+/// pounds apart. The step grows with the range of the weights and with the number of days: a long
+/// period has a coarse axis even if the weight hardly changes. Lengths are twips.
 class WeightAxis {
 public:
     static constexpr int LabelCount = 8;
@@ -16,14 +16,14 @@ public:
 
     WeightAxis(qint32 min, qint32 max, int days);
 
-    qint64 Label(int i) const { return labels_[size_t(i)]; } ///< from the top
+    qint64 Label(int i) const { return labels_[size_t(i)]; } ///< i counts from the top
     static int LabelMiddle(int i);
-    /// A weight between two labels stands between them in proportion. One beyond them all is
-    /// placed as if the axis had its full range on a quarter of the height.
+    /// A weight between two labels stands between them in proportion. Beyond the labels the whole
+    /// range of the weights counts as 1650 twips.
     int Y(double weight) const;
 
 private:
     qint32 max_;
-    double scale_; ///< twips a pound beyond the labels
+    double scale_; ///< twips to a pound, beyond the labels
     std::array<qint64, LabelCount> labels_{};
 };

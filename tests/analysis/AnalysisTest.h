@@ -5,7 +5,7 @@
 #include <QDate>
 #include <QMap>
 
-/// Amounts by column; what is not named is 0.
+/// Amounts by column; the others are 0.
 using Amounts = QMap<QString, double>;
 
 /// Empty databases, one user, and ways to fill that user's logs.
@@ -17,10 +17,10 @@ protected:
     void Eat(const Amounts& amounts, QDate day, const QString& meal = QStringLiteral("Lunch"));
     void EatAs(qint32 uid, const Amounts& amounts, QDate day,
                const QString& meal = QStringLiteral("Lunch"));
-    /// Food of nothing but so much energy.
+    /// A food that has only calories.
     void EatCalories(double calories, QDate day);
     void Weigh(double weight, QDate day);
     QString Caption(const QWidget& chart, const char* name);
     QStringList PieCaptions(const QWidget& chart); ///< fat, protein, carbohydrate
-    QString PieText(const QWidget& chart);         ///< what the pie tells assistive programs
+    QString PieText(const QWidget& chart);         ///< what assistive programs read of the pie
 };

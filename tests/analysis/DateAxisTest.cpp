@@ -61,7 +61,7 @@ TEST(DateAxisTest, FromFourDaysOnFiveLabelsStandAQuarterApart) {
     EXPECT_EQ(axis.TwipsPerDay(), 2050);
 }
 
-TEST(DateAxisTest, TenDaysTakeStepsOfThreeAndTheLastLabelLiesPastThem) {
+TEST(DateAxisTest, TenDaysTakeStepsOfThreeAndTheLastLabelLiesPastTheLastDay) {
     const DateAxis axis = Over(10);
     std::vector<int> days;
     for (const Label& label : LabelsOf(axis))
@@ -71,7 +71,7 @@ TEST(DateAxisTest, TenDaysTakeStepsOfThreeAndTheLastLabelLiesPastThem) {
     EXPECT_LT(axis.X(First.addDays(10), 1440), 1440 + 8200);
 }
 
-TEST(DateAxisTest, TheStepIsTheRoundedQuarterRaisedUntilFourOfThemHoldAllDays) {
+TEST(DateAxisTest, TheStepIsARoundedQuarterRaisedUntilFourStepsCoverAllDays) {
     const std::pair<int, int> steps[] = {{4, 1},    {5, 2},    {6, 2},      {7, 2},     {8, 2},
                                          {9, 3},    {13, 4},   {14, 4},     {15, 4},    {17, 5},
                                          {29, 8},   {30, 8},   {364, 91},   {365, 92},  {366, 92},

@@ -10,7 +10,7 @@ namespace {
 
 const QDate Day(2002, 4, 3);
 
-/// The charts in fonts with points and letters of other widths than those of the delivered one.
+/// The charts in fonts whose points and letters have other widths than the delivered font.
 class OtherFontsTest : public AnalysisTest, public ::testing::WithParamInterface<const char*> {
 protected:
     void SetUp() override {
@@ -27,7 +27,7 @@ protected:
     static ChartLabel* Value(const QWidget& chart, int row) {
         return Find<ChartLabel>(&chart, QStringLiteral("lblVal%1").arg(row));
     }
-    /// Where the figure begins, behind the points that are shown.
+    /// Where the figure begins, after the visible points.
     static double Column(const ChartLabel& value) {
         QString figure = value.Caption();
         figure.remove(0, figure.lastIndexOf("..") + 2);

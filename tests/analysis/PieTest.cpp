@@ -22,7 +22,7 @@ protected:
         return form;
     }
 
-    /// The pixel in the direction of that percent of the circle, at that part of the radius.
+    /// The pixel at that percent of the circle and at that part of the radius.
     static QRgb At(const QImage& picture, const PieForm& form, double percent, double part = 0.6) {
         const double angle = percent * 6.28318530718 / 100;
         const QPointF place = form.centre + QPointF(qCos(angle), -qSin(angle)) * form.radius * part;
@@ -76,7 +76,7 @@ TEST_F(PieTest, TheCircleFillsItsRadiusAndNoMore) {
     }
 }
 
-TEST_F(PieTest, TheDrawnPieIsLaidOverThePictureWithAlpha153) {
+TEST_F(PieTest, ThePieIsBlendedOverThePictureWithAlpha153) {
     Pie pie(Small());
     pie.Show({0.25, 0.25, 0.5});
     const QImage shown = pie.picPIE();
@@ -94,7 +94,7 @@ TEST_F(PieTest, AFurtherOverlayBlendsAgain) {
     EXPECT_EQ(At(pie.picPIE(), Small(), 12), Laid(red, Laid(red, paper)));
 }
 
-TEST_F(PieTest, LegendColoursAreThoseThatAreSeen) {
+TEST_F(PieTest, TheLegendHasTheColoursOfTheShownSectors) {
     const Pie pie(Small());
     const auto colours = pie.ShownColours();
     EXPECT_EQ(colours[0].rgb(), Laid(red, paper));
@@ -121,13 +121,13 @@ TEST_F(PieTest, WithoutAnyShareNoSectorIsDrawnAndCaptionsStay) {
     EXPECT_EQ(pie.Summary(), QString());
 }
 
-TEST_F(PieTest, SharesThatAreNoNumbersDrawNothingAndDoNotFail) {
+TEST_F(PieTest, InfiniteSharesDrawNothingAndDoNotFail) {
     Pie pie(Small());
     pie.Show({qInf(), 1, 1});
     EXPECT_EQ(pie.picPIE().size(), QSize(108, 108));
 }
 
-TEST_F(PieTest, NoDataIsPrintedAtItsPlaceAndTheBlankPieLaidOverIt) {
+TEST_F(PieTest, NoDataIsPrintedAtItsPlaceUnderABlankPie) {
     Pie pie(Small());
     pie.Show({1, 1, 1});
     pie.Show(EnergyShares::NoData());
@@ -142,7 +142,7 @@ TEST_F(PieTest, NoDataIsPrintedAtItsPlaceAndTheBlankPieLaidOverIt) {
     EXPECT_EQ(PixelsUnlike(shown, QRect(104, 0, 4, 108), paper), 0);
 }
 
-TEST_F(PieTest, TheOverlayWithoutDataIsOfTheForm) {
+TEST_F(PieTest, TheFormDecidesWhetherTheOverlayCoversTheNotice) {
     const auto darkest = [](const QImage& picture) {
         int least = 255;
         for (int y = 0; y < picture.height(); ++y)
@@ -171,7 +171,7 @@ TEST_F(PieTest, NoDataWithoutAPlaceIsCentred) {
     EXPECT_EQ(PixelsUnlike(shown, QRect(0, 64, 108, 44), paper), 0);
 }
 
-TEST_F(PieTest, GeometryIsOfTheForm) {
+TEST_F(PieTest, SizeCentreAndRadiusComeFromTheForm) {
     PieForm form = Small();
     form.size = QSize(252, 242);
     form.centre = QPointF(126, 121);

@@ -24,7 +24,7 @@ constexpr int Nutrient31 = 31;
 
 struct Entry {
     int day;
-    bool own;                                 ///< the user's, not another person's
+    bool own;                                 ///< of the current user
     std::array<int, Nutrient31> sixtyFourths; ///< so that every sum is exact
 };
 struct Weighing {
@@ -37,7 +37,7 @@ struct Log {
     int from, to; ///< the period asked for
 };
 
-/// Calculates by whole numbers, and apart from the program's own ways, what the charts must show.
+/// Calculates in whole numbers, without the program's own code, what the charts must show.
 class Expected {
 public:
     explicit Expected(const Log& log) {
@@ -62,14 +62,14 @@ public:
     bool HasWeight() const { return weighings_ > 0; }
     int AverageWeight() const { return int(HalfToEven(quarters_, 4LL * weighings_)); }
 
-    /// Sixty-fourths of what the record holds.
+    /// The sum in the record, in sixty-fourths.
     long long Sum(Nutrient id) const {
         const long long sum = sums_[size_t(id)];
         return Info(id).whole ? 64 * HalfToEven(sum, 64) : sum;
     }
     double Average(Nutrient id) const { return double(Sum(id)) / 64 / days_; }
 
-    /// The number as it is to be read: two decimals at most below 100, thousands set apart above.
+    /// The number as shown: up to two decimals below 100, a thousands separator above.
     QString Text(Nutrient id) const {
         const long long sum = Sum(id);
         const long long unit = 64LL * days_;
@@ -94,8 +94,8 @@ public:
         return HalfToEven(HalfToEven(sums_[size_t(Nutrient::Calories)], 64), days_);
     }
 
-    /// Percent from fat, protein and carbohydrate; a sliver for one without any. No numbers where
-    /// there is none of the three.
+    /// Percent from fat, protein and carbohydrate; a sliver for a share of 0. NaN if all three are
+    /// 0.
     std::array<double, 3> Shares() const {
         std::array<double, 3> shares{9. * double(sums_[size_t(Nutrient::TotalFat)]),
                                      4. * double(sums_[size_t(Nutrient::Protein)]),
@@ -123,7 +123,7 @@ private:
     long long quarters_ = 0;
 };
 
-/// Kilocalories a day of a man of 40 years and 70 inches, moderately active, who wishes for 170.
+/// The energy target of a man of 40 years and 70 inches, moderately active, who wants 170 pounds.
 double EnergyFor(int pounds) {
     const double basal = 66 + 13.7 * (pounds / 2.2) + 5 * (70 * 2.54) - 6.8 * 40;
     const double active = basal * 0.72;

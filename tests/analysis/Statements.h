@@ -7,7 +7,7 @@
 #include <SQLiteCpp/SQLiteCpp.h>
 #include <sqlite3.h>
 
-/// The statements that run on a connection while it lives.
+/// Records the statements that run on a connection, as long as it exists.
 class Statements {
 public:
     explicit Statements(Connection& connection)

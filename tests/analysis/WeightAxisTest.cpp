@@ -24,7 +24,7 @@ TEST(WeightAxisTest, AConstantWeightOverAHundredDaysTakesStepsOfThirteen) {
               (std::vector<qint64>{241, 228, 215, 202, 189, 176, 163, 150}));
 }
 
-TEST(WeightAxisTest, EightDaysMoreMakeTheStepOnePoundLarger) {
+TEST(WeightAxisTest, EightMoreDaysMakeTheStepOnePoundLarger) {
     EXPECT_EQ(WeightAxis(150, 150, 9).Label(6), 152);
     EXPECT_EQ(WeightAxis(150, 150, 16).Label(6), 152);
     EXPECT_EQ(WeightAxis(150, 150, 17).Label(6), 153);
@@ -41,7 +41,7 @@ TEST(WeightAxisTest, TheTopLabelMayLieBelowTheGreatestWeight) {
     EXPECT_EQ(WeightAxis(100, 110, 0).Label(0), 107);
 }
 
-TEST(WeightAxisTest, AWeightThatALabelShowsStandsAtItsMiddle) {
+TEST(WeightAxisTest, AWeightEqualToALabelStandsAtTheMiddleOfTheLabel) {
     const WeightAxis axis(150, 157, 0);
     const int middles[] = {675, 1335, 1995, 2655, 3330, 3990, 4650, 5310};
     for (int i = 0; i < 8; ++i)
@@ -64,7 +64,7 @@ TEST(WeightAxisTest, PlacesAreRoundedHalfToEven) {
     EXPECT_EQ(WeightAxis(0, 4 * 7, 0).Y(1.5), 5062); // 5310 - 247.5 = 5062.5
 }
 
-TEST(WeightAxisTest, AWeightAboveTheTopLabelKeepsAScaleOfItsOwn) {
+TEST(WeightAxisTest, AWeightAboveTheTopLabelHasAScaleOfItsOwn) {
     const WeightAxis axis(100, 110, 0); // labels 100 to 107
     EXPECT_EQ(axis.Y(110), 675);
     EXPECT_EQ(axis.Y(108), 675 + 2 * 165);
@@ -72,7 +72,7 @@ TEST(WeightAxisTest, AWeightAboveTheTopLabelKeepsAScaleOfItsOwn) {
     EXPECT_EQ(axis.Y(107.5), 1088); // 675 + 412.5
 }
 
-TEST(WeightAxisTest, AWeightBelowTheRoundedLeastKeepsThatScaleToo) {
+TEST(WeightAxisTest, AWeightBelowTheRoundedLeastUsesThatScaleToo) {
     const WeightAxis axis(152, 152, 0); // of 151.5
     EXPECT_EQ(axis.Y(151.5), 675 + 825);
 }

@@ -40,8 +40,8 @@ QString NoWeight(const char* start, const char* end) {
 }
 
 const QString NoDay =
-    QStringLiteral("There is no weight entry from 4/3/2002 to 4/1/2002, as the first day lies "
-                   "behind the last one. Enter the earlier day on the left.");
+    QStringLiteral("There is no weight entry from 4/3/2002 to 4/1/2002, because the first day "
+                   "is after the last. Enter the earlier day on the left.");
 
 class frmReportTest : public AnalysisTest {
 protected:
@@ -54,7 +54,7 @@ protected:
         AnalysisTest::TearDown();
     }
 
-    /// As ShowScreen brings it.
+    /// As ShowScreen opens it.
     void Open() {
         report = std::make_unique<frmReport>();
         report->resize(766, 562);
@@ -81,7 +81,7 @@ protected:
     bool IsShown(const char* chart) {
         return Find(report.get(), QLatin1String(chart))->isVisible();
     }
-    /// Which of bars, values, pie and line can be seen.
+    /// The visible ones of bars, values, pie and line.
     QString Views() {
         QStringList shown;
         if (IsShown("ucBar"))
@@ -120,7 +120,7 @@ protected:
                 lit << button->objectName();
         return lit.join(u' ');
     }
-    /// What a press of Refresh reads and writes, in its order.
+    /// What a press of Refresh reads and writes, in order.
     QStringList StepsOfRefresh() {
         const std::pair<const char*, const char*> steps[] = {
             {"Avg(USER_WEIGHTS.Weight)", "average weight"},
@@ -150,7 +150,7 @@ protected:
 
 // ---- coming up
 
-TEST_F(frmReportTest, ComesUpWithTheLastSevenDaysTodayIncluded) {
+TEST_F(frmReportTest, OpensWithTheLastSevenDaysIncludingToday) {
     LogWeek();
     Open();
     EXPECT_EQ(Find<QLineEdit>(report.get(), QStringLiteral("txtStart"))->text(),
@@ -243,13 +243,13 @@ TEST_F(frmReportTest, BarsPieAndLineAreRefreshedInThisOrder) {
                                              "weights", "extremes"}));
 }
 
-TEST_F(frmReportTest, WithoutAWeightTheirOrderIsTheSame) {
+TEST_F(frmReportTest, WithoutAWeightPieAndLineAreStillRefreshedInThisOrder) {
     LogWeek();
     Open();
     Users(QStringLiteral("DELETE FROM USER_WEIGHTS"));
     ExpectAlert(NoWeight("3/28/2002", "4/3/2002"));
     QStringList steps = StepsOfRefresh();
-    steps.removeOne(QStringLiteral("weights")); // is the weight missing, or another value?
+    steps.removeOne(QStringLiteral("weights")); // tells a missing weight from another Null
     EXPECT_EQ(steps, (QStringList{"average weight", "energy", "days", "weights"}));
 }
 
@@ -330,7 +330,7 @@ TEST_F(frmReportTest, DaysBefore1992AndAfter2100AreTaken) {
     EXPECT_EQ(LineText(), QStringLiteral("1/1/2150 190 lbs"));
 }
 
-TEST_F(frmReportTest, TheLastSevenDaysAreThoseOfAnyClock) {
+TEST_F(frmReportTest, TheLastSevenDaysFollowTheClock) {
     const std::pair<QDate, const char*> clocks[] = {{{1970, 1, 3}, "12/28/1969 01/03/1970"},
                                                     {{2000, 3, 2}, "02/25/2000 03/02/2000"},
                                                     {{2106, 2, 7}, "02/01/2106 02/07/2106"}};
@@ -347,7 +347,7 @@ TEST_F(frmReportTest, TheLastSevenDaysAreThoseOfAnyClock) {
     }
 }
 
-TEST_F(frmReportTest, AFailingQueryIsNotHeld) {
+TEST_F(frmReportTest, AFailingQueryIsNotCaught) {
     LogWeek();
     Open();
     Users(QStringLiteral("ALTER TABLE USER_FOODS RENAME TO gone"));
@@ -357,7 +357,7 @@ TEST_F(frmReportTest, AFailingQueryIsNotHeld) {
     EXPECT_FALSE(MousePointer::IsBusy());
 }
 
-TEST_F(frmReportTest, ANullOfAnotherKindIsNotTakenForAMissingWeight) {
+TEST_F(frmReportTest, AnotherNullIsNotMistakenForAMissingWeight) {
     LogWeek();
     App().AppInfo.AUTOUPDATERDI = true;
     Open();
@@ -369,7 +369,7 @@ TEST_F(frmReportTest, ANullOfAnotherKindIsNotTakenForAMissingWeight) {
 
 // ---- a person who has not weighed in during the period
 
-TEST_F(frmReportTest, WithoutAWeightTheScreenComesUpWithWhatHasDataAndSaysSoOnce) {
+TEST_F(frmReportTest, WithoutAWeightTheScreenOpensWithTheOtherChartsAndSaysSoOnce) {
     EatCalories(1000, Today);
     Eat({{QStringLiteral("Calories"), 900}, {QStringLiteral("TotalFat"), 100}}, Today);
     Open();
@@ -384,7 +384,7 @@ TEST_F(frmReportTest, WithoutAWeightTheScreenComesUpWithWhatHasDataAndSaysSoOnce
     RunQueued();
 }
 
-TEST_F(frmReportTest, TheMessageOfALoadWaitsUntilTheScreenStandsInFront) {
+TEST_F(frmReportTest, AMessageOnLoadingWaitsUntilTheScreenIsInFront) {
     report = std::make_unique<frmReport>();
     RunQueued();
     report->DoWinInit();
@@ -397,7 +397,7 @@ TEST_F(frmReportTest, TheMessageOfALoadWaitsUntilTheScreenStandsInFront) {
     RunQueued();
 }
 
-TEST_F(frmReportTest, ARefreshSaysItOnceWhateverViewIsShown) {
+TEST_F(frmReportTest, ARefreshReportsAMissingWeightOnceInAnyView) {
     LogWeek();
     Open();
     for (const char* view : {"cmdBar", "cmdPie", "cmdLine", "cmdVals"}) {
@@ -411,7 +411,7 @@ TEST_F(frmReportTest, ARefreshSaysItOnceWhateverViewIsShown) {
     RunQueued();
 }
 
-TEST_F(frmReportTest, ChoosingAViewAfterwardsShowsNoBarOfThePeriodBefore) {
+TEST_F(frmReportTest, AViewChosenAfterwardsShowsNoBarOfThePeriodBefore) {
     LogWeek();
     Open();
     SetPeriod(QStringLiteral("1/1/2002"), QStringLiteral("1/31/2002"));
@@ -477,7 +477,7 @@ TEST_F(frmReportTest, TheMessageNamesThePeriodThatWasRead) {
     RunQueued();
 }
 
-TEST_F(frmReportTest, EntriesOfZeroAreNoWeight) {
+TEST_F(frmReportTest, AWeightOfZeroIsNoWeight) {
     Weigh(0, Today);
     Open();
     ExpectAlert(NoWeight("3/28/2002", "4/3/2002"));
@@ -534,7 +534,7 @@ TEST_F(frmReportTest, EachButtonShowsItsView) {
     }
 }
 
-TEST_F(frmReportTest, ComesUpWithTheViewThatIsKept) {
+TEST_F(frmReportTest, OpensWithTheStoredView) {
     LogWeek();
     const std::pair<const char*, const char*> views[] = {{"", "bars"},    {"0", "bars"},
                                                          {"1", "ucPie"},  {"2", "ucLine"},
@@ -553,7 +553,7 @@ TEST_F(frmReportTest, AnEmptySettingIsWrittenBackAsZero) {
     EXPECT_EQ(GetRegValue(StateSetting), QStringLiteral("0"));
 }
 
-TEST_F(frmReportTest, AnotherNumberLeavesTheViewsAsDesignedAndIsWrittenBack) {
+TEST_F(frmReportTest, AnUnknownNumberLeavesTheViewsAsDesignedAndIsWrittenBack) {
     LogWeek();
     for (const char* state : {"7", "-1", "4"}) {
         SetRegValue(StateSetting, QLatin1String(state));
@@ -565,7 +565,7 @@ TEST_F(frmReportTest, AnotherNumberLeavesTheViewsAsDesignedAndIsWrittenBack) {
     }
 }
 
-TEST_F(frmReportTest, ATextThatIsNoNumberFailsWhenTheScreenComesForward) {
+TEST_F(frmReportTest, ATextThatIsNotANumberFailsWhenTheScreenComesForward) {
     LogWeek();
     SetRegValue(StateSetting, QStringLiteral("pie"));
     frmReport screen;
@@ -592,7 +592,7 @@ TEST_F(frmReportTest, TheModeOfTheBarsMayDisagreeUntilBarsAreChosen) {
     EXPECT_EQ(GetRegValue(QStringLiteral("REPORTMODE")), QStringLiteral("BARS"));
 }
 
-TEST_F(frmReportTest, ChoosingAViewReadsNoPeriodButTheLineDoes) {
+TEST_F(frmReportTest, OnlyTheLineReadsThePeriodWhenItsViewIsChosen) {
     LogWeek();
     Open();
     SetPeriod(QStringLiteral("4/3/2002"), QStringLiteral("4/3/2002"));
@@ -602,7 +602,7 @@ TEST_F(frmReportTest, ChoosingAViewReadsNoPeriodButTheLineDoes) {
     EXPECT_EQ(LineText(), QStringLiteral("4/3/2002 150 lbs"));
     EXPECT_EQ(BarWidth(1), 3000);
     SetPeriod(QStringLiteral("4/2/2002"), QStringLiteral("4/3/2002"));
-    Press("cmdLine"); // shown already
+    Press("cmdLine"); // already shown
     EXPECT_EQ(LineText(), QStringLiteral("4/3/2002 150 lbs"));
 }
 
@@ -650,7 +650,7 @@ TEST_F(frmReportTest, AMoveOverTheScreenOrAChartTakesTheHoverLookOffAll) {
     }
 }
 
-TEST_F(frmReportTest, AMoveOverTheLabelOrAFieldTakesItOffRefreshAlone) {
+TEST_F(frmReportTest, AMoveOverTheLabelOrAFieldResetsOnlyRefresh) {
     LogWeek();
     Open();
     for (const char* name : {"aaLBL", "txtStart", "txtEnd"}) {

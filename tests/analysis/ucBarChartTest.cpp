@@ -53,7 +53,7 @@ protected:
             shown += !Bar(chart, row)->isHidden();
         return shown;
     }
-    /// One weighing of 180 pounds, so that there is an average.
+    /// There must be a weight for an average.
     void WeighOnce() { Weigh(180, First); }
 };
 
@@ -141,7 +141,7 @@ TEST_F(ucBarChartTest, FoodsOfOneDayCountAsOneDay) {
     EXPECT_EQ(chart.Sums().Calories(), 2100);
 }
 
-TEST_F(ucBarChartTest, BothEndsCountAndNothingOutsideNorOfOtherPeople) {
+TEST_F(ucBarChartTest, BothEndsCountButNoOtherDayAndNoOtherUser) {
     EatCalories(500, First);
     EatCalories(700, Last);
     EatCalories(9000, First.addDays(-1));
@@ -191,7 +191,7 @@ TEST_F(ucBarChartTest, WholeNumberSumsAreRoundedHalfToEvenBeforeTheyAreAveraged)
     EXPECT_EQ(Bar(chart, 7)->Width(), 6000 * (2.0 / 2400));
 }
 
-TEST_F(ucBarChartTest, AFieldThatNobodyKnowsCountsAsNothing) {
+TEST_F(ucBarChartTest, AnUnknownAmountCountsAsZero) {
     EatCalories(100, First);
     Users(QStringLiteral("UPDATE USER_FOODS SET Zinc = NULL"));
     WeighOnce();
@@ -203,7 +203,7 @@ TEST_F(ucBarChartTest, AFieldThatNobodyKnowsCountsAsNothing) {
 
 // ---- the average weight
 
-TEST_F(ucBarChartTest, TheHeaderTellsTheAverageWeightRoundedHalfToEven) {
+TEST_F(ucBarChartTest, TheHeaderShowsTheAverageWeightRoundedHalfToEven) {
     EatCalories(100, First);
     ucBarChart chart;
     EXPECT_EQ(Header(chart), QStringLiteral(" Percent RDI (avg weight: 0 lbs)"));
@@ -231,7 +231,7 @@ TEST_F(ucBarChartTest, WeightsOfZeroOutsideThePeriodAndOfOthersDoNotCount) {
     EXPECT_EQ(chart.AverageWeight(), 150);
 }
 
-TEST_F(ucBarChartTest, TargetsAreThoseOfTheAverageWeightAndOfThePresentOneAfterwards) {
+TEST_F(ucBarChartTest, TargetsFollowTheAverageWeightAndAfterwardsThePresentOne) {
     App().AppInfo.AUTOUPDATERDI = true;
     User::Current().CurrentWeight = 170;
     RecalcTargets();
@@ -270,7 +270,7 @@ TEST_F(ucBarChartTest, WithoutFoodTheAverageStaysInTheUserAndItsRow) {
     EXPECT_EQ(User::Current().RDIs.Calories(), 3149);
     EXPECT_EQ(Profile("current_weight"), 200);
     EXPECT_EQ(Profile("Calories"), 3149);
-    // The next run with food keeps what it finds, which is that average.
+    // The next run with food finds that average as the present weight and restores it.
     EatCalories(100, Last);
     Weigh(100, Last);
     Update(chart);
@@ -361,7 +361,7 @@ TEST_F(ucBarChartTest, AnAverageWeightBeyondAWholeNumberFails) {
     EXPECT_EQ(User::Current().CurrentWeight, 200);
 }
 
-TEST_F(ucBarChartTest, CleanedBarsAreHiddenAndEmpty) {
+TEST_F(ucBarChartTest, ClearedBarsAreHiddenAndEmpty) {
     EatCalories(1000, First);
     WeighOnce();
     ucBarChart chart;
@@ -392,7 +392,7 @@ TEST_F(ucBarChartTest, TheCallersValueBecomesTheAverage) {
     EXPECT_EQ(value, 100);
 }
 
-TEST_F(ucBarChartTest, From1335PercentOnAllBarsAreAlikeLong) {
+TEST_F(ucBarChartTest, AllBarsAbove133And5TenthsPercentHaveTheSameLength) {
     for (const double percent : {133.5, 133.6, 200.0, 1e12}) {
         double value = percent;
         EXPECT_EQ(ucBarChart::barWidth(1, value, 100), 8010) << percent;
@@ -477,7 +477,7 @@ TEST_F(ucBarChartTest, NumFixMakesTheCallersValueTheAverageAndLeavesZeroAlone) {
     EXPECT_EQ(value, 0);
 }
 
-TEST_F(ucBarChartTest, AnAverageBelow100BeforeItIsWrittenMayRead100) {
+TEST_F(ucBarChartTest, AnAverageJustBelow100MayRead100) {
     Eat({{QStringLiteral("Calories"), 100}, {QStringLiteral("Iron"), 99.996}}, First);
     WeighOnce();
     ucBarChart chart;
@@ -519,7 +519,7 @@ TEST_F(ucBarChartTest, OtherModesDoNothing) {
     }
 }
 
-TEST_F(ucBarChartTest, TurningToBarsShowsNarrowOnesUntilTheNextRefresh) {
+TEST_F(ucBarChartTest, SwitchingToBarsShowsNarrowOnesUntilTheNextRefresh) {
     EatCalories(1000, First);
     WeighOnce();
     ucBarChart chart;
@@ -563,7 +563,7 @@ TEST_F(ucBarChartTest, TheModeIsKeptFromOneChartToTheNext) {
     EXPECT_EQ(GetRegValue(Mode), QStringLiteral("BARS"));
 }
 
-TEST_F(ucBarChartTest, AnyOtherSettingThanExactlyVALSMeansBars) {
+TEST_F(ucBarChartTest, AnySettingButExactlyVALSMeansBars) {
     for (const char* setting : {"vals", "VALS ", "BARS", "1", ""}) {
         SetRegValue(Mode, QLatin1String(setting));
         {
@@ -596,7 +596,7 @@ TEST_F(ucBarChartTest, RowsStandAtTheirPlacesInTwips) {
     }
 }
 
-TEST_F(ucBarChartTest, TheHeadLeavesTheFirstRowFree) {
+TEST_F(ucBarChartTest, TheHeaderDoesNotCoverTheFirstBar) {
     ucBarChart chart;
     chart.show();
     for (const int height : {476, 490, 600}) {
@@ -636,7 +636,7 @@ TEST_F(ucBarChartTest, TheGridHasALineEveryFivePercentAndADarkOneEvery25) {
     chart.ClearBars();
     const QImage shown = Grab(&chart);
     const QRgb paper = TheStyle().paper.rgb();
-    for (const int y : {470, 473}) // the rows' names end above
+    for (const int y : {470, 473}) // below the names of the rows
         for (int x = 1; x < 737; ++x) {
             const int n = x * 15 - 2430;
             const bool line = n >= 0 && n % 300 == 0 && x * 15 <= 11000;
@@ -684,7 +684,7 @@ TEST_F(ucBarChartTest, TheValuesCoverTheGrid) {
 
 // ---- the pointer
 
-TEST_F(ucBarChartTest, MovesOverTheBackgroundTheNamesAndTheHeaderAreTold) {
+TEST_F(ucBarChartTest, MovesOverTheBackgroundTheNamesAndTheHeaderAreRaised) {
     ucBarChart chart;
     chart.show();
     QSignalSpy moves(&chart, &ucBarChart::MouseMove);
@@ -697,7 +697,7 @@ TEST_F(ucBarChartTest, MovesOverTheBackgroundTheNamesAndTheHeaderAreTold) {
     EXPECT_EQ(moves.count(), 4);
 }
 
-TEST_F(ucBarChartTest, MovesOverBarsValuesAndTheScaleAreNot) {
+TEST_F(ucBarChartTest, MovesOverBarsValuesAndTheScaleAreNotRaised) {
     EatCalories(1000, First);
     WeighOnce();
     ucBarChart chart;
@@ -716,7 +716,7 @@ TEST_F(ucBarChartTest, MovesOverBarsValuesAndTheScaleAreNot) {
 
 // ---- assistive programs and paper
 
-TEST_F(ucBarChartTest, FiguresAreToldAsText) {
+TEST_F(ucBarChartTest, AssistiveProgramsReadTheFigures) {
     Eat({{QStringLiteral("Calories"), 1000}, {QStringLiteral("Iron"), 12}}, First);
     User::Current().RDIs.Set(Nutrient::Zinc, 0);
     WeighOnce();
@@ -738,7 +738,7 @@ TEST_F(ucBarChartTest, FiguresAreToldAsText) {
     EXPECT_EQ(value(Name(chart, 1)), QString());
 }
 
-TEST_F(ucBarChartTest, ItsPictureForPaperIsThatOfTheScreen) {
+TEST_F(ucBarChartTest, ThePrintedPictureEqualsTheScreen) {
     EatCalories(1000, First);
     WeighOnce();
     ucBarChart chart;
@@ -758,7 +758,7 @@ TEST_F(ucBarChartTest, ItsPictureForPaperIsThatOfTheScreen) {
     onPaper.end();
     EXPECT_EQ(paper.pixel(10 + 4, 20 + 8 + 4 * 300), TheStyle().paper.rgb());
     EXPECT_EQ(paper.pixel(9, 1000), qRgb(0, 255, 0));
-    EXPECT_EQ(paper.pixel(1000, 26), qRgb(0, 255, 0)); // the height is shared out above and below
+    EXPECT_EQ(paper.pixel(1000, 26), qRgb(0, 255, 0)); // the rest of the height is above and below
     const int top = 20 + 8 + Bar(chart, 1)->y() * 4;
     EXPECT_EQ(paper.pixel(10 + (163 + 199) * 4 + 3, top + 2), qRgb(120, 124, 133));
     EXPECT_NE(paper.pixel(10 + (163 + 200) * 4 + 1, top + 2), qRgb(120, 124, 133));

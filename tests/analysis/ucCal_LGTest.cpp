@@ -41,7 +41,7 @@ protected:
         HalvaneTest::TearDown();
     }
 
-    /// A calendar opened with that day as today, in a window of its own.
+    /// Opens a calendar in a window of its own, with that day as today.
     void Open(QDate today, QSize size = QSize(498, 514)) {
         Clock::SetToday(today);
         form = std::make_unique<QWidget>();
@@ -72,7 +72,7 @@ protected:
         const auto* control = calendar->findChild<QWidget*>(name);
         return control && control->isVisible();
     }
-    /// The days of the month whose icon of that name shows.
+    /// The days whose icon of that name is visible.
     QList<int> Days(const QString& icon) {
         QList<int> days;
         for (int day = 1; day <= 31; ++day)
@@ -111,7 +111,7 @@ protected:
 
 } // namespace
 
-TEST_F(ucCal_LGTest, OpensOnTodayWithItsButtonThere) {
+TEST_F(ucCal_LGTest, OpensOnTodayWithTheButtonThere) {
     Open({2026, 11, 21});
     EXPECT_EQ(Title(), "November 2026");
     EXPECT_EQ(calendar->Date(), QDate(2026, 11, 21));
@@ -136,7 +136,7 @@ TEST_F(ucCal_LGTest, TheHeadsNameTheWeekFromSunday) {
     }
 }
 
-TEST_F(ucCal_LGTest, LeapYearsAreSettledByTheDates) {
+TEST_F(ucCal_LGTest, LeapYearsAreThoseOfTheCalendar) {
     EXPECT_FALSE(Dates::IsDate(u"2/29/1900"));
     EXPECT_TRUE(Dates::IsDate(u"2/29/2000"));
     EXPECT_TRUE(Dates::IsDate(u"2/29/2012"));
@@ -145,7 +145,7 @@ TEST_F(ucCal_LGTest, LeapYearsAreSettledByTheDates) {
     EXPECT_EQ(Dates::LastOfMonth(Dates::Parse(u"2/1/1900")).day(), 28);
 }
 
-TEST_F(ucCal_LGTest, AMonthTakesTheDaysAndRowsItNeeds) {
+TEST_F(ucCal_LGTest, AMonthHasTheDaysAndRowsItNeeds) {
     struct Row {
         QDate today;
         int days, rows;
@@ -274,7 +274,7 @@ TEST_F(ucCal_LGTest, OneLoggedDayAmongThirtyShowsOneIcon) {
     EXPECT_EQ(Days("imgFood"), QList<int>({17}));
 }
 
-TEST_F(ucCal_LGTest, AWeightOf0OrNoneHasNoScale) {
+TEST_F(ucCal_LGTest, AWeightOf0OrNullHasNoScaleIcon) {
     Weigh({2026, 11, 3}, "0");
     Weigh({2026, 11, 4}, "NULL");
     Weigh({2026, 11, 5}, "0.0");
@@ -301,7 +301,7 @@ TEST_F(ucCal_LGTest, OtherUsersAndMonthsAreNotMarked) {
     EXPECT_EQ(Days("imgFood") + Days("imgScale"), QList<int>());
 }
 
-TEST_F(ucCal_LGTest, BeforeTheStartThereAreDaysWithoutIconsAndNothingIsAsked) {
+TEST_F(ucCal_LGTest, BeforeStartUpDaysHaveNoIconsAndNothingIsQueried) {
     Eat({2026, 11, 9});
     App().AppStarted = false;
     const Statements asked(UserDB());
@@ -397,7 +397,7 @@ TEST_F(ucCal_LGTest, TheChosenDayStandsInAFrameOfTwoPixels) {
     EXPECT_NE(image.pixelColor(cell.right() - 1, y), line);
 }
 
-TEST_F(ucCal_LGTest, AnotherMonthBeginsOnItsFirstAndTellsItsEnds) {
+TEST_F(ucCal_LGTest, AnotherMonthStandsOnItsFirstDayAndRaisesItsEnds) {
     Open({2026, 11, 21});
     QSignalSpy chosen(calendar, &ucCal_LG::DayChosen);
     QSignalSpy changed(calendar, &ucCal_LG::MonthChanged);
@@ -580,7 +580,7 @@ TEST_F(ucCal_LGTest, TheCellUnderThePointerIsLit) {
     EXPECT_EQ(Grab(Cell(9)), atRest);
 }
 
-TEST_F(ucCal_LGTest, TodayIsSaidInItsCellAndOnlyInItsMonth) {
+TEST_F(ucCal_LGTest, TodayIsMarkedInItsCellAndOnlyInItsMonth) {
     Open({2026, 11, 21});
     auto* today = Find<QLabel>(calendar, "lblToday");
     EXPECT_TRUE(Cell(21)->geometry().contains(today->geometry()));
@@ -693,7 +693,7 @@ TEST_F(ucCal_LGTest, KeysInAListDoNothing) {
     EXPECT_FALSE(Month()->IsOpen());
 }
 
-TEST_F(ucCal_LGTest, AssistiveToolsHearDayAndWhatIsLogged) {
+TEST_F(ucCal_LGTest, AssistiveProgramsReadTheDayAndWhatIsLogged) {
     Eat({2026, 3, 5});
     Weigh({2026, 3, 5}, "160");
     Weigh({2026, 3, 6}, "160");

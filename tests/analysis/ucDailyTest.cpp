@@ -134,7 +134,7 @@ TEST_F(ucDailyTest, WholeNumberFieldsShowTheSumRoundedHalfToEven) {
     EXPECT_EQ(Bar(panel, 1)->Width(), 1500 * (2.0 / 2000));
 }
 
-TEST_F(ucDailyTest, FieldsWithoutARowAreSummedAllTheSame) {
+TEST_F(ucDailyTest, FieldsWithoutARowAreSummedToo) {
     Eat({{QStringLiteral("Calories"), 1}, {QStringLiteral("Water"), 12.5}});
     Eat({{QStringLiteral("Water"), 1}, {QStringLiteral("Panto"), 2}, {QStringLiteral("Ash"), 3}});
     ucDaily panel;
@@ -144,7 +144,7 @@ TEST_F(ucDailyTest, FieldsWithoutARowAreSummedAllTheSame) {
     EXPECT_EQ(panel.Sums()[Nutrient::Ash], 3);
 }
 
-TEST_F(ucDailyTest, AFieldThatIsNullInEveryRowCountsAsNothing) {
+TEST_F(ucDailyTest, AFieldThatIsNullInEveryRowCountsAsZero) {
     Eat({{QStringLiteral("Calories"), 100}});
     Users(QStringLiteral("UPDATE USER_FOODS SET Zinc = NULL, VitaminA = NULL"));
     ucDaily panel;
@@ -165,7 +165,7 @@ TEST_F(ucDailyTest, ANewSumFollowsTheLogOnUpdate) {
     ExpectNoData(panel);
 }
 
-TEST_F(ucDailyTest, EarlierSumsStayWhereADayHasNone) {
+TEST_F(ucDailyTest, AnEmptyDayKeepsTheEarlierSums) {
     Eat({{QStringLiteral("Calories"), 700}});
     ucDaily panel;
     panel.setDate(Day);
@@ -174,7 +174,7 @@ TEST_F(ucDailyTest, EarlierSumsStayWhereADayHasNone) {
     EXPECT_EQ(panel.Sums().Calories(), 700);
 }
 
-TEST_F(ucDailyTest, ADayOfNoCaloriesEndsLikeAnEmptyOneWhateverElseWasEaten) {
+TEST_F(ucDailyTest, ADayWithoutCaloriesLooksEmptyWhateverElseWasEaten) {
     Eat({{QStringLiteral("Protein"), 50}, {QStringLiteral("Zinc"), 5}});
     ucDaily panel;
     panel.setDate(Day);
@@ -182,7 +182,7 @@ TEST_F(ucDailyTest, ADayOfNoCaloriesEndsLikeAnEmptyOneWhateverElseWasEaten) {
     EXPECT_EQ(panel.Sums().Protein(), 50);
 }
 
-TEST_F(ucDailyTest, ADayWhoseCaloriesRoundToNothingOrFallBelowEndsLikeAnEmptyOne) {
+TEST_F(ucDailyTest, ADayWhoseCaloriesRoundToZeroOrLessLooksEmpty) {
     Eat({{QStringLiteral("Protein"), 50}});
     Users(QStringLiteral("UPDATE USER_FOODS SET Calories = 0.5"));
     ucDaily panel;
@@ -255,7 +255,7 @@ TEST_F(ucDailyTest, NumFixKeepsTwoDecimalsBelow100AndNoneFromThere) {
     EXPECT_EQ(ucDaily::numFix(-1234.567), -1234.57);
 }
 
-TEST_F(ucDailyTest, NumFixOfNextToNothingHasNoSign) {
+TEST_F(ucDailyTest, NumFixGivesNoNegativeZero) {
     EXPECT_EQ(ucDaily::numFix(0.001), 0);
     EXPECT_FALSE(std::signbit(ucDaily::numFix(-0.001)));
 }
@@ -293,7 +293,7 @@ TEST_F(ucDailyTest, OnePercentOfTheTargetIsOnePixel) {
     EXPECT_EQ(panel.barWidth(0, 2000), 0);
 }
 
-TEST_F(ucDailyTest, TwiceTheTargetCanBeSeenWhole) {
+TEST_F(ucDailyTest, ABarOfTwiceTheTargetFits) {
     Eat({{QStringLiteral("Calories"), 4000}});
     ucDaily panel;
     panel.setDate(Day);
@@ -474,7 +474,7 @@ TEST_F(ucDailyTest, ADayOfPureFatReadsAHundredPercent) {
                            QStringLiteral("Carbs. 0%")}));
 }
 
-TEST_F(ucDailyTest, CaloriesOfNeitherKindDrawNoSectorAndKeepTheCaptions) {
+TEST_F(ucDailyTest, CaloriesFromNoneOfTheThreeDrawNoSectorAndKeepTheCaptions) {
     Eat({{QStringLiteral("Calories"), 400}, {QStringLiteral("TotalFat"), 10}});
     Eat({{QStringLiteral("Calories"), 100}}, Day.addDays(1));
     ucDaily panel;
@@ -587,14 +587,14 @@ TEST_F(ucDailyTest, TheViewOutlivesThePanel) {
     }
 }
 
-TEST_F(ucDailyTest, TheKeptViewIsReadWithoutRegardToCase) {
+TEST_F(ucDailyTest, TheStoredViewIsReadWithoutRegardToCase) {
     SetRegValue(QStringLiteral("DAILYMODE"), QStringLiteral("vals"));
     EXPECT_EQ(ucDaily().Mode(), QStringLiteral("VALS"));
     SetRegValue(QStringLiteral("DAILYMODE"), QStringLiteral("Pie"));
     EXPECT_EQ(ucDaily().Mode(), QStringLiteral("PIE"));
 }
 
-TEST_F(ucDailyTest, AnUnknownKeptViewGivesTheBarsAndIsReplaced) {
+TEST_F(ucDailyTest, AnUnknownStoredViewGivesTheBarsAndIsReplaced) {
     for (const char* nonsense : {"", "PIES", " VALS", "1", "\xf0\x9f\x8d\x8e"}) {
         SetRegValue(QStringLiteral("DAILYMODE"), QString::fromUtf8(nonsense));
         EXPECT_EQ(ucDaily().Mode(), QStringLiteral("RDI")) << nonsense;
@@ -616,7 +616,7 @@ TEST_F(ucDailyTest, ValueLabelsAreAsWideAsTheirText) {
 
 // ---- pointer
 
-TEST_F(ucDailyTest, ThePointerOverALabelABarOrAValueLightsItsRowAlone) {
+TEST_F(ucDailyTest, ThePointerOverALabelABarOrAValueHighlightsOnlyItsRow) {
     Eat({{QStringLiteral("Calories"), 1000}, {QStringLiteral("TotalFat"), 30}});
     ucDaily panel;
     panel.setDate(Day);
@@ -638,7 +638,7 @@ TEST_F(ucDailyTest, ThePointerOverALabelABarOrAValueLightsItsRowAlone) {
     EXPECT_EQ(Name(panel, 5)->ForeColor(), QColor(0, 0, 0));
 }
 
-TEST_F(ucDailyTest, TheRowStaysLitWhereTheHostTakesAllHighlightsOff) {
+TEST_F(ucDailyTest, TheRowStaysHighlightedThoughTheHostTakesOffAllHighlights) {
     ucDaily panel;
     panel.show();
     QObject::connect(&panel, &ucDaily::MouseMove, [&panel] {
@@ -705,7 +705,7 @@ TEST_F(ucDailyTest, AllOffLeavesTheNamedButtonLit) {
 
 // ---- assistive programs
 
-TEST_F(ucDailyTest, EachRowTellsItsNameValueAndPercent) {
+TEST_F(ucDailyTest, AssistiveProgramsReadNameValueAndPercentOfEachRow) {
     Eat({{QStringLiteral("Calories"), 500}, {QStringLiteral("Iron"), 10}});
     User::Current().RDIs.Set(Nutrient::Iron, 0);
     ucDaily panel;

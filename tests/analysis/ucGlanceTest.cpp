@@ -93,7 +93,7 @@ TEST_F(ucGlanceTest, TheSumIsRoundedBeforeItIsAveragedAndAgainAfterwards) {
     EXPECT_EQ(Average(glance), QStringLiteral("Average daily calories: 2"));
 }
 
-TEST_F(ucGlanceTest, EnergyFromCarbohydrateAloneLeavesTheOthersAtNothing) {
+TEST_F(ucGlanceTest, EnergyFromCarbohydrateAloneLeavesTheOthersAtZero) {
     Eat(Food(400, 0, 0, 100), First);
     ucGlance glance;
     glance.UpdateGlance(First, Last);
@@ -147,7 +147,7 @@ TEST_F(ucGlanceTest, AMonthWithoutDataLeavesTheAverageOfTheOneBefore) {
     EXPECT_EQ(Average(glance), QStringLiteral("Average daily calories: 1800"));
 }
 
-TEST_F(ucGlanceTest, CaloriesOfNothingElseLeaveTheCaptionsAndDrawNoSector) {
+TEST_F(ucGlanceTest, CaloriesFromNoneOfTheThreeKeepTheCaptionsAndDrawNoSector) {
     EatPercents(500, 250, 250);
     ucGlance glance;
     glance.UpdateGlance(First, Last);
@@ -158,7 +158,7 @@ TEST_F(ucGlanceTest, CaloriesOfNothingElseLeaveTheCaptionsAndDrawNoSector) {
     EXPECT_EQ(Average(glance), QStringLiteral("Average daily calories: 1000"));
 }
 
-TEST_F(ucGlanceTest, AmountsThatNobodyKnowsCountAsNothing) {
+TEST_F(ucGlanceTest, UnknownAmountsCountAsZero) {
     Eat(Food(400, 10, 10, 100), First);
     Users(QStringLiteral("UPDATE USER_FOODS SET TotalFat = NULL, Protein = NULL"));
     ucGlance glance;
@@ -214,7 +214,7 @@ TEST_F(ucGlanceTest, SectorsAreLaidOverThePictureOfThePlate) {
     for (const auto& [percent, sector] :
          {std::pair{12, 0}, {24, 0}, {26, 1}, {49, 1}, {51, 2}, {99, 2}})
         EXPECT_EQ(temp.pixel(place(percent, 40)), colours[sector]) << percent;
-    // The circle reaches as far to the left as to the right, half a pixel of its outline included.
+    // The circle is as wide to the left as to the right, with half a pixel of outline.
     const auto reach = [&](QPoint step) {
         int pixels = 0;
         for (QPoint at = QPoint(54, 54) + pixels * step;
@@ -223,10 +223,10 @@ TEST_F(ucGlanceTest, SectorsAreLaidOverThePictureOfThePlate) {
         return pixels;
     };
     EXPECT_EQ(reach(QPoint(1, 0)), 49);
-    EXPECT_EQ(reach(QPoint(-1, 0)), 50); // the middle lies on this side of its pixel
+    EXPECT_EQ(reach(QPoint(-1, 0)), 50); // the centre is at this edge of its pixel
     EXPECT_EQ(reach(QPoint(0, 1)), 49);
     EXPECT_EQ(reach(QPoint(0, -1)), 50);
-    // 60 % of the sector's colour is 20 blue in the orange one; the rest is the plate behind it.
+    // Orange has no blue, so the blue comes from the plate: 40 % of 255 at most.
     const QRgb orange = shown.pixel(place(37, 40));
     EXPECT_GT(qBlue(orange), 90);
     EXPECT_LE(qBlue(orange), 102);

@@ -40,7 +40,7 @@ protected:
         for (const Weight& entry : weights)
             Weigh(entry.weight, Day.addDays(entry.day));
     }
-    /// Brings the chart to the entries from Day on.
+    /// Shows the entries from Day on.
     void Update(ucLineChart& chart, int days = 4000) {
         chart.updateLineChart(Day, Day.addDays(days));
     }
@@ -65,7 +65,7 @@ protected:
                 texts << QString::number(i) + u' ' + DateLabel(chart, i)->Caption();
         return texts;
     }
-    /// Lines begin below it.
+    /// It would cover the tops of the lines.
     void HideHeader(ucLineChart& chart) { Find(&chart, QStringLiteral("ucHeader1"))->hide(); }
     static std::vector<std::array<int, 3>> PointsOf(const ucLineChart& chart) {
         std::vector<std::array<int, 3>> points;
@@ -127,7 +127,7 @@ TEST_F(ucLineChartTest, AWeightOfZeroIsNotPlottedAndDoesNotCount) {
     EXPECT_EQ(chart.Points().size(), 2U);
 }
 
-TEST_F(ucLineChartTest, ThePeriodAskedForPlaysNoPartInTheAxes) {
+TEST_F(ucLineChartTest, TheAxesDependOnTheEntriesNotOnThePeriod) {
     Weigh({{10, 150}, {12, 151}});
     ucLineChart narrow, wide;
     narrow.updateLineChart(Day.addDays(10), Day.addDays(12));
@@ -187,7 +187,7 @@ TEST_F(ucLineChartTest, WithoutAnyEntryTheNoticeStandsOnBareAxes) {
     EXPECT_EQ(picture.pixel(600, 222), light);
 }
 
-TEST_F(ucLineChartTest, ANoticeLeavesTheLabelsOfThePeriodBefore) {
+TEST_F(ucLineChartTest, TheNoticeKeepsTheLabelsOfThePeriodBefore) {
     Weigh({{0, 150}, {1, 151}});
     ucLineChart chart;
     Update(chart);
@@ -207,7 +207,7 @@ TEST_F(ucLineChartTest, AnEndBeforeTheStartHasNoEntries) {
     EXPECT_EQ(Spoken(chart), NoData);
 }
 
-TEST_F(ucLineChartTest, DataAgainTakesTheNoticeAway) {
+TEST_F(ucLineChartTest, NewDataRemovesTheNotice) {
     ucLineChart chart;
     Update(chart);
     ExpectNotice(chart, true);
@@ -469,7 +469,7 @@ TEST_F(ucLineChartTest, TheScreenShowsWhatIsPrinted) {
 
 // ---- what the host sees of it
 
-TEST_F(ucLineChartTest, MovesOverBackgroundLabelsAndHeaderAreTold) {
+TEST_F(ucLineChartTest, MovesOverBackgroundLabelsAndHeaderAreRaised) {
     Weigh({{0, 150}, {1, 151}});
     ucLineChart chart;
     Update(chart);
@@ -528,7 +528,7 @@ TEST_F(ucLineChartTest, AWindowThatIsNoLongerMinimisedReadsNothing) {
     EXPECT_EQ(Spoken(chart), QString());
 }
 
-TEST_F(ucLineChartTest, AssistiveToolsHearAChartWithItsFigures) {
+TEST_F(ucLineChartTest, AssistiveProgramsReadTheFigures) {
     Weigh({{0, 150.5}, {40, 149}});
     ucLineChart chart;
     Update(chart);
@@ -545,7 +545,7 @@ TEST_F(ucLineChartTest, AssistiveToolsHearAChartWithItsFigures) {
 
 namespace {
 
-/// The same rules once more, step by step as a person would work them out on paper.
+/// The same rules a second time, step by step, as a person would do it on paper.
 struct OnPaper {
     QStringList dates; ///< "INDEX DATE LEFT"
     QStringList weights;
@@ -629,7 +629,7 @@ private:
 
 } // namespace
 
-TEST_F(ucLineChartTest, AThousandLogsAgreeWithACalculationOnPaper) {
+TEST_F(ucLineChartTest, AThousandRandomLogsAgreeWithASecondCalculation) {
     QRandomGenerator random(20020403);
     ucLineChart chart;
     const SQLite::Transaction oneCommit(UserDB().Raw());

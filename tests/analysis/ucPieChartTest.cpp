@@ -43,7 +43,7 @@ protected:
         EXPECT_EQ(PieCaptions(chart), Captions("Total Fat --", "Protein --", "Carbs. --"));
         EXPECT_EQ(PieText(chart), QStringLiteral("No data to chart"));
     }
-    /// The pixel in the direction of that percent of the circle, so far from its centre.
+    /// The pixel at that percent of the circle and at that distance from its centre.
     static QRgb At(const QImage& picture, double percent, double radius) {
         const double angle = percent * 6.28318530718 / 100;
         return picture.pixel(qFloor(126 + qCos(angle) * radius),
@@ -124,7 +124,7 @@ TEST_F(ucPieChartTest, AverageCaloriesBelowOneAreNoData) {
     EatFood(0, 5, 5, 5, Last);
     ucPieChart chart;
     Update(chart);
-    ExpectNoData(chart); // a half rounds to the even 0
+    ExpectNoData(chart); // 0.5 rounds to the even 0
     Users(QStringLiteral("UPDATE USER_FOODS SET Calories = 1.5"));
     Update(chart);
     EXPECT_EQ(PieCaptions(chart), Captions("Fat 53%", "Protein 24%", "Carbs. 24%"));
@@ -159,7 +159,7 @@ TEST_F(ucPieChartTest, NoDataIsPrintedAt90And90OnPlainGround) {
     EXPECT_EQ(shown, expected);
 }
 
-TEST_F(ucPieChartTest, CaloriesOfNothingElseClearThePieAndLeaveTheLabels) {
+TEST_F(ucPieChartTest, CaloriesFromNoneOfTheThreeClearThePieAndKeepTheLabels) {
     EatFood(1000, 25, 10, 0);
     ucPieChart chart;
     Update(chart);
@@ -235,7 +235,7 @@ TEST_F(ucPieChartTest, EachLabelHasItsSwatch) {
     }
 }
 
-TEST_F(ucPieChartTest, MovesOverTheChartAndItsPartsAreToldButNotOverTheHeader) {
+TEST_F(ucPieChartTest, MovesOverTheChartAndItsPartsAreRaisedButNotOverTheHeader) {
     ucPieChart chart;
     chart.resize(738, 476);
     chart.show();
@@ -251,7 +251,7 @@ TEST_F(ucPieChartTest, MovesOverTheChartAndItsPartsAreToldButNotOverTheHeader) {
     }
 }
 
-TEST_F(ucPieChartTest, SharesAreToldAsText) {
+TEST_F(ucPieChartTest, AssistiveProgramsReadTheShares) {
     ucPieChart chart;
     const auto value = [&] {
         return QAccessible::queryAccessibleInterface(&chart)->text(QAccessible::Value);
@@ -277,7 +277,7 @@ TEST_F(ucPieChartTest, ItsPictureForPaperIsSharp) {
     QPainter onPrint(&print);
     chart.PaintChart(onPrint, print.rect());
     onPrint.end();
-    // A row through the pie's left edge: from ground to sector within few dots, however large.
+    // A row through the pie's left edge changes from background to sector within a few pixels.
     const QWidget* picture = Find(&chart, QStringLiteral("picPIE"));
     const QPoint centre = picture->mapTo(&chart, QPoint(126, 121)) * times;
     int mixed = 0;

@@ -3,8 +3,7 @@
 class Guide;
 class QWidget;
 
-/// A person keeps foods of their own: makes two, corrects one, deletes the other, and eats the one
-/// that is left.
+/// A person creates two custom foods, corrects one, deletes the other, and eats the first.
 class CustomFoodWalk {
 public:
     explicit CustomFoodWalk(Guide& guide);

@@ -95,7 +95,7 @@ QString ExchangeWalk::CardCalories() {
     return guide_.Find(Screen(), QStringLiteral("aaCals"))->property("Caption").toString();
 }
 
-/// Presses a button that ends in a message, and keeps what that says.
+/// Presses a button that brings up a message, and keeps its text.
 void ExchangeWalk::PressThrough(QWidget* dialog, const QString& button, const QString& name) {
     guide_.ForeseeNext(QStringLiteral("frmAlert"), [this, &name](QWidget* alert) {
         answer_ = guide_.Find<QLabel>(alert, QStringLiteral("lblMSG"))->text();
@@ -132,7 +132,7 @@ void ExchangeWalk::AskForAddresses(QWidget* dialog) {
     guide_.Type(dialog, QStringLiteral("txtFrom"), Sender);
 }
 
-/// The addresses are those of the send that failed. The picture of the wait is taken in it.
+/// The dialog still has the addresses of the failed attempt. A picture is taken during the wait.
 void ExchangeWalk::Send() {
     OpenSend([this](QWidget* dialog) {
         QTest::mouseClick(guide_.Find(dialog, QStringLiteral("ckShare")), Qt::LeftButton,
@@ -201,7 +201,7 @@ void ExchangeWalk::CompareBoth() {
     guide_.Picture(Frame(), QStringLiteral("recipe-imported"));
 }
 
-/// The mail tells what the sender's card told.
+/// The friend's card and the mail show the same calories.
 void ExchangeWalk::LookAtReceived(const QString& mail) {
     guide_.Picture(Frame(), QStringLiteral("friend-recipe"));
     guide_.Check(CardCalories().endsWith(QStringLiteral("per serving")) &&
@@ -209,7 +209,7 @@ void ExchangeWalk::LookAtReceived(const QString& mail) {
                  QStringLiteral("the friend's card tells the same: ") + CardCalories());
 }
 
-/// What the sender eats of it is the sum of its ingredients.
+/// What the friend logs equals the sum of the sender's ingredients.
 void ExchangeWalk::EatReceived() {
     SQLite::Database sender(folder_.toStdString() + "/users.mdb");
     const auto calories = sender.execAndGet("SELECT round(sum(Calories), 6) FROM Ingredients "

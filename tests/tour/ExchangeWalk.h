@@ -9,15 +9,14 @@ class Guide;
 class QWidget;
 class SmtpSink;
 
-/// The one recipe that is there goes to a friend through the real exchange, which mails it, and
-/// comes back by the ID that the mail tells, with the same calories. First there is no exchange,
-/// which both dialogs say. The exchange's database and the mail stay in the sender's folder for the
-/// friend.
+/// The only recipe goes to a friend through the real exchange, which mails it. Then it is imported
+/// by the ID in the mail, with the same calories. Before that no exchange is running, and both
+/// dialogs say so. The exchange's database and the mail stay in the sender's folder for the friend.
 class ExchangeWalk {
 public:
     ExchangeWalk(Guide& guide, const QString& folder);
     void Go();
-    void Receive(); ///< by the friend, in the program's folder of her own
+    void Receive(); ///< the friend imports it in a folder of her own
 
 private:
     void FindNoExchange();
@@ -41,6 +40,6 @@ private:
 
     Guide& guide_;
     QString folder_; ///< the sender's
-    QString answer_; ///< what the last message said
-    QString id_;     ///< on the exchange, as the mail tells it
+    QString answer_; ///< the last message
+    QString id_;     ///< the recipe's on the exchange, from the mail
 };

@@ -16,6 +16,7 @@ Guide::Guide(const QString& pictures)
     QDir().mkpath(pictures);
     taken_ = int(pictures_.entryList({QStringLiteral("*.png")}).size());
     qApp->installEventFilter(this);
+    QApplication::setCursorFlashTime(0);
 }
 
 void Guide::Foresee(const QString& window, std::function<void(QWidget*)> visit) {
@@ -27,15 +28,24 @@ void Guide::ForeseeNext(const QString& window, std::function<void(QWidget*)> vis
 }
 
 bool Guide::eventFilter(QObject* watched, QEvent* event) {
-    auto* window = qobject_cast<QWidget*>(watched);
-    if (event->type() == QEvent::Show && window && window->isWindow() && window->isModal())
-        QTimer::singleShot(0, window, [this, window] { Visit(window); });
+    auto* shown = event->type() == QEvent::Show ? qobject_cast<QWidget*>(watched) : nullptr;
+    if (shown)
+        KeepHoverLooks(shown);
+    if (shown && shown->isWindow() && shown->isModal())
+        QTimer::singleShot(0, shown, [this, shown] { Visit(shown); });
     return QObject::eventFilter(watched, event);
+}
+
+/// The timer takes hover looks off when the real pointer is elsewhere. The pictures must not depend
+/// on when it fires.
+void Guide::KeepHoverLooks(QWidget* form) {
+    if (auto* cleanUp = form->findChild<QTimer*>("cleanUp", Qt::FindDirectChildrenOnly))
+        cleanUp->stop();
 }
 
 void Guide::Visit(QWidget* modal) {
     if (foreseen_.isEmpty() || foreseen_.head().window != modal->objectName()) {
-        Check(false, QStringLiteral("no window was foreseen here: ") + modal->objectName());
+        Check(false, QStringLiteral("this window was not foreseen: ") + modal->objectName());
         modal->close();
         return;
     }
@@ -72,7 +82,7 @@ void Guide::Type(QWidget* root, const QString& field, const QString& text) {
     }
 }
 
-/// No window manager hands the input over where the program runs without a screen.
+/// Without a screen there is no window manager that activates a window.
 void Guide::TakeInput(QWidget* control) {
     control->window()->activateWindow();
     Check(QTest::qWaitForWindowActive(control->window()), QStringLiteral("the window takes input"));

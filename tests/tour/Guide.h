@@ -10,17 +10,17 @@
 
 class Connection;
 
-/// Leads through the real program with real input: finds controls by name, answers modal windows in
-/// the order in which they are foreseen, takes pictures and checks what the databases hold. A check
-/// that fails is told and counted.
+/// Leads through the real program with real input. It finds controls by name, answers modal windows
+/// in the order in which they are foreseen, takes pictures and checks what the databases hold. A
+/// failed check is printed and counted.
 class Guide : public QObject {
 public:
     explicit Guide(const QString& pictures);
 
-    /// The next modal window must bear that object name; `visit` works in it and must close it.
+    /// The next modal window must have that object name; `visit` works in it and must close it.
     void Foresee(const QString& window, std::function<void(QWidget*)> visit);
 
-    /// The same, before all that are foreseen already.
+    /// The same, but before all windows that are foreseen already.
     void ForeseeNext(const QString& window, std::function<void(QWidget*)> visit);
 
     template <class T = QWidget> T* Find(const QWidget* root, const QString& name) {
@@ -32,7 +32,7 @@ public:
 
     void Press(QWidget* root, const QString& button);
     void Type(QWidget* root, const QString& field,
-              const QString& text); ///< replaces the field's text
+              const QString& text);   ///< replaces the field's text
     void TakeInput(QWidget* control); ///< keys go to its window from here on
     void HoverOver(QWidget* root, const QString& control);
     void Picture(QWidget* window, const QString& name);
@@ -42,7 +42,7 @@ public:
     void CheckValue(Connection& connection, const QString& sql, const QVariant& expected);
 
     bool eventFilter(QObject* watched,
-                     QEvent* event) override; ///< notes the modal windows that open
+                     QEvent* event) override; ///< for each window that is shown
 
     int Failures() const { return failures_; }
     bool AllForeseenCame() const { return foreseen_.isEmpty(); }
@@ -53,6 +53,7 @@ private:
         std::function<void(QWidget*)> work;
     };
     void Visit(QWidget* modal);
+    static void KeepHoverLooks(QWidget* form);
 
     QDir pictures_;
     QQueue<Stop> foreseen_;

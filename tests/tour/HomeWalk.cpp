@@ -35,8 +35,8 @@ void HomeWalk::ChooseToday() {
                  QStringLiteral("a click on the day leads to its details"));
 }
 
-/// What a person has eaten by then is copied to most days of the month: less one dish a day, and
-/// with a second helping at lunch and dinner.
+/// Copies the logged foods to most days of the month: each day without one dish, and with a second
+/// helping at lunch and dinner.
 void HomeWalk::FillMonth() {
     SQLite::Database& users = UserDB().Raw();
     const QDate today = Clock::Today();

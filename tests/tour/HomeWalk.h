@@ -3,14 +3,13 @@
 class Guide;
 class QWidget;
 
-/// The home screen on the tour: the first look at an empty month, the way from it to the day, and a
-/// month in which somebody has kept the diary.
+/// The home screen on the tour: an empty month, the way to a day, and a month with a full diary.
 class HomeWalk {
 public:
     explicit HomeWalk(Guide& guide);
 
     void EmptyMonth();
-    void ChooseToday(); ///< leads to the day
+    void ChooseToday(); ///< opens the day screen
     void FullMonth();
 
 private:

@@ -8,7 +8,7 @@ class MenuWalk {
 public:
     explicit MenuWalk(Guide& guide);
 
-    void Look();            ///< at each menu, open and under the pointer
+    void Look();            ///< opens each menu and moves the pointer over it
     void Choose(int index); ///< the item of that index
 
 private:

@@ -7,7 +7,7 @@
 
 #include <QTest>
 
-/// One ingredient: what is typed, which serving and how much of it.
+/// One ingredient: the search term, the serving and the quantity.
 struct RecipeWalk::Part {
     const char* term;
     const char* serving; ///< "A" or "B"

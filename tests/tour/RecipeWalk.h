@@ -5,14 +5,14 @@
 class Guide;
 class QWidget;
 
-/// A person writes down a recipe of five ingredients, one of them a food of their own, corrects it,
-/// keeps it beside another that goes again, and eats of it.
+/// A person writes a recipe of five ingredients, one of them a custom food, corrects it, saves it,
+/// deletes another recipe, and eats a serving.
 class RecipeWalk {
 public:
     explicit RecipeWalk(Guide& guide);
     void Go();
     void EatRecipe();                    ///< once, at breakfast
-    static void FindAgain(Guide& guide); ///< all that was saved is there after a new start
+    static void FindAgain(Guide& guide); ///< everything saved is there after a restart
 
 private:
     struct Part;

@@ -14,9 +14,9 @@
 
 namespace {
 
-/// A food of the catalogue, and how many grams of it are eaten at a time.
+/// A food of the catalogue, how much of it is eaten at a time, and how often.
 struct Portion {
-    const char* food; ///< what its name begins with
+    const char* food; ///< the start of its name
     int grams;
     const char* meal;
     int everyDays;
@@ -93,7 +93,7 @@ void Weigh(double weight, QDate day) {
             .arg(QString::number(User::Current().UID), IsoText(day), QString::number(weight)));
 }
 
-/// The log as it was before the reports: today's entries.
+/// Restores the log, which held today's entries only.
 void LeaveOnly(QDate today) {
     for (const char* table : {"USER_FOODS", "USER_WEIGHTS"})
         Run("DELETE FROM " + QLatin1String(table) + " WHERE UDate <> " + IsoText(today));
@@ -149,7 +149,7 @@ void ReportWalk::LookAtViews(const QString& name) {
     }
 }
 
-/// What the charts tell, beside what plain SQL finds.
+/// Compares the figures of the charts with those of plain SQL.
 void ReportWalk::CheckFigures(QDate start, QDate end) {
     const auto* line = guide_.Find<ucLineChart>(Screen(), QStringLiteral("ucLine"));
     guide_.CheckValue(UserDB(), "SELECT count(*) FROM USER_WEIGHTS" + Within(start, end),
@@ -191,7 +191,7 @@ void ReportWalk::EatOn(QDate day) {
             LogPortion(portion, day);
 }
 
-/// Today's own entries stay as they are; the days before get theirs.
+/// Fills the days before today; today's entries stay.
 void ReportWalk::FillDays(int days) {
     LeaveOnly(Clock::Today());
     Run(QStringLiteral("BEGIN"));
@@ -238,7 +238,7 @@ void ReportWalk::WithoutWeights() {
     guide_.CheckValue(UserDB(), QStringLiteral("SELECT current_weight FROM profiles"), 198);
 }
 
-/// With today's weight back, too.
+/// Today's weight is entered again.
 void ReportWalk::LeaveLogs() {
     LeaveOnly(Clock::Today());
     Weigh(198.5, Clock::Today());

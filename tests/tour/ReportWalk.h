@@ -6,8 +6,8 @@
 class Guide;
 class QWidget;
 
-/// A person looks at reports: on a single day, on a time without entries, on a week and a year of
-/// real foods, on a constant weight, and without any weight. Leaves the logs as they were.
+/// A person looks at reports: of a single day, of a period without entries, of a week and a year of
+/// real foods, of a constant weight, and without any weight. The logs are left as they were.
 class ReportWalk {
 public:
     explicit ReportWalk(Guide& guide);

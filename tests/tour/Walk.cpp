@@ -24,7 +24,7 @@
 #include <QSettings>
 #include <QTest>
 
-/// One food of the day: under which heading, what is typed, which serving and how much of it.
+/// One food of the day: its meal heading, the search term, the serving and the quantity.
 struct Walk::Bite {
     const char* heading;
     const char* term;

@@ -8,13 +8,13 @@
 class Guide;
 class QWidget;
 
-/// The way of a new user, one function a stage.
+/// The whole tour of a new user, one function a stage.
 class Walk {
 public:
     Walk(Guide& guide, const QString& folder);
-    void Go();         ///< the first start, up to leaving the program
-    void GoAgain();    ///< the second start finds everything there
-    void GoAsFriend(); ///< to whom a recipe was sent, with a folder of her own
+    void Go();         ///< from the first start to leaving the program
+    void GoAgain();    ///< the second start, which finds everything again
+    void GoAsFriend(); ///< the friend, with a folder of her own, imports the recipe
 
 private:
     struct Bite;

@@ -10,7 +10,7 @@
 #include <cstdio>
 
 namespace {
-/// A start of its own, as a person makes it.
+/// Starts the program in a process of its own, as a person does.
 bool Start(const QString& stage, const QString& pictures, const QString& folder) {
     QProcess start;
     start.setProcessChannelMode(QProcess::ForwardedChannels);
@@ -39,10 +39,10 @@ int WalkStage(const QStringList& arguments) {
 }
 } // namespace
 
-/// tour PICTURES: walks the whole way through the real screens on a fresh folder, from the
-/// agreement to a day's food set against the targets, then starts the program again and finds
-/// everything there. A friend, with a folder of her own, gets the recipe that was sent. Pictures go
-/// to that folder. TOUR_FONT in the environment names another font than the delivered one.
+/// tour PICTURES: walks through all real screens in a fresh folder, from the agreement to a month
+/// of logged foods. Then it starts the program again and finds everything there. A friend with a
+/// folder of her own imports the recipe that was sent. Pictures go to the folder PICTURES.
+/// TOUR_FONT in the environment names another font than the delivered one.
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     std::setvbuf(stdout, nullptr, _IOLBF, 0);

@@ -2,8 +2,8 @@
 
 #include <QWidget>
 
-/// The view that percent bars stand in: a line every 10 % of the target, a dark one every 50 %.
-/// 100 % is 1500 twips, 0 % stands at Origin.
+/// The background of percent bars: a line every 10 % of the target, a dark one every 50 %. 100 % is
+/// 1500 twips wide; 0 % is at Origin.
 class BarGrid : public QWidget {
     Q_OBJECT
 

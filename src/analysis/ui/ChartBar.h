@@ -2,8 +2,8 @@
 
 #include "analysis/ui/ChartPiece.h"
 
-/// A bar: a picture of 7 by 8 pixels, stretched to the bar's width. Blue at rest, brown while its
-/// row is highlighted.
+/// A bar: a picture of 7 by 8 pixels, stretched to the bar's width. It is blue, and brown
+/// while its row is highlighted.
 class ChartBar : public ChartPiece {
     Q_OBJECT
     Q_PROPERTY(double Width READ Width WRITE SetWidth)

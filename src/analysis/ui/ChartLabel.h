@@ -23,15 +23,15 @@ public:
     QSize sizeHint() const override;
 
 protected:
-    virtual QString Shown() const { return caption_; } ///< what is painted of the caption
-    void ShowAnew();                                   ///< where that changes
+    virtual QString Shown() const { return caption_; } ///< the part of the caption that is painted
+    void ShowAnew();                                   ///< after Shown() has changed
     void paintEvent(QPaintEvent*) override;
 
 private:
     int TextWidth() const;
 
     QString caption_;
-    mutable int textWidth_ = 0; ///< of what is shown; negative until it is measured
+    mutable int textWidth_ = 0; ///< of the painted text; negative until it is measured
     QColor foreColor_;
     Qt::Alignment alignment_ = Qt::AlignLeft | Qt::AlignBottom;
 };

@@ -5,8 +5,8 @@
 
 #include <functional>
 
-/// A chart, or what its rows are made of: a control that tells its name and its value to assistive
-/// programs. The value's text is composed only when it is asked for.
+/// A chart or a part of one. Assistive programs read its name and its value; the text of the value
+/// is composed only when they ask for it.
 class ChartPiece : public QWidget {
     Q_OBJECT
 

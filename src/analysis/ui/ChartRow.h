@@ -27,7 +27,7 @@ public:
     ChartRow(const ChartRow&) = delete;
     ChartRow& operator=(const ChartRow&) = delete;
 
-    /// Assistive programs read it: the value, and its percent of the target.
+    /// Assistive programs read the amount and its percent of the target.
     void SetFigure(const std::optional<NutrientFigure>& figure);
 
     bool BarIsNarrow() const; ///< too narrow to be shown

@@ -2,14 +2,14 @@
 
 #include "toolkit/PaintedPanel.h"
 
-/// The cell of one day in the month: its number, and at the bottom a mark at the left where food
-/// was logged and one at the right where a weight was. It says both to assistive tools. Return
-/// clicks it.
+/// The cell of one day in the month: its number, a mark at the lower left if food was logged, and
+/// one at the lower right if a weight was. Assistive programs read both in its name. Return clicks
+/// it.
 class DayCell : public PaintedPanel {
     Q_OBJECT
 
 public:
-    DayCell(int day, QWidget* picCalBG); ///< named `picDay`, its marks `imgFood` and `imgScale`
+    DayCell(int day, QWidget* picCalBG); ///< names: `picDay5`, `imgFood5`, `imgScale5`
 
     void SetMarks(bool food, bool scale);
     void Name(const QString& month); ///< "March" makes it "March 5, food logged"

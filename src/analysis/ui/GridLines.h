@@ -2,12 +2,12 @@
 
 class QPainter;
 
-/// The upright lines behind bars of percent, in twips from the left: one every `step` from `origin`
-/// up to `end`, a dark one every `darkStep`.
+/// The vertical lines behind percent bars, in twips from the left: one every `step` from `origin`
+/// to `end`, a dark one every `darkStep`.
 struct GridLines {
     int origin, step, darkStep, end;
 
-    static constexpr int Foot = 30; ///< twips below the lines
+    static constexpr int Foot = 30; ///< twips that stay free below the lines
 
-    void DrawGrid(QPainter& painter, int height) const; ///< on a surface of that many pixels
+    void DrawGrid(QPainter& painter, int height) const; ///< pixels
 };

@@ -4,7 +4,8 @@
 
 namespace {
 
-const QString usualValue = QStringLiteral("88,888 kcal"); // longer ones begin left of the column
+/// A longer value begins left of the column.
+const QString usualValue = QStringLiteral("88,888 kcal");
 
 qsizetype LeaderLength(const QString& caption) {
     const auto isPoint = [](QChar c) { return c == u'.'; };

@@ -14,7 +14,7 @@ constexpr double lineWidth = 15; // twips
 
 } // namespace
 
-/// The strip over a column of days.
+/// The weekday over a column of days.
 class WeekdayHead : public PaintedPanel {
 public:
     using PaintedPanel::PaintedPanel;
@@ -76,7 +76,7 @@ void MonthGrid::SetMonth(int firstColumn, int days) {
     update();
 }
 
-/// The strips are as wide as the step to the next one, whatever it rounds to.
+/// Each head ends where the next one begins, so that rounding leaves no gap.
 void MonthGrid::resizeEvent(QResizeEvent*) {
     for (int column = 0; column < Columns; ++column) {
         const int left = Twips::ToPixels(CellWidth() * column);

@@ -4,9 +4,9 @@
 
 class WeekdayHead;
 
-/// The ground of a month, `picCalBG`: the heads `ucDay0` to `ucDay6` and the lines between the
-/// days, a column each seventh of the width and a row each sixth of the height below the heads.
-/// Places are in twips.
+/// The background of a month, `picCalBG`: the weekday heads `ucDay0` to `ucDay6` and the lines
+/// between the days. A column is a seventh of the width, a row a sixth of the height below the
+/// heads. Places are in twips.
 class MonthGrid : public QWidget {
     Q_OBJECT
 
@@ -19,9 +19,9 @@ public:
     double CellWidth() const;
     double RowHeight() const;
     int FirstTop() const; ///< of the cells of the first row
-    /// In pixels: the place of a cell that begins at (x, y), between the lines around it.
+    /// The place of a cell that begins at (x, y), between the lines around it; in pixels.
     QRect SlotAt(int x, int y, int column, int row) const;
-    /// Slots before the first and behind the last day of the month are paler.
+    /// Cells before the first and after the last day of the month are paler.
     void SetMonth(int firstColumn, int days);
 
 Q_SIGNALS:

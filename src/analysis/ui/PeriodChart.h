@@ -2,9 +2,9 @@
 
 #include "analysis/ui/ChartPiece.h"
 
-/// What the charts of the report have in common. Each is given dates and reads what it needs.
-/// Raises MouseMove for a move of the pointer over its background and over those of its parts that
-/// let moves through.
+/// What the charts of the report have in common. A chart is given dates and reads what it needs. It
+/// raises MouseMove when the pointer moves over its background or over a part that does not keep
+/// its moves.
 class PeriodChart : public ChartPiece {
     Q_OBJECT
 
@@ -12,7 +12,7 @@ public:
     explicit PeriodChart(QWidget* parent = nullptr);
 
     QAccessible::Role SpokenRole() const override { return QAccessible::Chart; }
-    /// The chart as it is on the screen, as large as that place allows, in its middle.
+    /// The chart as on the screen, scaled to fit that place and centred in it.
     void PaintChart(QPainter& painter, const QRect& place);
 
 Q_SIGNALS:
@@ -20,6 +20,6 @@ Q_SIGNALS:
 
 protected:
     void mouseMoveEvent(QMouseEvent*) override;
-    void TrackParts(); ///< lets moves over the parts arrive
+    void TrackParts(); ///< parts report moves without a button, too
     static void KeepMoves(QWidget* part);
 };

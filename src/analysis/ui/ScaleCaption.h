@@ -3,8 +3,8 @@
 #include <QList>
 #include <QWidget>
 
-/// The figures over a grid. The caption is one text; each of its words is printed in the middle
-/// over its own mark.
+/// The figures over a grid. The caption is one text; each of its words is centred over a mark of
+/// its own.
 class ScaleCaption : public QWidget {
     Q_OBJECT
     Q_PROPERTY(QString Caption READ Caption WRITE SetCaption)

@@ -7,8 +7,9 @@ class QFont;
 class QPainter;
 class QString;
 
-/// A painter's surface in twips. Thin lines are one pixel; the widths of thick lines and points are
-/// pixels. Both have round ends and stand in the middle of the pixel that a place falls on.
+/// Lets a painter draw in twips. Thin lines are one pixel wide. The widths of thick lines and
+/// points are in pixels; both have round ends and are centred in the pixel on which their place
+/// lies.
 class TwipsSurface {
 public:
     explicit TwipsSurface(QPainter& painter);
@@ -17,12 +18,12 @@ public:
     void HorizontalLine(double y, double left, double right, const QColor& colour);
     void ThickLine(QPointF from, QPointF to, const QColor& colour, int width);
     void ThickPoint(QPointF at, const QColor& colour, int width);
-    /// On the chart's ground, so that no line crosses the text.
+    /// On a background of its own, so that no line crosses the text.
     void Print(QPointF place, const QString& text, const QFont& font, const QColor& colour);
 
 private:
     QPointF Pixel(QPointF twips) const;
 
     QPainter& painter_;
-    double ratio_; ///< twips a pixel
+    double ratio_; ///< twips to a pixel
 };

@@ -7,13 +7,13 @@
 
 class ucButtonA;
 
-/// One of the buttons that choose a view. Its place in the row is the view's number.
+/// A button that chooses a view. Its index is the number of the view.
 struct ViewButton {
     const char *name, *picture, *tip;
 };
 
-/// A strip with the buttons that choose among views. It tells which view is asked for and which
-/// button the pointer is over; the host decides.
+/// The strip of buttons that choose a view. It raises which view was asked for and which button is
+/// under the pointer; the host decides.
 class ViewButtons : public QWidget {
     Q_OBJECT
 

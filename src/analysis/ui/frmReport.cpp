@@ -26,7 +26,7 @@
 namespace {
 
 const QString StateSetting = QStringLiteral("REPORTSTATE");
-constexpr int DaysBefore = 6; ///< of the period that the screen comes up with
+constexpr int DaysBefore = 6; ///< today, in the period that the screen opens with
 
 const QString InvalidDate =
     QStringLiteral("Please enter a valid start date for the report in the format 'month/day/year' "
@@ -36,8 +36,8 @@ const QString NoWeight = QStringLiteral(
     "period cannot be worked out. Enter a weight for one of its days on the screen \"Daily "
     "Details\", in the field \"Enter today's weight:\".");
 const QString DaysReversed =
-    QStringLiteral("There is no weight entry from %1 to %2, as the first day lies behind the last "
-                   "one. Enter the earlier day on the left.");
+    QStringLiteral("There is no weight entry from %1 to %2, because the first day is after the "
+                   "last. Enter the earlier day on the left.");
 
 enum View { Bars, Pie, Line, Values };
 constexpr ViewButton Views[] = {
@@ -48,7 +48,7 @@ constexpr ViewButton Views[] = {
 };
 
 // Measures in pixels.
-constexpr int firstLineLeft = 204; ///< beside the frame's title of the screen
+constexpr int firstLineLeft = 204; ///< right of the screen's title, which the frame shows
 constexpr int dateWidth = 84;
 constexpr int viewsGap = 12;
 
@@ -94,7 +94,7 @@ void frmReport::AddViewButtons() {
     connect(views_, &ViewButtons::Hovered, this, &frmReport::AllOff);
 }
 
-/// Until a view is chosen the bars are the one that is there.
+/// The bars are shown until a view is chosen.
 void frmReport::AddCharts() {
     ucBar_ = new ucBarChart(this);
     ucBar_->setObjectName(QStringLiteral("ucBar"));
@@ -160,8 +160,8 @@ void frmReport::UpdateCharts() {
         ucLine_->ClearLabels();
 }
 
-/// False where the period has no weight: its average is Null then, and there is nothing to work the
-/// targets out for. The other charts are not held up by that.
+/// Returns false if the period has no weight: the average is Null, so there is no weight to derive
+/// targets from. The other charts do not need it.
 bool frmReport::UpdateBars() {
     try {
         ucBar_->updateBars(shown_.from, shown_.to);
@@ -175,14 +175,14 @@ bool frmReport::UpdateBars() {
     return false;
 }
 
-/// A weight that was missing before is not told again.
+/// A missing weight is reported once, not each time the screen is shown.
 void frmReport::CatchUp() {
     const bool known = !hasWeight_ && !untold_;
     UpdateCharts();
     untold_ = untold_ && !known;
 }
 
-/// Without a period the line keeps what it shows: it would fail on reading the fields.
+/// If a field holds no date, the line keeps what it shows: it would fail to read the fields.
 void frmReport::hideEvent(QHideEvent* event) {
     Screen::hideEvent(event);
     if (event->spontaneous())
@@ -222,7 +222,7 @@ void frmReport::TellNoWeight() {
     ShowAlert(message.arg(Dates::ShortText(shown_.from), Dates::ShortText(shown_.to)), this);
 }
 
-/// What is amiss is told when the screen has come up, not while it does.
+/// Messages wait until the screen is in front.
 void frmReport::DoWinInit() {
     QMetaObject::invokeMethod(this, &frmReport::TellFindings, Qt::QueuedConnection);
     const QString state = GetRegValue(StateSetting);
@@ -268,7 +268,7 @@ void frmReport::AllOff(const QString& except) {
     views_->ResetAllBut(except);
 }
 
-/// The label and the fields stand so near to `cmdRefresh` alone.
+/// Only cmdRefresh borders the label and the fields, so only it is reset.
 bool frmReport::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() != QEvent::MouseMove)
         return Screen::eventFilter(watched, event);

@@ -11,9 +11,9 @@ class ucButton;
 class ucLineChart;
 class ucPieChart;
 
-/// The screen "Report": a period and one of four views of it. The three charts are refreshed
-/// together; choosing a view only shows and hides them. It comes up with the last seven days, and
-/// with the view that was shown last. Kept hidden and shown again, it has the figures of now.
+/// The screen "Report": a period and one of four views of it. All three charts are refreshed
+/// together; choosing a view only shows and hides them. It opens with the last seven days and with
+/// the view that was shown last. Hidden and shown again, it brings its figures up to date.
 class frmReport : public Screen {
     Q_OBJECT
 
@@ -21,7 +21,7 @@ public:
     explicit frmReport(QWidget* parent = nullptr);
 
     void DoWinInit() override;
-    /// The names are compared exactly: "cmdRefresh", and the others in lower case.
+    /// Names are compared exactly: "cmdRefresh", and the others in lower case.
     void AllOff(const QString& except) override;
 
 protected:
@@ -62,8 +62,8 @@ private:
     ucPieChart* ucPie_;
     ucLineChart* ucLine_;
     QString state_;         ///< the view's number
-    Period shown_;          ///< by the charts
-    bool hasWeight_ = true; ///< that period
-    bool untold_ = false;   ///< that it has none: to be told when the screen stands in front
+    Period shown_;          ///< the period of the charts
+    bool hasWeight_ = true; ///< the period has one
+    bool untold_ = false;   ///< nobody has been told yet that it has none
     bool left_ = false;     ///< hidden since the charts were refreshed
 };

@@ -26,7 +26,7 @@ const QString Leader(148, u'.');
 constexpr GridLines Grid{2430, 300, 1500, 11000};
 constexpr int BarLeft = 2445;
 constexpr int FirstTop = 60;
-constexpr int Overlap = 45; ///< of a label and the one below it
+constexpr int Overlap = 45; ///< of two neighbouring labels
 constexpr int ValueWidth = 7815;
 
 constexpr int PixelsAtTarget = 400;
@@ -43,10 +43,10 @@ constexpr ScaleMark Scale[] = {
 constexpr int UsualWidth = 738;
 constexpr int UsualHeight = 476;
 constexpr int LabelLeft = 8;
-constexpr int HeaderDrop = 1; ///< the header reaches below the upper edge of the first label
+constexpr int HeaderDrop = 1; ///< so far the header covers the first label
 constexpr int LeastPitch = 13;
 
-/// In twips: the tallest whole pixels with which the rows fit.
+/// In twips: the greatest number of whole pixels with which all rows fit.
 int LabelHeight(int chartHeight) {
     const int rows = Twips::FromPixels(chartHeight) - FirstTop - Overlap - GridLines::Foot;
     const int pitch = rows / ((NutrientCount + 1) * Twips::PerPixel());

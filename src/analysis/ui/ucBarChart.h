@@ -15,9 +15,9 @@ class ucStrip;
 struct Period;
 
 /// The intake of an average day of a period, as bars of percent of the targets or as a list of
-/// values. The targets are those for the average weight of the period; afterwards the user has the
-/// present weight and its targets again, save where there was no food to draw. An average is taken
-/// over the days with food.
+/// values. The targets are those for the average weight of the period. Afterwards the user has the
+/// present weight and its targets again, except if there was no food. An average is taken over the
+/// days with food.
 class ucBarChart : public PeriodChart {
     Q_OBJECT
     Q_PROPERTY(QString Mode READ Mode)
@@ -26,17 +26,17 @@ public:
     explicit ucBarChart(QWidget* parent = nullptr);
     ~ucBarChart() override;
 
-    /// Fails with an invalid use of Null, and changes nothing, where the period has no weight.
+    /// If the period has no weight, it fails with an invalid use of Null and changes nothing.
     void updateBars(QDate start, QDate end);
     void ClearBars();                      ///< the values stay
     void ClearFigures();                   ///< bars, values and the average weight
     void Toggle(int mode);                 ///< 0 bars, 1 values; any other does nothing
     QString Mode() const { return mode_; } ///< "BARS" or "VALS"
-    void StoreMode() const; ///< as its end does; for a host that closes before its parts go
+    void StoreMode() const;                ///< for a host that closes before its parts are deleted
     const Nuts& Sums() const { return sums_; }
-    qint32 AverageWeight() const { return averageWeight_; } ///< 0 until one was found
+    qint32 AverageWeight() const { return averageWeight_; } ///< 0 before the first one
 
-    /// Both make the sum they are given the average of a day.
+    /// Both replace the sum that they are given by the average of a day.
     QString numFix(double& value) const;
     static double barWidth(qint32 days, double& value, double rdi); ///< in twips
 
@@ -57,7 +57,7 @@ private:
     QString PercentCaption() const;
 
     Nuts sums_;
-    PeriodFigures figures_; ///< none once the bars were cleared
+    PeriodFigures figures_; ///< empty after ClearBars
     QString mode_;
     qint32 days_ = 0;
     qint32 averageWeight_ = 0;

@@ -24,7 +24,7 @@
 namespace {
 
 constexpr int firstYear = 1992;
-constexpr int lastListedYear = 2012; ///< or the present year, where that is later
+constexpr int lastListedYear = 2012; ///< or the present year, if that is later
 
 // Pixels.
 constexpr int titleHeight = 38;
@@ -96,7 +96,7 @@ void ucCal_LG::FillLists() {
     ucYear_->Set_aHEIGHT(listHeight);
 }
 
-/// A year before the first of the list is only shown.
+/// A year before the first one of the list is shown without being selected.
 void ucCal_LG::OpenOn(QDate today) {
     ucMonth_->SetIndex(qint16(today.month()));
     if (today.year() >= firstYear)
@@ -173,7 +173,7 @@ void ucCal_LG::PrintDay(DayCell* cell, const QString& text) {
         cell->SetCaption(text);
 }
 
-/// Below the icons, which the button must not hide.
+/// The button is stacked below the icons, which it must not hide.
 void ucCal_LG::PlaceButton() {
     DayCell* cell = CellAt(date_.day());
     if (ucCalButton_->parentWidget() != cell)
@@ -251,7 +251,7 @@ void ucCal_LG::ResetButtons() {
     ucCalButton_->Reset();
 }
 
-/// Moves over the cells and the grid arrive here as well.
+/// Moves over the cells and the grid arrive here, too.
 void ucCal_LG::mouseMoveEvent(QMouseEvent* event) {
     const QPoint place = event->position().toPoint();
     if (place.x() != lastMouse_.x() && place.y() != lastMouse_.y()) {
@@ -330,8 +330,8 @@ void ucCal_LG::showEvent(QShowEvent*) {
     PaintLabels();
 }
 
-/// A label whose name begins with "aa" is one only in the layout: what shows is its print on the
-/// calendar's own surface.
+/// A label whose name begins with "aa" only holds place and text: the calendar prints the text
+/// itself.
 void ucCal_LG::PaintLabels() {
     aadate_->hide();
     update();

@@ -14,12 +14,12 @@ class ucCalButton;
 class ucDropDown;
 class ucHeader;
 
-/// The calendar of one month. It marks the days with logged food and those with a logged weight,
-/// with one query each, and raises DayChosen when a day is clicked. Another month or year moves the
-/// button to its first day and raises MonthChanged, nothing else. It opens on today.
+/// The calendar of one month. It marks the days with food and the days with a weight, with one
+/// query each. A click on a day raises DayChosen. Another month or year moves the button to the
+/// first day and raises only MonthChanged. It opens on today.
 ///
-/// Arrow keys, Home and End move the focus among the days, Return clicks one, Page Up and Page Down
-/// turn the month.
+/// Arrow keys, Home and End move the focus between the days, Return clicks the day with the focus,
+/// Page Up and Page Down turn the month.
 class ucCal_LG : public DrawnControl {
     Q_OBJECT
     Q_PROPERTY(QDate Date READ Date)
@@ -33,7 +33,7 @@ public:
     void ResetButtons(); ///< takes the hover look off the chosen day
     void picDay_Click(int index);
 
-    QDate Date() const { return date_; } ///< the day that holds the button
+    QDate Date() const { return date_; } ///< the chosen day, where the button is
     QDate FirstOfMonth() const;
     QDate LastOfMonth() const;
     QSize sizeHint() const override;
@@ -73,11 +73,11 @@ private:
     void OnYear();
     void ShowMonth(QDate first);
     void TurnMonth(int months);
-    int FocusedDay() const; ///< 0 where the focus is not among the days
+    int FocusedDay() const; ///< 0 if no day has the focus
     void FocusDay(int day, Qt::FocusReason reason);
 
     QDate date_;
-    int lastYear_ = 0; ///< of the list
+    int lastYear_ = 0; ///< in the list
     QPoint lastMouse_{-1, -1};
 
     ucHeader* ucHead_;
@@ -87,5 +87,5 @@ private:
     MonthGrid* picCalBG_;
     ucCalButton* ucCalButton_;
     QLabel* lblToday_;
-    std::vector<DayCell*> picDay_; ///< by day of the month less one; only grows
+    std::vector<DayCell*> picDay_; ///< index: day of the month - 1; only grows
 };

@@ -283,7 +283,7 @@ bool ucDaily::eventFilter(QObject* watched, QEvent* event) {
     return true;
 }
 
-/// The host is told first: it answers by taking every highlight off.
+/// Raised first, because the host answers by taking off every highlight.
 void ucDaily::OnPointer(const Hover& hover, const QMouseEvent* move) {
     if (hover.row == 0)
         AllOff({});

@@ -17,10 +17,10 @@ class ScaleCaption;
 class ucStrip;
 class ViewButtons;
 
-/// One day's intake against the current user's targets, in three views over the same figures: bars
-/// of percent, a list of values, a pie of the calories. Told the day by setDate, it queries the log
-/// itself. What the last found day summed to stays in place until another day is found. Raises
-/// MouseMove from the names, the values and its background.
+/// One day's intake against the current user's targets, in three views of the same figures: bars of
+/// percent, a list of values, a pie of the calories. setDate chooses the day; the panel reads the
+/// log itself. Keeps the last sums when the day is empty. Raises MouseMove from the names, the
+/// values and its background.
 class ucDaily : public DrawnControl {
     Q_OBJECT
     Q_PROPERTY(QString Mode READ Mode)
@@ -35,7 +35,7 @@ public:
     void updateCharts();
     void Toggle(int mode);                 ///< 0 bars, 1 values, 2 pie; any other does nothing
     QString Mode() const { return mode_; } ///< "RDI", "VALS" or "PIE"
-    void StoreMode() const; ///< as its end does; for a host that closes before its parts go
+    void StoreMode() const;                ///< for a host that closes before its parts are deleted
     const Nuts& Sums() const { return sums_; }
     void AddOverLay();
 
@@ -43,7 +43,7 @@ public:
     double barWidth(double value, double rdi) const; ///< in twips
 
     void Unhilite();
-    void AllOff(const QString& name); ///< every hover look but that of the named button
+    void AllOff(const QString& name); ///< resets every hover look except the named button's
     QSize sizeHint() const override;
 
 protected:
@@ -54,7 +54,7 @@ protected:
     bool eventFilter(QObject*, QEvent*) override;
 
 private:
-    /// What a move of the pointer over a control does: highlight its row (0: none), tell the host.
+    /// What a move over a control does: it highlights a row (0: none), and the host may get it.
     struct Hover {
         int row;
         bool raises;

@@ -7,14 +7,14 @@ class PieChart;
 class ucAALBL;
 
 /// A month at a glance on the home screen: the calories of an average day, and where they came
-/// from. It queries the log itself when it is told the days.
+/// from. Given the days, it reads the log itself.
 class ucGlance : public QWidget {
     Q_OBJECT
 
 public:
     explicit ucGlance(QWidget* parent = nullptr);
 
-    /// Without food in these days the pie says so; the average stays as it was.
+    /// If no food is logged, the pie says so and the average stays as it was.
     void UpdateGlance(QDate from, QDate to);
     QSize sizeHint() const override;
 
