@@ -6,8 +6,8 @@
 
 namespace {
 
-QString OfUser(const Period& month) {
-    return QString::number(User::Current().UID) + " AND " + month.Condition();
+QString OfUser(const Period& period) {
+    return QString::number(User::Current().UID) + " AND " + period.Condition();
 }
 
 size_t DayOf(const Recordset& row) {
@@ -15,6 +15,13 @@ size_t DayOf(const Recordset& row) {
 }
 
 } // namespace
+
+int LoggedDays::CountWithFood(const Period& period) {
+    return Recordset(UserDB(), "SELECT DISTINCT USER_FOODS.UDate FROM USER_FOODS"
+                               " WHERE UID=" +
+                                   OfUser(period))
+        .RecordCount();
+}
 
 LoggedDays::Days LoggedDays::WithFood(const Period& month) {
     Recordset foods(UserDB(), "SELECT DISTINCT UDate FROM USER_FOODS WHERE UID=" + OfUser(month));

@@ -4,10 +4,11 @@
 
 #include <bitset>
 
-/// The days of a month on which the current user has logged something.
+/// The days on which the current user has logged something.
 namespace LoggedDays {
-using Days = std::bitset<32>; ///< by the day of the month, from 1
+int CountWithFood(const Period& period); ///< how many
 
+using Days = std::bitset<32>; ///< by the day of the month, from 1
 Days WithFood(const Period& month);
 Days WithWeight(const Period& month); ///< a weight of 0 counts as none
 } // namespace LoggedDays

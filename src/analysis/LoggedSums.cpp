@@ -1,5 +1,6 @@
 #include "analysis/LoggedSums.h"
 
+#include "analysis/LoggedDays.h"
 #include "model/User.h"
 #include "runtime/Dates.h"
 #include "store/Connection.h"
@@ -21,13 +22,12 @@ const QString& AllSumsSQL() {
 }
 
 std::optional<Nuts> Sums(const QString& statement, std::span<const Nutrient> nutrients) {
-    Recordset row(UserDB(), statement, Cursor::Static, Lock::ReadOnly);
+    const Recordset row(UserDB(), statement);
     if (row[QStringLiteral("Calories")].IsNull())
         return std::nullopt;
     Nuts sums;
     for (const Nutrient id : nutrients)
         sums.Set(id, row[QLatin1String(Info(id).logColumn)].NumberOr(0));
-    row.Close();
     return sums;
 }
 
@@ -52,19 +52,8 @@ std::optional<Nuts> LoggedSums::AverageEnergy(const Period& period) {
              energyFields);
     if (!energy)
         return std::nullopt;
-    const int days = LoggedDays(period);
+    const int days = LoggedDays::CountWithFood(period);
     for (const Nutrient id : energyFields)
         energy->Set(id, (*energy)[id] / days);
     return energy->Calories() < 1 ? std::nullopt : energy;
-}
-
-int LoggedSums::LoggedDays(const Period& period) {
-    Recordset days(UserDB(),
-                   "SELECT DISTINCT USER_FOODS.UDate FROM USER_FOODS"
-                   " WHERE UID=" +
-                       Uid() + " AND " + period.Condition(),
-                   Cursor::Static, Lock::ReadOnly);
-    const int count = days.RecordCount();
-    days.Close();
-    return count;
 }

@@ -5,13 +5,12 @@
 
 #include <optional>
 
-/// What the current user has logged, summed by the store. Nothing where no food was logged, or none
-/// with calories known; other amounts that nobody knows count as 0.
+/// What the current user has logged, summed by the store. Empty if no food was logged, or none
+/// whose calories are known; other unknown amounts count as 0.
 namespace LoggedSums {
 std::optional<Nuts> OfDay(QDate day);
 std::optional<Nuts> OfPeriod(const Period& period);
-/// An average day's calories (whole), fat, protein and carbohydrate, over the days with food.
-/// Nothing, too, where they come to less than one kilocalorie.
+/// The calories (whole), fat, protein and carbohydrate of an average day, over the days with food.
+/// Empty, too, if it has less than one kilocalorie.
 std::optional<Nuts> AverageEnergy(const Period& period);
-int LoggedDays(const Period& period); ///< those with food
 } // namespace LoggedSums

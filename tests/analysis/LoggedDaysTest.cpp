@@ -44,3 +44,10 @@ TEST_F(LoggedDaysTest, OtherMonthsAndOtherUsersDoNotCount) {
     EXPECT_EQ(Set(LoggedDays::WithFood(April)), QList<int>());
     EXPECT_EQ(Set(LoggedDays::WithWeight(April)), QList<int>());
 }
+
+TEST_F(LoggedDaysTest, DaysWithFoodAreCountedOverAnyPeriod) {
+    for (const QDate day : {QDate(2002, 3, 31), QDate(2002, 4, 9), QDate(2002, 4, 9)})
+        EatCalories(100, day);
+    EXPECT_EQ(LoggedDays::CountWithFood({QDate(2002, 1, 1), QDate(2002, 12, 31)}), 2);
+    EXPECT_EQ(LoggedDays::CountWithFood(April), 1);
+}

@@ -1,5 +1,6 @@
 #include "analysis/ui/ucBarChart.h"
 
+#include "analysis/LoggedDays.h"
 #include "analysis/LoggedSums.h"
 #include "analysis/WeightLog.h"
 #include "analysis/ui/ChartBar.h"
@@ -166,7 +167,7 @@ void ucBarChart::updateBars(QDate start, QDate end) {
     if (!sums)
         return ClearBars();
     sums_ = *sums;
-    days_ = LoggedSums::LoggedDays(period);
+    days_ = LoggedDays::CountWithFood(period);
     figures_ = PeriodFigures(sums_, days_, User::Current().RDIs);
     ShowFigures();
     User::Current().CurrentWeight = kept;
