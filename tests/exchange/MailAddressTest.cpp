@@ -1,3 +1,5 @@
+#include "abuse/Abuse.h"
+
 #include "exchange/MailAddress.h"
 
 #include <gtest/gtest.h>
@@ -13,48 +15,14 @@ TEST(MailAddressTest, PlainAddressesAreTaken) {
     EXPECT_TRUE(IsMailAddress(std::string(64, 'a') + "@example.org"));
 }
 
-TEST(MailAddressTest, WhatIsNotOneAddressIsRefused) {
-    for (const auto* text : {"",
-                             "bert",
-                             "bert@",
-                             "@example.org",
-                             "bert@host",
-                             "a b@example.org",
-                             "a@b@example.org",
-                             "bert@example.org,carl@example.org",
-                             "bert@example.org;carl@example.org",
-                             "Bert <bert@example.org>",
-                             "<bert@example.org>",
-                             "bert@example..org",
-                             ".b@example.org",
-                             "b.@example.org",
-                             "b..m@example.org",
-                             "bert@-example.org",
-                             "bert@example-.org",
-                             "\"bert\"@example.org",
-                             "bert@[127.0.0.1]",
-                             "bert@127.0.0.1",
-                             "bert@example.org.",
-                             "böt@example.org",
-                             "bert@exämple.org",
-                             "bert(x)@example.org",
-                             "bert@example.org\n",
-                             "bert\\@example.org",
-                             "bert@example_x.org",
-                             "bert:x@example.org"})
+TEST(MailAddressTest, WhatIsNotOneAddressOrLeadsElsewhereIsRefused) {
+    for (const auto* text : AbuseCases::NoMailAddresses())
         EXPECT_FALSE(IsMailAddress(text)) << text;
+    EXPECT_FALSE(IsMailAddress(""));
+    EXPECT_FALSE(IsMailAddress("bert@example.org\n"));
     EXPECT_FALSE(IsMailAddress(std::string("be\0rt@example.org", 17)));
     EXPECT_FALSE(IsMailAddress(std::string(65, 'a') + "@example.org"));
     EXPECT_FALSE(IsMailAddress("a@" + std::string(64, 'b') + ".org"));
-}
-
-TEST(MailAddressTest, NamesThatLeadToAnotherHostAFileOrAProgramAreRefused) {
-    for (const auto* text :
-         {"bert%other.example@example.org", "other.example!bert@example.org", "|mail@example.org",
-          "bert|mail@example.org", "/etc/passwd@example.org", "~/x@example.org", "`id`@example.org",
-          "$HOME@example.org", "{a,b}@example.org", "*@example.org", "#1@example.org",
-          "a?b@example.org", "a^b@example.org", "-oQ@example.org"})
-        EXPECT_FALSE(IsMailAddress(text)) << text;
 }
 
 TEST(MailAddressTest, TagsDoNotMakeAnotherMailbox) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <span>
 #include <string>
 #include <vector>
 
@@ -27,6 +28,7 @@ Abuses Rows();
 Abuses Texts();
 Abuses Parameters();
 Abuses MailAddresses();
+std::span<const char* const> NoMailAddresses(); ///< texts that are not one mail address
 Abuses CrossSite();
 Abuses Search();
 Abuses Moderation();

@@ -47,6 +47,18 @@ const char* const NoAddresses[] = {
     "bert@example.org%0aBcc:x",
     "bert\\@example.org",
     "bert@ex_ample.org",
+    ".b@example.org",
+    "b.@example.org",
+    "b..m@example.org",
+    "bert@example_x.org",
+    "bert:x@example.org",
+    "a@",
+    "bert|mail@example.org",
+    "~/x@example.org",
+    "#1@example.org",
+    "a?b@example.org",
+    "a^b@example.org",
+    "-oQ@example.org",
 };
 
 Abuse Refused(const std::string& field, const std::string& other, const std::string& address) {
@@ -60,6 +72,10 @@ Abuse Refused(const std::string& field, const std::string& other, const std::str
             .changes = true};
 }
 } // namespace
+
+std::span<const char* const> NoMailAddresses() {
+    return NoAddresses;
+}
 
 Abuses MailAddresses() {
     Abuses all;
