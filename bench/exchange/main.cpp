@@ -1,5 +1,5 @@
-// What the exchange takes, beside a bare reply of the library that it stands on in the same run. The load
-// comes from a second process. Fails if a figure misses its limit.
+// What the exchange takes, beside a bare reply of the library that it stands on in the same run.
+// The load comes from a second process. Fails if a figure misses its limit.
 #include "Fill.h"
 
 #include "support/Cluster.h"
@@ -126,7 +126,9 @@ private:
     void On(const std::string& name, const std::string& database, double least) {
         { const Server first({{"database", database}}); }
         WritePaths(Fill::With(database, Recipes));
-        Server server({{"database", database}});
+        Server server({{"database", database}, // the load comes from one client
+                       {"searches_per_client_minute", "1000000"},
+                       {"pages_per_client_minute", "1000000"}});
         const auto top =
             AtTop(name + ": read a recipe of 10 ingredients", server.Port(), "reads", least);
         AtHalf(name + ": the same at half the rate", server.Port(), "reads", top.rate);
