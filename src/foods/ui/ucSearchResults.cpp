@@ -1,6 +1,8 @@
 #include "foods/ui/ucSearchResults.h"
 
 #include "foods/FoodSearch.h"
+#include "foods/Meals.h"
+#include "foods/Quantity.h"
 #include "foods/SearchTerms.h"
 #include "foods/ui/ResultRows.h"
 #include "foods/ui/SearchProgress.h"
@@ -24,11 +26,9 @@
 
 namespace {
 
-constexpr const char* meals[] = {"Breakfast", "Lunch", "Dinner", "Snacks"};
-constexpr int mealCount = std::size(meals);
+constexpr int mealCount = Meals::Names.size();
 
 constexpr int limitedRows = 50;
-constexpr double mostLogged = 99;
 
 // In twips.
 constexpr int resultsLeft = 15;
@@ -91,7 +91,7 @@ void ucSearchResults::BuildMeals() {
     int left = cmdGo_->geometry().right() + 20;
     Watch(CaptionAt(this, "lblMeals", "Add foods to meal:", {left, captionTop}));
     for (int i = 0; i < mealCount; ++i) {
-        opMeal_[i] = new ucRadio(QLatin1String(meals[i]), this);
+        opMeal_[i] = new ucRadio(QLatin1String(Meals::Names[i]), this);
         opMeal_[i]->setObjectName(Named("opMeal", i));
         const QSize size = opMeal_[i]->sizeHint();
         opMeal_[i]->setGeometry(left, fieldTop, size.width(), TheStyle().fieldHeight);
@@ -246,22 +246,23 @@ void ucSearchResults::paintEvent(QPaintEvent*) {
 void ucSearchResults::LogChosenFood(int, qint32 ID, const QString& Serv, double QTY,
                                     bool isRecipe) {
     MousePointer::SetBusy();
-    const double q = Val(DecimalText(QTY));
-    if (q == 0 || q > mostLogged)
-        return Refuse(QStringLiteral("Please enter a quantity (QTY) between .1 and 99"));
+    const QString refusal = Quantity::LogRefusal(Val(DecimalText(QTY)));
+    if (!refusal.isEmpty())
+        return Refuse(refusal);
     ScaledFood item;
     {
         const MousePointer::NormalAtEnd normal;
         item = Scaled(ID, Serv, QTY, isRecipe);
     }
     const int ticked = TickedMeal();
-    Q_EMIT FoodChosen(ticked < 0 ? QString() : QString(QLatin1String(meals[ticked])), item);
+    Q_EMIT FoodChosen(ticked < 0 ? QString() : QString(QLatin1String(Meals::Names[ticked])), item);
 }
 
 void ucSearchResults::ExamineChosenFood(int, qint32 ID, const QString& Serv, double QTY,
                                         bool isRecipe) {
-    if (Val(DecimalText(QTY)) == 0)
-        return Refuse(QStringLiteral("Please enter a valid quantity (between .1 and 99)"));
+    const QString refusal = Quantity::ExamineRefusal(Val(DecimalText(QTY)));
+    if (!refusal.isEmpty())
+        return Refuse(refusal);
     Q_EMIT FoodExamined(Scaled(ID, Serv, QTY, isRecipe));
 }
 

@@ -1,0 +1,14 @@
+#include "foods/Quantity.h"
+
+static constexpr double mostLogged = 99;
+
+QString Quantity::LogRefusal(double quantity) {
+    return quantity == 0 || quantity > mostLogged
+               ? QStringLiteral("Please enter a quantity (QTY) between .1 and 99")
+               : QString();
+}
+
+QString Quantity::ExamineRefusal(double quantity) {
+    return quantity == 0 ? QStringLiteral("Please enter a valid quantity (between .1 and 99)")
+                         : QString();
+}
