@@ -7,8 +7,6 @@
 #include "intake/ui/DayCalendar.h"
 #include "intake/ui/WeightField.h"
 #include "intake/ui/ucMyFood.h"
-#include "model/EnergyTargets.h"
-#include "model/User.h"
 #include "runtime/AppState.h"
 #include "runtime/Convert.h"
 #include "runtime/Format.h"
@@ -34,17 +32,6 @@ constexpr int dateLeft = 204; ///< beside the frame's title of the screen
 constexpr int panelWidth = 338;
 constexpr int weightWidth = 62;
 constexpr QSize calendarPicture(18, 18);
-
-bool IsWeight(double weight) {
-    return weight > 0 && weight <= HeaviestWeight;
-}
-
-const QString NoWeight = QStringLiteral(
-    "Please enter a valid weight greater than '0'. To remove the weight entry for this day, delete "
-    "the entry from the weight field.");
-const QString TooHeavy = QStringLiteral(
-    "Please enter a weight of 1,000,000 pounds or less. To remove the weight entry for this day, "
-    "delete the entry from the weight field.");
 
 } // namespace
 
@@ -166,28 +153,25 @@ void frmDay::DoWinInit() {
     const double weight = DayLog::Weight(App().CurrentDate);
     const QString text = DecimalText(weight);
     txtWeight_->setText(text == "0" ? QString() : text);
-    if (IsWeight(weight))
-        TakeWeight(weight);
+    TakeWeight(weight);
 }
 
-/// The row is written before the targets follow it: they are derived from what is stored.
+/// An empty field takes the entry back: it is stored as 0.
 void frmDay::SaveWeight() {
     const QString text = txtWeight_->text();
     const double weight = Val(text);
-    if (!text.isEmpty() && !IsWeight(weight)) {
-        ShowAlert(weight > HeaviestWeight ? TooHeavy : NoWeight, this);
+    const QString refusal = text.isEmpty() ? QString() : DayLog::WeightRefusal(weight);
+    if (!refusal.isEmpty()) {
+        ShowAlert(refusal, this);
         return;
     }
     DayLog::SetWeight(App().CurrentDate, weight);
     txtWeight_->setModified(false);
-    if (weight > 0)
-        TakeWeight(weight);
+    TakeWeight(weight);
 }
 
 void frmDay::TakeWeight(double weight) {
-    User::Current().CurrentWeight = Round(weight);
-    RecalcTargets();
-    if (App().AppInfo.AUTOUPDATERDI)
+    if (DayLog::TakeWeight(weight) && App().AppInfo.AUTOUPDATERDI)
         daily_->updateCharts();
 }
 

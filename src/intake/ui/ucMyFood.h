@@ -1,19 +1,17 @@
 #pragma once
 
-#include "foods/ScaledFood.h"
-#include "toolkit/DrawnControl.h"
+#include "toolkit/AteList.h"
 
 #include <QDate>
 
 #include <array>
 
-class AtePane;
 class MealHeading;
+class ScaledFood;
 
-/// What the current user ate on one day, under the four meals. Rows of USER_FOODS are added and
-/// removed here. Every change draws the whole list anew from the store; nothing is drawn until a
-/// date is set.
-class ucMyFood : public DrawnControl {
+/// What the current user ate on one day, under the four meals. Foods are added and removed here.
+/// Every change draws the whole list anew from the store. Nothing is drawn until a date is set.
+class ucMyFood : public AteList {
     Q_OBJECT
     Q_PROPERTY(QDate Date READ Date)
 
@@ -28,16 +26,13 @@ public:
     /// `MealNumber`, 1 to 4, does not change what is drawn.
     void showFood(const QString& FoodName, const QString& Serving, qint32 RecID, int MealNumber,
                   double QTY);
-    void InitControls();
-    void AllOff(const QString& except); ///< the headings' highlight, but that of the one named
+    void AllOff(const QString& except); ///< takes the highlight off all headings but that one
 
 Q_SIGNALS:
-    void FoodRemoved();
     void AddRequested(int meal); ///< a meal heading (0 to 3) or the empty pane (-1) was clicked
 
 protected:
-    void resizeEvent(QResizeEvent*) override;
-    void showEvent(QShowEvent*) override;
+    void RemoveRow(qint32 recID) override;
     void mouseMoveEvent(QMouseEvent*) override;
 
 private:
@@ -45,10 +40,7 @@ private:
     void DisplayMeal(int meal);
     void OnHeadingMove(MealHeading* heading);
     void OnPaneMove(const QMouseEvent* move);
-    void RemoveFood(qint32 recID);
-    bool DeleteRow(qint32 recID);
 
     QDate date_;
-    AtePane* pane_;
     std::array<MealHeading*, 4> headings_;
 };
