@@ -4,7 +4,7 @@
 
 #include "foods/FoodSearch.h"
 #include "foods/SearchTerms.h"
-#include "recipes/RecipeStore.h"
+#include "recipes/RecipeBook.h"
 #include "recipes/ui/ucIngredients.h"
 #include "store/Connection.h"
 
@@ -21,7 +21,7 @@ void OpenRecipeOurs(benchmark::State& state) {
     for (auto _ : state) {
         list.ClearList();
         list.SetRecipeID(1);
-        benchmark::DoNotOptimize(RecipeStore::CaloriesPerServing(1, QStringLiteral("4")));
+        benchmark::DoNotOptimize(RecipeBook::CaloriesPerServing(1, QStringLiteral("4")));
         list.DisplayFoods(true);
     }
 }

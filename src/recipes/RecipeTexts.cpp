@@ -1,25 +1,13 @@
 #include "recipes/RecipeTexts.h"
 
 #include "runtime/Val.h"
-#include "store/Recordset.h"
 
 #include <algorithm>
 #include <cmath>
 
 namespace {
 
-constexpr std::array<RecipeFieldInfo, RecipeFieldCount> fields{{
-    {RecipeField::Name, "RecipeName", "aaRecipeName", "txtName", "Recipe name", "My Recipe", false},
-    {RecipeField::Yield, "RecipeYield", "lblRecYield", "txtYield", "Recipe yield in servings", "1",
-     true},
-    {RecipeField::Serving, "ServingName", "lblServingDesc", "txtServing", "Serving size", "Plate",
-     false},
-    {RecipeField::Instructions, "Instructions", "txtInstructions", "txtInstructions",
-     "Preparation instructions", "(enter preparation instructions here...)", false},
-    {RecipeField::Time, "PrepTime", "aaTotalTime", "txtTime", "Total time in minutes", "30", true},
-}};
-
-/// In this order; the first that fails is the one that is told. The time is not tested.
+/// Tested in this order, and the message of the first that fails is shown. The time has no rule.
 constexpr RecipeCheck checks[] = {
     {RecipeField::Name, "^~", "Recipe name cannot contain the special characters '~' or '^'."},
     {RecipeField::Yield, "^~", "Recipe yield cannot contain the special characters '~' or '^'."},
@@ -44,13 +32,9 @@ bool Fails(const RecipeCheck& check, const QString& text) {
 
 } // namespace
 
-const std::array<RecipeFieldInfo, RecipeFieldCount>& RecipeFields() {
-    return fields;
-}
-
 RecipeTexts RecipeTexts::OfNewRecipe() {
     RecipeTexts texts;
-    for (const RecipeFieldInfo& field : fields)
+    for (const RecipeFieldInfo& field : RecipeFields())
         texts[field.id] = QLatin1String(field.initial);
     return texts;
 }
@@ -63,10 +47,11 @@ const RecipeCheck* RecipeTexts::FirstFailed() const {
     return found == std::end(checks) ? nullptr : found;
 }
 
-void RecipeTexts::Write(Recordset& row) const {
-    for (const RecipeFieldInfo& field : fields) {
+Recipe RecipeTexts::Values() const {
+    Recipe recipe;
+    for (const RecipeFieldInfo& field : RecipeFields()) {
         const QString& text = (*this)[field.id];
-        row.Set(QLatin1String(field.column),
-                field.isNumber ? QVariant(std::abs(Val(text))) : QVariant(text));
+        recipe[field.id] = field.isNumber ? QVariant(std::abs(Val(text))) : QVariant(text);
     }
+    return recipe;
 }

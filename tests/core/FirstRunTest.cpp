@@ -7,7 +7,7 @@
 #include "core/frmHOME.h"
 #include "model/User.h"
 #include "model/ui/frmProfile.h"
-#include "recipes/RecipeStore.h"
+#include "recipes/RecipeBook.h"
 #include "runtime/AppPath.h"
 #include "runtime/AppState.h"
 #include "runtime/Clock.h"
@@ -88,7 +88,7 @@ protected:
     void ImportByTheMenu() {
         WithModal(
             [](QWidget* dialog) {
-                RecipeStore::AddRecipe();
+                RecipeBook::AddRecipe();
                 dialog->close();
             },
             [] { ChooseFromMenu(2); });

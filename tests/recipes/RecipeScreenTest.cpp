@@ -1,7 +1,7 @@
 #include "recipes/RecipeManagerTest.h"
 #include "support/KillPoints.h"
 
-#include "recipes/RecipeStore.h"
+#include "recipes/RecipeBook.h"
 #include "recipes/ui/ucIngredients.h"
 #include "store/Connection.h"
 #include "toolkit/ucAte.h"
@@ -381,7 +381,7 @@ TEST_F(RecipeScreenTest, AKillWhileAddingOrRemovingAnIngredientLeavesNoHalfOfOne
         EXPECT_EQ(left.execAndGet("SELECT count(*) FROM Ingredients").getInt(), point);
         EXPECT_EQ(left.execAndGet(whole).getInt(), point);
     });
-    const KillPoints removing(UserDB(), [] { RecipeStore::RemoveIngredient(1); });
+    const KillPoints removing(UserDB(), [] { RecipeBook::RemoveIngredient(1); });
     removing.ForEach([&](int point, SQLite::Database& left) {
         EXPECT_EQ(left.execAndGet(whole).getInt(), 1 - point);
     });

@@ -5,7 +5,7 @@
 #include "foods/ui/ucFood.h"
 #include "foods/ui/ucSearchResults.h"
 #include "intake/ui/ucMyFood.h"
-#include "recipes/RecipeStore.h"
+#include "recipes/RecipeBook.h"
 #include "store/Connection.h"
 #include "store/Schema.h"
 #include "toolkit/ucAte.h"
@@ -94,7 +94,7 @@ TEST_F(RecipeSearchTest, OneOfARecipeIsTheWholeOfItWhileTheCardDividesByTheYield
     SearchFor("lentil");
     Add(0, "1");
     EXPECT_EQ(Logged("Lentil soup").value(0), 600.0);
-    EXPECT_EQ(RecipeStore::CaloriesPerServing(soup, "4"), "Calories: 150 per serving");
+    EXPECT_EQ(RecipeBook::CaloriesPerServing(soup, "4"), "Calories: 150 per serving");
 }
 
 TEST_F(RecipeSearchTest, ARecipeWithoutIngredientsIsLoggedAsZeros) {
@@ -105,7 +105,7 @@ TEST_F(RecipeSearchTest, ARecipeWithoutIngredientsIsLoggedAsZeros) {
 }
 
 TEST_F(RecipeSearchTest, ANewRecipeIsFoundUnderItsFirstNameAndHasNoServingYet) {
-    RecipeStore::AddRecipe();
+    RecipeBook::AddRecipe();
     SearchFor("my rec");
     EXPECT_EQ(NamesShown(*dialog.Panel()), QStringList{"My Recipe"});
     Add(0);
@@ -121,7 +121,7 @@ TEST_F(RecipeSearchTest, ARecipeDeletedWhileLoggedOnTenDaysIsStillOnEachOfThem) 
     };
     SearchFor("lentil");
     onEachDay([this] { Add(0, "0.5"); });
-    RecipeStore::DeleteRecipe(soup);
+    RecipeBook::DeleteRecipe(soup);
     onEachDay([this] {
         const auto* line = Find<ucAte>(&day, "ucAte1");
         EXPECT_EQ(line->FoodName(), "Lentil soup");
@@ -135,7 +135,7 @@ TEST_F(RecipeSearchTest, ARecipeDeletedWhileLoggedOnTenDaysIsStillOnEachOfThem) 
 
 TEST_F(RecipeSearchTest, ARecipeDeletedWhileItsResultRowStandsFailsAndLogsNothing) {
     SearchFor("lentil");
-    RecipeStore::DeleteRecipe(soup);
+    RecipeBook::DeleteRecipe(soup);
     EXPECT_EQ(FailureOf([this] { Found(0)->EatFood(soup, "A", 1, true); }), 3021);
     EXPECT_EQ(Count("USER_FOODS"), 0);
 }

@@ -1,6 +1,6 @@
 #include "recipes/TransferTest.h"
 
-#include "recipes/RecipeStore.h"
+#include "recipes/RecipeBook.h"
 #include "store/Connection.h"
 #include "toolkit/MousePointer.h"
 
@@ -180,7 +180,7 @@ TEST_F(frmImportTest, ARecipeWithoutIngredientsHasNoCalories) {
     ExpectAlert(successText);
     SubmitSoup();
     EXPECT_EQ(Count("Recipes"), 1);
-    EXPECT_EQ(RecipeStore::CaloriesPerServing(1, "4.5"), "Calories: --");
+    EXPECT_EQ(RecipeBook::CaloriesPerServing(1, "4.5"), "Calories: --");
 }
 
 TEST_F(frmImportTest, NullsComeAsNulls) {

@@ -3,7 +3,7 @@
 #include "foods/ui/frmNutInfo.h"
 #include "foods/ui/ucFood.h"
 #include "foods/ui/ucSearchResults.h"
-#include "recipes/RecipeStore.h"
+#include "recipes/RecipeBook.h"
 #include "recipes/ui/frmRecSearch.h"
 #include "recipes/ui/ucIngredients.h"
 #include "runtime/Settings.h"
@@ -25,13 +25,13 @@ protected:
     void SetUp() override {
         RecipesTest::SetUp();
         AddFood({.id = 7, .name = "Bread", .gramsA = 30.0, .nutrients = {{"Calories", 250}}});
-        recipe = RecipeStore::AddRecipe();
+        recipe = RecipeBook::AddRecipe();
         list.SetRecipeID(recipe);
         list.resize(400, 200);
         list.DisplayFoods(true);
         QObject::connect(&dialog, &SearchDialog::FoodChosen, &list,
                          [this](const QString&, const ScaledFood& item) {
-                             RecipeStore::AddIngredient(recipe, item);
+                             RecipeBook::AddIngredient(recipe, item);
                          });
         dialog.show();
     }

@@ -1,6 +1,6 @@
 #include "recipes/TransferTest.h"
 
-#include "recipes/RecipeStore.h"
+#include "recipes/RecipeBook.h"
 #include "runtime/Settings.h"
 #include "store/Connection.h"
 #include "toolkit/MousePointer.h"
@@ -28,8 +28,8 @@ protected:
         recipe = FoodsTest::AddRecipe("Crème of lentils", "1 bowl");
         UserDB().Raw().exec("UPDATE Recipes SET RecipeYield = 4.5, PrepTime = 45, "
                             "Instructions = 'Rinse.\nCook.'");
-        RecipeStore::AddIngredient(recipe, Counting("Lentils", 2));
-        RecipeStore::AddIngredient(recipe, Counting("Water", 3));
+        RecipeBook::AddIngredient(recipe, Counting("Lentils", 2));
+        RecipeBook::AddIngredient(recipe, Counting("Water", 3));
         TellAll();
         OpenSend();
     }

@@ -1,6 +1,5 @@
 #include "foods/ui/NameList.h"
 
-#include "runtime/NameOrder.h"
 #include "store/Recordset.h"
 #include "toolkit/ListBox.h"
 
@@ -10,8 +9,12 @@ void ListByName(ListBox& list, Recordset& rows, const QString& nameColumn,
     lines.reserve(rows.RecordCount());
     for (; !rows.AtEnd(); rows.MoveNext())
         lines.append({rows[nameColumn].Text(), rows[keyColumn].Integer()});
-    NameOrder::Sort(lines);
+    ListByName(list, std::move(lines));
+}
+
+void ListByName(ListBox& list, QList<NamedKey> names) {
+    NameOrder::Sort(names);
     list.Clear();
-    for (const NamedKey& line : std::as_const(lines))
+    for (const NamedKey& line : std::as_const(names))
         list.AddItem(line.name, line.key);
 }

@@ -23,13 +23,12 @@ void PlaceOnLine(const QRect& line, QWidget* control) {
     control->move(line.left(), line.top() + (line.height() - control->height()) / 2);
 }
 
-CardField::CardField(QWidget* card, RecipeField field) {
-    const RecipeFieldInfo& info = RecipeFields()[static_cast<size_t>(field)];
-    label_ = new ElidedLabel(card, QLatin1String(info.label));
+CardField::CardField(QWidget* card, const Names& names) {
+    label_ = new ElidedLabel(card, QLatin1String(names.label));
     label_->SetLook({TheStyle().strong}, TheStyle().ink);
     entry_ = new LineField(card);
-    entry_->setObjectName(QLatin1String(info.entry));
-    entry_->setAccessibleName(QLatin1String(info.spoken));
+    entry_->setObjectName(QLatin1String(names.entry));
+    entry_->setAccessibleName(QLatin1String(names.spoken));
 }
 
 void CardField::AddCaption(const char* name, const char* text) {

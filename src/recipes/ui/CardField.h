@@ -1,10 +1,9 @@
 #pragma once
 
-#include "recipes/RecipeTexts.h"
-
 #include <QFont>
 #include <QList>
 #include <QRect>
+#include <QString>
 
 class ElidedLabel;
 class QColor;
@@ -20,7 +19,12 @@ void PlaceOnLine(const QRect& line, QWidget* control);
 /// to the card.
 class CardField {
 public:
-    CardField(QWidget* card, RecipeField field);
+    struct Names {
+        const char* label;
+        const char* entry;
+        const char* spoken; ///< for assistive tools
+    };
+    CardField(QWidget* card, const Names& names);
     void AddCaption(const char* name, const char* text);
     void AddUnit(const char* name, const char* text);
     void SetLook(const QList<QFont>& shown, const QColor& ink, const QFont& typed);

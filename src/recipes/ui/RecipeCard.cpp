@@ -1,7 +1,6 @@
 #include "recipes/ui/RecipeCard.h"
 
 #include "foods/ui/ElidedLabel.h"
-#include "recipes/ui/CardField.h"
 #include "recipes/ui/InstructionText.h"
 #include "recipes/ui/ucIngredients.h"
 #include "toolkit/Style.h"
@@ -59,26 +58,29 @@ CardField* RecipeCard::FieldOf(RecipeField field) const {
     return fields_[static_cast<size_t>(field)].get();
 }
 
-CardField* RecipeCard::AddField(RecipeField field) {
-    fields_[static_cast<size_t>(field)] = std::make_unique<CardField>(this, field);
+CardField* RecipeCard::AddField(RecipeField field, const CardField::Names& names) {
+    fields_[static_cast<size_t>(field)] = std::make_unique<CardField>(this, names);
     return FieldOf(field);
 }
 
 void RecipeCard::AddName() {
     const Style& style = TheStyle();
-    AddField(RecipeField::Name)
+    AddField(RecipeField::Name, {"aaRecipeName", "txtName", "Recipe name"})
         ->SetLook({style.cardTitle, style.screenTitle}, style.heading, style.title);
 }
 
 /// In reading order, which the Tab key follows.
 void RecipeCard::AddFacts() {
-    CardField* yield = AddField(RecipeField::Yield);
+    CardField* yield =
+        AddField(RecipeField::Yield, {"lblRecYield", "txtYield", "Recipe yield in servings"});
     yield->AddCaption("Label1", "Recipe yield:");
     yield->AddUnit("Label2", "servings");
-    CardField* time = AddField(RecipeField::Time);
+    CardField* time =
+        AddField(RecipeField::Time, {"aaTotalTime", "txtTime", "Total time in minutes"});
     time->AddCaption("Label5", "Total Time:");
     time->AddUnit("Label6", "minutes");
-    AddField(RecipeField::Serving)->AddCaption("Label3", "Serving size:");
+    AddField(RecipeField::Serving, {"lblServingDesc", "txtServing", "Serving size"})
+        ->AddCaption("Label3", "Serving size:");
     aaCals_ = new ElidedLabel(this, QStringLiteral("aaCals"));
     aaCals_->SetLook({TheStyle().strong}, TheStyle().ink);
     aaCals_->SetCaption(QStringLiteral("Calories:"));
@@ -133,11 +135,12 @@ void RecipeCard::ShowIngredients(qint32 recipeID) {
     ucING_->DisplayFoods(true);
 }
 
-void RecipeCard::SetEntry(RecipeField field, const QString& text) {
-    if (CardField* entry = FieldOf(field))
-        entry->SetEntry(text);
-    else
-        instructions_->SetText(text);
+void RecipeCard::SetEntries(const RecipeTexts& texts) {
+    for (const RecipeFieldInfo& field : RecipeFields())
+        if (CardField* entry = FieldOf(field.id))
+            entry->SetEntry(texts[field.id]);
+        else
+            instructions_->SetText(texts[field.id]);
 }
 
 RecipeTexts RecipeCard::Entries() const {

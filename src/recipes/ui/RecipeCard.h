@@ -1,12 +1,12 @@
 #pragma once
 
 #include "recipes/RecipeTexts.h"
+#include "recipes/ui/CardField.h"
 
 #include <QWidget>
 
 #include <memory>
 
-class CardField;
 class ElidedLabel;
 class InstructionText;
 class ucAALBL;
@@ -29,7 +29,7 @@ public:
     void ClearIngredients();
     void ShowIngredients(qint32 recipeID);
 
-    void SetEntry(RecipeField field, const QString& text); ///< in its field
+    void SetEntries(const RecipeTexts& texts);
     RecipeTexts Entries() const;
     void SetEditing(bool editing);
     void FocusEntry(RecipeField field);
@@ -51,7 +51,7 @@ private:
     void AddFacts();
     void AddInstructions();
     void AddIngredients();
-    CardField* AddField(RecipeField field);
+    CardField* AddField(RecipeField field, const CardField::Names& names);
     CardField* FieldOf(RecipeField field) const; ///< null for the instructions
 
     int InnerWidth() const;

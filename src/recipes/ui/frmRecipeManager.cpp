@@ -2,7 +2,7 @@
 
 #include "foods/ScaledFood.h"
 #include "foods/ui/NameList.h"
-#include "recipes/RecipeStore.h"
+#include "recipes/RecipeBook.h"
 #include "recipes/ui/InstructionText.h"
 #include "recipes/ui/RecipeCard.h"
 #include "recipes/ui/frmImport.h"
@@ -11,8 +11,6 @@
 #include "recipes/ui/ucIngredients.h"
 #include "runtime/Attempt.h"
 #include "runtime/Seams.h"
-#include "store/Connection.h"
-#include "store/Recordset.h"
 #include "toolkit/ListBox.h"
 #include "toolkit/Style.h"
 #include "toolkit/ucBox.h"
@@ -122,10 +120,7 @@ int frmRecipeManager::LineToChoose(qint32 recipe, int index) const {
 }
 
 void frmRecipeManager::FillList() {
-    Recordset rows(UserDB(), QStringLiteral("SELECT  * FROM Recipes"), Cursor::Static,
-                   Lock::ReadOnly);
-    ListByName(*lsRecipes_, rows, QStringLiteral("RecipeName"), QStringLiteral("RecipeID"));
-    rows.Close();
+    ListByName(*lsRecipes_, RecipeBook::Names());
 }
 
 void frmRecipeManager::lsRecipes_Click() {
@@ -137,24 +132,20 @@ void frmRecipeManager::ShowRecipe(qint32 recipeID) {
     card_->ShowText(RecipeField::Instructions, QString());
     card_->ShowText(RecipeField::Name, QString());
     card_->ClearIngredients();
-    ReadTexts(recipeID);
+    ShowTexts(recipeID);
     card_->ShowCalories(
-        RecipeStore::CaloriesPerServing(recipeID, card_->ShownText(RecipeField::Yield)));
+        RecipeBook::CaloriesPerServing(recipeID, card_->ShownText(RecipeField::Yield)));
     card_->ShowIngredients(recipeID);
     AllowAll({cmdDelete_, cmdEdit_, cmdSend_}, true);
     card_->Instructions()->ResetBar();
 }
 
-/// What holds no value leaves its label as it stood.
-void frmRecipeManager::ReadTexts(qint32 recipeID) {
-    Recordset row(UserDB(), "SELECT * FROM Recipes where RecipeID = " + QString::number(recipeID),
-                  Cursor::Static, Lock::ReadOnly);
-    for (const RecipeFieldInfo& info : RecipeFields()) {
-        const Field field = row[QLatin1String(info.column)];
-        if (!field.IsNull())
-            card_->ShowText(info.id, field.Text());
-    }
-    row.Close();
+/// The label of a field that holds nothing stays as it was.
+void frmRecipeManager::ShowTexts(qint32 recipeID) {
+    const RecipeTexts texts = RecipeBook::Read(recipeID);
+    for (const RecipeFieldInfo& field : RecipeFields())
+        if (!texts[field.id].isNull())
+            card_->ShowText(field.id, texts[field.id]);
 }
 
 void frmRecipeManager::cmdNew_Click() {
@@ -169,11 +160,9 @@ void frmRecipeManager::cmdNew_Click() {
 /// The fields get what a new recipe starts with, a serving among it; EditRecipe then reads them
 /// from the row, which has none.
 void frmRecipeManager::AddRecipe() {
-    current_ = RecipeStore::AddRecipe();
+    current_ = RecipeBook::AddRecipe();
     card_->Ingredients()->SetRecipeID(current_);
-    const RecipeTexts initial = RecipeTexts::OfNewRecipe();
-    for (const RecipeFieldInfo& field : RecipeFields())
-        card_->SetEntry(field.id, initial[field.id]);
+    card_->SetEntries(RecipeTexts::OfNewRecipe());
 }
 
 void frmRecipeManager::cmdEdit_Click() {
@@ -188,16 +177,10 @@ void frmRecipeManager::cmdEdit_Click() {
     }
 }
 
-/// A field that cannot be read keeps what stands in it, and the others are read all the same.
 void frmRecipeManager::EditRecipe(qint32 recipeID) {
-    Recordset row;
-    Attempt([&] {
-        row.Open(UserDB(), "SELECT * FROM Recipes WHERE RecipeID =" + QString::number(recipeID),
-                 Cursor::Static, Lock::ReadOnly);
-    });
-    for (const RecipeFieldInfo& field : RecipeFields())
-        Attempt([&] { card_->SetEntry(field.id, row[QLatin1String(field.column)].Text()); });
-    Attempt([&] { row.Close(); });
+    RecipeTexts texts = card_->Entries();
+    RecipeBook::ReadInto(texts, recipeID);
+    card_->SetEntries(texts);
     card_->SetEditing(true);
     Attempt([&] { card_->ShowIngredients(recipeID); });
     lsRecipes_->setEnabled(false);
@@ -206,18 +189,12 @@ void frmRecipeManager::EditRecipe(qint32 recipeID) {
 }
 
 bool frmRecipeManager::SaveRecipe() {
-    const RecipeTexts texts = card_->Entries();
-    if (const RecipeCheck* failed = texts.FirstFailed()) {
-        ShowAlert(QLatin1String(failed->message), this);
-        card_->FocusEntry(failed->field);
-        return false;
-    }
-    Recordset row(UserDB(), "SELECT * FROM Recipes WHERE RecipeID =" + QString::number(current_),
-                  Cursor::Dynamic, Lock::Optimistic);
-    texts.Write(row);
-    row.Update();
-    row.Close();
-    return true;
+    const RecipeCheck* failed = RecipeBook::SaveRecipe(current_, card_->Entries());
+    if (!failed)
+        return true;
+    ShowAlert(QLatin1String(failed->message), this);
+    card_->FocusEntry(failed->field);
+    return false;
 }
 
 void frmRecipeManager::EndEdit() {
@@ -235,7 +212,7 @@ void frmRecipeManager::cmdDelete_Click() {
         return;
     if (!ShowAlert(QStringLiteral("Are you sure you want to delete this recipe?"), this, true))
         return;
-    RecipeStore::DeleteRecipe(current_);
+    RecipeBook::DeleteRecipe(current_);
     ListRecipes();
     if (current_ == noRecipe)
         cmdNew_->setFocus();
@@ -265,7 +242,7 @@ void frmRecipeManager::cmdIngreds_Click() {
 }
 
 void frmRecipeManager::AddFood(const ScaledFood& item) {
-    RecipeStore::AddIngredient(current_, item);
+    RecipeBook::AddIngredient(current_, item);
 }
 
 void frmRecipeManager::cmdDone_Click() {

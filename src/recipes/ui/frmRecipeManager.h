@@ -51,7 +51,7 @@ private:
 
     void FillList();
     int LineToChoose(qint32 recipe, int index) const;
-    void ReadTexts(qint32 recipeID);
+    void ShowTexts(qint32 recipeID);
     bool IsEditing() const;
     void SetEditCaption(QLatin1String caption);
     void EndEdit();

@@ -1,6 +1,6 @@
 #include "recipes/TransferTest.h"
 
-#include "recipes/RecipeStore.h"
+#include "recipes/RecipeBook.h"
 #include "store/Connection.h"
 #include "support/Cluster.h"
 #include "support/ExchangeProcess.h"
@@ -32,7 +32,7 @@ protected:
         UserDB().Raw().exec("UPDATE Recipes SET RecipeYield = 2.5, PrepTime = 45, "
                             "Instructions = 'Rinse.\nCook.'");
         for (int i = 1; i <= 10; ++i)
-            RecipeStore::AddIngredient(recipe, Counting(QString("Food %1").arg(i), i));
+            RecipeBook::AddIngredient(recipe, Counting(QString("Food %1").arg(i), i));
         UserDB().Raw().exec("UPDATE Ingredients SET Calories = 0.1 * ID, Iron = NULL");
     }
 
@@ -105,8 +105,8 @@ TEST_P(RecipeExchangeTest, WhatWasSentIsImportedToTheLastFigure) {
     EXPECT_EQ(CardOf(recipe + 1), CardOf(recipe));
     EXPECT_EQ(RowsOf(recipe + 1), RowsOf(recipe));
     EXPECT_EQ(RowsOf(recipe + 1).size(), 10);
-    EXPECT_EQ(RecipeStore::CaloriesPerServing(recipe + 1, "2.5"),
-              RecipeStore::CaloriesPerServing(recipe, "2.5"));
+    EXPECT_EQ(RecipeBook::CaloriesPerServing(recipe + 1, "2.5"),
+              RecipeBook::CaloriesPerServing(recipe, "2.5"));
 }
 
 TEST_P(RecipeExchangeTest, AQuantityOtherThanOneArrivesInTheServing) {
@@ -135,10 +135,10 @@ TEST_P(RecipeExchangeTest, NullsStayNullOnTheirWay) {
 
 TEST_P(RecipeExchangeTest, ARecipeWithARecipeInItArrivesWithItsCalories) {
     const qint32 pie = FoodsTest::AddRecipe("Pie", "1 pie");
-    RecipeStore::AddIngredient(pie, ScaledFood::FromRecipe(recipe, 2));
+    RecipeBook::AddIngredient(pie, ScaledFood::FromRecipe(recipe, 2));
     const qint32 remote = Send(pie);
     EXPECT_EQ(Import(QString::number(remote)), importedText);
-    EXPECT_EQ(RecipeStore::CaloriesPerServing(pie + 1, "1"), "Calories: 11 per serving");
+    EXPECT_EQ(RecipeBook::CaloriesPerServing(pie + 1, "1"), "Calories: 11 per serving");
     EXPECT_EQ(Users("SELECT Copper FROM Ingredients WHERE RecipeID = " + QString::number(pie + 1)),
               Users("SELECT Copper FROM Ingredients WHERE RecipeID = " + QString::number(pie)));
 }
@@ -148,7 +148,7 @@ TEST_P(RecipeExchangeTest, ARecipeWithoutIngredientsArrivesWithoutThem) {
     const qint32 remote = Send(recipe);
     EXPECT_EQ(Import(QString::number(remote)), importedText);
     EXPECT_EQ(CardOf(recipe + 1), CardOf(recipe));
-    EXPECT_EQ(RecipeStore::CaloriesPerServing(recipe + 1, "2.5"), "Calories: --");
+    EXPECT_EQ(RecipeBook::CaloriesPerServing(recipe + 1, "2.5"), "Calories: --");
 }
 
 TEST_P(RecipeExchangeTest, MoreIngredientsThanGoInOneCallArriveInTheirOrder) {

@@ -2,19 +2,19 @@
 
 #include "foods/Logix.h"
 #include "model/Nutrients.h"
-#include "recipes/RecipeStore.h"
+#include "recipes/RecipeBook.h"
 #include "store/Connection.h"
 #include "store/Recordset.h"
 
 #include <SQLiteCpp/SQLiteCpp.h>
 
-class RecipeStoreTest : public RecipesTest {
+class RecipeBookTest : public RecipesTest {
 protected:
     /// The caption of a recipe of one ingredient.
     QString Caption(double calories, const QString& yield) {
         const qint32 recipe = AddRecipe("Soup", "1 bowl");
         AddIngredient(recipe, {{"Calories", calories}});
-        return RecipeStore::CaloriesPerServing(recipe, yield);
+        return RecipeBook::CaloriesPerServing(recipe, yield);
     }
 
     /// One row of amounts, positions 1 to 31.
@@ -24,8 +24,8 @@ protected:
     }
 };
 
-TEST_F(RecipeStoreTest, ANewRecipeStartsWithItsDefaults) {
-    const qint32 key = RecipeStore::AddRecipe();
+TEST_F(RecipeBookTest, ANewRecipeStartsWithItsDefaults) {
+    const qint32 key = RecipeBook::AddRecipe();
     const auto rows = Rows(UserDB(), "SELECT RecipeID, RecipeName, ServingName, RecipeYield, "
                                      "Instructions, PrepTime FROM Recipes");
     ASSERT_EQ(rows.size(), 1);
@@ -33,29 +33,29 @@ TEST_F(RecipeStoreTest, ANewRecipeStartsWithItsDefaults) {
                                      "(enter preparation instructions here...)", 30.0}));
 }
 
-TEST_F(RecipeStoreTest, ANewRecipesServingIsEmptyAndNotNull) {
-    RecipeStore::AddRecipe();
+TEST_F(RecipeBookTest, ANewRecipesServingIsEmptyAndNotNull) {
+    RecipeBook::AddRecipe();
     EXPECT_EQ(Count("Recipes", "ServingName IS NULL"), 0);
 }
 
-TEST_F(RecipeStoreTest, TheKeyGivenIsThatOfTheNewRowAmongOthers) {
+TEST_F(RecipeBookTest, TheKeyGivenIsThatOfTheNewRowAmongOthers) {
     AddRecipes(50, "Soup");
-    const qint32 first = RecipeStore::AddRecipe();
-    const qint32 second = RecipeStore::AddRecipe();
+    const qint32 first = RecipeBook::AddRecipe();
+    const qint32 second = RecipeBook::AddRecipe();
     EXPECT_EQ(second, first + 1);
     EXPECT_EQ(Users("SELECT max(RecipeID) FROM Recipes").toInt(), second);
 }
 
-TEST_F(RecipeStoreTest, KeysOfDeletedRecipesAreNotGivenOutAgain) {
-    const qint32 first = RecipeStore::AddRecipe();
-    RecipeStore::DeleteRecipe(first);
-    EXPECT_GT(RecipeStore::AddRecipe(), first);
+TEST_F(RecipeBookTest, KeysOfDeletedRecipesAreNotGivenOutAgain) {
+    const qint32 first = RecipeBook::AddRecipe();
+    RecipeBook::DeleteRecipe(first);
+    EXPECT_GT(RecipeBook::AddRecipe(), first);
 }
 
-TEST_F(RecipeStoreTest, DeletingARecipeOfThreeIngredientsLeavesTwo) {
-    const qint32 recipe = RecipeStore::AddRecipe();
+TEST_F(RecipeBookTest, DeletingARecipeOfThreeIngredientsLeavesTwo) {
+    const qint32 recipe = RecipeBook::AddRecipe();
     AddIngredients(recipe, 3);
-    RecipeStore::DeleteRecipe(recipe);
+    RecipeBook::DeleteRecipe(recipe);
     EXPECT_EQ(Count("Recipes"), 0);
     const auto left = Rows(UserDB(), "SELECT FoodName, RecipeID FROM Ingredients ORDER BY ID");
     ASSERT_EQ(left.size(), 2);
@@ -63,43 +63,43 @@ TEST_F(RecipeStoreTest, DeletingARecipeOfThreeIngredientsLeavesTwo) {
     EXPECT_EQ(left[1], (QVariantList{"Food 3", qlonglong(recipe)}));
 }
 
-TEST_F(RecipeStoreTest, DeletingTouchesNoOtherRecipe) {
-    const qint32 kept = RecipeStore::AddRecipe();
+TEST_F(RecipeBookTest, DeletingTouchesNoOtherRecipe) {
+    const qint32 kept = RecipeBook::AddRecipe();
     AddIngredients(kept, 2);
-    const qint32 gone = RecipeStore::AddRecipe();
+    const qint32 gone = RecipeBook::AddRecipe();
     AddIngredients(gone, 1);
-    RecipeStore::DeleteRecipe(gone);
+    RecipeBook::DeleteRecipe(gone);
     EXPECT_EQ(Count("Recipes", "RecipeID = " + QString::number(kept)), 1);
     EXPECT_EQ(Count("Ingredients"), 2);
 }
 
-TEST_F(RecipeStoreTest, DeletingARecipeWithoutIngredientsRemovesTheRecipe) {
-    RecipeStore::DeleteRecipe(RecipeStore::AddRecipe());
+TEST_F(RecipeBookTest, DeletingARecipeWithoutIngredientsRemovesTheRecipe) {
+    RecipeBook::DeleteRecipe(RecipeBook::AddRecipe());
     EXPECT_EQ(Count("Recipes"), 0);
 }
 
-TEST_F(RecipeStoreTest, DeletingARecipeThatIsGoneDoesNothing) {
-    RecipeStore::AddRecipe();
-    RecipeStore::DeleteRecipe(4711);
+TEST_F(RecipeBookTest, DeletingARecipeThatIsGoneDoesNothing) {
+    RecipeBook::AddRecipe();
+    RecipeBook::DeleteRecipe(4711);
     EXPECT_EQ(Count("Recipes"), 1);
 }
 
-TEST_F(RecipeStoreTest, WhatIngredientsADeletedRecipeLeavesAreNoNewRecipesOwn) {
-    const qint32 gone = RecipeStore::AddRecipe();
+TEST_F(RecipeBookTest, WhatIngredientsADeletedRecipeLeavesAreNoNewRecipesOwn) {
+    const qint32 gone = RecipeBook::AddRecipe();
     AddIngredients(gone, 3);
-    RecipeStore::DeleteRecipe(gone);
-    EXPECT_EQ(RecipeStore::CaloriesPerServing(RecipeStore::AddRecipe(), "1"), "Calories: --");
+    RecipeBook::DeleteRecipe(gone);
+    EXPECT_EQ(RecipeBook::CaloriesPerServing(RecipeBook::AddRecipe(), "1"), "Calories: --");
 }
 
-TEST_F(RecipeStoreTest, ARecipeWithoutIngredientsShowsNoCalories) {
-    const qint32 recipe = RecipeStore::AddRecipe();
-    EXPECT_EQ(RecipeStore::CaloriesPerServing(recipe, "4"), "Calories: --");
+TEST_F(RecipeBookTest, ARecipeWithoutIngredientsShowsNoCalories) {
+    const qint32 recipe = RecipeBook::AddRecipe();
+    EXPECT_EQ(RecipeBook::CaloriesPerServing(recipe, "4"), "Calories: --");
     const auto sums = Rows(UserDB(), RecipeSumSQL(recipe));
     ASSERT_EQ(sums.size(), 1);
     EXPECT_EQ(sums[0], QVariantList(NutrientCount, QVariant()));
 }
 
-TEST_F(RecipeStoreTest, CaloriesAreDividedByTheYieldAndRoundedHalfToEven) {
+TEST_F(RecipeBookTest, CaloriesAreDividedByTheYieldAndRoundedHalfToEven) {
     EXPECT_EQ(Caption(1000, "3"), "Calories: 333 per serving");
     EXPECT_EQ(Caption(5, "2"), "Calories: 2 per serving");
     EXPECT_EQ(Caption(7, "2"), "Calories: 4 per serving");
@@ -109,12 +109,12 @@ TEST_F(RecipeStoreTest, CaloriesAreDividedByTheYieldAndRoundedHalfToEven) {
     EXPECT_EQ(Caption(-10, "4"), "Calories: -2 per serving");
 }
 
-TEST_F(RecipeStoreTest, AYieldOfZeroDividesByOne) {
+TEST_F(RecipeBookTest, AYieldOfZeroDividesByOne) {
     for (const char* yield : {"0", "", "abc", "-0", "0.0", "servings: 4", "1e400"})
         EXPECT_EQ(Caption(300, yield), "Calories: 300 per serving") << yield;
 }
 
-TEST_F(RecipeStoreTest, TheYieldIsTheLeadingNumberOfTheCaption) {
+TEST_F(RecipeBookTest, TheYieldIsTheLeadingNumberOfTheCaption) {
     EXPECT_EQ(Caption(300, "2.5"), "Calories: 120 per serving");
     EXPECT_EQ(Caption(300, " 3 bowls"), "Calories: 100 per serving");
     EXPECT_EQ(Caption(300, "1 0"), "Calories: 30 per serving");
@@ -122,35 +122,35 @@ TEST_F(RecipeStoreTest, TheYieldIsTheLeadingNumberOfTheCaption) {
     EXPECT_EQ(Caption(300, "3,9"), "Calories: 100 per serving");
 }
 
-TEST_F(RecipeStoreTest, TheYieldComesFromTheCaptionAndNotFromTheRow) {
+TEST_F(RecipeBookTest, TheYieldComesFromTheCaptionAndNotFromTheRow) {
     const qint32 recipe = AddRecipe("Soup", "1 bowl"); // its row says 4
     AddIngredient(recipe, {{"Calories", 400}});
-    EXPECT_EQ(RecipeStore::CaloriesPerServing(recipe, "2"), "Calories: 200 per serving");
+    EXPECT_EQ(RecipeBook::CaloriesPerServing(recipe, "2"), "Calories: 200 per serving");
 }
 
-TEST_F(RecipeStoreTest, AFigureThatFitsNoWholeNumberIsNoReasonToFail) {
+TEST_F(RecipeBookTest, AFigureThatFitsNoWholeNumberIsNoReasonToFail) {
     EXPECT_EQ(Caption(300, "1e-300"), "Calories: --");
     EXPECT_EQ(Caption(2147483647, "1"), "Calories: 2147483647 per serving");
     EXPECT_EQ(Caption(2147483648.0, "1"), "Calories: --");
 }
 
-TEST_F(RecipeStoreTest, CaloriesThatAreAllNullCountAsNone) {
+TEST_F(RecipeBookTest, CaloriesThatAreAllNullCountAsNone) {
     const qint32 recipe = AddRecipe("Soup", "1 bowl");
     AddIngredient(recipe, {{"Protein", 4}});
-    EXPECT_EQ(RecipeStore::CaloriesPerServing(recipe, "1"), "Calories: --");
+    EXPECT_EQ(RecipeBook::CaloriesPerServing(recipe, "1"), "Calories: --");
     AddIngredient(recipe, {{"Calories", 12}});
-    EXPECT_EQ(RecipeStore::CaloriesPerServing(recipe, "1"), "Calories: 12 per serving");
+    EXPECT_EQ(RecipeBook::CaloriesPerServing(recipe, "1"), "Calories: 12 per serving");
 }
 
-TEST_F(RecipeStoreTest, LoggingTheWholeRecipeTakesNoAccountOfTheYield) {
+TEST_F(RecipeBookTest, LoggingTheWholeRecipeTakesNoAccountOfTheYield) {
     const qint32 recipe = AddRecipe("Soup", "1 bowl"); // makes 4
     AddIngredients(recipe, 4, 100);
     EXPECT_EQ(ScaledFood::FromRecipe(recipe, 1).Amount("Calories"), 400);
-    EXPECT_EQ(RecipeStore::CaloriesPerServing(recipe, "4"), "Calories: 100 per serving");
+    EXPECT_EQ(RecipeBook::CaloriesPerServing(recipe, "4"), "Calories: 100 per serving");
 }
 
 /// Nothing may push the name of a food to another place, so all that follows is looked at, too.
-TEST_F(RecipeStoreTest, TheNutrientsStandInOneOrderInNewAndInDeliveredFiles) {
+TEST_F(RecipeBookTest, TheNutrientsStandInOneOrderInNewAndInDeliveredFiles) {
     const auto agree = [](Connection& connection, const QString& source, int first) {
         const Recordset rows(connection, source);
         for (int i = 0; i < NutrientCount; ++i)
@@ -174,8 +174,8 @@ TEST_F(RecipeStoreTest, TheNutrientsStandInOneOrderInNewAndInDeliveredFiles) {
     EXPECT_EQ(Foods("SELECT max(ID) FROM FOODS").toInt(), 23508);
 }
 
-TEST_F(RecipeStoreTest, AmountsGoByPlaceAndTextsByKey) {
-    RecipeStore::AddIngredient(7, Counting("Flour", 2.5));
+TEST_F(RecipeBookTest, AmountsGoByPlaceAndTextsByKey) {
+    RecipeBook::AddIngredient(7, Counting("Flour", 2.5));
     const QVariantList amounts = Amounts("1");
     ASSERT_EQ(amounts.size(), NutrientCount);
     for (int i = 0; i < NutrientCount; ++i)
@@ -184,13 +184,13 @@ TEST_F(RecipeStoreTest, AmountsGoByPlaceAndTextsByKey) {
               (QVariantList{"Flour", "1 cup", 7LL, 2.5}));
 }
 
-TEST_F(RecipeStoreTest, EveryAmountOfACatalogueFoodReachesTheColumnOfItsName) {
+TEST_F(RecipeBookTest, EveryAmountOfACatalogueFoodReachesTheColumnOfItsName) {
     FoodRow food{.id = 7, .name = "Flour", .gramsA = 100.0};
     double amount = 0;
     for (const NutrientInfo& nutrient : Nutrients())
         food.nutrients[QLatin1String(nutrient.profileColumn)] = amount += 0.25;
     AddFood(food);
-    RecipeStore::AddIngredient(1, ScaledFood::FromCatalogue(7, "A", 2));
+    RecipeBook::AddIngredient(1, ScaledFood::FromCatalogue(7, "A", 2));
     amount = 0;
     for (const NutrientInfo& nutrient : Nutrients()) {
         const QString column = QLatin1String(nutrient.logColumn);
@@ -200,14 +200,14 @@ TEST_F(RecipeStoreTest, EveryAmountOfACatalogueFoodReachesTheColumnOfItsName) {
     }
 }
 
-TEST_F(RecipeStoreTest, ARecipeAsAnIngredientKeepsEveryAmountInTheColumnOfItsName) {
+TEST_F(RecipeBookTest, ARecipeAsAnIngredientKeepsEveryAmountInTheColumnOfItsName) {
     const qint32 soup = AddRecipe("Soup", "1 bowl");
     QMap<QString, double> amounts;
     for (const NutrientInfo& nutrient : Nutrients())
         amounts[QLatin1String(nutrient.logColumn)] = double(amounts.size()) + 1.25;
     AddIngredient(soup, amounts);
     const qint32 stew = AddRecipe("Stew", "1 plate");
-    RecipeStore::AddIngredient(stew, ScaledFood::FromRecipe(soup, 2));
+    RecipeBook::AddIngredient(stew, ScaledFood::FromRecipe(soup, 2));
     const QString own = " FROM Ingredients WHERE RecipeID = " + QString::number(stew);
     for (const auto& [column, amount] : amounts.asKeyValueRange())
         EXPECT_DOUBLE_EQ(Users("SELECT " + column + own).toDouble(), 2 * amount)
@@ -215,65 +215,65 @@ TEST_F(RecipeStoreTest, ARecipeAsAnIngredientKeepsEveryAmountInTheColumnOfItsNam
     EXPECT_EQ(Users("SELECT FoodName" + own).toString(), "Soup");
 }
 
-TEST_F(RecipeStoreTest, ARecipeOfARecipeHasTheSameCalories) {
+TEST_F(RecipeBookTest, ARecipeOfARecipeHasTheSameCalories) {
     const qint32 filling = AddRecipe("Filling", "1 bowl");
     AddIngredient(filling, {{"Calories", 2537}, {"VitaminC", 11}});
     const qint32 pie = AddRecipe("Pie", "1 pie");
-    RecipeStore::AddIngredient(pie, ScaledFood::FromRecipe(filling, 1));
-    EXPECT_EQ(RecipeStore::CaloriesPerServing(pie, "1"), "Calories: 2537 per serving");
+    RecipeBook::AddIngredient(pie, ScaledFood::FromRecipe(filling, 1));
+    EXPECT_EQ(RecipeBook::CaloriesPerServing(pie, "1"), "Calories: 2537 per serving");
 }
 
-TEST_F(RecipeStoreTest, ALaterChangeOfTheCatalogueChangesNoRecipe) {
+TEST_F(RecipeBookTest, ALaterChangeOfTheCatalogueChangesNoRecipe) {
     AddFood({.id = 7, .name = "Flour", .gramsA = 100.0, .nutrients = {{"Calories", 364}}});
-    const qint32 recipe = RecipeStore::AddRecipe();
-    RecipeStore::AddIngredient(recipe, ScaledFood::FromCatalogue(7, "A", 1));
+    const qint32 recipe = RecipeBook::AddRecipe();
+    RecipeBook::AddIngredient(recipe, ScaledFood::FromCatalogue(7, "A", 1));
     FoodDB().Raw().exec("UPDATE FOODS SET Calories = 1, FoodName = 'Sand'");
-    EXPECT_EQ(RecipeStore::CaloriesPerServing(recipe, "1"), "Calories: 364 per serving");
+    EXPECT_EQ(RecipeBook::CaloriesPerServing(recipe, "1"), "Calories: 364 per serving");
     EXPECT_EQ(Users("SELECT FoodName FROM Ingredients").toString(), "Flour");
 }
 
-TEST_F(RecipeStoreTest, TheSameIngredientTwiceGivesTwoRows) {
-    RecipeStore::AddIngredient(1, Counting());
-    RecipeStore::AddIngredient(1, Counting());
+TEST_F(RecipeBookTest, TheSameIngredientTwiceGivesTwoRows) {
+    RecipeBook::AddIngredient(1, Counting());
+    RecipeBook::AddIngredient(1, Counting());
     EXPECT_EQ(Count("Ingredients"), 2);
 }
 
-TEST_F(RecipeStoreTest, AnItemThatMissesAnEntryLeavesNoHalfWrittenRow) {
+TEST_F(RecipeBookTest, AnItemThatMissesAnEntryLeavesNoHalfWrittenRow) {
     ScaledFood item;
     item.Add(QStringLiteral("Calories"), 1.0);
-    EXPECT_EQ(FailureOf([&] { RecipeStore::AddIngredient(1, item); }), 9);
+    EXPECT_EQ(FailureOf([&] { RecipeBook::AddIngredient(1, item); }), 9);
     EXPECT_EQ(Count("Ingredients"), 0);
-    RecipeStore::AddIngredient(1, Counting());
+    RecipeBook::AddIngredient(1, Counting());
     EXPECT_EQ(Count("Ingredients"), 1);
 }
 
-TEST_F(RecipeStoreTest, ARowThatTheStoreRefusesLeavesNothing) {
+TEST_F(RecipeBookTest, ARowThatTheStoreRefusesLeavesNothing) {
     UserDB().Raw().exec("CREATE TRIGGER full BEFORE INSERT ON Ingredients "
                         "BEGIN SELECT RAISE(ABORT, 'full'); END");
-    EXPECT_LT(FailureOf([&] { RecipeStore::AddIngredient(1, Counting()); }), 0);
+    EXPECT_LT(FailureOf([&] { RecipeBook::AddIngredient(1, Counting()); }), 0);
     UserDB().Raw().exec("DROP TRIGGER full");
     EXPECT_EQ(Count("Ingredients"), 0);
 }
 
-TEST_F(RecipeStoreTest, AwkwardTextsAreKeptToTheLetter) {
+TEST_F(RecipeBookTest, AwkwardTextsAreKeptToTheLetter) {
     const QStringList names{"O'Brien's '); DROP TABLE Ingredients; --",
                             QStringLiteral("100 % of_[all] ^ ~ | \U0001F96A"), QString(10000, u'x'),
                             "<b>bold</b>", ""};
     for (const QString& name : names)
-        RecipeStore::AddIngredient(1, Counting(name));
+        RecipeBook::AddIngredient(1, Counting(name));
     const auto rows = Rows(UserDB(), "SELECT FoodName FROM Ingredients ORDER BY ID");
     ASSERT_EQ(rows.size(), names.size());
     for (int i = 0; i < names.size(); ++i)
         EXPECT_EQ(rows[i][0].toString(), names[i]);
 }
 
-TEST_F(RecipeStoreTest, OneIngredientIsRemovedByItsOwnKey) {
+TEST_F(RecipeBookTest, OneIngredientIsRemovedByItsOwnKey) {
     AddIngredients(1, 3);
-    RecipeStore::RemoveIngredient(2);
+    RecipeBook::RemoveIngredient(2);
     const auto left = Rows(UserDB(), "SELECT ID FROM Ingredients ORDER BY ID");
     EXPECT_EQ(left, (QList<QVariantList>{{1LL}, {3LL}}));
 }
 
-TEST_F(RecipeStoreTest, RemovingAnIngredientThatIsGoneFails) {
-    EXPECT_EQ(FailureOf([] { RecipeStore::RemoveIngredient(4711); }), 3021);
+TEST_F(RecipeBookTest, RemovingAnIngredientThatIsGoneFails) {
+    EXPECT_EQ(FailureOf([] { RecipeBook::RemoveIngredient(4711); }), 3021);
 }
