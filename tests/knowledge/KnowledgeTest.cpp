@@ -1,0 +1,167 @@
+#include "analysis/LoggedSums.h"
+#include "foods/FoodSearch.h"
+#include "foods/Meals.h"
+#include "foods/Quantity.h"
+#include "foods/ScaledFood.h"
+#include "foods/SearchTerms.h"
+#include "intake/DayLog.h"
+#include "model/User.h"
+#include "recipes/RecipeBook.h"
+#include "runtime/AppState.h"
+#include "runtime/Round.h"
+#include "store/Connection.h"
+#include "support/Places.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <SQLiteCpp/SQLiteCpp.h>
+
+#include <gtest/gtest.h>
+
+/// The delivered files and one person, without a window, a display or an application object.
+class KnowledgeTest : public ::testing::Test {
+protected:
+    static constexpr int lunch = 1;
+    static constexpr qint32 stockFood = 23508;
+
+    void SetUp() override {
+        ResetApp();
+        User::ResetCurrent();
+        Open(UserDB(), "users.mdb", DatabaseKind::Users);
+        Open(FoodDB(), "foods.mdb", DatabaseKind::Foods);
+        AddPerson();
+    }
+    void TearDown() override {
+        UserDB().Close();
+        FoodDB().Close();
+        User::ResetCurrent();
+        ResetApp();
+    }
+
+    void Open(Connection& connection, const QString& name, DatabaseKind kind) {
+        const QString path = folder_.filePath(name);
+        ASSERT_TRUE(QFile::copy(Places::Build("/delivered/" + name), path));
+        connection.Open(path, kind);
+    }
+    /// A man of 40 years and 70 inches who weighs 200 pounds and wants to weigh 170.
+    static void AddPerson() {
+        SQLite::Database& users = UserDB().Raw();
+        users.exec("INSERT INTO profiles (UserName, gender, age, height, current_weight, "
+                   "desired_weight, activity_level, flagsodium, flagcholesterol, sodiumMAX, "
+                   "cholesterolMAX) VALUES ('Ben', 1, 40, 70, 200, 170, 2, 0, 0, 0, 0)");
+        User& user = User::Current();
+        user.UID = static_cast<qint32>(users.getLastInsertRowid());
+        user.GetUserProfile(user.UID);
+    }
+    static qint32 MakeSoup() {
+        const qint32 soup = RecipeBook::AddRecipe();
+        RecipeTexts texts = RecipeBook::Read(soup);
+        texts[RecipeField::Name] = "Soup";
+        texts[RecipeField::Serving] = "1 bowl";
+        texts[RecipeField::Yield] = "4";
+        EXPECT_EQ(RecipeBook::SaveRecipe(soup, texts), nullptr);
+        for (const double quantity : {1.0, 2.5})
+            RecipeBook::AddIngredient(soup, ScaledFood::FromCatalogue(stockFood, "A", quantity));
+        return soup;
+    }
+    static double StockCalories() {
+        return ScaledFood::FromCatalogue(stockFood, "A", 1).Amount("Calories");
+    }
+
+    const QDate day_{2002, 3, 4};
+    QTemporaryDir folder_;
+};
+
+TEST_F(KnowledgeTest, AFoodIsFoundLoggedSummedAndRemoved) {
+    const FoodList found = FoodSearch::Find(SearchTerms("lentil"), {false, false, true});
+    ASSERT_GT(found.Count(), 0);
+    const ScaledFood lentils = ScaledFood::FromCatalogue(found.Item(1).ID, "A", 2);
+    ASSERT_GT(lentils.Amount("Calories"), 0);
+    DayLog::AddFood(lentils, Meals::Names[lunch], day_);
+    const std::vector<LoggedFood> logged = DayLog::FoodsOf(lunch, day_);
+    ASSERT_EQ(logged.size(), 1U);
+    EXPECT_EQ(logged[0].name, found.Item(1).FoodName);
+    EXPECT_EQ(logged[0].serving, lentils.Text("SERVING"));
+    EXPECT_EQ(logged[0].quantity, 2);
+    const std::optional<Nuts> totals = LoggedSums::OfDay(day_);
+    ASSERT_TRUE(totals);
+    EXPECT_EQ(totals->Calories(), Round(lentils.Amount("Calories")));
+    EXPECT_DOUBLE_EQ(totals->Protein(), lentils.Amount("Protein"));
+    DayLog::RemoveFood(logged[0].RecID);
+    EXPECT_TRUE(DayLog::FoodsOf(lunch, day_).empty());
+    EXPECT_FALSE(LoggedSums::OfDay(day_));
+}
+
+TEST_F(KnowledgeTest, ARecipeIsMadeOfIngredientsAndLoggedAsTheirSum) {
+    const qint32 soup = MakeSoup();
+    const std::vector<Ingredient> ingredients = RecipeBook::Ingredients(soup);
+    ASSERT_EQ(ingredients.size(), 2U);
+    EXPECT_EQ(ingredients[1].quantity, 2.5);
+    const double calories = 3.5 * StockCalories();
+    EXPECT_EQ(RecipeBook::CaloriesPerServing(soup, "4"),
+              QString("Calories: %1 per serving").arg(Round(calories / 4)));
+    DayLog::AddFood(ScaledFood::FromRecipe(soup, 2), Meals::Names[lunch], day_);
+    EXPECT_EQ(DayLog::FoodsOf(lunch, day_).at(0).name, "Soup");
+    EXPECT_EQ(LoggedSums::OfDay(day_)->Calories(), Round(2 * calories));
+}
+
+TEST_F(KnowledgeTest, ARecipeThatBreaksARuleIsNotWritten) {
+    const qint32 recipe = RecipeBook::AddRecipe();
+    RecipeTexts texts = RecipeBook::Read(recipe);
+    texts[RecipeField::Name] = "Soup";
+    const RecipeCheck* failed = RecipeBook::SaveRecipe(recipe, texts);
+    ASSERT_NE(failed, nullptr);
+    EXPECT_EQ(failed->field, RecipeField::Serving);
+    EXPECT_STREQ(failed->message, "Please give your new recipe a serving size.");
+    EXPECT_EQ(RecipeBook::Read(recipe)[RecipeField::Name], "My Recipe");
+}
+
+TEST_F(KnowledgeTest, AnEmptyTextOfARecipeIsNotNullAndAMissingOneIs) {
+    const qint32 recipe = RecipeBook::AddRecipe();
+    UserDB().Raw().exec("UPDATE Recipes SET Instructions = NULL");
+    const RecipeTexts texts = RecipeBook::Read(recipe);
+    EXPECT_FALSE(texts[RecipeField::Serving].isNull());
+    EXPECT_TRUE(texts[RecipeField::Serving].isEmpty());
+    EXPECT_TRUE(texts[RecipeField::Instructions].isNull());
+}
+
+TEST_F(KnowledgeTest, TargetsAreDerivedFromAProfileAndFollowALoggedWeight) {
+    User& ben = User::Current();
+    ben.CreateDefaultRDIs();
+    EXPECT_EQ(ben.RDIs.Calories(), 3149);
+    App().AppInfo.AUTOUPDATERDI = true;
+    DayLog::SetWeight(day_, 180.4);
+    EXPECT_TRUE(DayLog::TakeWeight(DayLog::Weight(day_)));
+    EXPECT_EQ(ben.CurrentWeight, 180);
+    EXPECT_EQ(ben.RDIs.Calories(), 2913);
+    EXPECT_EQ(UserDB().Raw().execAndGet("SELECT Calories FROM profiles").getInt(), 2913);
+}
+
+TEST_F(KnowledgeTest, AWeightThatIsRefusedSaysWhyAndChangesNothing) {
+    EXPECT_EQ(DayLog::WeightRefusal(1'000'000), "");
+    EXPECT_EQ(DayLog::WeightRefusal(0.1), "");
+    EXPECT_TRUE(DayLog::WeightRefusal(0).startsWith("Please enter a valid weight"));
+    EXPECT_TRUE(DayLog::WeightRefusal(-1).startsWith("Please enter a valid weight"));
+    EXPECT_TRUE(DayLog::WeightRefusal(1'000'001).startsWith("Please enter a weight of 1,000,000"));
+    EXPECT_FALSE(DayLog::TakeWeight(0));
+    EXPECT_EQ(User::Current().CurrentWeight, 200);
+}
+
+TEST_F(KnowledgeTest, AWeightOf0TakesTheEntryOfTheDayBack) {
+    EXPECT_EQ(DayLog::Weight(day_), 0);
+    DayLog::SetWeight(day_, 150.5);
+    EXPECT_EQ(DayLog::Weight(day_), 150.5);
+    DayLog::SetWeight(day_, 0);
+    EXPECT_EQ(DayLog::Weight(day_), 0);
+    EXPECT_EQ(UserDB().Raw().execAndGet("SELECT count(*) FROM USER_WEIGHTS").getInt(), 1);
+}
+
+TEST(Quantities, AreLoggedUpTo99AndExaminedBeyond) {
+    for (const double accepted : {0.05, 1.0, 99.0, -1.0})
+        EXPECT_EQ(Quantity::LogRefusal(accepted), "") << accepted;
+    for (const double refused : {0.0, 99.01})
+        EXPECT_EQ(Quantity::LogRefusal(refused), "Please enter a quantity (QTY) between .1 and 99");
+    EXPECT_EQ(Quantity::ExamineRefusal(0), "Please enter a valid quantity (between .1 and 99)");
+    EXPECT_EQ(Quantity::ExamineRefusal(100), "");
+}
