@@ -15,7 +15,7 @@
 
 namespace {
 
-constexpr QSize iconSize(64, 64);
+constexpr QSize IconSize(64, 64);
 
 } // namespace
 
@@ -25,7 +25,7 @@ Application::Application(int& argc, char** argv)
     setApplicationVersion(QStringLiteral(HALVANE_VERSION));
     setDesktopFileName(QStringLiteral("halvane"));
     setQuitOnLastWindowClosed(false); // closing the frame runs QuitApp, and that ends the process
-    setWindowIcon(QIcon(Pictures::Get(QStringLiteral("logo"), iconSize)));
+    setWindowIcon(QIcon(Pictures::Get(QStringLiteral("logo"), IconSize)));
     ApplyStyle(*this);
     TheSeams().EndProcess = [this](int exitCode) { EndNow(exitCode); };
 }
@@ -39,8 +39,8 @@ bool Application::notify(QObject* receiver, QEvent* event) {
     return true;
 }
 
-/// The message runs an event loop of its own, in which the screens behind it may fail again: those
-/// failures follow from the first and stay unsaid.
+/// The message has its own event loop, in which other screens may fail too. Those failures follow
+/// from the first and are not shown.
 void Application::Fail(const std::exception& error) {
     if (failing_)
         return;

@@ -6,8 +6,8 @@
 
 #include <exception>
 
-/// The application object. Its `notify` is where every failure ends that no routine has handled: a
-/// message says what failed, then the process ends. What was committed before stays.
+/// The application object. Every failure that no routine handles ends in its `notify`: a message
+/// says what failed, then the process ends. Whatever was committed before stays.
 class Application : public QApplication {
     Q_OBJECT
 

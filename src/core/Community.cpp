@@ -1,18 +1,18 @@
 #include "core/Community.h"
 
 #include "core/OpenURL.h"
-#include "core/SettingNames.h"
 #include "runtime/Server.h"
+#include "runtime/SettingTable.h"
 #include "runtime/Settings.h"
 
 #include <QUuid>
 
 QString Community::InstallationID() {
-    const QUuid stored = QUuid::fromString(GetRegValue(SettingNames::Installation));
+    const QUuid stored = QUuid::fromString(GetRegValue(Settings::Installation));
     if (!stored.isNull())
         return stored.toString(QUuid::WithoutBraces);
     const QString made = QUuid::createUuid().toString(QUuid::WithoutBraces);
-    SetRegValue(SettingNames::Installation, made);
+    SetRegValue(Settings::Installation, made);
     return made;
 }
 

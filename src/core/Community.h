@@ -2,10 +2,10 @@
 
 #include <QString>
 
-/// The web pages on which recipes are shared. They are told which installation asks, by a random
-/// identifier, and nothing about the person.
+/// The web pages for sharing recipes. They receive a random identifier of this installation and
+/// nothing about the user.
 namespace Community {
-/// Made when it is first asked for, and kept in the settings store.
+/// Created on first use and kept in the settings.
 QString InstallationID();
 QString Address();
 void Open(); ///< in the browser

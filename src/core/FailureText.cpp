@@ -4,16 +4,13 @@
 
 namespace {
 
-constexpr int outOfMemory = 7;
-constexpr int refusedStatement = -1;
-
 struct Advice {
     int number;
     const char* text;
 };
 
 /// What the person can do, by the number of the failure.
-constexpr Advice advices[] = {
+constexpr Advice Advices[] = {
     {ErrorNumber::Overflow, "A number that was entered is too large. Please start Halvane again "
                             "and enter a smaller one."},
     {ErrorNumber::TypeMismatch,
@@ -23,14 +20,16 @@ constexpr Advice advices[] = {
                                 "back, or install Halvane again; your own data is not touched."},
     {ErrorNumber::InvalidUseOfNull, "A row of the database has no value where one is needed. "
                                     "Please fill it in, or bring back a copy of the file."},
-    {outOfMemory, "The computer has run out of memory. Please close other programs and start "
-                  "Halvane again."},
-    {refusedStatement, "A name or a search term holds a character that cannot stand there, such as "
-                       "an apostrophe ('). Please start Halvane again and leave it out."},
+    {ErrorNumber::OutOfMemory,
+     "The computer has run out of memory. Please close other programs and start "
+     "Halvane again."},
+    {ErrorNumber::RefusedStatement,
+     "A name or a search term holds a character that cannot stand there, such as "
+     "an apostrophe ('). Please start Halvane again and leave it out."},
 };
 
 QString AdviceFor(int number) {
-    for (const Advice& advice : advices)
+    for (const Advice& advice : Advices)
         if (advice.number == number)
             return QString::fromLatin1(advice.text);
     return QStringLiteral("Please start Halvane again.");
@@ -44,7 +43,7 @@ const RuntimeError* AsRuntimeError(const std::exception& error) {
 
 int FailureText::Number(const std::exception& error) {
     const RuntimeError* known = AsRuntimeError(error);
-    return known ? known->Number() : outOfMemory;
+    return known ? known->Number() : ErrorNumber::OutOfMemory;
 }
 
 QString FailureText::Description(const std::exception& error) {

@@ -4,8 +4,8 @@
 
 #include <exception>
 
-/// What the program says of a failure. A failure other than a RuntimeError (memory has run out)
-/// counts as number 7.
+/// The texts for a failure. An exception other than RuntimeError means that memory has run out:
+/// number 7.
 namespace FailureText {
 int Number(const std::exception& error);
 QString Description(const std::exception& error);
@@ -13,6 +13,6 @@ QString Description(const std::exception& error);
 /// "description (number)": for one line.
 QString Short(const std::exception& error);
 
-/// The message of a failure that nothing has handled: what it was, and what the person can do.
+/// The message for an unhandled failure: what failed, and what the user can do.
 QString Unhandled(const std::exception& error);
 } // namespace FailureText

@@ -1,7 +1,6 @@
 #include "core/Flow.h"
 
 #include "core/Navigation.h"
-#include "core/SettingNames.h"
 #include "core/SingleInstance.h"
 #include "core/StartFailure.h"
 #include "core/StartSettings.h"
@@ -15,6 +14,7 @@
 #include "runtime/AppState.h"
 #include "runtime/RuntimeError.h"
 #include "runtime/Seams.h"
+#include "runtime/SettingTable.h"
 #include "runtime/Settings.h"
 #include "store/Connection.h"
 #include "store/Recordset.h"
@@ -25,9 +25,9 @@
 
 namespace {
 
-/// A step of the start: the file it depends on, and what it does. False ends the start there.
+/// A step of the start. A step that returns false ends the start without an error.
 struct Step {
-    const char* file;
+    const char* name; ///< in the line that reports a failure
     bool (*run)();
 };
 
@@ -49,7 +49,7 @@ bool ReadFirstSettings() {
 bool AskAgreement() {
     if (StartSettings::Agreed() || frmEULA::Ask())
         return true;
-    EndProcess(0);
+    EndProcess();
     return false;
 }
 
@@ -68,7 +68,7 @@ bool ChooseTip() {
     return true;
 }
 
-/// The first row's user is loaded; nothing chooses between several profiles.
+/// Loads the first row; the program never chooses between several profiles.
 bool LoadFirstUser() {
     User::ResetCurrent();
     Recordset profiles(UserDB(), QStringLiteral("SELECT * FROM profiles"), Cursor::Static,
@@ -91,7 +91,7 @@ bool ShowFirstWindow() {
     return true;
 }
 
-constexpr Step steps[] = {
+constexpr Step Steps[] = {
     {"users.mdb", OpenUsers},    {"foods.mdb", OpenFoods},     {"settings", ReadFirstSettings},
     {"agreement", AskAgreement}, {"splash", ShowSplash},       {"settings", ReadSettings},
     {"tips.txt", ChooseTip},     {"users.mdb", LoadFirstUser}, {"first window", ShowFirstWindow},
@@ -101,8 +101,8 @@ void StorePosition() {
     if (!TheNavigation().HasFrame())
         return;
     const QPoint place = TheNavigation().Frame()->Place();
-    SetRegValue(SettingNames::Left, QString::number(Twips::FromPixels(place.x())));
-    SetRegValue(SettingNames::Top, QString::number(Twips::FromPixels(place.y())));
+    SetRegValue(Settings::Left, QString::number(Twips::FromPixels(place.x())));
+    SetRegValue(Settings::Top, QString::number(Twips::FromPixels(place.y())));
 }
 
 void CloseForms() {
@@ -115,7 +115,7 @@ void CloseConnections() {
     FoodDB().Close();
 }
 
-/// The frame where it stands open, else whichever window does.
+/// The frame if it is visible, otherwise any visible window.
 QWidget* AnyWindow() {
     if (TheNavigation().HasFrame() && TheNavigation().Frame()->isVisible())
         return TheNavigation().Frame();
@@ -134,12 +134,12 @@ int Flow::Main(SingleInstance& instance) {
         return 0;
     QObject::connect(&instance, &SingleInstance::Activated, qApp, &Flow::BringForward);
     App().AppStarted = true;
-    for (const Step& step : steps) {
+    for (const Step& step : Steps) {
         try {
             if (!step.run())
                 return 0;
         } catch (const std::exception& error) {
-            StartFailure::Report(error, QString::fromLatin1(step.file));
+            StartFailure::Report(error, QString::fromLatin1(step.name));
             return 1;
         }
     }

@@ -4,14 +4,14 @@ class SingleInstance;
 
 /// Start and end of the program.
 namespace Flow {
-/// Everything from the single-instance test to the first window, step by step; the first step that
-/// fails is the last. Returns the exit code of a process that is left without a window.
+/// Runs the steps from the single-instance test to the first window; the first step that fails ends
+/// it. Returns the exit code for the case that no window is open.
 int Main(SingleInstance& instance);
 
-/// The one way out: stores the frame's place, closes every form and both connections, and ends the
-/// process.
+/// The only way out: saves the position of the frame, closes every form and both connections, and
+/// ends the process.
 void QuitApp();
 
-bool HasWindow();    ///< any window stands open
-void BringForward(); ///< the frame to the front, and the dialog that takes the input before it
+bool HasWindow();    ///< a window is open
+void BringForward(); ///< the frame, and a modal dialog in front of it
 } // namespace Flow

@@ -7,11 +7,11 @@
 
 namespace {
 
-constexpr QSize leastGrip(64, 16); ///< of the title that must be within reach of the pointer
+constexpr QSize LeastGrip(64, 16); ///< of the title that must be within reach of the pointer
 
 bool HoldsGrip(const QRect& screen, const QRect& title) {
     const QRect seen = screen.intersected(title);
-    return seen.width() >= leastGrip.width() && seen.height() >= leastGrip.height();
+    return seen.width() >= LeastGrip.width() && seen.height() >= LeastGrip.height();
 }
 
 } // namespace

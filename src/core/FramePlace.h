@@ -3,6 +3,6 @@
 #include <QPoint>
 #include <QSize>
 
-/// Where a window of that size stands that was left at `wanted`: there, or in the middle of the
-/// primary screen where its title could not be reached on any screen.
+/// Where to put a window that was left at `wanted`: there, or in the middle of the primary screen
+/// if its title would be out of reach.
 QPoint PlaceOnScreens(QPoint wanted, QSize size, int titleHeight);

@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr int lineHeight = 19; // pixels
+constexpr int LineHeight = 19; // pixels
 
 } // namespace
 
@@ -28,8 +28,8 @@ int LeadedLabel::LayOut(QTextLayout& text, int width) const {
     text.beginLayout();
     for (QTextLine line = text.createLine(); line.isValid(); line = text.createLine()) {
         line.setLineWidth(width);
-        line.setPosition(QPointF(0, top + (lineHeight - line.height()) / 2));
-        top += lineHeight;
+        line.setPosition(QPointF(0, top + (LineHeight - line.height()) / 2));
+        top += LineHeight;
     }
     text.endLayout();
     return top;

@@ -4,7 +4,8 @@
 
 class QTextLayout;
 
-/// A plain text of several lines with room between them. A word too long for a line is broken.
+/// A plain text of several lines with extra line spacing. A word that is too long for a line is
+/// broken.
 class LeadedLabel : public QLabel {
     Q_OBJECT
 

@@ -19,7 +19,7 @@ void Exit(frmHOME& frame) {
     Q_EMIT frame.QuitRequested();
 }
 
-/// A list of recipes that stands in front shows the new one.
+/// If the recipe screen is in front, it shows the imported recipe.
 void ImportRecipes(frmHOME& frame) {
     frmImport(&frame).ShowModal();
     if (auto* recipes = qobject_cast<frmRecipeManager*>(TheNavigation().Front()))
@@ -48,7 +48,7 @@ void About(frmHOME& frame) {
     about.exec();
 }
 
-constexpr std::array<MenuItems::Title, MenuItems::MenuCount> titles = {{
+constexpr std::array<MenuItems::Title, MenuItems::MenuCount> TitleRows = {{
     {"lblFile", "picFile", "File"},
     {"lblEdit", "picEdit", "Edit"},
     {"lblHelp", "picHelp", "Help"},
@@ -58,7 +58,7 @@ using MenuItems::Edit;
 using MenuItems::File;
 using MenuItems::Help;
 
-constexpr std::array<MenuItems::Item, 13> items = {{
+constexpr std::array<MenuItems::Item, 13> ItemRows = {{
     {File, "  New", true, nullptr},
     {File, "  Open", true, nullptr},
     {File, " Import Recipes", true, ImportRecipes},
@@ -77,9 +77,9 @@ constexpr std::array<MenuItems::Item, 13> items = {{
 } // namespace
 
 const std::array<MenuItems::Title, MenuItems::MenuCount>& MenuItems::Titles() {
-    return titles;
+    return TitleRows;
 }
 
 const std::array<MenuItems::Item, 13>& MenuItems::All() {
-    return items;
+    return ItemRows;
 }

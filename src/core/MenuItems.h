@@ -6,7 +6,7 @@
 
 class frmHOME;
 
-/// What the menu bar offers. The place of an item in the table is its index.
+/// The items of the menu bar. The position of an item in the table is its index.
 namespace MenuItems {
 enum Menu { File, Edit, Help };
 inline constexpr int MenuCount = 3;
@@ -21,7 +21,7 @@ struct Item {
     Menu menu;
     const char* caption;
     bool shown;
-    void (*act)(frmHOME& frame); ///< none: the item is greyed
+    void (*act)(frmHOME& frame); ///< null: the item is greyed
 };
 
 const std::array<Title, MenuCount>& Titles();

@@ -54,7 +54,7 @@ int MenuKeys::FocusedTitle() const {
     return -1;
 }
 
-/// To the first title, or away from the bar.
+/// Moves the focus to the first title, or back.
 void MenuKeys::OnBarKey() {
     altAlone_ = false;
     const bool within = bar_->IsOpen() || FocusedTitle() >= 0;
@@ -122,7 +122,7 @@ bool MenuKeys::OnTitleKey(int menu, int key) {
     return true;
 }
 
-/// Alt counts when it is let go, so that it can be held for another key.
+/// Alt counts on release, because it may be held for another key.
 void MenuKeys::OnWindowKey(const QEvent* event) {
     const auto* key = static_cast<const QKeyEvent*>(event);
     const bool isAlt = key->key() == Qt::Key_Alt;

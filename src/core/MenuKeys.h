@@ -7,17 +7,16 @@ class ucMenu;
 class QKeyEvent;
 class QWidget;
 
-/// How the menu bar is worked from the keyboard. F10, or Alt by itself, leads to its titles and
-/// away again; Alt with a title's first letter opens that menu. An open menu takes every key, and
-/// leaves the focus where it is.
+/// The menu bar's keyboard. F10 or Alt alone moves the focus to the titles and back; Alt with a
+/// title's first letter opens its menu. An open menu takes all keys but does not move the focus.
 class MenuKeys : public QObject {
     Q_OBJECT
 
 public:
     explicit MenuKeys(ucMenu* bar);
 
-    bool OnOpenKey(int key); ///< a key while a menu is open; true where it is used up
-    void GiveFocusBack();    ///< to the control that had it before the titles
+    bool OnOpenKey(int key); ///< a key while a menu is open; true if it was used
+    void GiveFocusBack();    ///< to the control that had it before
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -32,6 +31,6 @@ private:
     int FocusedTitle() const;
 
     ucMenu* bar_;
-    QPointer<QWidget> cameFrom_; ///< had the focus before the titles
-    bool altAlone_ = false;      ///< Alt is down, and nothing has been pressed with it
+    QPointer<QWidget> cameFrom_; ///< had the focus before the titles got it
+    bool altAlone_ = false;      ///< Alt is down, and no other key was pressed with it
 };

@@ -8,10 +8,10 @@
 namespace {
 
 // Pixels.
-constexpr int titlePadding = 10;
-constexpr int titleGap = 2;
-constexpr int itemIndent = 16;
-constexpr int itemRoom = 28; // right of the text
+constexpr int TitlePadding = 10;
+constexpr int TitleGap = 2;
+constexpr int ItemIndent = 16;
+constexpr int ItemRoom = 28; // right of the text
 
 } // namespace
 
@@ -28,8 +28,8 @@ MenuLabel::MenuLabel(Kind kind, const QString& name, const QString& caption, QWi
 QSize MenuLabel::sizeHint() const {
     const int text = fontMetrics().horizontalAdvance(caption_.trimmed());
     if (kind_ == Kind::Title)
-        return {text + 2 * titlePadding, TheStyle().headerHeight};
-    return {itemIndent + text + itemRoom, TheStyle().rowHeight};
+        return {text + 2 * TitlePadding, TheStyle().headerHeight};
+    return {ItemIndent + text + ItemRoom, TheStyle().rowHeight};
 }
 
 QAccessible::Role MenuLabel::AccessibleRole() const {
@@ -55,13 +55,13 @@ void MenuLabel::mousePressEvent(QMouseEvent* event) {
         Q_EMIT Click();
 }
 
-/// Titles let the move through, so that the frame takes the highlight off its buttons.
+/// A title passes the move on, so that the frame resets its buttons.
 void MenuLabel::mouseMoveEvent(QMouseEvent* event) {
     RaiseMouseMove(event);
     event->setAccepted(kind_ == Kind::Item);
 }
 
-/// An item keeps its highlight: the keyboard goes on from there.
+/// An item keeps its highlight, because the keyboard continues from it.
 void MenuLabel::leaveEvent(QEvent*) {
     if (kind_ == Kind::Title)
         SetHilited(false);
@@ -82,7 +82,7 @@ void MenuLabel::PaintTitle(QPainter& painter) const {
         const Style::ButtonFace& face = style.button[open_ ? 2 : 1];
         painter.setPen(FocusShown() ? QPen(style.frame, 2) : QPen(face.edge, 1));
         painter.setBrush(open_ ? face.ground.to : face.ground.from);
-        painter.drawRoundedRect(QRectF(rect()).adjusted(1, titleGap + .5, -1, -titleGap - .5),
+        painter.drawRoundedRect(QRectF(rect()).adjusted(1, TitleGap + .5, -1, -TitleGap - .5),
                                 style.buttonRadius, style.buttonRadius);
     }
     painter.setPen(style.ink);
@@ -95,6 +95,6 @@ void MenuLabel::PaintItem(QPainter& painter) const {
         painter.fillRect(rect(), style.chosenRow);
     const QColor& ink = hilited_ ? style.chosenRowText : style.ink;
     painter.setPen(isEnabled() ? ink : style.disabledInk);
-    painter.drawText(rect().adjusted(itemIndent, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter,
+    painter.drawText(rect().adjusted(ItemIndent, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter,
                      caption_.trimmed());
 }

@@ -2,8 +2,8 @@
 
 #include "toolkit/DrawnControl.h"
 
-/// A line of the menu bar: one of its titles, or an item of a panel. It acts as soon as the button
-/// goes down on it. The blanks before a caption are no part of what is drawn or spoken.
+/// A title of the menu bar or an item of a panel. It acts when the mouse button goes down. Leading
+/// blanks of a caption are neither drawn nor spoken.
 class MenuLabel : public DrawnControl {
     Q_OBJECT
     Q_PROPERTY(QString Caption READ Caption)
@@ -18,7 +18,7 @@ public:
     QString Caption() const { return caption_; }
     bool Hilited() const { return hilited_; }
     void SetHilited(bool hilited);
-    void SetOpen(bool open); ///< a title whose panel is showing
+    void SetOpen(bool open); ///< its panel is open
     QSize sizeHint() const override;
     QAccessible::Role AccessibleRole() const override;
 

@@ -8,8 +8,8 @@
 
 namespace {
 
-constexpr int edge = 1;
-constexpr int padding = 4; // above the first and below the last item
+constexpr int Edge = 1;
+constexpr int Padding = 4; // above the first and below the last item
 
 } // namespace
 
@@ -29,12 +29,12 @@ void MenuPanel::PlaceItems() {
     int widest = 0;
     for (const MenuLabel* item : std::as_const(items_))
         widest = qMax(widest, item->width());
-    int top = edge + padding;
+    int top = Edge + Padding;
     for (MenuLabel* item : std::as_const(items_)) {
-        item->setGeometry(edge, top, widest, item->height());
+        item->setGeometry(Edge, top, widest, item->height());
         top += item->height();
     }
-    resize(widest + 2 * edge, top + padding + edge);
+    resize(widest + 2 * Edge, top + Padding + Edge);
 }
 
 void MenuPanel::AddItem(int index) {

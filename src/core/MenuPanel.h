@@ -7,8 +7,8 @@
 
 class MenuLabel;
 
-/// The panel that drops down below a title of the menu bar. It takes the moves and presses that its
-/// items leave alone, so that what lies below it does not get them.
+/// The panel below a title of the menu bar. It takes the mouse events that its items ignore, so
+/// that the screen below does not get them.
 class MenuPanel : public QWidget {
     Q_OBJECT
 
@@ -16,9 +16,10 @@ public:
     MenuPanel(MenuItems::Menu menu, QWidget* parent);
 
     const QList<MenuLabel*>& Items() const { return items_; }
-    void Hilite(MenuLabel* item); ///< takes the highlight off all others; null: off all
+    void Hilite(MenuLabel* item); ///< only this one; null: none
     MenuLabel* Hilited() const;
-    /// The next item that can be chosen, before or behind `from`, round and round; null: the first.
+    /// The next (step 1) or previous (step -1) item that can be chosen, in a circle; from null: the
+    /// first.
     MenuLabel* Next(MenuLabel* from, int step) const;
 
 Q_SIGNALS:
@@ -33,5 +34,5 @@ private:
     void AddItem(int index);
     void PlaceItems();
 
-    QList<MenuLabel*> items_; ///< those that are shown, from top to bottom
+    QList<MenuLabel*> items_; ///< the visible ones, from top to bottom
 };

@@ -1,10 +1,10 @@
 #include "core/Navigation.h"
 
-#include "core/ScreenNames.h"
 #include "core/frmAlert.h"
 #include "core/frmHOME.h"
 #include "runtime/AppState.h"
 #include "runtime/RuntimeError.h"
+#include "runtime/ScreenTable.h"
 #include "runtime/Seams.h"
 #include "toolkit/LeaveField.h"
 #include "toolkit/MousePointer.h"
@@ -27,8 +27,7 @@ void Navigation::Register(const QString& name, const Factory& factory) {
 
 void Navigation::InstallSeams() {
     Seams& seams = TheSeams();
-    // A message that belongs to no window stands over the frame, not in the middle of a wide
-    // screen.
+    // A message without an owner goes over the frame, not to the middle of the desktop.
     seams.ShowAlert = [this](const QString& message, QObject* owner, bool showCancel) {
         return frmAlert::Ask(message, owner ? owner : frame_.data(), showCancel);
     };
@@ -57,7 +56,7 @@ bool Navigation::HasScreen(const QString& name) const {
 Screen* Navigation::LoadScreen(const QString& name) {
     if (!HasScreen(name))
         return nullptr;
-    frmHOME* frame = Frame(); // its own loading may bring the screen
+    frmHOME* frame = Frame(); // loading the frame may load the screen
     if (Screen* loaded = loaded_.value(name))
         return loaded;
     Screen* screen = factories_[name](frame);
@@ -69,8 +68,8 @@ Screen* Navigation::LoadScreen(const QString& name) {
     return screen;
 }
 
-/// A failure in a step skips the rest of them, and leaves the pointer as it is. What the person is
-/// told of a field that is left comes before the first step.
+/// A failure in a step skips the rest and leaves the pointer as it is. Committing the field that is
+/// left comes first, and may show a message.
 Screen* Navigation::ShowScreen(const QString& name) {
     if (!HasScreen(name))
         return nullptr;
@@ -80,12 +79,12 @@ Screen* Navigation::ShowScreen(const QString& name) {
         MousePointer::SetBusy();
         const bool fresh = !loaded_.value(name);
         Screen* next = LoadScreen(name);
-        if (name == ScreenNames::Profile)
+        if (name == QLatin1String(Screens::Profile.name))
             Cover(next);
         else
             LeaveOthers(fresh ? next : nullptr);
         screen = LoadScreen(name);
-        if (name == ScreenNames::Day)
+        if (name == QLatin1String(Screens::Day.name))
             Frame()->ResetMenu();
         screen->BeforeShow();
         Bring(screen);
@@ -98,8 +97,8 @@ Screen* Navigation::ShowScreen(const QString& name) {
     return screen;
 }
 
-/// All loaded screens are closed, or only hidden where the setting says so: among them the one to
-/// be shown, which then comes up anew, unless it has just been made.
+/// Closes all loaded screens, or hides them if the setting FAST is on. This includes the screen to
+/// be shown, which is then rebuilt, unless it is new.
 void Navigation::LeaveOthers(const Screen* fresh) {
     const QScopedValueRollback<bool> own(arranging_, true);
     beneath_.clear();
@@ -129,10 +128,10 @@ void Navigation::Bring(Screen* screen) {
     screen->raise();
     screen->update();
     if (!screen->isAncestorOf(QApplication::focusWidget()))
-        screen->setFocus(Qt::OtherFocusReason); // Tab then leads to its first control
+        screen->setFocus(Qt::OtherFocusReason); // so that Tab goes to its first control
 }
 
-/// What the closed screen has covered comes back as it was left, unless another has come instead.
+/// The screen below returns unchanged, unless another one is in front now.
 void Navigation::Uncover() {
     if (front_ || !frame_)
         return;
@@ -185,8 +184,8 @@ void Navigation::Reset() {
     factories_.clear();
 }
 
-/// A screen that goes away by itself is forgotten. What it covered comes back when the routine that
-/// closed it has ended, so that it shows what that routine has changed.
+/// Forgets a screen that closes itself. The screen below it returns only after the closing routine
+/// has ended, so that it shows the changes of that routine.
 bool Navigation::eventFilter(QObject* watched, QEvent* event) {
     if (arranging_ || event->type() != QEvent::HideToParent)
         return false;

@@ -10,9 +10,9 @@
 
 class frmHOME;
 
-/// The screens in the frame: what is registered, what is loaded, what stands in front. Owns the
-/// frame, which owns the screens. One screen shows at a time; `frmProfile` alone leaves the one
-/// before it in place, which comes back when it closes.
+/// Knows which screens are registered, which are loaded and which is in front. Owns the frame, and
+/// the frame owns the screens. Only one screen is visible. `frmProfile` alone does not close the
+/// screen before it, which returns when the profile closes.
 class Navigation : public QObject {
     Q_OBJECT
 
@@ -26,7 +26,7 @@ public:
     template <class T> void Register(const QString& name) {
         Register(name, [](QWidget* parent) { return new T(parent); });
     }
-    void InstallSeams(); ///< makes this what the seams of the lower floors reach
+    void InstallSeams(); ///< lets the lower floors call this object
 
     bool HasFrame() const;
     frmHOME* Frame(); ///< loaded on first use
@@ -37,7 +37,7 @@ public:
     Screen* ShowScreen(const QString& name);
     void ShowHome();
     void GatherWindows(); ///< lays all loaded screens over the nest
-    void CloseAll();      ///< what is being typed is taken over first
+    void CloseAll();      ///< commits the text that is being typed first
     void Reset();         ///< forgets frame, screens and registrations
 
 protected:
@@ -55,8 +55,8 @@ private:
     QHash<QString, QPointer<Screen>> loaded_;
     QPointer<frmHOME> frame_;
     QPointer<Screen> front_;
-    QPointer<Screen> beneath_; ///< what `frmProfile` has covered
-    bool arranging_ = false;   ///< this object hides and closes screens itself
+    QPointer<Screen> beneath_; ///< the screen below `frmProfile`
+    bool arranging_ = false;   ///< hiding and closing screens is our own doing
 };
 
 /// The navigation of this process.

@@ -5,14 +5,13 @@
 
 #include <functional>
 
-/// Points the person's browser at an address, or at a page that lies beside the program. The
-/// system's file associations say which browser that is; where there is none nothing happens. No
-/// failure is told.
+/// Opens an address, or a page beside the program, in the default browser. Without a browser
+/// nothing happens. Failures are not reported.
 void OpenURL(const QString& address);
 
-/// Opens the start page of the help. There is one page to start from, whatever the topic.
+/// Opens the start page of the help, whatever the topic.
 void OpenHelp(const QString& topic);
 
-/// What hands an address to the system, false where it cannot. An empty one is the system's own.
+/// Passes an address to the system; false on failure. Empty: the system's own way.
 using Browser = std::function<bool(const QUrl& address)>;
 void SetBrowser(Browser browser);

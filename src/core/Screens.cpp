@@ -2,18 +2,39 @@
 
 #include "analysis/ui/frmReport.h"
 #include "core/Navigation.h"
-#include "core/ScreenNames.h"
 #include "core/frmMain.h"
 #include "foods/ui/frmFoodList.h"
 #include "intake/ui/frmDay.h"
 #include "model/ui/frmProfile.h"
 #include "recipes/ui/frmRecipeManager.h"
+#include "runtime/ScreenTable.h"
+
+#include <iterator>
+
+namespace {
+
+struct Registration {
+    const ScreenRow& screen;
+    Screen* (*make)(QWidget* parent);
+};
+
+template <class T> Screen* Make(QWidget* parent) {
+    return new T(parent);
+}
+
+constexpr Registration Registrations[] = {
+    {Screens::Main, Make<frmMain>},
+    {Screens::Day, Make<frmDay>},
+    {Screens::Report, Make<frmReport>},
+    {Screens::FoodList, Make<frmFoodList>},
+    {Screens::RecipeManager, Make<frmRecipeManager>},
+    {Screens::Profile, Make<frmProfile>},
+};
+static_assert(std::size(Registrations) == std::size(Screens::All), "a screen has no class");
+
+} // namespace
 
 void RegisterScreens(Navigation& navigation) {
-    navigation.Register<frmMain>(ScreenNames::Home);
-    navigation.Register<frmDay>(ScreenNames::Day);
-    navigation.Register<frmReport>(ScreenNames::Report);
-    navigation.Register<frmFoodList>(ScreenNames::CustomFoods);
-    navigation.Register<frmRecipeManager>(ScreenNames::Recipes);
-    navigation.Register<frmProfile>(ScreenNames::Profile);
+    for (const Registration& row : Registrations)
+        navigation.Register(QString::fromLatin1(row.screen.name), row.make);
 }

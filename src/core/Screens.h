@@ -2,5 +2,5 @@
 
 class Navigation;
 
-/// Registers every screen of the nest. A new screen is registered here and nowhere else.
+/// Registers every screen of the nest. This is the only place that does.
 void RegisterScreens(Navigation& navigation);

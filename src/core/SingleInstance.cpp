@@ -9,10 +9,10 @@
 
 namespace {
 
-constexpr auto request = "activate";
-constexpr int patience = 100;  ///< milliseconds for one word across the socket
-constexpr int attempts = 40;   ///< until a start that cannot reach the first one gives up
-constexpr int shortPause = 50; ///< milliseconds between two attempts
+constexpr auto Request = "activate";
+constexpr int Patience = 100;  ///< milliseconds for one message
+constexpr int Attempts = 40;   ///< before a later start gives up
+constexpr int ShortPause = 50; ///< milliseconds between two attempts
 
 QString FolderOr(const QString& folder) {
     if (!folder.isEmpty())
@@ -21,7 +21,7 @@ QString FolderOr(const QString& folder) {
     return own.isEmpty() ? QDir::tempPath() : own;
 }
 
-/// Pipes have names of their own where sockets are files.
+/// On Windows the socket is a named pipe, not a file.
 QString AddressIn(const QString& folder) {
 #ifdef Q_OS_WIN
     return "halvane-" + QString::number(qHash(folder), 16);
@@ -37,7 +37,7 @@ SingleInstance::SingleInstance(const QString& folder, QObject* parent)
     , folder_(FolderOr(folder))
     , lock_(folder_ + "/halvane.lock")
     , address_(AddressIn(folder_)) {
-    lock_.setStaleLockTime(0); // only a holder that has died makes it stale, never its age
+    lock_.setStaleLockTime(0); // a lock is stale only if its process is gone, never by age
     connect(&server_, &QLocalServer::newConnection, this, &SingleInstance::Answer);
 }
 
@@ -45,20 +45,20 @@ SingleInstance::~SingleInstance() {
     Release();
 }
 
-/// A lock that cannot be made at all, in a folder that is not writable, keeps nobody out.
+/// If the folder is not writable, there is no lock, and the program starts.
 bool SingleInstance::HoldLock() {
     return lock_.isLocked() || lock_.tryLock(0) || lock_.error() != QLockFile::LockFailedError;
 }
 
 bool SingleInstance::Claim() {
-    for (int attempt = 0; attempt < attempts; ++attempt) {
+    for (int attempt = 0; attempt < Attempts; ++attempt) {
         if (HoldLock()) {
             Listen();
             return true;
         }
         if (AskOther())
             return false;
-        QThread::msleep(shortPause); // the other has the lock, but does not listen yet
+        QThread::msleep(ShortPause); // the first start has the lock but does not listen yet
     }
     std::fprintf(stderr, "halvane: another start holds %s and does not answer\n",
                  qPrintable(lock_.fileName()));
@@ -73,10 +73,10 @@ void SingleInstance::Release() {
 bool SingleInstance::AskOther() const {
     QLocalSocket socket;
     socket.connectToServer(address_);
-    if (!socket.waitForConnected(patience))
+    if (!socket.waitForConnected(Patience))
         return false;
-    socket.write(request);
-    const bool sent = socket.waitForBytesWritten(patience);
+    socket.write(Request);
+    const bool sent = socket.waitForBytesWritten(Patience);
     socket.disconnectFromServer();
     return sent;
 }
@@ -93,7 +93,7 @@ void SingleInstance::Answer() {
     while (QLocalSocket* caller = server_.nextPendingConnection()) {
         connect(caller, &QLocalSocket::disconnected, caller, &QObject::deleteLater);
         const auto read = [this, caller] {
-            if (caller->readAll().contains(request))
+            if (caller->readAll().contains(Request))
                 Q_EMIT Activated();
         };
         connect(caller, &QLocalSocket::readyRead, this, read);

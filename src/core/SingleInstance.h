@@ -4,23 +4,23 @@
 #include <QLockFile>
 #include <QObject>
 
-/// One running program for each user: a lock that the first start holds, and a local socket on
-/// which a later start asks the first to come forward. A crash leaves no lock behind that counts.
+/// Allows one running program for each user. The first start holds a lock and listens on a local
+/// socket; a later start asks it to come to the front. A lock left by a crash does not count.
 class SingleInstance : public QObject {
     Q_OBJECT
 
 public:
-    /// Lock and socket stand in that folder; the user's own run-time folder where none is given.
+    /// The folder of lock and socket; empty: the user's run-time folder.
     explicit SingleInstance(const QString& folder = {}, QObject* parent = nullptr);
     ~SingleInstance() override;
 
-    /// True where this is the first start. False where another runs, which has then been asked to
-    /// come forward; one that does not answer is told of on standard error.
+    /// True if this is the first start. Otherwise the first one has been asked to come to the
+    /// front; if it does not answer, standard error says so.
     bool Claim();
     void Release();
 
 Q_SIGNALS:
-    void Activated(); ///< a later start has asked for the window
+    void Activated(); ///< a later start asks for the window
 
 private:
     bool HoldLock();

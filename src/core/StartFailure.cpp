@@ -1,8 +1,8 @@
 #include "core/StartFailure.h"
 
 #include "core/FailureText.h"
+#include "runtime/RuntimeError.h"
 #include "runtime/Seams.h"
-#include "store/StoreError.h"
 
 #include <QMessageBox>
 #include <QPushButton>
@@ -11,15 +11,15 @@
 
 namespace {
 
-constexpr int lastSilentNumber = 400;
-constexpr auto title = "Update to MDAC required";
-constexpr auto text =
+constexpr int LastSilentNumber = 400;
+constexpr auto Title = "Update to MDAC required";
+constexpr auto Text =
     "Halvane could not initialize. The most likely cause of this error is that your computer needs "
     "to be updated with the latest Microsoft Data Access Components (free from Microsoft).\n\n"
     "Please download and install this package from: ";
 
 QString Address() {
-    return QString::fromLatin1(StartFailure::downloadPage);
+    return QString::fromLatin1(StartFailure::DownloadPage);
 }
 
 QString HelpText(const std::exception& error) {
@@ -27,17 +27,17 @@ QString HelpText(const std::exception& error) {
            QString::number(FailureText::Number(error));
 }
 
-/// The help button opens its text over the message and leaves the message standing.
+/// The help button shows its text over the message; the message stays open.
 void AddHelp(QMessageBox& box, const QString& help) {
     QPushButton* button = box.addButton(QMessageBox::Help);
     button->disconnect();
     QObject::connect(button, &QPushButton::clicked, &box, [&box, help] {
-        QMessageBox(QMessageBox::Information, QLatin1String(title), help, QMessageBox::Ok, &box)
+        QMessageBox(QMessageBox::Information, QLatin1String(Title), help, QMessageBox::Ok, &box)
             .exec();
     });
 }
 
-/// What only the person can decide is told in words of its own.
+/// A case that only the user can decide has its own message.
 void ShowChoice(const RuntimeError& error) {
     QMessageBox box(QMessageBox::Warning, QStringLiteral("Halvane cannot start"),
                     error.Description(), QMessageBox::Ok);
@@ -46,7 +46,7 @@ void ShowChoice(const RuntimeError& error) {
 }
 
 void ShowMessage(const std::exception& error) {
-    QMessageBox box(QMessageBox::NoIcon, QLatin1String(title), QLatin1String(text) + Address(),
+    QMessageBox box(QMessageBox::NoIcon, QLatin1String(Title), QLatin1String(Text) + Address(),
                     QMessageBox::Ok);
     box.setTextFormat(Qt::PlainText);
     box.setEscapeButton(QMessageBox::Ok);
@@ -56,14 +56,14 @@ void ShowMessage(const std::exception& error) {
 
 } // namespace
 
-void StartFailure::Report(const std::exception& error, const QString& file) {
-    const QString line = "halvane: could not start: " + file + ": " +
+void StartFailure::Report(const std::exception& error, const QString& step) {
+    const QString line = "halvane: could not start: " + step + ": " +
                          FailureText::Short(error).replace(QLatin1String("\n\n"), " ") + '\n';
     std::fputs(line.toLocal8Bit().constData(), stderr);
-    if (FailureText::Number(error) <= lastSilentNumber)
+    if (FailureText::Number(error) <= LastSilentNumber)
         return;
     const auto* known = dynamic_cast<const RuntimeError*>(&error);
-    if (known != nullptr && known->Number() == StoreError::JournalDoesNotFit)
+    if (known != nullptr && known->Number() == ErrorNumber::JournalDoesNotFit)
         ShowChoice(*known);
     else
         ShowMessage(error);

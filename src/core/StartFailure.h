@@ -4,12 +4,12 @@
 
 #include <exception>
 
-/// How a start that has failed ends: one line on standard error that says which file and why, and
-/// above number 400 a message box, after which the process ends. All others end in silence.
-/// A journal that does not fit its file gets a message of its own: which files to set aside.
+/// Reports a failed start: one line on standard error names the step and the reason. Above number
+/// 400 a message box follows, then the process ends; other failures end in silence. A journal that
+/// does not fit its file has its own message, which names the files to move.
 namespace StartFailure {
-/// Where the message sends the person for a newer program.
-inline constexpr auto downloadPage = "https://www.brindlewick.example/halvane/download";
+/// The page for a newer program.
+inline constexpr auto DownloadPage = "https://www.brindlewick.example/halvane/download";
 
-void Report(const std::exception& error, const QString& file);
+void Report(const std::exception& error, const QString& step);
 } // namespace StartFailure

@@ -1,48 +1,55 @@
 #include "core/StartSettings.h"
 
-#include "core/SettingNames.h"
 #include "runtime/AppPath.h"
 #include "runtime/Convert.h"
 #include "runtime/Round.h"
+#include "runtime/SettingTable.h"
 #include "runtime/Settings.h"
 
 #include <QDir>
 
 #include <limits>
+#include <string_view>
 
 namespace {
 
-/// The platform family of all systems since the first whose text is smoothed.
-constexpr qint32 platformFamily = 2;
+/// The platform family of all current systems; their text is smoothed.
+constexpr qint32 PlatformFamily = 2;
 
-bool Is(const char* name, const char* value) {
-    return GetRegValue(name).compare(QLatin1String(value), Qt::CaseInsensitive) == 0;
+bool Holds(const Setting& setting, const char* value) {
+    return GetRegValue(setting).compare(QLatin1String(value), Qt::CaseInsensitive) == 0;
 }
 
-/// A place on the desktop. What is no number that fits counts as 0, so that a damaged store never
-/// keeps the program from starting.
-qint32 Position(const char* name) {
-    const double twips = NumberOrZero(GetRegValue(name));
+/// Only the opposite of the default changes it: any other text counts as the default.
+bool IsOn(const Setting& setting) {
+    const bool byDefault = setting.missing == std::string_view("True");
+    return Holds(setting, byDefault ? "False" : "True") != byDefault;
+}
+
+/// A position on the desktop. A text that is not a number, or too large a one, counts as 0: a
+/// damaged store must not keep the program from starting.
+qint32 Position(const Setting& setting) {
+    const double twips = NumberOrZero(GetRegValue(setting));
     return qAbs(twips) <= std::numeric_limits<qint32>::max() ? Round(twips) : 0;
 }
 
 } // namespace
 
 bool StartSettings::Agreed() {
-    return Is(SettingNames::Agreement, "YES");
+    return Holds(Settings::Agreement, "YES");
 }
 
 void StartSettings::ReadFirst(AppInfo& info) {
     info.HELPPATH = FileBeside(QStringLiteral("help")) + QDir::separator();
-    info.FAST = Is(SettingNames::Fast, "True");
-    info.OSVERSION = platformFamily;
+    info.FAST = IsOn(Settings::Fast);
+    info.OSVERSION = PlatformFamily;
 }
 
 void StartSettings::ReadRest(AppInfo& info) {
     info.SHOWCUECARDS = false;
-    info.SHOWDROPSHADOWS = !Is(SettingNames::DropShadows, "False");
-    info.UILEFT = Position(SettingNames::Left);
-    info.UITOP = Position(SettingNames::Top);
-    info.AUTOUPDATERDI = !Is(SettingNames::AutoRDI, "False");
-    info.LIMITRESULTS = !Is(SettingNames::Limit50, "False");
+    info.SHOWDROPSHADOWS = IsOn(Settings::DropShadows);
+    info.UILEFT = Position(Settings::Left);
+    info.UITOP = Position(Settings::Top);
+    info.AUTOUPDATERDI = IsOn(Settings::AutoRDI);
+    info.LIMITRESULTS = IsOn(Settings::Limit50);
 }

@@ -2,11 +2,11 @@
 
 #include "runtime/AppInfo.h"
 
-/// Reads the stored settings into the copy that the program consults while it runs. Whatever stands
-/// in the store, each value comes out as one of those that are allowed.
+/// Reads the settings into AppInfo. Whatever the store holds, every value comes out as an allowed
+/// one.
 namespace StartSettings {
-bool Agreed(); ///< the agreement has been accepted
+bool Agreed(); ///< the agreement was accepted
 
-void ReadFirst(AppInfo& info); ///< what is needed before the first window
-void ReadRest(AppInfo& info);  ///< what the screens consult
+void ReadFirst(AppInfo& info); ///< needed before the first window
+void ReadRest(AppInfo& info);  ///< needed by the screens
 } // namespace StartSettings

@@ -8,8 +8,7 @@
 
 namespace {
 
-constexpr int fileAccess = 75;
-constexpr auto byteOrderMark = "\xEF\xBB\xBF";
+constexpr auto ByteOrderMark = "\xEF\xBB\xBF";
 
 } // namespace
 
@@ -19,9 +18,9 @@ QByteArray TextFile::ReadBeside(const QString& name) {
         throw RuntimeError(ErrorNumber::FileNotFound, path + ": there is no such file");
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        throw RuntimeError(fileAccess, path + ": " + file.errorString());
+        throw RuntimeError(ErrorNumber::FileAccess, path + ": " + file.errorString());
     QByteArray text = file.readAll();
-    if (text.startsWith(byteOrderMark))
+    if (text.startsWith(ByteOrderMark))
         text.remove(0, 3);
     return text;
 }

@@ -3,9 +3,9 @@
 #include <QByteArray>
 #include <QString>
 
-/// The texts that are delivered beside the program.
+/// Text files that are delivered beside the program.
 namespace TextFile {
-/// The whole of the file of that name beside the program, without a byte-order mark. Fails with 53
-/// where there is none and with 75 where it cannot be read.
+/// The contents of the file, without a byte-order mark. Fails with 53 if it is missing and with 75
+/// if it cannot be read.
 QByteArray ReadBeside(const QString& name);
 } // namespace TextFile

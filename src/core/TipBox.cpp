@@ -34,7 +34,7 @@ void TipBox::FitArea() {
     area_->setGeometry(Inner().adjusted(edge + TheStyle().groupGap, edge, -edge, -edge));
 }
 
-/// Only a tip that does not fit has anything to do for the keyboard.
+/// The box takes the focus only if its tip must be scrolled.
 void TipBox::OfferScrolling() {
     const bool longer = area_->verticalScrollBar()->maximum() > 0;
     area_->setFocusPolicy(longer ? Qt::StrongFocus : Qt::NoFocus);

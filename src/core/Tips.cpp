@@ -1,19 +1,17 @@
 #include "core/Tips.h"
 
-#include "core/SettingNames.h"
 #include "core/TextFile.h"
 #include "runtime/Convert.h"
 #include "runtime/Round.h"
 #include "runtime/RuntimeError.h"
+#include "runtime/SettingTable.h"
 #include "runtime/Settings.h"
 
 namespace {
 
-constexpr int subscriptOutOfRange = 9;
-
-/// The number of the tip to show of `count`. One that the store holds may be anything.
+/// The number of the next of `count` tips. The stored number may be any text.
 qint32 NextNumber(qsizetype count) {
-    const double last = qMax(0.0, NumberOrZero(GetRegValue(SettingNames::TipNumber)));
+    const double last = qMax(0.0, NumberOrZero(GetRegValue(Settings::TipNumber)));
     const double next = last + 1;
     return next > double(count) ? 1 : Round(next);
 }
@@ -41,7 +39,7 @@ QString Tips::Next() {
     const QList<QByteArrayView> lines = Lines(text);
     const qint32 number = NextNumber(lines.size());
     if (number > lines.size())
-        throw RuntimeError(subscriptOutOfRange, QStringLiteral("the file holds no tip"));
-    SetRegValue(SettingNames::TipNumber, QString::number(number));
+        throw RuntimeError(ErrorNumber::NoSuchPosition, QStringLiteral("the file holds no tip"));
+    SetRegValue(Settings::TipNumber, QString::number(number));
     return QString::fromUtf8(lines[number - 1]);
 }

@@ -4,13 +4,13 @@
 #include <QList>
 #include <QString>
 
-/// The tips that are delivered in tips.txt, one a line; each start shows the next one.
+/// The tips of tips.txt, one on each line. Each start shows the next one.
 namespace Tips {
-/// The lines of a text, whichever line ends it has. What follows the last line end counts as a line
-/// only where it holds something.
+/// The lines of a text with any line ends. Text after the last line end counts as a line if there
+/// is any.
 QList<QByteArrayView> Lines(QByteArrayView text);
 
-/// The tip after the one shown last, the first after the last; remembers its number. Fails with 53
-/// where there is no file and with 9 where it holds no line.
+/// The next tip; the first one follows the last. Remembers its number. Fails with 53 without a file
+/// and with 9 if the file is empty.
 QString Next();
 } // namespace Tips

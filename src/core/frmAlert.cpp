@@ -12,11 +12,11 @@
 
 namespace {
 
-constexpr QSize alertSize(420, 196);
-constexpr int pictureSize = 32;
-constexpr int pictureGap = 14;
+constexpr QSize AlertSize(420, 196);
+constexpr int PictureSize = 32;
+constexpr int PictureGap = 14;
 
-/// The window over which an owner's message stands: none where it cannot be seen.
+/// The owner's window; null if it is not visible.
 QWidget* WindowOf(QObject* owner) {
     auto* widget = qobject_cast<QWidget*>(owner);
     QWidget* window = widget ? widget->window() : nullptr;
@@ -29,13 +29,13 @@ frmAlert::frmAlert(const QString& message, bool showCancel, QWidget* owner)
     : Dialog(QStringLiteral("frmAlert"), QStringLiteral("Halvane"), owner)
     , cmdOK_(MakeButton(this, QStringLiteral("cmdOK"), QStringLiteral("OK")))
     , cmdCancel_(MakeButton(this, QStringLiteral("cmdCancel"), QStringLiteral("Cancel"))) {
-    setFixedSize(alertSize);
+    setFixedSize(AlertSize);
     setAccessibleDescription(message);
     const QList<ucButton*> row = showCancel ? QList{cmdOK_, cmdCancel_} : QList{cmdOK_};
     const QRect above = LayButtonRow(Inner(), row);
-    picture_ = QRect(QPoint(), QSize(pictureSize, pictureSize));
-    picture_.moveCenter(QPoint(above.left() + pictureSize / 2, above.center().y()));
-    LayMessage(above.adjusted(pictureSize + pictureGap, 0, 0, 0), message);
+    picture_ = QRect(QPoint(), QSize(PictureSize, PictureSize));
+    picture_.moveCenter(QPoint(above.left() + PictureSize / 2, above.center().y()));
+    LayMessage(above.adjusted(PictureSize + PictureGap, 0, 0, 0), message);
     LayButtons(showCancel);
 }
 
@@ -67,7 +67,7 @@ void frmAlert::LayButtons(bool showCancel) {
     connect(cmdCancel_, &ucButton::Click, this, &QDialog::reject);
 }
 
-/// A question waits on its safe answer.
+/// The safe answer of a question has the focus.
 void frmAlert::showEvent(QShowEvent* event) {
     Dialog::showEvent(event);
     (cmdCancel_->isVisibleTo(this) ? cmdCancel_ : cmdOK_)->setFocus(Qt::OtherFocusReason);
@@ -80,7 +80,7 @@ void frmAlert::paintEvent(QPaintEvent* event) {
     Pictures::Paint(painter, picture_, name, TheStyle().heading);
 }
 
-/// The owner may go while the message stands over it, and take the dialog along.
+/// The owner may be destroyed while the message is open, and the dialog with it.
 bool frmAlert::Ask(const QString& message, QObject* owner, bool showCancel) {
     const QPointer<frmAlert> dialog = new frmAlert(message, showCancel, WindowOf(owner));
     dialog->ShowModal();

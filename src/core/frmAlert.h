@@ -5,18 +5,16 @@
 class QObject;
 class ucButton;
 
-/// The one message of the program, in place of the platform's message box. Its size is fixed: a
-/// text that does not fit can be scrolled.
+/// The message dialog of the program. Its size is fixed; a text that does not fit can be scrolled.
 class frmAlert : public Dialog {
     Q_OBJECT
 
 public:
     frmAlert(const QString& message, bool showCancel, QWidget* owner);
 
-    bool Result() const { return result_; } ///< True after OK, False after any other way out
+    bool Result() const { return result_; } ///< true after OK, otherwise false
 
-    /// Shows a message modally over the window of its owner, which may be null, and gives the
-    /// result.
+    /// Shows a message modally over the owner's window and returns the result. `owner` may be null.
     static bool Ask(const QString& message, QObject* owner, bool showCancel);
 
 protected:

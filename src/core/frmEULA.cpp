@@ -1,7 +1,7 @@
 #include "core/frmEULA.h"
 
-#include "core/SettingNames.h"
 #include "core/TextFile.h"
+#include "runtime/SettingTable.h"
 #include "runtime/Settings.h"
 #include "toolkit/ButtonRow.h"
 #include "toolkit/ucButton.h"
@@ -10,9 +10,9 @@
 
 namespace {
 
-constexpr QSize agreementSize(560, 460);
+constexpr QSize AgreementSize(560, 460);
 
-/// The text wraps freely: its own line breaks are taken out.
+/// Removes the line breaks of the text, so that it wraps freely.
 QString AgreementText() {
     QString text = QString::fromUtf8(TextFile::ReadBeside(QStringLiteral("agreement.txt")));
     return text.remove(u'\r').remove(u'\n');
@@ -22,7 +22,7 @@ QString AgreementText() {
 
 frmEULA::frmEULA()
     : Dialog(QStringLiteral("frmEULA"), QStringLiteral("Halvane License Agreement")) {
-    setFixedSize(agreementSize);
+    setFixedSize(AgreementSize);
     auto* accept = MakeButton(this, QStringLiteral("cmdAccept"), QStringLiteral("Accept"));
     auto* decline = MakeButton(this, QStringLiteral("cmdNO"), QStringLiteral("Decline"));
     LayText(LayButtonRow(Inner(), {accept, decline}));
@@ -38,11 +38,11 @@ void frmEULA::LayText(const QRect& place) {
     eu->setTabChangesFocus(true);
     eu->setGeometry(place);
     setTabOrder(eu, findChild<ucButton*>(QStringLiteral("cmdAccept")));
-    eu->setFocus(Qt::OtherFocusReason); // reading comes before choosing
+    eu->setFocus(Qt::OtherFocusReason); // the user reads before choosing
 }
 
 void frmEULA::Accept() {
-    SetRegValue(SettingNames::Agreement, QStringLiteral("YES"));
+    SetRegValue(Settings::Agreement, QStringLiteral("YES"));
     accept();
 }
 

@@ -2,14 +2,14 @@
 
 #include "toolkit/Dialog.h"
 
-/// The agreement, shown at start until it has been accepted. Any way out but Accept declines it.
+/// The agreement, shown at start until it is accepted. Every way out except Accept declines it.
 class frmEULA : public Dialog {
     Q_OBJECT
 
 public:
     frmEULA();
 
-    /// Shows the agreement modally. True where it was accepted, which is then remembered.
+    /// Shows the agreement modally. True if the user accepts it, which is remembered.
     static bool Ask();
 
 private:

@@ -2,11 +2,11 @@
 
 #include "core/Community.h"
 #include "core/FramePlace.h"
-#include "core/ScreenNames.h"
 #include "core/frmPrefs.h"
 #include "core/ucMenu.h"
 #include "model/User.h"
 #include "runtime/AppState.h"
+#include "runtime/ScreenTable.h"
 #include "runtime/Seams.h"
 #include "toolkit/CleanUp.h"
 #include "toolkit/Style.h"
@@ -21,40 +21,25 @@
 
 namespace {
 
-constexpr QSize homeSize(850, 620);
-constexpr int bandHeight = 24;
-constexpr int firstTileTop = 66;
-constexpr int tilePitch = 68;
-constexpr int titleButton = 32;
-constexpr int titlePicture = 16;
-constexpr QSize logoSize(22, 22);
-constexpr QRect titleInNest(14, 8, 182, 30); ///< kept free by the screens for their title
+constexpr QSize HomeSize(850, 620);
+constexpr int BandHeight = 24;
+constexpr int FirstTileTop = 66;
+constexpr int TilePitch = 68;
+constexpr int TitleButton = 32;
+constexpr int TitlePicture = 16;
+constexpr QSize LogoSize(22, 22);
+constexpr QRect TitleInNest(14, 8, 182, 30); ///< the screens keep it free
 
-/// One of the buttons that bring a screen: the last one stands in the title bar.
-struct NavigationButton {
-    const char* name;
-    const char* screen; ///< empty where it opens the community page
-    const char* picture;
-    const char* caption;
-    const char* hover;
-};
+// These buttons open the community page, not a screen.
+constexpr ScreenRow CommunityPage{"",          "",          "cmdCommunity",
+                                  "community", "Community", "Online Community"};
+constexpr ScreenRow Logo{"", "", "cmdLogo", "logo", "", "Halvane"};
 
-constexpr NavigationButton navigationButtons[] = {
-    {"cmdCal", ScreenNames::Home, "calendar", "Main", "Main"},
-    {"cmdDay", ScreenNames::Day, "daily", "Daily", "Daily Details"},
-    {"cmdReport", ScreenNames::Report, "reports", "Reports", "Reports"},
-    {"cmdCustomFoods", ScreenNames::CustomFoods, "apple", "My Foods", "Custom Foods"},
-    {"cmdRecipes", ScreenNames::Recipes, "book", "Recipes", "Recipe Manager"},
-    {"cmdCommunity", "", "community", "Community", "Online Community"},
-    {"cmdLogo", "", "logo", "", "Halvane"},
-};
-constexpr int logoIndex = 6;
-
-void Open(const QString& screen) {
-    if (screen.isEmpty())
-        Community::Open();
+void Open(const ScreenRow& row) {
+    if (*row.name)
+        ShowScreen(row.name);
     else
-        ShowScreen(screen);
+        Community::Open();
 }
 
 } // namespace
@@ -64,7 +49,7 @@ frmHOME::frmHOME()
                            Qt::WindowMinimizeButtonHint) {
     setObjectName(QStringLiteral("frmHOME"));
     setWindowTitle(QStringLiteral("Halvane"));
-    setFixedSize(homeSize);
+    setFixedSize(HomeSize);
     setMouseTracking(true);
     setAttribute(Qt::WA_DeleteOnClose);
     LayTop();
@@ -78,9 +63,9 @@ frmHOME::frmHOME()
 void frmHOME::Load() {
     const AppInfo& info = App().AppInfo;
     const QPoint stored(Twips::ToPixels(info.UILEFT), Twips::ToPixels(info.UITOP));
-    move(PlaceOnScreens(stored, homeSize, TheStyle().titleHeight));
+    move(PlaceOnScreens(stored, HomeSize, TheStyle().titleHeight));
     if (User::Current().UID != -1)
-        ::ShowScreen(ScreenNames::Home);
+        ::ShowScreen(Screens::Main.name);
 }
 
 QPoint frmHOME::Place() const {
@@ -95,12 +80,12 @@ void frmHOME::LayTop() {
     ucTitle_->setGeometry(0, 0, width(), style.titleHeight);
     connect(ucTitle_, &ucTitleBar::Moved, this, &frmHOME::Gather);
 
-    ucButtonA* logo = AddNavigationButton(logoIndex);
-    logo->SetPictureSize(logoSize);
-    logo->move(style.nestEdge - 2, (style.titleHeight - logoSize.height()) / 2);
-    const int left = width() - style.groupGap - 2 * titleButton;
+    ucButtonA* logo = AddNavigationButton(Logo);
+    logo->SetPictureSize(LogoSize);
+    logo->move(style.nestEdge - 2, (style.titleHeight - LogoSize.height()) / 2);
+    const int left = width() - style.groupGap - 2 * TitleButton;
     ucButtonA* minimise = AddTitleButton("cmdMin", "minimise", "Minimise", left);
-    ucButtonA* quit = AddTitleButton("cmdQuit", "close", "Close", left + titleButton);
+    ucButtonA* quit = AddTitleButton("cmdQuit", "close", "Close", left + TitleButton);
     connect(minimise, &ucButtonA::Click, this, &QWidget::showMinimized);
     connect(quit, &ucButtonA::Click, this, &frmHOME::QuitRequested);
 }
@@ -112,16 +97,16 @@ ucButtonA* frmHOME::AddTitleButton(const char* name, const char* picture, const 
     button->setObjectName(QLatin1String(name));
     button->SetPictures(QLatin1String(picture), QLatin1String(tip));
     button->SetTints(style.navigationInk, style.windowInk, style.rule);
-    button->SetPictureSize(QSize(titlePicture, titlePicture));
-    button->setGeometry(left, 0, titleButton, style.titleHeight);
+    button->SetPictureSize(QSize(TitlePicture, TitlePicture));
+    button->setGeometry(left, 0, TitleButton, style.titleHeight);
     return button;
 }
 
-/// The band on which the commands stand, up to the column's and the nest's upper edge.
+/// The band of the menu bar, above the navigation column and the nest.
 void frmHOME::LayCommands() {
     picFrameTop_ = new QWidget(this);
     picFrameTop_->setObjectName(QStringLiteral("picFrameTop"));
-    picFrameTop_->setGeometry(0, TheStyle().titleHeight, width(), bandHeight);
+    picFrameTop_->setGeometry(0, TheStyle().titleHeight, width(), BandHeight);
     picFrameTop_->setMouseTracking(true);
     menu_ = new ucMenu(picFrameTop_);
     connect(menu_, &ucMenu::Chosen, this,
@@ -133,33 +118,37 @@ void frmHOME::ResetMenu() {
 }
 
 void frmHOME::LayNavigation() {
-    for (int index = 0; index < logoIndex; ++index) {
-        ucButtonA* button = AddNavigationButton(index);
-        button->SetCaptionBelow(QLatin1String(navigationButtons[index].caption));
-        button->move(0, firstTileTop + index * tilePitch);
-    }
+    int top = FirstTileTop;
+    const auto add = [&](const ScreenRow& row) {
+        ucButtonA* button = AddNavigationButton(row);
+        button->SetCaptionBelow(QLatin1String(row.caption));
+        button->move(0, top);
+        top += TilePitch;
+    };
+    for (const ScreenRow* row : Screens::All)
+        if (row->button)
+            add(*row);
+    add(CommunityPage);
 }
 
-ucButtonA* frmHOME::AddNavigationButton(int index) {
-    const NavigationButton& row = navigationButtons[index];
+ucButtonA* frmHOME::AddNavigationButton(const ScreenRow& row) {
     const QString hover = QLatin1String(row.hover);
-    const QString screen = QLatin1String(row.screen);
     auto* button = new ucButtonA(this);
-    button->setObjectName(QLatin1String(row.name));
+    button->setObjectName(QLatin1String(row.button));
     button->SetPictures(QLatin1String(row.picture), hover);
     button->installEventFilter(this);
     connect(button, &ucButtonA::MouseMove, this, [this, button, hover] { OnHover(button, hover); });
-    connect(button, &ucButtonA::Click, this, [this, screen] {
+    connect(button, &ucButtonA::Click, this, [this, &row] {
         ResetMenu();
-        Open(screen);
+        Open(row);
     });
-    buttons_[index] = button;
+    buttons_ << NavigationButton{button, QLatin1String(row.name)};
     return button;
 }
 
 void frmHOME::LayNest() {
     const Style& style = TheStyle();
-    const QPoint corner(style.navigationWidth, style.titleHeight + bandHeight);
+    const QPoint corner(style.navigationWidth, style.titleHeight + BandHeight);
     picNest_ = new QWidget(this);
     picNest_->setObjectName(QStringLiteral("picNest"));
     picNest_->setGeometry(QRect(corner, QPoint(width() - 1, height() - 1)));
@@ -169,7 +158,7 @@ void frmHOME::LayNest() {
     aaWindow_->SetFont(style.screenTitle);
     aaWindow_->SetBackColor(style.canvas);
     aaWindow_->SetForeColor(style.heading);
-    const QRect line = titleInNest.translated(corner);
+    const QRect line = TitleInNest.translated(corner);
     aaWindow_->move(line.left(), line.center().y() + 1 - aaWindow_->sizeHint().height() / 2);
     aaWindow_->SetCaption(QString());
 }
@@ -184,9 +173,8 @@ void frmHOME::AddShortcuts() {
 }
 
 void frmHOME::ShowFront(const QString& screen) {
-    for (int index = 0; index < logoIndex; ++index)
-        buttons_[index]->SetChosen(!screen.isEmpty() &&
-                                   screen == QLatin1String(navigationButtons[index].screen));
+    for (const NavigationButton& row : std::as_const(buttons_))
+        row.button->SetChosen(!screen.isEmpty() && screen == row.screen);
     aaWindow_->SetCaption(App().WindowTitle);
     aaWindow_->raise();
 }
@@ -197,14 +185,14 @@ void frmHOME::OnHover(ucButtonA* button, const QString& text) {
 }
 
 void frmHOME::AllOff(const QString& name) {
-    for (ucButtonA* button : buttons_)
-        if (name.compare(button->objectName(), Qt::CaseInsensitive) != 0)
-            button->Reset();
+    for (const NavigationButton& row : std::as_const(buttons_))
+        if (name.compare(row.button->objectName(), Qt::CaseInsensitive) != 0)
+            row.button->Reset();
     if (name.isEmpty())
         aaWindow_->SetCaption(App().WindowTitle);
 }
 
-/// The platform tells when the pointer leaves a button.
+/// The pointer has left a button.
 bool frmHOME::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::Leave)
         AllOff(QString());

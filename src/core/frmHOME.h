@@ -1,9 +1,9 @@
 #pragma once
 
+#include <QList>
 #include <QWidget>
 
-#include <array>
-
+struct ScreenRow;
 class ucAALBL;
 class ucButtonA;
 class ucMenu;
@@ -17,16 +17,16 @@ class frmHOME : public QWidget {
 public:
     frmHOME();
 
-    void Load(); ///< takes its stored place, and shows the first screen where there is a user
+    void Load(); ///< restores its position; shows the first screen if there is a user
     QWidget* picNest() const { return picNest_; }
-    QPoint Place() const; ///< upper left corner on the desktop, also while minimised
+    QPoint Place() const; ///< upper left corner on the desktop, even if minimised
 
-    /// The screen of that name stands in front; its title is in `WindowTitle`.
+    /// Marks the button of the screen in front, and prints `WindowTitle`.
     void ShowFront(const QString& screen);
-    /// Takes the highlight off all navigation buttons but the one named; an empty name also brings
-    /// the title of the active screen back.
+    /// Resets all navigation buttons except the named one. An empty name also restores the title of
+    /// the active screen.
     void AllOff(const QString& name);
-    void ResetMenu(); ///< called before a change of screen
+    void ResetMenu(); ///< closes the menus
 
 Q_SIGNALS:
     void QuitRequested();
@@ -40,12 +40,17 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
+    struct NavigationButton {
+        ucButtonA* button;
+        QString screen; ///< empty: it opens the community page
+    };
+
     void LayTop();
     void LayCommands();
     void LayNavigation();
     void LayNest();
     void AddShortcuts();
-    ucButtonA* AddNavigationButton(int index);
+    ucButtonA* AddNavigationButton(const ScreenRow& row);
     ucButtonA* AddTitleButton(const char* name, const char* picture, const char* tip, int left);
     void OnHover(ucButtonA* button, const QString& text);
 
@@ -54,5 +59,5 @@ private:
     ucTitleBar* ucTitle_ = nullptr;
     ucAALBL* aaWindow_ = nullptr;
     ucMenu* menu_ = nullptr;
-    std::array<ucButtonA*, 7> buttons_{}; ///< those that open something; the last one is the logo
+    QList<NavigationButton> buttons_;
 };

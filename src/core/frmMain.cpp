@@ -2,12 +2,12 @@
 
 #include "analysis/ui/ucCal_LG.h"
 #include "analysis/ui/ucGlance.h"
-#include "core/ScreenNames.h"
 #include "core/TipBox.h"
 #include "runtime/AppState.h"
 #include "runtime/Clock.h"
 #include "runtime/Dates.h"
 #include "runtime/Format.h"
+#include "runtime/ScreenTable.h"
 #include "runtime/Seams.h"
 #include "toolkit/Labels.h"
 #include "toolkit/Style.h"
@@ -19,25 +19,25 @@
 namespace {
 
 // Measures in pixels.
-constexpr int boxesTop = 39;
-constexpr int boxesBottom = 10; // from the lower edge
-constexpr int sideWidth = 232;
-constexpr int glanceHeight = 337;
-constexpr int hintLeft = 204; // behind the frame's title of the screen
-constexpr int hintTop = 11;
-constexpr int hintHeight = 24;
-constexpr int weekLine = 22;
+constexpr int BoxesTop = 39;
+constexpr int BoxesBottom = 10; // from the lower edge
+constexpr int SideWidth = 232;
+constexpr int GlanceHeight = 337;
+constexpr int HintLeft = 204; // right of the screen's title
+constexpr int HintTop = 11;
+constexpr int HintHeight = 24;
+constexpr int WeekLine = 22;
 
-/// Days before it count as unset.
-constexpr int firstYear = 1992, firstMonth = 12, firstDay = 1;
+/// An earlier day counts as unset.
+constexpr int FirstYear = 1992, FirstMonth = 12, FirstDay = 1;
 
 struct WeekLabel {
     const char* name;
     const char* caption;
 };
 
-/// Nothing fills the week's figures.
-constexpr WeekLabel weekLabels[] = {
+/// No routine fills these values.
+constexpr WeekLabel WeekLabels[] = {
     {"aaCals", "Average daily calories............................"},
     {"aaChol", "Average daily cholesterol......................."},
     {"aaFiber", "Average daily fiber................................."},
@@ -49,14 +49,14 @@ constexpr WeekLabel weekLabels[] = {
 
 void EnsureCurrentDate() {
     QDate& day = App().CurrentDate;
-    if (!day.isValid() || day < QDate(firstYear, firstMonth, firstDay))
+    if (!day.isValid() || day < QDate(FirstYear, FirstMonth, FirstDay))
         day = Clock::Today();
 }
 
 } // namespace
 
 frmMain::frmMain(QWidget* parent)
-    : Screen(ScreenNames::Home, QStringLiteral("Main"), parent) {
+    : Screen(Screens::Main, parent) {
     setFocusPolicy(Qt::ClickFocus);
     EnsureCurrentDate();
     AddHint();
@@ -101,31 +101,31 @@ void frmMain::AddWeekBox() {
     weekBox_->hide();
     const int left = TheStyle().nestEdge;
     int top = TheStyle().headerHeight + TheStyle().boxGap;
-    for (const WeekLabel& row : weekLabels) {
+    for (const WeekLabel& row : WeekLabels) {
         auto* label = new ucAALBL(weekBox_);
         label->setObjectName(QLatin1String(row.name));
         label->SetBackColor(QColor());
         label->SetForeColor(TheStyle().ink);
         label->SetCaption(QLatin1String(row.caption));
         label->move(left, top);
-        top += weekLine;
+        top += WeekLine;
     }
 }
 
 void frmMain::resizeEvent(QResizeEvent*) {
     const Style& style = TheStyle();
-    const int height = this->height() - boxesTop - boxesBottom;
-    const int sideLeft = width() - style.nestEdge - sideWidth;
-    const int tipTop = boxesTop + glanceHeight + style.boxGap;
+    const int height = this->height() - BoxesTop - BoxesBottom;
+    const int sideLeft = width() - style.nestEdge - SideWidth;
+    const int tipTop = BoxesTop + GlanceHeight + style.boxGap;
     const int calendarRight = sideLeft - style.boxGap;
-    hint_->setGeometry(hintLeft, hintTop, calendarRight - hintLeft, hintHeight);
-    calendar_->setGeometry(style.nestEdge, boxesTop, calendarRight - style.nestEdge, height);
-    glanceBox_->setGeometry(sideLeft, boxesTop, sideWidth, glanceHeight);
-    tip_->setGeometry(sideLeft, tipTop, sideWidth, boxesTop + height - tipTop);
+    hint_->setGeometry(HintLeft, HintTop, calendarRight - HintLeft, HintHeight);
+    calendar_->setGeometry(style.nestEdge, BoxesTop, calendarRight - style.nestEdge, height);
+    glanceBox_->setGeometry(sideLeft, BoxesTop, SideWidth, GlanceHeight);
+    tip_->setGeometry(sideLeft, tipTop, SideWidth, BoxesTop + height - tipTop);
     weekBox_->setGeometry(tip_->geometry());
 }
 
-/// A calendar that is made anew stands on today: the chosen day is told beside it.
+/// A new calendar opens on today, so the chosen day is printed beside it.
 void frmMain::DoWinInit() {
     calendar_->getDate();
     const QDate day = App().CurrentDate;
@@ -135,7 +135,7 @@ void frmMain::DoWinInit() {
     tip_->SetTip(App().TipOfTheDay);
 }
 
-/// The box names its month: the chosen day may lie in another one than the calendar opens on.
+/// The box names its month, because the chosen day may be in another month than the calendar shows.
 void frmMain::ShowMonth(QDate from, QDate to) {
     glanceBox_->SetCaption(Dates::MonthName(from.month()) + u' ' + QString::number(from.year()) +
                            " at a glance");
@@ -143,10 +143,10 @@ void frmMain::ShowMonth(QDate from, QDate to) {
     glance_->UpdateGlance(from, to);
 }
 
-/// ShowScreen passes the day on to the list and the panel and brings them up to date.
+/// ShowScreen passes the day on to the day screen.
 void frmMain::OpenDay(QDate day) {
     App().CurrentDate = day;
-    ShowScreen(ScreenNames::Day);
+    ShowScreen(Screens::Day.name);
 }
 
 void frmMain::AllOff(const QString& name) {

@@ -10,8 +10,8 @@ class ucBox;
 class ucCal_LG;
 class ucGlance;
 
-/// The home screen "Main": the month calendar, a glance at where the month's calories came from,
-/// and the tip of the day. A click on a day makes it the chosen day and leads to its details.
+/// The home screen: the month calendar, the glance at the month's calories, and the tip of the day.
+/// A click on a day chooses it and opens the day screen.
 class frmMain : public Screen {
     Q_OBJECT
 
@@ -19,7 +19,7 @@ public:
     explicit frmMain(QWidget* parent = nullptr);
 
     void DoWinInit() override;
-    void AllOff(const QString& name) override; ///< leaves the calendar alone where it is named
+    void AllOff(const QString& name) override; ///< resets the calendar unless it is named
 
 protected:
     void resizeEvent(QResizeEvent*) override;

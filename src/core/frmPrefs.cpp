@@ -1,7 +1,7 @@
 #include "core/frmPrefs.h"
 
-#include "core/SettingNames.h"
 #include "runtime/AppState.h"
+#include "runtime/SettingTable.h"
 #include "runtime/Settings.h"
 #include "toolkit/ButtonRow.h"
 #include "toolkit/Labels.h"
@@ -13,11 +13,11 @@
 
 namespace {
 
-constexpr QSize prefsSize(460, 318);
-constexpr int noteIndent = 22; ///< notes stand below the captions, clear of the boxes
+constexpr QSize PrefsSize(460, 318);
+constexpr int NoteIndent = 22; ///< notes begin below the captions, not below the boxes
 
-void Store(const QCheckBox* box, const char* name, bool& inMemory) {
-    SetRegValue(name, QLatin1String(box->isChecked() ? "True" : "False"));
+void Store(const QCheckBox* box, const Setting& setting, bool& inMemory) {
+    SetRegValue(setting, QLatin1String(box->isChecked() ? "True" : "False"));
     inMemory = box->isChecked();
 }
 
@@ -25,7 +25,7 @@ void Store(const QCheckBox* box, const char* name, bool& inMemory) {
 
 frmPrefs::frmPrefs(QWidget* owner)
     : Dialog(QStringLiteral("frmPrefs"), QStringLiteral("Preferences"), owner) {
-    setFixedSize(prefsSize);
+    setFixedSize(PrefsSize);
     auto* save = MakeButton(this, QStringLiteral("cmdSave"), QStringLiteral("Save"));
     auto* cancel = MakeButton(this, QStringLiteral("cmdCancel"), QStringLiteral("Cancel"));
     LayBoxes(LayButtonRow(Inner(), {save, cancel}));
@@ -69,8 +69,8 @@ QCheckBox* frmPrefs::AddBox(QVBoxLayout* column, const char* name, const char* c
         QLabel* text =
             MakeLabel(area, box->objectName() + "Note", QLatin1String(note), TextRole::Quiet);
         text->setWordWrap(true);
-        const int room = area->width() - noteIndent;
-        text->setContentsMargins(noteIndent, 0,
+        const int room = area->width() - NoteIndent;
+        text->setContentsMargins(NoteIndent, 0,
                                  room - BalancedWidth(text->text(), text->font(), room), 0);
         column->addWidget(text);
     }
@@ -78,17 +78,17 @@ QCheckBox* frmPrefs::AddBox(QVBoxLayout* column, const char* name, const char* c
     return box;
 }
 
-/// The stored texts are compared exactly here, unlike at start.
+/// Unlike at start, the stored texts are compared exactly.
 void frmPrefs::Read() {
-    ckAUTO_->setChecked(GetRegValue(SettingNames::AutoRDI) != QLatin1String("False"));
+    ckAUTO_->setChecked(GetRegValue(Settings::AutoRDI) != QLatin1String("False"));
     ckLimit_->setChecked(App().AppInfo.LIMITRESULTS);
-    ckFast_->setChecked(GetRegValue(SettingNames::Fast) == QLatin1String("True"));
+    ckFast_->setChecked(GetRegValue(Settings::Fast) == QLatin1String("True"));
 }
 
 void frmPrefs::Save() {
     AppInfo& info = App().AppInfo;
-    Store(ckLimit_, SettingNames::Limit50, info.LIMITRESULTS);
-    Store(ckAUTO_, SettingNames::AutoRDI, info.AUTOUPDATERDI);
-    Store(ckFast_, SettingNames::Fast, info.FAST);
+    Store(ckLimit_, Settings::Limit50, info.LIMITRESULTS);
+    Store(ckAUTO_, Settings::AutoRDI, info.AUTOUPDATERDI);
+    Store(ckFast_, Settings::Fast, info.FAST);
     accept();
 }

@@ -5,7 +5,7 @@
 class QCheckBox;
 class QVBoxLayout;
 
-/// The preferences. Three of the four boxes are settings; the one for shadows has no effect.
+/// The preferences: three settings, and a box for shadows that has no effect.
 class frmPrefs : public Dialog {
     Q_OBJECT
 

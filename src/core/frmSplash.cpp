@@ -11,16 +11,16 @@
 
 namespace {
 
-constexpr QSize splashSize(420, 300);
-constexpr int shownFor = 2000; ///< milliseconds
-constexpr QRect picture(150, 36, 120, 120);
-constexpr int nameTop = 172;
-constexpr int lineTop = 208;
-constexpr int versionTop = 260;
+constexpr QSize SplashSize(420, 300);
+constexpr int ShownFor = 2000; ///< milliseconds
+constexpr QRect Picture(150, 36, 120, 120);
+constexpr int NameTop = 172;
+constexpr int LineTop = 208;
+constexpr int VersionTop = 260;
 
 void LayLine(QLabel* label, int top) {
     label->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
-    label->setGeometry(0, top, splashSize.width(), label->sizeHint().height());
+    label->setGeometry(0, top, SplashSize.width(), label->sizeHint().height());
 }
 
 } // namespace
@@ -30,28 +30,28 @@ frmSplash::frmSplash(QWidget* owner)
     , tmrClose_(new QTimer(this)) {
     setObjectName(QStringLiteral("frmSplash"));
     setWindowTitle(QStringLiteral("Halvane"));
-    setFixedSize(splashSize);
+    setFixedSize(SplashSize);
     setModal(true);
     LayTexts();
     tmrClose_->setObjectName(QStringLiteral("tmrClose"));
     tmrClose_->setSingleShot(true);
-    tmrClose_->start(shownFor);
+    tmrClose_->start(ShownFor);
     connect(tmrClose_, &QTimer::timeout, this, &QDialog::accept);
 }
 
 void frmSplash::LayTexts() {
     QLabel* name =
         MakeLabel(this, QStringLiteral("lblName"), QStringLiteral("Halvane"), TextRole::CardTitle);
-    LayLine(name, nameTop);
+    LayLine(name, NameTop);
     LayLine(MakeLabel(this, QStringLiteral("lblWhat"),
                       QStringLiteral("What you eat, day by day, beside what you need")),
-            lineTop);
+            LineTop);
     LayLine(MakeLabel(this, QStringLiteral("lblVersion"),
                       QStringLiteral("Version " HALVANE_VERSION), TextRole::Quiet),
-            versionTop);
+            VersionTop);
 }
 
-/// The platform's own place leaves room for a title bar, which this window has not.
+/// The default position leaves room for a title bar, which this window does not have.
 void frmSplash::showEvent(QShowEvent* event) {
     QDialog::showEvent(event);
     if (!event->spontaneous())
@@ -62,7 +62,7 @@ void frmSplash::paintEvent(QPaintEvent*) {
     const Style& style = TheStyle();
     QPainter painter(this);
     painter.fillRect(rect(), style.canvas);
-    Pictures::Paint(painter, picture, QStringLiteral("logo"));
+    Pictures::Paint(painter, Picture, QStringLiteral("logo"));
     painter.setPen(style.frame);
     painter.drawRect(QRectF(rect()).adjusted(.5, .5, -.5, -.5));
 }

@@ -4,8 +4,8 @@
 
 class QTimer;
 
-/// The picture at start. It closes by itself after two seconds, and at a click or a key; as the
-/// About box, with the timer off, at a click or a key alone.
+/// The picture at start. It closes after two seconds, or at a click or a key. The About box is the
+/// same window without the timer.
 class frmSplash : public QDialog {
     Q_OBJECT
 

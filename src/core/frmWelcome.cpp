@@ -11,10 +11,10 @@
 
 namespace {
 
-constexpr QSize welcomeSize(480, 226);
-constexpr QRect picture(24, 64, 96, 96);
-constexpr int textLeft = 144;
-constexpr auto text =
+constexpr QSize WelcomeSize(480, 226);
+constexpr QRect Picture(24, 64, 96, 96);
+constexpr int TextLeft = 144;
+constexpr auto Text =
     "In order to begin using Halvane, you will need to create a user profile. In the following "
     "screen you can enter your profile information. This information can be changed later by "
     "using the Profile Manager which can be found under the \"Edit\" menu.";
@@ -23,7 +23,7 @@ constexpr auto text =
 
 frmWelcome::frmWelcome()
     : Dialog(QStringLiteral("frmWelcome"), QStringLiteral("Welcome to Halvane")) {
-    setFixedSize(welcomeSize);
+    setFixedSize(WelcomeSize);
     setAttribute(Qt::WA_DeleteOnClose);
     auto* begin = MakeButton(this, QStringLiteral("cmdBegin"), QStringLiteral("Begin"));
     LayText(LayButtonRow(Inner(), {begin}));
@@ -37,11 +37,11 @@ void frmWelcome::Open() {
 }
 
 void frmWelcome::LayText(const QRect& place) {
-    QLabel* label = MakeLabel(this, QStringLiteral("lblWelcome"), QLatin1String(text));
+    QLabel* label = MakeLabel(this, QStringLiteral("lblWelcome"), QLatin1String(Text));
     label->setWordWrap(true);
     label->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    QRect beside(QPoint(textLeft, place.top()), place.bottomRight());
-    beside.moveCenter(QPoint(beside.center().x(), picture.center().y()));
+    QRect beside(QPoint(TextLeft, place.top()), place.bottomRight());
+    beside.moveCenter(QPoint(beside.center().x(), Picture.center().y()));
     label->setGeometry(beside);
 }
 
@@ -58,5 +58,5 @@ void frmWelcome::reject() {
 void frmWelcome::paintEvent(QPaintEvent* event) {
     Dialog::paintEvent(event);
     QPainter painter(this);
-    Pictures::Paint(painter, picture, QStringLiteral("logo"));
+    Pictures::Paint(painter, Picture, QStringLiteral("logo"));
 }

@@ -2,8 +2,8 @@
 
 #include "toolkit/Dialog.h"
 
-/// The first window of a program that has no profile yet. It leads to the profile screen; closed in
-/// another way it ends the process, as no other window stands open.
+/// The first window if there is no profile yet. It leads to the profile screen. Closing it in
+/// another way ends the process, because no other window is open.
 class frmWelcome : public Dialog {
     Q_OBJECT
 

@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr int barLeft = 8; // pixels
+constexpr int BarLeft = 8; // pixels
 
 } // namespace
 
@@ -18,7 +18,7 @@ ucMenu::ucMenu(QWidget* parent)
     : QWidget(parent) {
     setObjectName(QStringLiteral("ucMenu"));
     setMouseTracking(true);
-    int left = barLeft;
+    int left = BarLeft;
     for (int menu = 0; menu < MenuItems::MenuCount; ++menu) {
         AddMenu(menu, left);
         left = Title(menu)->geometry().right() + 1;
@@ -89,7 +89,7 @@ void ucMenu::Open(int menu) {
     qApp->installEventFilter(this);
 }
 
-/// The action may end the program, and this bar with it.
+/// The action may end the program and destroy this bar.
 void ucMenu::Run(int index) {
     const QPointer<ucMenu> alive(this);
     Q_EMIT Chosen(index);
@@ -104,7 +104,7 @@ bool ucMenu::IsOwn(const QWidget* control) const {
            (open_ && Panel(Shown()) == control);
 }
 
-/// Installed while a menu is open. What is pressed elsewhere still gets its press.
+/// Installed while a menu is open. The pressed control still gets its press.
 bool ucMenu::eventFilter(QObject* watched, QEvent* event) {
     auto* control = qobject_cast<QWidget*>(watched);
     if (!control || control->window() != window())

@@ -8,9 +8,9 @@ class MenuKeys;
 class MenuLabel;
 class MenuPanel;
 
-/// The menu bar: three titles on the band, and a panel below each that drops over the screens. The
-/// panels are children of the window. While one is open, a press anywhere else in the window closes
-/// it, and so does the loss of the input.
+/// The menu bar: three titles, each with a panel that opens over the screens. The panels are
+/// children of the window. An open panel closes at a press elsewhere in the window, or when the
+/// window loses the input.
 class ucMenu : public QWidget {
     Q_OBJECT
 
@@ -18,7 +18,7 @@ public:
     explicit ucMenu(QWidget* parent);
 
     bool IsOpen() const { return open_; }
-    int Shown() const; ///< the menu whose panel is showing, or -1
+    int Shown() const; ///< the open menu, or -1
     MenuLabel* Title(int menu) const { return menus_[menu].title; }
     MenuPanel* Panel(int menu) const { return menus_[menu].panel; }
 
@@ -27,7 +27,7 @@ public:
     void ResetMenu();
 
 Q_SIGNALS:
-    void Chosen(int index); ///< the menu stays open until the receivers have done their work
+    void Chosen(int index); ///< the menu closes after the receivers return
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

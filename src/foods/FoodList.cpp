@@ -2,15 +2,10 @@
 
 #include "runtime/RuntimeError.h"
 
-namespace {
-constexpr int subscriptOutOfRange = 9;
-constexpr int keyInUse = 457;
-} // namespace
-
 Food& FoodList::Add(const QString& FoodName, bool isRecipe, qint32 ID, const QVariant& ServA,
                     const QVariant& ServB, const QString& sKey) {
     if (!sKey.isEmpty() && keys_.contains(sKey, Qt::CaseInsensitive))
-        throw RuntimeError(keyInUse,
+        throw RuntimeError(ErrorNumber::KeyInUse,
                            u"The search result holds an entry of the key '" + sKey + u"' already.");
     keys_ << sKey;
     return foods_.emplace_back(Food{FoodName, isRecipe, ID, ServA, ServB});
@@ -28,7 +23,7 @@ void FoodList::Remove(int index) {
 
 size_t FoodList::PlaceOf(int index) const {
     if (index < 1 || index > Count())
-        throw RuntimeError(subscriptOutOfRange,
+        throw RuntimeError(ErrorNumber::NoSuchPosition,
                            QStringLiteral("The search result has no entry %1.").arg(index));
     return static_cast<size_t>(index - 1);
 }

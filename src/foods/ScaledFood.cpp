@@ -10,10 +10,6 @@
 
 namespace {
 
-constexpr int unknownKey = 5;
-constexpr int outOfRange = 9;
-constexpr int keyInUse = 457;
-
 constexpr double hundredGrams = 100;
 
 /// The amounts of the 31 fields from position `first` on. The order of the operations is part of
@@ -37,19 +33,19 @@ void AddIdentity(ScaledFood& item, const QString& name, const QString& serving, 
 
 void ScaledFood::Add(const QString& key, const QVariant& value) {
     if (Find(key))
-        throw RuntimeError(keyInUse, u"The chosen food holds '" + key + u"' already.");
+        throw RuntimeError(ErrorNumber::KeyInUse, u"The chosen food holds '" + key + u"' already.");
     entries_.append({key, value});
 }
 
 QVariant ScaledFood::Item(const QString& key) const {
     if (const Entry* entry = Find(key))
         return entry->value;
-    throw RuntimeError(unknownKey, u"The chosen food holds no '" + key + u"'.");
+    throw RuntimeError(ErrorNumber::NoSuchKey, u"The chosen food holds no '" + key + u"'.");
 }
 
 QVariant ScaledFood::Item(int position) const {
     if (position < 1 || position > entries_.size())
-        throw RuntimeError(outOfRange,
+        throw RuntimeError(ErrorNumber::NoSuchPosition,
                            QStringLiteral("The chosen food has no entry %1.").arg(position));
     return entries_[position - 1].value;
 }

@@ -2,9 +2,10 @@
 
 #include <QString>
 
-/// The folder of the program, where its files stand. A test sets its own.
+/// The folder that holds the program and its files. A test sets its own.
 QString ApplicationPath();
 void SetApplicationPath(const QString& path);
 
-/// The file of that name beside the program, whether or not the path ends in a separator.
+/// The path of a file beside the program; works with and without a separator at the end of the
+/// folder.
 QString FileBeside(const QString& name);

@@ -5,10 +5,10 @@
 #include <QDate>
 #include <QString>
 
-/// The process-wide state that every floor may read: one home, one way to reset it.
+/// The process-wide state that every floor may read. It has one home and one way to reset it.
 struct AppState {
     bool AppStarted =
-        false; ///< False until Main has begun; drawn controls leave the databases alone until then
+        false; ///< False until Main begins; before that, drawn controls do not use the databases
     struct AppInfo AppInfo;
     QDate CurrentDate; ///< the selected day, null while unset
     QString TipOfTheDay;

@@ -2,8 +2,7 @@
 
 #include "runtime/RuntimeError.h"
 
-/// Runs one step of a routine that goes on whatever fails in it. Gives whether the step went
-/// through.
+/// Runs a step that may fail without ending the routine. Returns whether it succeeded.
 template <class Step> bool Attempt(Step step) {
     try {
         step();

@@ -2,7 +2,7 @@
 
 #include <QDate>
 
-/// The present day, as the whole program sees it. A test sets it.
+/// Today, for the whole program. A test sets it.
 namespace Clock {
 QDate Today();
 void SetToday(QDate today);

@@ -3,9 +3,9 @@
 #include <QDate>
 #include <QString>
 
-/// The number masks in use. Separators are the locale's; halves round away from zero.
+/// The number masks. Separators follow the locale; halves round away from zero.
 enum class NumberMask {
-    UpToTwoDecimals, ///< "0.##": the point stays even with no decimals after it
+    UpToTwoDecimals, ///< "0.##": always with the point: "5."
     Thousands,       ///< "###,###": whole number, 0 gives an empty text
     CalorieTotal,    ///< "##,###": like "###,###"
     Percent,         ///< "##,##0%": times 100, whole
@@ -14,7 +14,8 @@ enum class NumberMask {
 
 QString Format(double value, NumberMask mask);
 
-/// A text of Format without the locale's separators: a point at most, as the conversions read it.
+/// Removes the locale's separators from a text of Format, except for the decimal point, so that the
+/// conversions can read it.
 QString PlainNumber(QString formatted);
 
 QString FormatShortDate(QDate date); ///< "mm/dd/yyyy"

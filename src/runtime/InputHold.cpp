@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr QEvent::Type inputs[] = {
+constexpr QEvent::Type Inputs[] = {
     QEvent::KeyPress,
     QEvent::KeyRelease,
     QEvent::ShortcutOverride,
@@ -38,9 +38,9 @@ InputHold::InputHold() {
     QCoreApplication::instance()->installEventFilter(this);
 }
 
-/// A window whose closing is accepted would be taken away.
+/// An accepted close event would still close the window.
 bool InputHold::eventFilter(QObject*, QEvent* event) {
-    if (std::find(std::begin(inputs), std::end(inputs), event->type()) == std::end(inputs))
+    if (std::find(std::begin(Inputs), std::end(Inputs), event->type()) == std::end(Inputs))
         return false;
     if (event->type() == QEvent::Close)
         event->ignore();

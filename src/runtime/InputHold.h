@@ -2,9 +2,8 @@
 
 #include <QObject>
 
-/// Takes no input from the user while it lives: keys, mouse, touch and the closing of windows are
-/// dropped, not put off, so that a button pressed in impatience is not pressed once more
-/// afterwards. The windows go on painting.
+/// While it lives, the program takes no input: keys, mouse, touch and window closing are dropped,
+/// not queued. So a second, impatient press has no effect later. Windows still paint.
 class InputHold : public QObject {
     Q_OBJECT
 

@@ -5,7 +5,7 @@
 #include <algorithm>
 
 namespace {
-/// A name made ready for comparison, once, as a sort compares it many times.
+/// A name prepared once, because a sort compares it many times.
 struct Sortable {
     QList<uint> letters;
     NamedKey key;
@@ -15,8 +15,8 @@ struct Sortable {
         , key(std::move(named)) {}
 };
 
-/// A whole name given to a collator takes accents for the least of differences, and "Äpfel" would
-/// stand before "apple". So names are compared letter by letter.
+/// Names are compared letter by letter: for whole names a collator ranks accents last, so "Äpfel"
+/// would come before "apple".
 class LetterByLetter {
 public:
     bool operator()(const Sortable& one, const Sortable& other) const {

@@ -8,9 +8,9 @@ struct NamedKey {
     qint32 key = 0;
 };
 
-/// The order in which a person looks names up: capitals make no difference, and an accented letter
-/// comes directly behind its plain one: apple, azuki, Äpfel, bean. It is the same for every
-/// language of the system. Equal names keep their order.
+/// Sorts names as a person looks them up: case does not matter, and an accented letter follows
+/// directly after the plain one: apple, azuki, Äpfel, bean. The order is the same in every locale.
+/// Equal names keep their order.
 namespace NameOrder {
 void Sort(QList<NamedKey>& keys);
 } // namespace NameOrder

@@ -6,7 +6,7 @@
 
 class QObject;
 
-/// Calls that lower floors make upward. The core supplies what they do; a test supplies its own.
+/// Calls from lower floors to higher ones. The core implements them; a test sets its own.
 struct Seams {
     std::function<bool(const QString& message, QObject* owner, bool showCancel)> ShowAlert;
     std::function<QObject*(const QString& screen)> LoadScreen;
@@ -17,15 +17,15 @@ struct Seams {
 
 Seams& TheSeams();
 
-/// The modal message of the program. True for OK, False for Cancel or any other way out.
-/// `owner` is the widget it stands over, or null.
+/// Shows the modal message of the program. True for OK; false for Cancel or any other way of
+/// closing it. `owner` is the widget below it, or null.
 bool ShowAlert(const QString& message, QObject* owner = nullptr, bool showCancel = false);
 
-/// Brings the screen registered under that name (`frmDay`, ...) to the front and returns it.
-/// Null where no screen of that name is registered.
+/// Brings the screen of that name (Screens::Day.name, ...) to the front and returns it. Null if no
+/// screen has that name.
 QObject* ShowScreen(const QString& screen);
 
-/// The screen, created if it is not loaded, without bringing it forward.
+/// Loads the screen if necessary and returns it, without showing it.
 QObject* LoadScreen(const QString& screen);
 
 void ShowHome(); ///< shows the frame frmHOME and refreshes it

@@ -2,7 +2,7 @@
 
 namespace {
 
-/// A setting of the build, and what a test has put in its place.
+/// A setting of the build, and the value that a test has set instead.
 struct BuildSetting {
     QString built;
     QString instead;

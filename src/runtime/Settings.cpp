@@ -11,7 +11,7 @@ constexpr QSettings::Format StoreFormat = QSettings::NativeFormat;
 constexpr QSettings::Format StoreFormat = QSettings::IniFormat;
 #endif
 
-/// A store object of its own for each call, so that a write by anybody else is seen at once.
+/// Each call has its own store object, so that it sees what other processes write.
 class Store : public QSettings {
 public:
     Store()

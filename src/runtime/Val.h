@@ -2,7 +2,6 @@
 
 #include <QStringView>
 
-/// Lenient conversion of text to a number: blanks, tabs and line breaks are skipped, the leading
-/// number (sign, digits, point, exponent) is taken, and 0 is the result where there is none or
-/// where it is too large for a double.
+/// Lenient conversion to a number: skips blanks, tabs and line breaks and reads the number at the
+/// start (sign, digits, point, exponent). 0 if there is none or it is too large for a double.
 double Val(QStringView text);

@@ -10,7 +10,7 @@
 #include <sqlite3.h>
 
 namespace {
-/// The same for names that differ in case only.
+/// Equal for names that differ only in case.
 size_t NameHash(QStringView name) {
     size_t hash = static_cast<size_t>(name.size());
     for (const QChar character : name)

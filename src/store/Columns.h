@@ -7,22 +7,21 @@
 
 struct sqlite3_stmt;
 
-/// The columns of a statement's rows: names, and the declared types that decide how values are
-/// written and read. Made once a prepared statement and shared by the result sets on it.
+/// The columns of a statement: their names, and the declared types, which decide how values are
+/// written and read. All result sets of a prepared statement share it.
 class Columns {
 public:
     explicit Columns(sqlite3_stmt* statement);
 
     int Count() const { return static_cast<int>(columns_.size()); }
     const QString& Name(int position) const { return columns_[static_cast<size_t>(position)].name; }
-    /// The position of that name without regard to case; -1 where there is none. Of two columns of
-    /// one name the first is found.
+    /// The position of a name; case does not matter. -1 if there is none; the first of two equal
+    /// names.
     int Find(QStringView name) const;
 
-    /// What is stored when `value` is written to the column: fails with 13 or 6 where it does not
-    /// fit the declared type.
+    /// The value as the column stores it. Fails with 13 or 6 if it does not fit the declared type.
     QVariant Stored(int position, const QVariant& value) const;
-    /// What a reader gets of a stored value.
+    /// The value as a reader gets it.
     QVariant Read(int position, const QVariant& stored) const;
 
 private:

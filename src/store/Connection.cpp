@@ -84,7 +84,7 @@ StatementCache& Connection::Statements() {
 
 Connection::Impl& Connection::Live() const {
     if (!impl_)
-        throw RuntimeError(StoreError::NotOpen, QStringLiteral("The database is not open."));
+        throw RuntimeError(ErrorNumber::NotOpen, QStringLiteral("The database is not open."));
     return *impl_;
 }
 

@@ -27,7 +27,7 @@ bool IsWholeNumber(const Token& token) {
                        [](QChar at) { return at >= u'0' && at <= u'9'; });
 }
 
-/// Takes `TOP n` out of the head of the statement and gives n; empty where there is none.
+/// Removes `TOP n` from the head of the statement and returns n; empty if there is none.
 QString TakeTop(Tokens& tokens) {
     if (!tokens[0].Is(QLatin1String("SELECT")))
         return {};
@@ -56,8 +56,8 @@ QString NameOf(const Token& token) {
     return (token.kind == Kind::Word ? name : name.sliced(1, name.size() - 2)).toString();
 }
 
-/// Puts the row handle before the columns of `SELECT * FROM table` and gives the table; any other
-/// statement has no row to change.
+/// Adds the row handle to the columns of `SELECT * FROM table` and returns the table. Rows of other
+/// statements cannot be changed.
 QString AddHandle(Tokens& tokens) {
     const bool simple = tokens.size() > 4 && tokens[0].Is(QLatin1String("SELECT")) &&
                         tokens[1].Is(QLatin1String("*")) && tokens[2].Is(QLatin1String("FROM")) &&
@@ -73,7 +73,8 @@ bool IsCompared(const Tokens& tokens, size_t at) {
            (at > 0 && tokens[at - 1].kind == Kind::Comparison);
 }
 
-/// The columns fold A to Z alone, as any tool can; a comparison with a text folds every letter.
+/// The columns' own collation folds only A to Z, so that any tool can use the files; a comparison
+/// with a text must fold every letter.
 void CollateTexts(Tokens& tokens) {
     const QString collate = u" COLLATE " + QLatin1String(TextFunctions::Collation) + u')';
     for (size_t i = 0; i + 1 < tokens.size(); ++i)

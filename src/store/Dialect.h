@@ -2,12 +2,11 @@
 
 #include <QString>
 
-/// The statements of the program are written in a dialect of SQL. They are adapted to the store
-/// here and nowhere else: `TOP n` becomes a LIMIT, `#m/d/yyyy#` an ISO text, a comparison with a
-/// text literal ignores case, and an updatable result set gets its row handle as an extra first
-/// column. It reads tokens: text inside quotes is never touched, and what it cannot read is handed
-/// on unchanged for the store to refuse. The dialect has no comments: a statement with one is
-/// refused (-1), or it would hide what stands behind it.
+/// The program's statements use a dialect of SQL. This is the only place that adapts them to the
+/// store: `TOP n` becomes a LIMIT, `#m/d/yyyy#` an ISO text, a comparison with a text ignores case,
+/// and an updatable result set gets a row handle as its first column. It works on tokens: quoted
+/// text never changes, and what it cannot read passes unchanged, for the store to refuse. A
+/// statement with a comment is refused (-1), because the comment would hide what follows.
 namespace Dialect {
 inline constexpr auto RowHandle = "__row__"; ///< name of the handle column
 

@@ -29,7 +29,7 @@ template <class Test> qsizetype RunOf(QStringView rest, Test test) {
     return length;
 }
 
-/// Up to and with the closing quote, which counts for itself where it is doubled; 0 without one.
+/// Length including the closing quote; a doubled quote counts as text. 0 without a closing quote.
 qsizetype LengthOfQuoted(QStringView rest) {
     const QChar quote = rest.front();
     for (qsizetype i = 1; i < rest.size(); ++i) {

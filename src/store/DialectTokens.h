@@ -4,7 +4,7 @@
 
 #include <vector>
 
-/// The tokens of a statement of the dialect. They view the source, which must outlive them.
+/// The tokens of a statement. They point into the source, which must outlive them.
 namespace DialectTokens {
 enum class Kind { Word, Number, Text, Quoted, Bracketed, Date, Comparison, Comment, Other, End };
 
@@ -17,7 +17,7 @@ struct Token {
     bool Is(QLatin1String word) const { return text.compare(word, Qt::CaseInsensitive) == 0; }
 };
 
-/// All tokens with an End behind them. What is no token of the dialect (a text without its end, a
-/// date that is none) comes out as Other, so that nothing is lost.
+/// All tokens, then an End. Anything that is not a valid token (a text without its end, an invalid
+/// date) is Other, so nothing is lost.
 std::vector<Token> Split(QStringView source);
 } // namespace DialectTokens

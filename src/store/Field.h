@@ -4,8 +4,8 @@
 #include <QString>
 #include <QVariant>
 
-/// One value of the current row. Null is null; the conversions fail with 94 on it and with 13 on
-/// text that is no number.
+/// A value of the current row. Null stays null. The conversions fail with 94 on null, and with 13
+/// on text that is not a number.
 class Field {
 public:
     Field(QString name, QVariant value)

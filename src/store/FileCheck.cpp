@@ -40,8 +40,8 @@ void CheckInside(SQLite::Database& database, const QString& path) {
     CheckVersion(database.execAndGet("PRAGMA user_version").getInt(), path);
 }
 
-/// Only a file declared immutable is read without a lock or an index file beside it. The store
-/// takes a last page that is cut for a full one; the header tells the true length.
+/// The store reads a file without a lock and without an index file only if it is declared
+/// immutable. It reads a truncated last page as a full one, so the length comes from the header.
 void CheckAlone(const QString& file, const QString& path) {
     if (QFileInfo(file).size() < FileHeader::Of(file).Length())
         Refuse(SQLITE_CORRUPT, path, "its end is missing");

@@ -49,7 +49,7 @@ bool FileHeader::IsWhole() const {
 }
 
 qint64 FileHeader::PageSize() const {
-    constexpr qint64 largest = 65536; // which two bytes do not hold
+    constexpr qint64 largest = 65536; // does not fit two bytes
     const qint64 size = NumberAt<quint16>(bytes_, PageSizeAt);
     return size == 1 ? largest : size;
 }

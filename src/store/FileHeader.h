@@ -3,11 +3,11 @@
 #include <QByteArray>
 #include <QString>
 
-/// The header of a database file as it stands on the disk, read without the store. Valid headers
-/// have kept these places in every version of the format.
+/// The header of a database file, read directly from the disk. Its layout is the same in every
+/// version of the file format.
 class FileHeader {
 public:
-    /// Refuses a file that is not there or cannot be read.
+    /// Fails if the file is missing or cannot be read.
     static FileHeader Of(const QString& path);
 
     bool IsEmpty() const { return bytes_.isEmpty(); }
@@ -17,7 +17,7 @@ public:
     qint64 Length() const;   ///< of the whole file, in bytes
     qint32 SchemaVersion() const;
     qint32 ApplicationId() const;
-    /// Goes up by one with each change of a file that has a rollback journal.
+    /// Grows by one with each change of a file with a rollback journal.
     quint32 ChangeCount() const;
     bool HasWriteAheadLog() const; ///< made by a version that kept changes in a `-wal`
 

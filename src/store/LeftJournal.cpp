@@ -16,7 +16,8 @@
 #include <sqlite3.h>
 
 namespace {
-/// A journal is written, then the file, then the journal goes: more than a commit can take.
+/// A commit writes the journal, then the file, and then removes the journal. It never takes longer
+/// than this.
 constexpr qint64 LongestCommit = 10'000;
 
 constexpr const char* Endings[] = {"-journal", "-wal"};
@@ -27,8 +28,7 @@ QByteArray Contents(const QString& path) {
 }
 
 bool CopyForTrial(const QString& from, const QString& to) {
-    return QFile::copy(from, to) &&
-           QFile::setPermissions(to, QFile::ReadOwner | QFile::WriteOwner);
+    return QFile::copy(from, to) && QFile::setPermissions(to, QFile::ReadOwner | QFile::WriteOwner);
 }
 
 bool IsSound(const QString& path) {
@@ -40,35 +40,36 @@ bool IsSound(const QString& path) {
     }
 }
 
-/// How long after the journal the file was last written, moved or put there. Copying a file cannot
-/// set this time back.
+/// Time between the last write of the journal and the last write, move or copy of the file. Copying
+/// cannot set this time back.
 qint64 MillisecondsLater(const QString& path, const QString& journal) {
     return QFileInfo(journal).metadataChangeTime().msecsTo(QFileInfo(path).metadataChangeTime());
 }
 
-/// The file is at the change that the journal takes back, or has not come to it yet.
+/// The file is at the change that the journal undoes, or just before it.
 bool IsOfThisChange(const QString& path, const QString& result) {
-    const quint32 ahead =
-        FileHeader::Of(path).ChangeCount() - FileHeader::Of(result).ChangeCount();
+    const quint32 ahead = FileHeader::Of(path).ChangeCount() - FileHeader::Of(result).ChangeCount();
     return ahead <= 1;
 }
 
-/// The lowest page of those that a write-ahead log holds: the store takes them in by their number.
-/// Frames of an earlier round of the log have other salts.
+/// The lowest page number in a write-ahead log; the store copies pages in this order. Frames of an
+/// earlier round of the log have other salts.
 qint64 LowestPage(const QByteArray& log, qint64 pageSize) {
-    constexpr qsizetype logHeader = 32, salts = 16, frameHeader = 24, frameSalts = 8, saltLength = 8;
+    constexpr qsizetype logHeader = 32, salts = 16, frameHeader = 24, frameSalts = 8,
+                        saltLength = 8;
     qint64 lowest = 0;
     for (qsizetype at = logHeader; at + frameHeader <= log.size(); at += frameHeader + pageSize) {
         const qint64 page = qFromBigEndian<quint32>(log.constData() + at);
         const auto frame = QByteArrayView(log).sliced(at + frameSalts, saltLength);
-        if (frame == QByteArrayView(log).sliced(salts, saltLength) && (lowest == 0 || page < lowest))
+        if (frame == QByteArrayView(log).sliced(salts, saltLength) &&
+            (lowest == 0 || page < lowest))
             lowest = page;
     }
     return lowest;
 }
 
-/// A kill while a log was being taken in leaves a file that is newer than its log. Another file
-/// does not hold the page with which that began.
+/// If a kill interrupted copying the log, the file is newer than its log, and its first copied page
+/// matches. In another file that page differs.
 bool IsBeingTakenIn(const QString& path, const QString& result, const QString& journal) {
     const qint64 size = FileHeader::Of(path).PageSize();
     const qint64 lowest = LowestPage(Contents(journal), size);
@@ -78,7 +79,7 @@ bool IsBeingTakenIn(const QString& path, const QString& result, const QString& j
 
 RuntimeError DoesNotFit(const QString& path, const QStringList& journals) {
     const QString file = QFileInfo(path).fileName();
-    return {StoreError::JournalDoesNotFit,
+    return {ErrorNumber::JournalDoesNotFit,
             QStringLiteral(
                 "Halvane cannot tell whether %2 belongs to the file %1 beside it, and has changed "
                 "nothing. The folder is %3.\n\nIf you have put a copy of %1 there: move %2 out of "
@@ -104,8 +105,8 @@ QString LeftJournal::Result() const {
     return folder_.filePath(QStringLiteral("trial.mdb"));
 }
 
-/// Opening and closing takes the journal in. What the store says meanwhile is left to the checks
-/// of the result.
+/// Opening and closing rolls the journal in. The checks of the result decide, not errors on the
+/// way.
 void LeftJournal::Try() {
     bool copied = CopyForTrial(path_, Result());
     for (const char* ending : Endings)

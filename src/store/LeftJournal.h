@@ -4,17 +4,17 @@
 #include <QTemporaryDir>
 
 /// The journal that a killed process left beside a database file: a `-journal`, or the `-wal` of an
-/// earlier version. The store rolls whatever lies there into the file, and a journal does not name
-/// its file: a copy that was put in the place of the file would be mixed with changes of another.
-/// So the journal is tried on copies in a temporary folder first. The file is never touched.
+/// earlier version. The store would roll it into the file. But a journal does not name its file: if
+/// somebody has put another copy in its place, the changes of two files would be mixed. So the
+/// journal is tried on copies in a temporary folder first. The file itself is not touched.
 class LeftJournal {
 public:
     explicit LeftJournal(const QString& path);
 
-    /// False also where a journal lies there that holds nothing for the file.
+    /// Also false if a journal holds nothing for the file.
     bool ChangesTheFile() const;
-    /// Fails with StoreError::JournalDoesNotFit, and says which files to set aside, where the
-    /// journal is not of this file or where that cannot be told.
+    /// Fails with ErrorNumber::JournalDoesNotFit, and names the files to move, if the journal
+    /// belongs to another file or this cannot be decided.
     void RequireFit() const;
     QString Result() const; ///< the file as it will be with the journal taken in
 

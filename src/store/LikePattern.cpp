@@ -6,11 +6,11 @@
 #include <cstring>
 
 namespace {
-// Behind the last character of Unicode, so that no text can hold them.
+// Above the last Unicode character: no text can hold them.
 constexpr char32_t AnyRun = 0x110000;
 constexpr char32_t AnyOne = 0x110001;
 
-/// The characters of names, the most frequent first. What is missing here is rarer still.
+/// The characters of names, the most frequent first. Any other is rarer.
 constexpr std::string_view ByFrequency = "e anortiscldhupwm,fkgbyv";
 
 char Fold(char byte) {
@@ -31,7 +31,7 @@ bool IsPlain(char32_t character) {
     return character < 0x80;
 }
 
-/// The case-folded text, in a buffer that is used again by the next call.
+/// The case-folded text, in a buffer that the next call reuses.
 std::u32string_view FoldedText(std::string_view text) {
     thread_local std::u32string buffer;
     buffer.clear();
@@ -98,8 +98,7 @@ bool LikePattern::FindWordAt(std::string_view text, char anchor) const {
     return false;
 }
 
-/// Of all letters beyond ASCII only the long s and the kelvin sign fold to one within; these are
-/// the bytes that they start with.
+/// Outside ASCII only the long s and the kelvin sign fold into ASCII. These are their first bytes.
 bool LikePattern::MayFoldToWord(std::string_view text) const {
     return foldsToWord_ && (text.find('\xC5') != std::string_view::npos ||
                             text.find('\xE2') != std::string_view::npos);

@@ -3,9 +3,9 @@
 #include <string>
 #include <string_view>
 
-/// A LIKE pattern made ready to be held against many texts. The longest run of plain letters in it
-/// is looked for first, without decoding the text; for the common pattern, a word between two `%`,
-/// that is all.
+/// A LIKE pattern prepared for many texts. It first looks for its longest run of plain letters,
+/// without decoding the text. For the usual pattern, a word between two `%`, nothing else is
+/// needed.
 class LikePattern {
 public:
     explicit LikePattern(std::string_view pattern);

@@ -16,7 +16,7 @@ bool IsBlank(const char* tail, const char* end) {
 Prepared::Prepared(sqlite3* database, const QString& path, const QByteArray& sql)
     : database_(database)
     , path_(path) {
-    // The store reads up to a NUL: what stands behind it would go unseen.
+    // The store stops at a NUL and would ignore the rest.
     if (sql.contains('\0'))
         throw StoreError::Make(SQLITE_ERROR, path, QStringLiteral("it holds a NUL character"));
     const char* tail = nullptr;

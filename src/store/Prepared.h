@@ -9,11 +9,11 @@
 struct sqlite3;
 struct sqlite3_stmt;
 
-/// One statement made ready by the store, finalised with its owner. Every failure is a RuntimeError
-/// that names the file.
+/// A prepared statement; its owner finalises it. Every failure is a RuntimeError that names the
+/// file.
 class Prepared {
 public:
-    /// Refuses a text that holds anything behind its first statement, or a NUL character.
+    /// Refuses a second statement and NUL characters.
     Prepared(sqlite3* database, const QString& path, const QByteArray& sql);
     ~Prepared();
     Prepared(const Prepared&) = delete;

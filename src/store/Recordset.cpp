@@ -22,8 +22,8 @@ QString QuotedName(QString name) {
 }
 } // namespace
 
-/// The rows are read in full when the set is opened. In an updatable set column 0 of the buffer is
-/// the row handle, which callers do not see.
+/// All rows are read when the set is opened. In an updatable set column 0 of the buffer is the row
+/// handle, hidden from callers.
 struct Recordset::Impl {
     Connection* connection;
     QString table;
@@ -65,7 +65,7 @@ Recordset::Impl::Impl(Connection& on, const QString& source, bool updatable)
 int Recordset::Impl::ColumnAt(int position) const {
     const int column = position + Hidden();
     if (position < 0 || column >= columns->Count())
-        throw RuntimeError(StoreError::NoSuchColumn,
+        throw RuntimeError(ErrorNumber::NoSuchColumn,
                            QStringLiteral("The result set has no column %1.").arg(position));
     return column;
 }
@@ -73,7 +73,7 @@ int Recordset::Impl::ColumnAt(int position) const {
 int Recordset::Impl::ColumnNamed(const QString& name) const {
     const int column = columns->Find(name);
     if (column < Hidden())
-        throw RuntimeError(StoreError::NoSuchColumn,
+        throw RuntimeError(ErrorNumber::NoSuchColumn,
                            QStringLiteral("The result set has no column \"%1\".").arg(name));
     return column;
 }
@@ -91,7 +91,7 @@ QVariant Recordset::Impl::Stored(int column) const {
 
 void Recordset::Impl::RequireTable() const {
     if (table.isEmpty())
-        throw RuntimeError(StoreError::CannotBeChanged,
+        throw RuntimeError(ErrorNumber::CannotBeChanged,
                            QStringLiteral("The rows of this result set cannot be changed."));
 }
 
@@ -122,8 +122,8 @@ void Recordset::Impl::BindPending(Prepared& statement) const {
         statement.Bind(++parameter, value);
 }
 
-/// Runs a statement that writes one row, to its end, where it commits. Gives the row as it is
-/// stored, with generated keys and defaults; none where there was no row to write to.
+/// Runs a statement that writes one row; this commits. Returns the stored row with its generated
+/// keys and defaults, or nothing if there was no such row.
 RowBuffer Recordset::Impl::Write(Prepared& statement) const {
     RowBuffer stored(columns->Count());
     while (statement.Step())
@@ -195,7 +195,7 @@ bool Recordset::IsOpen() const {
 
 Recordset::Impl& Recordset::Opened() const {
     if (!impl_)
-        throw RuntimeError(StoreError::NotOpen, QStringLiteral("The result set is not open."));
+        throw RuntimeError(ErrorNumber::NotOpen, QStringLiteral("The result set is not open."));
     return *impl_;
 }
 

@@ -12,20 +12,17 @@ class Connection;
 enum class Cursor { Keyset = 1, Dynamic = 2, Static = 3 };
 enum class Lock { ReadOnly = 1, Pessimistic = 2, Optimistic = 3 };
 
-/// A result set: exactly one statement, opened, walked and closed inside one routine. Whatever its
-/// cursor, its rows are read when it is opened: what happens to the table afterwards does not
-/// change them.
+/// A result set of exactly one statement. The routine that opens it uses and closes it. All rows
+/// are read on opening, whatever the cursor type: later changes of the table do not appear.
 ///
-/// A set opened with a lock other than ReadOnly on `SELECT * FROM table ...` can append, change and
-/// delete rows; each touches exactly the current row, and only Update writes: what was set is
-/// dropped by a move or a close. Values written are converted to the column's declared type (whole
-/// numbers round half to even). Under every lock the statement itself only reads: one that would
-/// write, ATTACH, PRAGMA, transactions and schema changes are refused, and so is anything behind
-/// the first statement, before it runs.
+/// With a lock other than ReadOnly, a set on `SELECT * FROM table ...` can append, change and
+/// delete rows. Each change affects only the current row. Only Update writes; a move or a close
+/// drops what was set. Values are converted to the column's declared type (whole numbers round half
+/// to even). The statement itself may only read: writes, ATTACH, PRAGMA, transactions, schema
+/// changes and a second statement are refused before anything runs.
 ///
-/// Columns are found by name without regard to case, or by position from 0. Reading or changing
-/// where there is no current row fails with 3021, an unknown column with 3265, changing rows that
-/// are not those of one table with 3251.
+/// Columns are found by name, whatever the case, or by position from 0. Errors: no current row
+/// 3021, unknown column 3265, a change of rows that are not from one table 3251.
 class Recordset {
 public:
     Recordset();
@@ -42,7 +39,7 @@ public:
 
     int RecordCount() const;
     bool AtStart() const; ///< before the first row
-    bool AtEnd() const;   ///< behind the last row; also true where there are none
+    bool AtEnd() const;   ///< behind the last row, or there are no rows
     void MoveFirst();
     void MoveLast();
     void MoveNext();
@@ -56,8 +53,8 @@ public:
     void AddNew();
     void Set(int position, const QVariant& value);
     void Set(const QString& name, const QVariant& value);
-    void Update(); ///< commits the row; generated keys can be read from it afterwards
-    /// Commits; the set then stands where the row was, with no current row until a move.
+    void Update(); ///< commits the row; its generated keys can then be read
+    /// Commits. Afterwards there is no current row until a move.
     void Delete();
 
 private:

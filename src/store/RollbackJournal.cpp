@@ -7,7 +7,7 @@
 #include <sqlite3.h>
 
 namespace {
-/// A change that is taken back at once makes the journal and leaves the file as it is.
+/// A change that is undone at once creates the journal but leaves the file as it is.
 void TryJournal(SQLite::Database& database) {
     const std::string version = database.execAndGet("PRAGMA user_version").getString();
     SQLite::Transaction transaction(database);

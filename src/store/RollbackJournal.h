@@ -6,13 +6,13 @@ namespace SQLite {
 class Database;
 }
 
-/// How every connection that writes keeps its changes safe.
+/// The way in which every writing connection protects its changes.
 ///
-/// A commit writes what it is about to change into a journal beside the file, then the file, and
-/// then removes the journal: between two commits the file is all there is. Each of the three is
-/// synced, the last one by a sync of the folder: without it a journal that was removed could be
-/// back after a power cut, and a row that was acknowledged would be rolled back.
+/// A commit writes the old pages into a journal beside the file, then the file, and then removes
+/// the journal: between two commits only the file exists. Each step is synced. The last one syncs
+/// the folder: otherwise a removed journal could come back after a power cut and undo an
+/// acknowledged row.
 namespace RollbackJournal {
-/// Takes in the `-wal` of an earlier version. Refuses a folder in which no journal can be made.
+/// Rolls in the `-wal` of an earlier version. Fails if the folder does not allow a journal.
 void Use(SQLite::Database& database, const QString& path);
 } // namespace RollbackJournal

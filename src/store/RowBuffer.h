@@ -8,8 +8,8 @@
 
 struct sqlite3_stmt;
 
-/// The rows of a result set in memory, in few and large pieces: fixed cells, and all texts in one
-/// string behind them. Text of a row that was replaced stays until the buffer goes.
+/// The rows of a result set in memory: fixed cells, and one string with all texts. The text of a
+/// replaced row stays until the buffer is destroyed.
 class RowBuffer {
 public:
     explicit RowBuffer(int columns = 0)
@@ -18,11 +18,11 @@ public:
     int Count() const { return static_cast<int>(columns_ == 0 ? 0 : cells_.size() / columns_); }
     QVariant Value(int row, int column) const;
 
-    /// Takes the row that the statement stands on.
+    /// Adds the current row of the statement.
     void Append(sqlite3_stmt* statement);
-    /// Takes the rows of another buffer with the same columns.
+    /// Adds the rows of another buffer with the same columns.
     void Append(const RowBuffer& other);
-    /// Puts the first row of another buffer in place of a row.
+    /// Replaces a row by the first row of another buffer.
     void Replace(int row, const RowBuffer& other);
     void Erase(int row);
 

@@ -15,23 +15,22 @@ namespace Schema {
 inline constexpr int Version = 2;
 inline constexpr int LastStockFood = 23508; ///< foods above this key are the user's own
 
-/// What leads from one version to the next: the first step makes a new file, and what a step holds
-/// is never changed once files made by it are out.
+/// The statements from one version to the next. The first step creates a new file. A step never
+/// changes once files made by it are in use.
 struct Step {
     const char* users;
     const char* foods;
 };
 
-/// Makes a new, empty file with the schema of its kind. Refuses (negative number) where a file is
-/// there already.
+/// Creates a new file with the schema of its kind. Fails (negative number) if a file exists.
 void Create(const QString& path, DatabaseKind kind);
 
-/// Brings an open older file up to this version by numbered steps, each in a transaction.
+/// Updates an open older file to this version by numbered steps, each in a transaction.
 void Migrate(SQLite::Database& database, DatabaseKind kind);
 
 /// The same with other steps: step n (from 0) leads from version n to n + 1.
 void Migrate(SQLite::Database& database, DatabaseKind kind, std::span<const Step> steps);
 
-/// The mark in the header of a file that tells its kind.
+/// The mark of a kind in the header of a file.
 qint32 ApplicationId(DatabaseKind kind);
 } // namespace Schema

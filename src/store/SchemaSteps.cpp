@@ -3,9 +3,8 @@
 #include <iterator>
 
 namespace {
-// Generated keys are AUTOINCREMENT, so that none is given
-// out twice; the key of a food is not, as the next custom food takes the highest one plus 1.
-// Texts fold A to Z with the collation that every tool has.
+// Generated keys are AUTOINCREMENT, so that none is given twice. A food's key is not: the next
+// custom food gets the highest key plus 1. Texts use the collation for A to Z that every tool has.
 constexpr auto UsersStep1 = R"(
 CREATE TABLE profiles (
     UID INTEGER PRIMARY KEY AUTOINCREMENT,
@@ -59,8 +58,8 @@ CREATE TABLE Ingredients (
 CREATE INDEX Ingredients_Recipe ON Ingredients (RecipeID);
 )";
 
-// The index holds every column that a search reads, so that a search never touches the table.
-// NDB_No is the number that the release gives the food, by which each figure can be traced.
+// The index holds every column that a search reads, so a search never reads the table. NDB_No is
+// the food's number in the release: it traces each figure.
 constexpr auto FoodsStep1 = R"(
 CREATE TABLE FOODS (
     ID INTEGER PRIMARY KEY,
@@ -74,9 +73,9 @@ CREATE TABLE FOODS (
 CREATE INDEX FOODS_Name ON FOODS (FoodName, Serv_Desc_A, Serv_Desc_B);
 )";
 
-// The nutrients stand at positions 1 to 31 of FOODS, Ingredients and USER_FOODS in one order, which
-// is that of the sums over a recipe: amounts are handed on by position. Values move by name, and
-// keys of deleted ingredients are still not given out again.
+// In FOODS, Ingredients and USER_FOODS the nutrients are at positions 1 to 31 in the order of the
+// sums over a recipe, because amounts are copied by position. This step moves values by name. Keys
+// of deleted ingredients are still not given again.
 constexpr auto UsersStep2 = R"(
 CREATE TEMP TABLE moved AS SELECT * FROM main.Ingredients;
 CREATE TEMP TABLE highest AS SELECT seq FROM main.sqlite_sequence WHERE name = 'Ingredients';

@@ -2,5 +2,5 @@
 
 #include "store/Schema.h"
 
-/// The statements of every version, step n (from 0) from version n to n + 1.
+/// The statements of every schema version. Step n (from 0) leads from version n to n + 1.
 std::span<const Schema::Step> SchemaSteps();

@@ -22,7 +22,7 @@ StatementCache::~StatementCache() {
 StatementCache::Query StatementCache::Read(const QString& source, bool updatable) {
     const QScopedValueRollback guard(guarding_, true);
     Entry& entry = Find(updatable ? Use::Updating : Use::Reading, source);
-    if (sqlite3_stmt_readonly(entry.statement->Handle()) == 0) // what the guard is not asked about
+    if (sqlite3_stmt_readonly(entry.statement->Handle()) == 0) // the guard does not see these
         throw StoreError::Make(SQLITE_AUTH, path_, QStringLiteral("the statement would write"));
     return {*entry.statement, entry.table};
 }
@@ -54,8 +54,8 @@ StatementCache::Entry StatementCache::MakeReady(Use use, const QString& source) 
             std::make_unique<Prepared>(database_, path_, adapted.sql.toUtf8())};
 }
 
-/// Allows what a query needs; whatever writes, attaches, sets or changes the schema is denied, and
-/// so are transactions, which would outlive the result set.
+/// Allows what a query needs. Denies everything that writes, attaches, sets or changes the schema,
+/// and transactions, which would outlive the result set.
 int StatementCache::Authorize(void* self, int action, const char*, const char*, const char*,
                               const char*) {
     if (!static_cast<StatementCache*>(self)->guarding_)

@@ -4,9 +4,9 @@
 
 #include <list>
 
-/// The prepared statements of one connection, the latest used first and only so many: a statement
-/// that comes again is neither adapted nor made ready anew. Statements of result sets pass a guard
-/// that lets them read rows and do nothing else.
+/// The prepared statements of a connection, the most recent first, up to a fixed number: a repeated
+/// statement is neither adapted nor prepared again. Statements of result sets pass a guard that
+/// allows only reading rows.
 class StatementCache {
 public:
     static constexpr size_t Capacity = 32;
@@ -20,9 +20,9 @@ public:
         Prepared& statement; ///< belongs to the cache and is good until the next call
         QString table;       ///< of an updatable set; empty for one that only reads
     };
-    /// The statement of a result set, in the dialect.
+    /// A result set's statement, in the dialect.
     Query Read(const QString& source, bool updatable);
-    /// A statement that the store composed itself; good until the next call.
+    /// A statement of the store itself; valid until the next call.
     Prepared& Command(const QString& sql);
 
 private:

@@ -35,7 +35,7 @@ QString TextFor(int code) {
     return QStringLiteral("The store failed on the file %1: %2.");
 }
 
-/// What the store says may quote a statement, and so a text of any length that somebody has typed.
+/// The store may quote a statement, and so a text of any length that somebody typed.
 QString Shortened(const QString& detail) {
     constexpr qsizetype longest = 80;
     return detail.size() <= longest ? detail : detail.left(longest) + u"...";

@@ -11,7 +11,7 @@ bool IsContinuation(char byte) {
     return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U;
 }
 
-/// The bytes that follow a lead byte; -1 where the byte starts no character.
+/// The number of bytes that follow a lead byte; -1 for a byte that starts no character.
 int FollowingBytes(unsigned char lead) {
     if (lead >= 0xC2 && lead <= 0xDF)
         return 1;

@@ -19,7 +19,7 @@ void DeletePattern(void* pattern) {
     delete static_cast<LikePattern*>(pattern);
 }
 
-/// The pattern of a statement stays the same from row to row, so it is made ready once.
+/// The pattern is the same for all rows of a statement, so it is prepared once.
 void Like(sqlite3_context* context, int, sqlite3_value** arguments) {
     if (sqlite3_value_type(arguments[0]) == SQLITE_NULL ||
         sqlite3_value_type(arguments[1]) == SQLITE_NULL)

@@ -11,12 +11,15 @@
 namespace {
 
 // Measures in pixels.
-constexpr int boxesTop = 42;
-constexpr int boxesBottom = 44; // from the lower edge
-constexpr int titleLineTop = 11;
-constexpr int titleLineHeight = 24;
+constexpr int BoxesTop = 42;
+constexpr int BoxesBottom = 44; // from the lower edge
+constexpr int TitleLineTop = 11;
+constexpr int TitleLineHeight = 24;
 
 } // namespace
+
+Screen::Screen(const ScreenRow& row, QWidget* parent)
+    : Screen(QString::fromLatin1(row.name), QString::fromLatin1(row.title), parent) {}
 
 Screen::Screen(const QString& name, const QString& title, QWidget* parent)
     : QWidget(parent)
@@ -51,18 +54,18 @@ ucBox* Screen::AddBox(const char* name, const char* caption, QWidget* contents) 
 
 QRect Screen::BoxesPlace() const {
     const int edge = TheStyle().nestEdge;
-    return rect().adjusted(edge, boxesTop, -edge, -boxesBottom);
+    return rect().adjusted(edge, BoxesTop, -edge, -BoxesBottom);
 }
 
 int Screen::PlaceInTitleLine(QWidget* control, int left) {
-    control->move(left, titleLineTop + (titleLineHeight - control->height()) / 2);
+    control->move(left, TitleLineTop + (TitleLineHeight - control->height()) / 2);
     return left + control->width();
 }
 
 void Screen::PlaceInRow(int left, std::initializer_list<ucButton*> buttons) {
     const int gap = TheStyle().boxGap;
     for (ucButton* button : buttons) {
-        button->move(left, height() - boxesBottom + gap);
+        button->move(left, height() - BoxesBottom + gap);
         left += button->width() + gap;
     }
 }

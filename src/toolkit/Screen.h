@@ -1,5 +1,6 @@
 #pragma once
 
+#include "runtime/ScreenTable.h"
 #include "toolkit/CleanUp.h"
 
 #include <QList>
@@ -11,27 +12,28 @@
 class ucBox;
 class ucButton;
 
-/// A screen of the nest. ShowScreen creates it by its registered name, lays it over the nest and
-/// calls DoWinInit each time it comes forward. Closing it destroys it; hiding keeps it. The upper
-/// left corner of the nest, 14 to 196 pixels from the left and 8 to 38 from the top, is kept free
-/// for the frame's title of the screen. Its timer `cleanUp` calls AllOff(""), too.
+/// A screen of the nest. ShowScreen creates it, lays it over the nest and calls DoWinInit each time
+/// the screen comes to the front. Closing a screen destroys it; hiding keeps it. The frame prints
+/// the title in the upper left corner, 14 to 196 pixels from the left and 8 to 38 from the top: a
+/// screen keeps this place free. Its timer `cleanUp` calls AllOff("").
 class Screen : public QWidget {
     Q_OBJECT
 
 public:
+    explicit Screen(const ScreenRow& row, QWidget* parent = nullptr);
     Screen(const QString& name, const QString& title, QWidget* parent = nullptr);
 
     QString Title() const { return title_; }
-    /// Called by ShowScreen before the screen is shown: the place to take over the chosen day.
+    /// ShowScreen calls it before the screen is visible: take over the chosen day here.
     virtual void BeforeShow() {}
-    /// Brings the contents up to date.
+    /// Brings the contents up to date; see above.
     virtual void DoWinInit() {}
-    /// Takes the hover look off all buttons but the one named, without regard to case.
+    /// Resets the highlight of all buttons except the named one; case does not matter.
     virtual void AllOff(const QString& except);
 
 protected:
-    /// A button of this screen: a press calls `pressed`, the pointer over it puts the others out.
-    /// AllOff hears of it by `hoverName` where one is given.
+    /// Adds a button. A press calls `pressed`; a mouse move over it calls AllOff with `hoverName`,
+    /// or with `name` if there is none.
     ucButton* AddButton(const char* name, const char* caption, std::function<void()> pressed,
                         const char* hoverName = nullptr);
     template <class Derived>
@@ -41,16 +43,15 @@ protected:
             name, caption, [this, pressed] { (static_cast<Derived*>(this)->*pressed)(); },
             hoverName);
     }
-    /// A box of this screen around its contents; the pointer over it puts the buttons out.
+    /// Adds a box around `contents`; a mouse move over it calls AllOff("").
     ucBox* AddBox(const char* name, const char* caption, QWidget* contents);
     QRect BoxesPlace() const; ///< below the title, above the buttons
-    /// In the middle of the line beside the frame's title, at the control's own size. Gives the
-    /// place right of it.
+    /// Centres the control vertically in the line of the frame's title. Returns its right edge.
     static int PlaceInTitleLine(QWidget* control, int left);
-    /// Side by side below the boxes, from `left` on.
+    /// Places the buttons side by side below the boxes, from `left` on.
     void PlaceInRow(int left, std::initializer_list<ucButton*> buttons);
-    void PlaceAtEnd(ucButton* button);          ///< of that row
-    void mouseMoveEvent(QMouseEvent*) override; ///< AllOff("") where the pointer has really moved
+    void PlaceAtEnd(ucButton* button);          ///< at the right end of the button row
+    void mouseMoveEvent(QMouseEvent*) override; ///< AllOff("") if the position has changed
     void paintEvent(QPaintEvent*) override;     ///< canvas
 
 private:

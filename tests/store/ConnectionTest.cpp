@@ -19,7 +19,7 @@ constexpr int Corrupt = -11;
 constexpr int CannotOpen = -14;
 constexpr int NoDatabase = -26;
 
-/// Takes the rights of the administrator away for a while, as they pass over every permission.
+/// Drops the administrator's rights for a while, because they ignore permissions.
 class OrdinaryUser {
 public:
     OrdinaryUser()
@@ -65,7 +65,7 @@ protected:
         return QDir(folder_.path()).entryList(QDir::Files | QDir::Hidden);
     }
 
-    /// Opens foods.mdb with the content given: it must be refused so, and nothing may change.
+    /// Opens foods.mdb with this content: it must be refused with this error and stay unchanged.
     void ExpectRefused(const QByteArray& content, int number, const char* saying) {
         Write(FoodsFile(), content);
         ExpectRefused(number, saying);
@@ -95,7 +95,8 @@ protected:
         ASSERT_TRUE(QFile::copy(FoodsFile() + journal, File(name) + journal));
     }
 
-    /// Leaves killed.mdb with changes of its last write in it, and the journal that takes them back.
+    /// Leaves killed.mdb with changes of its last write in it, and the journal that takes them
+    /// back.
     void KillInTheMiddleOfAWrite(const QString& rows = "ID > 0") {
         foods_.Open(FoodsFile(), DatabaseKind::Foods);
         Run(foods_, "UPDATE FOODS SET Calories = 1 WHERE ID = 1");
@@ -118,7 +119,7 @@ protected:
         earlier.exec("PRAGMA journal_mode = DELETE");
     }
 
-    /// A file is moved, copied or restored at a time of its own, which is later than the other's.
+    /// A copied or restored file gets its own time, later than the journal's.
     void MoveLater(const QString& path, const QString& than) {
         const auto time = [](const QString& file) { return QFileInfo(file).metadataChangeTime(); };
         while (time(path) <= time(than)) {
@@ -131,7 +132,7 @@ protected:
         MoveLater(File("killed.mdb"), File("killed.mdb") + journal);
     }
 
-    /// The journal beside killed.mdb is not taken for its own, and all stays as it is.
+    /// The journal beside killed.mdb is refused, and all files stay as they are.
     void ExpectSetAside(const QString& journal) {
         const QByteArray file = Contents(File("killed.mdb"));
         const QByteArray changes = Contents(File("killed.mdb") + journal);
@@ -142,7 +143,7 @@ protected:
             killed.Open(File("killed.mdb"), DatabaseKind::Foods);
             ADD_FAILURE() << "a journal of another file was taken in";
         } catch (const RuntimeError& error) {
-            EXPECT_EQ(error.Number(), StoreError::JournalDoesNotFit);
+            EXPECT_EQ(error.Number(), ErrorNumber::JournalDoesNotFit);
             text = error.Description();
         }
         EXPECT_TRUE(text.contains("killed.mdb" + journal)) << text.toStdString();
@@ -170,9 +171,9 @@ TEST_F(ConnectionTest, OpensClosesAndOpensAgain) {
 }
 
 TEST_F(ConnectionTest, AClosedConnectionCannotBeUsed) {
-    EXPECT_EQ(ErrorOf([&] { foods_.Raw(); }), StoreError::NotOpen);
-    EXPECT_EQ(ErrorOf([&] { foods_.Statements(); }), StoreError::NotOpen);
-    EXPECT_EQ(ErrorOf([&] { (void)foods_.Path(); }), StoreError::NotOpen);
+    EXPECT_EQ(ErrorOf([&] { foods_.Raw(); }), ErrorNumber::NotOpen);
+    EXPECT_EQ(ErrorOf([&] { foods_.Statements(); }), ErrorNumber::NotOpen);
+    EXPECT_EQ(ErrorOf([&] { (void)foods_.Path(); }), ErrorNumber::NotOpen);
 }
 
 TEST_F(ConnectionTest, OpeningAnOpenConnectionClosesItFirst) {

@@ -143,13 +143,13 @@ TEST_F(RecordsetTest, TheCatalogueIsOneTableUnderThreeForms) {
 
 TEST_F(RecordsetTest, UnknownColumnsFail) {
     Recordset set = ThreeWeights();
-    EXPECT_EQ(ErrorOf([&] { set["Height"]; }), StoreError::NoSuchColumn);
-    EXPECT_EQ(ErrorOf([&] { set[QString()]; }), StoreError::NoSuchColumn);
-    EXPECT_EQ(ErrorOf([&] { set[3]; }), StoreError::NoSuchColumn);
-    EXPECT_EQ(ErrorOf([&] { set[-1]; }), StoreError::NoSuchColumn);
-    EXPECT_EQ(ErrorOf([&] { set.FieldName(3); }), StoreError::NoSuchColumn);
-    EXPECT_EQ(ErrorOf([&] { set.Set("Height", 1); }), StoreError::NoSuchColumn);
-    EXPECT_EQ(ErrorOf([&] { set.Set(3, 1); }), StoreError::NoSuchColumn);
+    EXPECT_EQ(ErrorOf([&] { set["Height"]; }), ErrorNumber::NoSuchColumn);
+    EXPECT_EQ(ErrorOf([&] { set[QString()]; }), ErrorNumber::NoSuchColumn);
+    EXPECT_EQ(ErrorOf([&] { set[3]; }), ErrorNumber::NoSuchColumn);
+    EXPECT_EQ(ErrorOf([&] { set[-1]; }), ErrorNumber::NoSuchColumn);
+    EXPECT_EQ(ErrorOf([&] { set.FieldName(3); }), ErrorNumber::NoSuchColumn);
+    EXPECT_EQ(ErrorOf([&] { set.Set("Height", 1); }), ErrorNumber::NoSuchColumn);
+    EXPECT_EQ(ErrorOf([&] { set.Set(3, 1); }), ErrorNumber::NoSuchColumn);
 }
 
 TEST_F(RecordsetTest, TheRowHandleIsHiddenFromAnUpdatableSet) {
@@ -157,7 +157,7 @@ TEST_F(RecordsetTest, TheRowHandleIsHiddenFromAnUpdatableSet) {
     EXPECT_EQ(set.FieldCount(), 3);
     EXPECT_EQ(set.FieldName(0), "UID");
     EXPECT_EQ(set[2].Name(), "Weight");
-    EXPECT_EQ(ErrorOf([&] { set["__row__"]; }), StoreError::NoSuchColumn);
+    EXPECT_EQ(ErrorOf([&] { set["__row__"]; }), ErrorNumber::NoSuchColumn);
 }
 
 TEST_F(RecordsetTest, PositionsOneToThirtyOneAreTheNutrients) {
@@ -425,9 +425,9 @@ TEST_F(RecordsetTest, ARowThatIsGoneCannotBeChanged) {
 TEST_F(RecordsetTest, ReadOnlySetsDoNotChange) {
     ThreeWeights();
     Recordset set(users_, AllWeights, Cursor::Static, Lock::ReadOnly);
-    EXPECT_EQ(ErrorOf([&] { set.Set("Weight", 1); }), StoreError::CannotBeChanged);
-    EXPECT_EQ(ErrorOf([&] { set.AddNew(); }), StoreError::CannotBeChanged);
-    EXPECT_EQ(ErrorOf([&] { set.Delete(); }), StoreError::CannotBeChanged);
+    EXPECT_EQ(ErrorOf([&] { set.Set("Weight", 1); }), ErrorNumber::CannotBeChanged);
+    EXPECT_EQ(ErrorOf([&] { set.AddNew(); }), ErrorNumber::CannotBeChanged);
+    EXPECT_EQ(ErrorOf([&] { set.Delete(); }), ErrorNumber::CannotBeChanged);
     set.Update();
     EXPECT_EQ(Weights(), "151.0,152.0,153.0");
 }
@@ -436,8 +436,8 @@ TEST_F(RecordsetTest, RowsThatAreNotOfOneTableDoNotChange) {
     ThreeWeights();
     Recordset set = Change("SELECT Sum(Weight) AS [Weight] FROM USER_WEIGHTS");
     EXPECT_EQ(set["Weight"].Number(), 456);
-    EXPECT_EQ(ErrorOf([&] { set.Set("Weight", 1); }), StoreError::CannotBeChanged);
-    EXPECT_EQ(ErrorOf([&] { set.AddNew(); }), StoreError::CannotBeChanged);
+    EXPECT_EQ(ErrorOf([&] { set.Set("Weight", 1); }), ErrorNumber::CannotBeChanged);
+    EXPECT_EQ(ErrorOf([&] { set.AddNew(); }), ErrorNumber::CannotBeChanged);
 }
 
 TEST_F(RecordsetTest, EveryCursorAndLockInUseOpens) {
@@ -472,12 +472,12 @@ TEST_F(RecordsetTest, AClosedSetFailsOnEveryUse) {
         [&] { set.Update(); },       [&] { set.Delete(); },
     };
     for (const auto& use : uses)
-        EXPECT_EQ(ErrorOf(use), StoreError::NotOpen);
+        EXPECT_EQ(ErrorOf(use), ErrorNumber::NotOpen);
     set.Close();
     set.Open(users_, AllWeights);
     EXPECT_TRUE(set.IsOpen());
     set.Close();
-    EXPECT_EQ(ErrorOf([&] { set.RecordCount(); }), StoreError::NotOpen);
+    EXPECT_EQ(ErrorOf([&] { set.RecordCount(); }), ErrorNumber::NotOpen);
 }
 
 TEST_F(RecordsetTest, OpeningAgainReplacesTheRows) {
@@ -495,8 +495,8 @@ TEST_F(RecordsetTest, ASetOnAClosedConnectionFails) {
     users_.Close();
     EXPECT_EQ(set["Weight"].Number(), 151);
     set.Set("Weight", 1);
-    EXPECT_EQ(ErrorOf([&] { set.Update(); }), StoreError::NotOpen);
-    EXPECT_EQ(ErrorOf([&] { Read(AllWeights); }), StoreError::NotOpen);
+    EXPECT_EQ(ErrorOf([&] { set.Update(); }), ErrorNumber::NotOpen);
+    EXPECT_EQ(ErrorOf([&] { Read(AllWeights); }), ErrorNumber::NotOpen);
 }
 
 TEST_F(RecordsetTest, AStatementThatCannotBeReadIsRefused) {

@@ -1,4 +1,5 @@
 #include "toolkit/Pictures.h"
+#include "runtime/ScreenTable.h"
 #include "support/HalvaneTest.h"
 #include "support/Places.h"
 
@@ -28,6 +29,13 @@ TEST_F(PicturesTest, EveryNamedPictureIsThere) {
           "background",  "check-on", "check-off", "drop-arrow", "day-cell"})
         EXPECT_TRUE(Pictures::Exists(QLatin1String(name))) << name;
     EXPECT_FALSE(Pictures::Exists(QStringLiteral("nothing")));
+}
+
+TEST_F(PicturesTest, EveryButtonOfAScreenHasItsPicture) {
+    for (const ScreenRow* row : Screens::All) {
+        const bool needsPicture = row->button != nullptr;
+        EXPECT_EQ(Pictures::Exists(QLatin1String(row->picture)), needsPicture) << row->name;
+    }
 }
 
 TEST_F(PicturesTest, EveryPictureOfTheFolderIsCompiledInAndDraws) {

@@ -11,7 +11,9 @@
 #include "runtime/Dates.h"
 #include "runtime/Format.h"
 #include "runtime/RuntimeError.h"
+#include "runtime/ScreenTable.h"
 #include "runtime/Seams.h"
+#include "runtime/SettingTable.h"
 #include "runtime/Settings.h"
 #include "toolkit/LineField.h"
 #include "toolkit/MousePointer.h"
@@ -25,7 +27,6 @@
 
 namespace {
 
-const QString StateSetting = QStringLiteral("REPORTSTATE");
 constexpr int DaysBefore = 6; ///< today, in the period that the screen opens with
 
 const QString InvalidDate =
@@ -55,7 +56,7 @@ constexpr int viewsGap = 12;
 } // namespace
 
 frmReport::frmReport(QWidget* parent)
-    : Screen(QStringLiteral("frmReport"), QStringLiteral("Report"), parent) {
+    : Screen(Screens::Report, parent) {
     setFocusPolicy(Qt::ClickFocus);
     AddPeriod();
     AddViewButtons();
@@ -188,7 +189,7 @@ void frmReport::hideEvent(QHideEvent* event) {
     if (event->spontaneous())
         return;
     left_ = true;
-    SetRegValue(StateSetting, state_);
+    SetRegValue(Settings::ReportState, state_);
     if (!HasPeriod())
         ucLine_->ReadPeriodFrom(nullptr, nullptr);
 }
@@ -225,7 +226,7 @@ void frmReport::TellNoWeight() {
 /// Messages wait until the screen is in front.
 void frmReport::DoWinInit() {
     QMetaObject::invokeMethod(this, &frmReport::TellFindings, Qt::QueuedConnection);
-    const QString state = GetRegValue(StateSetting);
+    const QString state = GetRegValue(Settings::ReportState);
     const qint32 view = state.isEmpty() ? Bars : ToInteger(state);
     if (HasPeriod())
         ShowView(view);
@@ -251,11 +252,11 @@ void frmReport::ShowView(qint32 view) {
 }
 
 void frmReport::GoHome() {
-    ShowScreen(QStringLiteral("frmMain"));
+    ShowScreen(Screens::Main.name);
 }
 
 void frmReport::closeEvent(QCloseEvent* event) {
-    SetRegValue(StateSetting, state_);
+    SetRegValue(Settings::ReportState, state_);
     ucBar_->StoreMode();
     Screen::closeEvent(event);
 }

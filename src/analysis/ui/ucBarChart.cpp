@@ -8,6 +8,7 @@
 #include "analysis/ui/GridLines.h"
 #include "analysis/ui/LedLabel.h"
 #include "model/User.h"
+#include "runtime/SettingTable.h"
 #include "runtime/Settings.h"
 #include "toolkit/Style.h"
 #include "toolkit/Twips.h"
@@ -20,7 +21,6 @@ namespace {
 
 const QString BarsMode = QStringLiteral("BARS");
 const QString ValuesMode = QStringLiteral("VALS");
-const QString ModeSetting = QStringLiteral("REPORTMODE");
 const QString Leader(148, u'.');
 
 // Twips.
@@ -74,7 +74,7 @@ ucBarChart::ucBarChart(QWidget* parent)
     TrackParts();
     resize(sizeHint());
     PlaceAll();
-    Toggle(GetRegValue(ModeSetting) == ValuesMode ? 1 : 0);
+    Toggle(GetRegValue(Settings::ReportMode) == ValuesMode ? 1 : 0);
 }
 
 ucBarChart::~ucBarChart() {
@@ -82,7 +82,7 @@ ucBarChart::~ucBarChart() {
 }
 
 void ucBarChart::StoreMode() const {
-    SetRegValue(ModeSetting, mode_);
+    SetRegValue(Settings::ReportMode, mode_);
 }
 
 void ucBarChart::AddHead() {

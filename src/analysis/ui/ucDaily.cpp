@@ -11,6 +11,7 @@
 #include "model/User.h"
 #include "runtime/AppState.h"
 #include "runtime/Clock.h"
+#include "runtime/SettingTable.h"
 #include "runtime/Settings.h"
 #include "toolkit/Style.h"
 #include "toolkit/Twips.h"
@@ -31,7 +32,6 @@ constexpr ViewButton Views[ViewModes] = {
     {"cmdVals", "values", "Numeric daily totals"},
     {"cmdPIEChart", "pie", "Pie chart of caloric breakdown"},
 };
-const QString ModeSetting = QStringLiteral("DAILYMODE");
 
 // Pixels.
 constexpr int PanelWidth = 338;
@@ -73,7 +73,7 @@ ucDaily::ucDaily(QWidget* parent)
     WatchPointer(this, {.row = 0, .raises = true});
     resize(sizeHint());
     PlaceAll();
-    Toggle(ModeNumber(GetRegValue(ModeSetting)));
+    Toggle(ModeNumber(GetRegValue(Settings::DailyMode)));
 }
 
 ucDaily::~ucDaily() {
@@ -81,7 +81,7 @@ ucDaily::~ucDaily() {
 }
 
 void ucDaily::StoreMode() const {
-    SetRegValue(ModeSetting, mode_);
+    SetRegValue(Settings::DailyMode, mode_);
 }
 
 void ucDaily::AddHead() {

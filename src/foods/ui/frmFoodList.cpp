@@ -3,6 +3,7 @@
 #include "foods/ui/CustomFoodFields.h"
 #include "foods/ui/NameList.h"
 #include "runtime/Round.h"
+#include "runtime/ScreenTable.h"
 #include "runtime/Seams.h"
 #include "store/Connection.h"
 #include "store/Recordset.h"
@@ -28,7 +29,7 @@ QString FoodSQL(qint32 id) {
 } // namespace
 
 frmFoodList::frmFoodList(QWidget* parent)
-    : Screen(QStringLiteral("frmFoodList"), QStringLiteral("Custom Foods"), parent) {
+    : Screen(Screens::FoodList, parent) {
     AddList();
     AddFields();
     AddButtons();
@@ -220,5 +221,5 @@ void frmFoodList::cmdDelete_Click() {
 }
 
 void frmFoodList::cmdDone_Click() {
-    ShowScreen(QStringLiteral("frmMain"));
+    ShowScreen(Screens::Main.name);
 }

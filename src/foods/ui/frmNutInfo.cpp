@@ -15,7 +15,6 @@
 
 namespace {
 
-constexpr int divisionByZero = 11;
 constexpr double caloriesOfFatGram = 9;
 
 // The thin lines, in twips: one under each row of the two blocks.
@@ -85,7 +84,7 @@ QRect RowPlace(int firstLine, int row, int left, int right) {
 
 double Percentage(double amount, double target) {
     if (target == 0)
-        throw RuntimeError(divisionByZero, QStringLiteral("Division by zero"));
+        throw RuntimeError(ErrorNumber::DivisionByZero, QStringLiteral("Division by zero"));
     return amount / target;
 }
 

@@ -11,6 +11,7 @@
 #include "runtime/Convert.h"
 #include "runtime/Round.h"
 #include "runtime/Seams.h"
+#include "runtime/SettingTable.h"
 #include "runtime/Settings.h"
 #include "runtime/Val.h"
 #include "toolkit/Labels.h"
@@ -176,22 +177,22 @@ void ucSearchResults::TickMeal(int meal) {
 }
 
 void ucSearchResults::RestoreState() {
-    const auto ticked = [](const char* name) { return GetRegValue(QLatin1String(name)) != u"0"; };
-    ckCustom_->setChecked(ticked("SEARCH_CUSTOM"));
-    ckRecipes_->setChecked(ticked("SEARCH_RECIPES"));
-    ckStock_->setChecked(ticked("SEARCH_STOCK"));
-    const double meal = Val(GetRegValue(QStringLiteral("OPMEAL")));
+    const auto ticked = [](const Setting& setting) { return GetRegValue(setting) != u"0"; };
+    ckCustom_->setChecked(ticked(Settings::SearchCustom));
+    ckRecipes_->setChecked(ticked(Settings::SearchRecipes));
+    ckStock_->setChecked(ticked(Settings::SearchStock));
+    const double meal = Val(GetRegValue(Settings::Meal));
     TickMeal(meal > 0 && meal < mealCount - 0.5 ? Round(meal) : 0);
-    txtSearchString_->setText(GetRegValue(QStringLiteral("SEARCH_STRING")));
+    txtSearchString_->setText(GetRegValue(Settings::SearchString));
 }
 
 void ucSearchResults::StoreState() const {
     const auto number = [](int value) { return QString::number(value); };
-    SetRegValue(QStringLiteral("SEARCH_CUSTOM"), number(ckCustom_->isChecked()));
-    SetRegValue(QStringLiteral("SEARCH_RECIPES"), number(ckRecipes_->isChecked()));
-    SetRegValue(QStringLiteral("SEARCH_STOCK"), number(ckStock_->isChecked()));
-    SetRegValue(QStringLiteral("SEARCH_STRING"), txtSearchString_->text());
-    SetRegValue(QStringLiteral("OPMEAL"), number(std::max(TickedMeal(), 0)));
+    SetRegValue(Settings::SearchCustom, number(ckCustom_->isChecked()));
+    SetRegValue(Settings::SearchRecipes, number(ckRecipes_->isChecked()));
+    SetRegValue(Settings::SearchStock, number(ckStock_->isChecked()));
+    SetRegValue(Settings::SearchString, txtSearchString_->text());
+    SetRegValue(Settings::Meal, number(std::max(TickedMeal(), 0)));
 }
 
 void ucSearchResults::SearchFoodsDB() {

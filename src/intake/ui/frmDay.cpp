@@ -11,6 +11,7 @@
 #include "runtime/Convert.h"
 #include "runtime/Format.h"
 #include "runtime/Round.h"
+#include "runtime/ScreenTable.h"
 #include "runtime/Seams.h"
 #include "runtime/Val.h"
 #include "toolkit/Labels.h"
@@ -25,8 +26,6 @@
 
 namespace {
 
-constexpr auto homeScreen = "frmMain";
-
 // Measures in pixels.
 constexpr int dateLeft = 204; ///< beside the frame's title of the screen
 constexpr int panelWidth = 338;
@@ -36,7 +35,7 @@ constexpr QSize calendarPicture(18, 18);
 } // namespace
 
 frmDay::frmDay(QWidget* parent)
-    : Screen(QStringLiteral("frmDay"), QStringLiteral("Daily Details"), parent) {
+    : Screen(Screens::Day, parent) {
     setFocusPolicy(Qt::ClickFocus);
     AddDateLine();
     AddWeightField();
@@ -238,7 +237,7 @@ void frmDay::ClearFoods() {
 }
 
 void frmDay::GoHome() {
-    ShowScreen(homeScreen);
+    ShowScreen(Screens::Main.name);
 }
 
 /// Both must differ: a redraw under a resting pointer sends moves as well.

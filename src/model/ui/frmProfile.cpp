@@ -4,6 +4,7 @@
 #include "model/ui/ProfileBasics.h"
 #include "model/ui/ProfileTargets.h"
 #include "runtime/Round.h"
+#include "runtime/ScreenTable.h"
 #include "runtime/Seams.h"
 #include "store/Connection.h"
 #include "store/Recordset.h"
@@ -38,7 +39,7 @@ QWidget* HomeWindow() {
 } // namespace
 
 frmProfile::frmProfile(QWidget* parent)
-    : Screen(QStringLiteral("frmProfile"), QStringLiteral("User Profile"), parent)
+    : Screen(Screens::Profile, parent)
     , title_(new ucTitleFlat(this)) {
     setAttribute(Qt::WA_DeleteOnClose);
     resize(nestSize);
@@ -107,7 +108,7 @@ void frmProfile::CreateUser() {
 
 /// A weight that is being typed belongs to what the form shows.
 void frmProfile::EditUser(qint32 uid) {
-    auto* form = qobject_cast<frmProfile*>(LoadScreen(QStringLiteral("frmProfile")));
+    auto* form = qobject_cast<frmProfile*>(LoadScreen(Screens::Profile.name));
     if (!form)
         return;
     LeaveField(form->window());
@@ -151,7 +152,7 @@ void frmProfile::cmdSave_Click() {
         return;
     firstUser_ = false;
     ShowHome();
-    ShowScreen(QStringLiteral("frmMain"));
+    ShowScreen(Screens::Main.name);
     ShowAlert(QStringLiteral(
         "Your profile has been created. The RDI values created should be used only as guidelines. "
         "You can edit these values by using the 'Edit My Profile' feature (under the 'Edit' "

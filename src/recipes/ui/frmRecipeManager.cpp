@@ -10,6 +10,7 @@
 #include "recipes/ui/frmSend.h"
 #include "recipes/ui/ucIngredients.h"
 #include "runtime/Attempt.h"
+#include "runtime/ScreenTable.h"
 #include "runtime/Seams.h"
 #include "toolkit/ListBox.h"
 #include "toolkit/Style.h"
@@ -19,7 +20,6 @@
 namespace {
 
 constexpr qint32 noRecipe = -1;
-constexpr auto homeScreen = "frmMain";
 
 constexpr QLatin1String editCaption("Edit Recipe");
 constexpr QLatin1String saveCaption("Save Changes");
@@ -29,7 +29,7 @@ constexpr int listWidth = 186; // in pixels
 } // namespace
 
 frmRecipeManager::frmRecipeManager(QWidget* parent)
-    : Screen(QStringLiteral("frmRecipeManager"), QStringLiteral("Recipe Manager"), parent) {
+    : Screen(Screens::RecipeManager, parent) {
     setFocusPolicy(Qt::ClickFocus);
     AddList();
     AddCard();
@@ -246,7 +246,7 @@ void frmRecipeManager::AddFood(const ScaledFood& item) {
 }
 
 void frmRecipeManager::cmdDone_Click() {
-    ::ShowScreen(homeScreen);
+    ::ShowScreen(Screens::Main.name);
 }
 
 bool frmRecipeManager::IsEditing() const {

@@ -3,6 +3,7 @@
 #include "recipes/net/RecipeExchange.h"
 #include "runtime/Seams.h"
 #include "runtime/Server.h"
+#include "runtime/SettingTable.h"
 #include "runtime/Settings.h"
 #include "toolkit/Style.h"
 #include "toolkit/ucButton.h"
@@ -13,8 +14,6 @@
 namespace {
 
 constexpr QSize sendSize(460, 196);
-constexpr auto toSetting = "TOEMAIL";
-constexpr auto fromSetting = "FROMEMAIL";
 
 /// A page of markup or next to nothing is no answer to the user.
 bool IsNoAnswer(const QString& reply) {
@@ -40,8 +39,8 @@ frmSend::frmSend(qint32 RecipeID, QWidget* owner)
     AddShare(top + 2 * line);
     const ucButton* send = AddButtons("cmdSend", "Send Recipe");
     connect(send, &ucButton::Click, this, &frmSend::cmdSend_Click);
-    txtEmail_->setText(GetRegValue(toSetting));
-    txtFrom_->setText(GetRegValue(fromSetting));
+    txtEmail_->setText(GetRegValue(Settings::ToEmail));
+    txtFrom_->setText(GetRegValue(Settings::FromEmail));
 }
 
 void frmSend::AddShare(int top) {
@@ -65,8 +64,8 @@ void frmSend::cmdSend_Click() {
 
 void frmSend::startSend() {
     const QString reply = Reply();
-    SetRegValue(toSetting, txtEmail_->text());
-    SetRegValue(fromSetting, txtFrom_->text());
+    SetRegValue(Settings::ToEmail, txtEmail_->text());
+    SetRegValue(Settings::FromEmail, txtFrom_->text());
     ShowAlert(reply, parentWidget());
     accept();
 }
