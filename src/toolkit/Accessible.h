@@ -3,10 +3,7 @@
 class QString;
 class QWidget;
 
-/// Gives the drawn controls their accessible interfaces. Can be called any number of times.
-void InstallAccessible();
-
-/// Tells assistive tools that the control's name, value or state has changed.
+// They tell assistive tools that the name, the value or the state of a control has changed.
 void TellNameChanged(QWidget* control);
 void TellValueChanged(QWidget* control, int value);
 void TellTextChanged(QWidget* control, const QString& text);

@@ -10,7 +10,7 @@ struct PaletteRow {
     QColor Style::*colour;
 };
 
-constexpr PaletteRow paletteRows[] = {
+constexpr PaletteRow PaletteRows[] = {
     {QPalette::Window, &Style::canvas},
     {QPalette::WindowText, &Style::ink},
     {QPalette::Base, &Style::paper},
@@ -26,20 +26,20 @@ constexpr PaletteRow paletteRows[] = {
     {QPalette::Link, &Style::heading},
 };
 
-constexpr QPalette::ColorRole inkRoles[] = {QPalette::WindowText, QPalette::Text,
+constexpr QPalette::ColorRole InkRoles[] = {QPalette::WindowText, QPalette::Text,
                                             QPalette::ButtonText};
 
 QPalette PaletteOf(const Style& style) {
     QPalette palette;
-    for (const PaletteRow& row : paletteRows)
+    for (const PaletteRow& row : PaletteRows)
         palette.setColor(row.role, style.*row.colour);
-    for (const QPalette::ColorRole role : inkRoles)
+    for (const QPalette::ColorRole role : InkRoles)
         palette.setColor(QPalette::Disabled, role, style.disabledInk);
     return palette;
 }
 
 /// `%name` stands for a value of the table below it.
-const char* const sheet = R"(
+const char* const Sheet = R"(
 QLineEdit, QPlainTextEdit {
   background: %paper; color: %ink; border: 1px solid %fieldEdge; border-radius: %fieldRadius;
   selection-background-color: %chosenRow; selection-color: %chosenRowText; padding: 0 5px;
@@ -107,7 +107,7 @@ QString Pixels(int pixels) {
     return QString::number(pixels) + "px";
 }
 
-/// Longer names stand before their own beginnings.
+/// Longer names come first, because a shorter one may be their beginning.
 QList<SheetValue> SheetValues(const Style& style) {
     return {
         {QLatin1String("%chosenRowText"), style.chosenRowText.name()},
@@ -134,7 +134,7 @@ QList<SheetValue> SheetValues(const Style& style) {
 }
 
 QString SheetOf(const Style& style) {
-    QString text = QString::fromLatin1(sheet);
+    QString text = QString::fromLatin1(Sheet);
     for (const SheetValue& value : SheetValues(style))
         text.replace(value.name, value.text);
     return text;

@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr int headingEdge = -15; // twips: the edges of headings lie outside the pane
+constexpr int HeadingEdge = -15; // twips: the edges of headings lie outside the pane
 
 } // namespace
 
@@ -32,7 +32,7 @@ AtePane::Redraw::~Redraw() {
     pane_.End(resetPane_);
 }
 
-/// Painting is held back rather than the pane hidden: hiding would take the focus out of it.
+/// Suspends painting instead of hiding the pane: hiding would move the focus out of it.
 void AtePane::Begin(bool resetPane) {
     picResultsPane()->setUpdatesEnabled(false);
     used_ = 0;
@@ -53,8 +53,8 @@ void AtePane::End(bool resetPane) {
     picResultsPane()->setUpdatesEnabled(true);
 }
 
-/// Where the line with the focus is out of view by that, the focus waits before the first line: a
-/// key must not remove a line that cannot be seen.
+/// If the focused line is scrolled out of view, the focus moves before the first line: a key must
+/// not remove a line that the user cannot see.
 void AtePane::ShowTop() {
     if (vsResultsPane()->Value() != 0)
         vsResultsPane()->SetValue(0);
@@ -112,8 +112,8 @@ void AtePane::showFood(const QString& FoodName, const QString& Serving, qint32 I
 }
 
 void AtePane::PlaceHeading(QWidget* heading) {
-    const int top = runningHeight_ == 0 ? headingEdge : runningHeight_;
-    heading->move(Twips::ToPixels(headingEdge), Twips::ToPixels(top));
+    const int top = runningHeight_ == 0 ? HeadingEdge : runningHeight_;
+    heading->move(Twips::ToPixels(HeadingEdge), Twips::ToPixels(top));
     heading->show();
     headings_ << heading;
     chain_ << heading;
@@ -128,7 +128,7 @@ void AtePane::AddHeight(const QWidget* placed) {
     runningHeight_ += Twips::FromPixels(placed->height());
 }
 
-/// A list that fits stands at the top without a bar, and has the bar's room as well.
+/// A list that fits is at the top, has no bar, and may use the room of the bar.
 void AtePane::SizePane() {
     const int height = Twips::ToPixels(runningHeight_);
     const bool fits = FrameHeight() >= height;
@@ -151,8 +151,7 @@ void AtePane::FitWidths() {
         rows_[i]->resize(width, rows_[i]->height());
 }
 
-/// The line that takes the place of a removed one takes the focus over; where there is none, the
-/// last one does.
+/// The next line gets the focus of a removed one; if there is none, the last line gets it.
 void AtePane::KeepFocus() {
     auto* trash = qobject_cast<ucButtonA*>(QApplication::focusWidget());
     if (!trash || rows_.indexOf(qobject_cast<ucAte*>(trash->parentWidget())) <= used_)
@@ -165,7 +164,7 @@ void AtePane::KeepFocus() {
 void AtePane::ChainFocus() {
     if (chain_ == lastChain_)
         return;
-    QWidget* before = rows_.first()->imgTrash(); // never visited, but it marks the place
+    QWidget* before = rows_.first()->imgTrash(); // hidden; it only marks the place in the tab order
     for (QWidget* stop : std::as_const(chain_)) {
         setTabOrder(before, stop);
         before = stop;

@@ -7,10 +7,9 @@
 
 class ucAte;
 
-/// The scrolling pane of ucAte lines that a day's foods and a recipe's ingredients share. Lines are
-/// kept and used again from one redraw to the next; those not in use are hidden and nameless. What
-/// stands between the lines (headings, blank lines) and how many lines there may be is told by the
-/// host, from within a Redraw.
+/// The scrolling pane of ucAte lines: a day's foods or a recipe's ingredients. A redraw uses the
+/// same line objects again; spare ones are hidden and have no name. The host adds headings and
+/// blank lines within a Redraw, and sets the greatest number of lines.
 class AtePane : public ScrollPane {
     Q_OBJECT
 
@@ -19,12 +18,11 @@ public:
 
     explicit AtePane(QWidget* parent = nullptr);
 
-    /// Whether the pane of a list that is shorter than the frame is as high as that. It is, unless
-    /// told otherwise.
+    /// True by default: a list shorter than the frame gets a pane as high as the frame.
     void SetFillsFrame(bool fills) { fillsFrame_ = fills; }
 
-    /// No line comes up before the end of the block, which ends well however it is left. After a
-    /// reset the top is in view, wherever the focus is.
+    /// Suspends painting until the scope ends. After a reset the pane shows its top, whichever line
+    /// has the focus.
     class Redraw {
     public:
         Redraw(AtePane& pane, bool resetPane);
@@ -70,9 +68,9 @@ private:
     void KeepFocus();
     void AddHeight(const QWidget* placed);
 
-    QList<ucAte*> rows_; ///< the template, the lines in use, the rest of the pool
+    QList<ucAte*> rows_; ///< the template, the lines in use, the spare lines
     QList<QWidget*> headings_;
-    QList<QWidget*> chain_; ///< what the Tab key visits, in the order placed
+    QList<QWidget*> chain_; ///< the tab order
     QList<QWidget*> lastChain_;
     int used_ = 0;
     int runningHeight_ = 0; ///< twips

@@ -6,9 +6,9 @@
 class Dialog;
 class ucButton;
 
-/// Lays the buttons side by side into the lower right corner of a dialog's inner area, in their
-/// order. Returns what is left of the area above them.
+/// Lays the buttons side by side in the lower right corner of a dialog's inner area. Returns the
+/// area above them.
 QRect LayButtonRow(const QRect& inner, const QList<ucButton*>& buttons);
 
-/// A button of a dialog, with its name. The pointer over it puts the dialog's others out.
+/// A named button of a dialog. When the pointer enters it, the other buttons lose their highlight.
 ucButton* MakeButton(Dialog* dialog, const QString& name, const QString& caption);

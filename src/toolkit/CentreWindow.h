@@ -2,5 +2,5 @@
 
 class QWidget;
 
-/// Moves a window to the middle of its owner's window, or of the screen where it has none.
+/// Centres a window over its owner's window. Without an owner: on the screen.
 void CentreWindow(QWidget* window);

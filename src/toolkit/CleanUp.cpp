@@ -6,9 +6,9 @@
 
 namespace {
 
-constexpr int interval = 250; // milliseconds
+constexpr int Interval = 250; // milliseconds
 
-/// The edge belongs to the form: its right and lower ends are left plus width and top plus height.
+/// The edge counts as inside, hence left plus width and top plus height.
 bool StandsOver(const QWidget* form, QPoint cursor) {
     const QPoint place = form->mapFromGlobal(cursor);
     return place.x() >= 0 && place.y() >= 0 && place.x() <= form->width() &&
@@ -21,7 +21,7 @@ QTimer* TimerOf(QWidget* form) {
         return there;
     auto* timer = new QTimer(form);
     timer->setObjectName(name);
-    timer->setInterval(interval);
+    timer->setInterval(Interval);
     return timer;
 }
 

@@ -5,7 +5,7 @@
 class QTimer;
 class QWidget;
 
-/// The timer `cleanUp` of a form: every 250 milliseconds, calls `off` where the pointer stands
-/// outside the form. Positions on the form's edge count as inside. A form has one such timer: a
-/// second call gives it another `off`.
+/// The timer `cleanUp` of a form. Every 250 milliseconds it calls `off` if the pointer is outside
+/// the form; the form's edge counts as inside. A form has one such timer: a second call replaces
+/// `off`.
 QTimer* AddCleanUp(QWidget* form, std::function<void()> off);

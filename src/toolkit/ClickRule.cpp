@@ -10,7 +10,7 @@ void ClickRule::Begin(const QMouseEvent* press) {
         begun_ = true;
 }
 
-/// A place between two pixels belongs to the one above and to the left of it.
+/// A position between two pixels belongs to the pixel above and left of it.
 bool ClickRule::Ends(const QMouseEvent* release, const QWidget* control) {
     if (release->button() != Qt::LeftButton || !std::exchange(begun_, false))
         return false;

@@ -3,13 +3,14 @@
 class QMouseEvent;
 class QWidget;
 
-/// What counts as a click: the left button goes down on a control and comes up on it, out to its
-/// outermost pixels. What the control shows in between, and whether it moves or grows, does not
-/// matter. Each control that can be clicked owns one.
+/// Decides what counts as a click: the left button is pressed and released on the control, its
+/// outermost pixels included. It does not matter whether the control changes its look, moves or
+/// grows in between. Each control that can be clicked owns one.
 class ClickRule {
 public:
     void Begin(const QMouseEvent* press);
-    bool Ends(const QMouseEvent* release, const QWidget* control); ///< true once a press
+    bool Ends(const QMouseEvent* release,
+              const QWidget* control); ///< true at most once for each press
 
 private:
     bool begun_ = false;

@@ -12,7 +12,7 @@
 
 namespace {
 
-constexpr int edge = 1;
+constexpr int Edge = 1;
 
 template <class Button> void ResetAllBut(const QString& except, QWidget* form) {
     const auto buttons = form->findChildren<Button*>();
@@ -45,10 +45,10 @@ int Dialog::ShowModal() {
 }
 
 QRect Dialog::Inner() const {
-    return rect().adjusted(edge, title_->height(), -edge, -edge);
+    return rect().adjusted(Edge, title_->height(), -Edge, -Edge);
 }
 
-/// Back from being minimised it stands where it was.
+/// A dialog that was minimised keeps its place.
 void Dialog::showEvent(QShowEvent* event) {
     QDialog::showEvent(event);
     if (!event->spontaneous())

@@ -4,9 +4,8 @@
 
 class ucTitleFlat;
 
-/// A modal dialog in the program's look: no platform title bar, a flat title of its own, canvas
-/// with a frame. Escape closes it like Cancel. The timer `cleanUp` takes the hover look off its
-/// buttons.
+/// A modal dialog with the program's own flat title and frame instead of the platform's. Escape
+/// closes it like Cancel. Its timer `cleanUp` resets the highlight of its buttons.
 class Dialog : public QDialog {
     Q_OBJECT
 
@@ -14,7 +13,7 @@ public:
     Dialog(const QString& name, const QString& title, QWidget* owner = nullptr);
 
     ucTitleFlat* Title() const { return title_; }
-    /// Resets every ucButton and ucButtonA but the one named, without regard to case.
+    /// Resets every ucButton and ucButtonA except the named one; case does not matter.
     virtual void AllOff(const QString& except);
 
     /// Shows it modally over its owner (or the screen's middle) and returns when it has closed.
@@ -23,7 +22,7 @@ public:
 protected:
     void paintEvent(QPaintEvent*) override;
     void mouseMoveEvent(QMouseEvent*) override;
-    void showEvent(QShowEvent*) override; ///< stands over its owner, or in the screen's middle
+    void showEvent(QShowEvent*) override; ///< centres it over its owner or on the screen
     QRect Inner() const;                  ///< below the title, inside the edges
 
 private:

@@ -4,7 +4,7 @@
 
 #include <QPainter>
 
-static constexpr int lineWidth = 2;
+static constexpr int LineWidth = 2;
 
 DragOutline::DragOutline()
     : QWidget(nullptr, Qt::ToolTip | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint |
@@ -12,11 +12,11 @@ DragOutline::DragOutline()
     setAttribute(Qt::WA_ShowWithoutActivating);
 }
 
-/// Cut out of its window, because a see-through one needs a compositor.
+/// Uses a window mask, because a transparent window needs a compositor.
 void DragOutline::Draw(const QRect& outline) {
     setGeometry(outline);
     setMask(QRegion(rect()) -
-            QRegion(rect().adjusted(lineWidth, lineWidth, -lineWidth, -lineWidth)));
+            QRegion(rect().adjusted(LineWidth, LineWidth, -LineWidth, -LineWidth)));
     show();
 }
 

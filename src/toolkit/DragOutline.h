@@ -2,8 +2,8 @@
 
 #include <QWidget>
 
-/// The hollow frame that shows where a dragged window will stand: a two-pixel line on the screen,
-/// above all windows, that takes no input.
+/// The hollow frame that shows where a dragged window will be: a two-pixel line above all windows,
+/// which takes no input.
 class DragOutline : public QWidget {
     Q_OBJECT
 

@@ -1,6 +1,6 @@
 #include "toolkit/DrawnControl.h"
 
-#include "toolkit/Accessible.h"
+#include "toolkit/ControlInterface.h"
 #include "toolkit/Style.h"
 #include "toolkit/Twips.h"
 
@@ -10,13 +10,16 @@
 #include <QtMath>
 
 DrawnControl::DrawnControl(QWidget* parent)
-    : QWidget(parent) {
-    InstallAccessible();
+    : SpokenControl(parent) {
     setMouseTracking(true);
 }
 
 bool DrawnControl::IsInside(QPointF place) const {
     return place.x() > 0 && place.y() > 0 && place.x() < width() && place.y() < height();
+}
+
+QAccessibleInterface* DrawnControl::MakeAccessible() {
+    return new ControlInterface(this);
 }
 
 void DrawnControl::focusInEvent(QFocusEvent* event) {

@@ -1,26 +1,23 @@
 #pragma once
 
 #include "toolkit/ClickRule.h"
+#include "toolkit/SpokenControl.h"
 
-#include <QAccessible>
-#include <QWidget>
-
-/// What all drawn controls share: the click and mouse-move events, the test whether a place counts
-/// as inside for the look, and the focus ring, which is shown unless the mouse brought the focus.
-class DrawnControl : public QWidget {
+/// Base of all drawn controls: the click and mouse-move events, the test for the hover look, and
+/// the focus ring. The ring is hidden if the mouse gave the focus.
+class DrawnControl : public SpokenControl {
     Q_OBJECT
 
 public:
     explicit DrawnControl(QWidget* parent = nullptr);
 
     bool FocusShown() const { return focusShown_; }
-    /// Decides the look alone: places on the upper and left edge do not count. A click has a rule
-    /// of its own.
+    /// Decides the look only: the upper and the left edge do not count as inside. ClickRule decides
+    /// about clicks.
     bool IsInside(QPointF place) const;
-    /// What a press from the keyboard or an assistive tool does.
-    virtual void Activate() { Q_EMIT Click(); }
-    /// What assistive tools take it for.
-    virtual QAccessible::Role AccessibleRole() const { return QAccessible::Client; }
+    void Activate() override { Q_EMIT Click(); }
+    QAccessible::Role AccessibleRole() const override { return QAccessible::Client; }
+    QAccessibleInterface* MakeAccessible() override;
 
 Q_SIGNALS:
     void Click();
@@ -33,9 +30,9 @@ protected:
     void RaiseMouseMove(const QMouseEvent* event);
     void BeginClick(const QMouseEvent* press) { click_.Begin(press); }
     bool EndsClick(const QMouseEvent* release) { return click_.Ends(release, this); }
-    static QPoint PixelOf(const QMouseEvent* event); ///< the one that the pointer is on
+    static QPoint PixelOf(const QMouseEvent* event); ///< the pixel under the pointer
     static int ShiftOf(const QMouseEvent* event);    ///< 1 shift, 2 control, 4 alt
-    static bool IsPressKey(const QKeyEvent* event);  ///< Space or Return, not from holding it down
+    static bool IsPressKey(const QKeyEvent* event);  ///< Space or Return, without key repeat
 
 private:
     bool focusShown_ = false;
@@ -43,5 +40,4 @@ private:
     ClickRule click_;
 };
 
-/// The ring that shows the focus.
 void PaintFocusRing(QPainter& painter, const QRectF& place, double radius);

@@ -7,7 +7,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 
-static constexpr int textLeft = 7; // pixels
+static constexpr int TextLeft = 7; // pixels
 
 DropItem::DropItem(const QString& caption, const QString& tag, QWidget* parent)
     : ListRow(parent)
@@ -32,14 +32,14 @@ void DropItem::paintEvent(QPaintEvent*) {
     painter.fillRect(rect(), BackColor());
     painter.setPen(ForeColor());
     const double textHeight = QFontMetricsF(SmoothedFont(font())).height();
-    SmoothedPrint(painter, QPointF(textLeft, height() / 2.0 - textHeight / 2), caption_, font());
+    SmoothedPrint(painter, QPointF(TextLeft, height() / 2.0 - textHeight / 2), caption_, font());
 }
 
 void DropItem::mousePressEvent(QMouseEvent* event) {
     BeginClick(event);
 }
 
-/// The list below hears of the move as well.
+/// Passes the move on to the list below.
 void DropItem::mouseMoveEvent(QMouseEvent* event) {
     RaiseMouseMove(event);
     event->ignore();

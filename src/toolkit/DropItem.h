@@ -2,8 +2,7 @@
 
 #include "toolkit/ListRow.h"
 
-/// One item of an open list: a text with a number behind it. It goes by its name and colours; the
-/// list decides which item is lit.
+/// One item of an open list: a text and a number. The list decides which item is lit.
 class DropItem : public ListRow {
     Q_OBJECT
     Q_PROPERTY(QString Caption READ Caption)

@@ -15,13 +15,13 @@
 
 namespace {
 
-constexpr int itemHeight = 20; // pixels
-constexpr int firstTop = 45;   // twips
-constexpr int endRoom = 45;    // twips
-constexpr int largeChange = 500;
-constexpr int smallChange = 100;
-constexpr int greatestMax = std::numeric_limits<qint16>::max();
-constexpr int frameWidth = 1;
+constexpr int ItemHeight = 20; // pixels
+constexpr int FirstTop = 45;   // twips
+constexpr int EndRoom = 45;    // twips
+constexpr int LargeChange = 500;
+constexpr int SmallChange = 100;
+constexpr int GreatestMax = std::numeric_limits<qint16>::max();
+constexpr int FrameWidth = 1;
 
 QWidget* MakeSurface(QWidget* parent) {
     auto* surface = new QWidget(parent);
@@ -43,8 +43,8 @@ DropPanel::DropPanel(QWidget* parent)
     vsResults_->setAccessibleName(QStringLiteral("Scroll"));
     vsResults_->setFocusPolicy(Qt::NoFocus);
     vsResults_->setContextMenuPolicy(Qt::NoContextMenu);
-    vsResults_->setPageStep(largeChange);
-    vsResults_->setSingleStep(smallChange);
+    vsResults_->setPageStep(LargeChange);
+    vsResults_->setSingleStep(SmallChange);
     vsResults_->hide();
     connect(vsResults_, &QScrollBar::valueChanged, this,
             [this](int value) { picItemList_->move(0, Twips::ToPixels(-value)); });
@@ -55,9 +55,9 @@ DropPanel::DropPanel(QWidget* parent)
 DropItem* DropPanel::Load(const QString& caption, const QString& tag) {
     auto* item = new DropItem(caption, tag, picItemList_);
     const int index = int(items_.size());
-    const int top = Twips::ToPixels(firstTop) + (index - 1) * itemHeight;
+    const int top = Twips::ToPixels(FirstTop) + (index - 1) * ItemHeight;
     item->setObjectName("lblItem" + QString::number(index));
-    item->setGeometry(0, top, picItemList_->width(), itemHeight);
+    item->setGeometry(0, top, picItemList_->width(), ItemHeight);
     connect(item, &DropItem::Click, this, [this, index] { Q_EMIT Picked(index); });
     connect(item, &DropItem::MouseMove, this, [this, index] { Q_EMIT Hovered(index); });
     items_.push_back(item);
@@ -66,7 +66,7 @@ DropItem* DropPanel::Load(const QString& caption, const QString& tag) {
 
 void DropPanel::AddItem(const QString& caption, qint32 tag) {
     Load(caption, QString::number(tag))->show();
-    listHeight_ = LastBottom() + endRoom;
+    listHeight_ = LastBottom() + EndRoom;
     vsResults_->setValue(0);
     SetUpBar();
     PlaceItems();
@@ -85,16 +85,15 @@ int DropPanel::LastBottom() const {
 }
 
 void DropPanel::SetPanelHeight(int height) {
-    panelHeight_ = LastBottom() < height ? LastBottom() + endRoom : height;
+    panelHeight_ = LastBottom() < height ? LastBottom() + EndRoom : height;
     resize(width(), Twips::ToPixels(panelHeight_));
     SetUpBar();
     PlaceItems();
 }
 
-/// The bar counts in 16 bits: of a list so long that its scroll does not fit them, the end stays
-/// out of reach.
+/// The bar counts in 16 bits: the end of a list too long for that cannot be reached.
 void DropPanel::SetUpBar() {
-    vsResults_->setRange(0, qBound(0, listHeight_ - panelHeight_, greatestMax));
+    vsResults_->setRange(0, qBound(0, listHeight_ - panelHeight_, GreatestMax));
     vsResults_->setVisible(listHeight_ > panelHeight_);
 }
 
@@ -109,7 +108,7 @@ void DropPanel::PlaceItems() {
 void DropPanel::Bring(int index) {
     const QRect place = items_[size_t(index)]->geometry();
     const int top = Twips::FromPixels(place.top());
-    const int bottom = Twips::FromPixels(place.bottom() + 1) + endRoom;
+    const int bottom = Twips::FromPixels(place.bottom() + 1) + EndRoom;
     if (top < vsResults_->value())
         vsResults_->setValue(top);
     else if (bottom > vsResults_->value() + panelHeight_)
@@ -122,7 +121,7 @@ void DropPanel::Hilite(int index) {
 }
 
 void DropPanel::resizeEvent(QResizeEvent*) {
-    const QRect inner = rect().adjusted(frameWidth, frameWidth, -frameWidth, -frameWidth);
+    const QRect inner = rect().adjusted(FrameWidth, FrameWidth, -FrameWidth, -FrameWidth);
     const int barWidth = TheStyle().scrollWidth;
     view_->setGeometry(inner);
     vsResults_->setGeometry(inner.right() + 1 - barWidth, inner.top(), barWidth, inner.height());

@@ -7,10 +7,10 @@
 class DropItem;
 class QScrollBar;
 
-/// The panel of a drop-down list, `picBox`: the sliding list `picItemList` with the items
-/// `lblItem1`, `lblItem2`, ... one below the other, and the plain scroll bar `vsResults`, which is
-/// shown where the list is longer than the panel. `lblItem0` stays hidden above the first item:
-/// what is loaded takes its size from it. Heights are in twips.
+/// The panel `picBox` of a drop-down list. It holds the sliding list `picItemList` with the items
+/// `lblItem1`, `lblItem2`, ... one below the other, and the scroll bar `vsResults`, shown if the
+/// list is longer than the panel. `lblItem0` stays hidden above the first item; new items take its
+/// size. Heights are in twips.
 class DropPanel : public QWidget {
     Q_OBJECT
 
@@ -18,12 +18,12 @@ public:
     explicit DropPanel(QWidget* parent);
 
     void AddItem(const QString& caption, qint32 tag);
-    /// The item at that place, from 1; fails with 340 where none is loaded.
+    /// The item at `index`, from 1. Fails with 340 if there is none.
     const DropItem& Item(int index) const;
     int PanelHeight() const { return panelHeight_; }
-    void SetPanelHeight(int height); ///< reduced where the items end earlier
-    void Bring(int index);           ///< scrolls until that item can be seen
-    void Hilite(int index);          ///< lights that item alone; 0 none
+    void SetPanelHeight(int height); ///< reduced if the items end earlier
+    void Bring(int index);           ///< scrolls the item into view
+    void Hilite(int index);          ///< lights only that item; 0 lights none
 
 Q_SIGNALS:
     void Picked(int index);

@@ -2,14 +2,14 @@
 
 #include <QString>
 
-/// The typeface of the program. Its files are delivered beside the program, in the folder `fonts`:
-/// every machine shows the same.
+/// The typeface of the program. Its files are delivered in the folder `fonts` beside the program,
+/// so the program looks the same on every machine.
 namespace Fonts {
 
-/// The family in the files of the folder, which are loaded; empty where none can be loaded.
+/// Loads the files of the folder and returns their family; empty if none can be loaded.
 QString Load(const QString& folder);
 
-/// The delivered family, or one of the machine's where the folder is missing.
+/// The delivered family. If the folder is missing: a family of the machine.
 QString Family();
 
 } // namespace Fonts

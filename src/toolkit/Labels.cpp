@@ -15,7 +15,7 @@ struct RoleLook {
 };
 
 /// By TextRole.
-constexpr RoleLook roleLooks[] = {
+constexpr RoleLook RoleLooks[] = {
     {&Style::text, &Style::ink},
     {&Style::text, &Style::quietInk},
     {&Style::strong, &Style::ink},
@@ -25,10 +25,10 @@ constexpr RoleLook roleLooks[] = {
 };
 
 const RoleLook& LookOf(TextRole role) {
-    return roleLooks[static_cast<int>(role)];
+    return RoleLooks[static_cast<int>(role)];
 }
 
-/// In a font that is wider than the place it is made for, a line is shown smaller, not cut.
+/// If the font is wider than planned, the line is shown smaller instead of cut.
 class LineLabel : public QLabel {
 public:
     using QLabel::QLabel;

@@ -2,16 +2,16 @@
 
 #include <QLabel>
 
-/// What a text on a screen is, from which its font and ink follow.
+/// The role of a text decides its font and its ink.
 enum class TextRole { Text, Quiet, Strong, Small, ScreenTitle, CardTitle };
 
-/// A plain caption in the program's hand. It lets mouse moves through to its parent, so that the
-/// screen below can take the hover look off its buttons.
+/// A plain caption. Mouse moves pass through it to its parent, so that the screen can reset its
+/// buttons.
 QLabel* MakeLabel(QWidget* parent, const QString& name, const QString& text,
                   TextRole role = TextRole::Text);
 
-/// The narrowest width in which a text takes no more lines than in `width`. Set in it, its lines
-/// come out about equally long, and none holds a lone word.
+/// The smallest width at which the text needs no more lines than at `width`. At this width its
+/// lines are about equally long, and no line holds a single word.
 int BalancedWidth(const QString& text, const QFont& font, int width);
 
 const QFont& FontOf(TextRole role);

@@ -2,5 +2,6 @@
 
 class QWidget;
 
-/// Takes over what is being typed in a field of that window, as if the person had left it.
+/// Commits the text that is being typed in a field of that window, as if the user had left the
+/// field.
 void LeaveField(const QWidget* window);

@@ -6,7 +6,7 @@
 
 namespace {
 
-/// The field asks it whenever the text changes, by whatever way.
+/// The field calls it for every change of its text: typed, pasted, dropped or set.
 class OneLine : public QValidator {
 public:
     using QValidator::QValidator;

@@ -2,8 +2,8 @@
 
 #include <QLineEdit>
 
-/// The program's text field of one line. A line break that comes in, pasted or dropped, becomes a
-/// blank. Enter counts once a press, however long it is held, and goes no further.
+/// A text field of one line. A pasted or dropped line break becomes a blank. Enter counts once for
+/// each press, without key repeat, and is not passed on to the dialog.
 class LineField : public QLineEdit {
     Q_OBJECT
 

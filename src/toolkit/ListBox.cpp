@@ -15,13 +15,13 @@
 
 namespace {
 
-constexpr int textMargin = 10;
+constexpr int TextMargin = 10;
 
 int RoomForText(const QRect& row) {
-    return row.width() - 2 * textMargin;
+    return row.width() - 2 * TextMargin;
 }
 
-/// A line of the list: its text on paper with a rule below, or white on slate where it is chosen.
+/// A line: text on paper with a rule below, or white on slate if it is chosen.
 class LinePainter : public QStyledItemDelegate {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
@@ -42,7 +42,7 @@ public:
         painter->setPen(!usable ? style.disabledInk : chosen ? style.chosenRowText : style.ink);
         const double height = QFontMetricsF(SmoothedFont(style.text)).height();
         SmoothedPrint(
-            *painter, QPointF(row.left() + textMargin, row.top() + (row.height() - height) / 2),
+            *painter, QPointF(row.left() + TextMargin, row.top() + (row.height() - height) / 2),
             FittingText(index.data().toString(), style.text, RoomForText(row)), style.text);
     }
 };
@@ -121,13 +121,13 @@ void ListBox::selectionChanged(const QItemSelection& chosen, const QItemSelectio
         Q_EMIT Click();
 }
 
-/// A line that is chosen stays so until another is: no key held with a press takes the choice away.
+/// A chosen line stays chosen until another is: a modifier key held at the press does not clear it.
 QItemSelectionModel::SelectionFlags ListBox::selectionCommand(const QModelIndex& index,
                                                               const QEvent*) const {
     return index.isValid() ? QItemSelectionModel::ClearAndSelect : QItemSelectionModel::NoUpdate;
 }
 
-/// Click comes last, when the press is dealt with: whoever hears it may fill the list anew.
+/// Click comes last: its receiver may refill the list.
 void ListBox::mousePressEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton)
         return event->ignore();

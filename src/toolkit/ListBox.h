@@ -5,9 +5,9 @@
 class ListLines;
 
 /// A list of lines, one of which can be chosen. Each line carries a number, its item data. Choosing
-/// a line raises Click: with the keyboard, with the mouse or by SetListIndex, with the latter two
-/// also where it is the one chosen already. Clear and choosing none raise nothing. Only the lines
-/// in sight are painted. A text that is cut stands in the tip.
+/// a line by keyboard, by mouse or with SetListIndex raises Click. Mouse and SetListIndex raise it
+/// even if the line was chosen before. Clear and an index of -1 raise nothing. Only visible lines
+/// are painted. The tip shows a text that does not fit.
 class ListBox : public QListView {
     Q_OBJECT
     Q_PROPERTY(int ListIndex READ ListIndex WRITE SetListIndex)
@@ -22,11 +22,11 @@ public:
     void AddItem(const QString& text, qint32 itemData);
     int ListCount() const;
     int ListIndex() const;        ///< counted from 0; -1 for none
-    void SetListIndex(int index); ///< any number that is no line's chooses none
+    void SetListIndex(int index); ///< a number without a line chooses none
     QStringList List() const;
-    Q_INVOKABLE QString Text(int index) const;    ///< empty where there is no such line
-    Q_INVOKABLE qint32 ItemData(int index) const; ///< 0 where there is no such line
-    int LineOf(qint32 itemData) const;            ///< the first line that carries it; -1 for none
+    Q_INVOKABLE QString Text(int index) const;    ///< empty if there is no such line
+    Q_INVOKABLE qint32 ItemData(int index) const; ///< 0 if there is no such line
+    int LineOf(qint32 itemData) const;            ///< the first line with it; -1 if none has it
 
 Q_SIGNALS:
     void Click();
@@ -44,5 +44,5 @@ private:
     bool ShowsTipOf(const QModelIndex& line, QPoint globalPlace);
 
     ListLines* lines_;
-    bool quiet_ = false; ///< a change of the choice does not raise Click by itself
+    bool quiet_ = false; ///< changing the choice raises no Click
 };

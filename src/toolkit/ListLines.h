@@ -4,7 +4,7 @@
 
 #include <vector>
 
-/// What a list box shows: texts in the order of adding, each with its number.
+/// The lines of a list box, in the order in which they were added.
 class ListLines : public QAbstractListModel {
     Q_OBJECT
 
@@ -19,7 +19,7 @@ public:
     void Clear();
     void Add(const QString& text, qint32 itemData);
     int Count() const { return static_cast<int>(lines_.size()); }
-    const Line* At(int index) const; ///< null where there is no such line
+    const Line* At(int index) const; ///< null if there is no such line
 
     int rowCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;

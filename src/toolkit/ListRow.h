@@ -4,8 +4,8 @@
 
 #include <QColor>
 
-/// What the rows of lists share: ground, ink, border and the picture in front. A change of what a
-/// row shows ends in Refresh; telling it what it shows already costs nothing.
+/// Base of the rows of lists: ground, ink, border and the picture in front. Every change of what a
+/// row shows calls Refresh; setting the same value again costs nothing.
 class ListRow : public DrawnControl {
     Q_OBJECT
     Q_PROPERTY(QString FoodIcon READ FoodIcon WRITE SetFoodIcon)
@@ -28,7 +28,7 @@ public:
     void SetBackColor(const QColor& color) { Take(backColor_, color); }
     void SetForeColor(const QColor& color) { Take(foreColor_, color); }
     void SetBackStyle(int style) { Take(backStyle_, style); }     ///< 0 transparent, 1 opaque
-    void SetBorderStyle(int style) { Take(borderStyle_, style); } ///< 0 the least, 1 a line
+    void SetBorderStyle(int style) { Take(borderStyle_, style); } ///< 0 none, 1 a line
 
     virtual void Refresh() { update(); }
 

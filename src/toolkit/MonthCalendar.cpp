@@ -14,10 +14,10 @@
 
 namespace {
 
-constexpr int chosenFrame = 2;
+constexpr int ChosenFrame = 2;
 
-/// They end the entry of a year.
-constexpr int leavingKeys[] = {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Tab, Qt::Key_Backtab,
+/// The keys that end typing a year.
+constexpr int LeavingKeys[] = {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Tab, Qt::Key_Backtab,
                                Qt::Key_Escape};
 
 void PaintChosen(QPainter* painter, const QRect& place) {
@@ -26,7 +26,7 @@ void PaintChosen(QPainter* painter, const QRect& place) {
     ground.setColorAt(0, style.chosenDay.from);
     ground.setColorAt(1, style.chosenDay.to);
     painter->fillRect(place, style.frame);
-    painter->fillRect(place.adjusted(chosenFrame, chosenFrame, -chosenFrame, -chosenFrame), ground);
+    painter->fillRect(place.adjusted(ChosenFrame, ChosenFrame, -ChosenFrame, -ChosenFrame), ground);
 }
 
 } // namespace
@@ -50,13 +50,12 @@ MonthCalendar::MonthCalendar(QWidget* parent)
         setWeekdayTextFormat(weekend, QTextCharFormat());
 }
 
-/// The field goes away with its focus. The days take that first: left alone it would leave the
-/// calendar.
+/// When the year's field closes, its focus must go to the days, or it would leave the calendar.
 bool MonthCalendar::eventFilter(QObject* watched, QEvent* event) {
     if (watched != yearField_ || event->type() != QEvent::KeyPress)
         return QCalendarWidget::eventFilter(watched, event);
     const int key = static_cast<QKeyEvent*>(event)->key();
-    if (std::find(std::begin(leavingKeys), std::end(leavingKeys), key) == std::end(leavingKeys))
+    if (std::find(std::begin(LeavingKeys), std::end(LeavingKeys), key) == std::end(LeavingKeys))
         return false;
     if (key == Qt::Key_Escape)
         yearField_->setValue(yearShown());

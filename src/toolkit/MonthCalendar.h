@@ -4,9 +4,9 @@
 
 class QSpinBox;
 
-/// The platform's month calendar in the program's look: Sunday first, English names, heads in the
-/// window's slate, the chosen day in a frame. It goes as far as dates do. Enter and Tab in the
-/// field of the year take the year over, Escape drops it; the focus is then in the days.
+/// The platform's month calendar in the program's look: weeks begin on Sunday, English names, a
+/// frame around the chosen day. It covers all dates of Dates. In the field of the year, Enter and
+/// Tab accept the year and Escape drops it; each moves the focus to the days.
 class MonthCalendar : public QCalendarWidget {
     Q_OBJECT
 

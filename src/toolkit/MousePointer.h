@@ -1,13 +1,13 @@
 #pragma once
 
-/// The mouse pointer of the whole program: an hourglass around store work, else the normal one.
-/// It stays as it was last set, whoever set it.
+/// The mouse pointer of the whole program: an hourglass during store work. It keeps the last shape
+/// that was set.
 namespace MousePointer {
 void SetBusy();
 void SetNormal();
 bool IsBusy();
 
-/// Back to normal at the end of a routine, by whatever way that ends.
+/// Restores the normal pointer when the scope ends.
 struct NormalAtEnd {
     NormalAtEnd() = default;
     ~NormalAtEnd() { SetNormal(); }

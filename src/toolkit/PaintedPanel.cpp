@@ -44,7 +44,7 @@ void PaintedPanel::mousePressEvent(QMouseEvent* event) {
     BeginClick(event);
 }
 
-/// The screen below hears of the move as well.
+/// Passes the move on to the screen below.
 void PaintedPanel::mouseMoveEvent(QMouseEvent* event) {
     RaiseMouseMove(event);
     event->ignore();

@@ -2,7 +2,7 @@
 
 #include "toolkit/DrawnControl.h"
 
-/// What the painted panels share: a caption that repaints on setting, smoothed print, a click
+/// Base of the painted panels: a caption that repaints when it is set, smoothed print, a click
 /// event.
 class PaintedPanel : public DrawnControl {
     Q_OBJECT
@@ -16,9 +16,9 @@ public:
     QAccessible::Role AccessibleRole() const override { return QAccessible::StaticText; }
 
 protected:
-    /// Stretches the one-pixel column of a ground from `from` down to `to` over the whole panel.
+    /// Fills the panel with a vertical gradient from `from` to `to`.
     void PaintGround(QPainter& painter, const QColor& from, const QColor& to) const;
-    /// The smoothed print of the caption; y is the place that centres it where none is given.
+    /// Prints the caption smoothed. Without `y` it is centred vertically.
     void PrintCaption(QPainter& painter, const QColor& ink, double x) const;
     void PrintCaption(QPainter& painter, const QColor& ink, QPointF place) const;
     double TextWidth() const;

@@ -5,7 +5,7 @@
 #include <QPixmapCache>
 #include <QSvgRenderer>
 
-/// The pictures lie in a static library, which the linker would strip of them otherwise.
+/// The linker drops the pictures of a static library unless something names them.
 static void BindPictures() {
     static const bool bound = [] {
         Q_INIT_RESOURCE(assets);

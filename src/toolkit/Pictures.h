@@ -7,11 +7,11 @@
 class QPainter;
 class QRectF;
 
-/// The pictures of the program: SVG files of assets/, compiled in, sharp at any scale and kept once
-/// drawn.
+/// The pictures of the program: SVG files in assets/, compiled in, sharp at any scale. Each is
+/// cached when it has been drawn once.
 namespace Pictures {
-/// The picture of that file name without ending ("trash"), drawn at `size` logical pixels.
-/// Pictures drawn in `currentColor` take `tint`.
+/// The picture `name` ("trash" for trash.svg) at `size` logical pixels. Parts drawn in
+/// `currentColor` get `tint`.
 QPixmap Get(const QString& name, QSize size, const QColor& tint = {}, qreal ratio = 1.0);
 void Paint(QPainter& painter, const QRectF& place, const QString& name, const QColor& tint = {});
 bool Exists(const QString& name);

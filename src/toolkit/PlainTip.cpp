@@ -3,12 +3,12 @@
 #include <QTextDocument>
 #include <QToolTip>
 
-static constexpr int longestTip = 500; // characters
+static constexpr int LongestTip = 500; // characters
 
 void ShowPlainTip(const QPoint& globalPlace, const QString& text, QWidget* control) {
     if (text.isEmpty())
         return QToolTip::hideText();
     QToolTip::showText(globalPlace,
-                       Qt::convertFromPlainText(text.left(longestTip), Qt::WhiteSpaceNormal),
+                       Qt::convertFromPlainText(text.left(LongestTip), Qt::WhiteSpaceNormal),
                        control);
 }

@@ -11,9 +11,9 @@
 
 namespace {
 
-constexpr int twipsPerValue = 10;
-constexpr int largeStep = 100;
-constexpr int smallStep = 20;
+constexpr int TwipsPerValue = 10;
+constexpr int LargeStep = 100;
+constexpr int SmallStep = 20;
 
 QWidget* MakeSurface(QWidget* parent, const char* name) {
     auto* surface = new QWidget(parent);
@@ -44,7 +44,7 @@ ScrollPane::ScrollPane(QWidget* parent)
     connect(qApp, &QApplication::focusChanged, this, &ScrollPane::FollowFocus);
 }
 
-/// The focus leaves a child that is destroyed after this part of the object is gone.
+/// A child that is destroyed later than this class still moves the focus.
 ScrollPane::~ScrollPane() {
     disconnect(qApp, nullptr, this, nullptr);
 }
@@ -71,9 +71,9 @@ void ScrollPane::SetPaneHeight(int pixels) {
 void ScrollPane::ShowBar() {
     const double over = Twips::FromPixels(pane_->height() - FrameHeight());
     bar_->SetMin(0);
-    bar_->SetMax(Round(over / twipsPerValue));
-    bar_->SetLargeChange(largeStep);
-    bar_->SetSmallChange(smallStep);
+    bar_->SetMax(Round(over / TwipsPerValue));
+    bar_->SetLargeChange(LargeStep);
+    bar_->SetSmallChange(SmallStep);
     bar_->SetValue(bar_->Value());
     bar_->show();
     bar_->raise();
@@ -87,7 +87,7 @@ void ScrollPane::OnBarChange(int value) {
     if (value == lastValue_)
         return;
     lastValue_ = value;
-    pane_->move(0, Twips::ToPixels(-twipsPerValue * value));
+    pane_->move(0, Twips::ToPixels(-TwipsPerValue * value));
     Q_EMIT Scrolled();
 }
 
@@ -95,14 +95,14 @@ void ScrollPane::EnsureVisible(const QRect& place) {
     if (!bar_->isVisibleTo(this))
         return;
     const int top = -pane_->y();
-    const double valuesPerPixel = double(Twips::FromPixels(1)) / twipsPerValue;
+    const double valuesPerPixel = double(Twips::FromPixels(1)) / TwipsPerValue;
     if (place.top() < top)
         bar_->SetValue(qFloor(place.top() * valuesPerPixel));
     else if (place.bottom() >= top + FrameHeight())
         bar_->SetValue(qCeil((place.bottom() + 1 - FrameHeight()) * valuesPerPixel));
 }
 
-/// A press of the mouse moves nothing: what it met would slip away before the release.
+/// A mouse press does not scroll: the pressed control would slip away before the release.
 void ScrollPane::FollowFocus(QWidget*, QWidget* now) {
     if (QGuiApplication::mouseButtons() == Qt::NoButton && now && pane_->isAncestorOf(now))
         EnsureVisible(QRect(now->mapTo(pane_, QPoint()), now->size()));

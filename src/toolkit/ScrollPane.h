@@ -4,11 +4,10 @@
 
 class ucScroll;
 
-/// A tall pane in a fixed frame, with its scroll bar: `picResultsBox` holds `picResultsPane`,
-/// `vsResultsPane` stands on the frame's inner right edge. The pane's top is -10 twips times the
-/// bar's value, the greatest value is (pane height - frame height) / 10 twips, the large step 100
-/// and the small step 20. Lists of search results, of a day's foods and of a recipe's ingredients
-/// stand on it.
+/// A tall pane in a fixed frame with a scroll bar: the frame `picResultsBox` holds the pane
+/// `picResultsPane`; the bar `vsResultsPane` is at the frame's right edge. The pane's top is -10
+/// twips times the bar's value; the greatest value is (pane height - frame height) / 10 twips; the
+/// steps are 100 and 20. Search results, a day's foods and a recipe's ingredients derive from it.
 class ScrollPane : public QWidget {
     Q_OBJECT
 
@@ -21,13 +20,13 @@ public:
     ucScroll* vsResultsPane() const { return bar_; }
 
     int FrameHeight() const; ///< pixels
-    /// In pixels: the inner width less the bar's place, whether or not the bar is shown.
+    /// In pixels: the inner width without the bar, even if the bar is hidden.
     int PaneWidth() const;
     void ResetPane(); ///< pane as high as the frame, at the top, bar at 0
     void SetPaneHeight(int pixels);
     void ShowBar(); ///< sets the bar up for the present heights and shows it
     void HideBar();
-    void EnsureVisible(const QRect& place); ///< scrolls until `place` of the pane can be seen
+    void EnsureVisible(const QRect& place); ///< scrolls `place` of the pane into view
 
 Q_SIGNALS:
     void Scrolled(); ///< the pane's place or the frame's size has changed

@@ -10,7 +10,7 @@ namespace {
 
 using FaceKey = std::array<qint64, 7>;
 
-/// Emptied when the application ends, so that no pixmap outlives it.
+/// Cleared when the application ends: no pixmap may outlive it.
 std::map<FaceKey, Slices>& Faces() {
     static std::map<FaceKey, Slices> faces;
     static const bool cleared = [] {

@@ -7,8 +7,8 @@
 class QPainter;
 class QRect;
 
-/// A face cut the way the drawn controls use it: a left cap, a middle column one pixel wide that is
-/// stretched to any width, and a right cap. Faces are drawn once for each height and pixel ratio.
+/// A control's face in three slices: left cap, a one-pixel middle column that is stretched, right
+/// cap. Each face is drawn once for each height and pixel ratio.
 struct Slices {
     QPixmap left;
     QPixmap middle;

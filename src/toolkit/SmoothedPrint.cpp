@@ -8,12 +8,12 @@
 
 namespace {
 
-constexpr qint32 firstSmoothingFamily = 2;
-constexpr double leastPoints = 5; ///< the smallest that can still be read
-constexpr double pointStep = 0.25;
+constexpr qint32 FirstSmoothingFamily = 2;
+constexpr double LeastPoints = 5; ///< the smallest that can still be read
+constexpr double PointStep = 0.25;
 
 bool Smooths() {
-    return App().AppInfo.OSVERSION >= firstSmoothingFamily;
+    return App().AppInfo.OSVERSION >= FirstSmoothingFamily;
 }
 
 } // namespace
@@ -32,15 +32,14 @@ void SmoothedPrint(QPainter& painter, QPointF place, const QString& text, const 
 }
 
 QFont FittingFont(QFont font, const QString& text, double width) {
-    while (font.pointSizeF() > leastPoints &&
+    while (font.pointSizeF() > LeastPoints &&
            QFontMetricsF(SmoothedFont(font)).horizontalAdvance(text) > width)
-        font.setPointSizeF(font.pointSizeF() - pointStep);
+        font.setPointSizeF(font.pointSizeF() - PointStep);
     return font;
 }
 
-// Measured first, because the ellipsis is worked out from unhinted widths: text that fits to the
-// pixel would be cut. A text with more characters than pixels never fits, and is not laid out
-// whole.
+// Measures first: the ellipsis uses unhinted widths and would cut a text that fits to the pixel. A
+// text with more characters than pixels never fits and is not measured whole.
 QString FittingText(const QString& text, const QFont& font, double width) {
     const QFontMetricsF metrics(SmoothedFont(font));
     const qsizetype most = qMax(qCeil(width), 1);

@@ -6,8 +6,7 @@
 class QApplication;
 class QString;
 
-/// Every colour, font and measure of the program, by role. Controls paint from this table and hold
-/// no literals.
+/// Every colour, font and measure of the program, by role. Controls hold no literals of their own.
 struct Style {
     struct Gradient {
         QColor from;
@@ -49,7 +48,7 @@ struct Style {
     QColor listItem, listItemText;       ///< items of an open list
     QColor listItemLit, listItemLitText; ///< the one under the pointer
     Gradient chosenDay;
-    QColor scrollSlot;        ///< the track of the scroll bar
+    QColor scrollSlot;        ///< track of the scroll bar
     QColor fieldEdge;         ///< edge of text fields at rest
     QColor error;             ///< text of a refusal
     ButtonFace button[4];     ///< by state less one: at rest, under the pointer, pressed, disabled
@@ -63,7 +62,7 @@ struct Style {
     QColor barNormal[8], barHover[8]; ///< rows of the bar pictures, top to bottom
     LinePen ln[5];                    ///< pens of the weight line; it is drawn with the last two
     QColor lineAxis, lineDotEdge, lineDotCore;
-    QColor chartNoticeInk; ///< what stands on a chart without data
+    QColor chartNoticeInk; ///< the notice on a chart without data
 
     QColor cardLine;   ///< the line below a recipe's name
     QColor cardRuling; ///< the faint lines of the card
@@ -89,9 +88,9 @@ struct Style {
 
 const Style& TheStyle();
 
-/// For what is made from here on. Only tests take another than the delivered one.
+/// Applies to controls created afterwards. Only tests set another family than the delivered one.
 void SetFontFamily(const QString& family);
 
-/// Gives the application the palette, the font and the look of the stock fields, check boxes, tips
-/// and calendar.
+/// Sets the application's palette and font, and the look of stock fields, check boxes, tips and
+/// calendars.
 void ApplyStyle(QApplication& application);

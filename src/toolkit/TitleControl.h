@@ -9,9 +9,9 @@
 
 class DragOutline;
 
-/// A title by which a window without the platform's title bar is dragged: an outline follows the
-/// pointer, the window itself moves once, at the end, to the outline's last place. A drag begins
-/// with the first change of x. No bounds are set.
+/// A title that drags its window. An outline follows the pointer; the window moves once, at the
+/// end, to the last outline. A drag begins with the first change of x. There are no bounds: a
+/// window can be dragged off the screen.
 class TitleControl : public PaintedPanel {
     Q_OBJECT
 
@@ -20,7 +20,7 @@ public:
     ~TitleControl() override;
     bool Dragging() const { return dragging_; }
     QAccessible::Role AccessibleRole() const override { return QAccessible::TitleBar; }
-    QRect Outline() const { return outline_; } ///< the last one drawn, null before
+    QRect Outline() const { return outline_; } ///< the last one drawn; null before the first
 
 Q_SIGNALS:
     void Moved();
@@ -29,13 +29,13 @@ protected:
     void mousePressEvent(QMouseEvent*) override;
     void mouseMoveEvent(QMouseEvent*) override;
     void mouseReleaseEvent(QMouseEvent*) override;
-    void hideEvent(QHideEvent*) override; ///< a drag under way is given up
-    /// The ground, and the caption at that place of the surface `picM`.
+    void hideEvent(QHideEvent*) override; ///< cancels a drag
+    /// Paints the ground, and the caption at `place` of the surface `picM`.
     void PaintTitle(QPoint picM, QPointF place);
 
 private:
     void DrawOutline(QPoint cursor);
-    bool EndDrag(); ///< takes the outline off the screen; true where a drag was under way
+    bool EndDrag(); ///< hides the outline; true if a drag was going on
 
     QPoint pressed_;
     QRect outline_;

@@ -6,15 +6,15 @@
 
 namespace {
 
-constexpr double twipsPerInch = 1440;
-constexpr double standardDensity = 96;
+constexpr double TwipsPerInch = 1440;
+constexpr double StandardDensity = 96;
 
 } // namespace
 
 int Twips::PerPixel() {
     const QScreen* screen = QGuiApplication::primaryScreen();
-    const double density = screen ? screen->logicalDotsPerInchX() : standardDensity;
-    return qMax(1, qRound(twipsPerInch / density));
+    const double density = screen ? screen->logicalDotsPerInchX() : StandardDensity;
+    return qMax(1, qRound(TwipsPerInch / density));
 }
 
 int Twips::ToPixels(double twips) {

@@ -47,7 +47,7 @@ QSize ucAALBL::sizeHint() const {
     return {qCeil(metrics.horizontalAdvance(caption_)), qCeil(metrics.height())};
 }
 
-/// Whatever size a screen gives the label, it ends up exactly around its text.
+/// The label keeps the size of its text, whatever size a screen sets.
 void ucAALBL::Fit() {
     updateGeometry();
     resize(sizeHint());

@@ -16,18 +16,18 @@
 
 namespace {
 
-constexpr int textLeft = 14;
-constexpr int textRight = 8;
-constexpr int iconSide = 20;
-constexpr int trashSide = 24;
-constexpr QSize trashPicture(16, 16);
-constexpr int trashRight = 4;
-constexpr double quantityGap = 120; // twips
-constexpr int longestShown = 1000;  // characters: more never fit a line
+constexpr int TextLeft = 14;
+constexpr int TextRight = 8;
+constexpr int IconSide = 20;
+constexpr int TrashSide = 24;
+constexpr QSize TrashPicture(16, 16);
+constexpr int TrashRight = 4;
+constexpr double QuantityGap = 120; // twips
+constexpr int LongestShown = 1000;  // characters: more never fit a line
 
 /// Line breaks and other blanks of a name become single spaces.
 QString OneLine(const QString& text) {
-    return text.left(longestShown).remove(QChar::Null).simplified();
+    return text.left(LongestShown).remove(QChar::Null).simplified();
 }
 
 int WidthOf(const QString& text, const QFont& font) {
@@ -48,7 +48,7 @@ ucAte::ucAte(QWidget* parent)
     SetBorderStyle(1);
     imgTrash_->setObjectName(QStringLiteral("imgTrash"));
     imgTrash_->SetPictures(QStringLiteral("trash"), QStringLiteral("Remove"));
-    imgTrash_->SetPictureSize(trashPicture);
+    imgTrash_->SetPictureSize(TrashPicture);
     connect(imgTrash_, &ucButtonA::Click, this, &ucAte::Remove);
     connect(imgTrash_, &ucButtonA::MouseMove, this, &ucAte::MouseMove);
     resize(sizeHint());
@@ -79,31 +79,31 @@ QString ucAte::Caption() const {
 }
 
 QSize ucAte::sizeHint() const {
-    return {textLeft + textRight + trashSide + trashRight, TheStyle().tallRowHeight};
+    return {TextLeft + TextRight + TrashSide + TrashRight, TheStyle().tallRowHeight};
 }
 
 QRect ucAte::TrashPlace() const {
-    return {width() - trashRight - trashSide, (height() - trashSide) / 2, trashSide, trashSide};
+    return {width() - TrashRight - TrashSide, (height() - TrashSide) / 2, TrashSide, TrashSide};
 }
 
 QRect ucAte::TextPlace() const {
-    const int left = textLeft + (FoodIcon().isEmpty() ? 0 : iconSide + TheStyle().groupGap);
-    const int right = width() - trashRight - trashSide - textRight;
+    const int left = TextLeft + (FoodIcon().isEmpty() ? 0 : IconSide + TheStyle().groupGap);
+    const int right = width() - TrashRight - TrashSide - TextRight;
     return {left, 0, qMax(0, right - left), height()};
 }
 
-/// The quantity stands right behind the serving; a serving too long for both is cut.
+/// The quantity follows the serving; a serving that leaves no room for it is cut.
 ucAte::Layout ucAte::layoutRects() const {
     const QFontMetrics name(SmoothedFont(font()));
     const QFontMetrics small(SmoothedFont(TheStyle().small));
     const QRect texts = TextPlace();
     const int top = (height() - name.height() - small.height()) / 2;
-    const int gap = Twips::ToPixels(quantityGap);
+    const int gap = Twips::ToPixels(QuantityGap);
     const int qtyWidth = qMin(WidthOf(qty_, TheStyle().small), texts.width());
     const int servWidth =
         qMin(WidthOf(OneLine(serv_), TheStyle().small), qMax(0, texts.width() - gap - qtyWidth));
     const int second = top + name.height();
-    return {QRect(textLeft, (height() - iconSide) / 2, iconSide, iconSide),
+    return {QRect(TextLeft, (height() - IconSide) / 2, IconSide, IconSide),
             QRect(texts.left(), top, texts.width(), name.height()),
             QRect(texts.left(), second, servWidth, small.height()),
             QRect(texts.left() + servWidth + gap, second, qtyWidth, small.height()), TrashPlace()};
@@ -147,7 +147,7 @@ bool ucAte::event(QEvent* event) {
     return true;
 }
 
-/// A line is not the empty pane: a press on it ends here.
+/// Stops the press here: the pane's Click is for its empty part only.
 void ucAte::mousePressEvent(QMouseEvent* event) {
     event->accept();
 }

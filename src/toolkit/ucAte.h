@@ -21,7 +21,7 @@ public:
     void SetFoodName(const QString& name); ///< also the tip over it
     QString Serv() const { return serv_; }
     void SetServ(const QString& serving);
-    void SetQTY(const QString& quantity); ///< only ever set: the quantity of a line is not edited
+    void SetQTY(const QString& quantity); ///< the user cannot edit it
     QString ID() const { return id_; }
     void SetID(const QString& id);
     QString Caption() const; ///< the line in words, for assistive tools

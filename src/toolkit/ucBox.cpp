@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr int frameWidth = 1;
+constexpr int FrameWidth = 1;
 
 } // namespace
 
@@ -44,12 +44,12 @@ void ucBox::SetFont(const QFont& font) {
 }
 
 QRect ucBox::Inner() const {
-    const int top = Caption().isEmpty() ? frameWidth : frameWidth + header_->height();
-    return rect().adjusted(frameWidth, top, -frameWidth, -frameWidth);
+    const int top = Caption().isEmpty() ? FrameWidth : FrameWidth + header_->height();
+    return rect().adjusted(FrameWidth, top, -FrameWidth, -FrameWidth);
 }
 
 void ucBox::resizeEvent(QResizeEvent*) {
-    header_->setGeometry(frameWidth, frameWidth, width() - 2 * frameWidth, TheStyle().headerHeight);
+    header_->setGeometry(FrameWidth, FrameWidth, width() - 2 * FrameWidth, TheStyle().headerHeight);
     Q_EMIT InnerChanged();
 }
 
@@ -75,7 +75,7 @@ void ucBox::mouseReleaseEvent(QMouseEvent* event) {
         Q_EMIT Click();
 }
 
-/// Moves over the header arrive here as well, as it lets them through.
+/// The header passes its moves on, so they arrive here too.
 void ucBox::mouseMoveEvent(QMouseEvent* event) {
     RaiseMouseMove(event);
     event->ignore();

@@ -4,8 +4,8 @@
 
 class ucHeader;
 
-/// A framed panel with a header on top; its contents stand in the rectangle that Inner() gives.
-/// With an empty caption the header is hidden and its room is the contents'.
+/// A framed panel with a header. Inner() is the place for its contents. With an empty caption there
+/// is no header, and Inner() takes its room.
 class ucBox : public DrawnControl {
     Q_OBJECT
     Q_PROPERTY(QString Caption READ Caption WRITE SetCaption)

@@ -17,13 +17,13 @@ namespace {
 
 enum ButtonState { AtRest = 1, PointerOver = 2, Pressed = 3, Disabled = 4 };
 
-/// By state less one and surface. The `_R` set is the one at rest, the `_N` set the one under the
-/// pointer.
-constexpr const char* pictureNames[4][3] = {
+/// By state minus 1, then by surface. The `_R` pictures are for rest, the `_N` pictures for under
+/// the pointer.
+constexpr const char* PictureNames[4][3] = {
     {"L_R", "M_R", "R_R"}, {"L_N", "M_N", "R_N"}, {"L_D", "M_D", "R_D"}, {"L_X", "M_X", "R_X"}};
 
-constexpr int capWidth = 10;
-constexpr double captionLeft = 30; // twips
+constexpr int CapWidth = 10;
+constexpr double CaptionLeft = 30; // twips
 
 } // namespace
 
@@ -71,18 +71,18 @@ void ucButton::changeEvent(QEvent* event) {
 
 QSize ucButton::sizeHint() const {
     const double text = QFontMetricsF(SmoothedFont(font())).horizontalAdvance(caption_);
-    const int margins = 2 * (capWidth + Twips::ToPixels(captionLeft));
+    const int margins = 2 * (CapWidth + Twips::ToPixels(CaptionLeft));
     return {qCeil(text) + margins, TheStyle().buttonHeight};
 }
 
 ucButton::Layout ucButton::layoutRects() const {
-    const int cap = qMin(capWidth, width() / 2);
+    const int cap = qMin(CapWidth, width() / 2);
     return {QRect(0, 0, cap, height()), QRect(cap, 0, width() - 2 * cap, height()),
             QRect(width() - cap, 0, cap, height())};
 }
 
 QString ucButton::PictureOn(int surface) const {
-    return QLatin1String(pictureNames[state_ - 1][surface]);
+    return QLatin1String(PictureNames[state_ - 1][surface]);
 }
 
 const Style::ButtonFace& ucButton::Face() const {
@@ -93,7 +93,7 @@ void ucButton::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     const Layout at = layoutRects();
     const Slices& slices =
-        Slices::OfFace(Face(), capWidth, TheStyle().buttonRadius, height(), devicePixelRatioF());
+        Slices::OfFace(Face(), CapWidth, TheStyle().buttonRadius, height(), devicePixelRatioF());
     painter.drawPixmap(at.picL, slices.left);
     StretchColumn(painter, at.picM, slices.middle);
     painter.drawPixmap(at.picR, slices.right);
@@ -103,7 +103,7 @@ void ucButton::paintEvent(QPaintEvent*) {
 }
 
 void ucButton::PaintCaption(QPainter& painter, const QRect& picM) const {
-    const int left = Twips::ToPixels(captionLeft);
+    const int left = Twips::ToPixels(CaptionLeft);
     const QFont font = FittingFont(this->font(), caption_, picM.width() - left);
     const double textHeight = QFontMetricsF(SmoothedFont(font)).height();
     const int sunk = state_ == Pressed ? 1 : 0;
@@ -167,7 +167,7 @@ void ucButton::showEvent(QShowEvent*) {
     Reset();
 }
 
-/// The platform tells of the pointer's leaving; the screens' AllOff does the same from outside.
+/// The platform reports that the pointer has left; AllOff of the screen does the same.
 void ucButton::leaveEvent(QEvent*) {
     if (state_ == PointerOver)
         Reset();

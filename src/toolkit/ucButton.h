@@ -3,9 +3,9 @@
 #include "toolkit/DrawnControl.h"
 #include "toolkit/Style.h"
 
-/// A captioned button of any width: left cap, one-pixel middle column stretched, right cap.
-/// States: 1 at rest, 2 pointer over, 3 pressed, 4 disabled. A button that is told it is enabled
-/// again leaves state 4 only by Reset. Space and Return press it from the keyboard; focus is drawn.
+/// A captioned button of any width: left cap, stretched one-pixel middle column, right cap. States:
+/// 1 at rest, 2 pointer over it, 3 pressed, 4 disabled. SetEnabled(true) does not leave state 4,
+/// only Reset does. Space and Return press it.
 class ucButton : public DrawnControl {
     Q_OBJECT
     Q_PROPERTY(QString Caption READ Caption WRITE SetCaption)
@@ -23,8 +23,8 @@ public:
     void SetEnabled(bool enabled) { setEnabled(enabled); }
     int State() const { return state_; }
     bool MainAction() const { return mainAction_; }
-    void SetMainAction(bool mainAction); ///< the one main action of a screen is painted so
-    void Reset();                        ///< back to state 1, or to 4 where disabled
+    void SetMainAction(bool mainAction); ///< painted as the main action of its screen
+    void Reset();                        ///< to state 1, or to 4 if disabled
     QSize sizeHint() const final;
     void Activate() override;
     QAccessible::Role AccessibleRole() const override { return QAccessible::Button; }
@@ -33,7 +33,7 @@ public:
         QRect picL, picM, picR;
     };
     Layout layoutRects() const;
-    /// Name of the picture that a surface shows at the moment: 0 `picL`, 1 `picM`, 2 `picR`.
+    /// Name of the picture that the surface shows now: 0 `picL`, 1 `picM`, 2 `picR`.
     QString PictureOn(int surface) const;
 
 protected:
@@ -51,7 +51,7 @@ protected:
 
 private:
     void SetState(int state);
-    void HoldSpace(); ///< until it is let go or the focus leaves
+    void HoldSpace(); ///< looks pressed until the key is released or the focus leaves
     const Style::ButtonFace& Face() const;
     void PaintCaption(QPainter& painter, const QRect& picM) const;
 

@@ -1,6 +1,7 @@
 #include "toolkit/ucButtonA.h"
 
 #include "toolkit/Accessible.h"
+#include "toolkit/ControlInterface.h"
 #include "toolkit/Pictures.h"
 #include "toolkit/Slices.h"
 #include "toolkit/SmoothedPrint.h"
@@ -12,18 +13,29 @@
 
 namespace {
 
-constexpr int borderRoom = 5;
-constexpr int chosenBar = 3;
-constexpr int tilePictureTop = 13;
-constexpr int tileCaptionGap = 4;
+constexpr int BorderRoom = 5;
+constexpr int ChosenBar = 3;
+constexpr int TilePictureTop = 13;
+constexpr int TileCaptionGap = 4;
 
-/// By the picture shown: the ink where the using screen has set none.
-constexpr QColor Style::*plainInks[3] = {&Style::quietInk, &Style::frame, &Style::heading};
+/// The default ink of each picture.
+constexpr QColor Style::*PlainInks[3] = {&Style::quietInk, &Style::frame, &Style::heading};
 
 QColor TileInk(int image) {
     const Style& style = TheStyle();
     return image == 0 ? style.navigationInk : style.windowInk;
 }
+
+class ViewButtonInterface : public ControlInterface {
+public:
+    using ControlInterface::ControlInterface;
+
+    QAccessible::State state() const override {
+        QAccessible::State state = ControlInterface::state();
+        state.pressed = static_cast<ucButtonA*>(object())->Chosen();
+        return state;
+    }
+};
 
 } // namespace
 
@@ -119,10 +131,14 @@ void ucButtonA::Fit() {
     update();
 }
 
+QAccessibleInterface* ucButtonA::MakeAccessible() {
+    return new ViewButtonInterface(this);
+}
+
 QSize ucButtonA::sizeHint() const {
     if (!captionBelow_.isEmpty())
         return {TheStyle().navigationWidth, TheStyle().navigationTile};
-    const int room = bordered_ ? borderRoom : 0;
+    const int room = bordered_ ? BorderRoom : 0;
     return pictureSize_ + QSize(2 * room, 2 * room);
 }
 
@@ -131,8 +147,8 @@ ucButtonA::Layout ucButtonA::layoutRects() const {
     picture.moveCenter(rect().center());
     if (captionBelow_.isEmpty())
         return {picture, QRect()};
-    picture.moveTop(tilePictureTop);
-    const int captionTop = picture.bottom() + 1 + tileCaptionGap;
+    picture.moveTop(TilePictureTop);
+    const int captionTop = picture.bottom() + 1 + TileCaptionGap;
     return {picture, QRect(0, captionTop, width(), height() - captionTop)};
 }
 
@@ -146,14 +162,14 @@ QColor ucButtonA::InkShown() const {
         return style.heading;
     if (tints_[image].isValid())
         return tints_[image];
-    return tile ? TileInk(image) : style.*plainInks[image];
+    return tile ? TileInk(image) : style.*PlainInks[image];
 }
 
 void ucButtonA::PaintNavigationGround(QPainter& painter) const {
     const Style& style = TheStyle();
     if (chosen_) {
         painter.fillRect(rect(), style.canvas);
-        painter.fillRect(QRect(0, 0, chosenBar, height()), style.frame);
+        painter.fillRect(QRect(0, 0, ChosenBar, height()), style.frame);
     } else if (shown_ != Image::Normal && isEnabled()) {
         painter.fillRect(rect(),
                          shown_ == Image::Roll ? style.navigationLit : style.navigationPressed);

@@ -2,9 +2,8 @@
 
 #include "toolkit/DrawnControl.h"
 
-/// A single-picture button whose three pictures the using screen sets, by name (see Pictures).
-/// Its state is the picture it shows. It sizes itself to `img_NORM`'s size, 24 by 24 unless
-/// PictureSize says otherwise.
+/// A button that shows one of three pictures, set by name (see Pictures). The picture is its state.
+/// It takes the size of `img_NORM`: 24 by 24 pixels unless SetPictureSize was called.
 class ucButtonA : public DrawnControl {
     Q_OBJECT
     Q_PROPERTY(QString img_NORM READ img_NORM WRITE Set_img_NORM)
@@ -17,7 +16,7 @@ class ucButtonA : public DrawnControl {
 public:
     explicit ucButtonA(QWidget* parent = nullptr);
 
-    /// One picture in the three tones at rest, under the pointer and pressed, with tip and
+    /// Sets one picture in three tones (at rest, under the pointer, pressed), the tip and the
     /// accessible name.
     void SetPictures(const QString& name, const QString& toolTip);
     QString img_NORM() const { return normal_; }
@@ -27,20 +26,18 @@ public:
     QString img_DOWN() const { return down_; }
     void Set_img_DOWN(const QString& name);
     void Set_acToolTip(const QString& tip);
-    QString
-    Shown() const; ///< the picture shown at the moment: "img_NORM", "img_ROLL" or "img_DOWN"
-    bool Chosen() const {
-        return chosen_;
-    } ///< one of a row of views that is the one shown; painted lit
+    QString Shown() const; ///< the picture that it shows now: "img_NORM", "img_ROLL" or "img_DOWN"
+    bool Chosen() const { return chosen_; } ///< its view is the one that is shown; painted lit
     void SetChosen(bool chosen);
     void SetPictureSize(QSize size);
-    void SetBordered(bool bordered);              ///< painted with a button's edge; off by default
+    void SetBordered(bool bordered);              ///< with a button's edge; off by default
     void SetCaptionBelow(const QString& caption); ///< navigation column: caption under the picture
     void SetTints(const QColor& rest, const QColor& roll, const QColor& down);
     void Reset(); ///< img_NORM, if it shows anything else
     QSize sizeHint() const final;
     void Activate() override;
     QAccessible::Role AccessibleRole() const override { return QAccessible::Button; }
+    QAccessibleInterface* MakeAccessible() override;
 
     struct Layout {
         QRect imgButton, caption;

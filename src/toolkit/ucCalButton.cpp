@@ -15,11 +15,11 @@ namespace {
 
 enum CalButtonState { AtRest = 1, PointerOver = 2, Pressed = 3 };
 
-constexpr const char* pictureNames[3] = {"img_N", "img_R", "img_D"};
-constexpr int frameWidth = 2;
-constexpr double captionLeft = 30; // twips, on the surface
-constexpr int surfaceLeft = 7;
-constexpr int surfaceHeight = 33; ///< at most: on a high button the caption stays near the top
+constexpr const char* PictureNames[3] = {"img_N", "img_R", "img_D"};
+constexpr int FrameWidth = 2;
+constexpr double CaptionLeft = 30; // twips, on the surface
+constexpr int SurfaceLeft = 7;
+constexpr int SurfaceHeight = 33; ///< at most: on a high button the caption stays near the top
 
 } // namespace
 
@@ -38,7 +38,7 @@ void ucCalButton::SetCaption(const QString& caption) {
 }
 
 QString ucCalButton::PictureOn() const {
-    return QLatin1String(pictureNames[state_ - 1]);
+    return QLatin1String(PictureNames[state_ - 1]);
 }
 
 void ucCalButton::SetState(int state) {
@@ -54,18 +54,18 @@ void ucCalButton::Reset() {
 
 QSize ucCalButton::sizeHint() const {
     const double text = QFontMetricsF(SmoothedFont(font())).horizontalAdvance(caption_);
-    return {qCeil(text) + 2 * (surfaceLeft + Twips::ToPixels(captionLeft)),
+    return {qCeil(text) + 2 * (SurfaceLeft + Twips::ToPixels(CaptionLeft)),
             TheStyle().buttonHeight};
 }
 
 QRect ucCalButton::picM() const {
-    return {surfaceLeft, 0, width() - surfaceLeft, qMin(height(), surfaceHeight)};
+    return {SurfaceLeft, 0, width() - SurfaceLeft, qMin(height(), SurfaceHeight)};
 }
 
 void ucCalButton::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     const Style::ButtonFace& face = TheStyle().dayButton[state_ - 1];
-    const QRect ground = rect().adjusted(frameWidth, frameWidth, -frameWidth, -frameWidth);
+    const QRect ground = rect().adjusted(FrameWidth, FrameWidth, -FrameWidth, -FrameWidth);
     painter.fillRect(rect(), face.edge);
     StretchColumn(painter, ground,
                   Slices::OfFace(face, 1, 0, ground.height(), devicePixelRatioF()).middle);
@@ -74,14 +74,14 @@ void ucCalButton::paintEvent(QPaintEvent*) {
     painter.setPen(face.text);
     SmoothedPrint(painter,
                   corner +
-                      QPointF(Twips::ToPixels(captionLeft), picM().height() / 2.0 - textHeight / 2),
+                      QPointF(Twips::ToPixels(CaptionLeft), picM().height() / 2.0 - textHeight / 2),
                   caption_, font());
     if (FocusShown())
         PaintFocusRing(painter, ground, 0);
 }
 
-/// One routine for press, move and release. As a release also reports the left button, the button
-/// still looks pressed until the next move.
+/// One routine for press, move and release. A release still reports the left button, so the button
+/// looks pressed until the next move.
 void ucCalButton::Track(bool leftButton, QPointF place) {
     if (!leftButton || !isEnabled())
         SetState(PointerOver);

@@ -2,9 +2,9 @@
 
 #include "toolkit/DrawnControl.h"
 
-/// A captioned button of one slice, without a disabled look: the chosen day of a calendar. Its
-/// `img_N` is the picture at rest and `img_R` the one under the pointer: the other way round from
-/// ucButton. It still looks pressed after a release, until the next move.
+/// The button of a calendar's chosen day: one slice, a caption, no disabled look. `img_N` is the
+/// picture at rest and `img_R` the one under the pointer, the reverse of ucButton. After a release
+/// it looks pressed until the next mouse move.
 class ucCalButton : public DrawnControl {
     Q_OBJECT
     Q_PROPERTY(QString Caption READ Caption WRITE SetCaption)
@@ -20,7 +20,7 @@ public:
     void Reset(); ///< state 1
     QSize sizeHint() const final;
     QAccessible::Role AccessibleRole() const override { return QAccessible::Button; }
-    QString PictureOn() const; ///< name of the picture that `picM` shows at the moment
+    QString PictureOn() const; ///< name of the picture that `picM` shows now
 
 protected:
     void paintEvent(QPaintEvent*) override;

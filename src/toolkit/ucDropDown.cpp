@@ -2,6 +2,7 @@
 
 #include "runtime/Convert.h"
 #include "toolkit/Accessible.h"
+#include "toolkit/ControlInterface.h"
 #include "toolkit/DropItem.h"
 #include "toolkit/DropPanel.h"
 #include "toolkit/Pictures.h"
@@ -15,12 +16,12 @@
 
 namespace {
 
-constexpr const char* pictureNames[] = {"img_N", "img_R", "img_D"};
-constexpr QColor Style::*arrowInks[] = {&Style::frame, &Style::heading, &Style::heading};
-constexpr int arrowWidth = 22;
-constexpr int pictureSize = 14;
-constexpr int textLeft = 8;
-constexpr int plainWidth = 110;
+constexpr const char* PictureNames[] = {"img_N", "img_R", "img_D"};
+constexpr QColor Style::*ArrowInks[] = {&Style::frame, &Style::heading, &Style::heading};
+constexpr int ArrowWidth = 22;
+constexpr int PictureSize = 14;
+constexpr int TextLeft = 8;
+constexpr int PlainWidth = 110;
 
 QString WithoutLeadingBlanks(const QString& text) {
     qsizetype first = 0;
@@ -28,6 +29,26 @@ QString WithoutLeadingBlanks(const QString& text) {
         ++first;
     return text.mid(first);
 }
+
+/// When the list is open, its items are children that can be pressed.
+class ListInterface : public ControlInterface {
+public:
+    using ControlInterface::ControlInterface;
+
+    QAccessible::State state() const override {
+        QAccessible::State state = ControlInterface::state();
+        state.expandable = true;
+        state.expanded = List()->IsOpen();
+        state.collapsed = !state.expanded;
+        return state;
+    }
+    QString text(QAccessible::Text kind) const override {
+        return kind == QAccessible::Value ? List()->Text().trimmed() : ControlInterface::text(kind);
+    }
+
+private:
+    ucDropDown* List() const { return static_cast<ucDropDown*>(object()); }
+};
 
 } // namespace
 
@@ -70,7 +91,7 @@ bool ucDropDown::IsOpen() const {
 }
 
 QString ucDropDown::PictureOn() const {
-    return QLatin1String(pictureNames[static_cast<int>(arrow_)]);
+    return QLatin1String(PictureNames[static_cast<int>(arrow_)]);
 }
 
 void ucDropDown::AddItem(const QString& text, qint32 tag) {
@@ -134,17 +155,21 @@ void ucDropDown::ShowArrow(Arrow picture) {
 
 ucDropDown::Layout ucDropDown::layoutRects() const {
     const int strip = TheStyle().fieldHeight;
-    const QRect arrow(width() - arrowWidth, 0, arrowWidth, strip);
-    QRect picture(0, 0, pictureSize, pictureSize);
+    const QRect arrow(width() - ArrowWidth, 0, ArrowWidth, strip);
+    QRect picture(0, 0, PictureSize, PictureSize);
     picture.moveCenter(arrow.center());
     const int textHeight = qRound(QFontMetricsF(SmoothedFont(font())).height());
-    const QRect text(textLeft, (strip - textHeight) / 2, arrow.left() - textLeft, textHeight);
+    const QRect text(TextLeft, (strip - textHeight) / 2, arrow.left() - TextLeft, textHeight);
     return {QRect(0, 0, width(), strip), text, arrow, picture,
             QRect(0, strip, width(), picBox_->height())};
 }
 
+QAccessibleInterface* ucDropDown::MakeAccessible() {
+    return new ListInterface(this);
+}
+
 QSize ucDropDown::sizeHint() const {
-    return {plainWidth, TheStyle().fieldHeight};
+    return {PlainWidth, TheStyle().fieldHeight};
 }
 
 void ucDropDown::resizeEvent(QResizeEvent*) {
@@ -173,7 +198,7 @@ void ucDropDown::PaintStrip(QPainter& painter, const Layout& at) const {
     painter.setRenderHint(QPainter::Antialiasing, false);
 }
 
-/// The ground of the arrow is seen where the pointer is on it.
+/// The ground of the arrow shows only under the pointer.
 void ucDropDown::PaintArrow(QPainter& painter, const Layout& at) const {
     const Style& style = TheStyle();
     const int picture = static_cast<int>(arrow_);
@@ -184,7 +209,7 @@ void ucDropDown::PaintArrow(QPainter& painter, const Layout& at) const {
                       Slices::OfFace(face, 1, 0, ground.height(), devicePixelRatioF()).middle);
         painter.fillRect(ground.left(), ground.top(), 1, ground.height(), style.rule);
     }
-    const QColor ink = isEnabled() ? style.*arrowInks[picture] : style.disabledPicture;
+    const QColor ink = isEnabled() ? style.*ArrowInks[picture] : style.disabledPicture;
     const int sunk = arrow_ == Arrow::Down ? 1 : 0;
     Pictures::Paint(painter, at.imgArrow.translated(0, sunk), QStringLiteral("drop-arrow"), ink);
 }
@@ -207,7 +232,7 @@ void ucDropDown::mousePressEvent(QMouseEvent* event) {
         TrackArrow(event->buttons().testFlag(Qt::LeftButton), place);
 }
 
-/// Moves over the items arrive here as well.
+/// The items pass their moves on, so they arrive here too.
 void ucDropDown::mouseMoveEvent(QMouseEvent* event) {
     const QPoint place = PixelOf(event);
     const bool held = event->buttons().testFlag(Qt::LeftButton);
@@ -235,7 +260,7 @@ void ucDropDown::focusOutEvent(QFocusEvent* event) {
     Reset();
 }
 
-/// While the list is open: a press on what takes no focus closes it as well.
+/// While the list is open, a press on something that takes no focus closes it too.
 bool ucDropDown::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::MouseButtonPress) {
         auto* pressed = qobject_cast<QWidget*>(watched);

@@ -4,12 +4,12 @@
 
 class DropPanel;
 
-/// A combo list: the strip `picSelItem` with the selected item's text and an arrow, and a panel
-/// that opens below it. The control itself grows downward over its neighbours to show the panel and
-/// shrinks back, so its parent must reach as far down as the panel. Items count from 1.
+/// A drop-down list: the strip `picSelItem` with the selected text and an arrow, and a panel that
+/// opens below it. To show the panel the control itself grows downward over its neighbours, so its
+/// parent must be high enough. Items count from 1.
 ///
-/// Click is raised when the user has picked an item. The list closes when the focus goes or the
-/// mouse is pressed elsewhere. Keys do nothing in it; assistive tools can open it and pick.
+/// Click is raised when the user picks an item. The list closes when it loses the focus or the
+/// mouse is pressed elsewhere. It ignores keys; assistive tools can open it and pick.
 class ucDropDown : public DrawnControl {
     Q_OBJECT
     Q_PROPERTY(QString Text READ Text WRITE SetText)
@@ -24,17 +24,17 @@ public:
     QString Text() const; ///< the text on the strip without its leading blanks
     void SetText(const QString& text);
     int aHEIGHT() const;          ///< of the panel, in twips
-    void Set_aHEIGHT(int height); ///< reduced where the items end earlier
+    void Set_aHEIGHT(int height); ///< reduced if the items end earlier
     int SelectedID() const { return selectedID_; }
     bool IsOpen() const;
     QString PictureOn() const; ///< what `imgArrow` shows: "img_N", "img_R" or "img_D"
 
     void AddItem(const QString& text, qint32 tag);
-    /// Selects without opening and without an event. Fails with 340 where no item of that index is
-    /// loaded; the selection then stays.
+    /// Selects an item; does not open the list and raises no event. Fails with 340 and keeps the
+    /// selection if there is no such item.
     void SetIndex(qint16 index);
-    void Reset();    ///< closes the list and puts the arrow at rest
-    void ResetPic(); ///< puts the arrow at rest
+    void Reset();    ///< closes the list and resets the arrow
+    void ResetPic(); ///< resets the arrow
 
     struct Layout {
         QRect picSelItem, lblMyName, picArrow, imgArrow, picBox;
@@ -43,6 +43,7 @@ public:
     QSize sizeHint() const final;
     void Activate() override; ///< opens or closes
     QAccessible::Role AccessibleRole() const override { return QAccessible::ComboBox; }
+    QAccessibleInterface* MakeAccessible() override;
 
 protected:
     void paintEvent(QPaintEvent*) override;

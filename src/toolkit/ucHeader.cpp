@@ -8,8 +8,8 @@
 
 namespace {
 
-constexpr int capWidth = 7;
-constexpr double captionLeft = 15; // twips
+constexpr int CapWidth = 7;
+constexpr double CaptionLeft = 15; // twips
 
 } // namespace
 
@@ -25,12 +25,12 @@ void ucHeader::SetCenterAlignText(bool center) {
 }
 
 ucHeader::Layout ucHeader::layoutRects() const {
-    return {QRect(0, 0, capWidth, height()), QRect(capWidth, 0, width() - 2 * capWidth, height()),
-            QRect(width() - capWidth, 0, capWidth, height())};
+    return {QRect(0, 0, CapWidth, height()), QRect(CapWidth, 0, width() - 2 * CapWidth, height()),
+            QRect(width() - CapWidth, 0, CapWidth, height())};
 }
 
 QSize ucHeader::sizeHint() const {
-    return {qCeil(TextWidth()) + 2 * capWidth + 2 * Twips::ToPixels(captionLeft),
+    return {qCeil(TextWidth()) + 2 * CapWidth + 2 * Twips::ToPixels(CaptionLeft),
             TheStyle().headerHeight};
 }
 
@@ -39,12 +39,12 @@ void ucHeader::paintEvent(QPaintEvent*) {
     const Style& style = TheStyle();
     const Layout at = layoutRects();
     const Style::ButtonFace face{style.header, Qt::transparent, style.headerInk};
-    const Slices& slices = Slices::OfFace(face, capWidth, 0, height(), devicePixelRatioF());
+    const Slices& slices = Slices::OfFace(face, CapWidth, 0, height(), devicePixelRatioF());
     painter.drawPixmap(at.picL, slices.left);
     StretchColumn(painter, at.picM, slices.middle);
     painter.drawPixmap(at.picR, slices.right);
     painter.fillRect(0, height() - 1, width(), 1, style.headerEdge);
     const double left =
-        centerAlignText_ ? (at.picM.width() - TextWidth()) / 2 : Twips::ToPixels(captionLeft);
+        centerAlignText_ ? (at.picM.width() - TextWidth()) / 2 : Twips::ToPixels(CaptionLeft);
     PrintCaption(painter, face.text, at.picM.left() + left);
 }

@@ -1,6 +1,7 @@
 #include "toolkit/ucRadio.h"
 
 #include "toolkit/Accessible.h"
+#include "toolkit/ControlInterface.h"
 #include "toolkit/Pictures.h"
 #include "toolkit/SmoothedPrint.h"
 #include "toolkit/Style.h"
@@ -13,10 +14,10 @@
 
 namespace {
 
-constexpr int captionGap = 6;
-constexpr int ringRoom = 3;
-constexpr QSize dotSize(16, 16);
-constexpr QSize switchSize(26, 16);
+constexpr int CaptionGap = 6;
+constexpr int RingRoom = 3;
+constexpr QSize DotSize(16, 16);
+constexpr QSize SwitchSize(26, 16);
 
 /// "opMeal" of "opMeal2".
 QStringView StemOf(QStringView name) {
@@ -25,13 +26,25 @@ QStringView StemOf(QStringView name) {
     return name;
 }
 
+class RadioInterface : public ControlInterface {
+public:
+    using ControlInterface::ControlInterface;
+
+    QAccessible::State state() const override {
+        QAccessible::State state = ControlInterface::state();
+        state.checkable = true;
+        state.checked = static_cast<ucRadio*>(object())->Value();
+        return state;
+    }
+};
+
 } // namespace
 
 ucRadio::ucRadio(QWidget* parent)
     : ucRadio(QString(), parent) {}
 
 ucRadio::ucRadio(const QString& caption, QWidget* parent)
-    : ucRadio(QStringLiteral("radio-on"), QStringLiteral("radio-off"), dotSize, caption, parent) {}
+    : ucRadio(QStringLiteral("radio-on"), QStringLiteral("radio-off"), DotSize, caption, parent) {}
 
 ucRadio::ucRadio(const QString& imgN, const QString& imgD, QSize pictureSize,
                  const QString& caption, QWidget* parent)
@@ -44,7 +57,7 @@ ucRadio::ucRadio(const QString& imgN, const QString& imgD, QSize pictureSize,
 }
 
 ucRadioB::ucRadioB(const QString& caption, QWidget* parent)
-    : ucRadio(QStringLiteral("switch-on"), QStringLiteral("switch-off"), switchSize, caption,
+    : ucRadio(QStringLiteral("switch-on"), QStringLiteral("switch-off"), SwitchSize, caption,
               parent) {}
 
 void ucRadio::SetCaption(const QString& caption) {
@@ -61,17 +74,21 @@ void ucRadio::SetValue(bool value) {
     TellChecked(this);
 }
 
+QAccessibleInterface* ucRadio::MakeAccessible() {
+    return new RadioInterface(this);
+}
+
 QSize ucRadio::sizeHint() const {
-    const int picture = pictureSize_.width() + 2 * ringRoom;
+    const int picture = pictureSize_.width() + 2 * RingRoom;
     if (caption_.isEmpty())
         return {picture, TheStyle().fieldHeight};
     const double text = QFontMetricsF(SmoothedFont(font())).horizontalAdvance(caption_);
-    return {picture + captionGap + qCeil(text) + ringRoom, TheStyle().fieldHeight};
+    return {picture + CaptionGap + qCeil(text) + RingRoom, TheStyle().fieldHeight};
 }
 
 ucRadio::Layout ucRadio::layoutRects() const {
-    const QRect picture(QPoint(ringRoom, (height() - pictureSize_.height()) / 2), pictureSize_);
-    const int left = picture.right() + 1 + captionGap;
+    const QRect picture(QPoint(RingRoom, (height() - pictureSize_.height()) / 2), pictureSize_);
+    const int left = picture.right() + 1 + CaptionGap;
     return {picture, QRect(left, 0, width() - left, height())};
 }
 

@@ -2,9 +2,9 @@
 
 #include "toolkit/DrawnControl.h"
 
-/// A two-state picture with a text beside it. A click turns it on and never off; where one of a set
-/// is clicked, the using screen turns the others off. From the keyboard, Space works it and the
-/// arrow keys go through the set: the radios of one parent whose names differ only in their number.
+/// A picture for on or off, and a text. A click turns it on, never off: the screen turns the others
+/// of its set off. Space turns it on; the arrow keys move through the set, which is the radios of
+/// one parent whose names differ only in their number.
 class ucRadio : public DrawnControl {
     Q_OBJECT
     Q_PROPERTY(bool Value READ Value WRITE SetValue)
@@ -21,6 +21,7 @@ public:
     QSize sizeHint() const final;
     void Activate() override;
     QAccessible::Role AccessibleRole() const override { return QAccessible::RadioButton; }
+    QAccessibleInterface* MakeAccessible() override;
 
     struct Layout {
         QRect imgButton, caption;

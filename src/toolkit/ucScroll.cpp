@@ -2,6 +2,7 @@
 
 #include "runtime/Round.h"
 #include "toolkit/Accessible.h"
+#include "toolkit/ControlInterface.h"
 #include "toolkit/Pictures.h"
 #include "toolkit/Slices.h"
 
@@ -13,12 +14,12 @@
 
 namespace {
 
-constexpr int thumbHeight = 36;
-constexpr int leastTravel = 8;
-constexpr int repeatDelay = 400; // milliseconds
-constexpr int repeatPeriod = 50; // milliseconds
-constexpr int wheelNotch = 120;
-constexpr int stepsPerNotch = 3;
+constexpr int ThumbHeight = 36;
+constexpr int LeastTravel = 8;
+constexpr int RepeatDelay = 400; // milliseconds
+constexpr int RepeatPeriod = 50; // milliseconds
+constexpr int WheelNotch = 120;
+constexpr int StepsPerNotch = 3;
 
 struct KeyStep {
     int key;
@@ -27,8 +28,31 @@ struct KeyStep {
 };
 
 /// What a key adds, in small and large steps.
-constexpr KeyStep keySteps[] = {
+constexpr KeyStep KeySteps[] = {
     {Qt::Key_Up, -1, 0}, {Qt::Key_Down, 1, 0}, {Qt::Key_PageUp, 0, -1}, {Qt::Key_PageDown, 0, 1}};
+
+class ScrollInterface : public ControlInterface, public QAccessibleValueInterface {
+public:
+    using ControlInterface::ControlInterface;
+
+    void* interface_cast(QAccessible::InterfaceType type) override {
+        if (type == QAccessible::ValueInterface)
+            return static_cast<QAccessibleValueInterface*>(this);
+        return ControlInterface::interface_cast(type);
+    }
+    QVariant currentValue() const override { return Bar()->Value(); }
+    void setCurrentValue(const QVariant& value) override { Bar()->SetValue(value.toInt()); }
+    QVariant maximumValue() const override { return Bar()->Max(); }
+    QVariant minimumValue() const override { return Bar()->Min(); }
+    QVariant minimumStepSize() const override { return Bar()->SmallChange(); }
+    QString text(QAccessible::Text kind) const override {
+        return kind == QAccessible::Value ? QString::number(Bar()->Value())
+                                          : ControlInterface::text(kind);
+    }
+
+private:
+    ucScroll* Bar() const { return static_cast<ucScroll*>(object()); }
+};
 
 } // namespace
 
@@ -48,7 +72,7 @@ void ucScroll::SetValue(int value) {
     PlaceThumb();
 }
 
-/// Min takes no part. With a Max of 0 there is nowhere to go, and the thumb stands at the top.
+/// Min does not matter. With a Max of 0 the thumb is at the top.
 void ucScroll::PlaceThumb() {
     const int top = max_ == 0 ? 0 : Round(double(value_) / max_ * travel_);
     if (top == thumbTop_)
@@ -67,14 +91,18 @@ void ucScroll::InitControls() {
 ucScroll::Layout ucScroll::layoutRects() const {
     const int arrow = qMin(width(), height() / 2);
     const QRect slot(0, arrow, width(), height() - 2 * arrow);
-    const int thumb = qBound(0, slot.height() - leastTravel, thumbHeight);
+    const int thumb = qBound(0, slot.height() - LeastTravel, ThumbHeight);
     return {QRect(0, 0, width(), arrow), QRect(0, height() - arrow, width(), arrow), slot,
             QRect(0, arrow + thumbTop_, width(), thumb)};
 }
 
+QAccessibleInterface* ucScroll::MakeAccessible() {
+    return new ScrollInterface(this);
+}
+
 QSize ucScroll::sizeHint() const {
     const int side = TheStyle().scrollWidth;
-    return {side, 2 * side + thumbHeight + leastTravel};
+    return {side, 2 * side + ThumbHeight + LeastTravel};
 }
 
 void ucScroll::resizeEvent(QResizeEvent*) {
@@ -132,11 +160,11 @@ void ucScroll::PressSlot(int y) {
 void ucScroll::StartRepeat(int step, int limit) {
     repeatStep_ = step;
     repeatLimit_ = limit;
-    repeat_->start(repeatDelay);
+    repeat_->start(RepeatDelay);
 }
 
 void ucScroll::Repeat() {
-    repeat_->setInterval(repeatPeriod);
+    repeat_->setInterval(RepeatPeriod);
     SetValue(value_ + repeatStep_);
     if (RepeatIsOver())
         EndPress();
@@ -148,7 +176,7 @@ bool ucScroll::RepeatIsOver() const {
 }
 
 void ucScroll::mouseMoveEvent(QMouseEvent* event) {
-    if (event->buttons().testFlag(Qt::LeftButton) && dragOffset_ != noDrag)
+    if (event->buttons().testFlag(Qt::LeftButton) && dragOffset_ != NoDrag)
         DragTo(PixelOf(event).y() - layoutRects().picSlot.top());
     const Part under = PartAt(PixelOf(event));
     if (under != lit_)
@@ -157,7 +185,7 @@ void ucScroll::mouseMoveEvent(QMouseEvent* event) {
     RaiseMouseMove(event);
 }
 
-/// A drag raises Change twice a move.
+/// A drag raises Change twice for each move.
 void ucScroll::DragTo(int y) {
     if (travel_ <= 0)
         return;
@@ -172,7 +200,7 @@ void ucScroll::mouseReleaseEvent(QMouseEvent*) {
 
 void ucScroll::EndPress() {
     repeat_->stop();
-    dragOffset_ = noDrag;
+    dragOffset_ = NoDrag;
     pressed_ = Part::None;
     update();
 }
@@ -186,18 +214,18 @@ void ucScroll::wheelEvent(QWheelEvent* event) {
     Wheel(event);
 }
 
-/// What a fine wheel leaves of a step is kept for its next turn.
+/// The rest of a fine wheel's turn counts for the next one.
 void ucScroll::Wheel(QWheelEvent* event) {
-    wheelRest_ -= event->angleDelta().y() * stepsPerNotch * smallChange_;
-    const int step = wheelRest_ / wheelNotch;
-    wheelRest_ -= step * wheelNotch;
+    wheelRest_ -= event->angleDelta().y() * StepsPerNotch * smallChange_;
+    const int step = wheelRest_ / WheelNotch;
+    wheelRest_ -= step * WheelNotch;
     if (step != 0)
         SetValue(value_ + step);
     event->accept();
 }
 
 void ucScroll::keyPressEvent(QKeyEvent* event) {
-    for (const KeyStep& row : keySteps)
+    for (const KeyStep& row : KeySteps)
         if (event->key() == row.key)
             return SetValue(value_ + row.small * smallChange_ + row.large * largeChange_);
     if (event->key() == Qt::Key_Home)

@@ -4,9 +4,10 @@
 
 class QTimer;
 
-/// The vertical scroll bar. Setting Value clamps it, raises Change even if it has not changed, and
-/// then places the thumb. Max and Min only store. Arrows and slot repeat after 0.4 seconds, every
-/// 0.05 seconds. The thumb's place is Value / Max of the travel: Min takes no part.
+/// The vertical scroll bar. SetValue clamps the value, raises Change even if it is the same, and
+/// then places the thumb. SetMax and SetMin only store. A held arrow or slot repeats after 0.4
+/// seconds, then every 0.05 seconds. The thumb's place is Value / Max of the travel; Min does not
+/// matter.
 class ucScroll : public DrawnControl {
     Q_OBJECT
     Q_PROPERTY(int Value READ Value WRITE SetValue NOTIFY Change)
@@ -42,7 +43,8 @@ public:
     Layout layoutRects() const;
     QSize sizeHint() const final;
     QAccessible::Role AccessibleRole() const override { return QAccessible::ScrollBar; }
-    void Wheel(QWheelEvent* event); ///< turns a wheel's steps into small steps
+    QAccessibleInterface* MakeAccessible() override;
+    void Wheel(QWheelEvent* event); ///< scrolls by small steps
 
 Q_SIGNALS:
     void Change(int Value);
@@ -73,9 +75,9 @@ private:
     void PaintArrow(QPainter& painter, const QRect& place, Part part) const;
     void PaintThumb(QPainter& painter, const QRect& place) const;
 
-    static constexpr int noDrag = -5000;
+    static constexpr int NoDrag = -5000;
     int value_ = 1, max_ = 10, min_ = 1, largeChange_ = 20, smallChange_ = 5, backStyle_ = 1;
-    int travel_ = 0, thumbTop_ = 0, dragOffset_ = noDrag;
+    int travel_ = 0, thumbTop_ = 0, dragOffset_ = NoDrag;
     int repeatStep_ = 0, repeatLimit_ = 0;
     int wheelRest_ = 0;
     Part pressed_ = Part::None;

@@ -8,8 +8,8 @@
 
 namespace {
 
-constexpr int surfaceLeft = 4;
-constexpr double captionLeft = 15; // twips
+constexpr int SurfaceLeft = 4;
+constexpr double CaptionLeft = 15; // twips
 
 } // namespace
 
@@ -20,7 +20,7 @@ ucStrip::ucStrip(QWidget* parent)
 }
 
 QSize ucStrip::sizeHint() const {
-    return {qCeil(TextWidth()) + 2 * (surfaceLeft + Twips::ToPixels(captionLeft)),
+    return {qCeil(TextWidth()) + 2 * (SurfaceLeft + Twips::ToPixels(CaptionLeft)),
             TheStyle().headerHeight};
 }
 
@@ -29,5 +29,5 @@ void ucStrip::paintEvent(QPaintEvent*) {
     const Style& style = TheStyle();
     PaintGround(painter, style.header.from, style.header.to);
     painter.fillRect(0, height() - 1, width(), 1, style.headerEdge);
-    PrintCaption(painter, style.headerInk, surfaceLeft + Twips::ToPixels(captionLeft));
+    PrintCaption(painter, style.headerInk, SurfaceLeft + Twips::ToPixels(CaptionLeft));
 }

@@ -9,8 +9,8 @@
 
 namespace {
 
-/// In the order in which they are printed, in twips to the right and below the text.
-constexpr QPointF shadowShifts[] = {{30, 30}, {30, 15}, {15, 30}, {15, 15}};
+/// Printed in this order; twips to the right of and below the text.
+constexpr QPointF ShadowShifts[] = {{30, 30}, {30, 15}, {15, 30}, {15, 15}};
 
 } // namespace
 
@@ -34,7 +34,7 @@ void ucTextRaised::paintEvent(QPaintEvent*) {
     if (!picture_.isNull())
         painter.drawPixmap(0, 0, picture_);
     const QPointF place(width() / 2.0 - TextWidth() / 2, height() / 2.0 - TextHeight() / 2);
-    for (const QPointF& shift : shadowShifts)
+    for (const QPointF& shift : ShadowShifts)
         PrintCaption(painter, TheStyle().raisedShadow,
                      place + QPointF(Twips::ToPixels(shift.x()), Twips::ToPixels(shift.y())));
     PrintCaption(painter, TheStyle().raisedText, place);

@@ -6,13 +6,13 @@
 
 namespace {
 
-constexpr int logoRoom = 30;
+constexpr int LogoRoom = 30;
 
 } // namespace
 
 ucTitleBar::ucTitleBar(QWidget* parent)
     : TitleControl(parent)
-    , surfaceLeft_(TheStyle().nestEdge + logoRoom) {
+    , surfaceLeft_(TheStyle().nestEdge + LogoRoom) {
     resize(sizeHint());
 }
 

@@ -2,7 +2,7 @@
 
 #include "toolkit/TitleControl.h"
 
-/// The title of a main window. Its surface begins right of the logo, which the frame lays over it.
+/// The title of a main window. Its surface begins to the right of the logo, which the frame draws.
 class ucTitleBar : public TitleControl {
     Q_OBJECT
 

@@ -8,8 +8,8 @@
 
 namespace {
 
-constexpr QPoint surface(12, 5);        // pixels
-constexpr QPointF captionPlace(15, 60); // twips, on the surface
+constexpr QPoint Surface(12, 5);        // pixels
+constexpr QPointF CaptionPlace(15, 60); // twips, on the surface
 
 } // namespace
 
@@ -21,7 +21,7 @@ ucTitleFlat::ucTitleFlat(QWidget* parent)
 }
 
 QSize ucTitleFlat::sizeHint() const {
-    return {qCeil(TextWidth()) + 2 * surface.x(), TheStyle().titleHeight};
+    return {qCeil(TextWidth()) + 2 * Surface.x(), TheStyle().titleHeight};
 }
 
 void ucTitleFlat::Dock() {
@@ -41,6 +41,6 @@ bool ucTitleFlat::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void ucTitleFlat::paintEvent(QPaintEvent*) {
-    PaintTitle(surface,
-               QPointF(Twips::ToPixels(captionPlace.x()), Twips::ToPixels(captionPlace.y())));
+    PaintTitle(Surface,
+               QPointF(Twips::ToPixels(CaptionPlace.x()), Twips::ToPixels(CaptionPlace.y())));
 }
