@@ -8,7 +8,7 @@
 
 #include <benchmark/benchmark.h>
 
-static constexpr int searchRowsRead = 201;
+static constexpr int SearchRowsRead = 201;
 
 SQLite::Database BareStore::Open(const Connection& connection) {
     return SQLite::Database(connection.Path().toStdString(), SQLite::OPEN_READONLY);
@@ -30,7 +30,7 @@ std::string BareStore::SumsOf(std::span<const Nutrient> nutrients) {
 
 void BareStore::Search(SQLite::Database& users, SQLite::Database& foods, const SearchTerms& terms) {
     const auto read = [](SQLite::Database& database, const QString& source) {
-        Read(database, Dialect::Adapt(source, false).sql.toStdString(), searchRowsRead);
+        Read(database, Dialect::Adapt(source, false).sql.toStdString(), SearchRowsRead);
     };
     read(users, terms.RecipeSQL());
     read(foods, terms.CustomSQL());

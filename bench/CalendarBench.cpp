@@ -10,13 +10,13 @@
 #include <SQLiteCpp/SQLiteCpp.h>
 
 namespace {
-constexpr auto work = "month change, ten-year log, painting left out";
-constexpr int weighedEvery = 3; // days
+constexpr auto Work = "month change, ten-year log, painting left out";
+constexpr int WeighedEvery = 3; // days
 
 void WeighIn() {
     SQLite::Transaction transaction(UserDB().Raw());
     SQLite::Statement insert(UserDB().Raw(), "INSERT INTO USER_WEIGHTS VALUES (?, ?, 160)");
-    for (int day = 0; day < Ground::Days; day += weighedEvery) {
+    for (int day = 0; day < Ground::Days; day += WeighedEvery) {
         insert.bind(1, User::Current().UID);
         insert.bind(2, Ground::Day(day).toString(Qt::ISODate).toStdString());
         insert.exec();
@@ -72,10 +72,10 @@ void MonthLimit(benchmark::State& state) {
 }
 
 [[maybe_unused]] const bool aims = [] {
-    Table::Aim(work, 3);
+    Table::Aim(Work, 3);
     return true;
 }();
 } // namespace
 
-BENCHMARK(MonthOurs)->Name(std::string(work) + "/ours");
-BENCHMARK(MonthLimit)->Name(std::string(work) + "/limit");
+BENCHMARK(MonthOurs)->Name(std::string(Work) + "/ours");
+BENCHMARK(MonthLimit)->Name(std::string(Work) + "/limit");

@@ -7,8 +7,8 @@
 #include <QImage>
 
 namespace {
-constexpr QSize nestSize(766, 562);
-constexpr double oneFrame = 1.0 / 60; // seconds
+constexpr QSize NestSize(766, 562);
+constexpr double OneFrame = 1.0 / 60; // seconds
 
 void RepaintOurs(benchmark::State& state) {
     const Ground ground(true);
@@ -16,16 +16,16 @@ void RepaintOurs(benchmark::State& state) {
     App().TipOfTheDay = QStringLiteral("A handful of nuts is about 170 kilocalories. Weigh one "
                                        "handful once, and you will judge the next hundred well.");
     frmMain home;
-    home.resize(nestSize);
+    home.resize(NestSize);
     home.DoWinInit();
-    QImage surface(nestSize, QImage::Format_RGB32);
+    QImage surface(NestSize, QImage::Format_RGB32);
     for (auto _ : state)
         home.render(&surface);
 }
 
 void RepaintLimit(benchmark::State& state) {
     for (auto _ : state)
-        state.SetIterationTime(oneFrame);
+        state.SetIterationTime(OneFrame);
 }
 
 [[maybe_unused]] const bool aims = [] {

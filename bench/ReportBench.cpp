@@ -16,7 +16,7 @@ struct Span {
     const char* name;
     int days;
 };
-constexpr Span spans[] = {{"7 days", 7}, {"a year", 365}, {"ten years", Ground::Days}};
+constexpr Span Spans[] = {{"7 days", 7}, {"a year", 365}, {"ten years", Ground::Days}};
 
 /// The days of a period within the log; another one for each count, where there is room for it.
 struct BenchPeriod {
@@ -60,7 +60,7 @@ template <class Chart> struct Work {
     void (*bare)(const BenchPeriod& period);
 
     void Register() const {
-        for (const Span& span : spans) {
+        for (const Span& span : Spans) {
             const std::string work = std::string("report, ") + name + ", " + span.name;
             Table::Aim(work, 2);
             benchmark::RegisterBenchmark((work + "/ours").c_str(), [*this, span](auto& state) {
@@ -81,11 +81,11 @@ template <class Chart> struct Work {
     }
 };
 
-constexpr Work<ucBarChart> bars{
+constexpr Work<ucBarChart> Bars{
     "bars",
     [](ucBarChart& chart, const BenchPeriod& period) { chart.updateBars(period.from, period.to); },
     BareBars};
-constexpr Work<ucPieChart> pie{
+constexpr Work<ucPieChart> Pie{
     "pie",
     [](ucPieChart& chart, const BenchPeriod& period) { chart.updatePie(period.from, period.to); },
     BarePie};
@@ -133,8 +133,8 @@ void ViewChangeLimit(benchmark::State& state) {
 }
 
 [[maybe_unused]] const bool registered = [] {
-    bars.Register();
-    pie.Register();
+    Bars.Register();
+    Pie.Register();
     Table::Aim("report, view change, painted", 2);
     return true;
 }();

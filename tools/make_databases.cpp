@@ -1,4 +1,4 @@
-// Makes users.mdb and foods.mdb from the delivered tables, or brings a folder with both up to date.
+// Makes users.mdb and foods.mdb from the delivered tables, or updates a folder that has them.
 #include "delivery/DeliveredDatabases.h"
 
 #include <QFile>

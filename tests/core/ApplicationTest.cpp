@@ -13,7 +13,7 @@
 
 namespace {
 
-/// Fails when it is told to, as a handler of a screen does.
+/// Fails on demand, as a handler of a screen might.
 class Failing : public QObject {
 public:
     explicit Failing(std::function<void()> fail)
@@ -37,7 +37,7 @@ void Raise(const std::function<void()>& fail) {
 
 class ApplicationTest : public CoreTest {
 protected:
-    /// The text of the message that the failure brings.
+    /// The text of the message for the failure.
     QString MessageOf(const std::function<void()>& fail) {
         QString text;
         testing::internal::CaptureStderr();

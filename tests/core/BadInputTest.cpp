@@ -21,8 +21,8 @@
 
 #include <SQLiteCpp/SQLiteCpp.h>
 
-/// Whole starts, and the first profile, under input that no sound program or careful person gives.
-/// The screens are the real ones.
+/// Complete starts, and the first profile, with input that no sound program and no careful user
+/// gives. The screens are the real ones.
 class BadInputTest : public CoreTest {
 protected:
     using Entries = QHash<QString, QString>;
@@ -48,8 +48,8 @@ protected:
         Start();
     }
 
-    /// Begins the first profile, fills it in with a woman of 30 save for the given entries, and
-    /// hands it on.
+    /// Begins the first profile, fills it in for a woman of 30 except for the given entries, and
+    /// passes it to `use`.
     void FirstProfile(const Entries& entries, const std::function<void(QWidget*)>& use) {
         WithModal(
             [&](QWidget* profile) {
@@ -75,7 +75,7 @@ protected:
                      [](QWidget* profile) { Click(Find(profile, QStringLiteral("cmdSave"))); });
         Activate(TheNavigation().Frame());
     }
-    /// The message that ends the program when Save is pressed.
+    /// The message that ends the program after Save.
     QString MessageOfSaving(QWidget* profile) {
         QString text;
         testing::internal::CaptureStderr();
@@ -247,7 +247,7 @@ TEST_P(ClockTest, AProfileAndAWeightOfThatYearAreThereAtTheNextStart) {
 
 class DamagedFile : public BadInputTest, public ::testing::WithParamInterface<const char*> {
 protected:
-    /// The start is refused, and with the sound file back it finds what was committed.
+    /// The start is refused; with the sound file back, everything that was committed is there.
     void ExpectRefusalThenEverything(const std::function<void(const QString& path)>& damage) {
         const QString path = FileBeside(QLatin1String(GetParam()));
         ASSERT_TRUE(QFile::copy(path, path + ".sound"));

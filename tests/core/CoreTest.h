@@ -7,10 +7,10 @@
 #include <QHash>
 #include <QStringList>
 
-/// What the screens of a test have done, in order: "frmDay made", "frmDay DoWinInit", ...
+/// What the screens of a test did, in order: "frmDay made", "frmDay DoWinInit", ...
 QStringList& ScreenLog();
 
-/// A screen that notes what is done to it.
+/// A screen that records the calls to it.
 class LoggedScreen : public Screen {
 public:
     LoggedScreen(const QString& name, const QString& title, QWidget* parent);
@@ -28,29 +28,29 @@ private:
     void Note(const char* what);
 };
 
-/// A fixture with the real navigation and the real frame, over screens that note what happens.
+/// A fixture with the real navigation and the real frame, and screens that record their calls.
 class CoreTest : public HalvaneTest {
 protected:
     void SetUp() override;
     void TearDown() override;
 
-    /// The files that are delivered beside the program, not opened.
+    /// Copies the delivered files beside the program, without opening them.
     void Deliver();
     void WriteFile(const QString& name, const QByteArray& bytes);
     QByteArray ReadFile(const QString& name);
     void AddLoggedScreen(const QString& name, const QString& title);
 
-    /// Runs the start. Each modal window that comes is answered by its object name through
-    /// `answers`; the splash is clicked away and the agreement accepted where nothing else is said.
+    /// Runs the start. `answers` holds, by object name, how to answer each modal window. By default
+    /// the splash is clicked away and the agreement accepted.
     int RunMain();
 
     static void ChooseFromMenu(int index); ///< the item of the frame's menu bar
 
     QWidget* Window(const QString& name);  ///< the open top-level window of that name, or null
-    static void Activate(QWidget* window); ///< and waits until it takes the keyboard
+    static void Activate(QWidget* window); ///< and waits until it has the keyboard
     static void RunDeferredDeletes();
 
-    QStringList modals; ///< names of the modal windows that RunMain has met
+    QStringList modals; ///< names of the modal windows during RunMain
     QHash<QString, std::function<void(QWidget*)>> answers;
-    QString stderrText; ///< what RunMain has written to standard error
+    QString stderrText; ///< what RunMain wrote to standard error
 };

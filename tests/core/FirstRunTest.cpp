@@ -21,7 +21,7 @@
 #include <QTest>
 #include <QTimer>
 
-/// The real screens under the real navigation, from the first start on.
+/// The real screens and the real navigation, from the first start on.
 class FirstRunTest : public CoreTest {
 protected:
     void SetUp() override {
@@ -84,7 +84,7 @@ protected:
     QStringList ListedRecipes() {
         return Find<ListBox>(Frame(), QStringLiteral("lsRecipes"))->List();
     }
-    /// Opens the import by the menu; a recipe comes in while it stands open.
+    /// Opens the import from the menu; a recipe arrives while it is open.
     void ImportByTheMenu() {
         WithModal(
             [](QWidget* dialog) {

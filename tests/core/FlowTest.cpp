@@ -44,7 +44,7 @@ protected:
         CloseDatabases();
         User::ResetCurrent();
     }
-    /// A start of a person who has accepted the agreement and has a profile.
+    /// A start for a user who has accepted the agreement and has a profile.
     void StartWithAnna() {
         Deliver();
         Accept();
@@ -52,7 +52,8 @@ protected:
         ASSERT_EQ(RunMain(), 0);
         ASSERT_NE(Window(QStringLiteral("frmHOME")), nullptr);
     }
-    /// The start ends in silence, with one line that names the file, and leaves the bytes alone.
+    /// The start ends without a window: one line on standard error names the file, and the file
+    /// stays unchanged.
     void ExpectSilentEnd(const QString& file) {
         const bool isFile = QFileInfo(FileBeside(file)).isFile();
         const QByteArray before = isFile ? ReadFile(file) : QByteArray();

@@ -13,8 +13,8 @@
 
 #include <SQLiteCpp/SQLiteCpp.h>
 
-/// The screens of custom foods and of recipes, left in the middle of an edit and shown again, where
-/// screens are kept and where they are made anew.
+/// Leaves the screens of custom foods and recipes in the middle of an edit and shows them again,
+/// once with screens kept and once with screens rebuilt.
 class OwnScreensTest : public CoreTest, public ::testing::WithParamInterface<bool> {
 protected:
     void SetUp() override {

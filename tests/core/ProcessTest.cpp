@@ -12,7 +12,7 @@
 
 #include <unistd.h>
 
-/// Starts the built program itself, in a folder with its own files, settings and run-time folder.
+/// Starts the built program in a folder with its own files, settings and run-time folder.
 class ProcessTest : public HalvaneTest {
 protected:
     void SetUp() override {
@@ -36,7 +36,7 @@ protected:
         QFile file(Path("config/Brindlewick/HALVANE.ini"));
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
-    /// Root may write everywhere: the tests of what may not be written run as nobody.
+    /// Root may write everywhere, so the tests of missing permissions run as `nobody`.
     void HandOverToNobody() {
         if (geteuid() != 0)
             return;
@@ -60,7 +60,7 @@ protected:
         environment.insert(QStringLiteral("XDG_RUNTIME_DIR"), Path("run"));
         environment.insert(QStringLiteral("HOME"), Folder());
         environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
-        // Where lines are counted: nobody may not write the counts beside the build.
+        // In a coverage build `nobody` may not write the counts beside the build.
         if (user_ != 0)
             environment.insert(QStringLiteral("GCOV_PREFIX"), Path("run"));
         auto process = std::make_unique<QProcess>();
@@ -74,7 +74,7 @@ protected:
         EXPECT_TRUE(process->waitForStarted());
         return process;
     }
-    /// The start has come past the tip of the day, which is behind the splash.
+    /// The start has passed the tip of the day, which follows the splash.
     bool ReachesItsFirstWindow(const QProcess& process) const {
         return QTest::qWaitFor([&] { return Settings().contains("TIPNUM=1"); }, 20000) &&
                process.state() == QProcess::Running;

@@ -40,7 +40,7 @@ TEST_F(SingleInstanceTest, ClaimingTwiceIsClaimingOnce) {
 
 TEST_F(SingleInstanceTest, ALockThatACrashHasLeftBehindDoesNotCount) {
     {
-        // Process 2147483646 does not exist: no system gives out so high a number.
+        // No system uses so high a process number.
         QFile lock(Folder() + "/halvane.lock");
         ASSERT_TRUE(lock.open(QIODevice::WriteOnly));
         lock.write("2147483646\nhalvane\n" + QSysInfo::machineHostName().toLocal8Bit() + "\n\n\n");

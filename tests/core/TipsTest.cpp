@@ -9,7 +9,7 @@
 
 class TipsTest : public CoreTest {
 protected:
-    /// The tip that a start shows after the one of that number.
+    /// The tip that a start shows if `number` was the last one.
     QString After(const QString& number) {
         SetRegValue(QStringLiteral("TIPNUM"), number);
         return Tips::Next();

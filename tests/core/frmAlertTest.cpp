@@ -12,7 +12,7 @@
 
 class frmAlertTest : public CoreTest {
 protected:
-    /// Asks, runs `within` on the open dialog, and gives the result.
+    /// Asks, runs `within` on the open dialog, and returns the answer.
     bool Ask(bool showCancel, const std::function<void(QWidget*)>& within,
              const QString& message = QStringLiteral("Are you sure?"), QObject* owner = nullptr) {
         bool result = false;

@@ -24,7 +24,7 @@ struct ButtonRow {
     const char* hover;
 };
 
-constexpr ButtonRow screenButtons[] = {
+constexpr ButtonRow ScreenButtons[] = {
     {"cmdCal", "frmMain", "Main"},
     {"cmdDay", "frmDay", "Daily Details"},
     {"cmdReport", "frmReport", "Reports"},
@@ -37,7 +37,7 @@ constexpr ButtonRow screenButtons[] = {
 class frmHOMETest : public CoreTest {
 protected:
     void RegisterAll() {
-        for (const ButtonRow& row : screenButtons)
+        for (const ButtonRow& row : ScreenButtons)
             AddLoggedScreen(QLatin1String(row.screen), QLatin1String(row.hover));
     }
     frmHOME* Open() {
@@ -63,10 +63,10 @@ TEST_F(frmHOMETest, TheFrameIsBorderlessAndOfItsFixedSize) {
 TEST_F(frmHOMETest, EachButtonBringsItsScreenAndIsThenChosen) {
     RegisterAll();
     Open();
-    for (const ButtonRow& row : screenButtons) {
+    for (const ButtonRow& row : ScreenButtons) {
         Click(Button(row.name));
         EXPECT_EQ(TheNavigation().Front()->objectName(), QLatin1String(row.screen));
-        for (const ButtonRow& other : screenButtons)
+        for (const ButtonRow& other : ScreenButtons)
             EXPECT_EQ(Button(other.name)->Chosen(), &other == &row) << row.name << other.name;
     }
 }
@@ -93,10 +93,10 @@ TEST_F(frmHOMETest, HoveringAButtonShowsItsTextAndTakesTheHighlightOffTheOthers)
     RegisterAll();
     Open();
     ::ShowScreen(QStringLiteral("frmDay"));
-    for (const ButtonRow& row : screenButtons) {
+    for (const ButtonRow& row : ScreenButtons) {
         Hover(Button(row.name));
         EXPECT_EQ(Title(), QLatin1String(row.hover));
-        for (const ButtonRow& other : screenButtons)
+        for (const ButtonRow& other : ScreenButtons)
             EXPECT_EQ(Button(other.name)->Shown(),
                       &other == &row ? QStringLiteral("img_ROLL") : QStringLiteral("img_NORM"))
                 << row.name << other.name;

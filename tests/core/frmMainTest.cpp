@@ -23,7 +23,7 @@
 
 #include <SQLiteCpp/SQLiteCpp.h>
 
-/// The home screen under the real navigation, with one user whose log the tests write.
+/// The home screen in the real navigation, with one user whose log the tests write.
 class frmMainTest : public CoreTest {
 protected:
     void SetUp() override {

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-/// The tests of this folder run under the program's own application object.
+/// The tests of this folder use the program's own application object.
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     Application application(argc, argv);

@@ -46,11 +46,11 @@ protected:
     MenuLabel* Item(int index) {
         return Find<MenuLabel>(Frame(), QStringLiteral("lblMenuItem%1").arg(index));
     }
-    /// A press alone: the menu does not wait for the button to be let go.
+    /// Only a press: the menu does not wait for the release.
     static void Press(QWidget* control) {
         QTest::mousePress(control, Qt::LeftButton, Qt::NoModifier, control->rect().center());
     }
-    /// The names of the panels that can be seen.
+    /// The names of the visible panels.
     QStringList Panels() {
         QStringList names;
         for (const char* name : {"picFile", "picEdit", "picHelp"})

@@ -12,8 +12,8 @@
 
 namespace {
 
-constexpr int pictureSizes[] = {16, 24, 48};
-constexpr int pictureColumns = 6;
+constexpr int PictureSizes[] = {16, 24, 48};
+constexpr int PictureColumns = 6;
 
 QWidget* InCell(QWidget* parent, const Specimen& specimen) {
     auto* cell = new QWidget(parent);
@@ -57,7 +57,7 @@ void BringIntoStates(QWidget* page) {
 QWidget* PictureCell(QWidget* parent, const QString& name) {
     auto* cell = new QWidget(parent);
     int left = 0;
-    for (const int size : pictureSizes) {
+    for (const int size : PictureSizes) {
         auto* picture = new QLabel(cell);
         picture->setPixmap(
             Pictures::Get(name, {size, size}, TheStyle().quietInk, cell->devicePixelRatioF()));
@@ -74,8 +74,8 @@ QWidget* MakePictures() {
     auto* grid = new QGridLayout(page);
     const QStringList files = QDir(QStringLiteral(":/assets")).entryList(QDir::Files, QDir::Name);
     for (int i = 0; i < files.size(); ++i)
-        grid->addWidget(PictureCell(page, files[i].chopped(4)), i / pictureColumns,
-                        i % pictureColumns);
+        grid->addWidget(PictureCell(page, files[i].chopped(4)), i / PictureColumns,
+                        i % PictureColumns);
     return page;
 }
 

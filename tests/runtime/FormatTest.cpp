@@ -12,7 +12,7 @@ std::string Text(double value, NumberMask mask) {
     return Format(value, mask).toStdString();
 }
 
-/// Puts another locale in place for the length of a test.
+/// Sets another locale during a test.
 class InLocale {
 public:
     explicit InLocale(const char* name) { QLocale::setDefault(QLocale(QLatin1String(name))); }

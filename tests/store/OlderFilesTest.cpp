@@ -22,7 +22,7 @@ int KillInTime(void*) {
     return 0;
 }
 
-/// Watches every database that is opened from here on.
+/// Watches every database that is opened afterwards.
 int Watch(sqlite3* opened, const char**, const sqlite3_api_routines*) {
     constexpr int instructions = 50;
     sqlite3_progress_handler(opened, instructions, KillInTime, nullptr);
@@ -60,7 +60,7 @@ protected:
         return Column(connection, "SELECT " + values + " FROM " + table + " ORDER BY rowid");
     }
 
-    /// A process that opens the file and is killed in the middle. Gives whether it got through.
+    /// Opens the file in a process that is killed on the way. Returns whether it finished first.
     bool OpenAndDie(int after) {
         const pid_t child = fork();
         if (child == 0) {

@@ -33,7 +33,7 @@ protected:
     void AddFood(int id, const QString& name);
     void AddLog(int uid, const QString& isoDate, const QString& meal, double calories);
 
-    /// Plain SQL, past the dialect.
+    /// Plain SQL, without the dialect.
     static void Run(Connection& connection, const QString& sql);
     static QVariant First(Connection& connection, const QString& sql);
     static QStringList Column(Connection& connection, const QString& sql);
@@ -43,7 +43,7 @@ protected:
     QTemporaryDir folder_;
 };
 
-/// The number of the error that the action ends with; 0 for none.
+/// The error number of the failure in `action`; 0 if there is none.
 int ErrorOf(const std::function<void()>& action);
 QString ErrorTextOf(const std::function<void()>& action);
 

@@ -140,7 +140,7 @@ TEST(TextCompareTest, OnePatternServesManyTexts) {
     }
 }
 
-/// The plain definition, letter by letter, as the measure of the fast search.
+/// The definition, letter by letter, as the reference for the fast search.
 static bool PlainLike(std::u32string_view pattern, std::u32string_view text) {
     if (pattern.empty())
         return text.empty();

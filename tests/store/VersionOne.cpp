@@ -80,7 +80,7 @@ INSERT INTO Recipes (RecipeName, ServingName, RecipeYield, Instructions, PrepTim
     VALUES ('Soup', '1 bowl', 4, 'Cook.', 30), ('Pie', '1 slice', 8, NULL, NULL);
 )";
 
-// Keys 1 and 2 of the ingredients, and the highest, were deleted.
+// Ingredients 1 and 2 and the one with the highest key were deleted.
 constexpr auto IngredientRows = R"(
 WITH RECURSIVE row (key) AS (SELECT 3 UNION ALL SELECT key + 1 FROM row WHERE key < 2 + ?)
 INSERT INTO Ingredients (ID, FoodName, Serving, RecipeID, QTY)
@@ -105,7 +105,7 @@ SQLite::Database Make(const QString& path, DatabaseKind kind, const char* tables
     return file;
 }
 
-/// The first row keeps its nutrients unknown.
+/// All nutrients of the first row are unknown.
 void FillAmounts(SQLite::Database& file, const std::string& table) {
     SQLite::Statement columns(file,
                               "SELECT name FROM pragma_table_info(?) WHERE cid BETWEEN 1 AND 31");

@@ -2,8 +2,8 @@
 
 #include <QString>
 
-/// Files as the first version made them, whatever the schema of today: the nutrients of foods and
-/// ingredients begin with Calories there. Every amount tells its column and its row.
+/// Files as the first version made them, independent of today's schema: the nutrients of foods and
+/// ingredients begin with Calories. Each amount names its column and row.
 namespace VersionOne {
 /// A user, logs, weights, recipes with ingredients, and keys that were given out and deleted.
 void MakeUsers(const QString& path, int ingredients = 3);

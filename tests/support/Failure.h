@@ -2,7 +2,7 @@
 
 #include "runtime/RuntimeError.h"
 
-/// Number of the failure that the action ends in, 0 where it ends well.
+/// The error number of the failure in `action`; 0 if there is none.
 template <class Action> int FailureOf(Action action) {
     try {
         action();

@@ -14,8 +14,8 @@
 class QWidget;
 class Connection;
 
-/// A fixture with a folder, settings and process-wide state of its own. Alerts are answered through
-/// a queue: one that nobody expects fails the test, and so does an expected one that never came.
+/// A fixture with its own folder, settings and process-wide state. A queue answers the alerts: an
+/// alert that is not expected fails the test, and so does an expected alert that does not come.
 class HalvaneTest : public ::testing::Test {
 protected:
     HalvaneTest();
@@ -25,22 +25,22 @@ protected:
 
     QString Folder() const { return folder_.path(); }
 
-    /// The next alert must hold just this text; it is answered so.
+    /// The next alert must have exactly this text; it is answered with `answer`.
     void ExpectAlert(const QString& message, bool answer = true);
 
     /// Copies the delivered users.mdb and foods.mdb into the folder and opens both.
     void OpenDatabases();
-    /// New files with the schema alone, opened.
+    /// Opens new files that hold only the schema.
     void OpenEmptyDatabases();
     void CloseDatabases();
 
-    /// Runs plain SQL on users.mdb or foods.mdb and gives the first value, or all rows.
+    /// Runs plain SQL on users.mdb or foods.mdb and returns the first value, or all rows.
     QVariant Users(const QString& sql);
     QVariant Foods(const QString& sql);
     QList<QVariantList> Rows(Connection& connection, const QString& sql);
 
-    /// A profile row with round targets (2000 kcal, 100 g protein, ...), made the current user.
-    /// Returns its UID.
+    /// Adds a profile with round targets (2000 kcal, 100 g protein, ...) and makes it the current
+    /// user. Returns its UID.
     qint32 AddUser(const QString& name = QStringLiteral("Anna"));
 
     QStringList shownScreens; ///< names given to ShowScreen
@@ -55,18 +55,17 @@ private:
     QQueue<Answer> alerts_;
 };
 
-/// Ways to reach into a screen as a person does: by object name.
+/// Finds the parts of a screen as a person does: by object name.
 template <class T = QWidget> T* Find(const QObject* root, const QString& name) {
     T* found = root->findChild<T*>(name);
     EXPECT_NE(found, nullptr) << "no control named " << name.toStdString();
     return found;
 }
 
-/// Runs `action` while the next modal window stands open; `within` gets that window once it is
-/// shown and must close it.
+/// Runs `action`, which opens a modal window. `within` gets the visible window and must close it.
 void WithModal(const std::function<void(QWidget*)>& within, const std::function<void()>& action);
 
 void Click(QWidget* control,
-           QPoint at = QPoint(-1, -1)); ///< a left click in the middle, or at that place
+           QPoint at = QPoint(-1, -1)); ///< a left click at `at`; by default in the middle
 void Hover(QWidget* control, QPoint at = QPoint(-1, -1));
 QImage Grab(QWidget* control); ///< what the control paints, at one device pixel a pixel

@@ -10,8 +10,8 @@ class Database;
 }
 class Connection;
 
-/// What a kill would leave of a database while a piece of work is done on it: copies of the file
-/// and its journal, if there is one, from the moment at which each row is written, and from the end.
+/// What a kill would leave of a database during some work: a copy of the file and its journal
+/// before each row is written, and one at the end.
 class KillPoints {
 public:
     KillPoints(Connection& watched, const std::function<void()>& work);

@@ -2,7 +2,8 @@
 
 #include <QString>
 
-/// Where the tree under test stands. Only one file knows, so that trees share what they compile.
+/// Paths of the tree under test. Only Places.cpp is compiled with them, so that different trees
+/// share the compiler cache.
 namespace Places {
 QString Source(const QString& path); ///< in the source tree; the path begins with a slash
 QString Build(const QString& path);  ///< in the build tree, likewise

@@ -5,7 +5,7 @@
 #include <QWidget>
 #include <QtTest/qtestspontaneevent.h>
 
-/// What the platform tells a control when its window is back from being minimised.
+/// Tells a control that its window is no longer minimised, as the platform does.
 inline void SendRestored(QWidget* control) {
     QShowEvent shown;
     QSpontaneKeyEvent::setSpontaneous(&shown);

@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr qint64 piece = 256 * 1024;
+constexpr qint64 Piece = 256 * 1024;
 
 QByteArray Head(int status, qint64 length) {
     return "HTTP/1.1 " + QByteArray::number(status) +
@@ -17,7 +17,7 @@ QByteArray Head(int status, qint64 length) {
            QByteArray::number(length) + "\r\n\r\n";
 }
 
-/// The length of head and body of the request that begins the bytes; 0 while it is not there.
+/// The length of the first request, head and body; 0 until it is complete.
 qsizetype WholeLength(const QByteArray& bytes, ScriptedServer::Request& request) {
     const qsizetype end = bytes.indexOf("\r\n\r\n");
     if (end < 0)
@@ -48,7 +48,7 @@ ScriptedServer::ScriptedServer(const QSslConfiguration& tls)
     Listen();
 }
 
-/// The sockets go first, as their ends are noted.
+/// Destroys the sockets first, because their ends are recorded.
 ScriptedServer::~ScriptedServer() {
     server_.reset();
 }
@@ -117,7 +117,7 @@ ScriptedServer::Answer ScriptedServer::Silence() {
 
 ScriptedServer::Answer ScriptedServer::Trickle() {
     return [](QTcpSocket& socket) {
-        socket.write(Head(200, piece));
+        socket.write(Head(200, Piece));
         auto* drip = new QTimer(&socket);
         connect(drip, &QTimer::timeout, &socket, [&socket] { socket.write(" "); });
         drip->start(1);
@@ -129,8 +129,8 @@ ScriptedServer::Answer ScriptedServer::Flood(qint64 length) {
         flooded_ = 0;
         connect(&socket, &QTcpSocket::bytesWritten, this, [this, &socket, length](qint64 bytes) {
             flooded_ += bytes;
-            if (flooded_ + socket.bytesToWrite() < length && socket.bytesToWrite() < piece)
-                socket.write(QByteArray(piece, 'x'));
+            if (flooded_ + socket.bytesToWrite() < length && socket.bytesToWrite() < Piece)
+                socket.write(QByteArray(Piece, 'x'));
         });
         socket.write(Head(200, length));
     };

@@ -12,8 +12,8 @@ class QSslConfiguration;
 class QTcpServer;
 class QTcpSocket;
 
-/// A web server on loopback that answers as a test tells it: whole replies, or raw bytes for those
-/// that no proper server would give. It lives in the thread of the test and works while that waits.
+/// A web server on loopback that gives the replies set by a test: complete replies, or raw bytes
+/// that no proper server sends. It runs in the thread of the test, while the test waits.
 class ScriptedServer : public QObject {
 public:
     struct Request {
@@ -29,18 +29,18 @@ public:
 
     QString Address() const;
 
-    /// By method and path, "GET /page"; what is not told is answered with 404 and a page of markup.
+    /// By method and path, "GET /page". Other requests get 404 and a page of markup.
     void Tell(const QString& line, Answer answer) { answers_[line] = std::move(answer); }
     void Tell(const QString& line, int status, const QByteArray& body);
 
-    static Answer Raw(const QByteArray& bytes); ///< the connection is closed behind them
+    static Answer Raw(const QByteArray& bytes); ///< then closes the connection
     static Answer Silence();                    ///< the connection stays open
-    static Answer Trickle();                    ///< a proper reply, byte after byte, without an end
-    Answer Flood(qint64 length);                ///< of that many bytes, told beforehand
+    static Answer Trickle();                    ///< a proper reply, byte by byte, that never ends
+    Answer Flood(qint64 length);                ///< so many bytes, with a correct Content-Length
 
     const QList<Request>& Requests() const { return requests_; }
     QStringList Lines() const;
-    qint64 Flooded() const { return flooded_; } ///< what of a flood has been taken
+    qint64 Flooded() const { return flooded_; } ///< bytes of a flood that were received
 
 private:
     void Listen();

@@ -5,9 +5,8 @@ extern "C" {
 [[gnu::weak]] void __lsan_enable();
 }
 
-/// Around an input whose failure runs through the toolkit library to the end of the process: the
-/// events being delivered stay behind then, and the leak checker, where it is built in, is not to
-/// count them.
+/// Use it around an input whose failure ends the process: the toolkit library then does not free
+/// the events being delivered, and the leak checker must not count them.
 class Unwinding {
 public:
     Unwinding() {

@@ -42,7 +42,7 @@ template <class Control> Kind WithReset(const char* name) {
             [](QWidget* control) { static_cast<Control*>(control)->Reset(); }};
 }
 
-const Kind kinds[] = {
+const Kind Kinds[] = {
     WithReset<ucButton>("ucButton"),
     WithReset<ucButtonA>("ucButtonA"),
     WithReset<ucCalButton>("ucCalButton"),
@@ -98,7 +98,7 @@ protected:
 
 } // namespace
 
-INSTANTIATE_TEST_SUITE_P(OfEachKind, ClickTest, ::testing::ValuesIn(kinds),
+INSTANTIATE_TEST_SUITE_P(OfEachKind, ClickTest, ::testing::ValuesIn(Kinds),
                          [](const auto& kind) { return std::string(kind.param.name); });
 
 TEST_P(ClickTest, CountsOnTheOutermostPixels) {

@@ -9,7 +9,7 @@
 
 class QWidget;
 
-/// Single mouse events as the platform would send them, for the steps between a press and a click.
+/// Single mouse events as the platform sends them, for the steps between press and click.
 void SendMove(QWidget* control, QPointF at, Qt::MouseButtons held = Qt::NoButton);
 void SendPress(QWidget* control, QPointF at, Qt::MouseButton button = Qt::LeftButton);
 void SendRelease(QWidget* control, QPointF at, Qt::MouseButton button = Qt::LeftButton);

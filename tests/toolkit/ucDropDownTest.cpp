@@ -17,9 +17,9 @@
 
 namespace {
 
-constexpr int itemTwips = 300;
-constexpr int firstTop = 45;
-constexpr int endRoom = 45;
+constexpr int ItemTwips = 300;
+constexpr int FirstTop = 45;
+constexpr int EndRoom = 45;
 
 class ucDropDownTest : public HalvaneTest {
 protected:
@@ -107,48 +107,48 @@ TEST_F(ucDropDownTest, ItemsStandOneBelowTheOther) {
         EXPECT_FALSE(Item(i)->isHidden());
     }
     const QRect last = Item(5)->geometry();
-    EXPECT_EQ(Find(&list, "picItemList")->height(), last.bottom() + 1 + endRoom / 15);
+    EXPECT_EQ(Find(&list, "picItemList")->height(), last.bottom() + 1 + EndRoom / 15);
 }
 
 TEST_F(ucDropDownTest, AListThatFitsHasNoScrollBar) {
     Fill(12);
-    list.Set_aHEIGHT(12 * itemTwips + firstTop + endRoom);
+    list.Set_aHEIGHT(12 * ItemTwips + FirstTop + EndRoom);
     EXPECT_TRUE(Bar()->isHidden());
     EXPECT_EQ(Bar()->maximum(), 0);
 }
 
 TEST_F(ucDropDownTest, AListLongerThanItsPanelHasOne) {
     Fill(12);
-    list.Set_aHEIGHT(5 * itemTwips);
+    list.Set_aHEIGHT(5 * ItemTwips);
     EXPECT_FALSE(Bar()->isHidden());
-    EXPECT_EQ(Bar()->maximum(), 7 * itemTwips + firstTop + endRoom);
+    EXPECT_EQ(Bar()->maximum(), 7 * ItemTwips + FirstTop + EndRoom);
     EXPECT_EQ(Bar()->pageStep(), 500);
     EXPECT_EQ(Bar()->singleStep(), 100);
 }
 
 TEST_F(ucDropDownTest, AddingShowsTheBarOnceTheListIsHigherThanThePanel) {
     Fill(5);
-    list.Set_aHEIGHT(5 * itemTwips + firstTop + 1);
-    EXPECT_EQ(list.aHEIGHT(), 5 * itemTwips + firstTop + endRoom);
+    list.Set_aHEIGHT(5 * ItemTwips + FirstTop + 1);
+    EXPECT_EQ(list.aHEIGHT(), 5 * ItemTwips + FirstTop + EndRoom);
     EXPECT_TRUE(Bar()->isHidden());
     list.AddItem("One more", 6);
     EXPECT_FALSE(Bar()->isHidden());
-    EXPECT_EQ(Bar()->maximum(), itemTwips);
+    EXPECT_EQ(Bar()->maximum(), ItemTwips);
 }
 
 TEST_F(ucDropDownTest, APanelHigherThanItsItemsIsReducedToTheirEnd) {
     Fill(3);
     list.Set_aHEIGHT(5000);
-    EXPECT_EQ(list.aHEIGHT(), 3 * itemTwips + firstTop + endRoom);
+    EXPECT_EQ(list.aHEIGHT(), 3 * ItemTwips + FirstTop + EndRoom);
     EXPECT_EQ(Panel()->height(), list.aHEIGHT() / 15);
 }
 
 TEST_F(ucDropDownTest, APanelThatEndsWithItsLastItemIsNotReduced) {
     Fill(3);
-    list.Set_aHEIGHT(3 * itemTwips + firstTop);
-    EXPECT_EQ(list.aHEIGHT(), 3 * itemTwips + firstTop);
+    list.Set_aHEIGHT(3 * ItemTwips + FirstTop);
+    EXPECT_EQ(list.aHEIGHT(), 3 * ItemTwips + FirstTop);
     EXPECT_FALSE(Bar()->isHidden());
-    EXPECT_EQ(Bar()->maximum(), endRoom);
+    EXPECT_EQ(Bar()->maximum(), EndRoom);
 }
 
 TEST_F(ucDropDownTest, AddingPutsTheBarBackToTheTop) {

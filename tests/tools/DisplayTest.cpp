@@ -7,7 +7,7 @@
 
 namespace {
 
-/// The program on the display of its own that run.sh starts where there is none.
+/// The program on the virtual display that run.sh starts if there is no other.
 class DisplayTest : public HalvaneTest {
 protected:
     void SetUp() override {
@@ -38,7 +38,7 @@ protected:
 
 } // namespace
 
-/// Return ends the splash and begins the first profile. Where no key arrives, neither happens.
+/// Return closes the splash and begins the first profile. Without key events neither happens.
 TEST_F(DisplayTest, KeysReachTheWindowWhereverThePointerIs) {
     Run(R"(
         set -eu

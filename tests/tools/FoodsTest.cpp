@@ -15,8 +15,8 @@ struct Source {
     int field;
 };
 
-/// Where the release's documentation puts each nutrient; folate and selenium have rules of their
-/// own.
+/// The field of each nutrient by the release's documentation; folate and selenium have their own
+/// rules.
 constexpr Source Unconverted[] = {
     {"water", 3},        {"Calories", 4},   {"protein", 5},     {"TotalFat", 6},
     {"ASH", 7},          {"carbs", 8},      {"fiber", 9},       {"Calcium", 11},
@@ -61,7 +61,7 @@ struct Sample {
     QStringList row;    ///< what is delivered
 };
 
-/// The one food of the release of which no value is known. Its key is not used.
+/// The only food of the release without any value. Its key is not used.
 const QString Calculator = QStringLiteral("23999");
 constexpr int CalculatorKey = 23040;
 constexpr int FirstKey = 16096;

@@ -4,12 +4,12 @@
 #include <QString>
 #include <QStringList>
 
-/// The sample of release lines, read in the test's own way: split by `^`, the `~` taken off. A
-/// figure can thus be compared with the release itself and not with what the tool made of it.
+/// The sample of release lines, read by the test itself: split by `^`, without `~`. So each figure
+/// is compared with the release and not with output of the tool.
 namespace Release {
 QString Folder();
 
-/// Records of a sample file under the release's own number; several for WEIGHT.txt.
+/// Records of a sample file with that number; WEIGHT.txt may have several.
 QHash<QString, QList<QStringList>> Read(const QString& name);
 
 /// Field of a record, counted from 1.

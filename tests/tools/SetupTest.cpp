@@ -10,8 +10,8 @@
 
 namespace {
 
-/// The scripts' way to the package manager, which works in a folder of its own: nothing is
-/// installed, and the locks are those of that folder.
+/// Runs the scripts' package installation in its own folder: nothing is installed, and the locks
+/// are those of the folder.
 class SetupTest : public HalvaneTest {
 protected:
     void SetUp() override {
@@ -36,7 +36,7 @@ protected:
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
         file.write(text);
     }
-    /// As another package manager does.
+    /// Holds the lock as another package manager does.
     void Hold(const char* lock) {
         held_ =
             open(QFile::encodeName(Folder() + u'/' + QLatin1String(lock)), O_RDWR | O_CREAT, 0600);

@@ -57,7 +57,7 @@ TEST(Agreement, IsShortEnoughToBeRead) {
     EXPECT_LE(words, 500);
 }
 
-/// The facts have no blank: a value that is not known is shown as 0 and counted as 0.
+/// The nutrition facts have no blanks: an unknown value is shown and counted as 0.
 TEST(Texts, SayThatAnUnknownValueShowsAsZeroAndNoneThatItIsABlank) {
     for (const char* name : {"tips.txt", "agreement.txt", "help/facts.html"}) {
         const QString text = Lines(name).join(u' ');

@@ -7,8 +7,8 @@
 #include <QString>
 #include <QStringList>
 
-/// A stock food as the catalogue holds it. Numbers are the release's own decimal text; an empty one
-/// is unknown.
+/// A stock food of the catalogue. Numbers keep the decimal text of the release; an empty text is an
+/// unknown value.
 struct CatalogueFood {
     int id = 0;
     QString number; ///< the release's own
@@ -20,19 +20,19 @@ struct CatalogueFood {
     bool HasValue() const; ///< at least one nutrient is known
 };
 
-/// The stock catalogue made from a release: the foods in ascending order of the release's own
-/// number, with keys that end at 23508. A food that is left out for want of values keeps its key
-/// to itself, so that no other food ever changes its own.
+/// The stock catalogue made from a release: foods in ascending order of the release's number, with
+/// keys up to 23508. A food that is left out because it has no values still uses up a key, so that
+/// no other food ever changes its key.
 class Catalogue {
 public:
-    /// Reads ABBREV.txt, FOOD_DES.txt and WEIGHT.txt of the folder. Fails where one is missing,
-    /// does not keep the layout, or holds a food twice.
+    /// Reads ABBREV.txt, FOOD_DES.txt and WEIGHT.txt of the folder. Fails if a file is missing, has
+    /// another layout, or lists a food twice.
     static Catalogue FromRelease(const QString& folder);
 
     const QList<CatalogueFood>& Foods() const { return foods_; }
-    /// Numbers of foods with values and no full description, which the catalogue leaves out.
+    /// Numbers of foods that are left out because they have no full description.
     const QStringList& Unnamed() const { return unnamed_; }
-    /// Foods of which the release knows no value at all, which the catalogue leaves out.
+    /// Foods that are left out because they have no value at all.
     const QList<CatalogueFood>& Valueless() const { return valueless_; }
     int ValuesRead() const { return valuesRead_; }
     int DescriptionsRead() const { return descriptionsRead_; }

@@ -4,5 +4,5 @@
 
 #include <QString>
 
-/// What the tool read, mapped and left, as a page of Markdown.
+/// What the tool read, assigned and left out, as a page of Markdown.
 QString CatalogueReport(const Catalogue& catalogue);

@@ -6,8 +6,8 @@
 
 namespace {
 
-/// Texts of one measure differ between the files in blanks and commas only: "1 serving,  2 oz" and
-/// "1 serving 2 oz".
+/// The two files write the same measure with different blanks and commas: "1 serving,  2 oz" and "1
+/// serving 2 oz".
 QString Bare(const QString& text) {
     QString bare;
     for (const QChar letter : text)

@@ -11,18 +11,18 @@ struct Measure {
     QString grams;
 };
 
-/// The two servings of a food. A food with one measure gets "100 grams" as its second, a food with
-/// none gets it as its first and has no second (both texts empty).
+/// The two servings of a food. A food with one measure gets "100 grams" as its second serving. A
+/// food without measures gets it as its first; its second has two empty texts.
 struct Servings {
     Measure a;
     Measure b;
-    int ownMeasures = 0;     ///< complete measures of the abbreviated file
+    int ownMeasures = 0;     ///< from the abbreviated file, with text and weight
     int filledMeasures = 0;  ///< taken from the file of weights
     bool secondOnly = false; ///< the abbreviated file has the second measure without the first
 };
 
-/// Chooses the servings: the measures of the abbreviated file in their order, and where it has
-/// fewer than two, those of the file of weights in its sequence that are not among them yet.
+/// Chooses the servings: the measures of the abbreviated file in their order. If there are fewer
+/// than two, new ones from the file of weights follow, in its order.
 class Measures {
 public:
     explicit Measures(const ReleaseTable& weights);

@@ -4,8 +4,9 @@
 #include <QString>
 #include <QStringList>
 
-/// One file of a release of the USDA National Nutrient Database for Standard Reference: a record a
-/// line, fields split by `^`, texts wrapped in `~`, Latin-1. An empty field is an unknown value.
+/// A file of a release of the USDA National Nutrient Database for Standard Reference: each line is
+/// a record, fields are separated by `^`, texts enclosed in `~`, in Latin-1. An empty field is an
+/// unknown value.
 class ReleaseTable {
 public:
     struct Record {
@@ -15,7 +16,7 @@ public:
         const QString& Field(int number) const { return fields[number - 1]; }
     };
 
-    /// Fails where the file is missing, or where a record has a number of fields that is not among
+    /// Fails if the file is missing, or if a record has a number of fields that is not in
     /// `fieldCounts` or differs from the record before.
     static ReleaseTable Read(const QString& path, const QList<int>& fieldCounts);
 

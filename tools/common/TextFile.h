@@ -5,8 +5,8 @@
 
 enum class TextCoding { Utf8, Latin1 };
 
-/// The lines of a text file without their line ends, of either kind. Fails where it cannot be read.
+/// The lines of a text file without their line ends. Fails if it cannot be read.
 QStringList ReadLines(const QString& path, TextCoding coding);
 
-/// Writes the file in UTF-8, as a whole or not at all.
+/// Writes the file in UTF-8, completely or not at all.
 void WriteText(const QString& path, const QString& text);

@@ -16,7 +16,7 @@ namespace {
 
 using Fill = std::function<void(SQLite::Database&)>;
 
-/// Every value goes in as its decimal text: the declared type of the column makes it a number.
+/// Every value is written as its decimal text; the declared type of the column makes it a number.
 void Insert(SQLite::Database& database, const std::string& table, const TsvTable& data) {
     const QStringList places(data.Columns().size(), QStringLiteral("?"));
     const QString sql = u"INSERT INTO " + QString::fromStdString(table) + u" (" +
@@ -47,7 +47,7 @@ void InOneTransaction(const QString& path, DatabaseKind kind, const Fill& fill) 
     });
 }
 
-/// The file appears under its name only when it is whole.
+/// The file gets its name only when it is complete.
 void MakeFile(const QString& path, DatabaseKind kind, const Fill& fill) {
     const QString unfinished = path + u".new";
     RemoveWithJournals(unfinished);

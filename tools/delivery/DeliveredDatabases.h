@@ -4,18 +4,18 @@
 
 #include <QString>
 
-/// Makes users.mdb and foods.mdb from the delivered tables of the data folder. Every file is closed
-/// when a call returns, with no journal left beside it.
+/// Makes users.mdb and foods.mdb from the tables in the data folder. After each call the files are
+/// closed and have no journal.
 class DeliveredDatabases {
 public:
     explicit DeliveredDatabases(QString dataFolder);
 
-    /// Writes both files anew. Meant for a build folder: what stands there is replaced.
+    /// Writes both files, for a build folder: existing files are replaced.
     void Build(const QString& folder) const;
 
-    /// Brings a folder that people work in up to this release. A missing file is made. In an
-    /// existing foods.mdb the stock foods are replaced, in one transaction, and custom foods stay;
-    /// an existing users.mdb is not touched.
+    /// Updates a folder that is in use. A missing file is made. In an existing foods.mdb the stock
+    /// foods are replaced in one transaction, and custom foods stay. An existing users.mdb is not
+    /// touched.
     void Update(const QString& folder) const;
 
 private:

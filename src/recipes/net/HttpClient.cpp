@@ -13,8 +13,8 @@
 
 namespace {
 
-/// The network layer sends a request again where its connection closes before a reply, which would
-/// append what has been appended already. A body that can be read only once keeps it from that.
+/// The network layer repeats a request if the connection closes before a reply: a recipe would be
+/// appended twice. It cannot repeat a body that can be read only once.
 class OneWayBody : public QIODevice {
 public:
     explicit OneWayBody(const QByteArray& bytes)
