@@ -11,15 +11,15 @@ namespace SQLite {
 class Database;
 }
 
-/// The store without the program: what a work is measured against.
+/// The bare store without the program: the limit of a benchmark.
 namespace BareStore {
-/// A connection of its own to the same file, with the functions that the store comes with.
+/// A separate connection to the same file, with the store's own functions.
 SQLite::Database Open(const Connection& connection);
 
-/// Reads every field of the first `most` rows, of all where that is negative.
+/// Reads every field of the first `most` rows; of all rows if it is negative.
 void Read(SQLite::Database& database, const std::string& sql, int most = -1);
 
-/// A statement that sums these nutrients of the logged foods, up to its conditions.
+/// A statement that sums these nutrients of the logged foods, without its conditions.
 std::string SumsOf(std::span<const Nutrient> nutrients);
 
 /// The statements of a search in all three sources.

@@ -25,7 +25,7 @@ void WeighIn() {
     transaction.commit();
 }
 
-/// The item of a list that stands for that number.
+/// The item of a list with this number.
 DropItem* ItemOf(const ucCal_LG& calendar, const char* list, int number) {
     const auto items = calendar.findChild<ucDropDown*>(list)->findChildren<DropItem*>();
     for (DropItem* item : items)
@@ -48,7 +48,7 @@ void MonthOurs(benchmark::State& state) {
         months[index++ % 12]->Activate();
 }
 
-/// The month's days by a bare connection, each value read.
+/// Reads the month's days with a bare connection, every value.
 void ReadMonth(const char* table, QDate first) {
     const QDate last(first.year(), first.month(), first.daysInMonth());
     SQLite::Statement statement(

@@ -18,7 +18,7 @@ constexpr int FirstId = 23509;
 constexpr auto ListSQL = "SELECT * FROM foods WHERE ID > 23508 ORDER BY FoodName";
 const QSize Nest(766, 562);
 
-/// The delivered catalogue and thousands of custom foods, added in no order of their names.
+/// The delivered catalogue and thousands of custom foods, added in random order.
 struct ManyFoods {
     Ground ground{false};
 
@@ -63,7 +63,7 @@ struct Opened {
     }
 };
 
-/// Each value as what it is stored as.
+/// Reads each value with its stored type.
 void ReadAll(const char* sql) {
     SQLite::Statement statement(FoodDB().Raw(), sql);
     while (statement.executeStep())

@@ -12,7 +12,7 @@
 #include <SQLiteCpp/SQLiteCpp.h>
 
 namespace {
-/// The list and the panel as the day screen holds them, shown.
+/// The list and the panel of the day screen, visible.
 struct DayParts {
     ucMyFood list;
     ucDaily panel;
@@ -62,7 +62,7 @@ void LogFoodOurs(benchmark::State& state) {
         day.list.AddFood(item, QStringLiteral("Lunch"));
         if (++count % 15 != 0)
             continue;
-        state.PauseTiming(); // a day change is measured by itself
+        state.PauseTiming(); // changing the day is another benchmark
         day.list.setDate(Ground::Day(count / 15));
         state.ResumeTiming();
     }

@@ -21,7 +21,7 @@ const QSize ChartSize(738, 476);
 constexpr int AWeek = 7;
 constexpr int AYear = 365;
 
-/// The ten-year log with a weight for each of its days.
+/// The ten-year log with a weight on each day.
 struct WeighedGround {
     Ground ground{true};
 
@@ -41,7 +41,7 @@ struct WeighedGround {
     }
 };
 
-/// Days of the log, others from one run to the next where there is room for it.
+/// A period of the log; successive runs use different ones if the log is long enough.
 struct Days {
     QDate from, to;
 
@@ -124,7 +124,7 @@ void PaintOurs(benchmark::State& state) {
         chart.render(&surface);
 }
 
-/// The same pens along as many places by a bare painter: two lines and four dots a day.
+/// A bare painter with the same pens and as many points: two lines and four dots for each day.
 void PaintLimit(benchmark::State& state) {
     QImage surface(ChartSize, QImage::Format_RGB32);
     const Style& style = TheStyle();

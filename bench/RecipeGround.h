@@ -2,8 +2,8 @@
 
 #include "Ground.h"
 
-/// So many recipes and custom foods, each third one of lentils, of which the catalogue has some as
-/// well. The first recipe has many ingredients.
+/// Adds recipes and custom foods; every third name has lentils, as some foods of the catalogue do.
+/// The first recipe has many ingredients.
 class RecipeGround : public Ground {
 public:
     static constexpr int ManyRows = 5000;

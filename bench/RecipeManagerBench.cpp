@@ -32,7 +32,7 @@ struct Opened {
     void PressEdit() { Q_EMIT Control<ucButton>("cmdEdit").Click(); }
 };
 
-/// What listing reads: all recipes, then the card of the first.
+/// Reads what the list needs: all recipes, then the card of the first.
 void ReadAll(SQLite::Database& users) {
     BareStore::Read(users, "SELECT * FROM Recipes");
     BareStore::Read(users, "SELECT * FROM Recipes WHERE RecipeID = 1");
@@ -111,7 +111,7 @@ void TypeLimit(benchmark::State& state) {
 
 [[maybe_unused]] const bool aims = [] {
     Table::Aim("list 5,000 recipes, with the card of one of 100 ingredients", 3);
-    Table::Aim("open the screen on 5,000 recipes", 6); // most of it is the screen itself
+    Table::Aim("open the screen on 5,000 recipes", 6); // most of it is building the screen
     Table::Aim("edit and save one of 5,000 recipes", 3);
     Table::Aim("type a letter into 5,000 lines of instructions", 3);
     return true;

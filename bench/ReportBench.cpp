@@ -18,7 +18,7 @@ struct Span {
 };
 constexpr Span Spans[] = {{"7 days", 7}, {"a year", 365}, {"ten years", Ground::Days}};
 
-/// The days of a period within the log; another one for each count, where there is room for it.
+/// A period in the log; successive runs use different ones if the log is long enough.
 struct BenchPeriod {
     QDate from, to;
     BenchPeriod(int days, int count) {
@@ -53,7 +53,7 @@ void BarePie(const BenchPeriod& period) {
     ReadDays(period);
 }
 
-/// A work over each of the spans: what the chart does, and its statements alone.
+/// A benchmark for each span: the chart, and its statements alone.
 template <class Chart> struct Work {
     const char* name;
     void (*ours)(Chart& chart, const BenchPeriod& period);
@@ -107,7 +107,7 @@ void ViewChangeOurs(benchmark::State& state) {
     }
 }
 
-/// What stands on both views, painted without controls: names and bars, names and values.
+/// Paints the text and bars of both views without controls.
 void ViewChangeLimit(benchmark::State& state) {
     QImage surface = Surface();
     const QString value = QString(148, u'.') + QStringLiteral("1,234 mg");

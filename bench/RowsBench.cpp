@@ -41,8 +41,8 @@ void RowsOurs(benchmark::State& state) {
     }
 }
 
-/// A row of a dozen stock child widgets: icon, name, and for each of two servings a text, a
-/// quantity and two buttons.
+/// A row of a dozen stock widgets: icon, name, and for each of two servings a text, a quantity and
+/// two buttons.
 void BuildStockRow(QWidget* pane, const Food& food, int top) {
     auto* row = new QWidget(pane);
     row->setGeometry(0, top, Frame.width(), RowHeight);

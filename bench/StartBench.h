@@ -1,5 +1,5 @@
 #pragma once
 
-/// Measures whole processes: the start up to the painted frame, and the memory held by then, beside
-/// a bare window. Prints a line for each.
+/// Measures complete processes next to a bare window: the time until the frame is painted, and the
+/// memory used by then. Prints a line for each.
 void MeasureStart();

@@ -6,12 +6,11 @@
 #include <string>
 #include <vector>
 
-/// Prints one line a work: ours, the limit it is set against, their ratio and the aim.
-/// Benchmarks come in pairs named "WORK/ours" and "WORK/limit"; the median of the repetitions
-/// counts.
+/// Prints a line for each benchmark: ours, the limit, their ratio and the aim. Benchmarks come in
+/// pairs, "WORK/ours" and "WORK/limit"; the median of the repetitions counts.
 class Table : public benchmark::BenchmarkReporter {
 public:
-    /// Says what the ratio of a work should be at most.
+    /// Sets the greatest ratio that a benchmark should have.
     static void Aim(const std::string& work, double ratio);
 
     bool ReportContext(const Context&) override { return true; }

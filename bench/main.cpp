@@ -5,7 +5,7 @@
 
 #include <vector>
 
-/// Measures each path that a person waits for beside its limit and prints a table of both.
+/// Measures each path that a person waits for, next to its limit, and prints a table of both.
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     Application application(argc, argv);

@@ -1,4 +1,4 @@
-# Sourced by run.sh: a display of its own where there is none, and the programs that serve it.
+# Sourced by run.sh: starts a virtual display if there is no other, and the programs that serve it.
 
 helpers=()
 notes=$(mktemp -d)
@@ -8,7 +8,7 @@ clean_up() {
     rm -rf "$notes"
 }
 
-# wait_for_line FILE PATTERN WHAT: until the helper has written what it was started for
+# wait_for_line FILE PATTERN WHAT: waits until the helper has written the line
 wait_for_line() {
     for _ in {1..100}; do
         grep -q "$2" "$1" 2>/dev/null && return
@@ -25,7 +25,7 @@ start_display() {
     export DISPLAY=:$(cat "$notes/display")
 }
 
-# Without a window manager the keyboard would follow the pointer.
+# Without a window manager the keyboard focus follows the pointer.
 manage_windows() {
     openbox --sm-disable --config-file tools/windows.xml \
         --startup "sh -c 'echo ready >$notes/windows'" >/dev/null 2>&1 &

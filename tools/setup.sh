@@ -1,4 +1,4 @@
-# Sourced by run.sh, serve.sh and test.sh: installs the packages of the given groups that are not there yet.
+# Sourced by run.sh, serve.sh and test.sh: installs the missing packages of the given groups.
 
 missing_packages() {
     local group package
@@ -23,13 +23,13 @@ known_packages() {
     done
 }
 
-# lock_holder FILE: who holds the lock that apt-get could not get; fails where that was not the error
+# lock_holder FILE: prints who holds the lock that apt-get could not get; fails for any other error
 lock_holder() {
     grep -qE 'Could not get lock|locked by another process' "$1" || return 1
     sed -nE 's/.*held by process ([0-9]+) \((.*)\).*/\2, process \1/p' "$1" | head -n 1
 }
 
-# apt_get ARGUMENT...: where another package manager holds a lock, this one waits until it has ended
+# apt_get ARGUMENT...: waits while another package manager holds a lock
 lock_pause=2
 apt_get() {
     local errors holder told=

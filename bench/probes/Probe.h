@@ -8,8 +8,7 @@
 
 #include <cstdio>
 
-/// Once the window has been painted and events have settled: prints the process's resident memory
-/// in KiB and ends.
+/// When the window is painted and no events are left, prints the resident memory in KiB and ends.
 class ReportFirstPaint : public QObject {
 public:
     explicit ReportFirstPaint(QWidget* window) { window->installEventFilter(this); }

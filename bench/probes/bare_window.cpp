@@ -2,7 +2,7 @@
 
 #include <QApplication>
 
-/// A bare window of the toolkit library: what start time and memory are set against.
+/// A bare window of the toolkit library: the limit for start time and memory.
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
     QWidget window;

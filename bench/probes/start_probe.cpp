@@ -6,8 +6,8 @@
 #include "core/Screens.h"
 #include "runtime/AppPath.h"
 
-/// start_probe FOLDER: the whole start on that folder, agreement accepted, the splash closed at
-/// once, up to the frame painted.
+/// start_probe FOLDER: a complete start in that folder, with the agreement accepted and the splash
+/// closed at once, until the frame is painted.
 int main(int argc, char** argv) {
     Application application(argc, argv);
     SetApplicationPath(QString::fromLocal8Bit(argv[1]));
