@@ -79,7 +79,10 @@ void Run(Connection& connection, std::span<const char* const> statements) {
 }
 
 void CopyDocument(Connection& connection, int id) {
-    const auto ingredients = Documents::IngredientsDocument(*RecipeStore(connection).ReadWhole(id));
+    Recipe recipe;
+    recipe.id = id;
+    RecipeStore(connection).ReadIngredients(recipe);
+    const auto ingredients = Documents::IngredientsDocument(recipe);
     connection.Change("INSERT INTO documents (RecipeID, RecipeText, IngredientsText)"
                       " SELECT RecipeID, Recipe, :ingredients FROM old_documents"
                       " WHERE RecipeID = :id",

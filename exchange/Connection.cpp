@@ -9,7 +9,7 @@ namespace exchange {
 namespace {
 constexpr std::string_view ServerPrefix = "postgresql:";
 
-bool IsEmbedded(std::string_view database) {
+bool IsFile(std::string_view database) {
     return !database.starts_with(ServerPrefix);
 }
 
@@ -28,7 +28,7 @@ std::string WithTimeouts(std::string server) {
 }
 
 soci::connection_parameters Parameters(const std::string& database) {
-    if (IsEmbedded(database))
+    if (IsFile(database))
         return {soci::sqlite3, "db=\"" + database + "\" timeout=20 shared_cache=false"};
     if (database.starts_with("postgresql://"))
         return {soci::postgresql, WithTimeouts(database)};
@@ -39,20 +39,16 @@ soci::connection_parameters Parameters(const std::string& database) {
 constexpr const char* EmbeddedSettings[] = {"PRAGMA journal_mode=WAL", "PRAGMA synchronous=FULL",
                                             "PRAGMA foreign_keys=ON", "PRAGMA cache_size=-16384"};
 
-/// Every join of this program looks up keys in the order of an index and ends after a page. The
-/// planner, which cannot know how words go together, is kept from joining whole tables instead.
-/// And a program that stops in the middle of a transaction must not stop the others for long.
-constexpr const char* ServerSettings[] = {"SET client_min_messages = warning",
-                                          "SET lock_timeout = '10s'",
-                                          "SET idle_in_transaction_session_timeout = '30s'",
-                                          "SET enable_hashjoin = off",
-                                          "SET enable_mergejoin = off",
-                                          "SET enable_bitmapscan = off",
-                                          "SET enable_sort = off"};
+/// Every statement of this program goes by an index. The planner, which cannot know how words go
+/// together, is kept from walking whole tables instead. And a program that stops in the middle of a
+/// transaction must not stop the others for long.
+constexpr const char* ServerSettings[] = {
+    "SET client_min_messages = warning", "SET lock_timeout = '10s'",
+    "SET idle_in_transaction_session_timeout = '30s'", "SET enable_seqscan = off"};
 } // namespace
 
 Connection::Connection(const std::string& database)
-    : embedded_(IsEmbedded(database))
+    : embedded_(IsFile(database))
     , session_(Parameters(database)) {
     Tune();
 }

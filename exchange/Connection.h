@@ -60,6 +60,8 @@ public:
         return statement.get_affected_rows();
     }
 
+    bool IsEmbedded() const { return embedded_; }
+
     /// One statement that is not kept.
     void Once(const std::string& sql) { session_.once << sql; }
 

@@ -79,20 +79,24 @@ std::string LineOf(const Listed& recipe) {
     return line.Fill(values);
 }
 
-std::string AddressOf(const std::string& query, int page) {
+std::string AddressOf(const ListPage& list, int page, std::optional<long long> from) {
     std::string address = "/halvane/community.asp?page=" + std::to_string(page);
-    if (!query.empty())
-        address += "&q=" + Target::Encoded(query);
+    if (from)
+        address += "&from=" + std::to_string(*from);
+    if (!list.query.empty())
+        address += "&q=" + Target::Encoded(list.query);
     return address;
 }
 
 std::string HeadingOf(const ListPage& list) {
     if (list.query.empty())
         return "Newest recipes";
-    return list.recipes.empty() ? "Nothing found" : "Recipes found";
+    return list.found.recipes.empty() ? "Nothing found" : "Recipes found";
 }
 
 std::string EmptyText(const ListPage& list) {
+    if (list.found.next > 0)
+        return "None of the recipes that were looked at has all of these words.";
     if (!list.query.empty())
         return "No recipe has all of these words in its name or ingredients.";
     return list.page > 1 ? "There are no older recipes." : "No recipe has been shared yet.";
@@ -103,9 +107,9 @@ void SetPager(data& values, const ListPage& list, bool more) {
     values.set("pager", older || list.page > 1);
     values.set("page", std::to_string(list.page));
     if (list.page > 1)
-        values.set("newer", AddressOf(list.query, list.page - 1));
+        values.set("newer", AddressOf(list, list.page - 1, list.from));
     if (older)
-        values.set("older", AddressOf(list.query, list.page + 1));
+        values.set("older", AddressOf(list, list.page + 1, list.from));
 }
 
 data IngredientsOf(const Recipe& recipe) {
@@ -183,17 +187,20 @@ std::string Front() {
 
 std::string Community(const ListPage& list) {
     thread_local Template content(Assets::community);
-    const bool more = list.recipes.size() > static_cast<size_t>(RecipeStore::PageSize);
+    const auto& recipes = list.found.recipes;
+    const bool more = recipes.size() > static_cast<size_t>(RecipeStore::PageSize);
     std::string lines;
-    for (size_t i = 0; i < list.recipes.size() - (more ? 1 : 0); ++i)
-        lines += LineOf(list.recipes[i]);
+    for (size_t i = 0; i < recipes.size() - (more ? 1 : 0); ++i)
+        lines += LineOf(recipes[i]);
     data values;
     values.set("query", ShownText::Line(list.query, list.query.size()));
     values.set("searched", !list.query.empty());
     values.set("heading", HeadingOf(list));
-    values.set("any", !list.recipes.empty());
+    values.set("any", !recipes.empty());
     values.set("lines", lines);
     values.set("empty", EmptyText(list));
+    if (list.found.next > 0)
+        values.set("searchOn", AddressOf(list, 1, list.found.next));
     SetPager(values, list, more);
     return Page("Online Community", Place::List, false, content.Fill(values));
 }

@@ -14,7 +14,8 @@ namespace Pages {
 struct ListPage {
     std::string query;
     int page = 1;
-    std::vector<Listed> recipes; ///< one more than a page, if there are older ones
+    std::optional<int> from; ///< the place in the list that a search goes on from
+    RecipeStore::ListPortion found;
 };
 
 std::string Front();

@@ -1,55 +1,69 @@
+#include "exchange/RecipeSearch.h"
 #include "exchange/RecipeStore.h"
 
 #include <algorithm>
+#include <limits>
 
 namespace exchange {
 namespace {
 using soci::into;
 using soci::use;
 
-const std::string Columns =
-    "SELECT l.RecipeID, l.RecipeName, l.ServingName, l.PrepTime, l.Calories, l.ListedAt FROM ";
-const std::string Portion = " LIMIT " + std::to_string(RecipeStore::PageSize + 1) + " OFFSET :skip";
+const std::string Columns = "SELECT Place, RecipeID, RecipeName, ServingName, PrepTime, Calories,"
+                            " ListedAt FROM listing ";
+const std::string Order = " ORDER BY Place DESC";
 
-/// The newest recipes that have all of the words: the first word leads, the others are looked up.
-/// The rows that are shown are chosen from the keys alone, in the order of the key, so that no
-/// database has a reason to sort them. One more than a page is chosen.
-std::string Statement(size_t words) {
-    if (words == 0)
-        return Columns + "listing l ORDER BY l.ListedAt DESC, l.RecipeID DESC" + Portion;
-    std::string keys = "SELECT k.ListedAt, k.RecipeID FROM words k WHERE k.Word = :w0";
-    for (size_t i = 1; i < words; ++i)
-        keys += " AND EXISTS (SELECT 1 FROM words o WHERE o.Word = :w" + std::to_string(i) +
-                " AND o.ListedAt = k.ListedAt AND o.RecipeID = k.RecipeID)";
-    keys += " ORDER BY k.ListedAt DESC, k.RecipeID DESC" + Portion;
-    return Columns + "(" + keys +
-           ") f JOIN listing l ON l.ListedAt = f.ListedAt AND l.RecipeID = f.RecipeID"
-           " ORDER BY f.ListedAt DESC, f.RecipeID DESC";
+/// One more than a page.
+constexpr size_t Portion = RecipeStore::PageSize + 1;
+
+template <class... Uses>
+std::vector<Listed> Select(Connection& connection, const std::string& statement,
+                           const Uses&... uses) {
+    std::vector<Listed> rows;
+    Listed row;
+    connection.Each(
+        statement, [&] { rows.push_back(row); }, uses..., into(row.place), into(row.id),
+        into(row.name), into(row.servingName), into(row.prepTime), into(row.calories),
+        into(row.listedAt));
+    return rows;
 }
 
-template <size_t Count>
-std::vector<Listed> Select(Connection& connection, const std::vector<std::string>& words,
-                           int skip) {
-    static const std::string statement = Statement(Count);
-    std::vector<Listed> found;
-    Listed row;
-    const auto keep = [&] { found.push_back(row); };
-    [&]<size_t... I>(std::index_sequence<I...>) {
-        connection.Each(statement, keep, use(words[I])..., use(skip), into(row.id), into(row.name),
-                        into(row.servingName), into(row.prepTime), into(row.calories),
-                        into(row.listedAt));
+std::vector<Listed> Newest(Connection& connection, int skip) {
+    static const std::string statement =
+        Columns + "WHERE Place > 0" + Order + " LIMIT " + std::to_string(Portion) + " OFFSET :skip";
+    return Select(connection, statement, use(skip));
+}
+
+/// One statement for any number of places: none stands at place 0.
+std::vector<Listed> At(Connection& connection, std::vector<long long> places) {
+    static const std::string statement = [] {
+        std::string names;
+        for (size_t i = 0; i < Portion; ++i)
+            names.append(names.empty() ? ":p" : ", :p").append(std::to_string(i));
+        return Columns + "WHERE Place IN (" + names + ")" + Order;
+    }();
+    places.resize(Portion);
+    return [&]<size_t... I>(std::index_sequence<I...>) {
+        return Select(connection, statement, use(places[I])...);
     }
-    (std::make_index_sequence<Count>());
-    return found;
+    (std::make_index_sequence<Portion>());
 }
 } // namespace
 
-std::vector<Listed> RecipeStore::List(const std::vector<std::string>& words, int page) {
-    using Selection = std::vector<Listed> (*)(Connection&, const std::vector<std::string>&, int);
-    constexpr Selection selections[] = {Select<0>, Select<1>, Select<2>,
-                                        Select<3>, Select<4>, Select<5>};
-    static_assert(std::size(selections) == MostWords + 1);
-    return selections[std::min(words.size(), MostWords)](connection_, words, (page - 1) * PageSize);
+RecipeStore::ListPortion RecipeStore::List(const std::vector<std::string>& words, int page,
+                                           std::optional<long long> from) {
+    const auto skip = static_cast<size_t>(page - 1) * PageSize;
+    if (words.empty())
+        return {Newest(connection_, static_cast<int>(skip)), 0};
+    long long newest = 0;
+    connection_.First("SELECT COALESCE(MAX(Place), 0) FROM listing", into(newest));
+    auto found = RecipeSearch(connection_)
+                     .Find(words, std::min(from.value_or(newest), newest), skip + Portion);
+    auto& places = found.places;
+    const bool full = places.size() == skip + Portion;
+    places.erase(places.begin(),
+                 places.begin() + static_cast<std::ptrdiff_t>(std::min(skip, places.size())));
+    return {At(connection_, places), full ? 0 : found.next};
 }
 
 } // namespace exchange

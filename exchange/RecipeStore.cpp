@@ -2,6 +2,7 @@
 
 #include "exchange/Documents.h"
 #include "exchange/Moment.h"
+#include "exchange/RecipeSearch.h"
 #include "exchange/Secrets.h"
 #include "exchange/ShownText.h"
 #include "exchange/StoredText.h"
@@ -194,12 +195,11 @@ void RecipeStore::Publish(const Recipe& recipe, long long now) {
     const auto name = ShownText::Name(recipe.name.value_or(""), ShownText::InList);
     const auto serving = ShownText::Line(recipe.servingName.value_or(""), ShownText::InList);
     connection_.Change("INSERT INTO listing (ListedAt, RecipeID, RecipeName, ServingName, PrepTime,"
-                       " Calories) VALUES (:now, :id, :name, :serving, :time, :calories)",
+                       " Calories) VALUES (:now, :id, :name, :serving, :time, :calories)"
+                       " ON CONFLICT (RecipeID) DO UPDATE SET Place = -listing.Place",
                        use(now), use(recipe.id), use(name), use(serving), use(recipe.prepTime),
                        use(calories));
-    for (const auto& word : Words::Of(recipe))
-        connection_.Change("INSERT INTO words (Word, ListedAt, RecipeID) VALUES (:w, :now, :id)",
-                           use(word), use(now), use(recipe.id));
+    RecipeSearch(connection_).Add(*PlaceOf(recipe.id), Words::Of(recipe));
 }
 
 void RecipeStore::NoteMailed(int id) {
@@ -225,9 +225,11 @@ RecipeStore::Document RecipeStore::Read(int id, Part part, const MissGuard::Gues
     return document;
 }
 
+/// Its place is kept for it, as a negative number: no list goes there.
 void RecipeStore::Unpublish(int id) {
-    connection_.Change("DELETE FROM listing WHERE RecipeID = :id", use(id));
-    connection_.Change("DELETE FROM words WHERE RecipeID = :id", use(id));
+    if (const auto place = PlaceOf(id))
+        RecipeSearch(connection_).Remove(*place);
+    connection_.Change("UPDATE listing SET Place = -Place WHERE RecipeID = :id", use(id));
 }
 
 bool RecipeStore::Hide(int id) {
@@ -259,12 +261,21 @@ bool RecipeStore::Show(int id) {
     return true;
 }
 
-/// The recipe first: whoever is just sending it has put in its words when this goes on.
+std::optional<long long> RecipeStore::PlaceOf(int id) {
+    long long place = 0;
+    const bool listed =
+        connection_.First("SELECT Place FROM listing WHERE RecipeID = :id", use(id), into(place));
+    return listed ? std::optional(place) : std::nullopt;
+}
+
+/// The row is locked first: whoever is just sending the recipe has listed it when this goes on.
 bool RecipeStore::Remove(int id) {
     Transaction transaction(connection_);
+    connection_.Change("UPDATE recipes SET Token = '' WHERE RecipeID = :id", use(id));
+    if (const auto place = PlaceOf(id))
+        RecipeSearch(connection_).Remove(*place);
     const bool removed =
         connection_.Change("DELETE FROM recipes WHERE RecipeID = :id", use(id)) > 0;
-    connection_.Change("DELETE FROM words WHERE RecipeID = :id", use(id));
     transaction.Commit();
     return removed;
 }

@@ -12,6 +12,7 @@ namespace exchange {
 
 /// One line of the public list, with its texts as they are shown.
 struct Listed {
+    long long place = 0; ///< the greater, the newer
     int id = 0;
     std::string name;
     std::string servingName;
@@ -59,11 +60,16 @@ public:
     };
     Document Read(int id, Part part, const MissGuard::Guess& guess);
     std::optional<Recipe> ReadWhole(int id); ///< of a sent recipe, without its addresses
+    void ReadIngredients(Recipe& recipe);    ///< adds those of its ID
 
     static constexpr int PageSize = 20;
-    static constexpr size_t MostWords = 5;
-    /// One more than a page, if there are more, newest first.
-    std::vector<Listed> List(const std::vector<std::string>& words, int page);
+    struct ListPortion {
+        std::vector<Listed> recipes; ///< one more than a page, if there are more, newest first
+        long long next = 0;          ///< the place to search on from; 0 if everything was looked at
+    };
+    /// What has all of the words, from a place of the list on, or from its newest one.
+    ListPortion List(const std::vector<std::string>& words, int page,
+                     std::optional<long long> from = {});
 
     bool Hide(int id); ///< from every reader, and from whoever would send it
     bool Show(int id); ///< again, as it was
@@ -75,8 +81,8 @@ private:
     void InsertRows(int id, int firstID, const std::vector<Ingredient>& rows);
     Added WhyNotAdded(int id, const std::string& digest);
     std::optional<Recipe> ReadRow(int id);
-    void ReadIngredients(Recipe& recipe);
     void MakeReadable(const Recipe& recipe, long long sentAt);
+    std::optional<long long> PlaceOf(int id);
     void Publish(const Recipe& recipe, long long now);
     void Unpublish(int id);
 

@@ -1,6 +1,7 @@
 #include "exchange/SchemaSteps.h"
 
 #include "exchange/ColumnOrderStep.h"
+#include "exchange/SearchStep.h"
 
 #include <initializer_list>
 
@@ -72,7 +73,7 @@ void MakeModerationTables(Connection& connection) {
         });
 }
 
-constexpr Step Steps[] = {MakeTables, ColumnOrderStep::Take, MakeModerationTables};
+constexpr Step Steps[] = {MakeTables, ColumnOrderStep::Take, MakeModerationTables, SearchStep::Take};
 } // namespace
 
 std::span<const Step> All() {

@@ -9,6 +9,8 @@
 #include "exchange/Text.h"
 #include "exchange/Words.h"
 
+#include <limits>
+
 namespace exchange {
 namespace {
 constexpr const char* HtmlType = "text/html; charset=utf-8";
@@ -37,6 +39,11 @@ Pages::ListPage ReadListPage(const Request& request) {
         if (!page)
             throw Refusal(404, "The list has no such page.");
         list.page = *page;
+    }
+    if (request.HasParam("from")) {
+        list.from = WholeNumber(request.Param("from"), 1, std::numeric_limits<int>::max());
+        if (!list.from)
+            throw Refusal(404, "The list has no such page.");
     }
     return list;
 }
@@ -81,12 +88,10 @@ void Site::AddWatches(Router& router) {
 void Site::Community(const Ask& ask, Reply& reply) const {
     auto list = ReadListPage(ask.request);
     service_.rates.Take(list.query.empty() ? Rates::Pages : Rates::Searches, ask.visitor);
-    auto words = Words::Of(list.query);
-    if (words.size() > RecipeStore::MostWords)
-        words.resize(RecipeStore::MostWords);
+    const auto words = Words::Of(list.query);
     if (list.query.empty() || !words.empty()) {
         const Pool::Lease lease(service_.pool);
-        list.recipes = RecipeStore(*lease).List(words, list.page);
+        list.found = RecipeStore(*lease).List(words, list.page, list.from);
     }
     reply.SetContent(Pages::Community(list), HtmlType);
 }

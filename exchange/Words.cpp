@@ -1,18 +1,21 @@
 #include "exchange/Words.h"
 
-#include "exchange/Text.h"
+#include <utf8proc.h>
 
 #include <algorithm>
+#include <cstdlib>
+#include <memory>
 
 namespace exchange::Words {
 namespace {
-constexpr size_t Longest = 40;
+constexpr size_t Longest = 40; ///< letters of a word that count
 constexpr size_t MostOfARecipe = 1000;
 
-/// Letters and digits; every byte of a letter beyond ASCII belongs to the word.
-bool Belongs(char c) {
-    return (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9') ||
-           static_cast<unsigned char>(c) >= 0x80;
+/// Letters, digits, and signs that stand for one.
+bool Belongs(utf8proc_int32_t letter) {
+    const auto category = utf8proc_category(letter);
+    return (category >= UTF8PROC_CATEGORY_LU && category <= UTF8PROC_CATEGORY_LO) ||
+           (category >= UTF8PROC_CATEGORY_ND && category <= UTF8PROC_CATEGORY_NO);
 }
 
 std::string Singular(std::string word) {
@@ -25,26 +28,57 @@ std::string Singular(std::string word) {
     return word;
 }
 
-/// The beginning of a long word, without half a letter at its end.
-std::string Shortened(std::string word) {
-    if (word.size() <= Longest)
-        return word;
-    auto end = Longest;
-    while (end > 0 && (static_cast<unsigned char>(word[end]) & 0xc0) == 0x80)
-        --end;
-    return word.substr(0, end);
+/// In small letters, each accent taken off; nothing of a text that is no UTF-8.
+std::string Folded(std::string_view text) {
+    constexpr auto manner = static_cast<utf8proc_option_t>(UTF8PROC_COMPAT | UTF8PROC_DECOMPOSE |
+                                                           UTF8PROC_CASEFOLD | UTF8PROC_STRIPMARK);
+    utf8proc_uint8_t* folded = nullptr;
+    const auto size = utf8proc_map(reinterpret_cast<const utf8proc_uint8_t*>(text.data()),
+                                   static_cast<utf8proc_ssize_t>(text.size()), &folded, manner);
+    const std::unique_ptr<utf8proc_uint8_t, void (*)(void*)> owner(folded, std::free);
+    return size < 0 ? std::string()
+                    : std::string(reinterpret_cast<char*>(folded), static_cast<size_t>(size));
 }
 
-void Collect(std::string_view text, std::vector<std::string>& words) {
-    const auto lower = Lower(text);
-    for (auto begin = lower.begin(); begin != lower.end();) {
-        begin = std::find_if(begin, lower.end(), Belongs);
-        const auto end = std::find_if_not(begin, lower.end(), Belongs);
-        if (end - begin > 1)
-            words.push_back(Singular(Shortened({begin, end})));
-        begin = end;
+class Collector {
+public:
+    explicit Collector(std::vector<std::string>& words)
+        : words_(words) {}
+
+    void Collect(std::string_view text) {
+        const auto folded = Folded(text);
+        const auto* rest = reinterpret_cast<const utf8proc_uint8_t*>(folded.data());
+        auto left = static_cast<utf8proc_ssize_t>(folded.size());
+        while (left > 0) {
+            utf8proc_int32_t letter = 0;
+            const auto size = utf8proc_iterate(rest, left, &letter);
+            Take(letter,
+                 std::string_view(reinterpret_cast<const char*>(rest), static_cast<size_t>(size)));
+            rest += size;
+            left -= size;
+        }
+        EndWord();
     }
-}
+
+private:
+    void Take(utf8proc_int32_t letter, std::string_view bytes) {
+        if (!Belongs(letter))
+            EndWord();
+        else if (letters_++ < Longest)
+            word_ += bytes;
+    }
+
+    void EndWord() {
+        if (!word_.empty())
+            words_.push_back(Singular(word_));
+        word_.clear();
+        letters_ = 0;
+    }
+
+    std::vector<std::string>& words_;
+    std::string word_;
+    size_t letters_ = 0;
+};
 
 void Unique(std::vector<std::string>& words) {
     std::sort(words.begin(), words.end());
@@ -54,16 +88,17 @@ void Unique(std::vector<std::string>& words) {
 
 std::vector<std::string> Of(std::string_view text) {
     std::vector<std::string> words;
-    Collect(text, words);
+    Collector(words).Collect(text);
     Unique(words);
     return words;
 }
 
 std::vector<std::string> Of(const Recipe& recipe) {
     std::vector<std::string> words;
-    Collect(recipe.name.value_or(""), words);
+    Collector collector(words);
+    collector.Collect(recipe.name.value_or(""));
     for (const auto& ingredient : recipe.ingredients)
-        Collect(ingredient.foodName.value_or(""), words);
+        collector.Collect(ingredient.foodName.value_or(""));
     words.resize(std::min(words.size(), MostOfARecipe));
     Unique(words);
     return words;

@@ -9,10 +9,10 @@
 namespace exchange {
 
 /// The words that a public recipe is found by: those of its name and of its ingredients, each once,
-/// in small letters and in the singular. The first thousand count: no recipe is found by
-/// everything.
+/// in small letters without accents and in the singular, so that both databases find alike. The
+/// first thousand count: no recipe is found by everything.
 namespace Words {
-std::vector<std::string> Of(std::string_view text);
+std::vector<std::string> Of(std::string_view text); ///< letters and digits only
 std::vector<std::string> Of(const Recipe& recipe);
 } // namespace Words
 

@@ -1,7 +1,9 @@
 #include "Fill.h"
 
+#include "exchange/RecipeSearch.h"
 #include "exchange/RecipeStore.h"
 #include "exchange/Text.h"
+#include "exchange/Words.h"
 
 #include <random>
 
@@ -60,20 +62,22 @@ RecipeStore::Created CreateBeyond(RecipeStore& store, const Recipe& recipe, int 
     }
 }
 
-void StoreOriginals(Connection& connection, int copies) {
+/// Gives the words of each.
+std::vector<std::vector<std::string>> StoreOriginals(Connection& connection, int copies) {
     std::mt19937 random(4711);
     RecipeStore store(connection);
-    connection.Once("CREATE TABLE fill (Place INTEGER NOT NULL PRIMARY KEY, RecipeID INTEGER)");
+    connection.Once("CREATE TABLE fill (Number INTEGER NOT NULL PRIMARY KEY, RecipeID INTEGER)");
+    std::vector<std::vector<std::string>> words;
     for (int place = 0; place < Originals; ++place) {
         const auto recipe = Draw(random);
         const auto created = CreateBeyond(store, recipe, copies);
         store.Add(created.id, created.token, recipe.ingredients, 100);
         store.Finish(created.id);
-        connection.Change("INSERT INTO fill (Place, RecipeID) VALUES (:p, :id)", soci::use(place),
+        words.push_back(Words::Of(recipe));
+        connection.Change("INSERT INTO fill (Number, RecipeID) VALUES (:n, :id)", soci::use(place),
                           soci::use(created.id));
     }
-    connection.Once("CREATE TABLE fill_words AS SELECT Word, ListedAt, Place FROM words"
-                    " JOIN fill ON fill.RecipeID = words.RecipeID");
+    return words;
 }
 
 std::string NutrientList() {
@@ -85,25 +89,37 @@ std::string NutrientList() {
 
 /// Each original once more under the IDs from @ on, as an older recipe.
 std::vector<std::string> Copies() {
-    return {"INSERT INTO recipes SELECT Place + @, RecipeName, ServingName, RecipeYield,"
+    return {"INSERT INTO recipes (RecipeID, RecipeName, ServingName, RecipeYield, Instructions,"
+            " PrepTime, EMAILFROM, EMAILTO, ISPUBLIC, Token, IngredientCount, CreatedAt, SentAt,"
+            " MailedAt) SELECT Number + @, RecipeName, ServingName, RecipeYield,"
             " Instructions, PrepTime, '', '', ISPUBLIC, Token, IngredientCount, CreatedAt - @,"
             " SentAt - @, MailedAt FROM fill JOIN recipes ON recipes.RecipeID = fill.RecipeID",
             "INSERT INTO ingredients SELECT ID, " + NutrientList() +
-                "FoodName, Serving, Place + @, QTY FROM fill"
+                "FoodName, Serving, Number + @, QTY FROM fill"
                 " JOIN ingredients ON ingredients.RecipeID = fill.RecipeID",
-            "INSERT INTO documents SELECT Place + @, RecipeText, IngredientsText FROM fill"
+            "INSERT INTO documents SELECT Number + @, RecipeText, IngredientsText FROM fill"
             " JOIN documents ON documents.RecipeID = fill.RecipeID",
-            "INSERT INTO listing SELECT ListedAt - @, Place + @, RecipeName, ServingName, PrepTime,"
-            " Calories FROM fill JOIN listing ON listing.RecipeID = fill.RecipeID",
-            "INSERT INTO words SELECT Word, ListedAt - @, Place + @ FROM fill_words"};
+            "INSERT INTO listing (RecipeID, ListedAt, RecipeName, ServingName, PrepTime, Calories)"
+            " SELECT Number + @, ListedAt - @, RecipeName, ServingName, PrepTime, Calories"
+            " FROM fill JOIN listing ON listing.RecipeID = fill.RecipeID ORDER BY Number"};
 }
 
-void Copy(Connection& connection, int first) {
+/// The copies were listed last, in their order.
+void AddWords(Connection& connection, const std::vector<std::vector<std::string>>& words) {
+    long long place = 0;
+    connection.First("SELECT MAX(Place) FROM listing", soci::into(place));
+    place -= static_cast<long long>(words.size());
+    for (const auto& some : words)
+        RecipeSearch(connection).Add(++place, some);
+}
+
+void Copy(Connection& connection, int first, const std::vector<std::vector<std::string>>& words) {
     Transaction transaction(connection);
     for (auto statement : Copies()) {
         ReplaceAll(statement, "@", std::to_string(first));
         connection.Once(statement);
     }
+    AddWords(connection, words);
     transaction.Commit();
 }
 } // namespace
@@ -112,10 +128,10 @@ std::vector<int> With(const std::string& database, int recipes) {
     Connection connection(database);
     if (!database.starts_with("postgresql"))
         connection.Once("PRAGMA synchronous=OFF");
-    StoreOriginals(connection, recipes);
+    const auto words = StoreOriginals(connection, recipes);
     std::vector<int> ids;
     for (int first = 2; first + Originals <= recipes + 2; first += Originals) {
-        Copy(connection, first);
+        Copy(connection, first, words);
         for (int place = 0; place < Originals; ++place)
             ids.push_back(first + place);
     }

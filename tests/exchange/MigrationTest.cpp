@@ -186,8 +186,10 @@ TEST_P(MigrationTest, ARunningExchangeIsTakenOverWithNothingLost) {
     for (int position = 1; position <= exchange::NutrientCount; ++position)
         EXPECT_EQ(exchange::Lower(ColumnAt(position)),
                   exchange::Lower(names[static_cast<size_t>(position)]));
-    EXPECT_EQ(Text("/halvane/community.asp?q=recipe+9999").find("Nothing found"),
+    EXPECT_NE(Text("/halvane/community.asp?q=recipe+9999+food").find("recID=10000\">"),
               std::string::npos);
+    EXPECT_LT(Text("/halvane/community.asp").find("recID=10000\">"),
+              Text("/halvane/community.asp").find("recID=9998\">"));
 }
 
 TEST_P(MigrationTest, ARecipeThatWasBegunBeforeIsFinishedAfterwards) {

@@ -165,7 +165,7 @@ TEST_P(OperationTest, ARemovedRecipeIsGoneFromEveryPlace) {
     EXPECT_EQ(RunServer({"--check"}).code, 0);
     ::unsetenv("HALVANE_EXCHANGE_DATABASE");
     EXPECT_EQ(Get("/halvane/api/recipes/" + id)->status, 404);
-    for (const auto* table : {"recipes", "ingredients", "documents", "listing", "words"})
+    for (const auto* table : {"recipes", "ingredients", "documents", "listing", "search"})
         EXPECT_EQ(Count("SELECT COUNT(*) FROM " + std::string(table)), 0) << table;
 }
 
