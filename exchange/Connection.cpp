@@ -4,6 +4,7 @@
 #include <soci/sqlite3/soci-sqlite3.h>
 
 #include <span>
+#include <sys/socket.h>
 
 namespace exchange {
 namespace {
@@ -13,10 +14,17 @@ bool IsFile(std::string_view database) {
     return !database.starts_with(ServerPrefix);
 }
 
+constexpr std::chrono::seconds LongestRead(5);
+constexpr std::chrono::seconds LongestWrite(20);
+
 /// A database server that has vanished is noticed in seconds, unless the setting says otherwise.
 std::string WithTimeouts(std::string server) {
     constexpr std::pair<std::string_view, std::string_view> timeouts[] = {
-        {"connect_timeout=", "5"}, {"tcp_user_timeout=", "20000"}};
+        {"connect_timeout=", "5"},
+        {"tcp_user_timeout=", "10000"},
+        {"keepalives_idle=", "5"},
+        {"keepalives_interval=", "2"},
+        {"keepalives_count=", "3"}};
     const bool isAddress = server.starts_with("postgresql://");
     for (const auto& [name, value] : timeouts) {
         if (server.find(name) != std::string::npos)
@@ -29,7 +37,7 @@ std::string WithTimeouts(std::string server) {
 
 soci::connection_parameters Parameters(const std::string& database) {
     if (IsFile(database))
-        return {soci::sqlite3, "db=\"" + database + "\" timeout=20 shared_cache=false"};
+        return {soci::sqlite3, "db=\"" + database + "\" timeout=10 shared_cache=false"};
     if (database.starts_with("postgresql://"))
         return {soci::postgresql, WithTimeouts(database)};
     return {soci::postgresql, WithTimeouts(database.substr(ServerPrefix.size()))};
@@ -44,13 +52,46 @@ constexpr const char* EmbeddedSettings[] = {"PRAGMA journal_mode=WAL", "PRAGMA s
 /// transaction must not stop the others for long.
 constexpr const char* ServerSettings[] = {
     "SET client_min_messages = warning", "SET lock_timeout = '10s'",
-    "SET idle_in_transaction_session_timeout = '30s'", "SET enable_seqscan = off"};
+    "SET statement_timeout = '25s'", "SET idle_in_transaction_session_timeout = '30s'",
+    "SET enable_seqscan = off"};
 } // namespace
 
 Connection::Connection(const std::string& database)
     : embedded_(IsFile(database))
-    , session_(Parameters(database)) {
+    , session_(Parameters(database))
+    , watch_([this] { Interrupt(); }) {
+    const Timed timed(*this, true);
     Tune();
+}
+
+/// Each statement would still be taken back at the server, which may have stopped answering.
+Connection::~Connection() {
+    if (!embedded_)
+        Interrupt();
+}
+
+Connection::Timed::Timed(Connection& connection, bool writes)
+    : connection_(connection) {
+    if (!connection_.unhurried_)
+        connection_.watch_.Begin(writes ? LongestWrite : LongestRead);
+}
+
+void Connection::Interrupt() {
+    auto* backend = session_.get_backend();
+    if (embedded_)
+        sqlite_api::sqlite3_interrupt(static_cast<soci::sqlite3_session_backend*>(backend)->conn_);
+    else
+        ::shutdown(PQsocket(static_cast<soci::postgresql_session_backend*>(backend)->conn_),
+                   SHUT_RDWR);
+}
+
+WriteGate& Connection::Gate() {
+    static WriteGate gate(4);
+    return gate;
+}
+
+void Connection::SetWriters(int seats) {
+    Gate().SetSeats(seats);
 }
 
 void Connection::Tune() {
@@ -70,11 +111,6 @@ soci::statement& Connection::Prepared(std::string_view sql) {
     return *statements_.emplace(sql, std::move(statement)).first->second;
 }
 
-std::unique_lock<std::mutex> Connection::TakeTurn() const {
-    static std::mutex turn;
-    return embedded_ && !inTransaction_ ? std::unique_lock(turn) : std::unique_lock<std::mutex>();
-}
-
 /// The first line alone, without its context: in both the values are quoted.
 std::string Connection::Describe(const std::exception& error) {
     const auto* failure = dynamic_cast<const soci::soci_error*>(&error);
@@ -84,9 +120,32 @@ std::string Connection::Describe(const std::exception& error) {
 
 Transaction::Transaction(Connection& connection)
     : connection_(connection)
-    , turn_(connection.TakeTurn())
-    , transaction_(connection.session_) {
+    , turn_(Connection::Gate(), connection.embedded_) {
+    const Connection::Timed timed(connection_, true);
+    transaction_.emplace(connection_.session_);
     connection_.inTransaction_ = true;
+}
+
+Transaction::~Transaction() {
+    const Connection::Timed timed(connection_, true);
+    transaction_.reset();
+    connection_.inTransaction_ = false;
+    connection_.unhurried_ = false;
+}
+
+void Transaction::Commit() {
+    const Connection::Timed timed(connection_, true);
+    transaction_->commit();
+}
+
+void Transaction::Unhurry() {
+    connection_.unhurried_ = true;
+    connection_.watch_.End();
+    if (connection_.embedded_)
+        return;
+    for (const auto* name :
+         {"statement_timeout", "lock_timeout", "idle_in_transaction_session_timeout"})
+        connection_.Once("SET LOCAL " + std::string(name) + " = 0");
 }
 
 } // namespace exchange

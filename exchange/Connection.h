@@ -1,10 +1,12 @@
 #pragma once
 
+#include "exchange/Watchdog.h"
+#include "exchange/WriteGate.h"
+
 #include <soci/soci.h>
 
 #include <map>
 #include <memory>
-#include <mutex>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -27,16 +29,24 @@ namespace exchange {
 
 /// One connection to the database, for one thread at a time. A statement is prepared at its first
 /// use and kept. The statements are the same on SQLite and PostgreSQL; what differs between the two
-/// ends in this class. After an exception the connection must not be used again.
+/// ends in this class. A statement that takes too long fails: after 5 seconds if it reads, after 20
+/// if it writes. After an exception the connection must not be used again.
 class Connection {
 public:
     /// `database` is what the setting of that name holds: the path of an SQLite file, or an address
     /// that begins with postgresql:// or postgresql:.
     explicit Connection(const std::string& database);
+    ~Connection();
+    Connection(const Connection&) = delete;
+    Connection& operator=(const Connection&) = delete;
+
+    /// How many may write or wait for their turn at the same time, in this process.
+    static void SetWriters(int seats);
 
     /// Runs a statement of at most one row; the rest are soci::use and soci::into of variables.
     /// Tells whether there is a row, which has been read into the variables.
     template <class... Exchanges> bool First(std::string_view sql, const Exchanges&... exchanges) {
+        const Timed timed(*this, inTransaction_);
         auto& statement = Bound(sql, exchanges...);
         const bool found = statement.execute(true);
         if (found)
@@ -44,9 +54,18 @@ public:
         return found;
     }
 
+    /// Runs a statement that changes at most :n rows, its last parameter, until there are no more:
+    /// others get their turn between the portions.
+    template <class... Exchanges> void ChangeAll(std::string_view sql, const Exchanges&... uses) {
+        constexpr int portion = 500;
+        while (Change(sql, uses..., soci::use(portion)) == portion) {
+        }
+    }
+
     /// Runs a statement and calls back for each row, which has been read into the variables.
     template <class Row, class... Exchanges>
     void Each(std::string_view sql, const Row& row, const Exchanges&... exchanges) {
+        const Timed timed(*this, inTransaction_);
         auto& statement = Bound(sql, exchanges...);
         for (bool more = statement.execute(true); more; more = statement.fetch())
             row();
@@ -54,7 +73,10 @@ public:
 
     /// Runs a statement and tells how many rows it changed.
     template <class... Exchanges> long long Change(std::string_view sql, const Exchanges&... uses) {
-        const auto turn = TakeTurn();
+        std::optional<WriteGate::Turn> turn;
+        if (!inTransaction_)
+            turn.emplace(Gate(), embedded_);
+        const Timed timed(*this, true);
         auto& statement = Bound(sql, uses...);
         statement.execute(true);
         return statement.get_affected_rows();
@@ -62,7 +84,7 @@ public:
 
     bool IsEmbedded() const { return embedded_; }
 
-    /// One statement that is not kept.
+    /// One statement that is not kept, without a limit to its time.
     void Once(const std::string& sql) { session_.once << sql; }
 
     /// What a log may say of an error: nothing of the values that a statement was run with.
@@ -70,10 +92,22 @@ public:
 
 private:
     friend class Transaction;
+    /// Runs while a statement does.
+    class Timed {
+    public:
+        Timed(Connection& connection, bool writes);
+        ~Timed() { connection_.watch_.End(); }
+        Timed(const Timed&) = delete;
+        Timed& operator=(const Timed&) = delete;
+
+    private:
+        Connection& connection_;
+    };
+
     void Tune();
-    /// In the embedded database the writers of a process queue here and not at the file, where
-    /// whoever waits longest has the least chance. Empty within a transaction, which has its turn.
-    std::unique_lock<std::mutex> TakeTurn() const;
+    /// Makes the statement that runs fail, at once and from another thread.
+    void Interrupt();
+    static WriteGate& Gate();
     soci::statement& Prepared(std::string_view sql);
 
     template <class... Exchanges>
@@ -87,8 +121,10 @@ private:
 
     bool embedded_;
     bool inTransaction_ = false;
+    bool unhurried_ = false;
     soci::session session_;
     std::map<std::string, std::unique_ptr<soci::statement>, std::less<>> statements_;
+    Watchdog::Watch watch_; ///< ends before what it interrupts
 };
 
 /// All or nothing: rolled back unless committed. Begins with a statement that writes, so that two
@@ -96,15 +132,17 @@ private:
 class Transaction {
 public:
     explicit Transaction(Connection& connection);
-    ~Transaction() { connection_.inTransaction_ = false; }
+    ~Transaction();
     Transaction(const Transaction&) = delete;
     Transaction& operator=(const Transaction&) = delete;
-    void Commit() { transaction_.commit(); }
+    void Commit();
+    /// Its statements may take any time: for a change of the tables, before the server serves.
+    void Unhurry();
 
 private:
     Connection& connection_;
-    std::unique_lock<std::mutex> turn_;
-    soci::transaction transaction_;
+    WriteGate::Turn turn_;
+    std::optional<soci::transaction> transaction_;
 };
 
 } // namespace exchange

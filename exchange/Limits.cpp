@@ -52,7 +52,9 @@ bool Limits::CountToday(Connection& connection, std::string_view what, const Vis
 
 void Limits::ForgetOld(Connection& connection) {
     const auto oldest = Moment::Now() / Moment::Hour - 48;
-    connection.Change("DELETE FROM counters WHERE Slot < :slot", soci::use(oldest));
+    connection.ChangeAll("DELETE FROM counters WHERE (Name, Slot) IN (SELECT Name, Slot"
+                         " FROM counters WHERE Slot < :slot LIMIT :n)",
+                         soci::use(oldest));
 }
 
 } // namespace exchange

@@ -10,6 +10,7 @@ namespace {
 /// The row of the step comes first: a second server waits at it, and then finds it there.
 void Take(Connection& connection, int number, SchemaSteps::Step step) {
     Transaction transaction(connection);
+    transaction.Unhurry();
     if (connection.Change("INSERT INTO schema_steps (Step) VALUES (:n) ON CONFLICT DO NOTHING",
                           soci::use(number)) == 0)
         return;

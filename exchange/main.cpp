@@ -117,6 +117,7 @@ void Serve(const Config& config, Pool& pool) {
     const auto ends = HoldSignals();
     ClaimDescriptors(config);
     KeepMemorySmall();
+    Connection::SetWriters(std::max(1, config.workers / 2));
     const auto secret = SecretOf(config);
     BringUpToDate(pool);
     const Limits limits(secret);
@@ -143,6 +144,7 @@ void Serve(const Config& config, Pool& pool) {
     int signal = 0;
     sigwait(&ends, &signal);
     Supervisor::TellEnding();
+    Watchdog::Hurry();
     front.Stop();
     Log::Info("ended");
 }

@@ -8,6 +8,7 @@
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <pwd.h>
+#include <sstream>
 #include <unistd.h>
 
 namespace {
@@ -76,6 +77,29 @@ void Cluster::Stop() {
     if (!process_)
         return;
     process_->Signal(SIGINT);
+    process_->Wait();
+    process_.reset();
+}
+
+/// The processes that serve connections are children of the first one.
+void Cluster::SignalAll(int signal) const {
+    const auto id = std::to_string(process_->ID());
+    process_->Signal(signal);
+    std::istringstream children(ReadFile("/proc/" + id + "/task/" + id + "/children"));
+    for (pid_t child = 0; children >> child;)
+        ::kill(child, signal);
+}
+
+void Cluster::Freeze() {
+    SignalAll(SIGSTOP);
+}
+
+void Cluster::Thaw() {
+    SignalAll(SIGCONT);
+}
+
+void Cluster::Kill() {
+    SignalAll(SIGKILL);
     process_->Wait();
     process_.reset();
 }

@@ -16,11 +16,15 @@ public:
     std::string Socket() const { return folder_.Path(); }
     static std::string Tool(const std::string& name);
     void Stop();
+    void Freeze(); ///< every process of it, until Thaw
+    void Thaw();
+    void Kill();
     void Start();
     ~Cluster();
 
 private:
     Cluster();
+    void SignalAll(int signal) const;
     Folder folder_;
     std::unique_ptr<Process> process_;
     int databases_ = 0;

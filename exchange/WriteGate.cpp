@@ -1,0 +1,53 @@
+#include "exchange/WriteGate.h"
+
+#include <stdexcept>
+
+namespace exchange {
+namespace {
+/// When nobody has come or gone for so long, writing is held up.
+constexpr std::chrono::seconds Standstill(1);
+constexpr std::chrono::seconds LongestWait(10);
+} // namespace
+
+WriteGate::Turn::Turn(WriteGate& gate, bool alone)
+    : gate_(gate)
+    , alone_(alone) {
+    std::unique_lock lock(gate_.mutex_);
+    gate_.TakeSeat(lock);
+    if (!alone_)
+        return;
+    if (!gate_.moved_.wait_for(lock, LongestWait, [this] { return !gate_.writing_; })) {
+        gate_.LeaveSeat();
+        throw std::runtime_error("the writer did not get its turn in time");
+    }
+    gate_.writing_ = true;
+}
+
+WriteGate::Turn::~Turn() {
+    const std::lock_guard lock(gate_.mutex_);
+    if (alone_)
+        gate_.writing_ = false;
+    gate_.LeaveSeat();
+}
+
+void WriteGate::SetSeats(int seats) {
+    const std::lock_guard lock(mutex_);
+    seats_ = seats;
+}
+
+void WriteGate::TakeSeat(std::unique_lock<std::mutex>& lock) {
+    while (taken_ >= seats_)
+        if (moved_.wait_until(lock, lastMove_ + Standstill) == std::cv_status::timeout &&
+            Clock::now() >= lastMove_ + Standstill && taken_ >= seats_)
+            throw std::runtime_error("writing is held up");
+    ++taken_;
+    lastMove_ = Clock::now();
+}
+
+void WriteGate::LeaveSeat() {
+    --taken_;
+    lastMove_ = Clock::now();
+    moved_.notify_all();
+}
+
+} // namespace exchange

@@ -1,0 +1,152 @@
+#include "support/ExchangeTest.h"
+#include "support/Proxy.h"
+#include "support/Until.h"
+
+#include <chrono>
+#include <csignal>
+#include <future>
+#include <thread>
+
+namespace {
+using Clock = std::chrono::steady_clock;
+using std::chrono::seconds;
+} // namespace
+
+/// A database that hangs costs a reader and a writer a bounded time, and then all is well again.
+class DeadlineTest : public ExchangeTest {
+protected:
+    int StatusOf(const std::string& path) {
+        const auto reply = Get(path);
+        return reply ? reply->status : 0;
+    }
+    /// How long a request takes; it must be answered with 503.
+    Clock::duration TimeToFail(const std::string& path) {
+        const auto begin = Clock::now();
+        EXPECT_EQ(StatusOf(path), 503) << path;
+        return Clock::now() - begin;
+    }
+    void ExpectWellAgain(const std::string& path) {
+        EXPECT_TRUE(Until([&] { return StatusOf(path) == 200; }));
+        EXPECT_EQ(Post("/halvane/api/recipes", Soup())->status, 201);
+    }
+};
+
+/// On PostgreSQL, which can stop answering in many ways.
+class ServerDeadlineTest : public DeadlineTest {
+protected:
+    void ExpectEndsSoon() {
+        const auto begin = Clock::now();
+        EXPECT_EQ(Running().End(), 0);
+        EXPECT_LT(Clock::now() - begin, seconds(10));
+    }
+    static std::string Name(const std::string& database) {
+        return database.substr(database.rfind('=') + 1);
+    }
+};
+INSTANTIATE_TEST_SUITE_P(DeadlineTest, ServerDeadlineTest, testing::Values("postgresql"));
+
+TEST_P(ServerDeadlineTest, AServerThatIsFrozenIsGivenUpInSecondsAndUsedAgain) {
+    Start();
+    const auto path = "/halvane/api/recipes/" + std::to_string(Send());
+    EXPECT_EQ(StatusOf(path), 200);
+    Cluster::One().Freeze();
+    EXPECT_LT(TimeToFail(path), seconds(8));
+    const auto begin = Clock::now();
+    const auto sentence = Get("/halvane/sendrecipe.asp?recID=7");
+    EXPECT_LT(Clock::now() - begin, seconds(8));
+    EXPECT_EQ(sentence->status, 503);
+    EXPECT_EQ(sentence->body.front(), 'T');
+    Cluster::One().Thaw();
+    ExpectWellAgain(path);
+}
+
+TEST_P(ServerDeadlineTest, ASignalEndsTheServerWhoseDatabaseIsFrozen) {
+    Start();
+    const auto path = "/halvane/api/recipes/" + std::to_string(Send());
+    Cluster::One().Freeze();
+    std::vector<std::future<int>> waiting;
+    for (int i = 0; i < 4; ++i)
+        waiting.push_back(std::async(std::launch::async, [&] { return StatusOf(path); }));
+    std::this_thread::sleep_for(std::chrono::milliseconds(200));
+    ExpectEndsSoon();
+    Cluster::One().Thaw();
+}
+
+TEST_P(ServerDeadlineTest, AServerThatIsKilledAndStartedAgainIsUsedAgain) {
+    Start();
+    const auto path = "/halvane/api/recipes/" + std::to_string(Send());
+    Cluster::One().Kill();
+    EXPECT_LT(TimeToFail(path), seconds(8));
+    Cluster::One().Start();
+    ExpectWellAgain(path);
+}
+
+TEST_P(ServerDeadlineTest, ALineThatIsCutIsNoticedInSeconds) {
+    Proxy proxy(Cluster::One().Socket() + "/.s.PGSQL.5432");
+    const auto address =
+        "postgresql://postgres@127.0.0.1:" + std::to_string(proxy.Port()) + "/" + Name(Database());
+    Start({{"database", address}});
+    const auto path = "/halvane/api/recipes/" + std::to_string(Send());
+    proxy.Cut();
+    EXPECT_LT(TimeToFail(path), seconds(8));
+    proxy.Mend();
+    ExpectWellAgain(path);
+    proxy.Cut();
+    ExpectEndsSoon();
+}
+
+TEST_P(ServerDeadlineTest, AReadThatTakesTooLongIsEndedAndTheNextOneIsServed) {
+    exchange::Connection connection(Database());
+    std::string nothing;
+    const auto begin = Clock::now();
+    EXPECT_THROW(connection.First("SELECT CAST(pg_sleep(60) AS TEXT)", soci::into(nothing)),
+                 std::exception);
+    EXPECT_LT(Clock::now() - begin, seconds(7));
+    EXPECT_EQ(Cell("SELECT 'x'"), "x");
+}
+
+/// On SQLite, where one writes at a time.
+class FileDeadlineTest : public DeadlineTest {};
+INSTANTIATE_TEST_SUITE_P(DeadlineTest, FileDeadlineTest, testing::Values("sqlite"));
+
+TEST_P(FileDeadlineTest, ReadersGoOnWhileWritersWaitForAnotherProgram) {
+    Start({{"misses_per_client_hour", "100000"}});
+    const auto path = "/halvane/api/recipes/" + std::to_string(Send());
+    exchange::Connection holder(Database());
+    std::vector<std::future<int>> writers;
+    Clock::duration longest{};
+    {
+        exchange::Transaction held(holder);
+        holder.Change("UPDATE settings SET Value = Value");
+        for (int i = 0; i < 16; ++i)
+            writers.push_back(std::async(std::launch::async, [this] {
+                return Running()
+                    .Client()
+                    .Post("/halvane/api/recipes", Soup().dump(), "application/json")
+                    ->status;
+            }));
+        std::this_thread::sleep_for(std::chrono::milliseconds(1500));
+        for (int i = 0; i < 50; ++i) {
+            const auto begin = Clock::now();
+            EXPECT_EQ(StatusOf(path), 200);
+            longest = std::max(longest, Clock::now() - begin);
+        }
+    }
+    EXPECT_LT(longest, seconds(1));
+    for (auto& writer : writers) {
+        const int status = writer.get();
+        EXPECT_TRUE(status == 201 || status == 503) << status;
+    }
+    EXPECT_EQ(Post("/halvane/api/recipes", Soup())->status, 201);
+}
+
+TEST_P(FileDeadlineTest, AReadThatTakesTooLongIsEnded) {
+    exchange::Connection connection(Database());
+    long long count = 0;
+    const auto begin = Clock::now();
+    EXPECT_THROW(connection.First("WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n)"
+                                  " SELECT COUNT(*) FROM n",
+                                  soci::into(count)),
+                 std::exception);
+    EXPECT_LT(Clock::now() - begin, seconds(7));
+}
