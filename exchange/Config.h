@@ -35,6 +35,7 @@ struct Config {
     std::string mail_password;
     std::string mail_tls = "required";
     int mail_seconds = 15;
+    int mail_retry_seconds = 60;
 
     int body_bytes = 1 << 20;
     int bodies_bytes = 128 << 20;

@@ -52,8 +52,8 @@ constexpr const char* EmbeddedSettings[] = {"PRAGMA journal_mode=WAL", "PRAGMA s
 /// transaction must not stop the others for long.
 constexpr const char* ServerSettings[] = {
     "SET client_min_messages = warning", "SET lock_timeout = '10s'",
-    "SET statement_timeout = '25s'", "SET idle_in_transaction_session_timeout = '30s'",
-    "SET enable_seqscan = off"};
+    "SET statement_timeout = '25s'",     "SET idle_in_transaction_session_timeout = '30s'",
+    "SET enable_seqscan = off",          "SET jit = off"};
 } // namespace
 
 Connection::Connection(const std::string& database)

@@ -51,6 +51,8 @@ constexpr Limit Table[] = {
      "to answer complaints", "forgotten"},
     {"time for a mail", "mail_seconds", &Config::mail_seconds, 1, 25, "seconds",
      "a relay that hangs is left", "tried again later"},
+    {"pause before the second try", "mail_retry_seconds", &Config::mail_retry_seconds, 1, 3600,
+     "seconds", "a relay that greylists asks for patience", "doubled at each try, for two days"},
 };
 } // namespace
 

@@ -2,7 +2,6 @@
 
 #include "exchange/Moment.h"
 #include "exchange/Numbers.h"
-#include "exchange/Secrets.h"
 #include "exchange/ShownText.h"
 #include "exchange/Text.h"
 
@@ -131,7 +130,8 @@ std::string NoMailHeaders(const Config& config, const std::string& link) {
 }
 } // namespace
 
-std::string MailOf(const Recipe& recipe, const Config& config, const std::string& noMailToken) {
+std::string MailOf(const Recipe& recipe, const Config& config, const std::string& messageID,
+                   const std::string& noMailToken) {
     const auto link = NoMailLink(config, noMailToken);
     const auto domain = config.mail_from.substr(config.mail_from.find('@') + 1);
     std::string mail = Header("Date", Moment::Written("%a, %d %b %Y %H:%M:%S +0000"));
@@ -141,7 +141,7 @@ std::string MailOf(const Recipe& recipe, const Config& config, const std::string
     mail +=
         Header("Subject", Encoded("A recipe for you: " +
                                   ShownText::Name(recipe.name.value_or(""), ShownText::InList)));
-    mail += Header("Message-ID", "<" + Secrets::RandomToken().substr(0, 32) + "@" + domain + ">");
+    mail += Header("Message-ID", "<" + messageID + "@" + domain + ">");
     mail += NoMailHeaders(config, link);
     mail += Header("MIME-Version", "1.0");
     mail += Header("Content-Type", "text/plain; charset=utf-8");

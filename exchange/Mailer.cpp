@@ -25,6 +25,19 @@ long Tls(const std::string& wanted) {
     return wanted == "tried" ? CURLUSESSL_TRY : CURLUSESSL_ALL;
 }
 
+int IsEnding(void* ending, curl_off_t, curl_off_t, curl_off_t, curl_off_t) {
+    return *static_cast<const std::atomic<bool>*>(ending) ? 1 : 0;
+}
+
+/// The relay refused the recipient or the mail itself. What it says against us (a password, TLS) is
+/// for the operator to put right, and the mail can wait for that.
+bool IsFinal(CURL* curl, CURLcode result) {
+    long code = 0;
+    curl_easy_getinfo(curl, CURLINFO_RESPONSE_CODE, &code);
+    return code / 100 == 5 && (result == CURLE_SEND_ERROR || result == CURLE_WEIRD_SERVER_REPLY ||
+                               result == CURLE_RECV_ERROR);
+}
+
 /// The host name of the service's own address, by which it greets the relay.
 std::string Greeting(const std::string& address) {
     return address.substr(address.find('@') + 1);
@@ -40,15 +53,8 @@ Mailer::~Mailer() {
     curl_global_cleanup();
 }
 
-bool Mailer::Send(const std::string& to, const std::string& mail) const {
-    if (!places_.try_acquire())
-        return false;
-    const bool sent = Transfer(to, mail);
-    places_.release();
-    return sent;
-}
-
-bool Mailer::Transfer(const std::string& to, const std::string& mail) const {
+Mailer::Result Mailer::Send(const std::string& to, const std::string& mail,
+                            const std::atomic<bool>& ending) const {
     const std::unique_ptr<CURL, void (*)(CURL*)> curl(curl_easy_init(), curl_easy_cleanup);
     const std::unique_ptr<curl_slist, void (*)(curl_slist*)> recipients(
         curl_slist_append(nullptr, ("<" + to + ">").c_str()), curl_slist_free_all);
@@ -64,6 +70,9 @@ bool Mailer::Transfer(const std::string& to, const std::string& mail) const {
     set(CURLOPT_USE_SSL, Tls(config_.mail_tls));
     set(CURLOPT_TIMEOUT, long{config_.mail_seconds});
     set(CURLOPT_NOSIGNAL, 1L);
+    set(CURLOPT_NOPROGRESS, 0L);
+    set(CURLOPT_XFERINFOFUNCTION, IsEnding);
+    set(CURLOPT_XFERINFODATA, static_cast<const void*>(&ending));
     set(CURLOPT_MAIL_FROM, ("<" + config_.mail_from + ">").c_str());
     set(CURLOPT_MAIL_RCPT, recipients.get());
     set(CURLOPT_READFUNCTION, Feed);
@@ -74,9 +83,10 @@ bool Mailer::Transfer(const std::string& to, const std::string& mail) const {
         set(CURLOPT_PASSWORD, config_.mail_password.c_str());
     }
     const auto result = curl_easy_perform(curl.get());
-    if (result != CURLE_OK)
-        Log::Error("mail", {{"what", std::string_view(curl_easy_strerror(result))}});
-    return result == CURLE_OK;
+    if (result == CURLE_OK)
+        return Result::Taken;
+    Log::Error("mail", {{"what", std::string_view(curl_easy_strerror(result))}});
+    return IsFinal(curl.get(), result) ? Result::Refused : Result::Later;
 }
 
 } // namespace exchange

@@ -2,13 +2,12 @@
 
 #include "exchange/Config.h"
 
-#include <semaphore>
+#include <atomic>
 #include <string>
 
 namespace exchange {
 
-/// Hands mails to the relay of the configuration. A few at a time: a relay that hangs leaves most
-/// of the workers free.
+/// Hands mails to the relay of the configuration.
 class Mailer {
 public:
     explicit Mailer(const Config& config);
@@ -16,15 +15,15 @@ public:
     Mailer(const Mailer&) = delete;
     Mailer& operator=(const Mailer&) = delete;
 
-    /// True once the relay has taken the mail. Never throws.
-    bool Send(const std::string& to, const std::string& mail) const;
+    /// `Later`: the relay could not be reached, or does not take the mail just now. `Refused`: it
+    /// will never take it.
+    enum class Result { Taken, Later, Refused };
+    /// Breaks off once `ending` is set. Never throws.
+    Result Send(const std::string& to, const std::string& mail,
+                const std::atomic<bool>& ending) const;
 
 private:
-    static constexpr int AtATime = 3;
-    bool Transfer(const std::string& to, const std::string& mail) const;
-
     const Config& config_;
-    mutable std::counting_semaphore<AtATime> places_{AtATime};
 };
 
 } // namespace exchange

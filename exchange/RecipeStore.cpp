@@ -170,13 +170,11 @@ std::optional<Recipe> RecipeStore::ReadWhole(int id) {
 
 std::optional<Recipe> RecipeStore::Finish(int id) {
     const auto now = Moment::Now();
-    Transaction transaction(connection_);
     if (connection_.Change(Claim, use(now), use(id)) == 0)
         return {};
     auto recipe = ReadRow(id);
     ReadIngredients(*recipe);
     MakeReadable(*recipe, now);
-    transaction.Commit();
     return recipe;
 }
 
@@ -281,14 +279,16 @@ bool RecipeStore::Remove(int id) {
 }
 
 void RecipeStore::SweepUnfinished(long long createdBefore) {
-    connection_.Change("DELETE FROM recipes WHERE SentAt = 0 AND CreatedAt < :moment",
-                       use(createdBefore));
+    connection_.ChangeAll("DELETE FROM recipes WHERE RecipeID IN (SELECT RecipeID FROM recipes"
+                          " WHERE SentAt = 0 AND CreatedAt < :moment LIMIT :n)",
+                          use(createdBefore));
 }
 
 void RecipeStore::ForgetAddresses(long long sentBefore) {
-    connection_.Change("UPDATE recipes SET EMAILFROM = '', EMAILTO = ''"
-                       " WHERE EMAILTO <> '' AND SentAt <> 0 AND SentAt < :moment",
-                       use(sentBefore));
+    connection_.ChangeAll("UPDATE recipes SET EMAILFROM = '', EMAILTO = '' WHERE RecipeID IN"
+                          " (SELECT RecipeID FROM recipes WHERE EMAILTO <> '' AND SentAt <> 0"
+                          " AND SentAt < :moment LIMIT :n)",
+                          use(sentBefore));
 }
 
 } // namespace exchange

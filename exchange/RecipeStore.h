@@ -47,7 +47,7 @@ public:
     std::optional<State> Find(int id);
 
     /// Makes an unfinished recipe readable; nothing if it is not there or was sent before. Exactly
-    /// one caller ever gets the recipe.
+    /// one caller ever gets the recipe. For the caller's transaction.
     std::optional<Recipe> Finish(int id);
     void NoteMailed(int id);
 

@@ -73,7 +73,17 @@ void MakeModerationTables(Connection& connection) {
         });
 }
 
-constexpr Step Steps[] = {MakeTables, ColumnOrderStep::Take, MakeModerationTables, SearchStep::Take};
+/// Mails on their way. The addresses are kept here, too, as those of the recipe may have to go.
+void MakeOutbox(Connection& connection) {
+    Run(connection, {"CREATE TABLE outbox ("
+                     " RecipeID INTEGER NOT NULL PRIMARY KEY REFERENCES recipes ON DELETE CASCADE,"
+                     " Sender TEXT NOT NULL, Recipient TEXT NOT NULL, MessageID TEXT NOT NULL,"
+                     " QueuedAt BIGINT NOT NULL, Due BIGINT NOT NULL, Tries INTEGER NOT NULL)",
+                     "CREATE INDEX outbox_due ON outbox (Due)"});
+}
+
+constexpr Step Steps[] = {MakeTables, ColumnOrderStep::Take, MakeModerationTables, SearchStep::Take,
+                          MakeOutbox};
 } // namespace
 
 std::span<const Step> All() {

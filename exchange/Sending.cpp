@@ -1,15 +1,11 @@
 #include "exchange/Sending.h"
 
-#include "exchange/Mail.h"
 #include "exchange/MailAddress.h"
+#include "exchange/Outbox.h"
 #include "exchange/RecipeID.h"
 
 namespace exchange {
 namespace {
-std::string Stored(int id) {
-    return "Your recipe is stored under the recipe ID " + std::to_string(id) + ". ";
-}
-
 std::string NotAnAddress(const std::string& whose) {
     return whose + " is not one that mail can be sent with, so your recipe was not sent. Please "
                    "correct it and send the recipe again.";
@@ -56,43 +52,60 @@ Sending::Outcome Sending::SendUnfinished(Connection& connection, int id,
         if (!IsMailAddress(state.from))
             return {200, NotAnAddress("Your email address")};
     }
-    const auto recipe = state.sent ? std::nullopt : RecipeStore(connection).Finish(id);
-    if (!recipe)
-        return {200,
-                "This recipe has already been sent. Its recipe ID is " + std::to_string(id) + "."};
-    return MailIt(connection, *recipe, visitor);
+    return state.sent ? AlreadySent(id) : Complete(connection, id, state.to, visitor);
 }
 
-/// All or nothing: a mail that one of the limits forbids uses up nothing of the others.
+/// All or nothing: a recipe that is not mailed uses up nothing of the limits.
+bool Sending::CompleteWithMail(Connection& connection, int id, const Visitor& visitor) const {
+    Transaction transaction(connection);
+    const auto recipe = RecipeStore(connection).Finish(id);
+    if (!recipe || !MayMail(connection, recipe->to, visitor))
+        return false;
+    Outbox(connection).Add(*recipe);
+    transaction.Commit();
+    return true;
+}
+
+bool Sending::CompleteAlone(Connection& connection, int id) const {
+    Transaction transaction(connection);
+    const bool completed = RecipeStore(connection).Finish(id).has_value();
+    transaction.Commit();
+    return completed;
+}
+
+/// Empty if a mail may go out, as far as the limits allow.
+std::string Sending::WhyNoMail(Connection& connection, const std::string& to) const {
+    if (!service_.config.Mails())
+        return "This server sends no mail.";
+    return noMail_.Holds(connection, to) ? "Your friend wants no mails from here." : "";
+}
+
+Sending::Outcome Sending::Complete(Connection& connection, int id, const std::string& to,
+                                   const Visitor& visitor) const {
+    const auto number = std::to_string(id);
+    const auto why = WhyNoMail(connection, to);
+    if (why.empty() && CompleteWithMail(connection, id, visitor))
+        return {200, "Your recipe is on its way to your friend. Its recipe ID is " + number + "."};
+    if (!CompleteAlone(connection, id))
+        return AlreadySent(id);
+    return {200, "Your recipe is stored under the recipe ID " + number + ". " +
+                     (why.empty() ? "No mail was sent, as the limit for today is reached." : why) +
+                     " "
+                     "Please tell your friend this number: it is all that Import Recipe needs."};
+}
+
+/// For the caller's transaction.
 bool Sending::MayMail(Connection& connection, const std::string& to, const Visitor& visitor) const {
     const auto& config = service_.config;
     const auto& limits = service_.limits;
-    Transaction transaction(connection);
-    const bool may = Limits::Count(connection, limits.Daily("mail to", MailboxOf(to)),
-                                   config.mails_per_recipient_day) &&
-                     limits.CountToday(connection, "mail", visitor, config.mails_per_client_day,
-                                       config.mails_per_day);
-    if (may)
-        transaction.Commit();
-    return may;
+    return Limits::Count(connection, limits.Daily("mail to", MailboxOf(to)),
+                         config.mails_per_recipient_day) &&
+           limits.CountToday(connection, "mail", visitor, config.mails_per_client_day,
+                             config.mails_per_day);
 }
 
-Sending::Outcome Sending::MailIt(Connection& connection, const Recipe& recipe,
-                                 const Visitor& visitor) const {
-    const auto passOn = "Please tell your friend this number: it is all that Import Recipe needs.";
-    if (!service_.config.Mails())
-        return {200, Stored(recipe.id) + "This server sends no mail. " + passOn};
-    if (noMail_.Holds(connection, recipe.to))
-        return {200, Stored(recipe.id) + "Your friend wants no mails from here. " + passOn};
-    if (!MayMail(connection, recipe.to, visitor))
-        return {200, Stored(recipe.id) + "No mail was sent, as the limit for today is reached. " +
-                         passOn};
-    if (!service_.mailer.Send(recipe.to,
-                              MailOf(recipe, service_.config, noMail_.TokenFor(recipe.to))))
-        return {200, Stored(recipe.id) + "The mail could not be sent just now. " + passOn};
-    RecipeStore(connection).NoteMailed(recipe.id);
-    return {200, "Your recipe has been sent to your friend. Its recipe ID is " +
-                     std::to_string(recipe.id) + "."};
+Sending::Outcome Sending::AlreadySent(int id) {
+    return {200, "This recipe has already been sent. Its recipe ID is " + std::to_string(id) + "."};
 }
 
 } // namespace exchange

@@ -7,6 +7,7 @@
 #include "exchange/MailAddress.h"
 #include "exchange/Moderation.h"
 #include "exchange/NoMail.h"
+#include "exchange/Postman.h"
 #include "exchange/RecipeID.h"
 #include "exchange/Schema.h"
 #include "exchange/SecretFile.h"
@@ -138,6 +139,7 @@ void Serve(const Config& config, Pool& pool) {
     Front front(config, router, visitors);
     front.Open();
     const Housekeeping housekeeping(service);
+    const Postman postman(service);
     front.Start();
     Supervisor::TellReady();
     Log::Info("started", {{"address", std::string_view(config.address)}, {"port", front.Port()}});

@@ -38,12 +38,15 @@ bool ReadLine(int socket, const std::atomic<bool>& ending, std::string& arrived,
 }
 } // namespace
 
-SmtpSink::SmtpSink(Manner manner)
+SmtpSink::SmtpSink(Manner manner, int port)
     : manner_(manner)
     , listener_(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0)) {
     sockaddr_in address{};
     address.sin_family = AF_INET;
     address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    address.sin_port = htons(static_cast<std::uint16_t>(port));
+    const int again = 1;
+    ::setsockopt(listener_, SOL_SOCKET, SO_REUSEADDR, &again, sizeof again);
     socklen_t size = sizeof address;
     ::bind(listener_, reinterpret_cast<sockaddr*>(&address), size);
     ::listen(listener_, 16);
@@ -100,8 +103,11 @@ std::string SmtpSink::Answer(const std::string& line, Mail& mail, bool& inData) 
     }
     if (command == "MAIL")
         mail.from = Inside(line);
-    if (command == "RCPT" && manner_ == Manner::RefusesRecipients)
+    const int tries = command == "RCPT" ? ++tries_ : 0;
+    if (tries > 0 && manner_ == Manner::RefusesRecipients)
         return "550 nobody here";
+    if (tries > 0 && tries < GreylistedTries && manner_ == Manner::Greylists)
+        return "451 try again later";
     if (command == "RCPT")
         mail.to.push_back(Inside(line));
     inData = command == "DATA";

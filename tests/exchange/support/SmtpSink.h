@@ -9,7 +9,7 @@
 /// A mail server on the loopback that keeps what it is given.
 class SmtpSink {
 public:
-    enum class Manner { Takes, RefusesRecipients, Hangs };
+    enum class Manner { Takes, RefusesRecipients, Greylists, Hangs };
     struct Mail {
         std::string from;
         std::vector<std::string> to;
@@ -19,13 +19,18 @@ public:
         std::string Body() const;                          ///< decoded
     };
 
-    explicit SmtpSink(Manner manner = Manner::Takes);
+    static constexpr int GreylistedTries = 3; ///< the first that is taken
+
+    /// Port 0 takes a free one.
+    explicit SmtpSink(Manner manner = Manner::Takes, int port = 0);
     ~SmtpSink();
     SmtpSink(const SmtpSink&) = delete;
     SmtpSink& operator=(const SmtpSink&) = delete;
 
+    int Port() const { return port_; }
     std::string Address() const { return "smtp://127.0.0.1:" + std::to_string(port_); }
     std::vector<Mail> Mails() const;
+    int Tries() const { return tries_; } ///< recipients that were named to it
 
 private:
     void Serve();
@@ -36,6 +41,7 @@ private:
     int listener_ = -1;
     int port_ = 0;
     std::atomic<bool> ending_ = false;
+    std::atomic<int> tries_ = 0;
     mutable std::mutex mutex_;
     std::vector<Mail> mails_;
     std::thread thread_;
