@@ -4,6 +4,7 @@
 #include "toolkit/Style.h"
 #include "toolkit/ucAALBL.h"
 
+#include <QPainter>
 #include <QtMath>
 
 namespace {
@@ -189,6 +190,19 @@ TEST_F(PieTest, ADenserScreenGetsADenserPicture) {
     const QImage shown = pie.picPIE(2);
     EXPECT_EQ(shown.size(), QSize(216, 216));
     EXPECT_EQ(shown.pixel(108 + 20, 108 - 20) | 0xff000000, Laid(red, paper));
+}
+
+TEST_F(PieTest, AnyPainterGetsThePieAtItsOrigin) {
+    Pie pie(Small());
+    pie.Show({1, 1, 2});
+    QImage page(200, 200, QImage::Format_RGB32);
+    page.fill(Qt::blue);
+    QPainter painter(&page);
+    painter.translate(50, 60);
+    pie.Paint(painter);
+    painter.end();
+    EXPECT_EQ(page.copy(50, 60, 108, 108), pie.picPIE());
+    EXPECT_EQ(page.pixel(49, 100), qRgb(0, 0, 255));
 }
 
 TEST_F(PieTest, BlendMixesByAlphaOf255) {

@@ -13,6 +13,11 @@ BarGrid::BarGrid(QWidget* parent)
 
 void BarGrid::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.fillRect(rect(), TheStyle().paper);
-    GridLines{Origin, Step, DarkStep, Twips::FromPixels(width())}.DrawGrid(painter, height());
+    Paint(painter, size());
+}
+
+void BarGrid::Paint(QPainter& painter, QSize size) {
+    painter.fillRect(QRect(QPoint(), size), TheStyle().paper);
+    const int end = Twips::FromPixels(size.width());
+    GridLines{Origin, Step, DarkStep, end}.DrawGrid(painter, size.height());
 }

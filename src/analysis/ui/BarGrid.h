@@ -13,6 +13,7 @@ public:
     static constexpr int DarkStep = 750; ///< twips between dark lines
 
     explicit BarGrid(QWidget* parent = nullptr);
+    static void Paint(QPainter& painter, QSize size); ///< from the origin
 
 protected:
     void paintEvent(QPaintEvent*) override;

@@ -18,6 +18,7 @@ public:
     void SetWidth(double twips);
     bool Hilited() const { return hilited_; }
     void SetHilited(bool hilited);
+    static bool IsNarrow(double twips) { return twips <= 15; } ///< too narrow to be shown
     static void Paint(QPainter& painter, const QRect& place, bool hilited);
 
 protected:

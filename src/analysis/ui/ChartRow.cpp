@@ -4,10 +4,6 @@
 #include "analysis/ui/ChartLabel.h"
 #include "analysis/ui/LedLabel.h"
 
-namespace {
-constexpr int HiddenUpTo = 15; ///< twips
-}
-
 ChartRow::ChartRow(int i, Nutrient nutrient, const Views& views)
     : lbl_(new ChartLabel(views.labels))
     , imgBar_(new ChartBar(views.bars))
@@ -27,5 +23,5 @@ void ChartRow::SetFigure(const std::optional<NutrientFigure>& figure) {
 }
 
 bool ChartRow::BarIsNarrow() const {
-    return imgBar_->Width() <= HiddenUpTo;
+    return ChartBar::IsNarrow(imgBar_->Width());
 }

@@ -30,7 +30,7 @@ public:
     /// Assistive programs read the amount and its percent of the target.
     void SetFigure(const std::optional<NutrientFigure>& figure);
 
-    bool BarIsNarrow() const; ///< too narrow to be shown
+    bool BarIsNarrow() const;
     ChartLabel* lbl() const { return lbl_; }
     ChartBar* imgBar() const { return imgBar_; }
     LedLabel* lblVal() const { return lblVal_; }

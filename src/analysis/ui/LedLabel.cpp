@@ -22,10 +22,14 @@ void LedLabel::SetSpace(int pixels) {
 }
 
 QString LedLabel::Shown() const {
-    const qsizetype leader = LeaderLength(Caption());
-    const QFontMetricsF metrics(font());
-    const double value = metrics.horizontalAdvance(Caption().mid(leader));
+    return Fitting(Caption(), font(), space_);
+}
+
+QString LedLabel::Fitting(const QString& caption, const QFont& font, int space) {
+    const qsizetype leader = LeaderLength(caption);
+    const QFontMetricsF metrics(font);
+    const double value = metrics.horizontalAdvance(caption.mid(leader));
     const double room = std::max(value, metrics.horizontalAdvance(usualValue));
-    const auto points = qsizetype((space_ - room) / metrics.horizontalAdvance(u'.'));
-    return Caption().mid(leader - std::clamp<qsizetype>(points, 0, leader));
+    const auto points = qsizetype((space - room) / metrics.horizontalAdvance(u'.'));
+    return caption.mid(leader - std::clamp<qsizetype>(points, 0, leader));
 }

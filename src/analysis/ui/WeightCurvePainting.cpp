@@ -2,9 +2,9 @@
 
 #include "analysis/WeightAxis.h"
 #include "analysis/WeightCurve.h"
+#include "analysis/ui/ChartText.h"
 #include "analysis/ui/TwipsSurface.h"
 #include "runtime/Dates.h"
-#include "toolkit/SmoothedPrint.h"
 #include "toolkit/Style.h"
 #include "toolkit/Twips.h"
 
@@ -68,30 +68,21 @@ void PaintLine(TwipsSurface& surface, const std::vector<PlotPoint>& points) {
         }
 }
 
-void PaintText(QPainter& painter, const QRect& place, const QString& text,
-               Qt::Alignment alignment) {
-    painter.save();
-    painter.setClipRect(place, Qt::IntersectClip);
-    painter.setFont(FittingFont(TheStyle().small, text, place.width()));
-    painter.setPen(TheStyle().barRowText);
-    painter.drawText(place, int(alignment | Qt::AlignVCenter), text);
-    painter.restore();
-}
-
 /// Lines do not cross the text of a date.
 void PaintDate(QPainter& painter, const QRect& place, const QString& text) {
     const int advance = QFontMetrics(TheStyle().small).horizontalAdvance(text);
     const int reach = qMin(advance / 2 + TextMargin, place.width() / 2);
     painter.fillRect(place.left() + place.width() / 2 - reach, place.top(), 2 * reach,
                      place.height(), TheStyle().paper);
-    PaintText(painter, place, text, Qt::AlignHCenter);
+    PaintChartText(painter, place, text, Qt::AlignCenter);
 }
 
 void PaintLabels(QPainter& painter, const WeightCurve& curve, int height) {
     using namespace WeightCurvePainting;
     for (int i = 0; i < int(curve.weights.size()); ++i)
-        PaintText(painter, InPixels(WeightLabelPlace(i)), QString::number(curve.weights[size_t(i)]),
-                  Qt::AlignRight);
+        PaintChartText(painter, InPixels(WeightLabelPlace(i)),
+                       QString::number(curve.weights[size_t(i)]),
+                       Qt::AlignRight | Qt::AlignVCenter);
     for (const DateAxis::Label& date : curve.dates)
         PaintDate(painter, InPixels(DateLabelPlace(date.left, height)), Dates::ShortText(date.day));
 }

@@ -5,8 +5,8 @@
 #include "analysis/WeightLog.h"
 #include "analysis/ui/ChartBar.h"
 #include "analysis/ui/ChartLabel.h"
-#include "analysis/ui/GridLines.h"
 #include "analysis/ui/LedLabel.h"
+#include "analysis/ui/PeriodPicture.h"
 #include "model/User.h"
 #include "runtime/SettingTable.h"
 #include "runtime/Settings.h"
@@ -21,17 +21,6 @@ namespace {
 
 const QString BarsMode = QStringLiteral("BARS");
 const QString ValuesMode = QStringLiteral("VALS");
-const QString Leader(148, u'.');
-
-// Twips.
-constexpr GridLines Grid{2430, 300, 1500, 11000};
-constexpr int BarLeft = 2445;
-constexpr int FirstTop = 60;
-constexpr int Overlap = 45; ///< of two neighbouring labels
-constexpr int ValueWidth = 7815;
-
-constexpr int PixelsAtTarget = 400;
-constexpr int MostPixels = 534;
 
 struct ScaleMark {
     const char* caption;
@@ -43,24 +32,6 @@ constexpr ScaleMark Scale[] = {
 // Pixels.
 constexpr int UsualWidth = 738;
 constexpr int UsualHeight = 476;
-constexpr int LabelLeft = 8;
-constexpr int HeaderDrop = 1; ///< so far the header covers the first label
-constexpr int LeastPitch = 13;
-
-/// In twips: the greatest number of whole pixels with which all rows fit.
-int LabelHeight(int chartHeight) {
-    const int rows = Twips::FromPixels(chartHeight) - FirstTop - Overlap - GridLines::Foot;
-    const int pitch = rows / ((NutrientCount + 1) * Twips::PerPixel());
-    return Twips::FromPixels(qMax(LeastPitch, pitch)) + Overlap;
-}
-
-double BarWidth(double partOfTarget) {
-    const double width = Twips::PerPixel() * PixelsAtTarget * partOfTarget;
-    const double limit = Twips::PerPixel() * MostPixels;
-    if (static_cast<float>(width) > static_cast<float>(limit))
-        return limit;
-    return qMax(0.0, width);
-}
 
 } // namespace
 
@@ -121,42 +92,33 @@ void ucBarChart::resizeEvent(QResizeEvent*) {
 }
 
 void ucBarChart::PlaceAll() {
-    const int labelHeight = LabelHeight(height());
-    PlaceHead(Twips::ToPixels(labelHeight - Overlap + FirstTop) + HeaderDrop);
+    const PeriodPicture picture(size());
+    PlaceHead(picture.HeadHeight() - 1);
+    picVals_->setGeometry(picture.ValuesPlace());
     for (int i = 1; i <= int(rows_.size()); ++i)
-        PlaceRow(i, labelHeight);
+        PlaceRow(i, picture);
 }
 
 void ucBarChart::PlaceHead(int height) {
-    header_->setGeometry(1, 1, width() - 2, height - 1);
+    header_->setGeometry(1, 1, width() - 2, height);
     for (size_t i = 0; i < scale_.size(); ++i)
         scale_[i]->setGeometry(Twips::ToPixels(Scale[i].left), 1, scale_[i]->sizeHint().width(),
-                               height - 1);
-    const int left = Twips::ToPixels(Grid.origin);
-    picVals_->setGeometry(left, height, width() - 1 - left, this->height() - 1 - height);
+                               height);
 }
 
-void ucBarChart::PlaceRow(int i, int labelHeight) {
+void ucBarChart::PlaceRow(int i, const PeriodPicture& picture) {
     const ChartRow& row = *rows_[size_t(i - 1)];
-    const int top = (labelHeight - Overlap) * i + FirstTop;
-    const int left = Twips::ToPixels(Grid.origin);
-    const int textHeight = row.lbl()->fontMetrics().height();
-    const int textTop = Twips::ToPixels(ChartRow::ValueDrop);
-    row.lbl()->setGeometry(LabelLeft, Twips::ToPixels(top), left - LabelLeft,
-                           Twips::ToPixels(labelHeight));
-    row.lbl()->setContentsMargins(0, 0, 0, row.lbl()->height() - textTop - textHeight);
-    row.imgBar()->move(Twips::ToPixels(BarLeft), Twips::ToPixels(top + ChartRow::BarDrop));
-    row.lblVal()->SetSpace(Twips::ToPixels(ValueWidth));
-    row.lblVal()->setGeometry(0, Twips::ToPixels(top) - picVals_->y() + textTop,
-                              Twips::ToPixels(ValueWidth), textHeight);
+    const QRect value = picture.ValuePlace(i);
+    row.lbl()->setGeometry(picture.NamePlace(i));
+    row.lbl()->setContentsMargins(0, 0, 0, row.lbl()->height() - picture.TextBottom());
+    row.imgBar()->move(picture.BarPlace(i));
+    row.lblVal()->SetSpace(value.width());
+    row.lblVal()->setGeometry(value.translated(-picVals_->pos()));
 }
 
 void ucBarChart::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.fillRect(rect(), TheStyle().paper);
-    Grid.DrawGrid(painter, height());
-    painter.setPen(TheStyle().frame);
-    painter.drawRect(QRectF(rect()).adjusted(.5, .5, -.5, -.5));
+    PeriodPicture(size()).PaintGround(painter);
 }
 
 void ucBarChart::updateBars(QDate start, QDate end) {
@@ -187,8 +149,8 @@ void ucBarChart::ShowFigures() {
         const NutrientFigure& figure = figures_.Rows()[i];
         const ChartRow& row = *rows_[i];
         rows_[i]->SetFigure(figure);
-        row.lblVal()->SetCaption(Leader + PeriodFigures::Text(figure));
-        row.imgBar()->SetWidth(BarWidth(figure.Part()));
+        row.lblVal()->SetCaption(PeriodPicture::ValueText(figure));
+        row.imgBar()->SetWidth(PeriodPicture::BarWidth(figure.Part()));
         if (row.BarIsNarrow() || mode_ == BarsMode)
             row.imgBar()->setHidden(row.BarIsNarrow());
     }
@@ -230,7 +192,7 @@ void ucBarChart::Toggle(int mode) {
 
 double ucBarChart::barWidth(qint32 days, double& value, double rdi) {
     value /= days;
-    return BarWidth(NutrientFigure::PartOfTarget(value, rdi));
+    return PeriodPicture::BarWidth(NutrientFigure::PartOfTarget(value, rdi));
 }
 
 QString ucBarChart::numFix(double& value) const {

@@ -10,6 +10,7 @@
 #include <memory>
 #include <vector>
 
+class PeriodPicture;
 class ucHeader;
 class ucStrip;
 struct Period;
@@ -51,7 +52,7 @@ private:
     void AddRows();
     void PlaceAll();
     void PlaceHead(int height);
-    void PlaceRow(int i, int labelHeight);
+    void PlaceRow(int i, const PeriodPicture& picture);
     void AdjustToAverageWeight(const Period& period);
     void ShowFigures();
     QString PercentCaption() const;

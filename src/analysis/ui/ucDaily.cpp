@@ -4,6 +4,7 @@
 #include "analysis/ui/BarGrid.h"
 #include "analysis/ui/ChartBar.h"
 #include "analysis/ui/ChartLabel.h"
+#include "analysis/ui/DayPicture.h"
 #include "analysis/ui/LedLabel.h"
 #include "analysis/ui/PieChart.h"
 #include "analysis/ui/ScaleCaption.h"
@@ -36,9 +37,6 @@ constexpr ViewButton Views[ViewModes] = {
 // Pixels.
 constexpr int PanelWidth = 338;
 constexpr int PanelHeight = 476;
-constexpr int LabelsWidth = 124;
-constexpr int RowCount = 28;
-constexpr int RowsMargin = 2; ///< below the last row
 
 PieForm DailyPie() {
     PieForm form;
@@ -112,7 +110,6 @@ void ucDaily::AddViews() {
 }
 
 void ucDaily::AddRows() {
-    labels_->resize(LabelsWidth, 0);
     for (const NutrientFigure& figure : figures_.Rows()) {
         const int i = int(rows_.size()) + 1;
         rows_.push_back(
@@ -141,12 +138,12 @@ ucDaily::Layout ucDaily::layoutRects() const {
     const int buttonsTop = 1 + TheStyle().headerHeight;
     const int buttonsHeight = buttons_->sizeHint().height();
     const int top = buttonsTop + buttonsHeight + 1;
-    const int rows = DailyRow::Top(RowCount + 1) + RowsMargin;
+    const int rows = DayPicture(width()).Size().height();
     Layout layout;
     layout.strip = QRect(1, 1, inner, TheStyle().headerHeight);
     layout.buttons = QRect(1, buttonsTop, inner, buttonsHeight);
-    layout.labels = QRect(1, top, LabelsWidth, rows);
-    layout.view = QRect(1 + LabelsWidth, top, inner - LabelsWidth, rows);
+    layout.labels = QRect(1, top, DayPicture::NamesWidth, rows);
+    layout.view = QRect(1 + DayPicture::NamesWidth, top, inner - DayPicture::NamesWidth, rows);
     layout.pie = QRect(1, top, inner, height() - 1 - top);
     return layout;
 }
@@ -154,7 +151,7 @@ ucDaily::Layout ucDaily::layoutRects() const {
 void ucDaily::resizeEvent(QResizeEvent*) {
     PlaceAll();
     for (const auto& row : rows_)
-        row->FitBar(width());
+        row->FitBar(DayPicture(width()));
 }
 
 void ucDaily::PlaceAll() {
@@ -208,11 +205,11 @@ void ucDaily::updateCharts() {
 }
 
 void ucDaily::ShowFigures() {
-    for (size_t i = 0; i < rows_.size(); ++i)
-        if (figures_.HasData())
-            rows_[i]->Show(figures_.Rows()[i], width());
-        else
-            rows_[i]->ShowNothing(figures_.Rows()[i]);
+    for (size_t i = 0; i < rows_.size(); ++i) {
+        const NutrientFigure& figure = figures_.Rows()[i];
+        rows_[i]->Show(figure, DayPicture::ValueText(figure, figures_.HasData()),
+                       DayPicture(width()));
+    }
     FitValues();
     picPieChart_->Show(figures_.Energy());
 }
@@ -225,7 +222,7 @@ void ucDaily::FitValues() {
 }
 
 double ucDaily::barWidth(double value, double rdi) const {
-    return DailyRow::barWidth(value, rdi, width());
+    return DayPicture(width()).BarWidth(value, rdi);
 }
 
 void ucDaily::Toggle(int mode) {

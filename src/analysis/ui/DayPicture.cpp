@@ -1,0 +1,97 @@
+#include "analysis/ui/DayPicture.h"
+
+#include "analysis/DayFigures.h"
+#include "analysis/ui/BarGrid.h"
+#include "analysis/ui/ChartRow.h"
+#include "analysis/ui/FigureRows.h"
+#include "analysis/ui/LedLabel.h"
+#include "toolkit/Style.h"
+#include "toolkit/Twips.h"
+
+#include <QFontMetrics>
+#include <QPainter>
+
+namespace {
+
+const QString Leader = QStringLiteral(".......................");
+const QString EmptyValue = QStringLiteral("..............................0");
+
+// Pixels.
+constexpr int NameLeft = 7;
+constexpr int FirstTop = 2;
+constexpr int RowsMargin = 2; ///< below the last row
+constexpr int Frame = 2;      ///< of the panel, on both sides together
+
+constexpr int RightMargin = 30; ///< twips
+
+} // namespace
+
+DayPicture::DayPicture(int panelWidth)
+    : panelWidth_(panelWidth) {}
+
+QSize DayPicture::Size() const {
+    return {panelWidth_ - Frame, Top(int(ChartOrder().size()) + 1) + RowsMargin};
+}
+
+int DayPicture::Top(int row) {
+    return FirstTop + (row - 1) * RowHeight;
+}
+
+QRect DayPicture::NamePlace(int row) {
+    return {NameLeft, Top(row), NamesWidth - NameLeft,
+            RowHeight + Twips::ToPixels(ChartRow::ValueDrop)};
+}
+
+QPoint DayPicture::BarPlace(int row) {
+    return {Twips::ToPixels(BarGrid::Origin), Top(row) + Twips::ToPixels(ChartRow::BarDrop)};
+}
+
+QPoint DayPicture::ValuePlace(int row) {
+    return {0, Top(row) + Twips::ToPixels(ChartRow::ValueDrop)};
+}
+
+QRect DayPicture::View() const {
+    return {NamesWidth, 0, Size().width() - NamesWidth, Size().height()};
+}
+
+void DayPicture::PaintNames(QPainter& painter, const DayFigures& figures) const {
+    painter.fillRect(QRect(QPoint(), Size()), TheStyle().paper);
+    FigureRows::PaintTexts(painter, figures.Rows(), &NamePlace, &NutrientFigure::Caption);
+}
+
+void DayPicture::PaintBars(QPainter& painter, const DayFigures& figures) const {
+    PaintNames(painter, figures);
+    painter.save();
+    painter.setClipRect(View(), Qt::IntersectClip);
+    painter.translate(View().topLeft());
+    BarGrid::Paint(painter, View().size());
+    FigureRows::PaintBars(painter, figures.Rows(), &BarPlace, [this](const NutrientFigure& figure) {
+        return BarWidth(figure.value, figure.target);
+    });
+    painter.restore();
+}
+
+void DayPicture::PaintValues(QPainter& painter, const DayFigures& figures) const {
+    PaintNames(painter, figures);
+    const QSize size(View().width(), QFontMetrics(TheStyle().small).height());
+    const auto place = [this, size](int row) {
+        return QRect(View().topLeft() + ValuePlace(row), size);
+    };
+    const auto text = [&figures, size](const NutrientFigure& figure) {
+        return LedLabel::Fitting(ValueText(figure, figures.HasData()), TheStyle().small,
+                                 size.width());
+    };
+    FigureRows::PaintTexts(painter, figures.Rows(), place, text);
+}
+
+double DayPicture::BarWidth(double value, double rdi) const {
+    const double width = Twips::PerPixel() * 100 * NutrientFigure::PartOfTarget(value, rdi);
+    const int end = Twips::FromPixels(panelWidth_) - RightMargin;
+    if (static_cast<float>(end) < static_cast<float>(width + BarGrid::Origin))
+        return qMax(0, end - BarGrid::Origin);
+    return qMax(0.0, width);
+}
+
+QString DayPicture::ValueText(const NutrientFigure& figure, bool hasData) {
+    return hasData ? Leader + DayFigures::Text(figure) : EmptyValue;
+}
