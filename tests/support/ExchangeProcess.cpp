@@ -7,6 +7,8 @@ ExchangeProcess::ExchangeProcess(const QString& program, const QString& database
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("HALVANE_EXCHANGE_PORT"), QStringLiteral("0"));
     environment.insert(QStringLiteral("HALVANE_EXCHANGE_DATABASE"), database);
+    environment.insert(QStringLiteral("HALVANE_EXCHANGE_SECRET"), // so that no file is made for it
+                       QStringLiteral("the secret of an exchange that a test starts"));
     for (auto setting = settings.cbegin(); setting != settings.cend(); ++setting)
         environment.insert("HALVANE_EXCHANGE_" + setting.key().toUpper(), setting.value());
     process_.setProcessEnvironment(environment);

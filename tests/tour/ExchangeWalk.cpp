@@ -44,7 +44,8 @@ void ExchangeWalk::Go() {
     const SmtpSink sink;
     const ExchangeProcess exchange(QStringLiteral(HALVANE_EXCHANGE_PROGRAM), ExchangeDatabase(),
                                    Mailing(sink));
-    guide_.Check(!exchange.Address().isEmpty(), QStringLiteral("the exchange has started"));
+    guide_.Check(!exchange.Address().isEmpty(),
+                 QStringLiteral("the exchange has started: ") + exchange.Said().trimmed());
     Server::SetAddress(exchange.Address());
     Send();
     ReadMail(sink);
