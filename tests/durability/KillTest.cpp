@@ -21,13 +21,13 @@ constexpr int MostRows = 12;
 constexpr int MostMilliseconds = 30;
 constexpr const char* Files[] = {"users.mdb", "foods.mdb"};
 
-/// HALVANE_KILLS asks for more than the few of an ordinary run.
+/// The environment variable HALVANE_KILLS asks for more kills than an ordinary run.
 int Kills() {
     const int asked = qEnvironmentVariableIntValue("HALVANE_KILLS");
     return asked > 0 ? asked : KillsAFolder;
 }
 
-/// Where the numbers of each kind of acknowledged work stand.
+/// Where the number of a saved row is stored, for each kind of row.
 struct Kind {
     const char* name;
     Connection& (*database)();
@@ -42,14 +42,15 @@ constexpr Kind Kinds[] = {
     {"ingredient", UserDB, "SELECT QTY FROM Ingredients"},
 };
 
-/// Rows that nothing may leave behind, whenever the kill comes.
+/// Half-written rows: no kill may leave any.
 struct HalfWritten {
     Connection& (*database)();
     const char* rows;
 };
 constexpr HalfWritten HalfWrittenRows[] = {
-    {FoodDB, "SELECT ID FROM FOODS WHERE ID > 23508 AND FoodName IS NOT NULL AND "
-             "(Serv_GM_WT_A IS NOT 100 OR FoodName IS NOT CAST(CAST(Calories AS INTEGER) AS TEXT))"},
+    {FoodDB,
+     "SELECT ID FROM FOODS WHERE ID > 23508 AND FoodName IS NOT NULL AND "
+     "(Serv_GM_WT_A IS NOT 100 OR FoodName IS NOT CAST(CAST(Calories AS INTEGER) AS TEXT))"},
     {FoodDB, "SELECT ID FROM FOODS WHERE ID > 23508 AND FoodName IS NULL AND "
              "coalesce(Calories, Serv_GM_WT_A, Serv_Desc_A) IS NOT NULL"},
     {UserDB, "SELECT RecID FROM USER_FOODS WHERE FoodName IS NULL OR UDate IS NULL OR QTY IS NULL "
@@ -71,7 +72,7 @@ struct Acknowledged {
             numbers[words[0]].insert(words[1].toInt());
             next = std::max(next, words[1].toInt() + 1);
         }
-        next += 1; // a row may be committed and the worker killed before it could say so
+        next += 1; // the last row may be saved although the kill came before its number was printed
     }
 };
 
@@ -88,8 +89,7 @@ void OpenBoth(const QString& folder) {
 
 class KillTest : public HalvaneTest {
 protected:
-    /// Lets the worker run until it has acknowledged some rows, then for a random moment more, and
-    /// kills it.
+    /// Kills the worker at a random moment after it has printed some numbers.
     void WorkUntilKilled(const QString& folder, Acknowledged& acknowledged) {
         QProcess worker;
         worker.setProcessChannelMode(QProcess::ForwardedErrorChannel);
@@ -106,7 +106,7 @@ protected:
         acknowledged.TakeDown(output + worker.readAllStandardOutput());
     }
 
-    /// The two files stand alone, except where the kill came in the middle of a write.
+    /// True if no journal is left: the kill did not come in the middle of a write.
     bool StandsAlone(const QString& folder) {
         const QStringList files = QDir(folder).entryList(QDir::Files, QDir::Name);
         const QStringList known{"foods.mdb", "foods.mdb-journal", "users.mdb", "users.mdb-journal"};
@@ -115,7 +115,7 @@ protected:
         return files == QStringList{"foods.mdb", "users.mdb"};
     }
 
-    /// The next start takes back what was being written.
+    /// Opens the files as the next start does, which takes back the unfinished write.
     void BringInOrder(const QString& folder) {
         OpenBoth(folder);
         CloseDatabases();
@@ -162,7 +162,7 @@ protected:
     int inTheMiddleOfAWrite_ = 0;
 };
 
-TEST_F(KillTest, ACopyOfTheTwoFilesAfterEachKillHoldsAllThatWasAcknowledged) {
+TEST_F(KillTest, ACopyOfTheTwoFilesAfterEachKillHoldsEveryPrintedNumber) {
     OpenDatabases();
     AddUser();
     CloseDatabases();

@@ -16,9 +16,9 @@
 
 #include <cstdio>
 
-/// log_worker FOLDER FIRST: logs foods and weights through the day screen, and makes custom foods,
-/// recipes and ingredients on theirs until it is killed, numbering all from FIRST on. Each number is acknowledged on standard
-/// output once the screen has returned from saving it.
+/// log_worker FOLDER FIRST: logs foods and weights on the day screen, and makes custom foods,
+/// recipes and ingredients on their screens, until it is killed. It numbers them from FIRST on, and
+/// prints each number once the screen has saved it.
 
 namespace {
 void Acknowledge(const char* kind, int number) {
@@ -43,7 +43,7 @@ void LogFood(frmDay& day, int number) {
     Acknowledge("food", number);
 }
 
-/// A weight a day, from the year 2000 on: the number is the weight and counts the days.
+/// The number is the weight, and the day counted from the beginning of the year 2000.
 void LogWeight(frmDay& day, int number) {
     App().CurrentDate = QDate(2000, 1, 1).addDays(number);
     day.DoWinInit();
@@ -54,7 +54,7 @@ void LogWeight(frmDay& day, int number) {
     Acknowledge("weight", number);
 }
 
-/// The number is the name and the calories.
+/// The number is both the name and the calories.
 void MakeCustomFood(frmFoodList& foods, int number) {
     foods.NewFood();
     for (const char* field : {"txtFoodName", "txtCals"})
@@ -63,7 +63,7 @@ void MakeCustomFood(frmFoodList& foods, int number) {
     Acknowledge("custom", number);
 }
 
-/// The number is the name of the recipe and the quantity of its one ingredient.
+/// The number is both the name of the recipe and the quantity of its only ingredient.
 void MakeRecipe(frmRecipeManager& recipes, int number) {
     const auto press = [&](const char* button) {
         recipes.findChild<ucButton*>(QString::fromLatin1(button))->Activate();

@@ -8,7 +8,7 @@
 #include <QSignalSpy>
 #include <QTest>
 
-/// The pane as a host without headings or limits uses it.
+/// The pane in a host without headings and without a limit.
 class AtePaneTest : public HalvaneTest {
 protected:
     void SetUp() override {
@@ -40,7 +40,7 @@ TEST_F(AtePaneTest, WithoutALimitEveryLineIsDrawn) {
     EXPECT_EQ(pane.picResultsPane()->height(), 320 * TheStyle().tallRowHeight);
 }
 
-TEST_F(AtePaneTest, RemovalIsLeftToTheHost) {
+TEST_F(AtePaneTest, RemoveFoodIsSignalledAndTheHostRemovesTheLine) {
     Fill(2);
     QSignalSpy removal(&pane, &AtePane::RemoveFood);
     Click(pane.Line(2)->imgTrash());
@@ -58,7 +58,7 @@ TEST_F(AtePaneTest, ResetShowsTheTop) {
     EXPECT_TRUE(pane.vsResultsPane()->isVisible());
 }
 
-TEST_F(AtePaneTest, ShortListFillsTheFrameUnlessToldOtherwise) {
+TEST_F(AtePaneTest, ShortListFillsTheFrameUnlessSwitchedOff) {
     Fill(2);
     EXPECT_EQ(pane.picResultsPane()->height(), 200);
     pane.SetFillsFrame(false);

@@ -21,7 +21,7 @@
 
 #include <memory>
 
-/// From a food of one's own to the log: made on its screen, found, examined and eaten on the day's.
+/// A custom food is made on its screen, then found, examined and eaten on the day screen.
 class CustomFoodTest : public IntakeTest {
 protected:
     void SetUp() override {
@@ -157,7 +157,7 @@ TEST_F(CustomFoodTest, DeletingItLeavesTheIngredientsMadeOfItAlone) {
     EXPECT_EQ(Users("SELECT FoodName || Calories FROM Ingredients"), "Granola7.0");
 }
 
-TEST_F(CustomFoodTest, DeletedWhileItsRowStandsItFailsAndLogsNothing) {
+TEST_F(CustomFoodTest, EatingAFoodThatWasDeletedMeanwhileFailsAndLogsNothing) {
     Make("Granola", "7");
     InSearch("granola", [this](QWidget* search) {
         Delete();

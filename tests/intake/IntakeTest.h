@@ -13,7 +13,7 @@ protected:
 
     static const QDate day;
 
-    /// A food of 31 amounts, of which `Calories` is given and all others are 1.
+    /// A food with the given calories; the other 30 amounts are 1.
     static ScaledFood Scaled(const QString& name, double calories = 100, double quantity = 1,
                              const QString& serving = QStringLiteral("1 cup"));
     /// Writes a row of the log with plain SQL.
@@ -21,7 +21,7 @@ protected:
              double quantity = 1, const QString& serving = QStringLiteral("1 cup"));
     int LogCount(const QString& condition = QStringLiteral("1"));
 
-    /// The lines under `root` from top to bottom, as they can be seen.
+    /// The visible lines under `root`, from top to bottom.
     static QList<ucAte*> Lines(const QWidget* root);
     static QStringList Names(const QWidget* root);
 };

@@ -172,7 +172,7 @@ TEST_F(frmDayTest, StoredZeroShowsAsAnEmptyFieldAndChangesNoWeight) {
     EXPECT_EQ(User::Current().CurrentWeight, 200);
 }
 
-TEST_F(frmDayTest, PastWeightMovesTheCurrentWeightToThatDays) {
+TEST_F(frmDayTest, TheWeightOfAPastDayBecomesTheCurrentWeight) {
     LogWeight(day, 180);
     LogWeight(day.addDays(-300), 240);
     Open();
@@ -256,7 +256,7 @@ TEST_F(frmDayTest, RefusedWeightIsTestedAgainAtTheNextChangeOfFocus) {
     CalendarButton()->setFocus();
 }
 
-TEST_F(frmDayTest, TextOfTenThousandLettersIsRefusedAndOfDigitsToo) {
+TEST_F(frmDayTest, TenThousandLettersOrDigitsAreRefused) {
     Open();
     for (const QChar letter : {u'x', u'9'}) {
         ExpectAlert(invalidWeight);
@@ -326,7 +326,7 @@ TEST_F(frmDayTest, BarsFollowTheTargetsOfANewWeight) {
     EXPECT_LT(Find(screen.get(), "imgBar1")->width(), before);
 }
 
-TEST_F(frmDayTest, BarsStandAgainstTheTargetsOfTheDaysOwnWeight) {
+TEST_F(frmDayTest, BarsUseTheTargetsOfTheWeightOfTheDay) {
     App().AppInfo.AUTOUPDATERDI = true;
     Log("Feast", "Dinner", day, 1600);
     Log("Feast", "Dinner", day.addDays(1), 1600);
@@ -384,7 +384,7 @@ TEST_F(frmDayTest, UntouchedFieldWritesNothingWhenTheWindowCloses) {
     EXPECT_EQ(WeightRows(), 0);
 }
 
-TEST_F(frmDayTest, AnotherWindowInFrontDoesNotEndTheEntry) {
+TEST_F(frmDayTest, AnotherWindowInFrontDoesNotSaveTheWeight) {
     Open();
     Weight()->setFocus();
     QTest::keyClicks(Weight(), "abc");
@@ -490,7 +490,7 @@ TEST_F(frmDayTest, NoDayBeforeTheYear100CanBePicked) {
     EXPECT_EQ(App().CurrentDate, QDate(100, 1, 1));
 }
 
-TEST_F(frmDayTest, KeysInTheYearFieldEndTheEntryOfTheYearAndNotTheCalendar) {
+TEST_F(frmDayTest, KeysThatEndTheEntryOfTheYearLeaveTheCalendarOpen) {
     Open();
     for (const auto& [key, year] : {std::pair(Qt::Key_Return, 1999), std::pair(Qt::Key_Enter, 1999),
                                     std::pair(Qt::Key_Tab, 1999), std::pair(Qt::Key_Backtab, 1999),
@@ -575,7 +575,7 @@ TEST_F(frmDayTest, ClearAsksFirst) {
     EXPECT_EQ(Names(screen.get()), QStringList{"Oats"});
 }
 
-TEST_F(frmDayTest, ClearEmptiesThisDayOfThisUserAlone) {
+TEST_F(frmDayTest, ClearRemovesOnlyTheFoodsOfThisDayAndUser) {
     for (const char* meal : {"Breakfast", "Lunch", "Dinner", "Snacks", ""})
         Log("Food", meal);
     Log("Tomorrow's", "Lunch", day.addDays(1));
@@ -707,7 +707,7 @@ TEST_F(frmDayTest, MoveOverTheFoodBoxTakesEveryHighlightOff) {
     EXPECT_FALSE(Heading("lblLunch")->Lit());
 }
 
-TEST_F(frmDayTest, MoveOverAHeadingTakesTheLookOffTheButtonsAndNotOffItself) {
+TEST_F(frmDayTest, MoveOverAHeadingResetsTheButtonsAndKeepsItsHighlight) {
     Open();
     Hover(Button("cmdClear"));
     Hover(Heading("lblLunch"), QPoint(40, 9));
@@ -715,7 +715,7 @@ TEST_F(frmDayTest, MoveOverAHeadingTakesTheLookOffTheButtonsAndNotOffItself) {
     EXPECT_TRUE(Heading("lblLunch")->Lit());
 }
 
-TEST_F(frmDayTest, MovesCountOnlyWhereBothPlacesDiffer) {
+TEST_F(frmDayTest, MovesCountOnlyIfXAndYBothChanged) {
     Open();
     QWidget* pane = Find(screen.get(), "picResultsPane");
     Hover(pane, QPoint(10, 400));

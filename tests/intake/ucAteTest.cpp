@@ -80,7 +80,7 @@ TEST_F(ucAteTest, TrashCanWorksFromTheKeyboard) {
     EXPECT_EQ(removed.size(), 3);
 }
 
-TEST_F(ucAteTest, MoveOverLineOrTrashCanIsTold) {
+TEST_F(ucAteTest, MoveOverLineOrTrashCanRaisesMouseMove) {
     QSignalSpy moved(&line, &ucAte::MouseMove);
     Hover(&line, QPoint(20, 10));
     EXPECT_EQ(moved.size(), 1);

@@ -146,7 +146,7 @@ TEST_F(ucMyFoodTest, TemplateIsHiddenAndLendsItsHeight) {
     EXPECT_EQ(Line(0)->height(), TheStyle().tallRowHeight);
 }
 
-TEST_F(ucMyFoodTest, LinesThatAreGoneLeaveTheArray) {
+TEST_F(ucMyFoodTest, LinesThatAreNotNeededLeaveTheArray) {
     LogMany(3);
     list.setDate(day);
     EXPECT_NE(list.findChild<ucAte*>("ucAte3"), nullptr);
@@ -252,7 +252,7 @@ TEST_F(ucMyFoodTest, RemovalAtTheEndOfALongListLeavesNoEmptyRoomBelow) {
     EXPECT_GE(Pane()->y() + Pane()->height(), 450 - 1);
 }
 
-TEST_F(ucMyFoodTest, TrashCanDeletesItsRowAtOnceAndTellsSo) {
+TEST_F(ucMyFoodTest, TrashCanDeletesItsRowAtOnceAndRaisesFoodRemoved) {
     Log("Oats", "Breakfast");
     Log("Milk", "Breakfast");
     Log("Milk", "Breakfast");
@@ -496,7 +496,7 @@ TEST_F(ucMyFoodTest, HeadingUnderThePointerTurnsWhiteAndTheOthersRest) {
     EXPECT_EQ(Grab(Heading("lblLunch")).pixelColor(3, 5), TheStyle().mealStrip);
 }
 
-TEST_F(ucMyFoodTest, MoveOverThePaneTakesTheHighlightOffAndIsTold) {
+TEST_F(ucMyFoodTest, MoveOverThePaneTakesTheHighlightOffAndRaisesMouseMove) {
     list.setDate(day);
     Hover(Heading("lblLunch"));
     QSignalSpy moved(&list, &ucMyFood::MouseMove);
@@ -507,7 +507,7 @@ TEST_F(ucMyFoodTest, MoveOverThePaneTakesTheHighlightOffAndIsTold) {
     EXPECT_EQ(moved[0][3].toDouble(), Twips::FromPixels(400));
 }
 
-TEST_F(ucMyFoodTest, MoveOverALineTakesTheHighlightOffAndNoMore) {
+TEST_F(ucMyFoodTest, MoveOverALineTakesTheHighlightOffAndRaisesNothing) {
     Log("Oats", "Breakfast");
     list.setDate(day);
     Hover(Heading("lblLunch"));

@@ -71,7 +71,7 @@ TEST_F(HttpClientTest, SendsNoAuthorizationWithoutAToken) {
     EXPECT_FALSE(server.Requests().first().headers.contains("authorization"));
 }
 
-TEST_F(HttpClientTest, ABodyThatWentOutIsNotSentAgainWhereTheAnswerIsLost) {
+TEST_F(HttpClientTest, ABodyIsNotSentAgainIfTheReplyIsLost) {
     server.Tell("POST /page", ScriptedServer::Raw(""));
     EXPECT_NE(FailureOf([&] {
                   http.PostJson(server.Address() + "/page", QByteArray(100000, 'x'), "t", plenty);
@@ -80,7 +80,7 @@ TEST_F(HttpClientTest, ABodyThatWentOutIsNotSentAgainWhereTheAnswerIsLost) {
     EXPECT_EQ(server.Requests().size(), 1);
 }
 
-TEST_F(HttpClientTest, AReplyOfTheGreatestLengthIsTakenAndOneByteMoreIsNot) {
+TEST_F(HttpClientTest, AReplyOfTheGreatestLengthIsAcceptedAndOneByteMoreIsNot) {
     server.Tell("GET /page", 200, QByteArray(1000, 'x'));
     EXPECT_EQ(http.Get(server.Address() + "/page", 1000).body.size(), 1000);
     EXPECT_NE(FailureOf([&] { http.Get(server.Address() + "/page", 999); }), 0);
@@ -92,7 +92,7 @@ TEST_F(HttpClientTest, AFloodIsNotReadToItsEnd) {
     EXPECT_LT(server.Flooded(), 50 * 1024 * 1024);
 }
 
-TEST_F(HttpClientTest, WithoutALengthTheReplyEndsWithTheConnection) {
+TEST_F(HttpClientTest, WithoutContentLengthTheReplyEndsWithTheConnection) {
     for (const char* head : {"HTTP/1.1 200 OK\r\n\r\n", "HTTP/1.0 200 OK\r\n\r\n",
                              "HTTP/1.1 200 OK\r\nConnection: close\r\n\r\n"}) {
         server.Tell("GET /page", ScriptedServer::Raw(head + QByteArray("Sent.")));
@@ -102,7 +102,7 @@ TEST_F(HttpClientTest, WithoutALengthTheReplyEndsWithTheConnection) {
     }
 }
 
-TEST_F(HttpClientTest, AChunkedReplyIsTaken) {
+TEST_F(HttpClientTest, AChunkedReplyIsAccepted) {
     server.Tell("GET /page", ScriptedServer::Raw(chunked + "2\r\nSe\r\n3\r\nnt.\r\n0\r\n\r\n"));
     EXPECT_EQ(http.Get(server.Address() + "/page", plenty).body, "Sent.");
 }
@@ -112,7 +112,7 @@ TEST_F(HttpClientTest, AChunkThatIsCutShortFails) {
     EXPECT_EQ(Failure("/page"), ErrorNumber::ServiceFailed);
 }
 
-TEST_F(HttpClientTest, AnEndOfTheConnectionWithinTheHeadFails) {
+TEST_F(HttpClientTest, AConnectionThatEndsWithinTheHeadFails) {
     for (const char* head :
          {"", "HTTP/1.1", "HTTP/1.1 200 OK\r\n", "HTTP/1.1 200 OK\r\nServer: a\r\n"}) {
         server.Tell("GET /page", ScriptedServer::Raw(head));
@@ -120,7 +120,7 @@ TEST_F(HttpClientTest, AnEndOfTheConnectionWithinTheHeadFails) {
     }
 }
 
-TEST_F(HttpClientTest, AReplyWithoutALengthIsNotReadBeyondTheGreatestLength) {
+TEST_F(HttpClientTest, AReplyWithoutContentLengthIsNotReadBeyondTheGreatestLength) {
     server.Tell("GET /page",
                 ScriptedServer::Raw("HTTP/1.1 200 OK\r\n\r\n" + QByteArray(1001, 'x')));
     EXPECT_EQ(http.Get(server.Address() + "/page", 1001).body.size(), 1001);
@@ -146,7 +146,7 @@ TEST_F(HttpClientTest, TheLimitHoldsForSilenceAndForATrickle) {
     }
 }
 
-TEST_F(HttpClientTest, FailsWhereNobodyListens) {
+TEST_F(HttpClientTest, FailsIfNobodyListens) {
     http.SetLimit(std::chrono::seconds(5)); // where names are looked up slowly
     QString address;
     {
@@ -191,7 +191,7 @@ TEST_F(HttpClientTest, RepaintsButDropsInputWhileItWaits) {
     EXPECT_EQ(field.text(), "after");
 }
 
-TEST_F(HttpClientTest, EndsWithAFailureWhereTheProgramEndsMeanwhile) {
+TEST_F(HttpClientTest, FailsIfTheProgramEndsDuringTheCall) {
     server.Tell("GET /page", [](QTcpSocket&) {
         QTimer::singleShot(0, qApp, [] { QCoreApplication::exit(0); });
     });
@@ -205,7 +205,7 @@ TEST_F(HttpClientTest, EndsWithAFailureWhereTheProgramEndsMeanwhile) {
 
 class HttpsTest : public testing::Test {
 protected:
-    /// Signed by nobody but itself, for that name or address.
+    /// Self-signed, for that name or address.
     void MakeCertificate(const QString& subject) {
         const QString key = folder.filePath("key.pem");
         const QString certificate = folder.filePath("certificate.pem");
@@ -244,7 +244,7 @@ protected:
     QSslConfiguration tls;
 };
 
-TEST_F(HttpsTest, ACertificateThatIsTrustedServes) {
+TEST_F(HttpsTest, ATrustedCertificateIsAccepted) {
     MakeCertificate("IP:127.0.0.1");
     Trust();
     EXPECT_EQ(Ask().body, "secret");

@@ -27,7 +27,7 @@ protected:
     QPlainTextEdit* Text() { return Find<QPlainTextEdit>(&box, "txtInstructions"); }
     ucScroll* Bar() { return Find<ucScroll>(&box, "vsInstructions"); }
     int TopLine() { return Text()->verticalScrollBar()->value(); }
-    /// As the card shows a recipe.
+    /// Does what the card does to show a recipe.
     void Show(const QString& text) {
         box.SetText(QString());
         box.SetText(text);
@@ -75,7 +75,7 @@ TEST_F(InstructionTextTest, FiveThousandLinesScrollFromTheFirstToTheLast) {
     EXPECT_EQ(TopLine(), 4995);
 }
 
-TEST_F(InstructionTextTest, BrokenLinesCountAsTheyStandOnTheCard) {
+TEST_F(InstructionTextTest, LineCountFollowsTheWidthOfTheCard) {
     Show(QString("word ").repeated(200));
     const int wide = box.LineCount();
     EXPECT_GT(wide, 5);
@@ -84,7 +84,7 @@ TEST_F(InstructionTextTest, BrokenLinesCountAsTheyStandOnTheCard) {
     EXPECT_GT(box.LineCount(), wide);
 }
 
-TEST_F(InstructionTextTest, ShownTextStandsAtItsBeginningWhateverWasScrolledBefore) {
+TEST_F(InstructionTextTest, ANewTextIsShownFromItsBeginning) {
     Show(Lines(20));
     for (int value = 1; value <= 10; ++value)
         Bar()->SetValue(value);

@@ -10,14 +10,14 @@
 
 class RecipeBookTest : public RecipesTest {
 protected:
-    /// The caption of a recipe of one ingredient.
+    /// The caption of a recipe with one ingredient.
     QString Caption(double calories, const QString& yield) {
         const qint32 recipe = AddRecipe("Soup", "1 bowl");
         AddIngredient(recipe, {{"Calories", calories}});
         return RecipeBook::CaloriesPerServing(recipe, yield);
     }
 
-    /// One row of amounts, positions 1 to 31.
+    /// Positions 1 to 31 of one row.
     QVariantList Amounts(const QString& where) {
         const auto rows = Rows(UserDB(), "SELECT * FROM Ingredients WHERE " + where);
         return rows.isEmpty() ? QVariantList() : rows.first().mid(1, NutrientCount);
@@ -33,7 +33,7 @@ TEST_F(RecipeBookTest, ANewRecipeStartsWithItsDefaults) {
                                      "(enter preparation instructions here...)", 30.0}));
 }
 
-TEST_F(RecipeBookTest, ANewRecipesServingIsEmptyAndNotNull) {
+TEST_F(RecipeBookTest, TheServingOfANewRecipeIsEmptyAndNotNull) {
     RecipeBook::AddRecipe();
     EXPECT_EQ(Count("Recipes", "ServingName IS NULL"), 0);
 }
@@ -84,7 +84,7 @@ TEST_F(RecipeBookTest, DeletingARecipeThatIsGoneDoesNothing) {
     EXPECT_EQ(Count("Recipes"), 1);
 }
 
-TEST_F(RecipeBookTest, WhatIngredientsADeletedRecipeLeavesAreNoNewRecipesOwn) {
+TEST_F(RecipeBookTest, IngredientsLeftByADeletedRecipeNeverBelongToANewOne) {
     const qint32 gone = RecipeBook::AddRecipe();
     AddIngredients(gone, 3);
     RecipeBook::DeleteRecipe(gone);
@@ -128,7 +128,7 @@ TEST_F(RecipeBookTest, TheYieldComesFromTheCaptionAndNotFromTheRow) {
     EXPECT_EQ(RecipeBook::CaloriesPerServing(recipe, "2"), "Calories: 200 per serving");
 }
 
-TEST_F(RecipeBookTest, AFigureThatFitsNoWholeNumberIsNoReasonToFail) {
+TEST_F(RecipeBookTest, AFigureThatFitsNoWholeNumberShowsAsDashes) {
     EXPECT_EQ(Caption(300, "1e-300"), "Calories: --");
     EXPECT_EQ(Caption(2147483647, "1"), "Calories: 2147483647 per serving");
     EXPECT_EQ(Caption(2147483648.0, "1"), "Calories: --");
@@ -142,14 +142,14 @@ TEST_F(RecipeBookTest, CaloriesThatAreAllNullCountAsNone) {
     EXPECT_EQ(RecipeBook::CaloriesPerServing(recipe, "1"), "Calories: 12 per serving");
 }
 
-TEST_F(RecipeBookTest, LoggingTheWholeRecipeTakesNoAccountOfTheYield) {
+TEST_F(RecipeBookTest, LoggingARecipeDoesNotDivideByTheYield) {
     const qint32 recipe = AddRecipe("Soup", "1 bowl"); // makes 4
     AddIngredients(recipe, 4, 100);
     EXPECT_EQ(ScaledFood::FromRecipe(recipe, 1).Amount("Calories"), 400);
     EXPECT_EQ(RecipeBook::CaloriesPerServing(recipe, "4"), "Calories: 100 per serving");
 }
 
-/// Nothing may push the name of a food to another place, so all that follows is looked at, too.
+/// A further nutrient must not move the food's name, so the column after the nutrients is checked.
 TEST_F(RecipeBookTest, TheNutrientsStandInOneOrderInNewAndInDeliveredFiles) {
     const auto agree = [](Connection& connection, const QString& source, int first) {
         const Recordset rows(connection, source);
@@ -174,7 +174,7 @@ TEST_F(RecipeBookTest, TheNutrientsStandInOneOrderInNewAndInDeliveredFiles) {
     EXPECT_EQ(Foods("SELECT max(ID) FROM FOODS").toInt(), 23508);
 }
 
-TEST_F(RecipeBookTest, AmountsGoByPlaceAndTextsByKey) {
+TEST_F(RecipeBookTest, AmountsAreCopiedByPositionAndTextsByKey) {
     RecipeBook::AddIngredient(7, Counting("Flour", 2.5));
     const QVariantList amounts = Amounts("1");
     ASSERT_EQ(amounts.size(), NutrientCount);

@@ -9,7 +9,7 @@
 #include <QPlainTextEdit>
 #include <QStringList>
 
-/// The recipe screen in a window as large as the nest, and its controls by name.
+/// The recipe screen in a window of the nest's size, with its controls by name.
 class RecipeManagerTest : public RecipesTest {
 protected:
     static inline const QStringList entries{"txtName", "txtYield", "txtServing", "txtTime"};
@@ -19,7 +19,7 @@ protected:
     void TearDown() override;
 
     void Open();
-    void Forward(); ///< as the navigation brings a screen forward
+    void Forward(); ///< as the navigation does
 
     ListBox* List() { return Find<ListBox>(screen.get(), "lsRecipes"); }
     ucButton* Button(const QString& name) { return Find<ucButton>(screen.get(), name); }

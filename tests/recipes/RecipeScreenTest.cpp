@@ -21,14 +21,14 @@ constexpr int readOnly = -8;
 
 } // namespace
 
-/// The screen of recipes without a mouse, over a store that fails, with texts of every kind.
+/// The recipe screen by keyboard, with a store that fails, and with texts of every kind.
 class RecipeScreenTest : public RecipeManagerTest {
 protected:
     void Open() {
         RecipeManagerTest::Open();
         screen->setFocus(Qt::OtherFocusReason);
     }
-    /// A recipe with its ingredients, in the form it has when it is opened for editing.
+    /// A screen that shows one recipe with that many ingredients.
     qint32 OpenWith(int ingredients) {
         const qint32 id = FoodsTest::AddRecipe("Soup", "1 bowl");
         AddIngredients(id, ingredients);
@@ -36,7 +36,7 @@ protected:
         return id;
     }
 
-    /// As a press does, with the failure coming out here.
+    /// Presses the button and gives the number of the failure.
     int FailureOfPress(const char* name) {
         return FailureOf([&] { Q_EMIT Button(name)->Click(); });
     }
@@ -51,7 +51,7 @@ protected:
         ASSERT_NE(QApplication::focusWidget(), nullptr);
         QTest::keyClick(QApplication::focusWidget(), key, held);
     }
-    /// Tab until the control has the focus: as often as there are controls, at most.
+    /// Presses Tab until the control has the focus.
     static void TabTo(const QString& name) {
         for (int i = 0; i < 20 && FocusName() != name; ++i)
             Key(Qt::Key_Tab);
@@ -98,7 +98,7 @@ TEST_F(RecipeScreenTest, TabLeadsThroughTheScreenInReadingOrderWhileARecipeIsSho
                            "cmdEdit", "cmdDelete", "cmdSend", "cmdDone", "lsRecipes"}));
 }
 
-TEST_F(RecipeScreenTest, SavingLeadsTheKeyboardToTheListAndNotOnToDone) {
+TEST_F(RecipeScreenTest, SavingMovesTheFocusToTheListAndNotToDone) {
     OpenWith(0);
     TabTo("cmdEdit");
     Key(Qt::Key_Return);
@@ -109,7 +109,7 @@ TEST_F(RecipeScreenTest, SavingLeadsTheKeyboardToTheListAndNotOnToDone) {
     EXPECT_TRUE(shownScreens.isEmpty());
 }
 
-TEST_F(RecipeScreenTest, DeletingLeadsTheKeyboardToTheListAndAtLastToNew) {
+TEST_F(RecipeScreenTest, DeletingMovesTheFocusToTheListAndAfterTheLastRecipeToNew) {
     FoodsTest::AddRecipes(2, "Soup");
     Open();
     for (const char* next : {"lsRecipes", "cmdNew"}) {
@@ -143,7 +143,7 @@ TEST_F(RecipeScreenTest, ARecipeIsMadeChangedAndDeletedByKeyboardAlone) {
     EXPECT_EQ(Count("Recipes"), 0);
 }
 
-TEST_F(RecipeScreenTest, AssistiveToolsFindANameOnEveryControlShownOrEdited) {
+TEST_F(RecipeScreenTest, EveryControlHasANameForAssistiveTools) {
     OpenWith(20);
     const auto expectNames = [this] {
         for (const QWidget* control : screen->findChildren<QWidget*>())
@@ -159,7 +159,7 @@ TEST_F(RecipeScreenTest, AssistiveToolsFindANameOnEveryControlShownOrEdited) {
 
 // What is shown
 
-TEST_F(RecipeScreenTest, ARecipeChosenEditedOrSavedStandsAtTheBeginningOfItsInstructions) {
+TEST_F(RecipeScreenTest, ChoosingEditingAndSavingShowTheInstructionsFromTheirBeginning) {
     FoodsTest::AddRecipes(2, "Soup");
     UserDB().Raw().exec("UPDATE Recipes SET Instructions = "
                         "replace('1,2,3,4,5,6,7,8,9,10,11,12', ',', char(10))");
@@ -181,7 +181,7 @@ TEST_F(RecipeScreenTest, ARecipeChosenEditedOrSavedStandsAtTheBeginningOfItsInst
     EXPECT_EQ(Instructions()->verticalScrollBar()->value(), 0);
 }
 
-TEST_F(RecipeScreenTest, TheIngredientsStandAtTheirTopWhenChosenEditedOrAddedTo) {
+TEST_F(RecipeScreenTest, ChoosingEditingAndAddingShowTheIngredientsFromTheirTop) {
     AddIngredients(FoodsTest::AddRecipe("Soup", "1 bowl"), 20);
     AddIngredients(FoodsTest::AddRecipe("Stew", "1 bowl"), 20);
     Open();
@@ -201,7 +201,7 @@ TEST_F(RecipeScreenTest, TheIngredientsStandAtTheirTopWhenChosenEditedOrAddedTo)
     expectTopAfter([this] { Press("cmdEdit"); });
 }
 
-TEST_F(RecipeScreenTest, WithoutAYieldOfItsOwnARecipeIsDividedByTheOneThatStandsOnTheCard) {
+TEST_F(RecipeScreenTest, WithoutAYieldARecipeIsDividedByTheYieldLeftOnTheCard) {
     FoodsTest::AddRecipe("Soup", "1 bowl"); // makes 4
     const qint32 stew = FoodsTest::AddRecipe("Stew", "1 bowl");
     AddIngredients(stew, 1, 400);
@@ -216,7 +216,7 @@ TEST_F(RecipeScreenTest, WithoutAYieldOfItsOwnARecipeIsDividedByTheOneThatStands
 
 // Texts
 
-TEST_F(RecipeScreenTest, NulsPicturesAndHardBlanksAreKeptInEveryField) {
+TEST_F(RecipeScreenTest, NulCharactersEmojiAndHardBlanksAreKeptInEveryField) {
     OpenWith(0);
     const QString text =
         QStringLiteral("4\u00A0cups") + QChar(0) + QStringLiteral("'; \U0001F372 <b>& 焼き</b>");
@@ -239,7 +239,7 @@ TEST_F(RecipeScreenTest, NulsPicturesAndHardBlanksAreKeptInEveryField) {
     EXPECT_EQ(Count("Recipes", "Instructions = ServingName || char(10) || ServingName"), 1);
 }
 
-TEST_F(RecipeScreenTest, LinesOfTheInstructionsAreStoredWithOneSignAtTheirEnds) {
+TEST_F(RecipeScreenTest, LineBreaksOfTheInstructionsAreStoredAsOneCharacter) {
     OpenWith(0);
     Press("cmdEdit");
     Instructions()->setFocus();
@@ -281,7 +281,7 @@ TEST_F(RecipeScreenTest, FiveThousandLinesOfInstructionsAreSavedWholeAndShownAga
 
 // A store that fails
 
-TEST_F(RecipeScreenTest, ASaveIntoALockedStoreLosesNothingAndGoesThroughLater) {
+TEST_F(RecipeScreenTest, ASaveIntoALockedStoreLosesNothingAndSucceedsLater) {
     OpenWith(1);
     UserDB().Raw().exec("PRAGMA busy_timeout = 0");
     Press("cmdEdit");
@@ -297,7 +297,7 @@ TEST_F(RecipeScreenTest, ASaveIntoALockedStoreLosesNothingAndGoesThroughLater) {
     EXPECT_EQ(Stored("RecipeName"), "Better soup");
 }
 
-TEST_F(RecipeScreenTest, NothingIsMadeChangedOrDeletedInAStoreThatCannotBeWritten) {
+TEST_F(RecipeScreenTest, AReadOnlyStoreIsNotChanged) {
     const qint32 id = OpenWith(2);
     const auto before = Everything();
     UserDB().Raw().exec("PRAGMA query_only = 1");
@@ -317,7 +317,7 @@ TEST_F(RecipeScreenTest, NothingIsMadeChangedOrDeletedInAStoreThatCannotBeWritte
     EXPECT_EQ(Everything(), before);
 }
 
-TEST_F(RecipeScreenTest, ADeleteThatFailsAtTheRecipeHasTakenItsFirstIngredientAlone) {
+TEST_F(RecipeScreenTest, ADeleteThatFailsAtTheRecipeHasRemovedOnlyItsFirstIngredient) {
     OpenWith(3);
     UserDB().Raw().exec("CREATE TRIGGER held BEFORE DELETE ON Recipes "
                         "BEGIN SELECT RAISE(ABORT, 'held'); END");

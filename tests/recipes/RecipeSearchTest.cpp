@@ -90,7 +90,7 @@ TEST_F(RecipeSearchTest, EachOfTheThreeCanBeExamined) {
     EXPECT_EQ(Count("USER_FOODS"), 0);
 }
 
-TEST_F(RecipeSearchTest, OneOfARecipeIsTheWholeOfItWhileTheCardDividesByTheYield) {
+TEST_F(RecipeSearchTest, AQuantityOfOneLogsTheWholeRecipeAndTheCardDividesByTheYield) {
     SearchFor("lentil");
     Add(0, "1");
     EXPECT_EQ(Logged("Lentil soup").value(0), 600.0);
@@ -104,7 +104,7 @@ TEST_F(RecipeSearchTest, ARecipeWithoutIngredientsIsLoggedAsZeros) {
     EXPECT_EQ(Count("USER_FOODS", "Calories = 0 AND Zinc = 0 AND VitaminC = 0"), 1);
 }
 
-TEST_F(RecipeSearchTest, ANewRecipeIsFoundUnderItsFirstNameAndHasNoServingYet) {
+TEST_F(RecipeSearchTest, ANewRecipeIsFoundAsMyRecipeAndHasNoServing) {
     RecipeBook::AddRecipe();
     SearchFor("my rec");
     EXPECT_EQ(NamesShown(*dialog.Panel()), QStringList{"My Recipe"});
@@ -112,7 +112,7 @@ TEST_F(RecipeSearchTest, ANewRecipeIsFoundUnderItsFirstNameAndHasNoServingYet) {
     EXPECT_EQ(Count("USER_FOODS", "FoodName = 'My Recipe' AND Serving = ''"), 1);
 }
 
-TEST_F(RecipeSearchTest, ARecipeDeletedWhileLoggedOnTenDaysIsStillOnEachOfThem) {
+TEST_F(RecipeSearchTest, ADeletedRecipeStaysOnTheTenDaysOnWhichItWasLogged) {
     const auto onEachDay = [this](const std::function<void()>& work) {
         for (int i = 1; i <= 10; ++i) {
             day.setDate(QDate(2002, 3, i));
@@ -133,14 +133,14 @@ TEST_F(RecipeSearchTest, ARecipeDeletedWhileLoggedOnTenDaysIsStillOnEachOfThem) 
     EXPECT_TRUE(NamesShown(*dialog.Panel()).isEmpty());
 }
 
-TEST_F(RecipeSearchTest, ARecipeDeletedWhileItsResultRowStandsFailsAndLogsNothing) {
+TEST_F(RecipeSearchTest, EatingARecipeThatWasDeletedMeanwhileFailsAndLogsNothing) {
     SearchFor("lentil");
     RecipeBook::DeleteRecipe(soup);
     EXPECT_EQ(FailureOf([this] { Found(0)->EatFood(soup, "A", 1, true); }), 3021);
     EXPECT_EQ(Count("USER_FOODS"), 0);
 }
 
-TEST_F(RecipeSearchTest, ARecipeAndAFoodOfOneKeyAreToldApart) {
+TEST_F(RecipeSearchTest, ARecipeAndAFoodWithTheSameKeyAreNotConfused) {
     AddFood({.id = soup, .name = "Lentils", .gramsA = 100.0, .nutrients = {{"Calories", 125}}});
     SearchFor("lentil");
     Add(0);

@@ -59,7 +59,7 @@ QJsonObject TransferTest::SoupRecipe() {
             {"PrepTime", 45},          {"Instructions", "Rinse.\nCook."}};
 }
 
-/// Amounts that tell row and position; the last value is the quantity.
+/// Each amount shows its row and position. The last value is the quantity.
 QJsonArray TransferTest::SoupRows() {
     QJsonArray rows;
     for (int row = 1; row <= 2; ++row) {

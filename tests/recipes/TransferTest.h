@@ -15,8 +15,8 @@
 #include <QJsonObject>
 #include <QLineEdit>
 
-/// A server that is told what to answer, one's own recipes, and the two dialogs. Odd replies come
-/// by name, so that both dialogs meet the same ones.
+/// A server with prepared answers, the user's recipes, and the two dialogs. Both dialogs are tried
+/// with the same table of odd replies.
 class TransferTest : public RecipesTest {
 protected:
     static constexpr qint32 Soup = 1218105222; ///< a recipe on the server
@@ -27,10 +27,10 @@ protected:
     void Open(ExchangeDialog* dialog); ///< takes it over
     void Type(const QString& field, const QString& text);
     void Press(const QString& button) { Click(Find(dialog.get(), button)); }
-    void ExpectDead(const QString& button); ///< whatever is done to the dialog, nothing happens
+    void ExpectDead(const QString& button); ///< no input has any effect on the dialog
     QString RecipePath(const QString& behind = QString()) const;
 
-    /// The recipe with two ingredients, as the exchange gives it.
+    /// Prepares the answers for a recipe with two ingredients.
     void TellSoup();
     static QJsonObject SoupRecipe();
     static QJsonArray SoupRows();
@@ -38,13 +38,13 @@ protected:
     static QJsonArray Fields(); ///< names of the 36 columns of an ingredient, in order
     static QByteArray Table(const QJsonArray& rows);
 
-    QString AllRecipes(); ///< what is stored of all recipes and ingredients, as one text
+    QString AllRecipes(); ///< all rows of recipes and ingredients as one text
 
     struct Oddity {
         const char* name;
         ScriptedServer::Answer answer;
     };
-    /// Replies that are no replies. Some never end: no test waits for the whole limit.
+    /// Replies that must fail. Some never end, so these tests set a short limit.
     static constexpr std::chrono::milliseconds OddLimit{500};
     QList<Oddity> Oddities();
 

@@ -63,7 +63,7 @@ TEST_F(frmImportTest, WaitsThirtySecondsForEachCall) {
     EXPECT_EQ(dialog->Exchange().Http().Limit(), std::chrono::seconds(30));
 }
 
-TEST_F(frmImportTest, WithoutAnIDSaysSoAndAsksNobody) {
+TEST_F(frmImportTest, WithoutAnIDSaysSoAndSendsNoRequest) {
     ExpectAlert("Please enter a recipe ID to import.");
     Press("cmdGo");
     EXPECT_TRUE(dialog->isVisible());
@@ -94,7 +94,7 @@ TEST_F(frmImportTest, CopiesTheRecipeAndItsIngredientsAndClosesFirst) {
     EXPECT_EQ(Count("Ingredients"), 2);
 }
 
-TEST_F(frmImportTest, ClosesBeforeItTellsOfTheSuccess) {
+TEST_F(frmImportTest, ClosesBeforeTheMessageOfSuccess) {
     TellSoup();
     bool visible = true;
     TheSeams().ShowAlert = [&](const QString& message, QObject* owner, bool) {
@@ -107,7 +107,7 @@ TEST_F(frmImportTest, ClosesBeforeItTellsOfTheSuccess) {
     EXPECT_FALSE(visible);
 }
 
-TEST_F(frmImportTest, IngredientsGoByPositionUnderNewKeysAndHaveTheQuantityOne) {
+TEST_F(frmImportTest, IngredientsAreImportedByPositionWithNewKeysAndTheQuantityOne) {
     FoodsTest::AddRecipe("One's own", "1 plate");
     AddIngredients(1, 3);
     TellSoup();
@@ -183,7 +183,7 @@ TEST_F(frmImportTest, ARecipeWithoutIngredientsHasNoCalories) {
     EXPECT_EQ(RecipeBook::CaloriesPerServing(1, "4.5"), "Calories: --");
 }
 
-TEST_F(frmImportTest, NullsComeAsNulls) {
+TEST_F(frmImportTest, NullsAreImportedAsNulls) {
     TellSoup();
     QJsonObject recipe = SoupRecipe();
     for (const QString& key : recipe.keys())
@@ -244,7 +244,7 @@ TEST_F(frmImportTest, AnIDIsRoundedHalfToEven) {
     }
 }
 
-TEST_F(frmImportTest, AnIDThatIsNoNumberFailsAndAsksNobody) {
+TEST_F(frmImportTest, AnIDThatIsNoNumberFailsWithoutARequest) {
     for (const char* id : {"abc", "12a", " ", "1 2", "0x12", "12; DELETE FROM recipes", "../1",
                            "2147483648", "-2147483649", "1e99"})
         ExpectFailure(id);
@@ -252,7 +252,7 @@ TEST_F(frmImportTest, AnIDThatIsNoNumberFailsAndAsksNobody) {
     EXPECT_EQ(AllRecipes(), "");
 }
 
-TEST_F(frmImportTest, APageThatIsNotTheExchangesOwnRefusalIsAFailure) {
+TEST_F(frmImportTest, A404WithoutAReasonIsAFailure) {
     for (const char* page :
          {"<html>Not found</html>", "", "{}", R"({"reason":7})", R"(["reason"])"}) {
         server->Tell(RecipePath(), 404, page);
@@ -288,7 +288,7 @@ TEST_F(frmImportTest, ARefusalIsAFailure) {
     EXPECT_EQ(AllRecipes(), "");
 }
 
-// Replies that are none
+// Odd replies
 
 TEST_F(frmImportTest, AnOddReplyForTheRecipeLeavesNothing) {
     dialog->Exchange().Http().SetLimit(OddLimit);
@@ -325,7 +325,7 @@ TEST_F(frmImportTest, AServerThatIsDownIsAFailureAndTheNextTrySucceeds) {
     EXPECT_EQ(Count("Recipes"), 1);
 }
 
-TEST_F(frmImportTest, WhatIsNoJsonOfTheAgreedFormFails) {
+TEST_F(frmImportTest, JsonOfAnotherFormFails) {
     TellSoup();
     const QByteArray bodies[] = {"",
                                  "x",
@@ -382,7 +382,7 @@ TEST_F(frmImportTest, AnotherRecipeThanTheOneAskedForFails) {
     EXPECT_EQ(AllRecipes(), "");
 }
 
-TEST_F(frmImportTest, AnUnexpectedTypeInAnyFieldOfAnIngredientLeavesThoseBeforeIt) {
+TEST_F(frmImportTest, AnUnexpectedTypeInAnIngredientKeepsTheIngredientsBeforeIt) {
     TellSoup();
     int tries = 0;
     for (int i = 1; i <= 34; ++i)
@@ -401,7 +401,7 @@ TEST_F(frmImportTest, AnUnexpectedTypeInAnyFieldOfAnIngredientLeavesThoseBeforeI
     EXPECT_EQ(Count("Ingredients", "FoodName = 'Food 1'"), tries);
 }
 
-TEST_F(frmImportTest, ARowThatIsTooShortOrNoneLeavesThoseBeforeIt) {
+TEST_F(frmImportTest, ARowThatIsTooShortOrMissingKeepsTheIngredientsBeforeIt) {
     TellSoup();
     QJsonArray shorter = SoupRows().at(1).toArray();
     while (shorter.size() > 34)
@@ -415,7 +415,7 @@ TEST_F(frmImportTest, ARowThatIsTooShortOrNoneLeavesThoseBeforeIt) {
     }
 }
 
-TEST_F(frmImportTest, NumbersBeyondAllBoundsFail) {
+TEST_F(frmImportTest, NumbersThatFitNoDoubleFail) {
     QByteArray recipe = Json(SoupRecipe());
     recipe.replace("4.5", "1e999");
     server->Tell(RecipePath(), 200, recipe);
@@ -423,7 +423,7 @@ TEST_F(frmImportTest, NumbersBeyondAllBoundsFail) {
     EXPECT_EQ(AllRecipes(), "");
 }
 
-TEST_F(frmImportTest, AfterAFailureAllIsDoneAnew) {
+TEST_F(frmImportTest, AnotherTryAfterAFailureImportsEverythingAgain) {
     TellSoup();
     server->Tell(RecipePath("/ingredients"), 200, Table({SoupRows().at(0), QJsonValue(7)}));
     ExpectFailure();

@@ -44,7 +44,7 @@ protected:
     }
     QLabel* Notice() { return Find<QLabel>(&dialog, "lblInfo"); }
     QTimer* Hider() { return Find<QTimer>(&dialog, "tmrHider"); }
-    /// What the timer does when its time is up, without waiting for that.
+    /// Raises the timer's tick without waiting for it.
     void Tick() {
         QTimerEvent tick(Hider()->timerId());
         QCoreApplication::sendEvent(Hider(), &tick);
@@ -79,7 +79,7 @@ TEST_F(frmRecSearchTest, AnIngredientHasNoMealToChoose) {
     EXPECT_TRUE(Rows(*dialog.Panel()).value(0)->property("RecipeMode").toBool());
 }
 
-TEST_F(frmRecSearchTest, ThreeAddsAreThreeRowsAndTheListFollowsOnlyWhenItIsDone) {
+TEST_F(frmRecSearchTest, ThreeAddsAreThreeRowsAndTheListFollowsOnDone) {
     for (int i = 0; i < 3; ++i)
         Add("bread", "2");
     EXPECT_EQ(Count("Ingredients", "Calories = 150 AND QTY = 2 AND FoodName = 'Bread'"), 3);
@@ -165,7 +165,7 @@ TEST_F(frmRecSearchTest, ARecipeCanBecomeAnIngredientOfAnotherAndOfItself) {
     EXPECT_EQ(Count("Ingredients", "FoodName = 'My Recipe'"), 1);
 }
 
-TEST_F(frmRecSearchTest, AnOwnFoodCountsAsItWasTypedTimesTheQuantity) {
+TEST_F(frmRecSearchTest, ACustomFoodCountsTheTypedAmountsTimesTheQuantity) {
     AddFood({.id = Schema::LastStockFood + 1,
              .name = "Granola of mine",
              .servA = "1 handful",
@@ -176,7 +176,7 @@ TEST_F(frmRecSearchTest, AnOwnFoodCountsAsItWasTypedTimesTheQuantity) {
               (QVariantList{270.0, 6.75, "1 handful", 1.5}));
 }
 
-TEST_F(frmRecSearchTest, AnOwnFoodDeletedWhileItsResultRowStandsFailsAndAddsNothing) {
+TEST_F(frmRecSearchTest, AddingACustomFoodThatWasDeletedMeanwhileFailsAndAddsNothing) {
     const int own = Schema::LastStockFood + 1;
     AddFood({.id = own, .name = "Granola of mine"});
     Search(*dialog.Panel(), "granola");
@@ -207,7 +207,7 @@ TEST_F(frmRecSearchTest, MovingTheMouseOverFormOrPanelResetsTheButtons) {
     EXPECT_EQ(go->property("State").toInt(), 1);
 }
 
-TEST_F(frmRecSearchTest, ItComesUpAtItsOwnersLeftAndTopAndStaysWhereItIsDragged) {
+TEST_F(frmRecSearchTest, OpensAtTheTopLeftOfItsOwnerAndStaysWhereItIsDragged) {
     QWidget frame;
     frame.setGeometry(120, 90, 800, 600);
     QWidget screen(&frame);

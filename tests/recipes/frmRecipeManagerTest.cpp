@@ -74,7 +74,7 @@ protected:
         Entry("txtTime")->setText(time);
         Instructions()->setPlainText(instructions);
     }
-    /// All that one attempt to save may and may not change.
+    /// All stored recipes as one text.
     QString AllStored() {
         QString all;
         for (const QVariantList& row : Rows(UserDB(), "SELECT * FROM Recipes"))
@@ -265,7 +265,7 @@ TEST_F(frmRecipeManagerTest, RecipeWithoutIngredientsShowsNoCalories) {
     EXPECT_EQ(Shown("aaCals"), "Calories: --");
 }
 
-TEST_F(frmRecipeManagerTest, NullsLeaveNameAndInstructionsEmptyAndTheOtherLabelsAsTheyStood) {
+TEST_F(frmRecipeManagerTest, NullsEmptyNameAndInstructionsAndKeepTheOtherLabels) {
     Recipe("Bean soup", "1 bowl", 4, 45, "Stir.");
     Recipe("Salad");
     UserDB().Raw().exec("UPDATE Recipes SET RecipeName = NULL, Instructions = NULL, ServingName = "
@@ -321,7 +321,7 @@ TEST_F(frmRecipeManagerTest, FailedReadsOfTheListAreIgnored) {
 
 // Editing
 
-TEST_F(frmRecipeManagerTest, EditPutsFieldsInThePlaceOfTheLabels) {
+TEST_F(frmRecipeManagerTest, EditShowsEntriesInThePlacesOfTheLabels) {
     const qint32 id = Recipe("Soup", "1 bowl", 4, 45, "Stir.");
     AddIngredients(id, 2);
     Open();
@@ -547,7 +547,7 @@ TEST_F(frmRecipeManagerTest, NamesOfTenThousandCharactersAreKeptAndCutOnTheCard)
     EXPECT_EQ(Entry("txtName")->text(), name);
 }
 
-TEST_F(frmRecipeManagerTest, NumbersOfHundredsOfDigitsLeaveTheUnitsOnTheCard) {
+TEST_F(frmRecipeManagerTest, NumbersOfHundredsOfDigitsKeepTheUnitsVisible) {
     Recipe("Soup");
     Open();
     Press("cmdEdit");
@@ -560,7 +560,7 @@ TEST_F(frmRecipeManagerTest, NumbersOfHundredsOfDigitsLeaveTheUnitsOnTheCard) {
               Find(screen.get(), "Label5")->geometry().left());
 }
 
-TEST_F(frmRecipeManagerTest, FieldsThatCannotBeReadKeepWhatStandsInThem) {
+TEST_F(frmRecipeManagerTest, FieldsThatCannotBeReadKeepTheirText) {
     const qint32 id = Recipe("Soup", "1 bowl", 4, 45, "Stir.");
     Open();
     UserDB().Raw().exec("ALTER TABLE Recipes RENAME COLUMN ServingName TO Gone");
@@ -602,7 +602,7 @@ TEST_F(frmRecipeManagerTest, NewWritesARowAtOnceAndOpensItForEditing) {
     EXPECT_EQ(Find<ucIngredients>(screen.get(), "ucING")->RecipeID(), id);
 }
 
-TEST_F(frmRecipeManagerTest, NewRecipeEndsWithTheStoredEmptyServingAndAsksForIt) {
+TEST_F(frmRecipeManagerTest, NewRecipeHasAnEmptyServingAndAsksForItOnSaving) {
     Open();
     Press("cmdNew");
     EXPECT_EQ(Stored(screen->CurrentRecipe(), "ServingName"), "");
@@ -610,7 +610,7 @@ TEST_F(frmRecipeManagerTest, NewRecipeEndsWithTheStoredEmptyServingAndAsksForIt)
     ExpectRefused("Please give your new recipe a serving size.");
 }
 
-TEST_F(frmRecipeManagerTest, SavedNewRecipeIsListedByItsNameAndTheCardShowsTheOneThatWasChosen) {
+TEST_F(frmRecipeManagerTest, ASavedNewRecipeIsListedAndTheCardShowsTheRecipeChosenBefore) {
     Recipe("Apple");
     Recipe("Bread");
     Open();
@@ -625,7 +625,7 @@ TEST_F(frmRecipeManagerTest, SavedNewRecipeIsListedByItsNameAndTheCardShowsTheOn
     EXPECT_EQ(Shown("aaRecipeName"), "Bread");
 }
 
-TEST_F(frmRecipeManagerTest, FirstRecipeOfAllIsShownWhenSaved) {
+TEST_F(frmRecipeManagerTest, TheOnlyRecipeIsShownAfterSaving) {
     Open();
     Press("cmdNew");
     Type("txtServing", "1 slice");
@@ -644,7 +644,7 @@ TEST_F(frmRecipeManagerTest, NewRecipeThatIsLeftStaysWithItsDefaults) {
     EXPECT_EQ(Users("SELECT RecipeName FROM Recipes"), "My Recipe");
 }
 
-TEST_F(frmRecipeManagerTest, DoneWritesNothingOfAnEdit) {
+TEST_F(frmRecipeManagerTest, DoneDuringAnEditSavesNothing) {
     const qint32 id = Recipe("Soup");
     Open();
     Press("cmdEdit");
@@ -653,7 +653,7 @@ TEST_F(frmRecipeManagerTest, DoneWritesNothingOfAnEdit) {
     EXPECT_EQ(Stored(id, "RecipeName"), "Soup");
 }
 
-TEST_F(frmRecipeManagerTest, KeptScreenGoesOnWithItsEdit) {
+TEST_F(frmRecipeManagerTest, AHiddenScreenContinuesItsEdit) {
     Recipe("Soup");
     Open();
     Press("cmdNew");
@@ -670,7 +670,7 @@ TEST_F(frmRecipeManagerTest, KeptScreenGoesOnWithItsEdit) {
     EXPECT_EQ(Users("SELECT RecipeName FROM Recipes ORDER BY RecipeID"), "Soup");
 }
 
-TEST_F(frmRecipeManagerTest, KeptScreenListsAnewWhenItComesForward) {
+TEST_F(frmRecipeManagerTest, AHiddenScreenListsTheRecipesAnewWhenItComesForward) {
     Recipe("Soup");
     Open();
     screen->hide();
@@ -690,7 +690,7 @@ TEST_F(frmRecipeManagerTest, DeleteAsksFirst) {
     EXPECT_EQ(Shown("aaRecipeName"), "Soup");
 }
 
-TEST_F(frmRecipeManagerTest, DeletedRecipeGivesItsPlaceToTheNext) {
+TEST_F(frmRecipeManagerTest, TheNextRecipeTakesThePlaceOfADeletedOne) {
     Recipe("Apple");
     Recipe("Bread");
     Recipe("Cake");
@@ -777,7 +777,7 @@ TEST_F(frmRecipeManagerTest, IngredientsOpensTheSearchAtTheScreensCornerAndRefre
     ExpectEditing();
 }
 
-TEST_F(frmRecipeManagerTest, RemovedIngredientLeavesTheCaloriesUntilTheRecipeIsShownAnew) {
+TEST_F(frmRecipeManagerTest, RemovingAnIngredientKeepsTheCaloriesUntilTheRecipeIsShownAnew) {
     const qint32 id = Recipe("Soup", "1 bowl", 1);
     AddIngredients(id, 2, 100);
     Open();
@@ -843,7 +843,7 @@ TEST_F(frmRecipeManagerTest, HoveringOneButtonResetsTheOthers) {
     }
 }
 
-TEST_F(frmRecipeManagerTest, HoveringNewOrDoneLeavesTheOthersLit) {
+TEST_F(frmRecipeManagerTest, HoveringNewOrDoneDoesNotResetTheOthers) {
     Recipe("Soup");
     Open();
     for (const char* quiet : {"cmdNew", "cmdDone"}) {

@@ -44,7 +44,7 @@ protected:
         Type("txtEmail", "friend@example.org");
         Type("txtFrom", "me@example.org");
     }
-    /// Sends, expects the message, and opens the dialog anew.
+    /// Sends, expects the message, and opens a new dialog.
     void ExpectReply(const QString& message) {
         FillIn();
         ExpectAlert(message);
@@ -112,7 +112,7 @@ TEST_F(frmSendTest, AppendsTheRecipeThenItsIngredientsThenCallsThePage) {
     EXPECT_EQ(server->Requests()[1].headers["authorization"], "Bearer abc");
 }
 
-TEST_F(frmSendTest, IngredientsGoByPositionWithoutKeyAndQuantity) {
+TEST_F(frmSendTest, IngredientsAreSentByPositionWithoutKeyAndQuantity) {
     FillIn();
     ExpectAlert(sentence);
     Press("cmdSend");
@@ -129,7 +129,7 @@ TEST_F(frmSendTest, IngredientsGoByPositionWithoutKeyAndQuantity) {
     }
 }
 
-TEST_F(frmSendTest, TheNamesOfTheColumnsAndTheQuantitiesGoBesideTheRows) {
+TEST_F(frmSendTest, ColumnNamesAndQuantitiesAreSentBesideTheRows) {
     UserDB().Raw().exec("UPDATE Ingredients SET QTY = NULL WHERE FoodName = 'Water'");
     FillIn();
     ExpectAlert(sentence);
@@ -138,7 +138,7 @@ TEST_F(frmSendTest, TheNamesOfTheColumnsAndTheQuantitiesGoBesideTheRows) {
     EXPECT_EQ(Body(1)["quantities"].toArray(), (QJsonArray{2, QJsonValue::Null}));
 }
 
-TEST_F(frmSendTest, NullsGoAsNulls) {
+TEST_F(frmSendTest, NullsAreSentAsNulls) {
     UserDB().Raw().exec("UPDATE Recipes SET Instructions = NULL, PrepTime = NULL");
     UserDB().Raw().exec("UPDATE Ingredients SET Calories = NULL, Serving = NULL");
     FillIn();
@@ -157,7 +157,7 @@ TEST_F(frmSendTest, ARecipeWithoutIngredientsIsAppendedAloneAndThePageIsCalled) 
     EXPECT_EQ(server->Lines(), QStringList({createLine, pageLine}));
 }
 
-TEST_F(frmSendTest, ManyIngredientsGoInSeveralCalls) {
+TEST_F(frmSendTest, ManyIngredientsAreSentInSeveralCalls) {
     UserDB().Raw().exec("DELETE FROM Ingredients");
     AddIngredients(recipe, 250);
     QList<QByteArray> replies{R"({"added":100})", R"({"added":100})", R"({"added":50})"};
@@ -177,7 +177,7 @@ TEST_F(frmSendTest, ManyIngredientsGoInSeveralCalls) {
     EXPECT_EQ(Body(3)["quantities"].toArray().size(), 50);
 }
 
-TEST_F(frmSendTest, TheTickMakesItPublic) {
+TEST_F(frmSendTest, TheCheckBoxMakesItPublic) {
     Click(Find(dialog.get(), "ckShare"), QPoint(8, 12));
     ASSERT_TRUE(Find<QCheckBox>(dialog.get(), "ckShare")->isChecked());
     FillIn();
@@ -193,7 +193,7 @@ TEST_F(frmSendTest, TheSameRecipeTwiceIsSentTwice) {
     EXPECT_EQ(Count("Recipes"), 1);
 }
 
-TEST_F(frmSendTest, ARecipeThatIsGoneFailsAndAsksNobody) {
+TEST_F(frmSendTest, ARecipeThatWasDeletedFailsWithoutARequest) {
     UserDB().Raw().exec("DELETE FROM Recipes");
     ExpectFailure();
     EXPECT_EQ(server->Lines(), QStringList());
@@ -208,7 +208,7 @@ TEST_F(frmSendTest, AddressesAreNotChecked) {
     EXPECT_EQ(Body(0)["EMAILFROM"], "<b>'\";");
 }
 
-TEST_F(frmSendTest, AReplyWithoutContentLengthIsShownAsItIs) {
+TEST_F(frmSendTest, AReplyWithoutContentLengthIsShownUnchanged) {
     for (const char* head : {"HTTP/1.1 200 OK\r\n\r\n", "HTTP/1.0 500 No\r\n\r\n"}) {
         server->Tell(pageLine, ScriptedServer::Raw(head + sentence.toUtf8()));
         ExpectReply(sentence);
@@ -252,7 +252,7 @@ TEST_F(frmSendTest, CancelAndEscapeWriteNothing) {
 
 // Replies of the page
 
-TEST_F(frmSendTest, AReplyIsShownAsItStands) {
+TEST_F(frmSendTest, AReplyIsShownUnchanged) {
     for (const char* reply :
          {"OK", "  <", "  <html>", "a<b>c</b>", "Sent. <b>Bold</b> & \"quoted\"", "\t<",
           "Grüße — 🍲", "ERROR: nothing was sent", "\n\n", "  ", "First line.\nSecond line.\n"}) {
@@ -268,7 +268,7 @@ TEST_F(frmSendTest, ASentenceIsShownWhateverItsStatus) {
     }
 }
 
-TEST_F(frmSendTest, MarkupAndNextToNothingAreFailures) {
+TEST_F(frmSendTest, MarkupAndRepliesBelowTwoCharactersAreFailures) {
     for (const char* reply : {"<html><body>Sent</body></html>", "<", "<<", " <", " <html>", "", "x",
                               " ", "\n", "\xc3\xbc", "\xef\xbb\xbf<html>"}) {
         SCOPED_TRACE(reply);
@@ -277,7 +277,7 @@ TEST_F(frmSendTest, MarkupAndNextToNothingAreFailures) {
     }
 }
 
-TEST_F(frmSendTest, AReplyOfThePageThatIsNoneIsAFailure) {
+TEST_F(frmSendTest, AnOddReplyOfThePageIsAFailure) {
     for (const Oddity& odd : Oddities()) {
         SCOPED_TRACE(odd.name);
         server->Tell(pageLine, odd.answer);
@@ -285,7 +285,7 @@ TEST_F(frmSendTest, AReplyOfThePageThatIsNoneIsAFailure) {
     }
 }
 
-// What the exchange answers before that
+// Answers of the exchange before the page
 
 TEST_F(frmSendTest, AnOddReplyToTheRecipeEndsTheSend) {
     for (const Oddity& odd : Oddities()) {
@@ -297,7 +297,7 @@ TEST_F(frmSendTest, AnOddReplyToTheRecipeEndsTheSend) {
     EXPECT_FALSE(server->Lines().contains(pageLine));
 }
 
-TEST_F(frmSendTest, AnOddReplyToTheIngredientsLeavesTheRecipeThereAndMailsNothing) {
+TEST_F(frmSendTest, AnOddReplyToTheIngredientsCallsNoPage) {
     for (const Oddity& odd : Oddities()) {
         SCOPED_TRACE(odd.name);
         server->Tell(addLine, odd.answer);
@@ -313,7 +313,7 @@ TEST_F(frmSendTest, NothingIsPostedTwice) {
     EXPECT_EQ(server->Lines(), QStringList({createLine, addLine}));
 }
 
-TEST_F(frmSendTest, ARecipeThatIsNotTakenAsAgreedFails) {
+TEST_F(frmSendTest, AnUnexpectedReplyToTheRecipeFails) {
     for (const char* body :
          {"", "{}", "[]", R"({"RecipeID":"7","token":"a"})", R"({"RecipeID":1.5,"token":"a"})",
           R"({"RecipeID":-7,"token":"a"})", R"({"RecipeID":99999999999,"token":"a"})",
@@ -329,7 +329,7 @@ TEST_F(frmSendTest, ARecipeThatIsNotTakenAsAgreedFails) {
     EXPECT_EQ(server->Lines().count(createLine), server->Lines().size());
 }
 
-TEST_F(frmSendTest, IngredientsThatAreNotTakenAsAgreedFail) {
+TEST_F(frmSendTest, AnUnexpectedReplyToTheIngredientsFails) {
     for (const char* body : {"", "{}", "[2]", R"({"added":"2"})", R"({"added":1})",
                              R"({"added":null})", R"({"added":true})", R"({"added":2.5})"}) {
         SCOPED_TRACE(body);
@@ -343,7 +343,7 @@ TEST_F(frmSendTest, IngredientsThatAreNotTakenAsAgreedFail) {
     EXPECT_FALSE(server->Lines().contains(pageLine));
 }
 
-TEST_F(frmSendTest, ATokenCannotSmuggleAHeaderIn) {
+TEST_F(frmSendTest, ATokenWithALineBreakIsRefused) {
     server->Tell(createLine, 201, R"({"RecipeID":1218105222,"token":"abc\r\nX-Smuggled: yes"})");
     ExpectFailure();
     for (const ScriptedServer::Request& request : server->Requests())
@@ -385,7 +385,7 @@ TEST_F(frmSendTest, ShowsTheReplyBeforeItCloses) {
     EXPECT_FALSE(dialog->isVisible());
 }
 
-TEST_F(frmSendTest, AMouseMoveOverAnyControlPutsTheButtonsOut) {
+TEST_F(frmSendTest, AMouseMoveOverAnyControlResetsTheButtons) {
     for (const char* name : {"txtEmail", "txtFrom", "ckShare", "ucAALBL1", "ucAALBL2"}) {
         for (const char* button : {"cmdSend", "cmdCancel"})
             Hover(Button(button));

@@ -136,7 +136,7 @@ TEST_F(ucIngredientsTest, OnlyTheRecipesOwnIngredientsAreShown) {
     EXPECT_TRUE(Names().isEmpty());
 }
 
-TEST_F(ucIngredientsTest, TheDaysLimitsAreNoneOfIt) {
+TEST_F(ucIngredientsTest, TheLimitOfTheDaysListDoesNotApply) {
     App().AppInfo.LIMITRESULTS = true;
     Show(320);
     EXPECT_EQ(Names().size(), 320);
@@ -173,7 +173,7 @@ TEST_F(ucIngredientsTest, OneValueOfTheBarIsTenUnitsOfThePane) {
     EXPECT_EQ(Pane()->y() + Pane()->height(), Box()->height());
 }
 
-TEST_F(ucIngredientsTest, DisplayingWithAResetShowsTheTopAndWithoutItKeepsThePlace) {
+TEST_F(ucIngredientsTest, AResetShowsTheTopAndARedrawWithoutItKeepsThePlace) {
     Show(20);
     Bar()->SetValue(60);
     list.DisplayFoods(false);
@@ -206,7 +206,7 @@ TEST_F(ucIngredientsTest, ClearingUnloadsAllLinesAndHidesTheBar) {
     EXPECT_TRUE(Bar()->isVisible());
 }
 
-TEST_F(ucIngredientsTest, ALineIsRemovedAtOnceAndToldAfterwards) {
+TEST_F(ucIngredientsTest, ALineIsRemovedAtOnceAndThenFoodRemovedIsRaised) {
     Show(3);
     int rowsLeft = -1;
     QStringList shown;

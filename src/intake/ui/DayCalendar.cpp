@@ -20,7 +20,7 @@ DayCalendar::DayCalendar(QWidget* parent)
     hide();
 }
 
-/// The focus leaves a child that is destroyed after this part of the object is gone.
+/// A child that has the focus is destroyed after this object: FollowFocus must not run then.
 DayCalendar::~DayCalendar() {
     disconnect(qApp, nullptr, this, nullptr);
 }
@@ -42,20 +42,20 @@ void DayCalendar::Open(QDate day) {
     smCal_->setSelectedDate(day);
 }
 
-/// A click can come with an activation: the first of the two counts.
+/// A click can raise both signals. Only the first counts.
 void DayCalendar::OnPick(QDate day) {
     if (!isHidden())
         Q_EMIT Picked(day);
 }
 
-/// The menu of the months is a window of its own, and yet a part.
+/// The menu of the months is a window of its own, but belongs to the panel.
 bool DayCalendar::HasPart(const QObject* control) const {
     while (control && control != this)
         control = control->parent();
     return control;
 }
 
-/// Another program in front leaves the focus where it is.
+/// `now` is null when another program comes to the front: the panel stays.
 void DayCalendar::FollowFocus(QWidget*, QWidget* now) {
     if (now && !HasPart(now))
         hide();

@@ -6,8 +6,8 @@
 
 class MonthCalendar;
 
-/// The panel `picCal` "Select a date" with the month calendar `smCal` in it. It is hidden unless
-/// opened, and hides where the focus goes elsewhere.
+/// The panel `picCal` "Select a date" around the month calendar `smCal`. It is hidden until it is
+/// opened, and hides again when the focus leaves it.
 class DayCalendar : public ucBox {
     Q_OBJECT
 

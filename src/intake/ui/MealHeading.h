@@ -2,8 +2,8 @@
 
 #include "toolkit/DrawnControl.h"
 
-/// A meal's heading in a day's list: a strip over the whole line that, clicked, adds food to that
-/// meal. Its text is brown and turns white under the pointer, on a strip that turns brown.
+/// The heading of a meal in a day's list. A click on it asks to add food to that meal. Its text is
+/// brown; under the pointer the text is white and the strip brown.
 class MealHeading : public DrawnControl {
     Q_OBJECT
     Q_PROPERTY(QString Caption READ Caption)

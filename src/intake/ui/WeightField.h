@@ -2,8 +2,8 @@
 
 #include "toolkit/LineField.h"
 
-/// The text field of the day's weight. It tells when the person leaves it, and not when another
-/// window comes in front or a menu opens: the person is still in it then.
+/// The text field of the day's weight. It signals when the person leaves it. Another window in
+/// front or an open menu does not count: the person comes back to the field.
 class WeightField : public LineField {
     Q_OBJECT
 
@@ -11,7 +11,7 @@ public:
     explicit WeightField(QWidget* parent = nullptr);
 
     bool HoldsUnsaved() const { return isModified(); }
-    void Leave(); ///< as if the focus went; nothing where the field is not being edited
+    void Leave(); ///< as if the focus left; does nothing if the field is not being edited
 
 Q_SIGNALS:
     void Left();

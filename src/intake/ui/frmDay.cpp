@@ -174,14 +174,14 @@ void frmDay::TakeWeight(double weight) {
         daily_->updateCharts();
 }
 
-/// What is typed counts as entered when the screen goes, by whatever way it goes.
+/// A typed weight is saved even if the screen goes before the field loses the focus.
 void frmDay::hideEvent(QHideEvent* event) {
     Screen::hideEvent(event);
     if (!event->spontaneous() && txtWeight_->HoldsUnsaved())
         txtWeight_->Leave();
 }
 
-/// The next day screen may be made before this one has gone.
+/// The next day screen may be created before this one is destroyed, and must find the mode.
 void frmDay::closeEvent(QCloseEvent* event) {
     daily_->StoreMode();
     Screen::closeEvent(event);
@@ -198,8 +198,8 @@ void frmDay::OpenCalendar() {
     picCal_->Open(App().CurrentDate);
 }
 
-/// The button takes the focus first: hiding the panel with the focus in it would send that on into
-/// another control.
+/// The button takes the focus first. Hiding a panel that has the focus would pass it to another
+/// control.
 void frmDay::CloseCalendar() {
     cmdCal_->setFocus();
     picCal_->hide();
@@ -213,7 +213,7 @@ void frmDay::PickDay(QDate day) {
     DoWinInit();
 }
 
-/// The dialog stays open for one food after the other; list and totals behind it follow each.
+/// The dialog stays open for more foods. The list and the totals behind it follow each one.
 void frmDay::ChooseFoods(int meal) {
     frmFoodSearch dialog(this);
     if (meal >= 0)
@@ -240,7 +240,7 @@ void frmDay::GoHome() {
     ShowScreen(Screens::Main.name);
 }
 
-/// Both must differ: a redraw under a resting pointer sends moves as well.
+/// Both must differ: a redraw also sends moves while the pointer rests.
 bool frmDay::HasMoved(double x, double y) {
     const qint32 newX = Round(x);
     const qint32 newY = Round(y);

@@ -13,8 +13,8 @@ class QLabel;
 class WeightField;
 
 /// The screen "Daily Details": the chosen day's foods, its totals against the targets, its weight,
-/// and a calendar to choose another day. The day shown is the process-wide chosen day, which stays
-/// when the screen closes. The screen owns both ends of what its parts tell each other.
+/// and a calendar to choose another day. It shows the process-wide chosen day, which stays when the
+/// screen closes. It connects its parts to each other.
 class frmDay : public Screen {
     Q_OBJECT
 
@@ -22,7 +22,7 @@ public:
     explicit frmDay(QWidget* parent = nullptr);
 
     void BeforeShow() override; ///< passes the chosen day to the list and the panel
-    /// Loads the day's weight. A weight there is becomes the current user's, whatever day it is of.
+    /// Loads the day's weight, which becomes the current weight of the user, also on a past day.
     void DoWinInit() override;
     void AllOff(const QString& except) override;
     void buildDate();

@@ -10,12 +10,12 @@
 
 namespace {
 
-// What is read of a reply, in bytes: many times what the largest recipe and the longest sentence
-// take.
+// The longest replies that are read, in bytes: many times the largest recipe and the longest
+// sentence.
 constexpr qint64 longestDocument = 8 * 1024 * 1024;
 constexpr qint64 longestSentence = 64 * 1024;
 
-/// Rows that go out in one call: few enough for a server that limits what it takes at once.
+/// Rows sent in one call: few enough for a server that limits the size of a request.
 constexpr qsizetype rowsAtOnce = 100;
 
 enum Status { Done = 200, Created = 201, Unknown = 404 };
@@ -36,7 +36,7 @@ QJsonObject ObjectIn(const HttpReply& reply, int status) {
     return document.object();
 }
 
-/// It goes into a header as it is.
+/// The token goes into a header unchanged, so it must be one visible word.
 QByteArray TokenIn(const QJsonValue& value) {
     const QByteArray token = RemoteValue::Text(value).toString().toUtf8();
     const auto isVisible = [](char c) { return c > ' ' && c < 0x7f; };
@@ -54,8 +54,8 @@ QJsonArray Slice(const QJsonArray& values, qsizetype from) {
 
 } // namespace
 
-/// Only the exchange itself says that it has no such recipe, and gives its reason: any other page
-/// that is not found is a server that is not there.
+/// The exchange gives a reason when it has no such recipe. A 404 without one comes from another
+/// server, and is a failure.
 std::optional<QJsonObject> ExchangeClient::ReadRecipe(qint32 RecipeID) {
     const HttpReply reply = http_.Get(Server::Address() + RecipesPath(RecipeID), longestDocument);
     if (reply.status == Unknown && ObjectIn(reply, Unknown)[QLatin1String("reason")].isString())

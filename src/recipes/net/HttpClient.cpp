@@ -39,7 +39,7 @@ private:
     QByteArray rest_;
 };
 
-/// Replies come unpacked, so that their length can be compared with Content-Length.
+/// Asks for replies without compression, so that their length can be compared with Content-Length.
 QNetworkRequest RequestTo(const QString& address) {
     QNetworkRequest request{QUrl(address)};
     request.setHeader(QNetworkRequest::UserAgentHeader, QStringLiteral("Halvane"));
@@ -53,15 +53,15 @@ int StatusOf(const QNetworkReply& reply) {
     return reply.attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
 }
 
-/// Without Content-Length we cannot detect truncation: the end of the connection ends the reply, and
-/// the network layer takes a reset, or an end between two chunks, for such an end.
+/// Without Content-Length we cannot detect truncation: the end of the connection ends the reply. The
+/// network layer treats a reset, and an end between two chunks, in the same way.
 bool IsOfItsLength(const QNetworkReply& reply, qint64 length) {
     const QVariant told = reply.header(QNetworkRequest::ContentLengthHeader);
     return told.isNull() || told.toLongLong() == length;
 }
 
-/// The network layer takes a status of 400 or above for an error of its own: these are the errors
-/// that it makes of them.
+/// The network layer turns a status of 400 or above into one of these errors. The reply is there all
+/// the same.
 bool HasCome(const QNetworkReply& reply) {
     const QNetworkReply::NetworkError error = reply.error();
     const bool refused = (error >= QNetworkReply::ContentAccessDenied &&
@@ -74,7 +74,7 @@ bool HasCome(const QNetworkReply& reply) {
 
 } // namespace
 
-/// Each call has a connection of its own: one that is kept may be closing just when it is used.
+/// Each call has a connection of its own: the server may close a kept one just when we use it.
 HttpReply HttpClient::Get(const QString& address, qint64 atMost) const {
     QNetworkAccessManager network;
     return Await(*network.get(RequestTo(address)), atMost);

@@ -12,21 +12,21 @@ struct HttpReply {
     QByteArray body;
 };
 
-/// Blocking HTTP. A call returns when its reply is there, whatever its status. It fails with a
-/// RuntimeError where there is no reply: no connection, a certificate that is not trusted, a body
-/// shorter than its Content-Length, a body longer than is taken, the limit over. A reply without
-/// Content-Length ends with the connection: who needs it whole checks its content. Redirections are
-/// not followed. While a call waits, the interface repaints and takes no input.
+/// Blocking HTTP. A call returns the reply, whatever its status. It fails with a RuntimeError if
+/// there is no connection, the certificate is not trusted, the body is shorter than its
+/// Content-Length or longer than `atMost`, or the time is over. Without Content-Length we cannot
+/// detect truncation: whoever needs the whole reply checks its content. Redirections are not
+/// followed. While a call waits, the interface repaints and drops input.
 class HttpClient {
 public:
-    /// For one call as a whole, from the look-up of the name to the last byte.
+    /// For one whole call, from the look-up of the name to the last byte.
     static constexpr std::chrono::milliseconds DefaultLimit = std::chrono::seconds(30);
 
     std::chrono::milliseconds Limit() const { return limit_; }
     void SetLimit(std::chrono::milliseconds limit) { limit_ = limit; }
 
     HttpReply Get(const QString& address, qint64 atMost) const;
-    /// A body that has gone out is never sent a second time on its own account.
+    /// Never sends a body twice, even if the connection closes before the reply.
     HttpReply PostJson(const QString& address, const QByteArray& json, const QByteArray& token,
                        qint64 atMost) const;
 

@@ -4,23 +4,23 @@
 
 class ExchangeClient;
 
-/// Copies recipes between users.mdb and the exchange, a row at a time. Either fails with a
-/// RuntimeError, and what it has written till then stays, here and there.
+/// Copies recipes between users.mdb and the exchange, row by row. A failure is a RuntimeError; rows
+/// that were written before it stay, on both sides.
 namespace RecipeExchange {
 
-/// Appends a recipe of the exchange to one's own, under keys that the store makes: imported twice,
-/// it is there twice. Its ingredients come with the quantity 1, as the exchange tells any other in
-/// the serving. False where the exchange has no such recipe; nothing is written then. Ingredients
-/// whose columns stand in another order than one's own are refused before anything is written.
+/// Appends a recipe of the exchange to the user's own. The store makes new keys, so a recipe that
+/// is imported twice is there twice. Ingredients get the quantity 1: the exchange writes any other
+/// into the serving. False if the exchange has no such recipe; then nothing is written. Columns in
+/// another order than ours are refused before anything is written.
 bool Import(ExchangeClient& exchange, qint32 RecipeID);
 
 struct Envelope {
     QString from;
     QString to;
-    bool isPublic = false; ///< everybody may find it
+    bool isPublic = false; ///< everybody can find it
 };
 
-/// Appends one's own recipe to the exchange and has it mailed. Gives what the exchange says to it.
+/// Appends a recipe of the user's to the exchange and asks it to mail it. Gives the answer.
 QString Send(ExchangeClient& exchange, qint32 RecipeID, const Envelope& envelope);
 
 } // namespace RecipeExchange

@@ -3,10 +3,9 @@
 #include <QJsonValue>
 #include <QVariant>
 
-/// Values as the exchange gives them, each of the one kind that is agreed. Anything else fails with
-/// a RuntimeError.
+/// Reads values that the exchange sends. A value of another kind than agreed is a RuntimeError.
 namespace RemoteValue {
-QVariant Number(const QJsonValue& value); ///< finite; null is null
-QVariant Text(const QJsonValue& value);   ///< null is null
+QVariant Number(const QJsonValue& value); ///< finite, or null
+QVariant Text(const QJsonValue& value);   ///< or null
 qint32 Count(const QJsonValue& value);    ///< a whole number from 0 up
 } // namespace RemoteValue

@@ -14,7 +14,7 @@ namespace {
 // Measures in pixels.
 constexpr int captionGap = 8;
 constexpr int unitGap = 4;
-constexpr int blankWidth = 8; // in front of a unit where there is no number
+constexpr int blankWidth = 8; // before a unit if there is no number
 constexpr int numberWidth = 56;
 
 } // namespace
@@ -88,7 +88,7 @@ void CardField::Place(const QRect& line, int captionWidth) {
     PlaceParts();
 }
 
-/// A unit follows what stands before it: the number on the label, or the entry.
+/// The unit follows directly after the number on the label, or after the entry.
 void CardField::PlaceParts() {
     const int taken = unit_ ? unitGap + unit_->width() : 0;
     const int room = qMax(0, place_.width() - taken);

@@ -11,12 +11,11 @@ class QLabel;
 class QLineEdit;
 class QWidget;
 
-/// Puts a control in the middle of a line of the card, at its left end, with the size it has.
+/// Moves a control to the left end of a line of the card, in the middle of its height.
 void PlaceOnLine(const QRect& line, QWidget* control);
 
-/// A field of a recipe on its card: a label that shows it and, in the same place, an entry that
-/// takes what is typed. It may have a caption before it and a unit behind it. The controls belong
-/// to the card.
+/// A field of a recipe on its card: a label that shows it and an entry in the same place in which
+/// it is typed. It may have a caption before it and a unit after it. The card owns the controls.
 class CardField {
 public:
     struct Names {
@@ -34,10 +33,10 @@ public:
     void SetEntry(const QString& text);
     QString Entry() const;
     void SetEditing(bool editing);
-    void Focus(); ///< the entry, with all of it chosen and its beginning in sight
+    void Focus(); ///< selects the whole entry and scrolls to its beginning
 
     int CaptionWidth() const;
-    /// From the caption's left end on; what follows the caption begins behind `captionWidth`.
+    /// The caption begins at the left of `line`, and the field `captionWidth` further right.
     void Place(const QRect& line, int captionWidth);
 
 private:

@@ -65,7 +65,7 @@ bool ExchangeDialog::eventFilter(QObject* watched, QEvent* event) {
     return Dialog::eventFilter(watched, event);
 }
 
-/// A disabled button hands the focus on; it gets it back, to be pressed again from the keyboard.
+/// A button that is disabled loses the focus. It gets it back, so that Return can try again.
 bool ExchangeDialog::Wait(const std::function<void()>& work) {
     const QPointer<QWidget> focus = focusWidget();
     SetWaiting(true);

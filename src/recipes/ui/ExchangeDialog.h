@@ -8,9 +8,9 @@
 class QLineEdit;
 class ucButton;
 
-/// What the two dialogs that speak with the recipe exchange share: fields with their captions, the
-/// button that starts and Cancel, and how they stand while the exchange is waited for. A mouse move
-/// over anything but a button takes the hover look off the buttons.
+/// What the two dialogs of the recipe exchange share: fields with captions, the starting button and
+/// Cancel, and the state while they wait for the exchange. A mouse move over anything but a button
+/// takes the hover look off the buttons.
 class ExchangeDialog : public Dialog {
     Q_OBJECT
 
@@ -21,15 +21,14 @@ public:
 protected:
     ExchangeDialog(const QString& name, const QString& title, QSize size, QWidget* owner);
 
-    /// A caption and beside it a field, both from `top` on; gives the field.
+    /// Adds a caption with a field beside it at `top`; gives the field.
     QLineEdit* AddField(int top, const char* label, const char* caption, const char* field);
-    /// The row of buttons, in the tab order behind what is there.
+    /// Adds the row of buttons, last in the tab order; gives the starting button.
     ucButton* AddButtons(const char* start, const char* caption);
-    void Watch(QWidget* control); ///< mouse moves over it count as moves over the form
+    void Watch(QWidget* control); ///< mouse moves over it then count as moves over the form
     int FieldLeft() const;
 
-    /// Runs `work` with the starting button disabled and the pointer busy. Gives whether it went
-    /// through.
+    /// Runs `work` with the starting button disabled and the pointer busy. False if it failed.
     bool Wait(const std::function<void()>& work);
 
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -14,10 +14,10 @@
 namespace {
 
 constexpr int textLeft = 8;
-constexpr int textTop = 6; // also below the last line
-constexpr int slack = 1;   // without it the last line in sight would count as cut
+constexpr int textTop = 6; // as much is kept free below the last line
+constexpr int slack = 1;   // without it the last visible line would count as cut
 
-/// The frame around the text is this control's: the field itself has none.
+/// This control paints the frame around the text, so the field has none.
 const char* const bareField =
     "#txtInstructions { background: transparent; border: none; padding: 0; }";
 
@@ -60,7 +60,7 @@ void InstructionText::AddBar() {
     connect(bar_, &ucScroll::Change, this, &InstructionText::OnBarChange);
 }
 
-/// As it was typed: the plain text of a document would have blanks in place of hard blanks.
+/// The text as it was typed. QTextDocument::toPlainText would replace hard blanks by blanks.
 QString InstructionText::Text() const {
     QString text = text_->document()->toRawText();
     for (const QChar end : {QChar(QChar::ParagraphSeparator), QChar(QChar::LineSeparator)})
@@ -75,7 +75,7 @@ void InstructionText::SetText(const QString& text) {
     text_->setPlainText(text);
 }
 
-/// A text that cannot be changed can still be read, chosen and copied with the keyboard.
+/// A read-only text can still be selected and copied with the keyboard.
 void InstructionText::SetReadOnly(bool readOnly) {
     text_->setTextInteractionFlags(readOnly
                                        ? Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard
@@ -87,7 +87,7 @@ void InstructionText::ResetBar() {
     bar_->SetValue(0);
 }
 
-/// Only what has changed is broken into lines anew.
+/// Lays out only the blocks that changed.
 int InstructionText::LineCount() const {
     const QTextDocument* document = text_->document();
     for (QTextBlock block = document->begin(); block.isValid(); block = block.next())
@@ -161,7 +161,7 @@ QSize InstructionText::sizeHint() const {
     return {QWidget::sizeHint().width(), LinesInSight * LineHeight() + slack + 2 * textTop};
 }
 
-/// The bar's room is kept free while it is hidden: the text breaks alike with it and without it.
+/// The room of a hidden bar stays free, so that the line breaks are the same with and without it.
 void InstructionText::resizeEvent(QResizeEvent*) {
     const int barWidth = TheStyle().scrollWidth;
     text_->setGeometry(textLeft, textTop, width() - 2 * textLeft - barWidth,

@@ -6,9 +6,8 @@ class QPlainTextEdit;
 class ucScroll;
 
 /// The preparation instructions on a recipe's card: a frame of five lines, `picInstBox`, with the
-/// text and its scroll bar. Any change of the bar moves the text by one line, however far the bar
-/// has jumped, so the two keep step for single steps only. The wheel moves the text, and the bar
-/// follows.
+/// text and its scroll bar. Any change of the bar moves the text by one line, even if the bar
+/// jumped: the two agree for single steps only. The wheel moves the text, and the bar follows.
 class InstructionText : public QWidget {
     Q_OBJECT
 
@@ -18,13 +17,13 @@ public:
     explicit InstructionText(QWidget* parent = nullptr);
 
     QString Text() const;
-    void SetText(const QString& text); ///< the text that stands there untouched is no change
+    void SetText(const QString& text); ///< does nothing if the text is there and was not edited
     void SetReadOnly(bool readOnly);
     void ResetBar();
-    int LineCount() const; ///< lines as they are broken on the card
+    int LineCount() const; ///< with the line breaks of the card's width
     QSize sizeHint() const override;
 
-    /// Scrolls a text by that many lines: down where it is positive.
+    /// Scrolls a text by that many lines; a positive number scrolls down.
     static void ScrollText(QPlainTextEdit* control, int lines);
 
 Q_SIGNALS:

@@ -13,8 +13,8 @@ class ucAALBL;
 class ucButton;
 class ucIngredients;
 
-/// The recipe card, `picRecCard`: a recipe to read, or to change, when fields stand where its
-/// labels stood. The card only shows and takes texts; its screen reads and writes the rows.
+/// The recipe card, `picRecCard`. It shows a recipe in labels; while the recipe is edited, entries
+/// take their places. The card only shows and takes texts; the screen reads and saves them.
 class RecipeCard : public QWidget {
     Q_OBJECT
 

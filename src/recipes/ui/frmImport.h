@@ -2,8 +2,8 @@
 
 #include "recipes/ui/ExchangeDialog.h"
 
-/// The modal dialog that copies a recipe from the exchange, by its ID. It closes when it has done
-/// so and stays open for another try when it has not.
+/// The modal dialog that copies a recipe from the exchange by its ID. It closes on success and
+/// stays open for another try after a failure.
 class frmImport : public ExchangeDialog {
     Q_OBJECT
 
@@ -12,7 +12,7 @@ public:
 
 private:
     void cmdGo_Click();
-    QString Import(); ///< gives the message that follows; closes the dialog on success
+    QString Import(); ///< gives the message to show; closes the dialog on success
 
     QLineEdit* txtRecID_ = nullptr;
 };

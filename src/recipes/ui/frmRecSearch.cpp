@@ -32,7 +32,7 @@ void frmRecSearch::Choose(const QString& Meal, const ScaledFood& Item) {
     ShowNotice();
 }
 
-/// A timer that runs already is left to run: it is not started anew.
+/// A timer that is running is not restarted.
 void frmRecSearch::ShowNotice() {
     lblInfo_->show();
     QAccessibleEvent told(lblInfo_, QAccessible::Alert);

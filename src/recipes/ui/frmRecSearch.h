@@ -5,9 +5,9 @@
 class QLabel;
 class QTimer;
 
-/// The modal dialog through which foods become ingredients of the recipe that is edited. The screen
-/// that owns it hears of each by FoodChosen, whose meal it passes over. A notice tells that a food
-/// was added; it goes at the next tick of `tmrHider`, two seconds after the first of a run.
+/// The modal dialog that adds foods to the recipe being edited. Its owner receives FoodChosen for
+/// each food and ignores the meal. A notice says that a food was added. It disappears at the next
+/// tick of `tmrHider`, two seconds after the first food of a run.
 class frmRecSearch : public SearchDialog {
     Q_OBJECT
 
@@ -16,7 +16,7 @@ public:
 
 protected:
     void Choose(const QString& Meal, const ScaledFood& Item) override;
-    void showEvent(QShowEvent*) override; ///< stands at its owner's left and top
+    void showEvent(QShowEvent*) override; ///< places it at its owner's top left corner
 
 private:
     void BuildNotice();

@@ -64,7 +64,7 @@ void frmRecipeManager::AddButtons() {
     cmdSend_ = AddButton("cmdSend", "Send to Friend", "Send the current recipe to a friend",
                          &frmRecipeManager::cmdSend_Click);
     cmdDone_ = AddButton("cmdDone", "Done", "", &frmRecipeManager::cmdDone_Click);
-    for (ucButton* button : {cmdNew_, cmdDone_}) // they put no other button out
+    for (ucButton* button : {cmdNew_, cmdDone_}) // they leave the look of the others
         disconnect(button, &ucButton::MouseMove, this, nullptr);
 }
 
@@ -94,14 +94,14 @@ void frmRecipeManager::PlaceButtons() {
     PlaceAtEnd(cmdDone_);
 }
 
-/// A kept screen that comes back in the middle of an edit goes on with it: what is typed stays.
+/// A screen that was hidden during an edit continues it: the typed texts stay.
 void frmRecipeManager::DoWinInit() {
     if (!IsEditing())
         ListRecipes();
 }
 
-/// Choosing a line raises the list's click, which shows the recipe. The recipe that was chosen
-/// stays chosen, wherever its name has moved it; where it is gone, its neighbour takes its place.
+/// Choosing a line raises the list's click, which shows the recipe. The chosen recipe stays chosen
+/// when a new name moves it. If it is gone, its neighbour is chosen.
 void frmRecipeManager::ListRecipes() {
     const int index = qMax(0, lsRecipes_->ListIndex());
     const qint32 chosen = lsRecipes_->ItemData(index);
@@ -157,8 +157,7 @@ void frmRecipeManager::cmdNew_Click() {
     EditRecipe(current_);
 }
 
-/// The fields get what a new recipe starts with, a serving among it; EditRecipe then reads them
-/// from the row, which has none.
+/// The entries show "Plate" as the serving only until EditRecipe reads the row, where it is empty.
 void frmRecipeManager::AddRecipe() {
     current_ = RecipeBook::AddRecipe();
     card_->Ingredients()->SetRecipeID(current_);
@@ -232,7 +231,7 @@ void frmRecipeManager::cmdImport_Click() {
     ListRecipes();
 }
 
-/// The list on the card follows when the dialog has closed.
+/// The list on the card is drawn anew when the dialog closes.
 void frmRecipeManager::cmdIngreds_Click() {
     frmRecSearch dialog(this);
     connect(&dialog, &frmRecSearch::FoodChosen, this,
@@ -253,7 +252,7 @@ bool frmRecipeManager::IsEditing() const {
     return cmdEdit_->Caption().compare(saveCaption, Qt::CaseInsensitive) == 0;
 }
 
-/// What changes a recipe for good is the screen's main action.
+/// "Save Changes" is the screen's main action; "Edit Recipe" is not.
 void frmRecipeManager::SetEditCaption(QLatin1String caption) {
     cmdEdit_->SetCaption(caption);
     cmdEdit_->SetMainAction(IsEditing());

@@ -8,9 +8,8 @@ class ScaledFood;
 class ucBox;
 class ucButton;
 
-/// The screen "Recipe Manager": the recipes in a list, and the card of the one that is current. It
-/// is empty, shows a recipe, or edits one. An edit ends by saving; leaving the screen writes
-/// nothing.
+/// The screen "Recipe Manager": a list of the recipes, and the card of the current one. It is
+/// empty, shows a recipe, or edits one. Saving ends an edit; leaving the screen saves nothing.
 class frmRecipeManager : public Screen {
     Q_OBJECT
     Q_PROPERTY(qint32 CurrentRecipe READ CurrentRecipe)
@@ -21,10 +20,10 @@ public:
     qint32 CurrentRecipe() const { return current_; } ///< -1 for none
     void DoWinInit() override; ///< lists the recipes, unless one is being edited
 
-    void ListRecipes(); ///< anew, and shows the one at the place chosen before
+    void ListRecipes(); ///< lists them anew and shows the one that was chosen before
     void ShowRecipe(qint32 recipeID);
     void EditRecipe(qint32 recipeID);
-    bool SaveRecipe(); ///< True where it was written; else a message has said why not
+    bool SaveRecipe(); ///< false: nothing was saved, and a message has said why
     void AddRecipe();
     void AddFood(const ScaledFood& item); ///< to the ingredients of the current recipe
 

@@ -15,7 +15,7 @@ namespace {
 
 constexpr QSize sendSize(460, 196);
 
-/// A page of markup or next to nothing is no answer to the user.
+/// A page of markup, or fewer than two characters, is not an answer for a person.
 bool IsNoAnswer(const QString& reply) {
     return reply.startsWith(u'<') || reply.startsWith(QLatin1String(" <")) || reply.size() < 2;
 }

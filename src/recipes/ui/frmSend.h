@@ -4,8 +4,8 @@
 
 class QCheckBox;
 
-/// The modal dialog that sends a recipe to a friend and, if asked to, publishes it. The two
-/// addresses are kept from one send to the next.
+/// The modal dialog that sends a recipe to a friend and, if ticked, publishes it. It keeps the two
+/// addresses for the next time.
 class frmSend : public ExchangeDialog {
     Q_OBJECT
 
@@ -16,7 +16,7 @@ private:
     void AddShare(int top);
     void cmdSend_Click();
     void startSend();
-    QString Reply(); ///< of the exchange, or what is said instead
+    QString Reply(); ///< the answer of the exchange, or the message of a failure
 
     qint32 recipeID_;
     QLineEdit* txtEmail_ = nullptr;

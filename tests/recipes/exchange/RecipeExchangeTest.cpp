@@ -20,7 +20,7 @@ const QString notSentText =
     "try again. If this problem persists, please contact help@example.org.";
 } // namespace
 
-/// The dialogs against the real server, on each of its two databases.
+/// The dialogs with the real server, on each of its two databases.
 class RecipeExchangeTest : public TransferTest, public testing::WithParamInterface<const char*> {
 protected:
     void SetUp() override {
@@ -42,7 +42,7 @@ protected:
         return Folder() + "/exchange.db";
     }
 
-    /// Sends a recipe and gives the ID that the answer tells; 0 where it tells none.
+    /// Sends a recipe and gives the ID in the answer, 0 if there is none.
     qint32 Send(qint32 id, const QString& to = "friend@example.org") {
         Open(new frmSend(id, &window));
         Type("txtEmail", to);
@@ -97,7 +97,7 @@ protected:
 INSTANTIATE_TEST_SUITE_P(Both, RecipeExchangeTest, testing::Values("sqlite", "postgresql"),
                          [](const auto& run) { return std::string(run.param); });
 
-TEST_P(RecipeExchangeTest, WhatWasSentIsImportedToTheLastFigure) {
+TEST_P(RecipeExchangeTest, ASentRecipeIsImportedWithoutAnyLoss) {
     UserDB().Raw().exec("UPDATE Ingredients SET QTY = 1");
     const qint32 remote = Send(recipe);
     ASSERT_GT(remote, 1) << answer.toStdString();
@@ -122,7 +122,7 @@ TEST_P(RecipeExchangeTest, AQuantityOtherThanOneArrivesInTheServing) {
     EXPECT_EQ(ServingsOf(recipe + 2), ServingsOf(recipe + 1));
 }
 
-TEST_P(RecipeExchangeTest, NullsStayNullOnTheirWay) {
+TEST_P(RecipeExchangeTest, NullsStayNull) {
     UserDB().Raw().exec("UPDATE Recipes SET RecipeYield = NULL, PrepTime = NULL, "
                         "Instructions = NULL, ServingName = NULL");
     UserDB().Raw().exec("UPDATE Ingredients SET Serving = NULL, FoodName = NULL, VitaminC = NULL, "
@@ -133,7 +133,7 @@ TEST_P(RecipeExchangeTest, NullsStayNullOnTheirWay) {
     EXPECT_EQ(RowsOf(recipe + 1), RowsOf(recipe));
 }
 
-TEST_P(RecipeExchangeTest, ARecipeWithARecipeInItArrivesWithItsCalories) {
+TEST_P(RecipeExchangeTest, ARecipeWithinARecipeArrivesWithItsCalories) {
     const qint32 pie = FoodsTest::AddRecipe("Pie", "1 pie");
     RecipeBook::AddIngredient(pie, ScaledFood::FromRecipe(recipe, 2));
     const qint32 remote = Send(pie);
@@ -151,7 +151,7 @@ TEST_P(RecipeExchangeTest, ARecipeWithoutIngredientsArrivesWithoutThem) {
     EXPECT_EQ(RecipeBook::CaloriesPerServing(recipe + 1, "2.5"), "Calories: --");
 }
 
-TEST_P(RecipeExchangeTest, MoreIngredientsThanGoInOneCallArriveInTheirOrder) {
+TEST_P(RecipeExchangeTest, MoreIngredientsThanOneCallTakesArriveInTheirOrder) {
     UserDB().Raw().exec("DELETE FROM Ingredients");
     AddIngredients(recipe, 205);
     const qint32 remote = Send(recipe);
@@ -160,7 +160,7 @@ TEST_P(RecipeExchangeTest, MoreIngredientsThanGoInOneCallArriveInTheirOrder) {
     EXPECT_EQ(RowsOf(recipe + 1).size(), 205);
 }
 
-TEST_P(RecipeExchangeTest, TheSameRecipeTwiceBothWays) {
+TEST_P(RecipeExchangeTest, ARecipeSentAndImportedTwiceIsThereTwice) {
     const qint32 first = Send(recipe);
     const qint32 second = Send(recipe);
     EXPECT_NE(first, second);
@@ -177,7 +177,7 @@ TEST_P(RecipeExchangeTest, AnIDThatNobodyHasIsNotFound) {
     EXPECT_EQ(Count("Recipes"), 1);
 }
 
-TEST_P(RecipeExchangeTest, ARecipeThatTheExchangeDoesNotTakeIsNotSent) {
+TEST_P(RecipeExchangeTest, ARecipeThatTheExchangeRefusesIsNotSent) {
     UserDB().Raw().exec("UPDATE Recipes SET RecipeName = ''");
     EXPECT_EQ(Send(recipe), 0);
     EXPECT_EQ(answer, notSentText);
