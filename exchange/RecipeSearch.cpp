@@ -2,27 +2,39 @@
 
 #include "exchange/Text.h"
 
+#include <algorithm>
 #include <chrono>
+#include <limits>
 
 namespace exchange {
 namespace {
 using soci::into;
 using soci::use;
 
-/// Small blocks for words that most recipes have, large ones for words that few have. The marks are
+/// Blocks of places. Words that most recipes have fill a page from the newest few; words that few
+/// have must be looked for in the whole list, where a block costs next to nothing. The marks are
 /// letters for private use, which no word of a recipe holds.
-constexpr long long SmallBlock = 2048;
-constexpr long long LargeBlock = 16384;
-constexpr const char* SmallMark = "\uE000";
-constexpr const char* LargeMark = "\uE001";
-constexpr int SmallBlocksFirst = 4;
+struct Level {
+    long long size;
+    const char* mark;
+    int blocks; ///< that are looked at before those of the next level
+};
+constexpr Level Levels[] = {
+    {2048, "\uE000", 4}, {16384, "\uE001", 8}, {131072, "\uE002", std::numeric_limits<int>::max()}};
 
-/// Checked between two blocks; one takes a few milliseconds at most.
-constexpr std::chrono::milliseconds LongestSearch(15);
+/// Checked between two blocks, of which the largest takes about ten milliseconds at most.
+std::chrono::milliseconds LongestSearch(long long places) {
+    constexpr long long many = 131072;
+    return std::chrono::milliseconds(places > many ? 15 : 6);
+}
 
-std::string BlockOf(long long place, bool small) {
-    return (small ? SmallMark : LargeMark) +
-           std::to_string(place / (small ? SmallBlock : LargeBlock));
+std::string BlockOf(long long place, const Level& level) {
+    return level.mark + std::to_string(place / level.size);
+}
+
+/// The newest first is the order that both databases walk fastest.
+long long RowOf(long long place) {
+    return -place;
 }
 
 /// All of the words, in the language of the database. They hold letters and digits only.
@@ -49,20 +61,25 @@ void RecipeSearch::MakeTable(Connection& connection) {
 }
 
 std::vector<std::string> RecipeSearch::BlocksOf(long long place) {
-    return {BlockOf(place, true), BlockOf(place, false)};
+    std::vector<std::string> blocks;
+    for (const auto& level : Levels)
+        blocks.push_back(BlockOf(place, level));
+    return blocks;
 }
 
 void RecipeSearch::Add(long long place, const std::vector<std::string>& words) {
+    const auto row = RowOf(place);
     const auto text = Join(words, " ") + " " + Join(BlocksOf(place), " ");
     connection_.Change(connection_.IsEmbedded()
-                           ? "INSERT INTO search (rowid, Words) VALUES (:place, :words)"
+                           ? "INSERT INTO search (rowid, Words) VALUES (:row, :words)"
                            : "INSERT INTO search (rowid, Words) VALUES"
-                             " (:place, array_to_tsvector(string_to_array(trim(:words), ' ')))",
-                       use(place), use(text));
+                             " (:row, array_to_tsvector(string_to_array(trim(:words), ' ')))",
+                       use(row), use(text));
 }
 
 void RecipeSearch::Remove(long long place) {
-    connection_.Change("DELETE FROM search WHERE rowid = :place", use(place));
+    const auto row = RowOf(place);
+    connection_.Change("DELETE FROM search WHERE rowid = :row", use(row));
 }
 
 /// Finds what stands in a block at `found.next` or below. The sums keep PostgreSQL from walking the
@@ -70,34 +87,33 @@ void RecipeSearch::Remove(long long place) {
 void RecipeSearch::Look(const std::string& words, const std::string& block, size_t most,
                         Found& found) {
     constexpr const char* embedded = "SELECT rowid FROM search WHERE search MATCH :query"
-                                     " AND rowid <= :newest ORDER BY rowid DESC LIMIT :n";
+                                     " AND rowid >= :newest ORDER BY rowid LIMIT :n";
     constexpr const char* server = "SELECT rowid FROM search WHERE Words @@ CAST(:query AS tsquery)"
-                                   " AND rowid + 0 <= :newest ORDER BY rowid + 0 DESC LIMIT :n";
+                                   " AND rowid + 0 >= :newest ORDER BY rowid + 0 LIMIT :n";
     const bool isEmbedded = connection_.IsEmbedded();
     const auto query = Query({block}, isEmbedded) + (isEmbedded ? " AND " : " & ") + words;
     const auto left = static_cast<int>(most - found.places.size());
-    long long place = 0;
+    const auto newest = RowOf(found.next);
+    long long row = 0;
     connection_.Each(
-        isEmbedded ? embedded : server, [&] { found.places.push_back(place); }, use(query),
-        use(found.next), use(left), into(place));
+        isEmbedded ? embedded : server, [&] { found.places.push_back(-row); }, use(query),
+        use(newest), use(left), into(row));
 }
 
 RecipeSearch::Found RecipeSearch::Find(const std::vector<std::string>& words, long long newest,
                                        size_t most) {
     const auto query = Query(words, connection_.IsEmbedded());
-    const auto end = std::chrono::steady_clock::now() + LongestSearch;
+    const auto end = std::chrono::steady_clock::now() + LongestSearch(newest);
     Found found{{}, newest};
-    for (int block = 0; found.next > 0; ++block) {
-        const bool small = block < SmallBlocksFirst;
-        Look(query, BlockOf(found.next, small), most, found);
-        if (found.places.size() == most)
-            return found;
-        const auto size = small ? SmallBlock : LargeBlock;
-        found.next = found.next / size * size - 1;
-        if (std::chrono::steady_clock::now() > end)
-            break;
-    }
-    found.next = std::max(found.next, 0LL);
+    for (const auto& level : Levels)
+        for (int i = 0; i < level.blocks && found.next > 0; ++i) {
+            Look(query, BlockOf(found.next, level), most, found);
+            if (found.places.size() == most)
+                return found;
+            found.next = std::max(found.next / level.size * level.size - 1, 0LL);
+            if (std::chrono::steady_clock::now() > end)
+                return found;
+        }
     return found;
 }
 

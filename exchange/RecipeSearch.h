@@ -11,7 +11,7 @@ namespace exchange {
 /// its place in the list.
 ///
 /// Two common words that never meet would make a database walk all of both. So each recipe also has
-/// the numbers of its two blocks of places as words. A search asks for one block after the other,
+/// the numbers of its blocks of places as words. A search asks for one block after the other,
 /// the newest first, and stops when it has enough or has taken its time.
 class RecipeSearch {
 public:
