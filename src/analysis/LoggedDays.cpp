@@ -11,7 +11,7 @@ QString OfUser(const Period& period) {
 }
 
 size_t DayOf(const Recordset& row) {
-    return size_t(row[QStringLiteral("UDate")].Date().day());
+    return size_t(row[QStringLiteral("UDate")].Day().day());
 }
 
 } // namespace

@@ -73,7 +73,9 @@ bool LoadFirstUser() {
     User::ResetCurrent();
     Recordset profiles(UserDB(), QStringLiteral("SELECT * FROM profiles"), Cursor::Static,
                        Lock::ReadOnly);
-    if (profiles.RecordCount() == 0)
+    while (!profiles.AtEnd() && !profiles[QStringLiteral("UID")].IsKey())
+        profiles.MoveNext();
+    if (profiles.AtEnd())
         return true;
     User& user = User::Current();
     user.UID = profiles[QStringLiteral("UID")].Integer();

@@ -15,8 +15,9 @@ void ReadSource(FoodList& foods, Connection& connection, const QString& source, 
     Recordset rows(connection, source);
     const int last = std::min(rows.RecordCount() - 1, lastRowRead);
     for (int row = 0; row <= last; ++row, rows.MoveNext())
-        foods.Add(rows[0].Text(), recipes, rows[1].Integer(), rows[2].Value(),
-                  recipes ? QVariant(QString()) : rows[3].Value());
+        if (rows[1].IsKey())
+            foods.Add(rows[0].Text(), recipes, rows[1].Integer(), rows[2].Value(),
+                      recipes ? QVariant(QString()) : rows[3].Value());
 }
 } // namespace
 

@@ -2,6 +2,7 @@
 
 #include "runtime/Convert.h"
 #include "runtime/Format.h"
+#include "runtime/Round.h"
 
 QString FormatNutrient(double value) {
     if (value == 0)
@@ -10,5 +11,5 @@ QString FormatNutrient(double value) {
 }
 
 qint32 WholeNumber(const QString& caption) {
-    return ToInteger(PlainNumber(caption));
+    return RoundForDisplay(NumberOrZero(PlainNumber(caption)));
 }

@@ -7,17 +7,25 @@
 #include "store/Recordset.h"
 
 #include <algorithm>
+#include <cmath>
+#include <limits>
 
 namespace {
 
 constexpr double hundredGrams = 100;
+
+/// What has grown beyond every number cannot be logged as such.
+double Storable(double amount) {
+    using Limits = std::numeric_limits<double>;
+    return std::isnan(amount) ? 0 : std::clamp(amount, Limits::lowest(), Limits::max());
+}
 
 /// The amounts of the 31 fields from position `first` on. The order of the operations is part of
 /// the result: the log holds these doubles to the last bit.
 void AddAmounts(ScaledFood& item, const Recordset& row, int first, double grams, double qty) {
     for (int position = first; position < first + NutrientCount; ++position) {
         const Field field = row[position];
-        item.Add(field.Name(), field.NumberOr(0) / 100 * grams * qty);
+        item.Add(field.Name(), Storable(field.NumberOr(0) / 100 * grams * qty));
     }
 }
 

@@ -29,9 +29,10 @@ QString RowsOfMeal(int meal, QDate day) {
 std::vector<LoggedFood> DayLog::FoodsOf(int meal, QDate day) {
     std::vector<LoggedFood> foods;
     for (Recordset rows(UserDB(), RowsOfMeal(meal, day)); !rows.AtEnd(); rows.MoveNext())
-        foods.push_back(
-            {rows[QStringLiteral("RecID")].Integer(), rows[QStringLiteral("FoodName")].Text(),
-             rows[QStringLiteral("Serving")].Text(), rows[QStringLiteral("QTY")].NumberOr(0)});
+        if (rows[QStringLiteral("RecID")].IsKey())
+            foods.push_back(
+                {rows[QStringLiteral("RecID")].Integer(), rows[QStringLiteral("FoodName")].Text(),
+                 rows[QStringLiteral("Serving")].Text(), rows[QStringLiteral("QTY")].NumberOr(0)});
     return foods;
 }
 

@@ -5,7 +5,8 @@
 #include <array>
 
 /// One value for each of the 31 nutrients: a person's targets, a day's totals, a serving of a food.
-/// Whole-number members round half to even on assignment (overflow 6). All values start at 0.
+/// Whole-number members round half to even on assignment. What lies beyond the bounds of a 32-bit
+/// integer becomes the bound, so that any sum can be shown. All values start at 0.
 class Nuts {
 public:
     double operator[](Nutrient id) const { return values_[static_cast<size_t>(id)]; }

@@ -3,6 +3,7 @@
 #include "model/EnergyTargets.h"
 #include "model/ReferenceIntake.h"
 #include "runtime/AppState.h"
+#include "runtime/Attempt.h"
 #include "runtime/Convert.h"
 #include "runtime/Round.h"
 #include "runtime/RuntimeError.h"
@@ -66,16 +67,16 @@ void WriteEnergyTargets(const User& user) {
 void User::GetUserProfile(qint32 uid) {
     Recordset row(UserDB(),
                   QStringLiteral("SELECT * FROM profiles WHERE UID = ") + QString::number(uid));
-    Gender = row[QStringLiteral("gender")].Integer();
-    ActivityLevel = row[QStringLiteral("activity_level")].Integer();
-    Age = row[QStringLiteral("age")].Number();
-    FlagCholesterol = row[QStringLiteral("FlagCholesterol")].Boolean();
-    FlagSodium = row[QStringLiteral("FlagSodium")].Boolean();
-    sodiumMAX = row[QStringLiteral("sodiumMAX")].Integer();
-    cholesterolMAX = row[QStringLiteral("cholesterolMAX")].Integer();
-    Height = row[QStringLiteral("height")].Integer();
-    CurrentWeight = row[QStringLiteral("current_weight")].Integer();
-    DesiredWeight = row[QStringLiteral("desired_weight")].Integer();
+    Gender = row[QStringLiteral("gender")].WholeOr(0);
+    ActivityLevel = row[QStringLiteral("activity_level")].WholeOr(0);
+    Age = row[QStringLiteral("age")].NumberOr(0);
+    FlagCholesterol = row[QStringLiteral("FlagCholesterol")].NumberOr(0) != 0;
+    FlagSodium = row[QStringLiteral("FlagSodium")].NumberOr(0) != 0;
+    sodiumMAX = row[QStringLiteral("sodiumMAX")].WholeOr(0);
+    cholesterolMAX = row[QStringLiteral("cholesterolMAX")].WholeOr(0);
+    Height = row[QStringLiteral("height")].WholeOr(0);
+    CurrentWeight = row[QStringLiteral("current_weight")].WholeOr(0);
+    DesiredWeight = row[QStringLiteral("desired_weight")].WholeOr(0);
     UserName = row[QStringLiteral("UserName")].Text();
     for (Nutrient id : ProfileOrder())
         RDIs.Set(id, row[Column(id)].NumberOr(0));
@@ -107,7 +108,8 @@ void RecalcTargets() {
     if (!App().AppInfo.AUTOUPDATERDI)
         return;
     User& user = User::Current();
-    DeriveEnergyTargets(user);
+    if (!Attempt([&] { DeriveEnergyTargets(user); }))
+        return; // of a weight or a height beyond any person nothing can be derived
     WriteEnergyTargets(user);
     user.GetUserProfile(user.UID);
 }

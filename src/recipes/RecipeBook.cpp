@@ -52,8 +52,9 @@ QList<NamedKey> RecipeBook::Names() {
     QList<NamedKey> names;
     for (Recordset rows(UserDB(), QStringLiteral("SELECT  * FROM Recipes")); !rows.AtEnd();
          rows.MoveNext())
-        names.append({rows[QStringLiteral("RecipeName")].Text(),
-                      rows[QStringLiteral("RecipeID")].Integer()});
+        if (rows[QStringLiteral("RecipeID")].IsKey())
+            names.append({rows[QStringLiteral("RecipeName")].Text(),
+                          rows[QStringLiteral("RecipeID")].Integer()});
     return names;
 }
 
@@ -119,9 +120,10 @@ std::vector<Ingredient> RecipeBook::Ingredients(qint32 RecipeID) {
     std::vector<Ingredient> ingredients;
     for (Recordset rows(UserDB(), "SELECT * FROM Ingredients WHERE RecipeID =" + Number(RecipeID));
          !rows.AtEnd(); rows.MoveNext())
-        ingredients.push_back(
-            {rows[QStringLiteral("ID")].Integer(), rows[QStringLiteral("FoodName")].Text(),
-             rows[QStringLiteral("Serving")].Text(), rows[QStringLiteral("QTY")].NumberOr(1)});
+        if (rows[QStringLiteral("ID")].IsKey())
+            ingredients.push_back(
+                {rows[QStringLiteral("ID")].Integer(), rows[QStringLiteral("FoodName")].Text(),
+                 rows[QStringLiteral("Serving")].Text(), rows[QStringLiteral("QTY")].NumberOr(1)});
     return ingredients;
 }
 

@@ -4,6 +4,7 @@
 
 #include <QStringBuilder>
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -16,4 +17,9 @@ qint32 Round(double value) {
                            QString::number(value) +
                                QStringLiteral(" is too large for a whole number."));
     return static_cast<qint32>(rounded);
+}
+
+qint32 RoundForDisplay(double value) {
+    using Limits = std::numeric_limits<qint32>;
+    return std::isnan(value) ? 0 : Round(std::clamp<double>(value, Limits::min(), Limits::max()));
 }

@@ -27,7 +27,6 @@ inline constexpr int NoSuchKey = 5; ///< of a keyed collection
 inline constexpr int Overflow = 6;
 inline constexpr int OutOfMemory = 7;
 inline constexpr int NoSuchPosition = 9; ///< of a list
-inline constexpr int DivisionByZero = 11;
 inline constexpr int TypeMismatch = 13;
 inline constexpr int FileNotFound = 53;
 inline constexpr int FileAccess = 75;

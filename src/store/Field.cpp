@@ -1,9 +1,13 @@
 #include "store/Field.h"
 
+#include "runtime/Attempt.h"
 #include "runtime/Convert.h"
 #include "runtime/Dates.h"
 #include "runtime/Round.h"
 #include "runtime/RuntimeError.h"
+
+#include <algorithm>
+#include <limits>
 
 namespace {
 void RefuseNull(const Field& field) {
@@ -40,7 +44,23 @@ double Field::Number() const {
 }
 
 double Field::NumberOr(double fallback) const {
-    return IsNull() ? fallback : Number();
+    using Limits = std::numeric_limits<double>;
+    double number = fallback;
+    if (!IsNull())
+        Attempt([&] { number = Number(); });
+    return std::clamp(number, Limits::lowest(), Limits::max());
+}
+
+qint32 Field::WholeOr(qint32 fallback) const {
+    return RoundForDisplay(NumberOr(fallback));
+}
+
+QDate Field::Day() const {
+    return value_.typeId() == QMetaType::QDate ? value_.toDate() : QDate();
+}
+
+bool Field::IsKey() const {
+    return value_.typeId() == QMetaType::LongLong && value_.toLongLong() == WholeOr(0);
 }
 
 qint32 Field::Integer() const {

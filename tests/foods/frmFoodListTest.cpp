@@ -481,13 +481,10 @@ TEST_F(frmFoodListTest, AmountsAreStoredAsTypedForAServingOfAHundredGrams) {
 }
 
 TEST_F(frmFoodListTest, WhatIsNoNumberCountsAsZeroAndAMinusSignIsDropped) {
-    const QList<QPair<const char*, double>> texts{{"", 0},       {"abc", 0},
-                                                  {"-5", 5},     {"12abc", 12},
-                                                  {"-.5", .5},   {" 1 2", 12},
-                                                  {"1e3", 1000}, {"1,5", 1},
-                                                  {"1e400", 0},  {"NaN", 0},
-                                                  {"0x10", 0},   {"-0", 0},
-                                                  {"+7", 7},     {"99999999999", 99999999999.0}};
+    const QList<QPair<const char*, double>> texts{
+        {"", 0},      {"abc", 0},    {"-5", 5},  {"12abc", 12},         {"-.5", .5},
+        {" 1 2", 12}, {"1e3", 1000}, {"1,5", 1}, {"1e400", 0},          {"NaN", 0},
+        {"0x10", 0},  {"-0", 0},     {"+7", 7},  {"999999.5", 999999.5}};
     Open();
     SaveNew("Muesli");
     for (const auto& [text, number] : texts)
@@ -506,9 +503,9 @@ TEST_F(frmFoodListTest, SavingAnotherNameKeepsEveryAmountToTheLastDigit) {
              .name = "a",
              .nutrients = {{"Calories", 1.0 / 3},
                            {"Zinc", 1e-7},
-                           {"VitaminA", 123456789.12345678},
+                           {"VitaminA", 123456.12345678},
                            {"Copper", 0.1 + 0.2},
-                           {"water", 1e20}}});
+                           {"water", 999999.5}}});
     const auto amounts = [this] {
         return HalvaneTest::Rows(FoodDB(), "SELECT Calories, Zinc, VitaminA, Copper, water FROM "
                                            "FOODS WHERE ID = 23509");
@@ -676,6 +673,24 @@ TEST_F(frmFoodListTest, RefusedCharactersInAnAmountOnlyMakeItNoNumber) {
             Press("cmdSave");
             EXPECT_EQ(Stored(row.column).toDouble(), 0) << row.field << text;
         }
+}
+
+TEST_F(frmFoodListTest, AnAmountBeyondAMillionIsRefusedInEachField) {
+    Open();
+    SaveNew("Muesli");
+    for (const FieldRow& row : amountRows)
+        for (const char* text : {"1000000.5", "-3000000000", "1e300"}) {
+            Type(row.field, text);
+            ExpectAlert("The amount of " + QString(row.caption) +
+                        " is too large. Please enter a number up to 1,000,000.");
+            Press("cmdSave");
+            EXPECT_TRUE(Field(row.field).hasFocus());
+            EXPECT_EQ(Stored(row.column).toDouble(), 0);
+            Type(row.field, "0");
+        }
+    Type("txtCals", "1000000");
+    Press("cmdSave");
+    EXPECT_EQ(Stored("Calories"), 1000000);
 }
 
 TEST_F(frmFoodListTest, AnEmptyNameOrServingIsRefused) {

@@ -142,14 +142,17 @@ TEST_F(FrmNutInfoTest, TwiceTheQuantityDoublesAmountsAndPercentages) {
     });
 }
 
-TEST_F(FrmNutInfoTest, ATargetOfZeroLeavesThePanelUnshownWithoutAMessage) {
+TEST_F(FrmNutInfoTest, ATargetOfZeroHasNoPercentage) {
     for (const Nutrient id : {Nutrient::Fiber, Nutrient::Protein, Nutrient::TotalFat}) {
         User::Current().GetUserProfile(User::Current().UID);
         User::Current().RDIs.Set(id, 0);
         for (const double amount : {0.0, 1.0}) {
-            frmNutInfo panel;
-            panel.showFood(Item({{Info(id).property, amount}}));
-            EXPECT_FALSE(panel.isVisible());
+            Show(Item({{Info(id).property, amount}}), [](QWidget* panel) {
+                int none = 0;
+                for (const QLabel* label : panel->findChildren<QLabel*>())
+                    none += label->text() == "--";
+                EXPECT_EQ(none, 1);
+            });
         }
     }
 }
@@ -160,10 +163,9 @@ TEST_F(FrmNutInfoTest, AMissingEntryLeavesThePanelUnshown) {
     EXPECT_FALSE(panel.isVisible());
 }
 
-TEST_F(FrmNutInfoTest, CaloriesBeyondAWholeNumberLeaveThePanelUnshown) {
-    frmNutInfo panel;
-    panel.showFood(Item({{"Calories", 1e12}}));
-    EXPECT_FALSE(panel.isVisible());
+TEST_F(FrmNutInfoTest, CaloriesBeyondAWholeNumberAreShown) {
+    Show(Item({{"Calories", 1e12}}),
+         [](QWidget* panel) { EXPECT_EQ(Text(panel, "lblCalories"), "1,000,000,000,000"); });
 }
 
 TEST_F(FrmNutInfoTest, DoneClosesAndSoDoesEscape) {

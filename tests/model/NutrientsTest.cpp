@@ -242,11 +242,16 @@ TEST(Nuts, OtherMembersKeepTheirFraction) {
     EXPECT_EQ(nuts.TotalFat(), -1.5);
 }
 
-TEST(Nuts, AWholeNumberMemberOverflows) {
+TEST(Nuts, AMemberBeyondTheBoundsOfAWholeNumberIsTheBound) {
     Nuts nuts;
-    nuts.Set(Nutrient::Calcium, 5);
-    EXPECT_EQ(FailureOf([&] { nuts.Set(Nutrient::Calcium, 3e9); }), ErrorNumber::Overflow);
-    EXPECT_EQ(nuts[Nutrient::Calcium], 5);
+    for (const Nutrient id : {Nutrient::Calcium, Nutrient::Protein}) {
+        for (const double value : {3e9, 1e300, HUGE_VAL}) {
+            nuts.Set(id, value);
+            EXPECT_EQ(nuts[id], 2147483647) << value;
+            nuts.Set(id, -value);
+            EXPECT_EQ(nuts[id], -2147483648.0) << value;
+        }
+    }
 }
 
 TEST(Nuts, AreCopiedByValue) {

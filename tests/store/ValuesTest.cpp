@@ -208,7 +208,9 @@ TEST_F(ValuesTest, FieldsConvertStrictly) {
     EXPECT_TRUE(text.Boolean());
     const Field word(QStringLiteral("a"), QStringLiteral("x"));
     EXPECT_EQ(ErrorOf([&] { word.Number(); }), ErrorNumber::TypeMismatch);
-    EXPECT_EQ(ErrorOf([&] { word.NumberOr(1); }), ErrorNumber::TypeMismatch);
+    EXPECT_EQ(word.NumberOr(1), 1);
+    EXPECT_FALSE(word.Day().isValid());
+    EXPECT_FALSE(word.IsKey());
     EXPECT_EQ(ErrorOf([&] { word.Boolean(); }), ErrorNumber::TypeMismatch);
     const Field date(QStringLiteral("a"), QStringLiteral("4/3/2002"));
     EXPECT_EQ(date.Date(), QDate(2002, 4, 3));
@@ -216,6 +218,11 @@ TEST_F(ValuesTest, FieldsConvertStrictly) {
     EXPECT_EQ(ErrorOf([&] { day.Number(); }), ErrorNumber::TypeMismatch);
     const Field large(QStringLiteral("a"), 3e9);
     EXPECT_EQ(ErrorOf([&] { large.Integer(); }), ErrorNumber::Overflow);
+    EXPECT_EQ(large.WholeOr(0), 2147483647);
+    EXPECT_EQ(Field(QStringLiteral("a"), HUGE_VAL).NumberOr(0), 1.7976931348623157e308);
+    EXPECT_EQ(day.Day(), QDate(2002, 4, 3));
+    EXPECT_TRUE(Field(QStringLiteral("a"), qlonglong(7)).IsKey());
+    EXPECT_FALSE(Field(QStringLiteral("a"), qlonglong(1) << 40).IsKey());
 }
 
 TEST_F(ValuesTest, ColumnsWithoutADeclaredTypeTakeWhatTheyGet) {

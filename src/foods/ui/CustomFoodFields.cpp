@@ -30,6 +30,9 @@ constexpr int gridColumns = 3;
 /// Amounts count for a serving: a serving weighs what the other amounts of the catalogue are for.
 constexpr double gramsOfServing = 100;
 
+/// No serving of anything holds more: beyond it a day could not be summed any more.
+constexpr double mostAmount = 1'000'000;
+
 using enum Nutrient;
 
 constexpr Nutrient headlines[] = {Calories,    TotalFat, SatFat, MonoFat, PolyFat,
@@ -48,6 +51,10 @@ TextRole RoleOf(Nutrient id, int column) {
 
 QString Column(const NutrientInfo& nutrient) {
     return QString::fromLatin1(nutrient.profileColumn);
+}
+
+double Amount(const QLineEdit* field) {
+    return std::abs(Val(field->text()));
 }
 
 bool HoldsRefusedCharacter(const QString& text) {
@@ -129,6 +136,14 @@ CustomFoodFields::Problem CustomFoodFields::FirstProblem() const {
         return {txtFoodName_, QStringLiteral("Please give your custom food a name.")};
     if (txtServing_->text().isEmpty())
         return {txtServing_, QStringLiteral("Please give your custom food a serving size.")};
+    return AmountProblem();
+}
+
+CustomFoodFields::Problem CustomFoodFields::AmountProblem() const {
+    for (qsizetype i = nameRows; i < fields_.size(); ++i)
+        if (QLineEdit* field = fields_[i]; Amount(field) > mostAmount)
+            return {field, u"The amount of " + field->accessibleName() +
+                               u" is too large. Please enter a number up to 1,000,000."};
     return {};
 }
 
@@ -157,8 +172,7 @@ void CustomFoodFields::Write(Recordset& row) const {
     row.Set(QStringLiteral("Serv_Desc_A"), txtServing_->text());
     row.Set(QStringLiteral("Serv_GM_WT_A"), gramsOfServing);
     for (const NutrientInfo& nutrient : Nutrients())
-        row.Set(Column(nutrient),
-                std::abs(Val(amounts_[static_cast<size_t>(nutrient.id)]->text())));
+        row.Set(Column(nutrient), Amount(amounts_[static_cast<size_t>(nutrient.id)]));
 }
 
 void CustomFoodFields::FieldLock(bool on) {

@@ -41,6 +41,7 @@ protected:
     void paintEvent(QPaintEvent*) override;
 
 private:
+    Problem AmountProblem() const;
     void AddNames();
     void AddHint();
     void AddColumn(std::span<const Nutrient> nutrients, int column);

@@ -8,7 +8,8 @@ void ListByName(ListBox& list, Recordset& rows, const QString& nameColumn,
     QList<NamedKey> lines;
     lines.reserve(rows.RecordCount());
     for (; !rows.AtEnd(); rows.MoveNext())
-        lines.append({rows[nameColumn].Text(), rows[keyColumn].Integer()});
+        if (rows[keyColumn].IsKey())
+            lines.append({rows[nameColumn].Text(), rows[keyColumn].Integer()});
     ListByName(list, std::move(lines));
 }
 

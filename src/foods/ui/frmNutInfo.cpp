@@ -82,10 +82,9 @@ QRect RowPlace(int firstLine, int row, int left, int right) {
     return {left, top, right - left, bottom - top};
 }
 
-double Percentage(double amount, double target) {
-    if (target == 0)
-        throw RuntimeError(ErrorNumber::DivisionByZero, QStringLiteral("Division by zero"));
-    return amount / target;
+/// Of a target of 0 there is no percentage.
+QString Percentage(double amount, double target) {
+    return target == 0 ? QStringLiteral("--") : Format(amount / target, NumberMask::Percent);
 }
 
 } // namespace
@@ -212,7 +211,7 @@ void frmNutInfo::FillPercents(const ScaledFood& item) {
     for (size_t row = 0; row < percents_.size(); ++row) {
         const Nutrient id = headlines[row].id;
         const double amount = item.Amount(QString::fromLatin1(Info(id).logColumn));
-        percents_[row]->setText(Format(Percentage(amount, targets[id]), NumberMask::Percent));
+        percents_[row]->setText(Percentage(amount, targets[id]));
     }
 }
 

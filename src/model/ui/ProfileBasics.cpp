@@ -189,13 +189,13 @@ QWidget* ProfileBasics::MakeActivityBox() {
 }
 
 void ProfileBasics::Fill(const Recordset& row) {
-    const bool male = row[QStringLiteral("gender")].Boolean();
+    const bool male = row[QStringLiteral("gender")].NumberOr(0) != 0;
     opGender_[1]->SetValue(male);
     opGender_[0]->SetValue(!male);
-    const qint32 level = row[QStringLiteral("activity_level")].Integer();
+    const qint32 level = row[QStringLiteral("activity_level")].WholeOr(0);
     for (size_t i = 0; i < opAct_.size(); ++i)
         opAct_[i]->SetValue(level == qint32(i));
-    const qint32 height = row[QStringLiteral("height")].Integer();
+    const qint32 height = row[QStringLiteral("height")].WholeOr(0);
     const qint32 inches = height % inchesInAFoot;
     txtAge_->setText(row[QStringLiteral("age")].Text());
     txtInches_->setText(QString::number(inches));
