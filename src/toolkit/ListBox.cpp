@@ -72,6 +72,12 @@ void ListBox::AddItem(const QString& text, qint32 itemData) {
     lines_->Add(text, itemData);
 }
 
+void ListBox::SetLines(const QList<NamedKey>& lines) {
+    Clear();
+    for (const NamedKey& line : lines)
+        AddItem(line.name, line.key);
+}
+
 int ListBox::ListCount() const {
     return lines_->Count();
 }

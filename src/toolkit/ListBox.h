@@ -1,5 +1,7 @@
 #pragma once
 
+#include "runtime/NameOrder.h"
+
 #include <QListView>
 
 class ListLines;
@@ -20,6 +22,7 @@ public:
 
     void Clear();
     void AddItem(const QString& text, qint32 itemData);
+    void SetLines(const QList<NamedKey>& lines); ///< in place of those that are there
     int ListCount() const;
     int ListIndex() const;        ///< counted from 0; -1 for none
     void SetListIndex(int index); ///< a number without a line chooses none

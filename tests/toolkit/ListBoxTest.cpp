@@ -44,6 +44,18 @@ protected:
 
 } // namespace
 
+TEST_F(ListBoxTest, SetLinesReplacesTheLinesAndRaisesNothing) {
+    Fill(3);
+    list.SetListIndex(1);
+    clicks.clear();
+    list.SetLines({{QStringLiteral("Apple"), 7}, {QStringLiteral("Bread"), 5}});
+    EXPECT_EQ(list.List(), QStringList({"Apple", "Bread"}));
+    EXPECT_EQ(list.ItemData(0), 7);
+    EXPECT_EQ(list.ItemData(1), 5);
+    EXPECT_EQ(list.ListIndex(), -1);
+    EXPECT_EQ(clicks.size(), 0);
+}
+
 TEST_F(ListBoxTest, StartsEmptyWithNoneChosen) {
     EXPECT_EQ(list.ListCount(), 0);
     EXPECT_EQ(list.ListIndex(), -1);
