@@ -9,7 +9,7 @@
 #include "core/frmHOME.h"
 #include "core/frmSplash.h"
 #include "core/frmWelcome.h"
-#include "model/User.h"
+#include "model/Profiles.h"
 #include "runtime/AppPath.h"
 #include "runtime/AppState.h"
 #include "runtime/RuntimeError.h"
@@ -17,7 +17,6 @@
 #include "runtime/SettingTable.h"
 #include "runtime/Settings.h"
 #include "store/Connection.h"
-#include "store/Recordset.h"
 #include "toolkit/Twips.h"
 
 #include <QApplication>
@@ -68,18 +67,10 @@ bool ChooseTip() {
     return true;
 }
 
-/// Loads the first row; the program never chooses between several profiles.
 bool LoadFirstUser() {
     User::ResetCurrent();
-    Recordset profiles(UserDB(), QStringLiteral("SELECT * FROM profiles"), Cursor::Static,
-                       Lock::ReadOnly);
-    while (!profiles.AtEnd() && !profiles[QStringLiteral("UID")].IsKey())
-        profiles.MoveNext();
-    if (profiles.AtEnd())
-        return true;
-    User& user = User::Current();
-    user.UID = profiles[QStringLiteral("UID")].Integer();
-    user.GetUserProfile(user.UID);
+    if (const auto first = Profiles::First())
+        User::Current() = *first;
     return true;
 }
 

@@ -60,13 +60,12 @@ void WriteEnergyTargets(const User& user) {
         row.Set(Column(id), user.RDIs[id]);
     row.Set(QStringLiteral("Current_Weight"), user.CurrentWeight);
     row.Update();
-    row.Close();
 }
 } // namespace
 
 void User::GetUserProfile(qint32 uid) {
-    Recordset row(UserDB(),
-                  QStringLiteral("SELECT * FROM profiles WHERE UID = ") + QString::number(uid));
+    const Recordset row(UserDB(), QStringLiteral("SELECT * FROM profiles WHERE UID = ") +
+                                      QString::number(uid));
     Gender = row[QStringLiteral("gender")].WholeOr(0);
     ActivityLevel = row[QStringLiteral("activity_level")].WholeOr(0);
     Age = row[QStringLiteral("age")].NumberOr(0);
@@ -80,11 +79,10 @@ void User::GetUserProfile(qint32 uid) {
     UserName = row[QStringLiteral("UserName")].Text();
     for (Nutrient id : ProfileOrder())
         RDIs.Set(id, row[Column(id)].NumberOr(0));
-    row.Close();
 }
 
 void User::CreateDefaultRDIs() {
-    Recordset row(UserDB(), ReferenceStatement(*this), Cursor::Static, Lock::ReadOnly);
+    const Recordset row(UserDB(), ReferenceStatement(*this));
     DeriveEnergyTargets(*this);
     MakeTotalTheSumOfThirds(RDIs);
     ReadReferenceValues(RDIs, row, Age);
@@ -92,7 +90,6 @@ void User::CreateDefaultRDIs() {
     RDIs.Set(Nutrient::Sodium, DailySodium);
     RDIs.Set(Nutrient::Potassium, DailyPotassium);
     RDIs.Set(Nutrient::Fiber, FiberTarget(Age, RDIs.Calories()));
-    row.Close();
 }
 
 User& User::Current() {
@@ -109,7 +106,7 @@ void RecalcTargets() {
         return;
     User& user = User::Current();
     if (!Attempt([&] { DeriveEnergyTargets(user); }))
-        return; // of a weight or a height beyond any person nothing can be derived
+        return; // a weight or a height that no person has
     WriteEnergyTargets(user);
     user.GetUserProfile(user.UID);
 }

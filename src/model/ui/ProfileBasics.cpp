@@ -1,9 +1,7 @@
 #include "model/ui/ProfileBasics.h"
 
-#include "model/EnergyTargets.h"
 #include "runtime/Convert.h"
 #include "runtime/Val.h"
-#include "store/Recordset.h"
 #include "toolkit/Labels.h"
 #include "toolkit/LineField.h"
 #include "toolkit/Style.h"
@@ -12,6 +10,7 @@
 
 #include <QGridLayout>
 
+#include <algorithm>
 #include <span>
 
 namespace {
@@ -20,7 +19,6 @@ constexpr int captionWidth = 100;
 constexpr int rowGap = 22;
 constexpr int margin = 16;
 constexpr int lastColumn = 5; // takes the room that is left over
-constexpr int inchesInAFoot = 12;
 
 struct Choice {
     const char* caption;
@@ -131,11 +129,16 @@ void AddRadios(ucBox* box, const QString& stem, std::span<const Choice> choices,
     Group(radios);
 }
 
-template <size_t Count> int Selected(const std::array<ucRadio*, Count>& radios) {
-    for (size_t i = 0; i < Count; ++i)
-        if (radios[i]->Value())
-            return int(i);
-    return -1;
+/// A number that is no radio's selects none.
+void Select(std::span<ucRadio* const> radios, qint32 chosen) {
+    for (size_t i = 0; i < radios.size(); ++i)
+        radios[i]->SetValue(qint32(i) == chosen);
+}
+
+/// -1 where none is selected.
+qint32 Selected(std::span<ucRadio* const> radios) {
+    const auto chosen = std::ranges::find_if(radios, &ucRadio::Value);
+    return chosen == radios.end() ? -1 : qint32(chosen - radios.begin());
 }
 } // namespace
 
@@ -188,75 +191,30 @@ QWidget* ProfileBasics::MakeActivityBox() {
     return box;
 }
 
-void ProfileBasics::Fill(const Recordset& row) {
-    const bool male = row[QStringLiteral("gender")].NumberOr(0) != 0;
-    opGender_[1]->SetValue(male);
-    opGender_[0]->SetValue(!male);
-    const qint32 level = row[QStringLiteral("activity_level")].WholeOr(0);
-    for (size_t i = 0; i < opAct_.size(); ++i)
-        opAct_[i]->SetValue(level == qint32(i));
-    const qint32 height = row[QStringLiteral("height")].WholeOr(0);
-    const qint32 inches = height % inchesInAFoot;
-    txtAge_->setText(row[QStringLiteral("age")].Text());
-    txtInches_->setText(QString::number(inches));
-    txtFeet_->setText(QString::number((height - inches) / inchesInAFoot));
-    txtWeight_->setText(row[QStringLiteral("current_weight")].Text());
-    txtDWeight_->setText(row[QStringLiteral("desired_weight")].Text());
-    txtUserName_->setText(row[QStringLiteral("UserName")].Text());
+void ProfileBasics::Show(const Profile& profile) {
+    txtUserName_->setText(profile.userName);
+    txtAge_->setText(DecimalText(profile.age));
+    txtFeet_->setText(profile.feet);
+    txtInches_->setText(DecimalText(profile.inches));
+    txtWeight_->setText(DecimalText(profile.currentWeight));
+    txtDWeight_->setText(DecimalText(profile.desiredWeight));
+    Select(opGender_, profile.gender);
+    Select(opAct_, profile.activityLevel);
+}
+
+Profile ProfileBasics::Entered() const {
+    Profile entered;
+    entered.userName = txtUserName_->text();
+    entered.age = Val(txtAge_->text());
+    entered.feet = txtFeet_->text();
+    entered.inches = Val(txtInches_->text());
+    entered.currentWeight = Val(txtWeight_->text());
+    entered.desiredWeight = Val(txtDWeight_->text());
+    entered.gender = Selected(opGender_);
+    entered.activityLevel = Selected(opAct_);
+    return entered;
 }
 
 void ProfileBasics::FocusFirst() {
     txtUserName_->setFocus(Qt::TabFocusReason);
-}
-
-QString ProfileBasics::FirstProblem() const {
-    const struct {
-        bool failed;
-        const char* message;
-    } tests[] = {
-        {UserName().isEmpty(), "Please enter a User Name."},
-        {Val(txtFeet_->text()) <= 0 && Val(txtInches_->text()) <= 0, "Please enter your Height."},
-        {Val(txtInches_->text()) >= inchesInAFoot, "Please enter an Inches value of 11 or less."},
-        {Age() <= 0, "Please enter your Age."},
-        {CurrentWeight() <= 0, "Please enter your Current Weight."},
-        {CurrentWeight() > HeaviestWeight,
-         "Please enter a Current Weight of 1,000,000 pounds or less."},
-        {DesiredWeight() <= 0, "Please enter your Desired Weight."},
-        {DesiredWeight() > HeaviestWeight,
-         "Please enter a Desired Weight of 1,000,000 pounds or less."},
-        {Gender() < 0, "Please select your Gender."},
-        {ActivityLevel() < 0, "Please select your Activity Level."},
-    };
-    for (const auto& test : tests)
-        if (test.failed)
-            return Text(test.message);
-    return {};
-}
-
-QString ProfileBasics::UserName() const {
-    return txtUserName_->text();
-}
-
-double ProfileBasics::Age() const {
-    return Val(txtAge_->text());
-}
-
-double ProfileBasics::Height() const {
-    return Val(txtInches_->text()) + ToDouble(txtFeet_->text()) * inchesInAFoot;
-}
-
-double ProfileBasics::CurrentWeight() const {
-    return Val(txtWeight_->text());
-}
-
-double ProfileBasics::DesiredWeight() const {
-    return Val(txtDWeight_->text());
-}
-
-int ProfileBasics::Gender() const {
-    return Selected(opGender_);
-}
-
-int ProfileBasics::ActivityLevel() const {
-    return Selected(opAct_);
 }

@@ -1,34 +1,25 @@
 #pragma once
 
+#include "model/Profile.h"
+
 #include <QWidget>
 
 #include <array>
 
 class QLineEdit;
-class Recordset;
 class ucRadio;
 
 /// The basic page of the profile screen: who the person is. As `picCover` it lies over the page of
-/// targets. It shows a row of `profiles`, gives what is entered, and knows what is wrong with it.
+/// targets.
 class ProfileBasics : public QWidget {
     Q_OBJECT
 
 public:
     explicit ProfileBasics(QWidget* parent = nullptr);
 
-    void Fill(const Recordset& row);
+    void Show(const Profile& profile);
+    Profile Entered() const; ///< without the targets
     void FocusFirst();
-
-    /// The message of the first test that the entries fail; empty where they pass all.
-    QString FirstProblem() const;
-
-    QString UserName() const;
-    double Age() const;
-    double Height() const; ///< inches; feet that are not wholly a number fail (13)
-    double CurrentWeight() const;
-    double DesiredWeight() const;
-    int Gender() const;        ///< 0 female, 1 male, -1 where neither is selected
-    int ActivityLevel() const; ///< 0 to 3, -1 where none is selected
 
 private:
     QWidget* MakePersonBox();

@@ -1,15 +1,11 @@
 #include "model/ui/ProfileTargets.h"
 
-#include "runtime/Val.h"
-#include "store/Recordset.h"
 #include "toolkit/Labels.h"
 #include "toolkit/LineField.h"
 #include "toolkit/Style.h"
 #include "toolkit/ucBox.h"
 
 #include <QGridLayout>
-
-#include <cmath>
 
 namespace {
 constexpr int numberWidth = 66;
@@ -25,10 +21,6 @@ constexpr Nutrient minerals[] = {Sodium, Potassium, Calcium, Phosphorus, Magnesi
 constexpr Nutrient vitamins[] = {VitaminA,  Thiamin, Riboflavin, Niacin,   Panto,
                                  VitaminB6, Folate,  VitaminB12, VitaminC, VitaminE};
 static_assert(std::size(energy) + std::size(minerals) + std::size(vitamins) == NutrientCount);
-
-QString Column(const NutrientInfo& nutrient) {
-    return QString::fromLatin1(nutrient.profileColumn);
-}
 } // namespace
 
 ProfileTargets::ProfileTargets(QWidget* parent)
@@ -67,19 +59,6 @@ QLineEdit* ProfileTargets::MakeField(QWidget* box, const NutrientInfo& nutrient)
     field->setAccessibleName(QString::fromLatin1(nutrient.editCaption));
     field->setFixedWidth(numberWidth);
     field->setAlignment(Qt::AlignRight);
-    fields_[static_cast<size_t>(nutrient.id)] = field;
+    fields_[nutrient.id] = field;
     return field;
-}
-
-void ProfileTargets::Fill(const Recordset& row) {
-    for (Nutrient id : CanonicalOrder()) {
-        QLineEdit* field = fields_[static_cast<size_t>(id)];
-        field->setText(row[Column(Info(id))].Text());
-        field->setCursorPosition(0);
-    }
-}
-
-void ProfileTargets::Write(Recordset& row) const {
-    for (Nutrient id : CanonicalOrder())
-        row.Set(Column(Info(id)), std::abs(Val(fields_[static_cast<size_t>(id)]->text())));
 }

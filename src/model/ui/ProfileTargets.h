@@ -1,13 +1,12 @@
 #pragma once
 
-#include "model/Nutrients.h"
+#include "model/ui/AmountFields.h"
 
 #include <QWidget>
 
-#include <array>
+#include <span>
 
 class QLineEdit;
-class Recordset;
 
 /// The Advanced page of the profile screen: the 31 daily targets, a field each, in three groups.
 class ProfileTargets : public QWidget {
@@ -16,14 +15,12 @@ class ProfileTargets : public QWidget {
 public:
     explicit ProfileTargets(QWidget* parent = nullptr);
 
-    void Fill(const Recordset& row);
-
-    /// Writes each field's number without its sign; what is no number is written as 0.
-    void Write(Recordset& row) const;
+    void Show(const NutrientAmounts& targets) { fields_.Show(targets); }
+    NutrientAmounts Entered() const { return fields_.Entered(); }
 
 private:
     QWidget* MakeGroup(const char* caption, std::span<const Nutrient> nutrients);
     QLineEdit* MakeField(QWidget* box, const NutrientInfo& nutrient);
 
-    std::array<QLineEdit*, NutrientCount> fields_{};
+    AmountFields fields_;
 };

@@ -1,13 +1,10 @@
 #include "model/ui/frmProfile.h"
 
-#include "model/User.h"
+#include "model/Profiles.h"
 #include "model/ui/ProfileBasics.h"
 #include "model/ui/ProfileTargets.h"
-#include "runtime/Round.h"
 #include "runtime/ScreenTable.h"
 #include "runtime/Seams.h"
-#include "store/Connection.h"
-#include "store/Recordset.h"
 #include "toolkit/CentreWindow.h"
 #include "toolkit/LeaveField.h"
 #include "toolkit/Style.h"
@@ -120,12 +117,9 @@ void frmProfile::LoadUser(qint32 uid) {
     newUser_ = false;
     firstUser_ = false;
     uid_ = uid;
-    Recordset row(UserDB(),
-                  QStringLiteral("SELECT * FROM profiles WHERE UID = ") + QString::number(uid),
-                  Cursor::Static, Lock::ReadOnly);
-    basics_->Fill(row);
-    targets_->Fill(row);
-    row.Close();
+    const Profile profile = Profiles::Read(uid);
+    basics_->Show(profile);
+    targets_->Show(profile.targets);
     cmdAdvanced_->show();
     title_->hide();
 }
@@ -176,92 +170,34 @@ void frmProfile::Leave() {
     close();
 }
 
-bool frmProfile::PassesTests() {
-    const QString problem = basics_->FirstProblem();
-    if (problem.isEmpty())
-        return true;
-    ShowAlert(problem, this);
-    return false;
+Profile frmProfile::Entered() const {
+    Profile entered = basics_->Entered();
+    entered.targets = targets_->Entered();
+    return entered;
 }
 
-bool frmProfile::IsTaken(const QString& statement, const char* verb) {
-    Recordset holders(UserDB(), statement, Cursor::Static, Lock::ReadOnly);
-    if (holders.RecordCount() == 0)
-        return false;
-    ShowAlert(QStringLiteral("A user with this name already exists in the database. Please ") +
-                  QLatin1String(verb) + QStringLiteral(" a different User Name."),
-              this);
-    return true;
-}
-
-User frmProfile::EnteredUser() const {
-    User user;
-    user.ActivityLevel = basics_->ActivityLevel();
-    user.UserName = basics_->UserName();
-    user.Age = basics_->Age();
-    user.Height = Round(basics_->Height());
-    user.CurrentWeight = Round(basics_->CurrentWeight());
-    user.DesiredWeight = Round(basics_->DesiredWeight());
-    user.Gender = basics_->Gender();
-    return user;
+bool frmProfile::Accept(const QString& problem) {
+    if (!problem.isEmpty())
+        ShowAlert(problem, this);
+    return problem.isEmpty();
 }
 
 bool frmProfile::SaveNewUser() {
-    if (!PassesTests())
+    const Profile entered = Entered();
+    if (!Accept(Profiles::ProblemWithNew(entered)))
         return false;
-    const QString sameName =
-        QStringLiteral("SELECT * FROM profiles WHERE UserName = '") + basics_->UserName() + u'\'';
-    if (IsTaken(sameName, "select"))
-        return false;
-    User user = EnteredUser();
-    user.CreateDefaultRDIs();
-    user.UID = AppendProfile(user);
+    const User user = Profiles::Append(entered);
     if (firstUser_)
         User::Current() = user;
     Leave();
     return true;
 }
 
-qint32 frmProfile::AppendProfile(const User& user) const {
-    Recordset row(UserDB(), QStringLiteral("SELECT * FROM profiles"), Cursor::Dynamic,
-                  Lock::Optimistic);
-    row.AddNew();
-    WritePerson(row);
-    for (Nutrient id : ProfileOrder())
-        row.Set(QString::fromLatin1(Info(id).profileColumn), user.RDIs[id]);
-    row.Update();
-    return row[QStringLiteral("UID")].Integer();
-}
-
-/// The store rounds what goes into a whole-number column.
-void frmProfile::WritePerson(Recordset& row) const {
-    row.Set(QStringLiteral("UserName"), basics_->UserName());
-    row.Set(QStringLiteral("age"), basics_->Age());
-    row.Set(QStringLiteral("height"), basics_->Height());
-    row.Set(QStringLiteral("Gender"), basics_->Gender());
-    row.Set(QStringLiteral("current_weight"), basics_->CurrentWeight());
-    row.Set(QStringLiteral("desired_weight"), basics_->DesiredWeight());
-    row.Set(QStringLiteral("activity_level"), basics_->ActivityLevel());
-    row.Set(QStringLiteral("flagsodium"), false);
-    row.Set(QStringLiteral("flagcholesterol"), false);
-    row.Set(QStringLiteral("cholesterolMAX"), 0);
-    row.Set(QStringLiteral("sodiumMAX"), 0);
-}
-
 void frmProfile::SaveChanges() {
-    if (!PassesTests())
+    const Profile entered = Entered();
+    if (!Accept(Profiles::ProblemWithChange(uid_, entered)))
         return;
-    const QString key = QString::number(uid_);
-    const QString sameName = QStringLiteral("SELECT * FROM profiles WHERE UserName = '") +
-                             basics_->UserName() + QStringLiteral("' AND UID <>") + key;
-    if (IsTaken(sameName, "enter"))
-        return;
-    Recordset row(UserDB(), QStringLiteral("SELECT * FROM profiles WHERE UID=") + key,
-                  Cursor::Dynamic, Lock::Pessimistic);
-    WritePerson(row);
-    targets_->Write(row);
-    row.Update();
-    row.Close();
+    Profiles::Change(uid_, entered);
     Leave();
     if (uid_ != User::Current().UID)
         return;

@@ -6,8 +6,7 @@
 
 class ProfileBasics;
 class ProfileTargets;
-class Recordset;
-class User;
+struct Profile;
 class ucButton;
 class ucTitleFlat;
 
@@ -51,11 +50,8 @@ private:
     void cmdSave_Click();
     void cmdCancel_Click();
     void Cover(bool covered);
-    bool PassesTests();
-    bool IsTaken(const QString& statement, const char* verb);
-    User EnteredUser() const;
-    void WritePerson(Recordset& row) const;
-    qint32 AppendProfile(const User& user) const;
+    Profile Entered() const;
+    bool Accept(const QString& problem); ///< shows a problem; an empty one is none
     void Leave();
 
     ucTitleFlat* title_;
