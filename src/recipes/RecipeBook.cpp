@@ -6,6 +6,7 @@
 #include "runtime/Round.h"
 #include "runtime/Val.h"
 #include "store/Connection.h"
+#include "store/NamedRows.h"
 #include "store/Recordset.h"
 
 namespace {
@@ -49,13 +50,8 @@ QVariantList ValuesOf(const Recordset& row) {
 } // namespace
 
 QList<NamedKey> RecipeBook::Names() {
-    QList<NamedKey> names;
-    for (Recordset rows(UserDB(), QStringLiteral("SELECT  * FROM Recipes")); !rows.AtEnd();
-         rows.MoveNext())
-        if (rows[QStringLiteral("RecipeID")].IsKey())
-            names.append({rows[QStringLiteral("RecipeName")].Text(),
-                          rows[QStringLiteral("RecipeID")].Integer()});
-    return names;
+    Recordset rows(UserDB(), QStringLiteral("SELECT  * FROM Recipes"));
+    return NamedRows::Sorted(rows, QStringLiteral("RecipeName"), QStringLiteral("RecipeID"));
 }
 
 RecipeTexts RecipeBook::Read(qint32 RecipeID) {

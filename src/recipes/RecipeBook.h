@@ -27,7 +27,7 @@ struct IngredientTable {
 /// every Update commits on its own.
 namespace RecipeBook {
 
-QList<NamedKey> Names();
+QList<NamedKey> Names(); ///< in the order of the names
 /// A field that holds nothing gives a null text. Fails (3021) without such a recipe.
 RecipeTexts Read(qint32 RecipeID);
 /// Fills in what can be read. A field that cannot be read keeps its text.

@@ -1,15 +1,10 @@
 #include "foods/ui/CustomFoodFields.h"
 
-#include "runtime/Val.h"
-#include "store/Recordset.h"
-#include "toolkit/Labels.h"
 #include "toolkit/LineField.h"
 #include "toolkit/Style.h"
 
 #include <QGridLayout>
 #include <QPainter>
-
-#include <cmath>
 
 namespace {
 
@@ -27,12 +22,6 @@ constexpr int ruleRow = nameRows;
 constexpr int firstAmountRow = ruleRow + 2;
 constexpr int gridColumns = 3;
 
-/// Amounts count for a serving: a serving weighs what the other amounts of the catalogue are for.
-constexpr double gramsOfServing = 100;
-
-/// No serving of anything holds more: beyond it a day could not be summed any more.
-constexpr double mostAmount = 1'000'000;
-
 using enum Nutrient;
 
 constexpr Nutrient headlines[] = {Calories,    TotalFat, SatFat, MonoFat, PolyFat,
@@ -47,18 +36,6 @@ TextRole RoleOf(Nutrient id, int column) {
     if (id == Calories)
         return TextRole::Strong;
     return column == 0 ? TextRole::Text : TextRole::Small;
-}
-
-QString Column(const NutrientInfo& nutrient) {
-    return QString::fromLatin1(nutrient.profileColumn);
-}
-
-double Amount(const QLineEdit* field) {
-    return std::abs(Val(field->text()));
-}
-
-bool HoldsRefusedCharacter(const QString& text) {
-    return text.contains(u'^') || text.contains(u'~') || text.contains(u'"');
 }
 
 } // namespace
@@ -103,7 +80,7 @@ void CustomFoodFields::AddColumn(std::span<const Nutrient> nutrients, int column
         const NutrientInfo& nutrient = Info(id);
         QLineEdit* field = AddField(nutrient.textField, nutrient.editCaption, RoleOf(id, column));
         field->setAlignment(Qt::AlignRight);
-        amounts_[static_cast<size_t>(id)] = field;
+        amounts_[id] = field;
         grid_->addWidget(captions_.last(), row, left);
         grid_->addWidget(field, row++, left + 1);
     }
@@ -125,28 +102,6 @@ QLineEdit* CustomFoodFields::AddField(const char* name, const char* caption, Tex
     return field;
 }
 
-CustomFoodFields::Problem CustomFoodFields::FirstProblem() const {
-    const QString refused =
-        QStringLiteral(" names cannot contain the special characters '~', '^' or \".");
-    if (HoldsRefusedCharacter(txtFoodName_->text()))
-        return {txtFoodName_, u"Food" + refused};
-    if (HoldsRefusedCharacter(txtServing_->text()))
-        return {txtServing_, u"Serving" + refused};
-    if (txtFoodName_->text().isEmpty())
-        return {txtFoodName_, QStringLiteral("Please give your custom food a name.")};
-    if (txtServing_->text().isEmpty())
-        return {txtServing_, QStringLiteral("Please give your custom food a serving size.")};
-    return AmountProblem();
-}
-
-CustomFoodFields::Problem CustomFoodFields::AmountProblem() const {
-    for (qsizetype i = nameRows; i < fields_.size(); ++i)
-        if (QLineEdit* field = fields_[i]; Amount(field) > mostAmount)
-            return {field, u"The amount of " + field->accessibleName() +
-                               u" is too large. Please enter a number up to 1,000,000."};
-    return {};
-}
-
 void CustomFoodFields::Clear() {
     for (QLineEdit* field : std::as_const(fields_))
         field->clear();
@@ -158,21 +113,16 @@ void CustomFoodFields::SetNew() {
     txtServing_->setText(QStringLiteral("Serving Size"));
 }
 
-void CustomFoodFields::Fill(const Recordset& row) {
-    txtFoodName_->setText(row[QStringLiteral("FoodName")].Text());
-    txtServing_->setText(row[QStringLiteral("Serv_Desc_A")].Text());
-    for (const NutrientInfo& nutrient : Nutrients())
-        amounts_[static_cast<size_t>(nutrient.id)]->setText(row[Column(nutrient)].Text());
-    for (QLineEdit* field : std::as_const(fields_))
-        field->setCursorPosition(0);
+void CustomFoodFields::Show(const CustomFood& food) {
+    txtFoodName_->setText(food.name);
+    txtServing_->setText(food.serving);
+    for (QLineEdit* name : {txtFoodName_, txtServing_})
+        name->setCursorPosition(0);
+    amounts_.Show(food.amounts);
 }
 
-void CustomFoodFields::Write(Recordset& row) const {
-    row.Set(QStringLiteral("FoodName"), txtFoodName_->text());
-    row.Set(QStringLiteral("Serv_Desc_A"), txtServing_->text());
-    row.Set(QStringLiteral("Serv_GM_WT_A"), gramsOfServing);
-    for (const NutrientInfo& nutrient : Nutrients())
-        row.Set(Column(nutrient), Amount(amounts_[static_cast<size_t>(nutrient.id)]));
+CustomFood CustomFoodFields::Entered() const {
+    return {txtFoodName_->text(), txtServing_->text(), amounts_.Entered()};
 }
 
 void CustomFoodFields::FieldLock(bool on) {
@@ -183,6 +133,14 @@ void CustomFoodFields::FieldLock(bool on) {
 void CustomFoodFields::ChooseName() {
     txtFoodName_->setFocus(Qt::OtherFocusReason);
     txtFoodName_->selectAll();
+}
+
+void CustomFoodFields::FocusOn(const CustomFoodProblem& problem) {
+    using enum CustomFoodProblem::Part;
+    QLineEdit* field = problem.part == Name      ? txtFoodName_
+                       : problem.part == Serving ? txtServing_
+                                                 : amounts_[problem.nutrient];
+    field->setFocus();
 }
 
 /// The heavy rule below the serving.

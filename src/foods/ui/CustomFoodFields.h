@@ -1,16 +1,15 @@
 #pragma once
 
-#include "model/Nutrients.h"
+#include "foods/CustomFood.h"
+#include "model/ui/AmountFields.h"
 #include "toolkit/Labels.h"
 
 #include <QWidget>
 
-#include <array>
 #include <span>
 
 class QGridLayout;
 class QLineEdit;
-class Recordset;
 
 /// The fields of a custom food, laid out like the label on a package: name and serving, and below a
 /// heavy rule the 31 amounts of one serving in three columns. Owned by the screen of custom foods.
@@ -20,19 +19,13 @@ class CustomFoodFields : public QWidget {
 public:
     explicit CustomFoodFields(QWidget* parent = nullptr);
 
-    struct Problem {
-        QLineEdit* field = nullptr; ///< null where there is none
-        QString message;
-    };
-    Problem FirstProblem() const;
-
     void Clear();
     void SetNew(); ///< words to be replaced for name and serving, no amounts
-    void Fill(const Recordset& row);
-    /// Writes name, serving and each amount's number without its sign; what is no number is 0.
-    void Write(Recordset& row) const;
+    void Show(const CustomFood& food);
+    CustomFood Entered() const;
     void FieldLock(bool on); ///< usable or not
     void ChooseName();       ///< the name is ready to be typed over
+    void FocusOn(const CustomFoodProblem& problem);
 
 Q_SIGNALS:
     void Changed(); ///< the text of any field, whoever changed it
@@ -41,7 +34,6 @@ protected:
     void paintEvent(QPaintEvent*) override;
 
 private:
-    Problem AmountProblem() const;
     void AddNames();
     void AddHint();
     void AddColumn(std::span<const Nutrient> nutrients, int column);
@@ -51,7 +43,7 @@ private:
     QLineEdit* txtFoodName_ = nullptr;
     QLineEdit* txtServing_ = nullptr;
     QLabel* lblHint_ = nullptr;
-    std::array<QLineEdit*, NutrientCount> amounts_{};
+    AmountFields amounts_;
     QList<QLabel*> captions_;  ///< each beside the field of the same place
     QList<QLineEdit*> fields_; ///< all, in reading order
 };

@@ -1,19 +1,14 @@
 #include "foods/ui/frmFoodList.h"
 
+#include "foods/CustomFoods.h"
 #include "foods/ui/CustomFoodFields.h"
-#include "foods/ui/NameList.h"
-#include "runtime/Round.h"
 #include "runtime/ScreenTable.h"
 #include "runtime/Seams.h"
-#include "store/Connection.h"
-#include "store/Recordset.h"
 #include "toolkit/ListBox.h"
 #include "toolkit/MousePointer.h"
 #include "toolkit/Style.h"
 #include "toolkit/ucBox.h"
 #include "toolkit/ucButton.h"
-
-#include <QLineEdit>
 
 #include <algorithm>
 
@@ -21,10 +16,6 @@ namespace {
 
 // Measures in pixels.
 constexpr int listWidth = 178;
-
-QString FoodSQL(qint32 id) {
-    return QStringLiteral("SELECT * FROM foods WHERE ID = ") + QString::number(id);
-}
 
 } // namespace
 
@@ -81,7 +72,7 @@ void frmFoodList::PlaceButtons() {
 
 void frmFoodList::ListFoods() {
     int index = foodList_->ListIndex();
-    FillList();
+    foodList_->SetLines(CustomFoods::Names());
     const int last = foodList_->ListCount() - 1;
     if (!editing_ && last < 0) {
         clearFields();
@@ -94,14 +85,6 @@ void frmFoodList::ListFoods() {
     UIMode(1);
 }
 
-void frmFoodList::FillList() {
-    foodList_->Clear();
-    Recordset foods(FoodDB(),
-                    QStringLiteral("SELECT * FROM foods WHERE ID > 23508 ORDER BY FoodName"),
-                    Cursor::Static, Lock::ReadOnly);
-    ListByName(*foodList_, foods, QStringLiteral("FoodName"), QStringLiteral("ID"));
-}
-
 void frmFoodList::FoodList_Click() {
     if (foodList_->ListIndex() < 0)
         return;
@@ -112,8 +95,7 @@ void frmFoodList::FoodList_Click() {
 }
 
 void frmFoodList::LoadFood(qint32 id) {
-    const Recordset food(FoodDB(), FoodSQL(id), Cursor::Static, Lock::ReadOnly);
-    fields_->Fill(food);
+    fields_->Show(CustomFoods::Read(id));
 }
 
 void frmFoodList::clearFields() {
@@ -165,7 +147,7 @@ void frmFoodList::cmdSave_Click() {
         return;
     const MousePointer::NormalAtEnd pointer;
     MousePointer::SetBusy();
-    const qint32 id = editing_ ? id_ : AppendFood();
+    const qint32 id = editing_ ? id_ : CustomFoods::Append();
     SaveFood(id);
     id_ = id;
     ListFoods();
@@ -173,31 +155,16 @@ void frmFoodList::cmdSave_Click() {
 }
 
 bool frmFoodList::PassesTests() {
-    const CustomFoodFields::Problem problem = fields_->FirstProblem();
-    if (!problem.field)
+    const CustomFoodProblem problem = fields_->Entered().FirstProblem();
+    if (!problem)
         return true;
     ShowAlert(problem.message, this);
-    problem.field->setFocus();
+    fields_->FocusOn(problem);
     return false;
 }
 
-/// The set begins with the last stock food, so that the first custom food has one before it. Its
-/// last row has the highest key, as the store gives the rows in the order of their keys.
-qint32 frmFoodList::AppendFood() const {
-    Recordset foods(FoodDB(), QStringLiteral("SELECT * FROM foods WHERE ID >= 23508"),
-                    Cursor::Dynamic, Lock::Optimistic);
-    foods.MoveLast();
-    const qint32 id = Round(foods[QStringLiteral("ID")].Number() + 1);
-    foods.AddNew();
-    foods.Set(QStringLiteral("ID"), id);
-    foods.Update();
-    return id;
-}
-
 void frmFoodList::SaveFood(qint32 id) {
-    Recordset food(FoodDB(), FoodSQL(id), Cursor::Dynamic, Lock::Optimistic);
-    fields_->Write(food);
-    food.Update();
+    CustomFoods::Save(id, fields_->Entered());
 }
 
 void frmFoodList::cmdDelete_Click() {
@@ -209,11 +176,7 @@ void frmFoodList::cmdDelete_Click() {
         return;
     const MousePointer::NormalAtEnd pointer;
     MousePointer::SetBusy();
-    const qint32 id = foodList_->ItemData(foodList_->ListIndex());
-    Recordset food(FoodDB(), QStringLiteral("SELECT * FROM Foods WHERE ID =") + QString::number(id),
-                   Cursor::Keyset, Lock::Optimistic);
-    food.Delete();
-    food.Close();
+    CustomFoods::Delete(foodList_->ItemData(foodList_->ListIndex()));
     editing_ = false;
     ListFoods();
     if (mode_ == 0)

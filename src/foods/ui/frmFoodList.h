@@ -40,14 +40,12 @@ private:
     void AddButtons();
     void PlaceBoxes();
     void PlaceButtons();
-    void FillList();
     void FoodList_Click();
     void cmdSave_Click();
     void cmdCancel_Click();
     void cmdDelete_Click();
     void cmdDone_Click();
     bool PassesTests();
-    qint32 AppendFood() const;
 
     ListBox* foodList_ = nullptr;
     CustomFoodFields* fields_ = nullptr;

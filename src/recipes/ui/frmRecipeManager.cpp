@@ -1,7 +1,6 @@
 #include "recipes/ui/frmRecipeManager.h"
 
 #include "foods/ScaledFood.h"
-#include "foods/ui/NameList.h"
 #include "recipes/RecipeBook.h"
 #include "recipes/ui/InstructionText.h"
 #include "recipes/ui/RecipeCard.h"
@@ -109,7 +108,7 @@ void frmRecipeManager::ListRecipes() {
     current_ = noRecipe;
     card_->Clear();
     AllowAll({cmdEdit_, cmdDelete_, cmdSend_}, false);
-    Attempt([this] { FillList(); });
+    Attempt([this] { lsRecipes_->SetLines(RecipeBook::Names()); });
     if (lsRecipes_->ListCount() > 0)
         Attempt([&] { lsRecipes_->SetListIndex(LineToChoose(chosen, index)); });
 }
@@ -117,10 +116,6 @@ void frmRecipeManager::ListRecipes() {
 int frmRecipeManager::LineToChoose(qint32 recipe, int index) const {
     const int line = lsRecipes_->LineOf(recipe);
     return line >= 0 ? line : qMin(index, lsRecipes_->ListCount() - 1);
-}
-
-void frmRecipeManager::FillList() {
-    ListByName(*lsRecipes_, RecipeBook::Names());
 }
 
 void frmRecipeManager::lsRecipes_Click() {

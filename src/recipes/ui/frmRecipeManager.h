@@ -48,7 +48,6 @@ private:
     void cmdDone_Click();
     void lsRecipes_Click();
 
-    void FillList();
     int LineToChoose(qint32 recipe, int index) const;
     void ShowTexts(qint32 recipeID);
     bool IsEditing() const;
