@@ -55,19 +55,26 @@ constexpr Nutrient Canonical[] = {
     Manganese, Niacin,     Panto,       Phosphorus, Riboflavin, Selenium, Sodium,   Thiamin,
     VitaminA,  VitaminB12, VitaminB6,   VitaminC,   VitaminE,   Zinc,     Water,    Protein,
     Carbs,     TotalFat,   SatFat,      PolyFat,    MonoFat,    Calories, Potassium};
-static_assert(std::size(Canonical) == NutrientCount);
+static_assert(HoldEachNutrientOnce({Canonical}));
 
 constexpr Nutrient Profile[] = {
     Ash,        Calcium,   Cholesterol, Copper,    Folate,     Iron,     Magnesium, Manganese,
     Niacin,     Panto,     Phosphorus,  Potassium, Riboflavin, Selenium, Thiamin,   VitaminA,
     VitaminB12, VitaminB6, VitaminC,    VitaminE,  Zinc,       Water,    Sodium,    Fiber,
     Protein,    Carbs,     TotalFat,    SatFat,    PolyFat,    MonoFat,  Calories};
-static_assert(std::size(Profile) == NutrientCount);
+static_assert(HoldEachNutrientOnce({Profile}));
 
 constexpr Nutrient Reference[] = {Ash,        Calcium,    Cholesterol, Copper,   Folate,
                                   Iron,       Magnesium,  Manganese,   Niacin,   Panto,
                                   Phosphorus, Riboflavin, Selenium,    Thiamin,  VitaminA,
                                   VitaminB12, VitaminB6,  VitaminC,    VitaminE, Zinc};
+
+constexpr bool HasReference(Nutrient id) {
+    return Table[static_cast<size_t>(id)].rdiColumn;
+}
+static_assert(std::ranges::all_of(Reference, HasReference));
+static_assert(std::ranges::count_if(Table, HasReference, &NutrientInfo::id) ==
+              std::ssize(Reference));
 
 constexpr Nutrient Chart[] = {Calories,   TotalFat,   SatFat,    PolyFat,   MonoFat,  Cholesterol,
                               Sodium,     Carbs,      Fiber,     Protein,   Calcium,  Copper,
@@ -80,9 +87,9 @@ constexpr Nutrient Period[] = {
     Fiber,     Protein,   Ash,        Calcium,    Copper,    Folate,      Iron,    Magnesium,
     Manganese, Niacin,    Panto,      Phosphorus, Potassium, Riboflavin,  Thiamin, Selenium,
     VitaminA,  VitaminB6, VitaminB12, VitaminC,   VitaminE,  Water,       Zinc};
-static_assert(std::size(Period) == NutrientCount);
+static_assert(HoldEachNutrientOnce({Period}));
 
-/// The blanks after some of the commas belong to the statement.
+/// The irregular blanks are part of the statement.
 constexpr auto SumTemplate =
     "SELECT Sum(%1.VitaminC) AS [VitaminC],Sum(%1.VitaminE) AS [VitaminE],Sum(%1.VitaminB12) AS "
     "[VitaminB12],"
@@ -106,7 +113,7 @@ constexpr Nutrient Stored[] = {
     MonoFat,  Folate,    Water,      Calories,  Protein,    TotalFat,  Carbs,      Fiber,
     Ash,      Calcium,   Phosphorus, Iron,      Sodium,     Magnesium, Panto,      Zinc,
     Copper,   Manganese, Selenium,   Thiamin,   Riboflavin, Niacin,    Cholesterol};
-static_assert(std::size(Stored) == NutrientCount);
+static_assert(HoldEachNutrientOnce({Stored}));
 
 /// Whether the aliases of the sums are the columns of the log in the order of `Stored`.
 constexpr bool SumsStandInOrder() {
@@ -135,31 +142,24 @@ std::span<const NutrientInfo, NutrientCount> Nutrients() {
     return Table;
 }
 
-const NutrientInfo* FindNutrient(const QString& name) {
-    for (const NutrientInfo& info : Table)
-        if (name.compare(QLatin1String(info.property), Qt::CaseInsensitive) == 0)
-            return &info;
-    return nullptr;
-}
-
-std::span<const Nutrient> CanonicalOrder() {
+NutrientOrder CanonicalOrder() {
     return Canonical;
 }
-std::span<const Nutrient> ProfileOrder() {
+NutrientOrder ProfileOrder() {
     return Profile;
 }
-std::span<const Nutrient> ReferenceOrder() {
+NutrientOrder ReferenceOrder() {
     return Reference;
 }
-std::span<const Nutrient> ChartOrder() {
+NutrientOrder ChartOrder() {
     return Chart;
 }
 
-std::span<const Nutrient> PeriodOrder() {
+NutrientOrder PeriodOrder() {
     return Period;
 }
 
-std::span<const Nutrient> StoredOrder() {
+NutrientOrder StoredOrder() {
     return Stored;
 }
 

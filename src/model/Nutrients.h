@@ -2,9 +2,11 @@
 
 #include <QString>
 
+#include <algorithm>
+#include <initializer_list>
 #include <span>
 
-/// The 31 nutrient quantities that the program follows, in the order of the record.
+/// The 31 nutrients, in the order of the table. Calories stays last: the count follows from it.
 enum class Nutrient {
     Selenium,
     Zinc,
@@ -38,21 +40,21 @@ enum class Nutrient {
     TotalFat,
     Calories,
 };
-inline constexpr int NutrientCount = 31;
+inline constexpr int NutrientCount = static_cast<int>(Nutrient::Calories) + 1;
 
-/// Kilocalories in a gram, wherever energy is split between the macronutrients.
+/// The energy of the macronutrients.
 namespace KcalPerGram {
 inline constexpr double Protein = 4;
 inline constexpr double Carbs = 4;
 inline constexpr double Fat = 9;
 } // namespace KcalPerGram
 
-/// What the program knows of one nutrient: one row of the one table.
+/// One row of the table of nutrients. Whoever needs a name, a unit or a caption takes it from here.
 struct NutrientInfo {
     Nutrient id;
-    const char* property;      ///< name in the record: "Carbs"
+    const char* property;      ///< "Carbs"
     const char* profileColumn; ///< column of `profiles` and of `FOODS`: "carbs"
-    const char* rdiColumn;     ///< column of `RDI`, null where it has none
+    const char* rdiColumn;     ///< column of `RDI`, or null
     const char* logColumn;     ///< column of `USER_FOODS` and `Ingredients`
     const char* unit;          ///< "g", "mg", "mcg", "iu", "kcal"
     const char* factsCaption;  ///< on the facts view and the Advanced page: "Total Fat (g)"
@@ -61,24 +63,29 @@ struct NutrientInfo {
     const char* periodUnit;    ///< on the bar chart of a period
     const char* textField;     ///< field of the Advanced page: "txtCals"
     const char* factsLabel;    ///< label of the facts view: "lblCalories"
-    bool whole;                ///< held as a 32-bit integer: rounded half to even on assignment
+    bool whole;                ///< Nuts rounds it to a 32-bit integer
 };
 
 std::span<const NutrientInfo, NutrientCount> Nutrients();
 const NutrientInfo& Info(Nutrient id);
-const NutrientInfo*
-FindNutrient(const QString& name); ///< by its name or a column's, without regard to case; or null
 
-std::span<const Nutrient>
-CanonicalOrder(); ///< 31: Ash, Calcium, ... Potassium; the profile screen's
-std::span<const Nutrient>
-ProfileOrder(); ///< 31: the order in which a profile row is read and written
-std::span<const Nutrient>
-ReferenceOrder();                        ///< 20: those that the table RDI holds, in reading order
-std::span<const Nutrient> ChartOrder();  ///< 28: rows of the daily panel
-std::span<const Nutrient> PeriodOrder(); ///< 31: rows of the bar chart of a period
-std::span<const Nutrient>
-StoredOrder(); ///< 31: positions 1 to 31 of FOODS, USER_FOODS and Ingredients, and of the sums
+using NutrientOrder = std::span<const Nutrient>;
+NutrientOrder CanonicalOrder(); ///< 31, with Ash first: for whoever names no other order
+NutrientOrder ProfileOrder();   ///< 31, as a row of `profiles` is read and a new one is written
+NutrientOrder ReferenceOrder(); ///< 20, those that have a column in `RDI`
+NutrientOrder ChartOrder();     ///< 28, the rows of the daily panel
+NutrientOrder PeriodOrder();    ///< 31, the rows of the bar chart of a period
+NutrientOrder StoredOrder();    ///< 31, positions 1 to 31 of FOODS, USER_FOODS and Ingredients, and
+                                ///< the fields of the sums
 
-/// "SELECT Sum(T.VitaminC) AS [VitaminC],..." up to the last alias, without the FROM clause.
+/// Whether the groups together hold each nutrient once.
+constexpr bool HoldEachNutrientOnce(std::initializer_list<NutrientOrder> groups) {
+    int found[NutrientCount] = {};
+    for (const NutrientOrder group : groups)
+        for (const Nutrient id : group)
+            ++found[static_cast<int>(id)];
+    return std::ranges::count(found, 1) == NutrientCount;
+}
+
+/// "SELECT Sum(T.VitaminC) AS [VitaminC],..." without the FROM clause.
 QString NutrientSumSQL(const QString& table);

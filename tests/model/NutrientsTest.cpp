@@ -15,7 +15,7 @@ QStringList Names(std::span<const Nutrient> order) {
     return names;
 }
 
-/// What `name` gives for each of the 31, those without one left out.
+/// The distinct values of `name`, in lower case, without nulls.
 QSet<QString> Distinct(const char* NutrientInfo::*name) {
     QSet<QString> names;
     for (const NutrientInfo& info : Nutrients())
@@ -24,7 +24,7 @@ QSet<QString> Distinct(const char* NutrientInfo::*name) {
     return names;
 }
 
-/// Each nutrient as the screens name it, in the order of the record.
+/// The names and captions of each nutrient, in the order of the table.
 struct Shown {
     const char *property, *unit, *factsCaption, *editCaption, *textField, *factsLabel;
 };
@@ -65,7 +65,7 @@ constexpr Shown Expected[] = {
 // clang-format on
 } // namespace
 
-TEST(Nutrients, AreThirtyOneWithNamesOfTheirOwn) {
+TEST(Nutrients, AreThirtyOneWithDistinctNames) {
     EXPECT_EQ(Nutrients().size(), 31U);
     for (auto name :
          {&NutrientInfo::property, &NutrientInfo::profileColumn, &NutrientInfo::logColumn,
@@ -79,7 +79,7 @@ TEST(Nutrients, StandAtTheirPlaceInTheTable) {
         EXPECT_EQ(&Info(info.id), &info);
 }
 
-TEST(Nutrients, GoByTheirNamesOnTheScreens) {
+TEST(Nutrients, HaveTheirNamesAndCaptions) {
     ASSERT_EQ(std::size(Expected), Nutrients().size());
     for (size_t i = 0; i < std::size(Expected); ++i) {
         const NutrientInfo& info = Nutrients()[i];
@@ -163,7 +163,7 @@ TEST(Nutrients, TheBarsOfAPeriodHaveAllInTheOrderOfTheDailyPanel) {
     EXPECT_EQ(names, Names(ChartOrder()));
 }
 
-TEST(Nutrients, OnlyWaterHasAUnitOfItsOwnOnTheBarsOfAPeriod) {
+TEST(Nutrients, OnlyWaterHasAnotherUnitOnTheBarsOfAPeriod) {
     for (const NutrientInfo& info : Nutrients())
         EXPECT_STREQ(info.periodUnit, info.id == Nutrient::Water ? "gm" : info.unit);
 }
@@ -176,15 +176,10 @@ TEST(Nutrients, ColumnsOfTheLogKeepTheirForm) {
     EXPECT_STREQ(Info(Nutrient::Water).logColumn, "Water");
 }
 
-TEST(Nutrients, AreFoundByAnyFormOfTheirName) {
-    for (const char* name : {"ASH", "Ash", "ash"})
-        EXPECT_EQ(FindNutrient(QString::fromLatin1(name)), &Info(Nutrient::Ash));
-    for (const NutrientInfo& info : Nutrients()) {
-        EXPECT_EQ(FindNutrient(QString::fromLatin1(info.profileColumn)), &info);
-        EXPECT_EQ(FindNutrient(QString::fromLatin1(info.logColumn)), &info);
-    }
-    for (const char* other : {"", "FOODNAME", "QTY", "Fat"})
-        EXPECT_EQ(FindNutrient(QString::fromLatin1(other)), nullptr);
+TEST(Nutrients, ColumnsDifferFromTheirNameOnlyInCase) {
+    for (const NutrientInfo& info : Nutrients())
+        for (const char* column : {info.profileColumn, info.logColumn})
+            EXPECT_EQ(QString(column).toLower(), QString(info.property).toLower());
 }
 
 TEST(Nutrients, SumStatementKeepsItsIrregularBlanks) {

@@ -11,8 +11,8 @@ namespace {
 // Measures in pixels.
 constexpr int margin = 12;
 constexpr int heavyRule = 3;
-constexpr int ruleGap = 4;   // below it, beside the line gap
-constexpr int columnGap = 6; // beside the gaps around it
+constexpr int ruleGap = 4;   // below the rule, added to the line gap
+constexpr int columnGap = 6; // added to the gaps on both sides
 constexpr int captionGap = 5;
 constexpr int lineGap = 7;
 
@@ -30,7 +30,7 @@ constexpr Nutrient minerals[] = {Ash,       Calcium,   Copper, Folate, Iron,
                                  Magnesium, Manganese, Niacin, Panto,  Phosphorus};
 constexpr Nutrient others[] = {Potassium, Riboflavin, Selenium, Thiamin, VitaminA, VitaminB12,
                                VitaminB6, VitaminC,   VitaminE, Water,   Zinc};
-static_assert(std::size(headlines) + std::size(minerals) + std::size(others) == NutrientCount);
+static_assert(HoldEachNutrientOnce({headlines, minerals, others}));
 
 TextRole RoleOf(Nutrient id, int column) {
     if (id == Calories)

@@ -10,7 +10,7 @@
 namespace {
 constexpr int numberWidth = 66;
 constexpr int margin = 12;
-constexpr int lineGap = 15; // the longest group fills its box
+constexpr int lineGap = 15; // so that the longest group fills its box
 
 using enum Nutrient;
 
@@ -20,7 +20,7 @@ constexpr Nutrient minerals[] = {Sodium, Potassium, Calcium, Phosphorus, Magnesi
                                  Iron,   Zinc,      Copper,  Manganese,  Selenium};
 constexpr Nutrient vitamins[] = {VitaminA,  Thiamin, Riboflavin, Niacin,   Panto,
                                  VitaminB6, Folate,  VitaminB12, VitaminC, VitaminE};
-static_assert(std::size(energy) + std::size(minerals) + std::size(vitamins) == NutrientCount);
+static_assert(HoldEachNutrientOnce({energy, minerals, vitamins}));
 } // namespace
 
 ProfileTargets::ProfileTargets(QWidget* parent)
