@@ -9,8 +9,8 @@
 namespace {
 constexpr int lastRowRead = 200;
 
-/// Name, key and servings stand at the same positions in all three statements; a recipe has one
-/// serving.
+/// All three statements give name, key and first serving at the same positions. Only a food has a
+/// second serving.
 void ReadSource(FoodList& foods, Connection& connection, const QString& source, bool recipes) {
     Recordset rows(connection, source);
     const int last = std::min(rows.RecordCount() - 1, lastRowRead);

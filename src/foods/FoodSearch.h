@@ -4,15 +4,15 @@
 
 class SearchTerms;
 
-/// Looks the words of a term up in the store, apart from any window.
+/// Finds foods and recipes by the words in their names.
 namespace FoodSearch {
-/// Where to look. Whatever is ticked, recipes come first, then custom foods, then stock foods.
+/// Where to look. Recipes come first in the result, then custom foods, then stock foods.
 struct Sources {
     bool recipes;
     bool custom;
     bool stock;
 };
 
-/// At most 201 entries a source, each source in the order of its names.
+/// Gives at most 201 entries for each source, in the order of the names.
 FoodList Find(const SearchTerms& terms, const Sources& sources);
 } // namespace FoodSearch

@@ -2,10 +2,10 @@
 
 #include <QString>
 
-/// The form of an amount on a nutrition label: "0" for 0, up to two decimals below 100 (the point
-/// stays: "5."), whole with thousands separators from 100 up.
+/// An amount as a nutrition label shows it: "0" for 0, up to two decimals below 100 (a point is
+/// always shown: "5."), a whole number with thousands separators from 100 up.
 QString FormatNutrient(double value);
 
-/// A text of FormatNutrient as a whole number again, half to even. Text that is no number fails
-/// (13).
+/// Turns a text of FormatNutrient into a whole number: halves go to the even neighbour, a number
+/// that is too large becomes the greatest one, and text that is no number becomes 0.
 qint32 WholeNumber(const QString& caption);

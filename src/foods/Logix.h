@@ -2,6 +2,6 @@
 
 #include <QString>
 
-/// The statement that sums all nutrient columns of a recipe's ingredients: one row of 31 fields,
-/// each named after its column, null where the recipe has no ingredients.
+/// The statement that sums the ingredients of a recipe. It gives one row of 31 fields, each named
+/// after its column. Without ingredients all fields are null.
 QString RecipeSumSQL(qint32 RecipeID);

@@ -14,14 +14,14 @@ namespace {
 
 constexpr double hundredGrams = 100;
 
-/// What has grown beyond every number cannot be logged as such.
+/// The nearest number that the log can hold, where the calculation has overflowed.
 double Storable(double amount) {
     using Limits = std::numeric_limits<double>;
     return std::isnan(amount) ? 0 : std::clamp(amount, Limits::lowest(), Limits::max());
 }
 
-/// The amounts of the 31 fields from position `first` on. The order of the operations is part of
-/// the result: the log holds these doubles to the last bit.
+/// Adds the 31 fields from position `first` on. Another order of the operations would change the
+/// last bits of what is logged.
 void AddAmounts(ScaledFood& item, const Recordset& row, int first, double grams, double qty) {
     for (int position = first; position < first + NutrientCount; ++position) {
         const Field field = row[position];

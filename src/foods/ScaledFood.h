@@ -5,9 +5,9 @@
 #include <QString>
 #include <QVariant>
 
-/// A chosen food on its way through the program: 31 finished amounts for the whole quantity, keyed
-/// by column name without regard to case and kept in the order of adding, then FOODNAME, SERVING,
-/// ID and QTY.
+/// A food that a person has chosen, with its quantity. It holds 31 amounts for the whole quantity,
+/// each under the name of its column, then FOODNAME, SERVING, ID and QTY. Keys ignore case; entries
+/// keep the order in which they were added.
 class ScaledFood {
 public:
     struct Entry {
@@ -16,16 +16,16 @@ public:
     };
 
     void Add(const QString& key,
-             const QVariant& value);         ///< a key that is there already fails (457)
+             const QVariant& value);         ///< a key that is used already fails (457)
     QVariant Item(const QString& key) const; ///< an unknown key fails (5)
-    QVariant Item(int position) const; ///< in the order of adding, from 1; none there fails (9)
+    QVariant Item(int position) const;       ///< counted from 1; a wrong position fails (9)
     double Amount(const QString& key) const { return Item(key).toDouble(); }
     QString Text(const QString& key) const { return Item(key).toString(); }
     const QList<Entry>& Entries() const { return entries_; }
 
-    /// Serving `serv` ("A" or "B") of a catalogue food at quantity `qty`, from the row of that key.
+    /// `qty` servings of a food of the catalogue. `serv` is "A" or "B". A key without a row fails.
     static ScaledFood FromCatalogue(qint32 id, const QString& serv, double qty);
-    /// The whole recipe times `qty`; the yield plays no part.
+    /// The sum of all ingredients times `qty`, whatever the yield of the recipe.
     static ScaledFood FromRecipe(qint32 recipeID, double qty);
 
 private:

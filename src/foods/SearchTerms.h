@@ -3,11 +3,11 @@
 #include <QString>
 #include <QStringList>
 
-/// The words of a search term and the statements that look for them. A word goes into the statement
-/// as it stands: a percent sign acts as a wildcard, and a quote makes the store refuse it.
+/// The words of a search term and the statements that look for them. Words go into a statement
+/// unchanged: a percent sign is a wildcard, and with a quote the store refuses the statement.
 class SearchTerms {
 public:
-    explicit SearchTerms(const QString& term); ///< split at each blank, empty words kept
+    explicit SearchTerms(const QString& term); ///< splits at each blank and keeps empty words
 
     const QStringList& Words() const { return words_; }
     QString RecipeSQL() const; ///< on users.mdb

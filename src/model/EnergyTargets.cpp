@@ -10,7 +10,7 @@ constexpr double CentimetresPerInch = 2.54;
 constexpr int WeightGoalStep = 500;
 constexpr int LeastToReduce = 1501;
 
-/// Kilocalories a day at rest: by the kilogram and centimetre, less by the year.
+/// The energy that a body needs at rest, in kilocalories a day.
 struct BasalFactors {
     double perKilogram, base, perCentimetre, perYear;
 };
@@ -41,7 +41,8 @@ qint32 TotalEnergy(const User& user) {
     return Round(basal + activity + thermic);
 }
 
-/// What the wish to lose or gain weight adds. A person at 1500 kcal or less is given no less.
+/// What to add for a person who wants to gain or lose weight. A target of 1500 kcal or less is not
+/// reduced.
 int GoalStep(const User& user, qint32 calories) {
     if (calories >= LeastToReduce && user.CurrentWeight > user.DesiredWeight)
         return -WeightGoalStep;

@@ -4,9 +4,9 @@
 
 #include <array>
 
-/// One value for each of the 31 nutrients: a person's targets, a day's totals, a serving of a food.
-/// Whole-number members round half to even on assignment. What lies beyond the bounds of a 32-bit
-/// integer becomes the bound, so that any sum can be shown. All values start at 0.
+/// One value for each nutrient, 0 at first: the targets of a person, or the totals of a day. Some
+/// members hold whole numbers: they round halves to the even neighbour. A value beyond the bounds
+/// of a 32-bit integer becomes the bound, so that any sum can be shown.
 class Nuts {
 public:
     double operator[](Nutrient id) const { return values_[static_cast<size_t>(id)]; }

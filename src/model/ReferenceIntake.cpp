@@ -6,7 +6,7 @@
 #include <span>
 
 namespace {
-/// Both ends belong to the band.
+/// A range of ages, both ends included.
 struct Band {
     double from;
     double to;
@@ -34,7 +34,7 @@ QString StageKey(const User& user) {
     return QLatin1String(user.Gender == 1 ? "MALE" : "FEMALE") + SuffixOf(AdultBands, user.Age);
 }
 
-/// Pregnancy goes before lactation; in a gap between two bands the earlier key stays.
+/// Pregnancy overrides lactation. Between two bands the key stays that of the life stage.
 QString ProfileKey(const User& user) {
     QString key = StageKey(user);
     const QString suffix = SuffixOf(MotherBands, user.Age);

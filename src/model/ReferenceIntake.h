@@ -4,6 +4,6 @@
 
 class User;
 
-/// The statement that selects the person's life stage in the table RDI. The bands end at whole
-/// years, so an age between two of them (13.5) or above 999 selects no row.
+/// The statement that selects the row of the table RDI for the person's life stage. An age between
+/// two bands (13.5) or above 999 selects no row.
 QString ReferenceStatement(const User& user);

@@ -25,13 +25,12 @@ void ReadReferenceValues(Nuts& targets, const Recordset& row, double age) {
         throw RuntimeError(
             ErrorNumber::NoCurrentRecord,
             QStringLiteral("There are no reference intakes for an age of ") + DecimalText(age) +
-                QStringLiteral(
-                    " years. From 9 on, an age is entered in whole years, 999 at most."));
+                QStringLiteral(" years. From the age of 9 on, enter whole years, 999 at most."));
     for (Nutrient id : ReferenceOrder())
         targets.Set(id, row[QString::fromLatin1(Info(id).rdiColumn)].Number());
 }
 
-/// Below the least amount there is no target: the derivation fails, and nobody catches it.
+/// An energy target that gives less than the least amount of fiber is an error.
 double FiberTarget(double age, double calories) {
     if (age <= 10)
         return age + 5;

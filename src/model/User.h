@@ -9,8 +9,8 @@ class User {
 public:
     qint32 cholesterolMAX = 0;
     qint32 sodiumMAX = 0;
-    bool Lactating = false; ///< no control sets it; selects a reference row
-    bool Pregnant = false;  ///< no control sets it; selects a reference row
+    bool Lactating = false; ///< selects a reference row; no screen sets it
+    bool Pregnant = false;  ///< selects a reference row; no screen sets it
     qint32 Gender = 0;      ///< 0 female, 1 male
     qint32 Height = 0;      ///< whole inches
     Nuts RDIs;              ///< daily targets
@@ -23,18 +23,18 @@ public:
     qint32 UID = -1;          ///< -1: no user
     QString UserName;
 
-    /// Fills this object from the row of that key. Does not set UID: the caller does, before the
-    /// call.
+    /// Reads all members but UID from the row of that key.
     void GetUserProfile(qint32 uid);
 
     /// Derives all targets from the person and the reference table; writes nothing to the store.
     void CreateDefaultRDIs();
 
-    /// The user of this process, and the way back to none.
+    /// The one user of this process.
     static User& Current();
     static void ResetCurrent();
 };
 
-/// Where the setting says so: derives energy and macronutrients anew from the current user's
-/// weight, writes them and the weight to the row of `profiles`, and reloads the user from it.
+/// Adapts the targets for energy, protein, carbohydrate and fat to the current user's weight,
+/// writes them and the weight to `profiles`, and reloads the user. Does nothing if the setting is
+/// off.
 void RecalcTargets();

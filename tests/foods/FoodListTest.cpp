@@ -25,7 +25,7 @@ TEST(FoodListTest, AddReturnsTheEntryWithAllItWasGiven) {
     EXPECT_TRUE(food.ServB.isNull());
 }
 
-TEST(FoodListTest, ARecipeAndAFoodOfOneKeyStandSideBySide) {
+TEST(FoodListTest, ARecipeAndAFoodMayHaveTheSameKey) {
     FoodList foods;
     foods.Add("Oats", false, 3, "1 cup", "");
     foods.Add("Soup", true, 3, "1 bowl", "");
@@ -33,7 +33,7 @@ TEST(FoodListTest, ARecipeAndAFoodOfOneKeyStandSideBySide) {
     EXPECT_NE(foods.Item(1).isRecipe, foods.Item(2).isRecipe);
 }
 
-TEST(FoodListTest, ANamedKeyIsTakenOnceWithoutRegardToCase) {
+TEST(FoodListTest, AKeyIsUsedOnceWhateverItsCase) {
     FoodList foods;
     foods.Add("Oats", false, 1, "", "", "a");
     EXPECT_EQ(FailureOf([&] { foods.Add("Rye", false, 2, "", "", "A"); }), 457);
@@ -52,7 +52,7 @@ TEST(FoodListTest, RemoveClosesTheGap) {
     EXPECT_EQ(foods.Item(2).FoodName, "c");
 }
 
-TEST(FoodListTest, PositionsThatAreNotThereFail) {
+TEST(FoodListTest, WrongPositionsFail) {
     FoodList foods;
     foods.Add("a", false, 1, "", "");
     EXPECT_EQ(FailureOf([&] { foods.Item(0); }), 9);
@@ -60,7 +60,7 @@ TEST(FoodListTest, PositionsThatAreNotThereFail) {
     EXPECT_EQ(FailureOf([&] { foods.Remove(2); }), 9);
 }
 
-TEST(FoodListTest, EntriesAreWalkedInTheOrderOfAdding) {
+TEST(FoodListTest, IterationFollowsTheOrderOfAdding) {
     FoodList foods;
     for (const char* name : {"c", "a", "b"})
         foods.Add(name, false, 1, "", "");

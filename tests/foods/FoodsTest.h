@@ -9,7 +9,7 @@ class QLineEdit;
 class ucFood;
 class ucSearchResults;
 
-/// What a test row of the catalogue holds; unset numbers are null.
+/// A row of the catalogue for a test. Missing amounts are null.
 struct FoodRow {
     qint32 id = 0;
     QString name;
@@ -37,6 +37,6 @@ protected:
     static QStringList NamesShown(const ucSearchResults& panel);
     using HalvaneTest::Rows;
 
-    /// Nothing that the user keeps has grown.
+    /// No food was logged and no ingredient added.
     void ExpectNothingWritten();
 };

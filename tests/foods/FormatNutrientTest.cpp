@@ -2,7 +2,7 @@
 
 #include "foods/FormatNutrient.h"
 
-TEST(FormatNutrientTest, ZeroIsABareZero) {
+TEST(FormatNutrientTest, ZeroHasNoDecimals) {
     EXPECT_EQ(FormatNutrient(0), "0");
     EXPECT_EQ(FormatNutrient(-0.0), "0");
 }
@@ -35,7 +35,7 @@ TEST(FormatNutrientTest, EveryFormReadsBackAsAWholeNumber) {
     EXPECT_EQ(WholeNumber("1,234,568"), 1234568);
 }
 
-TEST(FormatNutrientTest, ANumberBeyondAWholeNumberIsTheGreatestAndATextIsNone) {
+TEST(FormatNutrientTest, TooLargeANumberBecomesTheGreatestOneAndTextBecomesZero) {
     EXPECT_EQ(WholeNumber("inf"), 0);
     EXPECT_EQ(WholeNumber("9,999,999,999"), 2147483647);
 }

@@ -60,7 +60,7 @@ TEST_F(LogFoodTest, TheAddButtonRaisesTheScaledFoodAndItsMeal) {
     EXPECT_FALSE(MousePointer::IsBusy());
 }
 
-TEST_F(LogFoodTest, ThePointerIsNormalBeforeTheHostHears) {
+TEST_F(LogFoodTest, ThePointerIsNormalBeforeFoodChosenIsEmitted) {
     bool busy = true;
     QObject::connect(&panel_, &ucSearchResults::FoodChosen, &panel_,
                      [&] { busy = MousePointer::IsBusy(); });
@@ -97,7 +97,7 @@ TEST_F(LogFoodTest, ASecondServingWithoutAWeightCountsAHundredGrams) {
     EXPECT_EQ(Chosen(0).Text("SERVING"), "1 oz");
 }
 
-TEST_F(LogFoodTest, QuantitiesThatPass) {
+TEST_F(LogFoodTest, AcceptedQuantities) {
     for (const char* quantity : {".05", "99", "-1", "0.0000001", " 3 ", "1e1"}) {
         Press("cmdEAT_a", quantity);
         EXPECT_EQ(chosen_.size(), 1) << quantity;
@@ -110,7 +110,7 @@ TEST_F(LogFoodTest, ANegativeQuantityLogsNegativeAmounts) {
     EXPECT_EQ(Chosen(0).Amount("Calories"), -75);
 }
 
-TEST_F(LogFoodTest, QuantitiesThatAreRefused) {
+TEST_F(LogFoodTest, RefusedQuantities) {
     for (const char* quantity : {"", "abc", "0", "0.0", "99.01", "1e400", "1,5", "100", "1e300",
                                  "'; DROP TABLE USER_FOODS; --", "🥛", "NaN"}) {
         ExpectAlert(tooMuch);
@@ -134,7 +134,7 @@ TEST_F(LogFoodTest, TheRowKeepsItsQuantityAndStaysAsItWas) {
     EXPECT_EQ(Find<QLineEdit>(Row(), "txtQTY_A")->text(), "2.5");
 }
 
-TEST_F(LogFoodTest, ExaminingRefusesOnlyZeroInWordsOfItsOwn) {
+TEST_F(LogFoodTest, ExaminingRefusesOnlyZeroWithItsOwnMessage) {
     for (const char* quantity : {"", "abc", "0", "1e400", "1,5"}) {
         ExpectAlert(notValid);
         Press("imgInfo_W_A", quantity);

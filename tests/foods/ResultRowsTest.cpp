@@ -73,7 +73,7 @@ TEST_F(ResultRowsTest, LimitOffDraws51Of51) {
     EXPECT_EQ(Rows(panel_).size(), 51);
 }
 
-TEST_F(ResultRowsTest, LimitOnCanPushTheStockOutOfSight) {
+TEST_F(ResultRowsTest, TheLimitCanHideAllStockFoods) {
     App().AppInfo.LIMITRESULTS = true;
     AddFoods(50, 23509, "food custom");
     List(2);
@@ -114,7 +114,7 @@ TEST_F(ResultRowsTest, ANewSearchStartsAtTheTop) {
     EXPECT_EQ(Bar()->Value(), 0);
 }
 
-TEST_F(ResultRowsTest, RowsStandUnderTheRealHeightOfTheRowAbove) {
+TEST_F(ResultRowsTest, EachRowStartsWhereTheRowAboveEnds) {
     AddRecipe("food recipe", "1 bowl");
     AddFood({.id = 30, .name = "food short", .servB = QVariant()});
     AddFood({.id = 31, .name = "food short too", .servB = ""});
@@ -136,7 +136,7 @@ TEST_F(ResultRowsTest, RowsTakeTheWidthOfThePane) {
     EXPECT_EQ(Row(2)->width(), Pane()->width());
 }
 
-TEST_F(ResultRowsTest, AListThatFitsHasTheBarsRoomAsWell) {
+TEST_F(ResultRowsTest, AListThatFitsTakesTheWidthOfTheScrollBarToo) {
     List(3);
     EXPECT_FALSE(Bar()->isVisible());
     EXPECT_EQ(Row(3)->width(), Box()->width());
@@ -156,7 +156,7 @@ TEST_F(ResultRowsTest, TheFrameFillsThePanelBelowTheFields) {
     EXPECT_EQ(panel_.height() - place.bottom() - 1, Twips::ToPixels(30));
 }
 
-TEST_F(ResultRowsTest, TheBarStandsOnTheInnerRightEdgeOfTheFrameAndReachesIntoItsTopLine) {
+TEST_F(ResultRowsTest, TheScrollBarIsAtTheRightEdgeAndCoversTheTopLine) {
     List(20);
     const QRect bar = Bar()->geometry();
     EXPECT_EQ(bar.right(), Box()->geometry().right());
@@ -173,7 +173,7 @@ TEST_F(ResultRowsTest, TheTemplateRowIsNeverShown) {
     EXPECT_TRUE(Row(3)->isVisible());
 }
 
-TEST_F(ResultRowsTest, AnEmptyResultSaysSoAcrossTheMiddle) {
+TEST_F(ResultRowsTest, AnEmptyResultSaysSoInTheMiddle) {
     List(3);
     Search(panel_, "nothing like it");
     const auto* text = Find<QLabel>(&panel_, "lblNoMatch");
@@ -186,7 +186,7 @@ TEST_F(ResultRowsTest, AnEmptyResultSaysSoAcrossTheMiddle) {
     EXPECT_FALSE(text->isVisible());
 }
 
-TEST_F(ResultRowsTest, OldRowsAndTheirQuantitiesGoWithTheNextSearch) {
+TEST_F(ResultRowsTest, TheNextSearchRemovesOldRowsAndTheirQuantities) {
     List(3);
     Find<QLineEdit>(Row(1), "txtQTY_A")->setText("7");
     Search(panel_, "food");
@@ -208,7 +208,7 @@ TEST_F(ResultRowsTest, OnlyRowsInViewHaveControls) {
         EXPECT_EQ(row->Materialised(), InView(row)) << row->objectName().toStdString();
 }
 
-TEST_F(ResultRowsTest, EveryRowThatComesIntoViewHasItsControlsWhereverTheBarGoes) {
+TEST_F(ResultRowsTest, EveryRowInViewHasItsControlsAtAnyPositionOfTheBar) {
     List(150);
     for (int value = 0; value <= Bar()->Max(); value += 97) {
         Bar()->SetValue(value);
@@ -219,7 +219,7 @@ TEST_F(ResultRowsTest, EveryRowThatComesIntoViewHasItsControlsWhereverTheBarGoes
     EXPECT_TRUE(Row(150)->Materialised());
 }
 
-TEST_F(ResultRowsTest, AFrameMadeTallerFillsWithControls) {
+TEST_F(ResultRowsTest, ATallerFrameShowsRowsWithControls) {
     List(150);
     const int before = Materialised();
     window_.resize(640, 1400);
@@ -274,7 +274,7 @@ TEST_F(ResultRowsTest, BackTabReachesTheLastControlOfARowNotYetSeen) {
     }
 }
 
-TEST_F(ResultRowsTest, TabPassesOverTheServingThatARowLacks) {
+TEST_F(ResultRowsTest, TabSkipsAMissingServing) {
     AddRecipe("food recipe", "1 bowl");
     AddRecipe("food recipe too", "1 bowl");
     Search(panel_, "food");
@@ -285,7 +285,7 @@ TEST_F(ResultRowsTest, TabPassesOverTheServingThatARowLacks) {
     EXPECT_EQ(FocusName(), "ucFood1/imgInfo_W_A");
 }
 
-TEST_F(ResultRowsTest, APressOnARowHalfOutOfSightStillClicks) {
+TEST_F(ResultRowsTest, APressOnAHalfHiddenRowClicks) {
     List(20);
     ucFood* row = nullptr;
     for (ucFood* candidate : Rows(panel_))

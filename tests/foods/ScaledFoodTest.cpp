@@ -18,7 +18,7 @@ TEST_F(ScaledFoodTest, EntriesAreFoundWithoutRegardToCase) {
     EXPECT_EQ(item.Text("FoodName"), "Oats");
 }
 
-TEST_F(ScaledFoodTest, AKeyTwiceAndAnUnknownKeyFail) {
+TEST_F(ScaledFoodTest, ADuplicateKeyAndAnUnknownKeyFail) {
     ScaledFood item;
     item.Add("ash", 1.0);
     EXPECT_EQ(FailureOf([&] { item.Add("ASH", 2.0); }), 457);
@@ -115,7 +115,7 @@ TEST_F(ScaledFoodTest, ANullServingTextReadsHundredGrams) {
     EXPECT_EQ(ScaledFood::FromCatalogue(7, "B", 1).Text("SERVING"), "100 grams");
 }
 
-TEST_F(ScaledFoodTest, ACustomFoodIsItsTypedValuesTimesTheQuantity) {
+TEST_F(ScaledFoodTest, ACustomFoodGivesTheTypedValuesTimesTheQuantity) {
     AddFood({.id = 23509, .name = "Mine", .gramsA = 100.0, .nutrients = {{"protein", 12.5}}});
     EXPECT_EQ(ScaledFood::FromCatalogue(23509, "A", 3).Amount("Protein"), 37.5);
 }

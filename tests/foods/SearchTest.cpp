@@ -25,7 +25,7 @@
 #include <memory>
 
 namespace {
-/// How often a control was painted, and how often of these under the busy pointer.
+/// Counts the paints of a control, and those under the busy pointer.
 class BusyPaints : public QObject {
 public:
     int count = 0;
@@ -93,7 +93,7 @@ TEST_F(SearchTest, TheFieldsCarryTheirCaptions) {
         EXPECT_EQ(Find<ucRadio>(panel_.get(), u"opMeal" + QString::number(i))->Caption(), meals[i]);
 }
 
-TEST_F(SearchTest, AnEmptyTermIsAskedForAndTheListOnTheScreenStays) {
+TEST_F(SearchTest, AnEmptyTermGivesAMessageAndTheListStays) {
     AddFood({.id = 1, .name = "Milk"});
     SearchFor("milk");
     ExpectAlert("Please enter a search term.");
@@ -115,7 +115,7 @@ TEST_F(SearchTest, RecipesThenCustomThenStockEachByName) {
                                     "Milk, skim", "Milk, whole"}));
 }
 
-TEST_F(SearchTest, TheBoundaryOfTheStockIsTheFoodOfThatKey) {
+TEST_F(SearchTest, TheLastStockFoodIsNoCustomFood) {
     AddFood({.id = 23508, .name = "last stock"});
     AddFood({.id = 23509, .name = "first custom"});
     Tick("ckCustom", false);
@@ -173,7 +173,7 @@ TEST_F(SearchTest, OneBlankListsEveryFoodUpTo201OfEachSource) {
     EXPECT_EQ(names.last(), "stock 201");
 }
 
-TEST_F(SearchTest, EverySourceFullGives603Entries) {
+TEST_F(SearchTest, ThreeFullSourcesGive603Entries) {
     AddFoods(201, 1, "a stock");
     AddFoods(201, 23509, "a custom");
     AddRecipes(201, "a recipe");
@@ -271,9 +271,9 @@ TEST_F(SearchTest, AnEmptyTermPutsThePointerBack) {
     EXPECT_FALSE(MousePointer::IsBusy());
 }
 
-// The typed-character filter.
+// The filter of typed characters
 
-TEST_F(SearchTest, TypedQuotesAndAsterisksNeverReachTheTerm) {
+TEST_F(SearchTest, TypedQuotesAndAsterisksAreIgnored) {
     QTest::keyClicks(Term(), "mi\"l*k's");
     EXPECT_EQ(Term()->text(), "milks");
 }
@@ -289,7 +289,7 @@ TEST_F(SearchTest, EnterStartsTheSearch) {
     EXPECT_TRUE(Names().isEmpty());
 }
 
-TEST_F(SearchTest, EnterIsSwallowed) {
+TEST_F(SearchTest, EnterDoesNotReachTheDialog) {
     AddFood({.id = 1, .name = "Milk"});
     Term()->setText("milk");
     QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r");
@@ -297,14 +297,14 @@ TEST_F(SearchTest, EnterIsSwallowed) {
     EXPECT_TRUE(enter.isAccepted());
 }
 
-TEST_F(SearchTest, ComposedQuotesAreSwallowedToo) {
+TEST_F(SearchTest, ComposedQuotesAreIgnoredToo) {
     QInputMethodEvent composed(QString(), {});
     composed.setCommitString("cr\"è*m'e");
     QCoreApplication::sendEvent(Term(), &composed);
     EXPECT_EQ(Term()->text(), "crème");
 }
 
-TEST_F(SearchTest, APastedQuoteMakesTheStoreRefuseAndNothingSticks) {
+TEST_F(SearchTest, APastedQuoteFailsInTheStoreAndLeavesNoTrace) {
     AddFood({.id = 1, .name = "Milk"});
     QGuiApplication::clipboard()->setText("baker's");
     Term()->paste();
@@ -326,7 +326,7 @@ TEST_F(SearchTest, StatementsInTheTermRunNothing) {
     ExpectNothingWritten();
 }
 
-TEST_F(SearchTest, OddTermsFindWhatTheyNameAndBreakNothing) {
+TEST_F(SearchTest, UnusualTermsFindTheirFoods) {
     AddFood({.id = 1, .name = "Milk [2% fat] 🥛"});
     for (const char* term : {"[2%", "fat]", "🥛", "[2% 🥛"}) {
         SearchFor(QString::fromUtf8(term));
@@ -364,7 +364,7 @@ TEST_F(SearchTest, AnEmbeddedNulIsRefusedByTheStoreAndWritesNothing) {
     EXPECT_EQ(Foods("SELECT COUNT(*) FROM FOODS").toInt(), 1);
 }
 
-// What outlives the panel.
+// The state that the settings keep
 
 TEST_F(SearchTest, AFreshPanelTicksEverySourceAndBreakfast) {
     EXPECT_TRUE(Ticked("ckStock"));
@@ -438,7 +438,7 @@ TEST_F(SearchTest, AMealOutOfRangeTicksBreakfast) {
     EXPECT_EQ(Meal(), 3);
 }
 
-TEST_F(SearchTest, SettingsThatCannotBeReadOrWrittenArePassedOverInSilence) {
+TEST_F(SearchTest, SettingsThatCannotBeReadOrWrittenAreIgnored) {
     panel_.reset();
     QFile::remove(Folder() + "/Brindlewick/HALVANE.ini");
     ASSERT_TRUE(QDir(Folder()).mkpath("Brindlewick/HALVANE.ini"));
@@ -466,14 +466,14 @@ TEST_F(SearchTest, SettingTheMealTicksItsOptionAndOverridesTheSettings) {
     EXPECT_EQ(Meal(), 3);
 }
 
-TEST_F(SearchTest, AMealThatDoesNotExistIsStoredAndTicksNothingNew) {
+TEST_F(SearchTest, AnUnknownMealIsStoredAndTicksNothing) {
     panel_->SetMeal(2);
     panel_->SetMeal(7);
     EXPECT_EQ(panel_->meal(), 7);
     EXPECT_EQ(Meal(), 2);
 }
 
-TEST_F(SearchTest, AClickOnAMealTakesTheTickOffTheOthers) {
+TEST_F(SearchTest, AClickOnAMealClearsTheOthers) {
     Click(Find(panel_.get(), "opMeal3"));
     EXPECT_EQ(Meal(), 3);
     Click(Find(panel_.get(), "opMeal1"));

@@ -79,7 +79,7 @@ const QString noName = QStringLiteral("Please give your custom food a name.");
 const QString noServing = QStringLiteral("Please give your custom food a serving size.");
 const QString sureToDelete = QStringLiteral("Are you sure you want to delete this custom food?");
 
-/// Texts that a statement put together from text would trip over.
+/// Texts that would break a statement put together from them.
 const QString sql[] = {QStringLiteral("x'; DROP TABLE FOODS; --"), QStringLiteral("' OR '1'='1"),
                        QStringLiteral("#3/4/2002# % _ [a] TOP 1"), QStringLiteral("O'Brien's")};
 
@@ -177,7 +177,7 @@ TEST_F(frmFoodListTest, TheScreenHasItsTitlePanelsAndButtons) {
         EXPECT_EQ(Button(name).Caption(), caption);
 }
 
-TEST_F(frmFoodListTest, EveryFieldStandsBesideItsCaption) {
+TEST_F(frmFoodListTest, EveryFieldIsBesideItsCaption) {
     Open();
     const auto expect = [this](const FieldRow& row) {
         const QLineEdit& field = Field(row.field);
@@ -239,7 +239,7 @@ TEST_F(frmFoodListTest, AssistiveToolsFindANameOnEveryControl) {
 
 // Loading and listing
 
-TEST_F(frmFoodListTest, WithoutCustomFoodsNothingIsChosenAndNothingUsable) {
+TEST_F(frmFoodListTest, WithoutCustomFoodsNothingIsSelectedAndAllFieldsAreDisabled) {
     Open();
     EXPECT_EQ(List().ListCount(), 0);
     ExpectCleared();
@@ -365,7 +365,7 @@ TEST_F(frmFoodListTest, NewShowsThePlaceholdersAndEmptyAmounts) {
     EXPECT_EQ(CustomCount(), 1);
 }
 
-TEST_F(frmFoodListTest, NewLetsTheNameBeTypedOverAtOnce) {
+TEST_F(frmFoodListTest, NewSelectsTheNameForTyping) {
     Open();
     Press("cmdNewBut");
     QTest::keyClicks(QApplication::focusWidget(), "Muesli");
@@ -438,7 +438,7 @@ TEST_F(frmFoodListTest, DoneGoesHomeAndSavesNothing) {
 
 // Saving
 
-TEST_F(frmFoodListTest, TheFirstCustomFoodGetsTheKeyBehindTheLastStockFood) {
+TEST_F(frmFoodListTest, TheFirstCustomFoodGetsTheKeyAfterTheLastStockFood) {
     Open();
     SaveNew("Muesli");
     EXPECT_EQ(Stored("FoodName"), "Muesli");
@@ -535,7 +535,7 @@ TEST_F(frmFoodListTest, OwnFoodsAreListedInTheOrderThatAPersonExpects) {
     EXPECT_EQ(Find<ListBox>(&form, "FoodList")->ItemData(7), 23509);
 }
 
-TEST_F(frmFoodListTest, KeysCountOnFromTheHighestWhateverTheOrderOfAdding) {
+TEST_F(frmFoodListTest, TheNextKeyFollowsTheHighestOne) {
     AddFood({.id = 23600, .name = "a"});
     AddFood({.id = 23550, .name = "z"});
     Open();
@@ -544,7 +544,7 @@ TEST_F(frmFoodListTest, KeysCountOnFromTheHighestWhateverTheOrderOfAdding) {
     EXPECT_EQ(List().ListIndex(), 1);
 }
 
-TEST_F(frmFoodListTest, TheKeyOfADeletedFoodAtTheTopIsGivenOutAgain) {
+TEST_F(frmFoodListTest, TheHighestKeyIsReusedAfterDeleting) {
     Open();
     SaveNew("a");
     SaveNew("b");
@@ -554,7 +554,7 @@ TEST_F(frmFoodListTest, TheKeyOfADeletedFoodAtTheTopIsGivenOutAgain) {
     EXPECT_EQ(CustomCount(), 2);
 }
 
-TEST_F(frmFoodListTest, TheKeyOfADeletedFoodBelowTheTopIsNot) {
+TEST_F(frmFoodListTest, ALowerKeyIsNotReusedAfterDeleting) {
     Open();
     SaveNew("a");
     SaveNew("b");
@@ -565,7 +565,7 @@ TEST_F(frmFoodListTest, TheKeyOfADeletedFoodBelowTheTopIsNot) {
     EXPECT_TRUE(Stored("FoodName", 23509).isNull());
 }
 
-TEST_F(frmFoodListTest, ANewFoodIsChosenWhereItsNamePutsIt) {
+TEST_F(frmFoodListTest, ANewFoodIsSelectedAtThePlaceOfItsName) {
     AddFood({.id = 23509, .name = "a"});
     AddFood({.id = 23510, .name = "z"});
     Open();
@@ -589,7 +589,7 @@ TEST_F(frmFoodListTest, ANewNameKeepsTheKeyAndTheChoice) {
     ExpectMode(1);
 }
 
-TEST_F(frmFoodListTest, TwoFoodsMayBearOneName) {
+TEST_F(frmFoodListTest, TwoFoodsMayHaveTheSameName) {
     Open();
     SaveNew("Muesli");
     SaveNew("Muesli");
@@ -610,7 +610,7 @@ TEST_F(frmFoodListTest, SavingLeavesTheStockFoodsAlone) {
     EXPECT_EQ(before.size(), 2);
 }
 
-TEST_F(frmFoodListTest, ASaveThatFailsLeavesTheRowItHasAppendedToBeFilledInLater) {
+TEST_F(frmFoodListTest, AFailedSaveLeavesARowThatCanBeFilledInLater) {
     Open();
     FoodDB().Raw().exec("CREATE TRIGGER broken BEFORE UPDATE ON FOODS BEGIN SELECT "
                         "RAISE(ABORT, 'disk gone'); END");
@@ -664,7 +664,7 @@ TEST_F(frmFoodListTest, EachRefusedCharacterIsRefusedInTheServingTypedAndPasted)
     EXPECT_EQ(CustomCount(), 0);
 }
 
-TEST_F(frmFoodListTest, RefusedCharactersInAnAmountOnlyMakeItNoNumber) {
+TEST_F(frmFoodListTest, RefusedCharactersInAnAmountMakeItZero) {
     Open();
     SaveNew("Muesli");
     for (const char* text : {"^5", "~5", "\"5\""})
@@ -716,7 +716,7 @@ TEST_F(frmFoodListTest, BlanksAloneAreANameAndAServing) {
     EXPECT_EQ(Stored("Serv_Desc_A"), " ");
 }
 
-TEST_F(frmFoodListTest, TheFirstRefusalInTheirOrderIsTheOneShown) {
+TEST_F(frmFoodListTest, OnlyTheFirstRefusalIsShown) {
     Open();
     Press("cmdNewBut");
     Field("txtFoodName").setText("~");
@@ -742,9 +742,9 @@ TEST_F(frmFoodListTest, ARefusedEditLeavesTheStoredFoodAsItWas) {
     EXPECT_TRUE(On("cmdSave"));
 }
 
-// Odd texts
+// Unusual texts
 
-TEST_F(frmFoodListTest, ApostrophesAndSqlAreNamesServingsAndNoNumbersLikeAnyOther) {
+TEST_F(frmFoodListTest, ApostrophesAndSqlAreOrdinaryText) {
     Open();
     for (const QString& text : sql) {
         Press("cmdNewBut");
@@ -812,9 +812,9 @@ TEST_F(frmFoodListTest, TenThousandCharactersInEveryFieldAreSavedAndDeleted) {
     EXPECT_EQ(CustomCount(), 0);
 }
 
-// A store that fails, and a kill
+// Failures of the store, kills
 
-TEST_F(frmFoodListTest, ASaveIntoALockedStoreLosesNothingAndGoesThroughLater) {
+TEST_F(frmFoodListTest, ASaveIntoALockedStoreLosesNothingAndSucceedsLater) {
     Open();
     FoodDB().Raw().exec("PRAGMA busy_timeout = 0");
     Press("cmdNewBut");
@@ -849,7 +849,7 @@ TEST_F(frmFoodListTest, NothingIsChangedOrDeletedInAStoreThatCannotBeWritten) {
     EXPECT_EQ(Stored("FoodName"), "a");
 }
 
-TEST_F(frmFoodListTest, AKillWhileSavingANewFoodLeavesNoneOfItItsKeyOrAllOfIt) {
+TEST_F(frmFoodListTest, AKillWhileSavingANewFoodLeavesNothingOrItsKeyOrAllOfIt) {
     Open();
     Press("cmdNewBut");
     Type("txtZinc", "3");
@@ -864,7 +864,7 @@ TEST_F(frmFoodListTest, AKillWhileSavingANewFoodLeavesNoneOfItItsKeyOrAllOfIt) {
     });
 }
 
-TEST_F(frmFoodListTest, AKillWhileChangingOrDeletingAFoodLeavesAllOfItAsItWasOrNot) {
+TEST_F(frmFoodListTest, AKillWhileChangingOrDeletingAFoodLeavesTheOldOrTheNewState) {
     AddFood({.id = 23509, .name = "a"});
     Open();
     Type("txtFoodName", "b");
@@ -883,7 +883,7 @@ TEST_F(frmFoodListTest, AKillWhileChangingOrDeletingAFoodLeavesAllOfItAsItWasOrN
     });
 }
 
-// By keyboard, and in numbers
+// By keyboard, with many foods
 
 TEST_F(frmFoodListTest, AFoodIsMadeChangedAndDeletedByKeyboardAlone) {
     Open().setFocus(Qt::OtherFocusReason);
@@ -942,7 +942,7 @@ TEST_F(frmFoodListTest, DeletingAsksAndANegativeAnswerDeletesNothing) {
     ExpectMode(1);
 }
 
-TEST_F(frmFoodListTest, DeletingALineChoosesTheOneThatTakesItsPlace) {
+TEST_F(frmFoodListTest, DeletingAFoodSelectsTheOneThatFollows) {
     AddFoods(3, 23509, "food");
     Open();
     Choose(1);
@@ -954,7 +954,7 @@ TEST_F(frmFoodListTest, DeletingALineChoosesTheOneThatTakesItsPlace) {
     ExpectMode(1);
 }
 
-TEST_F(frmFoodListTest, DeletingTheBottomLineChoosesTheNewLastLine) {
+TEST_F(frmFoodListTest, DeletingTheLastLineSelectsTheNewLastLine) {
     AddFoods(3, 23509, "food");
     Open();
     Delete();
@@ -993,9 +993,9 @@ TEST_F(frmFoodListTest, DeletingDropsWhatWasTyped) {
     ExpectMode(1);
 }
 
-// Rollover
+// Highlighted buttons
 
-TEST_F(frmFoodListTest, OneButtonIsLitAtATime) {
+TEST_F(frmFoodListTest, OnlyOneButtonIsHighlighted) {
     AddFood({.id = 23509, .name = "a"});
     Open();
     Type("txtCals", "1");
@@ -1008,7 +1008,7 @@ TEST_F(frmFoodListTest, OneButtonIsLitAtATime) {
     }
 }
 
-TEST_F(frmFoodListTest, MovesOverPanelsListAndFormAndAResizeTakeTheLightAway) {
+TEST_F(frmFoodListTest, MovesElsewhereAndAResizeResetTheButtons) {
     AddFood({.id = 23509, .name = "a"});
     Open();
     const auto light = [this] {
@@ -1027,7 +1027,7 @@ TEST_F(frmFoodListTest, MovesOverPanelsListAndFormAndAResizeTakeTheLightAway) {
     EXPECT_EQ(Button("cmdDone").State(), 1);
 }
 
-TEST_F(frmFoodListTest, AChangeOfModeTakesTheLightAwayFromAllButDone) {
+TEST_F(frmFoodListTest, AChangeOfModeResetsAllButtonsButDone) {
     AddFood({.id = 23509, .name = "a"});
     Open();
     Hover(&Button("cmdNewBut"));
@@ -1038,7 +1038,7 @@ TEST_F(frmFoodListTest, AChangeOfModeTakesTheLightAwayFromAllButDone) {
     EXPECT_EQ(Button("cmdDone").State(), 2);
 }
 
-TEST_F(frmFoodListTest, TheTimerTakesTheLightAwayOutsideTheForm) {
+TEST_F(frmFoodListTest, AllOffResetsEveryButtonButTheNamedOne) {
     Open();
     Hover(&Button("cmdDone"));
     screen_->AllOff("CMDDONE");

@@ -81,7 +81,7 @@ TEST_F(FrmFoodSearchTest, TheFactsBelongToTheWindowOfTheScreenThatOwnsTheDialog)
               [&] { Click(examine); });
 }
 
-TEST_F(FrmFoodSearchTest, MessagesOfThePanelStandOverTheDialogWithoutCancel) {
+TEST_F(FrmFoodSearchTest, MessagesOfThePanelBelongToTheDialogAndHaveNoCancel) {
     frmFoodSearch dialog;
     dialog.show();
     QStringList messages;
@@ -145,7 +145,7 @@ TEST_F(FrmFoodSearchTest, MovingTheMouseOverFormOrPanelResetsDone) {
     EXPECT_EQ(done->property("State").toInt(), 1);
 }
 
-TEST_F(FrmFoodSearchTest, ReopenedItShowsTheOldTermAndMealWithoutResults) {
+TEST_F(FrmFoodSearchTest, AReopenedDialogShowsTheOldTermAndMealWithoutResults) {
     {
         frmFoodSearch dialog;
         dialog.show();
@@ -174,7 +174,7 @@ TEST_F(FrmFoodSearchTest, TheTermHasTheFocusWhenTheDialogOpens) {
         [&] { dialog.ShowModal(); });
 }
 
-TEST_F(FrmFoodSearchTest, BackFromBeingMinimisedTheFocusIsWhereItWas) {
+TEST_F(FrmFoodSearchTest, ARestoredWindowKeepsItsFocus) {
     frmFoodSearch dialog;
     dialog.show();
     QApplication::setActiveWindow(&dialog);

@@ -18,7 +18,7 @@ protected:
         AddUser();
     }
 
-    /// An item of 1 for each nutrient, but for those given.
+    /// A food with 1 of each nutrient, except the given ones.
     static ScaledFood Item(const QMap<QString, double>& amounts = {}, double quantity = 1,
                            const QString& name = "Oats", const QString& serving = "1 cup") {
         ScaledFood item;
@@ -157,7 +157,7 @@ TEST_F(FrmNutInfoTest, ATargetOfZeroHasNoPercentage) {
     }
 }
 
-TEST_F(FrmNutInfoTest, AMissingEntryLeavesThePanelUnshown) {
+TEST_F(FrmNutInfoTest, WithAMissingEntryThePanelIsNotShown) {
     frmNutInfo panel;
     panel.showFood(ScaledFood());
     EXPECT_FALSE(panel.isVisible());

@@ -62,7 +62,7 @@ TEST(UcFoodDefaultsTest, PropertiesAreSetByName) {
     EXPECT_EQ(row.ID(), "12");
 }
 
-TEST(UcFoodDefaultsTest, StockFoodsOwnFoodsAndRecipesHaveIconsOfTheirOwn) {
+TEST(UcFoodDefaultsTest, StockFoodsCustomFoodsAndRecipesHaveDifferentIcons) {
     ucFood row;
     row.SetID("23508");
     EXPECT_EQ(row.FoodIcon(), "food");
@@ -103,7 +103,7 @@ TEST_F(UcFoodTest, TextsStandInTheLabelsAndTheirTips) {
     EXPECT_EQ(Find(&row_, "aaFood")->toolTip(), "Rye");
 }
 
-TEST_F(UcFoodTest, AwkwardNamesStandWholeInTheLabelAndAreNeverReadAsMarkup) {
+TEST_F(UcFoodTest, UnusualNamesAreShownWholeAndNotAsMarkup) {
     QString nul = QStringLiteral("half");
     nul += QChar(QChar::Null);
     for (const QString& name :
@@ -202,7 +202,7 @@ TEST_F(UcFoodTest, AQuantityThatIsNoNumberCountsAsZero) {
     }
 }
 
-TEST_F(UcFoodTest, MovingOverTheRowTakesTheHoverLookOffItsButtons) {
+TEST_F(UcFoodTest, MovingOverTheRowResetsItsButtons) {
     QSignalSpy moved(&row_, &ucFood::MouseMove);
     QWidget* add = Find(&row_, "cmdEAT_a");
     Hover(add);
@@ -229,7 +229,7 @@ TEST_F(UcFoodTest, ABorderAndATransparentGroundShow) {
     EXPECT_NE(Grab(&row_).pixel(1, 1), qRgb(1, 2, 3));
 }
 
-TEST_F(UcFoodTest, ColumnsLineUpWhateverTheRowHolds) {
+TEST_F(UcFoodTest, ColumnsAreAlignedInAllRows) {
     ucFood other;
     other.resize(500, other.height());
     other.SetFoodName("A very long name that does not fit in the room that the row has for it");

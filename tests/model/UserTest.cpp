@@ -105,20 +105,20 @@ TEST(ReferenceStatement, LactationReplacesTheKey) {
     EXPECT_EQ(MotherKey(true, false, 999), "LACTATION_31_999");
 }
 
-TEST(ReferenceStatement, PregnancyGoesBeforeLactation) {
+TEST(ReferenceStatement, PregnancyOverridesLactation) {
     EXPECT_EQ(MotherKey(true, true, 18), "PREGNANCY_0_18");
     EXPECT_EQ(MotherKey(true, true, 25), "PREGNANCY_19_30");
     EXPECT_EQ(MotherKey(false, true, 40), "PREGNANCY_31_999");
 }
 
-TEST(ReferenceStatement, InAGapTheEarlierKeyStays) {
+TEST(ReferenceStatement, BetweenTwoBandsTheKeyOfTheLifeStageStays) {
     EXPECT_EQ(MotherKey(true, false, 18.5), "FEMALE");
     EXPECT_EQ(MotherKey(true, true, 30.5), "FEMALE");
     EXPECT_EQ(MotherKey(false, true, 1000), "FEMALE");
     EXPECT_EQ(MotherKey(true, false, 13.5), "LACTATION_0_18");
 }
 
-TEST(ReferenceStatement, MotherhoodDoesNotLookAtGender) {
+TEST(ReferenceStatement, PregnancyAndLactationIgnoreTheGender) {
     EXPECT_EQ(MotherKey(false, true, 25, 1), "PREGNANCY_19_30");
 }
 
@@ -176,7 +176,7 @@ TEST_F(UserTest, InfantRowsAreFoundByTheirKeyWithTheBlank) {
     EXPECT_EQ(user.RDIs[Nutrient::Calcium], 260);
 }
 
-TEST_F(UserTest, FractionsOfTheTableAreLostByWholeNumberMembers) {
+TEST_F(UserTest, WholeNumberMembersRoundTheValuesOfTheTable) {
     Users("UPDATE RDI SET Calcium = 1000.5, Iron = 8.5 WHERE Profile = 'MALE_31_50'");
     User user = Man();
     user.CreateDefaultRDIs();
@@ -224,7 +224,7 @@ TEST_F(UserTest, GainingWeightAddsFiveHundredAtAnyEnergy) {
 }
 
 namespace {
-/// A man whose energy comes to just that number before the weight goal.
+/// A man whose energy is exactly that number before the weight goal.
 User ManOf(qint32 calories) {
     for (qint32 weight = 60; weight < 400; ++weight)
         for (double age = 31; age <= 50; ++age)
@@ -241,7 +241,7 @@ User ManOf(qint32 calories) {
 }
 } // namespace
 
-TEST_F(UserTest, ReductionIsRefusedAt1500AndGivenAt1501) {
+TEST_F(UserTest, EnergyIsReducedFrom1501OnButNotAt1500) {
     User kept = ManOf(1500);
     kept.DesiredWeight = kept.CurrentWeight - 1;
     kept.CreateDefaultRDIs();
@@ -312,7 +312,7 @@ TEST_F(UserTest, AgesUpTo999HaveARow) {
     EXPECT_EQ(user.RDIs[Nutrient::VitaminB6], 1.5);
 }
 
-TEST_F(UserTest, AgesInAGapFailAndSayWhichAgesDoNot) {
+TEST_F(UserTest, AgesInAGapFailAndTheMessageSaysWhichAgesWork) {
     for (double age : {13.5, 18.2, 30.5, 50.5, 70.5, 1000.0}) {
         User user = Person(0, age, 65, 900, 900, 1);
         try {
@@ -333,7 +333,7 @@ TEST_F(UserTest, AnUnknownGenderIsReportedAndCountsAsNoBasalEnergy) {
     EXPECT_EQ(child.RDIs.Calories(), 500);
 }
 
-TEST_F(UserTest, TheUnknownGenderIsReportedOverNoWindowAndWithoutCancel) {
+TEST_F(UserTest, TheMessageForAnUnknownGenderHasNoOwnerAndNoCancel) {
     int reports = 0;
     TheSeams().ShowAlert = [&](const QString& message, QObject* owner, bool cancel) {
         ++reports;
@@ -508,7 +508,7 @@ TEST_F(UserTest, RecalculationLeavesAllOtherColumns) {
     EXPECT_EQ(Rows(UserDB(), others), before);
 }
 
-TEST_F(UserTest, RecalculationLeavesTotalFatBesideItsThirds) {
+TEST_F(UserTest, RecalculationDoesNotReplaceTotalFatByItsThirds) {
     User model = ManOf(2010);
     App().AppInfo.AUTOUPDATERDI = true;
     AddUser();
@@ -545,7 +545,7 @@ TEST_F(UserTest, RecalculationOverwritesTargetsSetByHand) {
     EXPECT_EQ(Target("protein"), 236);
 }
 
-TEST_F(UserTest, RecalculationEndsWithTheUserAsTheRowHoldsIt) {
+TEST_F(UserTest, RecalculationReloadsTheUserFromTheRow) {
     App().AppInfo.AUTOUPDATERDI = true;
     AddUser("Anna");
     Users("UPDATE profiles SET Iron = 9, age = 55");

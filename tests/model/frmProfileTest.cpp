@@ -56,7 +56,7 @@ protected:
         return form_;
     }
 
-    /// A form for one more user, filled in with a woman of 30.
+    /// A form for another new user, filled in for a woman of 30.
     frmProfile* Fresh() {
         form_ = new frmProfile;
         form_->CreateUser();
@@ -87,7 +87,7 @@ protected:
 
     int Profiles() { return Users("SELECT count(*) FROM profiles").toInt(); }
 
-    /// Presses Save and sees that the message comes and nothing is written.
+    /// Presses Save and expects the message. Nothing is written.
     void ExpectRefusal(frmProfile* form, const QString& message) {
         const auto before = Rows(UserDB(), "SELECT * FROM profiles");
         ExpectAlert(message);
@@ -155,7 +155,7 @@ TEST_F(ProfileTest, TestsRunInOrderFromAnEmptyForm) {
     EXPECT_EQ(Profiles(), 1);
 }
 
-TEST_F(ProfileTest, AlertsStandOverTheFormWithoutCancel) {
+TEST_F(ProfileTest, AlertsBelongToTheFormAndHaveNoCancel) {
     form_ = new frmProfile;
     form_->CreateUser();
     TheSeams().ShowAlert = [this](const QString& message, QObject* owner, bool cancel) {
@@ -180,7 +180,7 @@ TEST_F(ProfileTest, FeetAndInchesOfZeroGiveTheHeightMessage) {
     ExpectRefusal(form, "Please enter your Height.");
 }
 
-TEST_F(ProfileTest, InchesEndBelowTwelve) {
+TEST_F(ProfileTest, InchesMustBeBelowTwelve) {
     frmProfile* form = Fresh();
     for (const char* inches : {"12", "12.5", "99", "1e10"}) {
         Type(form, "txtInches", QLatin1String(inches));
@@ -188,7 +188,7 @@ TEST_F(ProfileTest, InchesEndBelowTwelve) {
     }
 }
 
-TEST_F(ProfileTest, NumbersThatAreNoneCountAsZero) {
+TEST_F(ProfileTest, TextThatIsNoNumberCountsAsZero) {
     const struct {
         const char* field;
         const char* message;
@@ -233,7 +233,7 @@ TEST_F(ProfileTest, NewProfileIsWrittenWithItsTargets) {
         EXPECT_EQ(Stored(info.profileColumn).toDouble(), expected.RDIs[info.id]) << info.property;
 }
 
-TEST_F(ProfileTest, OneMoreUserLeavesTheCurrentOneAlone) {
+TEST_F(ProfileTest, AnotherNewUserDoesNotChangeTheCurrentOne) {
     const qint32 anna = AddUser("Anna");
     frmProfile* form = Fresh();
     Click(Find(form, "cmdSave"));
@@ -313,7 +313,7 @@ TEST_F(ProfileTest, NumbersAreTakenFromTheBeginningOfTheText) {
     EXPECT_EQ(Stored("desired_weight").toInt(), 1);
 }
 
-TEST_F(ProfileTest, InchesAloneFailOnTheFeetAndWriteNothing) {
+TEST_F(ProfileTest, AHeightWithoutFeetFailsAndWritesNothing) {
     frmProfile* form = Fresh();
     Type(form, "txtInches", "11");
     for (const char* feet : {"", "five", "5ft", "5,5"}) {
@@ -378,19 +378,19 @@ TEST_F(ProfileTest, ATakenNameIsRefusedForANewUser) {
     ExpectRefusal(Fresh(), takenNew);
 }
 
-TEST_F(ProfileTest, ANameIsTakenWithoutRegardToCase) {
+TEST_F(ProfileTest, NamesAreComparedWithoutCase) {
     AddUser("BERTA");
     ExpectRefusal(Fresh(), takenNew);
 }
 
-TEST_F(ProfileTest, OtherTestsComeBeforeTheNames) {
+TEST_F(ProfileTest, OtherProblemsAreReportedBeforeATakenName) {
     AddUser("Berta");
     frmProfile* form = Fresh();
     Type(form, "txtAge", "");
     ExpectRefusal(form, "Please enter your Age.");
 }
 
-TEST_F(ProfileTest, TheNamesTestComesBeforeTheStrictFeet) {
+TEST_F(ProfileTest, ATakenNameIsReportedBeforeMissingFeet) {
     AddUser("Berta");
     frmProfile* form = Fresh();
     Type(form, "txtFeet", "");
@@ -623,7 +623,7 @@ TEST_F(ProfileTest, TargetsThatAreNoNumberBecomeZero) {
     }
 }
 
-TEST_F(ProfileTest, AStatementInAnyFieldIsANumberOrAFailureAndDoesNoHarm) {
+TEST_F(ProfileTest, AStatementInAnyFieldDoesNoHarm) {
     const QString statement = QStringLiteral("1'; DELETE FROM profiles; --");
     AddUser("Bert");
     const qint32 anna = AddUser("Anna");
@@ -793,7 +793,7 @@ TEST_F(ProfileTest, RadiosOfOneGroupTurnEachOtherOff) {
     EXPECT_TRUE(On(form, "opGender1"));
 }
 
-TEST_F(ProfileTest, RadiosAreWorkedFromTheKeyboard) {
+TEST_F(ProfileTest, RadiosWorkByKeyboard) {
     frmProfile* form = Fresh();
     QTest::keyClick(Find(form, "opAct2"), Qt::Key_Space);
     EXPECT_TRUE(On(form, "opAct2"));
@@ -819,13 +819,13 @@ TEST_F(ProfileTest, TabGoesThroughTheVisiblePageInReadingOrder) {
     EXPECT_EQ(QApplication::focusWidget()->objectName(), QStringLiteral("txtUserName"));
 }
 
-TEST_F(ProfileTest, SaveIsWorkedFromTheKeyboard) {
+TEST_F(ProfileTest, SaveWorksByKeyboard) {
     frmProfile* form = Fresh();
     QTest::keyClick(Find(form, "cmdSave"), Qt::Key_Space);
     EXPECT_EQ(Profiles(), 1);
 }
 
-TEST_F(ProfileTest, TheButtonUnderThePointerAloneIsLit) {
+TEST_F(ProfileTest, OnlyTheButtonUnderThePointerIsHighlighted) {
     frmProfile* form = Edit(AddUser("Anna"));
     auto* save = Find<ucButton>(form, "cmdSave");
     auto* cancel = Find<ucButton>(form, "cmdCancel");
@@ -865,7 +865,7 @@ TEST_F(ProfileTest, AnEdgeIsDrawnOnlyAroundAWindowOfItsOwn) {
 
 // Dragging
 
-TEST_F(ProfileTest, TheTopBandMovesTheForm) {
+TEST_F(ProfileTest, DraggingTheTopMovesTheForm) {
     frmProfile* form = Edit(AddUser("Anna"));
     form->move(50, 60);
     Drag(form, QPoint(300, 5), QPoint(40, -20));
@@ -874,7 +874,7 @@ TEST_F(ProfileTest, TheTopBandMovesTheForm) {
     EXPECT_EQ(form->pos(), QPoint(50, 60));
 }
 
-TEST_F(ProfileTest, InTheNestTheTopBandMovesNothing) {
+TEST_F(ProfileTest, AScreenInTheNestCannotBeDragged) {
     frmProfile* form = Edit(AddUser("Anna"));
     QWidget nest;
     nest.resize(900, 700);
@@ -886,14 +886,14 @@ TEST_F(ProfileTest, InTheNestTheTopBandMovesNothing) {
     form->setParent(nullptr);
 }
 
-TEST_F(ProfileTest, BelowTheTopBandNothingMoves) {
+TEST_F(ProfileTest, DraggingBelowTheTopMovesNothing) {
     frmProfile* form = Edit(AddUser("Anna"));
     form->move(50, 60);
     Drag(form, QPoint(300, Twips::ToPixels(255)), QPoint(40, 40));
     EXPECT_EQ(form->pos(), QPoint(50, 60));
 }
 
-TEST_F(ProfileTest, TheFormStaysWhereItWasLeft) {
+TEST_F(ProfileTest, AfterADragTheFormStays) {
     frmProfile* form = Edit(AddUser("Anna"));
     form->move(50, 60);
     Drag(form, QPoint(300, 5), QPoint(10, 10));
@@ -947,7 +947,7 @@ TEST_F(ProfileTest, TheFirstUserBecomesTheCurrentOneAndSeesTheProgram) {
     EXPECT_TRUE(endings.isEmpty());
 }
 
-TEST_F(ProfileTest, TheFirstUserIsRefusedLikeAnyOther) {
+TEST_F(ProfileTest, TheRulesHoldForTheFirstUserToo) {
     ExpectAlert("Please enter a User Name.");
     ExpectAlert(quitQuestion, true);
     WithModal(

@@ -20,15 +20,15 @@ public:
     explicit CustomFoodFields(QWidget* parent = nullptr);
 
     void Clear();
-    void SetNew(); ///< words to be replaced for name and serving, no amounts
+    void SetNew(); ///< placeholders for name and serving, no amounts
     void Show(const CustomFood& food);
     CustomFood Entered() const;
     void FieldLock(bool on); ///< usable or not
-    void ChooseName();       ///< the name is ready to be typed over
+    void ChooseName();       ///< selects the name, so that typing replaces it
     void FocusOn(const CustomFoodProblem& problem);
 
 Q_SIGNALS:
-    void Changed(); ///< the text of any field, whoever changed it
+    void Changed(); ///< the text of a field has changed, typed or not
 
 protected:
     void paintEvent(QPaintEvent*) override;
@@ -44,6 +44,6 @@ private:
     QLineEdit* txtServing_ = nullptr;
     QLabel* lblHint_ = nullptr;
     AmountFields amounts_;
-    QList<QLabel*> captions_;  ///< each beside the field of the same place
+    QList<QLabel*> captions_;  ///< in the order of fields_
     QList<QLineEdit*> fields_; ///< all, in reading order
 };

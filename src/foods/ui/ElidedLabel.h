@@ -5,8 +5,8 @@
 #include <QLabel>
 #include <QList>
 
-/// One line of smoothed text in a place of its own: printed in the first of its fonts in which it
-/// fits, cut with an ellipsis where it fits in none. A text that is cut stands in the tip.
+/// One line of smoothed text. It is printed in the first of its fonts in which it fits. Where it
+/// fits in none it is cut with an ellipsis, and the tip shows it whole.
 class ElidedLabel : public QLabel {
     Q_OBJECT
     Q_PROPERTY(QString Caption READ text WRITE SetCaption)

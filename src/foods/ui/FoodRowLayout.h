@@ -4,8 +4,8 @@
 
 #include <array>
 
-/// Where the parts of a result row stand, in pixels of the row. The columns are counted from the
-/// right edge, so that they line up from row to row.
+/// The places of the parts of a result row, in pixels. The columns are measured from the right
+/// edge, so that they are aligned in all rows.
 struct FoodRowLayout {
     struct Line {
         QRect lblServ, txtQTY, cmdEAT, imgInfo_W;

@@ -11,7 +11,7 @@
 namespace {
 // In twips.
 constexpr int belowLastRow = 120;
-constexpr int barAbove = 15; ///< by which the bar reaches into the line around the frame
+constexpr int barAbove = 15; ///< the bar covers this much of the line around the frame
 } // namespace
 
 ResultRows::ResultRows(QWidget* parent)
@@ -22,7 +22,7 @@ ResultRows::ResultRows(QWidget* parent)
     connect(this, &ScrollPane::Scrolled, this, &ResultRows::MaterialiseShown);
 }
 
-/// It stands above the pane, so that the first row, placed under it, starts at the top.
+/// The template is placed above the pane: the first row, placed below it, starts at the top.
 void ResultRows::BuildTemplate() {
     auto* row = new ucFood(picResultsPane());
     row->setObjectName(QStringLiteral("ucFood0"));
@@ -58,7 +58,7 @@ void ResultRows::Unload() {
         delete rows_.takeLast();
 }
 
-/// The height of a row is known once ServB is set; the row below stands right under it.
+/// SetServB decides the height of the row, and so the place of the next one.
 void ResultRows::LoadRow(int index, const Food& food, bool recipeMode) {
     const ucFood* above = rows_.last();
     auto* row = new ucFood(picResultsPane());
@@ -108,7 +108,7 @@ void ResultRows::PlaceBar() {
     vsResultsPane()->setGeometry(place);
 }
 
-/// A list that fits has the bar's room as well.
+/// Without a scroll bar the rows take its width, too.
 void ResultRows::FitWidths() {
     const bool barShown = vsResultsPane()->isVisibleTo(this);
     const int width = barShown ? PaneWidth() : picResultsBox()->width();

@@ -8,15 +8,17 @@
 class QLabel;
 class ucFood;
 
-/// The scrolling column of rows below the search fields: ucFood1 and up, loaded anew for each
-/// search, under the hidden template ucFood0. A row makes its controls by the time it is seen.
+/// The scrolling column of rows below the search fields. Each search makes new rows ucFood1,
+/// ucFood2 and so on; ucFood0 is a hidden template. A row makes its controls when it comes into
+/// view.
 class ResultRows : public ScrollPane {
     Q_OBJECT
 
 public:
     explicit ResultRows(QWidget* parent);
 
-    /// One row for each of the first `count` entries; `progress` is told the part that stands.
+    /// Makes a row for each of the first `count` entries. `progress` gets the fraction that is
+    /// done.
     void Load(const FoodList& foods, int count, bool recipeMode,
               const std::function<void(double)>& progress);
     int Count() const { return int(rows_.size()) - 1; }
@@ -44,5 +46,5 @@ private:
 
     QList<ucFood*> rows_; ///< row 0 is the template
     QLabel* noMatch_ = nullptr;
-    QWidget* predecessor_ = nullptr; ///< what stands before the first row in the tab order
+    QWidget* predecessor_ = nullptr; ///< comes before the first row in the tab order
 };

@@ -46,7 +46,7 @@ void SearchDialog::Choose(const QString& Meal, const ScaledFood& Item) {
     Q_EMIT FoodChosen(Meal, Item);
 }
 
-/// The facts belong to the window behind this dialog, which is the home screen's.
+/// The owner of the facts is the window of the screen behind this dialog.
 void SearchDialog::Examine(const ScaledFood& item) {
     frmNutInfo facts(parentWidget() ? parentWidget()->window() : nullptr);
     facts.showFood(item);

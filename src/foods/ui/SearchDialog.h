@@ -6,9 +6,9 @@
 class ucButton;
 class ucSearchResults;
 
-/// What the modal dialogs around a search panel share: title, panel, Done, and the facts of a food
-/// that is examined. They stay open while one food after the other is chosen; who opens one hears
-/// of each by FoodChosen.
+/// The base of the modal dialogs that search for foods: title, search panel, Done, and the
+/// nutrition facts of an examined food. The dialog stays open while a person chooses several foods.
+/// It emits FoodChosen for each.
 class SearchDialog : public Dialog {
     Q_OBJECT
 
@@ -23,7 +23,7 @@ Q_SIGNALS:
 
 protected:
     virtual void Choose(const QString& Meal, const ScaledFood& Item);
-    QRect BesideDone() const; ///< the room left of the button, along the lower edge
+    QRect BesideDone() const; ///< the free space to the left of the button
 
 private:
     void BuildPanel(const QString& name);

@@ -11,7 +11,7 @@ constexpr int frameMilliseconds = 16;
 constexpr QSize barSize(280, 12);
 constexpr QSize panelSize(320, 64);
 
-/// The trough; its fill is the part of the picture that the fraction gives.
+/// The empty bar, filled from the left with as much of the picture as the fraction says.
 class Bar : public QWidget {
 public:
     Bar(SearchProgress* panel, const QLabel* fill)

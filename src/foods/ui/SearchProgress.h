@@ -5,8 +5,8 @@
 
 class QLabel;
 
-/// The panel `picStatus`: "Search Progress" over the bar `picHome`, shown while a search runs.
-/// A search blocks the interface, so the bar is painted at once, as often as an eye could follow.
+/// The panel `picStatus` with the progress bar `picHome`, shown while a search runs. A search
+/// blocks the interface, so the panel paints the bar itself, at most once per frame of the display.
 class SearchProgress : public QWidget {
     Q_OBJECT
     Q_PROPERTY(double Fraction READ Fraction WRITE SetFraction)
@@ -17,7 +17,7 @@ public:
     void Begin(); ///< empties the bar, shows the panel and paints it
     void SetFraction(double fraction);
     double Fraction() const { return fraction_; }
-    int FilledPixels() const; ///< of the bar's width
+    int FilledPixels() const; ///< how much of the bar is filled
 
 protected:
     void paintEvent(QPaintEvent*) override;
@@ -25,7 +25,7 @@ protected:
 private:
     QLabel* caption_;
     QWidget* picHome_;
-    QLabel* picSlide_; ///< hidden: holds the picture that fills the bar
+    QLabel* picSlide_; ///< hidden; holds the picture that fills the bar
     QElapsedTimer painted_;
     double fraction_ = 0;
 };

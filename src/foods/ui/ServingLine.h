@@ -9,8 +9,8 @@ class QLineEdit;
 class QWidget;
 class ucButtonA;
 
-/// The controls of one serving of a result row: its text, which adds on a click, the quantity, the
-/// add and the examine button. The row owns them.
+/// The controls for one serving in a result row: text, quantity, add button, examine button. A
+/// click on the text adds, too. The row owns the controls.
 class ServingLine : public QObject {
     Q_OBJECT
 
@@ -23,7 +23,7 @@ public:
     void SetVisible(bool visible);
     void SetTexts(const QString& food, const QString& serving);
     void SetFont(const QFont& font);
-    double Quantity() const; ///< 0 where the box holds no number
+    double Quantity() const; ///< 0 if the box holds no number
     void ResetButtons(const QObject* except);
     QList<QWidget*> Controls() const; ///< in tab order
 

@@ -5,7 +5,7 @@
 
 #include <algorithm>
 
-/// What the settings keep of a term, and few enough words for one statement.
+/// The settings keep no more than this. It also limits the number of words in a statement.
 static constexpr int longestTerm = 255;
 
 TermField::TermField(QWidget* parent)
@@ -24,7 +24,7 @@ void TermField::keyPressEvent(QKeyEvent* event) {
         LineField::keyPressEvent(event);
 }
 
-/// Dead keys and the like: what they compose is typed text too.
+/// Text composed with dead keys or an input method is typed text, too.
 void TermField::inputMethodEvent(QInputMethodEvent* event) {
     QString typed = event->commitString();
     typed.removeIf(IsRefused);

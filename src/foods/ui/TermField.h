@@ -2,9 +2,8 @@
 
 #include "toolkit/LineField.h"
 
-/// The field of the search term. Typed double quotes, asterisks and apostrophes are swallowed,
-/// since the term goes into the statement as it stands; pasted ones are not. Enter starts the
-/// search.
+/// The field for the search term. It ignores typed double quotes, asterisks and apostrophes, as the
+/// term goes into the statement unchanged. Pasted text is not filtered. Enter starts the search.
 class TermField : public LineField {
     Q_OBJECT
 

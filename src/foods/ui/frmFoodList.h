@@ -7,24 +7,24 @@ class ListBox;
 class ucBox;
 class ucButton;
 
-/// Where a person keeps foods of their own: the list on the left, the chosen or the new food on the
-/// right. A stored food is edited by typing into it.
+/// The screen of custom foods: the list on the left, the fields of the selected or the new food on
+/// the right. Typing into a field edits the food.
 class frmFoodList : public Screen {
     Q_OBJECT
-    Q_PROPERTY(int Mode READ Mode)           ///< what UIMode has set
-    Q_PROPERTY(bool Editing READ Editing)    ///< a stored food is on display, as against a new one
-    Q_PROPERTY(int CurrentID READ CurrentID) ///< the key of the food shown last
+    Q_PROPERTY(int Mode READ Mode)           ///< the last value given to UIMode
+    Q_PROPERTY(bool Editing READ Editing)    ///< true: a stored food is shown; false: a new one
+    Q_PROPERTY(int CurrentID READ CurrentID) ///< the key of the stored food that was shown last
 
 public:
     explicit frmFoodList(QWidget* parent = nullptr);
 
-    void ListFoods(); ///< refills the list and restores the choice
-    void NewFood();   ///< empties the form for a food that is not stored yet
+    void ListFoods(); ///< refills the list and restores the selection
+    void NewFood();   ///< prepares the fields for a food that is not stored yet
     void clearFields();
-    void FieldLock(bool on);  ///< all fields usable, or not
-    void UIMode(qint32 mode); ///< 0 nothing chosen, 1 a stored food is shown, 2 a new one is typed
-    void doChange();          ///< a field has changed: it can be saved or taken back
-    void SaveFood(qint32 id); ///< writes the form to the row of that key, which must exist
+    void FieldLock(bool on);  ///< enables (true) or disables all fields
+    void UIMode(qint32 mode); ///< 0: none selected, 1: a stored food, 2: a new food
+    void doChange();          ///< a field has changed: enables Save and Cancel
+    void SaveFood(qint32 id); ///< writes the fields to the row of that key
     void LoadFood(qint32 id);
 
     int Mode() const { return mode_; }

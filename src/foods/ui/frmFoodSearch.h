@@ -2,7 +2,7 @@
 
 #include "foods/ui/SearchDialog.h"
 
-/// The modal dialog through which the day screen, which owns it, logs food.
+/// The modal dialog in which a person finds foods to log. The day screen owns it.
 class frmFoodSearch : public SearchDialog {
     Q_OBJECT
 

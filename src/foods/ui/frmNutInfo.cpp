@@ -55,7 +55,7 @@ constexpr Headline headlines[] = {
     {Nutrient::Protein, "lblPerProtein"},
 };
 
-/// Down the left column, which has room for the long captions, then down the right one.
+/// Fills the left column first: it has room for the long captions.
 constexpr int othersRows = 12;
 constexpr Nutrient others[] = {
     Nutrient::MonoFat,   Nutrient::PolyFat,    Nutrient::Ash,       Nutrient::Calcium,
@@ -75,14 +75,14 @@ int Right() {
     return Twips::ToPixels(lineRight);
 }
 
-/// The place of a row, from one edge to the other, above its line.
+/// The rectangle above the line of that row.
 QRect RowPlace(int firstLine, int row, int left, int right) {
     const int top = Twips::ToPixels(firstLine + (row - 1) * rowStep) + 1;
     const int bottom = Twips::ToPixels(firstLine + row * rowStep);
     return {left, top, right - left, bottom - top};
 }
 
-/// Of a target of 0 there is no percentage.
+/// Without a target there is no percentage.
 QString Percentage(double amount, double target) {
     return target == 0 ? QStringLiteral("--") : Format(amount / target, NumberMask::Percent);
 }
@@ -168,7 +168,7 @@ QLabel* frmNutInfo::AddCaption(const QRect& place, const QString& name, const QS
     return caption;
 }
 
-/// To assistive tools a figure is its text, described by the caption beside it.
+/// Assistive tools read the figure, then the caption as its description.
 QLabel* frmNutInfo::AddFigure(const QRect& place, const QString& name, const QString& caption) {
     QLabel* figure = MakeLabel(this, name, {}, TextRole::Strong);
     figure->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
@@ -215,7 +215,7 @@ void frmNutInfo::FillPercents(const ScaledFood& item) {
     }
 }
 
-/// A food's calories are rounded, so that those of its fat can come out above them.
+/// The calories of a food are rounded, so those of its fat can be slightly higher.
 void frmNutInfo::CapFatCalories() {
     const QString calories = amounts_[size_t(Nutrient::Calories)]->text();
     if (WholeNumber(lblFatCals_->text()) > WholeNumber(calories))

@@ -8,16 +8,15 @@
 class ElidedLabel;
 class ucButton;
 
-/// The nutrition facts of one serving line at the quantity typed, as on a package: seven headline
-/// amounts against the current user's targets, then the others. It only shows: the amounts arrive
-/// scaled.
+/// The nutrition facts of a chosen food, laid out like the label on a package: first seven amounts
+/// with their share of the current user's targets, then the others. The amounts are scaled already.
 class frmNutInfo : public Dialog {
     Q_OBJECT
 
 public:
     explicit frmNutInfo(QWidget* owner = nullptr);
 
-    /// Fills the labels and shows the panel modally. Where filling fails the panel is not shown.
+    /// Fills the labels and shows the panel modally. If an entry is missing, it shows nothing.
     void showFood(const ScaledFood& item);
 
 protected:

@@ -138,7 +138,7 @@ void ucFood::BuildLine(int line) {
         control->installEventFilter(this);
 }
 
-/// The controls take the row's own place in the chain, and the row leaves it.
+/// The controls replace the row in the tab order.
 void ucFood::JoinTabOrder() {
     QWidget* last = this;
     for (const ServingLine* line : lines_)
@@ -219,7 +219,7 @@ void ucFood::mouseMoveEvent(QMouseEvent* event) {
     RaiseMouseMove(event);
 }
 
-/// The pane below hears of the press as well.
+/// The pane below gets the press, too.
 void ucFood::mousePressEvent(QMouseEvent* event) {
     BeginClick(event);
     event->ignore();

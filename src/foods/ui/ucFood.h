@@ -7,10 +7,10 @@ class ElidedLabel;
 class QLabel;
 class ServingLine;
 
-/// One row of a search result: a food's name and up to two servings, each with a quantity, an add
-/// and an examine button. A search makes hundreds of rows and few are ever looked at: a row is one
-/// painted widget until it comes into view or the focus reaches it, and makes its controls then.
-/// The height is set when ServB is: an empty one cuts the row at the top of txtQTY_B.
+/// One row of a search result: the name of a food and up to two servings, each with a quantity, an
+/// add button and an examine button. A search makes hundreds of rows, and most are never seen. So a
+/// row makes its controls only when it comes into view or gets the focus; until then it paints its
+/// texts. SetServB decides the height: without serving B the row ends at the top of txtQTY_B.
 class ucFood : public ListRow {
     Q_OBJECT
     Q_PROPERTY(QString FoodName READ FoodName WRITE SetFoodName)
@@ -34,17 +34,17 @@ public:
     void SetServB(const QString& serving);
     void SetID(const QString& id);
     void SetIsRecipe(bool recipe);
-    void SetRecipeMode(bool on); ///< stored and handed around, without effect on the row
+    void SetRecipeMode(bool on); ///< has no effect on the row
 
     FoodRowLayout layoutRects() const { return FoodRowLayout::Of(width()); }
-    void Materialise(); ///< makes the controls where they are not there yet
+    void Materialise(); ///< makes the controls if they are missing
     bool Materialised() const { return lines_[0]; }
-    void Refresh() override; ///< texts, fonts and places of the controls, then a repaint
+    void Refresh() override; ///< updates the controls and repaints
 
 Q_SIGNALS:
     void EatFood(qint32 ID, const QString& Serv, double QTY, bool isRecipe);
     void ExamineFood(qint32 ID, const QString& Serv, double QTY, bool isRecipe);
-    void Reached(); ///< the focus came into the row from the keyboard
+    void Reached(); ///< the keyboard has moved the focus into the row
     void DblClick();
 
 protected:
@@ -59,7 +59,7 @@ protected:
     void mouseDoubleClickEvent(QMouseEvent*) override;
 
 private:
-    void ShowSource(); ///< the icon of stock foods, of one's own or of recipes
+    void ShowSource(); ///< sets the icon: stock food, custom food or recipe
     using Handler = void (ucFood::*)(qint32, const QString&, double, bool);
 
     QFont NameFont() const;

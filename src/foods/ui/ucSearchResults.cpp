@@ -227,8 +227,7 @@ void ucSearchResults::resizeEvent(QResizeEvent*) {
     picStatus_->move(rows_->geometry().center() - picStatus_->rect().center());
 }
 
-/// The term waits, ready to be searched for or typed over. Back from being minimised, the panel is
-/// as it was left.
+/// Selects the old term, so that typing replaces it. A restored window keeps its focus.
 void ucSearchResults::showEvent(QShowEvent* event) {
     DrawnControl::showEvent(event);
     if (event->spontaneous())
@@ -243,7 +242,7 @@ void ucSearchResults::paintEvent(QPaintEvent*) {
     painter.drawRect(rows_->geometry().adjusted(-1, -1, 0, 0));
 }
 
-/// A refused quantity leaves the pointer busy: the next routine that sets it ends that.
+/// After a refused quantity the pointer stays busy until another routine sets it.
 void ucSearchResults::LogChosenFood(int, qint32 ID, const QString& Serv, double QTY,
                                     bool isRecipe) {
     MousePointer::SetBusy();

@@ -11,9 +11,9 @@ class TermField;
 class ucButton;
 class ucRadio;
 
-/// The search panel: term, meal and sources above, one row a food below. What was ticked and typed
-/// last outlives it in the settings. It writes nothing to the store: the host decides what becomes
-/// of a chosen food.
+/// The search panel: term, meal and sources at the top, a row for each food below. The settings
+/// keep what was ticked and typed. The panel writes nothing to the store: its host decides what
+/// happens to a chosen food.
 class ucSearchResults : public DrawnControl {
     Q_OBJECT
     Q_PROPERTY(bool RecipeMode READ RecipeMode WRITE SetRecipeMode)
@@ -24,7 +24,7 @@ public:
     ~ucSearchResults() override;
 
     bool RecipeMode() const { return recipeMode_; }
-    void SetRecipeMode(bool on); ///< an ingredient has no meal: hides all options but the first
+    void SetRecipeMode(bool on); ///< hides all meals but the first: an ingredient has none
     int meal() const { return meal_; }
     void SetMeal(int meal); ///< 0 Breakfast to 3 Snacks; ticks the option
     void SearchFoodsDB();
@@ -47,11 +47,11 @@ private:
     void BuildMeals();
     void BuildSources();
     void BuildResults();
-    void Watch(QWidget* control); ///< its mouse moves count as the panel's own
+    void Watch(QWidget* control); ///< handles its mouse moves like those of the panel
     void RestoreState();
     void StoreState() const;
 
-    int TickedMeal() const; ///< the first that is ticked, or -1
+    int TickedMeal() const; ///< the first ticked meal, or -1
     void TickMeal(int meal);
 
     void LogChosenFood(int Index, qint32 ID, const QString& Serv, double QTY, bool isRecipe);

@@ -18,7 +18,7 @@ constexpr int numberWidth = 56;
 constexpr int captionWidth = 100;
 constexpr int rowGap = 22;
 constexpr int margin = 16;
-constexpr int lastColumn = 5; // takes the room that is left over
+constexpr int lastColumn = 5; // takes the space that is left
 
 struct Choice {
     const char* caption;
@@ -36,14 +36,13 @@ QString Text(const char* text) {
     return QString::fromUtf8(text);
 }
 
-/// A box that takes the width its column gives it, so that columns stand equally wide.
+/// A box that ignores its own width, so that the columns of the page are equally wide.
 ucBox* MakeBox(QWidget* parent, const char* caption) {
     auto* box = new ucBox(Text(caption), parent);
     box->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     return box;
 }
 
-/// Room for the contents of a box, below its header.
 template <class Layout> Layout* LayOut(ucBox* box) {
     auto* layout = new Layout(box);
     layout->setContentsMargins(margin, TheStyle().headerHeight + margin, margin, margin);
@@ -65,7 +64,7 @@ QLineEdit* MakeNumber(QWidget* parent, const char* name, const char* spoken, con
     return field;
 }
 
-/// One line of the page: a caption, a field, what it counts.
+/// Adds a field with its unit behind it.
 QLineEdit* AddNumber(QGridLayout* grid, QPoint place, const char* name, const char* spoken,
                      const char* tip, const char* unit) {
     QWidget* box = grid->parentWidget();
@@ -84,7 +83,6 @@ void AddCaptions(QGridLayout* grid) {
     }
 }
 
-/// What the figures are for, at the foot of the box.
 void AddNote(QGridLayout* grid) {
     QLabel* note = MakeLabel(
         grid->parentWidget(), QStringLiteral("lblNote"),
@@ -98,7 +96,6 @@ void AddNote(QGridLayout* grid) {
     grid->addWidget(note, foot, 0, 1, lastColumn + 1, Qt::AlignBottom);
 }
 
-/// A click on one of the radios clears the others.
 void Group(std::span<ucRadio* const> radios) {
     for (ucRadio* chosen : radios)
         QObject::connect(chosen, &ucRadio::Click, chosen, [radios, chosen] {
@@ -129,7 +126,7 @@ void AddRadios(ucBox* box, const QString& stem, std::span<const Choice> choices,
     Group(radios);
 }
 
-/// A number that is no radio's selects none.
+/// Any other number selects none.
 void Select(std::span<ucRadio* const> radios, qint32 chosen) {
     for (size_t i = 0; i < radios.size(); ++i)
         radios[i]->SetValue(qint32(i) == chosen);

@@ -9,8 +9,8 @@
 class QLineEdit;
 class ucRadio;
 
-/// The basic page of the profile screen: who the person is. As `picCover` it lies over the page of
-/// targets.
+/// The basic page of the profile screen: who the person is. Its name is `picCover`, as it covers
+/// the page of targets.
 class ProfileBasics : public QWidget {
     Q_OBJECT
 

@@ -8,7 +8,7 @@
 
 class QLineEdit;
 
-/// The Advanced page of the profile screen: the 31 daily targets, a field each, in three groups.
+/// The Advanced page of the profile screen: a field for each daily target, in three groups.
 class ProfileTargets : public QWidget {
     Q_OBJECT
 

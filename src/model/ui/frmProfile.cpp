@@ -83,8 +83,7 @@ void frmProfile::CreateFirstUser() {
     delete form.data();
 }
 
-/// The loop ends with the form: a press that it still took would be lost for the window that comes
-/// next.
+/// The loop must end with the form. Otherwise it takes a press meant for the next window.
 void frmProfile::ShowModally() {
     setWindowFlags(Qt::Dialog | Qt::FramelessWindowHint);
     setWindowModality(Qt::ApplicationModal);
@@ -103,7 +102,7 @@ void frmProfile::CreateUser() {
     newUser_ = true;
 }
 
-/// A weight that is being typed belongs to what the form shows.
+/// A weight that is still being typed on the day screen is saved first, so that the form shows it.
 void frmProfile::EditUser(qint32 uid) {
     auto* form = qobject_cast<frmProfile*>(LoadScreen(Screens::Profile.name));
     if (!form)
@@ -132,7 +131,7 @@ void frmProfile::cmdAdvanced_Click() {
     Cover(tag_ != u"0");
 }
 
-/// The page that cannot be seen cannot be reached with the keyboard either.
+/// The hidden page cannot be reached with the keyboard.
 void frmProfile::Cover(bool covered) {
     tag_ = covered ? QStringLiteral("0") : QStringLiteral("1");
     basics_->setVisible(covered);
@@ -205,7 +204,7 @@ void frmProfile::SaveChanges() {
     RecalcTargets();
 }
 
-/// Where it is a window of its own, an edge sets it off from what lies below.
+/// A window of its own has an edge.
 void frmProfile::paintEvent(QPaintEvent* event) {
     Screen::paintEvent(event);
     if (!isWindow())
@@ -215,7 +214,7 @@ void frmProfile::paintEvent(QPaintEvent* event) {
     painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 
-/// The first user cannot do without a profile: closing the window asks like Cancel.
+/// Without a profile the program cannot go on: closing the window asks the question of Cancel.
 void frmProfile::closeEvent(QCloseEvent* event) {
     event->setAccepted(leaving_ || !firstUser_);
     if (event->isAccepted())
@@ -230,7 +229,7 @@ void frmProfile::keyPressEvent(QKeyEvent* event) {
     Screen::keyPressEvent(event);
 }
 
-/// In the nest it stays where it is.
+/// Only a window of its own can be dragged.
 void frmProfile::mousePressEvent(QMouseEvent* event) {
     const bool inBand = event->position().y() < Twips::ToPixels(dragBand);
     dragging_ = isWindow() && event->button() == Qt::LeftButton && inBand;

@@ -10,20 +10,20 @@ struct Profile;
 class ucButton;
 class ucTitleFlat;
 
-/// Where a person's profile is created and edited: the first user modally, one more user, or an
-/// edit in the nest. The page of targets lies under `picCover`, which holds the basic page.
+/// The screen on which a profile is created or edited. The first user sees it as a modal window;
+/// later it is a screen in the nest. The basic page, `picCover`, covers the page of targets.
 class frmProfile : public Screen {
     Q_OBJECT
-    Q_PROPERTY(QString Tag READ Tag) ///< "0" while `picCover` covers the targets, else "1"
+    Q_PROPERTY(QString Tag READ Tag) ///< "0" while `picCover` is shown, else "1"
 
 public:
     explicit frmProfile(QWidget* parent = nullptr);
 
-    static void CreateFirstUser(); ///< modal, centred; ends by saving or by ending the process
+    static void CreateFirstUser(); ///< returns when the profile is saved or the process ends
     void CreateUser();
-    static void EditUser(qint32 uid); ///< fills the form and brings it forward by ShowScreen
+    static void EditUser(qint32 uid); ///< fills the form and shows it
 
-    bool SaveNewUser(); ///< True if the profile was saved
+    bool SaveNewUser(); ///< whether the profile was saved
     void SaveChanges();
 
     QString Tag() const { return tag_; }
@@ -51,7 +51,7 @@ private:
     void cmdCancel_Click();
     void Cover(bool covered);
     Profile Entered() const;
-    bool Accept(const QString& problem); ///< shows a problem; an empty one is none
+    bool Accept(const QString& problem); ///< shows the problem, if there is one
     void Leave();
 
     ucTitleFlat* title_;
@@ -63,8 +63,8 @@ private:
     QString tag_;
     bool newUser_ = false;
     bool firstUser_ = false;
-    bool leaving_ = false; ///< saved, or the process is ending: the form may close
+    bool leaving_ = false; ///< the form may close
     qint32 uid_ = -1;
-    QPoint grip_; ///< where the form is held while it is dragged
+    QPoint grip_; ///< the place in the form where the pointer holds it
     bool dragging_ = false;
 };
