@@ -5,7 +5,7 @@
 #include "foods/ScaledFood.h"
 #include "foods/SearchTerms.h"
 #include "intake/DayLog.h"
-#include "model/User.h"
+#include "model/Profiles.h"
 #include "recipes/RecipeBook.h"
 #include "runtime/AppState.h"
 #include "runtime/Round.h"
@@ -46,13 +46,17 @@ protected:
     }
     /// A man of 40 years and 70 inches who weighs 200 pounds and wants to weigh 170.
     static void AddPerson() {
-        SQLite::Database& users = UserDB().Raw();
-        users.exec("INSERT INTO profiles (UserName, gender, age, height, current_weight, "
-                   "desired_weight, activity_level, flagsodium, flagcholesterol, sodiumMAX, "
-                   "cholesterolMAX) VALUES ('Ben', 1, 40, 70, 200, 170, 2, 0, 0, 0, 0)");
-        User& user = User::Current();
-        user.UID = static_cast<qint32>(users.getLastInsertRowid());
-        user.GetUserProfile(user.UID);
+        Profile ben{.userName = "Ben",
+                    .age = 40,
+                    .feet = "5",
+                    .inches = 10,
+                    .currentWeight = 200,
+                    .desiredWeight = 170,
+                    .gender = 1,
+                    .activityLevel = 2,
+                    .targets = {}};
+        ASSERT_EQ(Profiles::ProblemWithNew(ben), "");
+        User::Current() = Profiles::Append(ben);
     }
     static qint32 MakeSoup() {
         const qint32 soup = RecipeBook::AddRecipe();
@@ -127,15 +131,14 @@ TEST_F(KnowledgeTest, AnEmptyTextOfARecipeIsNotNullAndAMissingOneIs) {
 }
 
 TEST_F(KnowledgeTest, TargetsAreDerivedFromAProfileAndFollowALoggedWeight) {
-    User& ben = User::Current();
-    ben.CreateDefaultRDIs();
+    const User& ben = User::Current();
     EXPECT_EQ(ben.RDIs.Calories(), 3149);
     App().AppInfo.AUTOUPDATERDI = true;
     DayLog::SetWeight(day_, 180.4);
     EXPECT_TRUE(DayLog::TakeWeight(DayLog::Weight(day_)));
     EXPECT_EQ(ben.CurrentWeight, 180);
     EXPECT_EQ(ben.RDIs.Calories(), 2913);
-    EXPECT_EQ(UserDB().Raw().execAndGet("SELECT Calories FROM profiles").getInt(), 2913);
+    EXPECT_EQ(Profiles::Read(ben.UID).targets[Nutrient::Calories], 2913);
 }
 
 TEST_F(KnowledgeTest, AWeightThatIsRefusedSaysWhyAndChangesNothing) {
