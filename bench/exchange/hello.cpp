@@ -1,5 +1,5 @@
-// The bare rate of the library that the server stands on: one thread, a coroutine a connection, one
-// reply. Prints its port.
+// The bare rate of the library that the server stands on: a coroutine a connection, one reply.
+// hello THREADS prints its port.
 #include <utility>
 
 #include <boost/asio/awaitable.hpp>
@@ -7,11 +7,14 @@
 #include <boost/asio/detached.hpp>
 #include <boost/asio/io_context.hpp>
 #include <boost/asio/ip/tcp.hpp>
+#include <boost/asio/strand.hpp>
 #include <boost/asio/use_awaitable.hpp>
 #include <boost/beast/core.hpp>
 #include <boost/beast/http.hpp>
 
 #include <iostream>
+#include <thread>
+#include <vector>
 
 namespace {
 namespace asio = boost::asio;
@@ -40,19 +43,24 @@ asio::awaitable<void> Serve(beast::tcp_stream stream) {
 
 asio::awaitable<void> Accept(tcp::acceptor& acceptor) {
     for (;;) {
-        auto socket = co_await acceptor.async_accept(use_awaitable);
+        tcp::socket socket(asio::make_strand(acceptor.get_executor()));
+        co_await acceptor.async_accept(socket, use_awaitable);
         socket.set_option(tcp::no_delay(true));
-        co_spawn(acceptor.get_executor(), Serve(beast::tcp_stream(std::move(socket))),
-                 asio::detached);
+        const auto strand = socket.get_executor();
+        co_spawn(strand, Serve(beast::tcp_stream(std::move(socket))), asio::detached);
     }
 }
 } // namespace
 
-int main() {
-    asio::io_context io(1);
+int main(int argc, char** argv) {
+    const int threads = argc > 1 ? std::atoi(argv[1]) : 1;
+    asio::io_context io(threads);
     tcp::acceptor acceptor(io, {asio::ip::address_v4::loopback(), 0});
     std::cout << "{\"event\":\"started\",\"port\":" << acceptor.local_endpoint().port() << "}"
               << std::endl;
     co_spawn(io, Accept(acceptor), asio::detached);
+    std::vector<std::jthread> others;
+    for (int i = 1; i < threads; ++i)
+        others.emplace_back([&io] { io.run(); });
     io.run();
 }

@@ -1,106 +1,75 @@
-// What the exchange takes, beside a bare reply of the library that it stands on in the same run.
-// The load comes from a second process. Fails if a figure misses its limit.
+// What the exchange takes, beside a bare server and nginx in the same run, and what it costs others
+// when somebody attacks it. Fails if a figure misses its aim.
+// exchange_bench [RECIPES [SECONDS]]: 100,000 recipes, and 1 second for each measurement. With
+// "exchange_bench 10000 0.3" it ends soon.
+#include "Attacks.h"
+#include "BareServers.h"
 #include "Fill.h"
+#include "Load.h"
+#include "Results.h"
 
 #include "support/Cluster.h"
 #include "support/Server.h"
-#include "support/Until.h"
+
+#include "exchange/Config.h"
 
 #include <algorithm>
-#include <cstdio>
-#include <regex>
 #include <sstream>
+#include <sys/resource.h>
 
 namespace {
-constexpr int Recipes = 100'000;
-constexpr int Turns = 5;
-constexpr const char* Seconds = "1";
-constexpr const char* Connections = "8";
-constexpr int MemoryRequests = 100'000;
+constexpr int Turns = 3;
+constexpr int ReaderRate = 200;
 
-struct Figures {
-    double rate = 0;
-    double median = 0;
-    double p99 = 0;
-    double longest = 0;
-    long failed = 0;
+struct Aims {
+    double read;
+    double list = 0.30;
+    double page = 0.15;
 };
 
 class Bench {
 public:
-    bool Failed() const { return failed_; }
+    Bench(int recipes, std::string seconds)
+        : recipes_(recipes)
+        , seconds_(std::move(seconds)) {}
+
+    bool Met() const { return results_.Met(); }
 
     void Run() {
-        const Process hello({HALVANE_HELLO}, {}, folder_ / "hello");
-        helloPort_ = PortIn(folder_ / "hello");
-        WriteFile(folder_ / "hello paths", "/hello\n");
-        std::printf("%-44s %9s %8s %7s %7s  %s\n", "", "a second", "of bare", "p50 ms", "p99 ms",
-                    "limit");
-        bare_ = Load(helloPort_, "0", "hello paths").rate;
-        std::printf("%-44s %9.0f\n", "bare reply", bare_);
-        On("SQLite", folder_ / "exchange.db", 0.40);
-        On("PostgreSQL", Cluster::One().CreateDatabase(), 0.25);
+        WriteFile(folder_ / "hello", "/hello\n");
+        WriteFile(folder_ / "health", "/health\n");
+        results_.Bare("a bare server", Rate(bare_.HelloPort(), "hello"));
+        if (bare_.NginxPort() > 0)
+            results_.Bare("nginx", Rate(bare_.NginxPort(), "hello"));
+        else
+            results_.Skipped("nginx is not measured, since it is not installed.");
+        On("SQLite", folder_ / "exchange.db", true, {.read = 0.45});
+        On("PostgreSQL", Cluster::One().CreateDatabase(), false, {.read = 0.25});
     }
 
 private:
-    static int PortIn(const std::string& log) {
-        std::smatch found;
-        std::string text;
-        Until([&] {
-            text = ReadFile(log);
-            return std::regex_search(text, found, std::regex(R"("port":(\d+))"));
-        });
-        return std::stoi(found[1]);
+    Load::Plan Plan(const std::string& paths) const {
+        return {.paths = folder_ / paths, .seconds = seconds_};
     }
 
-    Figures Load(int port, const std::string& rate, const std::string& paths) const {
-        std::string output;
-        Process::Run(
-            {HALVANE_LOAD, std::to_string(port), Connections, Seconds, rate, folder_ / paths},
-            &output);
-        Figures figures;
-        std::istringstream(output) >> figures.rate >> figures.median >> figures.p99 >>
-            figures.longest >> figures.failed;
-        return figures;
+    double Rate(int port, const std::string& paths) const {
+        return Load::On(port, Plan(paths)).rate;
     }
 
-    void Row(const std::string& what, const Figures& figures, double part, bool met,
-             const std::string& limit) {
-        std::printf("%-44s %9.0f %7.0f%% %7.2f %7.2f  %s %s\n", what.c_str(), figures.rate,
-                    100 * part, figures.median, figures.p99, limit.c_str(), met ? "" : "MISSED");
-        std::fflush(stdout);
-        failed_ = failed_ || !met || figures.failed > 0;
-        if (figures.failed > 0)
-            std::printf("%ld replies were not 200\n", figures.failed);
-    }
-
-    /// In short turns with the bare reply, as the machine's own pace changes by the second; the
-    /// median of the turns counts.
-    Figures AtTop(const std::string& what, int port, const std::string& paths, double least) {
-        std::vector<Figures> turns;
-        std::vector<double> parts;
-        for (int turn = 0; turn < Turns; ++turn) {
-            bare_ = Load(helloPort_, "0", "hello paths").rate;
-            turns.push_back(Load(port, "0", paths));
-            parts.push_back(turns.back().rate / bare_);
+    void On(const std::string& name, const std::string& database, bool embedded, const Aims& aims) {
+        { const Server first({{"database", database}}); }
+        WritePaths(Fill::With(database, recipes_));
+        {
+            Server server({{"database", database}, // the load comes from one client
+                           {"log_requests", "no"},
+                           {"searches_per_client_minute", "1000000"},
+                           {"pages_per_client_minute", "1000000"}});
+            AtTop(name + ": read a recipe", server.Port(), "reads", aims.read);
+            AtTop(name + ": the list", server.Port(), "lists", aims.list);
+            AtTop(name + ": a recipe's page", server.Port(), "pages", aims.page);
+            WorstSearch(name + ": the worst search, 99 of 100", server.Port());
         }
-        std::sort(parts.begin(), parts.end());
-        std::sort(turns.begin(), turns.end(),
-                  [](const Figures& one, const Figures& other) { return one.rate < other.rate; });
-        const auto& figures = turns[Turns / 2];
-        Row(what, figures, parts[Turns / 2], parts[Turns / 2] >= least,
-            least > 0 ? ">= " + std::to_string(static_cast<int>(least * 100)) + "%" : "");
-        return figures;
-    }
-
-    void AtHalf(const std::string& what, int port, const std::string& paths, double top) {
-        std::vector<Figures> turns;
-        for (int turn = 0; turn < Turns; ++turn)
-            turns.push_back(Load(port, std::to_string(top / 2), paths));
-        std::sort(turns.begin(), turns.end(),
-                  [](const Figures& one, const Figures& other) { return one.p99 < other.p99; });
-        const auto& figures = turns[Turns / 2];
-        Row(what, figures, figures.rate / bare_, figures.p99 < 50, "p99 < 50 ms");
+        UnderAttack(name, database, embedded);
     }
 
     void WritePaths(const std::vector<int>& ids) const {
@@ -118,58 +87,100 @@ private:
         WriteFile(folder_ / "reads", reads);
         WriteFile(folder_ / "lists", lists);
         WriteFile(folder_ / "pages", pages);
-        WriteFile(folder_ / "searches", "/halvane/community.asp?q=lentil\n"
-                                        "/halvane/community.asp?q=soup+garlic\n"
-                                        "/halvane/community.asp?q=winter+stew+onion\n");
+        WriteFile(folder_ / "worst", "/halvane/community.asp?q=quick+sunday\n");
     }
 
-    void On(const std::string& name, const std::string& database, double least) {
-        { const Server first({{"database", database}}); }
-        WritePaths(Fill::With(database, Recipes));
-        Server server({{"database", database}, // the load comes from one client
-                       {"searches_per_client_minute", "1000000"},
-                       {"pages_per_client_minute", "1000000"}});
-        const auto top =
-            AtTop(name + ": read a recipe of 10 ingredients", server.Port(), "reads", least);
-        AtHalf(name + ": the same at half the rate", server.Port(), "reads", top.rate);
-        AtTop(name + ": a page of the list", server.Port(), "lists", 0.15);
-        AtTop(name + ": a search", server.Port(), "searches", 0);
-        AtTop(name + ": a recipe's page", server.Port(), "pages", 0);
-        Memory(name, server);
+    /// In short turns with the bare reply, as the machine's own pace changes by the second; the
+    /// turn with the middle ratio counts.
+    void AtTop(const std::string& work, int port, const std::string& paths, double least) {
+        struct Turn {
+            double bare;
+            Load::Figures ours;
+            double Ratio() const { return ours.rate / bare; }
+        };
+        std::vector<Turn> turns;
+        long failed = 0;
+        for (int turn = 0; turn < Turns; ++turn) {
+            const double bare = Rate(bare_.HelloPort(), "hello");
+            turns.push_back({bare, Load::On(port, Plan(paths))});
+            failed += turns.back().ours.failed;
+        }
+        std::sort(turns.begin(), turns.end(),
+                  [](const Turn& one, const Turn& other) { return one.Ratio() < other.Ratio(); });
+        const auto& middle = turns[Turns / 2];
+        results_.Ratio(work, middle.ours.rate, middle.bare, least);
+        results_.Failures(work, failed);
     }
 
-    static long Kilobytes(Process& process) {
+    /// Alone: what one search costs, and not how long it waits for the others.
+    void WorstSearch(const std::string& work, int port) {
+        auto plan = Plan("worst");
+        plan.connections = 1;
+        const auto figures = Load::On(port, plan);
+        results_.AtMost(work, figures.p99, recipes_ > 100'000 ? 30 : 10, " ms");
+        results_.Failures(work, figures.failed);
+    }
+
+    void UnderAttack(const std::string& name, const std::string& database, bool embedded) {
+        for (const auto& attack : Attacks::All(embedded)) {
+            Server server({{"database", database},
+                           {"log_requests", "no"},
+                           {"recipes_per_client_day", "1000000"}, // so that bodies are read
+                           {"recipes_per_day", "1000000000"},
+                           {"mail_relay", "smtp://127.0.0.1:1"},
+                           {"mail_from", "exchange@example.org"},
+                           {"mail_tls", "none"}});
+            const auto under = attack.begin({server.Port(), database});
+            const auto work = name + ", " + attack.name;
+            Answers(work + ": /health", server.Port(), "health", 20);
+            if (attack.databaseAnswers)
+                Answers(work + ": a reader", server.Port(), "reads", 100);
+        }
+        Memory(name, database);
+    }
+
+    void Answers(const std::string& work, int port, const std::string& paths, double most) {
+        auto plan = Plan(paths);
+        plan.rate = ReaderRate;
+        const auto figures = Load::On(port, plan);
+        results_.AtMost(work, figures.p99, most, " ms");
+        results_.Failures(work, figures.failed);
+    }
+
+    void Memory(const std::string& name, const std::string& database) {
+        Server server({{"database", database}});
+        const auto held = Attacks::HalfBodies({server.Port(), database});
+        results_.AtMost(name + ": memory under 1,000 half-sent bodies",
+                        PeakOf(server.TheProcess()) / 1024, 300, " MB");
+    }
+
+    static double PeakOf(const Process& process) {
         std::istringstream status(ReadFile("/proc/" + std::to_string(process.ID()) + "/status"));
         for (std::string line; std::getline(status, line);)
-            if (line.starts_with("VmRSS:"))
-                return std::stol(line.substr(6));
+            if (line.starts_with("VmHWM:"))
+                return std::stod(line.substr(6));
         return 0;
     }
 
-    void Memory(const std::string& name, Server& server) {
-        const auto before = Kilobytes(server.TheProcess());
-        double requests = 0;
-        while (requests < MemoryRequests)
-            for (const auto* paths : {"reads", "lists", "searches", "pages"}) {
-                const auto figures = Load(server.Port(), "0", paths);
-                requests += figures.rate * std::stod(Seconds);
-            }
-        const auto after = Kilobytes(server.TheProcess());
-        const bool flat = after < before + before / 10 + 1024;
-        std::printf("%-44s %6ld KB, after %.0f requests more %6ld KB  flat %s\n",
-                    (name + ": memory").c_str(), before, requests, after, flat ? "" : "MISSED");
-        failed_ = failed_ || !flat;
-    }
-
+    int recipes_;
+    std::string seconds_;
     Folder folder_;
-    int helloPort_ = 0;
-    double bare_ = 0;
-    bool failed_ = false;
+    Results results_;
+    BareServers bare_{exchange::Config().workers + 1}; // and the thread of the connections
 };
+
+/// An attack needs more descriptors than a program has by default.
+void RaiseDescriptors() {
+    rlimit limit{};
+    getrlimit(RLIMIT_NOFILE, &limit);
+    limit.rlim_cur = limit.rlim_max;
+    setrlimit(RLIMIT_NOFILE, &limit);
+}
 } // namespace
 
-int main() {
-    Bench bench;
+int main(int argc, char** argv) {
+    RaiseDescriptors();
+    Bench bench(argc > 1 ? std::stoi(argv[1]) : 100'000, argc > 2 ? argv[2] : "1");
     bench.Run();
-    return bench.Failed() ? 1 : 0;
+    return bench.Met() ? 0 : 1;
 }
