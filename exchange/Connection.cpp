@@ -71,7 +71,8 @@ Connection::~Connection() {
 }
 
 Connection::Timed::Timed(Connection& connection, bool writes)
-    : connection_(connection) {
+    : connection_(connection)
+    , noted_(connection) {
     if (!connection_.unhurried_)
         connection_.watch_.Begin(writes ? LongestWrite : LongestRead);
 }
@@ -127,8 +128,7 @@ Transaction::Transaction(Connection& connection)
 }
 
 Transaction::~Transaction() {
-    const Connection::Timed timed(connection_, true);
-    transaction_.reset();
+    RollBack();
     connection_.inTransaction_ = false;
     connection_.unhurried_ = false;
 }
@@ -136,6 +136,18 @@ Transaction::~Transaction() {
 void Transaction::Commit() {
     const Connection::Timed timed(connection_, true);
     transaction_->commit();
+    committed_ = true;
+}
+
+void Transaction::RollBack() {
+    if (committed_)
+        return;
+    try {
+        const Connection::Timed timed(connection_, true);
+        transaction_->rollback();
+    } catch (const std::exception&) {
+        connection_.failed_ = true;
+    }
 }
 
 void Transaction::Unhurry() {

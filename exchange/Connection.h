@@ -5,6 +5,7 @@
 
 #include <soci/soci.h>
 
+#include <exception>
 #include <map>
 #include <memory>
 #include <optional>
@@ -30,7 +31,7 @@ namespace exchange {
 /// One connection to the database, for one thread at a time. A statement is prepared at its first
 /// use and kept. The statements are the same on SQLite and PostgreSQL; what differs between the two
 /// ends in this class. A statement that takes too long fails: after 5 seconds if it reads, after 20
-/// if it writes. After an exception the connection must not be used again.
+/// if it writes. A connection that a statement has failed on must not be used again.
 class Connection {
 public:
     /// `database` is what the setting of that name holds: the path of an SQLite file, or an address
@@ -85,13 +86,35 @@ public:
     bool IsEmbedded() const { return embedded_; }
 
     /// One statement that is not kept, without a limit to its time.
-    void Once(const std::string& sql) { session_.once << sql; }
+    void Once(const std::string& sql) {
+        const Noted noted(*this);
+        session_.once << sql;
+    }
+
+    bool Failed() const { return failed_; } ///< a statement has thrown
 
     /// What a log may say of an error: nothing of the values that a statement was run with.
     static std::string Describe(const std::exception& error);
 
 private:
     friend class Transaction;
+    /// Notes when an exception goes through it.
+    class Noted {
+    public:
+        explicit Noted(Connection& connection)
+            : connection_(connection) {}
+        ~Noted() {
+            if (std::uncaught_exceptions() > exceptions_)
+                connection_.failed_ = true;
+        }
+        Noted(const Noted&) = delete;
+        Noted& operator=(const Noted&) = delete;
+
+    private:
+        Connection& connection_;
+        int exceptions_ = std::uncaught_exceptions();
+    };
+
     /// Runs while a statement does.
     class Timed {
     public:
@@ -102,6 +125,7 @@ private:
 
     private:
         Connection& connection_;
+        Noted noted_;
     };
 
     void Tune();
@@ -122,6 +146,7 @@ private:
     bool embedded_;
     bool inTransaction_ = false;
     bool unhurried_ = false;
+    bool failed_ = false;
     soci::session session_;
     std::map<std::string, std::unique_ptr<soci::statement>, std::less<>> statements_;
     Watchdog::Watch watch_; ///< ends before what it interrupts
@@ -140,9 +165,12 @@ public:
     void Unhurry();
 
 private:
+    void RollBack(); ///< unless committed
+
     Connection& connection_;
     WriteGate::Turn turn_;
     std::optional<soci::transaction> transaction_;
+    bool committed_ = false;
 };
 
 } // namespace exchange

@@ -17,7 +17,7 @@ Pool::Lease::Lease(Pool& pool)
 
 Pool::Lease::~Lease() {
     const std::lock_guard lock(pool_.mutex_);
-    if (std::uncaught_exceptions() > exceptions_)
+    if (connection_->Failed())
         pool_.free_.clear();
     else
         pool_.free_.push_back(std::move(connection_));

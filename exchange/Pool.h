@@ -2,7 +2,6 @@
 
 #include "exchange/Connection.h"
 
-#include <exception>
 #include <memory>
 #include <mutex>
 #include <string>
@@ -11,7 +10,8 @@
 namespace exchange {
 
 /// The open connections of the process. A lease takes one or opens a new one, and gives it back;
-/// one that an exception has gone through is closed instead, so that the next lease connects anew.
+/// one that a statement has failed on is closed instead, with all that are free, so that the next
+/// lease connects anew. A refusal that goes through a lease is no failure of the database.
 class Pool {
 public:
     explicit Pool(std::string database)
@@ -29,7 +29,6 @@ public:
     private:
         Pool& pool_;
         std::unique_ptr<Connection> connection_;
-        int exceptions_ = std::uncaught_exceptions();
     };
 
 private:
