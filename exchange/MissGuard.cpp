@@ -14,14 +14,24 @@ using soci::use;
 constexpr int Widest = Limits::Growth[std::size(Limits::Growth) - 1];
 constexpr int UnderAlarm = 10;
 
-void Add(Connection& connection, const std::string& name, long long slot, int weight) {
-    connection.Change(
-        "INSERT INTO counters (Name, Slot, Hits) VALUES (:name, :slot, :weight)"
-        " ON CONFLICT (Name, Slot) DO UPDATE SET Hits = counters.Hits + EXCLUDED.Hits",
-        use(name), use(slot), use(weight));
+constexpr const char* All = "miss";
+
+/// Adds a miss to the counters of all widths that have a name, and to that of all visitors.
+std::string Noting() {
+    constexpr const char* names[] = {":a", ":b", ":c", ":d"};
+    std::string rows;
+    for (size_t width = 0; width < std::size(Limits::Growth); ++width)
+        rows += std::string("(") + names[width] + ", " +
+                std::to_string(Widest / Limits::Growth[width]) + "), ";
+    return "INSERT INTO counters (Name, Slot, Hits)"
+           " SELECT column1, CAST(:slot AS BIGINT), column2 FROM (VALUES " +
+           rows + "('" + All +
+           "', 1)) misses WHERE column1 <> ''"
+           " ON CONFLICT (Name, Slot) DO UPDATE SET Hits = counters.Hits + EXCLUDED.Hits";
 }
 
-int Hits(Connection& connection, const std::string& name, long long slot) {
+int MissesOfAll(Connection& connection, long long slot) {
+    const std::string name = All;
     int hits = 0;
     connection.First("SELECT Hits FROM counters WHERE Name = :name AND Slot = :slot", use(name),
                      use(slot), into(hits));
@@ -64,15 +74,12 @@ MissGuard::Verdict MissGuard::Judge(Connection& connection, const Guess& guess, 
 }
 
 void MissGuard::Note(Connection& connection, const Guess& guess) const {
-    const std::string all = "miss";
-    Transaction transaction(connection);
-    for (size_t width = 0; width < guess.names.size(); ++width)
-        if (!guess.names[width].empty())
-            Add(connection, guess.names[width], guess.slot, Widest / Limits::Growth[width]);
-    Add(connection, all, guess.slot, 1);
-    if (Hits(connection, all, guess.slot) > config_.misses_per_hour)
+    static const std::string noting = Noting();
+    const auto& names = guess.names;
+    connection.Change(noting, use(guess.slot), use(names[0]), use(names[1]), use(names[2]),
+                      use(names[3]));
+    if (MissesOfAll(connection, guess.slot) > config_.misses_per_hour)
         alarm_ = guess.slot;
-    transaction.Commit();
 }
 
 void MissGuard::Require(Verdict verdict) {
