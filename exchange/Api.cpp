@@ -53,7 +53,8 @@ void Api::CountRecipe(const Visitor& visitor) const {
             transaction.Commit();
     }
     if (!may)
-        throw Refusal(429, "Too many recipes have been sent today. Please try again tomorrow.");
+        throw Refusal(429, "Too many recipes have been sent today. Please try again tomorrow.",
+                      Refusal::Day);
 }
 
 void Api::Create(const Ask& ask, Reply& reply) const {

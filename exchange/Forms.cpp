@@ -67,7 +67,8 @@ void Forms::KeepReport(const Ask& ask, int id, const Request& form) const {
     Transaction transaction(*lease);
     if (!service_.limits.CountToday(*lease, "report", ask.visitor, config.reports_per_client_day,
                                     config.reports_per_day))
-        throw Refusal(429, "Too many reports have been sent today. Please try again tomorrow.");
+        throw Refusal(429, "Too many reports have been sent today. Please try again tomorrow.",
+                      Refusal::Day);
     Reports(*lease).Add(id, report);
     transaction.Commit();
 }

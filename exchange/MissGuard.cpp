@@ -84,7 +84,7 @@ void MissGuard::Note(Connection& connection, const Guess& guess) const {
 
 void MissGuard::Require(Verdict verdict) {
     if (verdict == Verdict::TooMany)
-        throw Refusal(429, TooMany);
+        throw Refusal(429, TooMany, Refusal::Hour);
     if (verdict == Verdict::Missed)
         throw Refusal(404, "There is no recipe with this ID.");
 }

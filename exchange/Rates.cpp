@@ -21,7 +21,7 @@ Rates::Rates(const Config& config)
 void Rates::Take(Kind kind, const Visitor& visitor) {
     const std::lock_guard lock(mutex_);
     if (!TakeFrom(levels_[kind], visitor, mostPerMinute_[kind]))
-        throw Refusal(429, "Too many requests. Please try again in a minute.");
+        throw Refusal(429, "Too many requests. Please try again in a minute.", Refusal::Minute);
 }
 
 bool Rates::TakeFrom(Levels& levels, const Visitor& visitor, double most) {

@@ -103,8 +103,8 @@ void Router::Run(const Match& match, const Ask& ask, Reply& reply) const {
         RefuseOtherTypes(ask.request, match.route->terms);
         match.route->handler(ask, reply);
     } catch (const Refusal& refusal) {
-        if (refusal.Status() == 429)
-            reply.SetHeader("Retry-After", "3600");
+        if (refusal.RetryAfter() > 0)
+            reply.SetHeader("Retry-After", std::to_string(refusal.RetryAfter()));
         failure_(ask.request, reply, refusal.Status(), refusal.what());
     } catch (const std::exception& error) {
         const auto what = Connection::Describe(error);

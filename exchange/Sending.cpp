@@ -3,6 +3,7 @@
 #include "exchange/MailAddress.h"
 #include "exchange/Outbox.h"
 #include "exchange/RecipeID.h"
+#include "exchange/Refusal.h"
 
 namespace exchange {
 namespace {
@@ -15,13 +16,13 @@ std::string NotAnAddress(const std::string& whose) {
 void Sending::AddTo(Router& router) {
     router.Add("GET", "/halvane/sendrecipe.asp",
                [this](const Ask& ask, auto& reply) {
+                   reply.SetHeader("Cache-Control", "no-store");
                    const auto id = RecipeID::Read(ask.request.Param("recID"));
                    const auto outcome =
                        ask.request.method == "GET" && id
                            ? Send(*id, ask.visitor)
                            : Outcome{404, "There is no recipe to send under this ID."};
                    reply.status = outcome.status;
-                   reply.SetHeader("Cache-Control", "no-store");
                    reply.SetContent(outcome.sentence, "text/plain; charset=utf-8");
                },
                {.changes = true});
@@ -37,7 +38,7 @@ Sending::Outcome Sending::Send(int id, const Visitor& visitor) const {
     case MissGuard::Verdict::Found:
         return SendUnfinished(*lease, id, *state, visitor);
     case MissGuard::Verdict::TooMany:
-        return {429, MissGuard::TooMany};
+        throw Refusal(429, MissGuard::TooMany, Refusal::Hour);
     default:
         return {404, "There is no recipe to send under this ID."};
     }

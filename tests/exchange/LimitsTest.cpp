@@ -1,6 +1,8 @@
 #include "support/ExchangeTest.h"
 #include "support/Until.h"
 
+#include "exchange/Text.h"
+
 /// What one client may do, and what is cleared away.
 class LimitsTest : public ExchangeTest {
 protected:
@@ -17,7 +19,7 @@ TEST_P(LimitsTest, AClientCreatesSoManyRecipesADay) {
         Create();
     const auto refused = Post("/halvane/api/recipes", Soup());
     EXPECT_EQ(refused->status, 429);
-    EXPECT_EQ(refused->get_header_value("Retry-After"), "3600");
+    EXPECT_EQ(refused->get_header_value("Retry-After"), "86400");
     EXPECT_EQ(Count("SELECT COUNT(*) FROM recipes"), 3);
 }
 
@@ -104,6 +106,93 @@ TEST_P(LimitsTest, ASayingOfTheClientItselfIsNotBelieved) {
     Start({{"misses_per_client_hour", "1"}});
     EXPECT_EQ(GetAs("192.0.2.1", "/halvane/api/recipes/11")->status, 404);
     EXPECT_EQ(GetAs("192.0.2.2", "/halvane/api/recipes/12")->status, 429);
+}
+
+/// The pattern has {n} where each request has another number. The last of so many is the first that
+/// is refused, while each address, household or smaller network has missed once only.
+struct WideNetwork {
+    const char* pattern;
+    int allowed;
+    const char* outside;
+};
+
+TEST_P(LimitsTest, AWiderNetworkMayMissFourTimesAsOftenAsTheNextNarrowerOne) {
+    Start({{"misses_per_client_hour", "1"}, {"trusted_proxies", "127.0.0.1"}});
+    constexpr WideNetwork networks[] = {
+        {"2001:db8:1:1{n}::1", 4, "2001:db8:1:200::1"}, // a /56
+        {"2001:db8:2:{n}00::1", 16, "2001:db8:3::1"},   // a /48
+        {"2001:db9:{n}::1", 64, "2001:dba::1"},         // a /32
+        {"198.51.100.{n}", 4, "198.51.101.1"},          // a /24
+        {"198.18.{n}.1", 16, "198.19.1.1"},             // a /16
+    };
+    for (const auto& network : networks) {
+        const auto statusOf = [&](int n) {
+            std::string client = network.pattern;
+            exchange::ReplaceAll(client, "{n}", std::to_string(n));
+            return GetAs(client, "/halvane/api/recipes/11")->status;
+        };
+        for (int n = 0; n < network.allowed; ++n)
+            EXPECT_EQ(statusOf(n + 10), 404) << network.pattern << " " << n;
+        EXPECT_EQ(statusOf(network.allowed + 10), 429) << network.pattern;
+        EXPECT_EQ(GetAs(network.outside, "/halvane/api/recipes/11")->status, 404);
+    }
+}
+
+TEST_P(LimitsTest, OneNetworkCreatesATenthOfTheDaysRecipesAtMost) {
+    Start({{"recipes_per_client_day", "2"},
+           {"recipes_per_day", "30"},
+           {"trusted_proxies", "127.0.0.1"}});
+    const auto statusAs = [&](const std::string& client) {
+        return Running()
+            .Client()
+            .Post("/halvane/api/recipes", {{"X-Forwarded-For", client}}, Soup().dump(),
+                  "application/json")
+            ->status;
+    };
+    for (const auto* client : {"192.0.2.1", "192.0.2.2", "192.0.2.3"})
+        EXPECT_EQ(statusAs(client), 201) << client;
+    EXPECT_EQ(statusAs("192.0.2.4"), 429) << "a /24 has 3 of 30";
+    EXPECT_EQ(statusAs("192.0.3.1"), 429) << "so has the /16 around it";
+    EXPECT_EQ(statusAs("192.1.2.1"), 201);
+}
+
+TEST_P(LimitsTest, WhenAllMissTooOftenThoseWhoKnowTheirNumbersGoOn) {
+    Start({{"misses_per_client_hour", "20"},
+           {"misses_per_hour", "3"},
+           {"trusted_proxies", "127.0.0.1"}});
+    const auto known = "/halvane/api/recipes/" + std::to_string(Send());
+    for (const auto* client : {"192.0.2.1", "192.1.2.1", "192.2.2.1", "192.3.2.1"})
+        EXPECT_EQ(GetAs(client, "/halvane/api/recipes/11")->status, 404) << client;
+    EXPECT_EQ(GetAs("192.0.2.1", "/halvane/api/recipes/12")->status, 404) << "the second of two";
+    EXPECT_EQ(GetAs("192.0.2.1", "/halvane/api/recipes/13")->status, 429) << "a tenth of 20";
+    for (int i = 0; i < 50; ++i)
+        EXPECT_EQ(GetAs("192.5.2.1", known)->status, 200);
+    EXPECT_EQ(GetAs("192.1.2.1", known)->status, 200) << "one mistake hinders nobody";
+}
+
+TEST_P(LimitsTest, SearchesAndPagesAreCountedApartAndTellWhenToComeBack) {
+    Start({{"searches_per_client_minute", "2"},
+           {"pages_per_client_minute", "3"},
+           {"trusted_proxies", "127.0.0.1"}});
+    const auto search = "/halvane/community.asp?q=soup";
+    const auto page = "/halvane/community.asp";
+    for (int i = 0; i < 2; ++i)
+        EXPECT_EQ(GetAs("192.0.2.1", search)->status, 200);
+    const auto refused = GetAs("192.0.2.1", search);
+    EXPECT_EQ(refused->status, 429);
+    EXPECT_EQ(refused->get_header_value("Retry-After"), "60");
+    EXPECT_EQ(refused->get_header_value("Content-Type"), "text/html; charset=utf-8");
+    for (int i = 0; i < 3; ++i)
+        EXPECT_EQ(GetAs("192.0.2.1", page)->status, 200) << i;
+    EXPECT_EQ(GetAs("192.0.2.1", page)->status, 429);
+    EXPECT_EQ(GetAs("192.0.2.2", search)->status, 200) << "another client has its own number";
+}
+
+TEST_P(LimitsTest, WhoGuessesTooMuchIsToldToComeBackInAnHour) {
+    Start({{"misses_per_client_hour", "1"}});
+    Get("/halvane/api/recipes/11");
+    for (const auto* path : {"/halvane/api/recipes/12", "/halvane/sendrecipe.asp?recID=12"})
+        EXPECT_EQ(Get(path)->get_header_value("Retry-After"), "3600") << path;
 }
 
 TEST_P(LimitsTest, CountersNameNobody) {
