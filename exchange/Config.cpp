@@ -48,7 +48,7 @@ std::optional<Place> PlaceOf(const std::string& name) {
     for (const auto& setting : Settings)
         if (setting.name == name)
             return setting.place;
-    for (const auto& limit : AllLimits())
+    for (const auto& limit : SettableLimits())
         if (limit.setting == name)
             return Range{limit.value, limit.least, limit.most};
     return {};
@@ -122,7 +122,7 @@ std::vector<std::string> Config::Names() {
     std::vector<std::string> names;
     for (const auto& setting : Settings)
         names.emplace_back(setting.name);
-    for (const auto& limit : AllLimits())
+    for (const auto& limit : SettableLimits())
         names.emplace_back(limit.setting);
     return names;
 }

@@ -12,11 +12,10 @@
 namespace exchange {
 namespace {
 constexpr const char* HtmlType = "text/html; charset=utf-8";
-constexpr size_t LargestForm = 16 * 1024;
 
 /// The fields of a form as the parameters of a request.
 Request FieldsOf(const Request& request) {
-    if (request.body.size() > LargestForm)
+    if (request.body.size() > Forms::Largest)
         throw Refusal(413, "The form is too large.");
     Request form;
     Target::ReadParams(request.body, form);

@@ -11,6 +11,8 @@ namespace exchange {
 /// Nothing changes by a GET, as programs that test links make one.
 class Forms {
 public:
+    static constexpr size_t Largest = 16 * 1024; ///< a form that is filled in, in bytes
+
     explicit Forms(const Service& service)
         : service_(service)
         , noMail_(service.secret)

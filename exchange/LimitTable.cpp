@@ -1,8 +1,23 @@
 #include "exchange/LimitTable.h"
 
+#include "exchange/Forms.h"
+#include "exchange/JsonReader.h"
+#include "exchange/MailAddress.h"
+#include "exchange/Reports.h"
+#include "exchange/RequestHead.h"
+#include "exchange/Words.h"
+
+#include <algorithm>
+
 namespace exchange {
 namespace {
 constexpr int Many = 1'000'000'000;
+
+constexpr Limit Fixed(const char* name, size_t amount, const char* unit, const char* reason,
+                      const char* beyond) {
+    const int most = static_cast<int>(amount);
+    return {name, nullptr, nullptr, most, most, unit, reason, beyond};
+}
 
 constexpr Limit Table[] = {
     {"connections", "connections", &Config::connections, 1, 100'000, "",
@@ -53,6 +68,18 @@ constexpr Limit Table[] = {
      "a relay that hangs is left", "tried again later"},
     {"pause before the second try", "mail_retry_seconds", &Config::mail_retry_seconds, 1, 3600,
      "seconds", "a relay that greylists asks for patience", "doubled at each try, for two days"},
+    Fixed("the head of a request", RequestHead::Largest, "bytes", "no browser sends more", "431"),
+    Fixed("the address of a page", RequestHead::LongestTarget, "bytes", "no link of ours is longer",
+          "414"),
+    Fixed("an address for mail", LongestMailAddress, "bytes", "no mailbox has a longer one", "400"),
+    Fixed("arrays and objects in each other", JsonReader::DeepestNesting, "deep",
+          "no body needs more", "400"),
+    Fixed("a form", Forms::Largest, "bytes", "holds the longest report", "413"),
+    Fixed("the words of a report", Reports::LongestWords, "letters", "the operator reads each",
+          "the rest is cut off"),
+    Fixed("reports of a recipe", Reports::MostOfARecipe, "", "enough to look at it", "not kept"),
+    Fixed("words of a recipe", Words::MostOfARecipe, "", "no recipe is found by everything",
+          "it is not found by the others"),
 };
 } // namespace
 
@@ -60,9 +87,16 @@ std::span<const Limit> AllLimits() {
     return Table;
 }
 
+std::span<const Limit> SettableLimits() {
+    const auto end = std::find_if(std::begin(Table), std::end(Table),
+                                  [](const Limit& limit) { return limit.IsFixed(); });
+    return {std::begin(Table), end};
+}
+
 std::string Limit::Row() const {
     const auto amount = std::to_string(Default()) + (*unit ? " " : "") + unit;
-    return std::string("| ") + name + " | `" + setting + "` | " + amount + " | " + reason + " | " +
+    const auto how = IsFixed() ? std::string("fixed") : std::string("`") + setting + "`";
+    return std::string("| ") + name + " | " + how + " | " + amount + " | " + reason + " | " +
            beyond + " |";
 }
 

@@ -7,21 +7,23 @@
 namespace exchange {
 
 /// One limit of the service: what it limits and why, and what is answered beyond it. The one place
-/// for it; the settings are read by this table, and docs/exchange.md shows it.
+/// for it: the settings are read by this table, and docs/exchange.md shows it.
 struct Limit {
     const char* name;
-    const char* setting;
-    int Config::*value;
+    const char* setting; ///< null if it is fixed
+    int Config::*value;  ///< likewise
     int least;
-    int most;
+    int most; ///< of a fixed one, itself
     const char* unit;
     const char* reason;
     const char* beyond;
 
-    int Default() const { return Config{}.*value; }
+    bool IsFixed() const { return setting == nullptr; }
+    int Default() const { return IsFixed() ? most : Config{}.*value; }
     std::string Row() const; ///< as a line of the table on the page
 };
 
-std::span<const Limit> AllLimits();
+std::span<const Limit> AllLimits();      ///< the fixed ones last
+std::span<const Limit> SettableLimits(); ///< those with a setting
 
 } // namespace exchange

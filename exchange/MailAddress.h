@@ -5,6 +5,9 @@
 
 namespace exchange {
 
+/// What can be stored; longer ones than that are no addresses.
+inline constexpr size_t LongestMailAddress = 320;
+
 /// One plain address, name@host.domain: no display name, no list, no quoting, nothing that a header
 /// or a mail command could take for its own, and nothing that a host could take for a way to
 /// another host, a file or a program.

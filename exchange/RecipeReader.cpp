@@ -1,6 +1,7 @@
 #include "exchange/RecipeReader.h"
 
 #include "exchange/JsonReader.h"
+#include "exchange/MailAddress.h"
 #include "exchange/Refusal.h"
 #include "exchange/Text.h"
 
@@ -9,7 +10,6 @@
 
 namespace exchange::RecipeReader {
 namespace {
-constexpr size_t LongestAddress = 320;
 
 [[noreturn]] void Refuse(const std::string& reason) {
     throw Refusal(400, reason);
@@ -42,8 +42,9 @@ bool TruthOf(JsonValue&& value, std::string_view name) {
 
 std::string AddressOf(JsonValue&& value, std::string_view name) {
     auto text = TextOf(std::move(value), name).value_or("");
-    if (text.size() > LongestAddress)
-        Refuse(std::string(name) + " is longer than " + std::to_string(LongestAddress) + " bytes.");
+    if (text.size() > LongestMailAddress)
+        Refuse(std::string(name) + " is longer than " + std::to_string(LongestMailAddress) +
+               " bytes.");
     if (!IsPlain(text))
         Refuse(std::string(name) + " holds a control character.");
     return text;

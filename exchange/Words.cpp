@@ -9,7 +9,6 @@
 namespace exchange::Words {
 namespace {
 constexpr size_t Longest = 40; ///< letters of a word that count
-constexpr size_t MostOfARecipe = 1000;
 
 /// Letters, digits, and signs that stand for one.
 bool Belongs(utf8proc_int32_t letter) {

@@ -10,8 +10,9 @@ namespace exchange {
 
 /// The words that a public recipe is found by: those of its name and of its ingredients, each once,
 /// in small letters without accents and in the singular, so that both databases find alike. The
-/// first thousand count: no recipe is found by everything.
+/// first of them count: no recipe is found by everything.
 namespace Words {
+inline constexpr size_t MostOfARecipe = 1000;
 std::vector<std::string> Of(std::string_view text); ///< letters and digits only
 std::vector<std::string> Of(const Recipe& recipe);
 } // namespace Words
