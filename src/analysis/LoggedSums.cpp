@@ -9,7 +9,7 @@
 namespace {
 
 using enum Nutrient;
-constexpr Nutrient energyFields[] = {Calories, TotalFat, Protein, Carbs};
+constexpr Nutrient EnergyFields[] = {Calories, TotalFat, Protein, Carbs};
 
 QString Uid() {
     return QString::number(User::Current().UID);
@@ -49,11 +49,11 @@ std::optional<Nuts> LoggedSums::AverageEnergy(const Period& period) {
              "Sum(USER_FOODS.carbs) AS [carbs] FROM USER_FOODS "
              " WHERE UID=" +
                  Uid() + " AND " + period.Condition(),
-             energyFields);
+             EnergyFields);
     if (!energy)
         return std::nullopt;
     const int days = LoggedDays::CountWithFood(period);
-    for (const Nutrient id : energyFields)
+    for (const Nutrient id : EnergyFields)
         energy->Set(id, (*energy)[id] / days);
     return energy->Calories() < 1 ? std::nullopt : energy;
 }

@@ -6,7 +6,7 @@ namespace {
 using enum CustomFoodProblem::Part;
 
 /// No serving holds more of anything. Larger amounts make the sum of a day overflow.
-constexpr double mostAmount = 1'000'000;
+constexpr double MostAmount = 1'000'000;
 
 bool HoldsRefusedCharacter(const QString& text) {
     return text.contains(u'^') || text.contains(u'~') || text.contains(u'"');
@@ -14,7 +14,7 @@ bool HoldsRefusedCharacter(const QString& text) {
 
 CustomFoodProblem AmountProblem(const NutrientAmounts& amounts) {
     for (const Nutrient id : PeriodOrder())
-        if (std::abs(amounts[id].value_or(0)) > mostAmount)
+        if (std::abs(amounts[id].value_or(0)) > MostAmount)
             return {Amount,
                     u"The amount of " + QLatin1String(Info(id).editCaption) +
                         u" is too large. Please enter a number up to 1,000,000.",

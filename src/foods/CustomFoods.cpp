@@ -8,7 +8,7 @@
 namespace {
 /// The catalogue holds the amounts of 100 grams, a custom food those of one serving. A serving that
 /// weighs 100 grams makes the same formula right for both.
-constexpr double servingGrams = 100;
+constexpr double ServingGrams = 100;
 
 QString FoodSQL(qint32 id) {
     return QStringLiteral("SELECT * FROM foods WHERE ID = ") + QString::number(id);
@@ -44,7 +44,7 @@ void CustomFoods::Save(qint32 id, const CustomFood& food) {
     Recordset row(FoodDB(), FoodSQL(id), Cursor::Dynamic, Lock::Optimistic);
     row.Set(QStringLiteral("FoodName"), food.name);
     row.Set(QStringLiteral("Serv_Desc_A"), food.serving);
-    row.Set(QStringLiteral("Serv_GM_WT_A"), servingGrams);
+    row.Set(QStringLiteral("Serv_GM_WT_A"), ServingGrams);
     food.amounts.WriteTo(row);
     row.Update();
 }

@@ -7,13 +7,13 @@
 #include <algorithm>
 
 namespace {
-constexpr int lastRowRead = 200;
+constexpr int LastRowRead = 200;
 
 /// All three statements give name, key and first serving at the same positions. Only a food has a
 /// second serving.
 void ReadSource(FoodList& foods, Connection& connection, const QString& source, bool recipes) {
     Recordset rows(connection, source);
-    const int last = std::min(rows.RecordCount() - 1, lastRowRead);
+    const int last = std::min(rows.RecordCount() - 1, LastRowRead);
     for (int row = 0; row <= last; ++row, rows.MoveNext())
         if (rows[1].IsKey())
             foods.Add(rows[0].Text(), recipes, rows[1].Integer(), rows[2].Value(),

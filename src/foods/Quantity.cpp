@@ -1,9 +1,9 @@
 #include "foods/Quantity.h"
 
-static constexpr double mostLogged = 99;
+static constexpr double MostLogged = 99;
 
 QString Quantity::LogRefusal(double quantity) {
-    return quantity == 0 || quantity > mostLogged
+    return quantity == 0 || quantity > MostLogged
                ? QStringLiteral("Please enter a quantity (QTY) between .1 and 99")
                : QString();
 }

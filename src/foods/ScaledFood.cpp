@@ -12,7 +12,7 @@
 
 namespace {
 
-constexpr double hundredGrams = 100;
+constexpr double HundredGrams = 100;
 
 /// The nearest number that the log can hold, where the calculation has overflowed.
 double Storable(double amount) {
@@ -71,7 +71,7 @@ ScaledFood ScaledFood::FromCatalogue(qint32 id, const QString& serv, double qty)
     const QString weight =
         serv == u"A" ? QStringLiteral("Serv_GM_WT_A") : QStringLiteral("Serv_GM_WT_B");
     ScaledFood item;
-    AddAmounts(item, row, 1, row[weight].NumberOr(hundredGrams), qty);
+    AddAmounts(item, row, 1, row[weight].NumberOr(HundredGrams), qty);
     const QString name = row[QStringLiteral("FoodName")].Text();
     const Field serving = row[QStringLiteral("Serv_Desc_") + serv];
     AddIdentity(item, name, serving.IsNull() ? QStringLiteral("100 grams") : serving.Text(),
@@ -81,7 +81,7 @@ ScaledFood ScaledFood::FromCatalogue(qint32 id, const QString& serv, double qty)
 
 ScaledFood ScaledFood::FromRecipe(qint32 recipeID, double qty) {
     ScaledFood item;
-    AddAmounts(item, Recordset(UserDB(), RecipeSumSQL(recipeID)), 0, hundredGrams, qty);
+    AddAmounts(item, Recordset(UserDB(), RecipeSumSQL(recipeID)), 0, HundredGrams, qty);
     const QString source = u"SELECT * FROM Recipes WHERE RecipeID = " + QString::number(recipeID);
     const Recordset row(UserDB(), source);
     AddIdentity(item, row[QStringLiteral("RecipeName")].Text(),

@@ -5,8 +5,8 @@
 #include "runtime/Val.h"
 
 namespace {
-constexpr int inchesInAFoot = 12;
-constexpr qint32 mostActive = 3;
+constexpr int InchesInAFoot = 12;
+constexpr qint32 MostActive = 3;
 
 bool IsAmong(qint32 value, qint32 last) {
     return value >= 0 && value <= last;
@@ -14,12 +14,12 @@ bool IsAmong(qint32 value, qint32 last) {
 } // namespace
 
 void Profile::SetHeight(qint32 height) {
-    inches = height % inchesInAFoot;
-    feet = QString::number(height / inchesInAFoot);
+    inches = height % InchesInAFoot;
+    feet = QString::number(height / InchesInAFoot);
 }
 
 double Profile::Height() const {
-    return inches + ToDouble(feet) * inchesInAFoot;
+    return inches + ToDouble(feet) * InchesInAFoot;
 }
 
 QString Profile::FirstProblem() const {
@@ -29,7 +29,7 @@ QString Profile::FirstProblem() const {
     } rules[] = {
         {userName.isEmpty(), "Please enter a User Name."},
         {Val(feet) <= 0 && inches <= 0, "Please enter your Height."},
-        {inches >= inchesInAFoot, "Please enter an Inches value of 11 or less."},
+        {inches >= InchesInAFoot, "Please enter an Inches value of 11 or less."},
         {age <= 0, "Please enter your Age."},
         {currentWeight <= 0, "Please enter your Current Weight."},
         {currentWeight > HeaviestWeight,
@@ -38,7 +38,7 @@ QString Profile::FirstProblem() const {
         {desiredWeight > HeaviestWeight,
          "Please enter a Desired Weight of 1,000,000 pounds or less."},
         {!IsAmong(gender, 1), "Please select your Gender."},
-        {!IsAmong(activityLevel, mostActive), "Please select your Activity Level."},
+        {!IsAmong(activityLevel, MostActive), "Please select your Activity Level."},
     };
     for (const auto& [broken, message] : rules)
         if (broken)

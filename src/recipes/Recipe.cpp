@@ -1,6 +1,6 @@
 #include "recipes/Recipe.h"
 
-static constexpr std::array<RecipeFieldInfo, RecipeFieldCount> fields{{
+static constexpr std::array<RecipeFieldInfo, RecipeFieldCount> Fields{{
     {RecipeField::Name, "RecipeName", "My Recipe", false},
     {RecipeField::Yield, "RecipeYield", "1", true},
     {RecipeField::Serving, "ServingName", "Plate", false},
@@ -9,5 +9,5 @@ static constexpr std::array<RecipeFieldInfo, RecipeFieldCount> fields{{
 }};
 
 const std::array<RecipeFieldInfo, RecipeFieldCount>& RecipeFields() {
-    return fields;
+    return Fields;
 }

@@ -8,7 +8,7 @@
 namespace {
 
 /// Tested in this order, and the message of the first that fails is shown. The time has no rule.
-constexpr RecipeCheck checks[] = {
+constexpr RecipeCheck Checks[] = {
     {RecipeField::Name, "^~", "Recipe name cannot contain the special characters '~' or '^'."},
     {RecipeField::Yield, "^~", "Recipe yield cannot contain the special characters '~' or '^'."},
     {RecipeField::Serving, "^~",
@@ -41,10 +41,10 @@ RecipeTexts RecipeTexts::OfNewRecipe() {
 
 const RecipeCheck* RecipeTexts::FirstFailed() const {
     const auto* found =
-        std::find_if(std::begin(checks), std::end(checks), [this](const RecipeCheck& check) {
+        std::find_if(std::begin(Checks), std::end(Checks), [this](const RecipeCheck& check) {
             return Fails(check, (*this)[check.field]);
         });
-    return found == std::end(checks) ? nullptr : found;
+    return found == std::end(Checks) ? nullptr : found;
 }
 
 Recipe RecipeTexts::Values() const {

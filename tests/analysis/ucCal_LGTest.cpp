@@ -26,8 +26,8 @@
 
 namespace {
 
-constexpr int headHeight = 22;
-const QColor line(180, 105, 12);
+constexpr int HeadHeight = 22;
+const QColor Line(180, 105, 12);
 
 class ucCal_LGTest : public HalvaneTest {
 protected:
@@ -175,9 +175,9 @@ TEST_F(ucCal_LGTest, DaysStandUnderTheirWeekdays) {
             const int column = QDate(2026, 8, day).dayOfWeek() % 7;
             EXPECT_NEAR(Cell(day)->x(), width * column + 1, 1.01) << day;
         }
-        const int first = headHeight + 1;
+        const int first = HeadHeight + 1;
         EXPECT_EQ(Cell(1)->y(), first);
-        EXPECT_NEAR(Cell(31)->y() - first, (Grid()->height() - headHeight) / 6.0 * 5, 1.5);
+        EXPECT_NEAR(Cell(31)->y() - first, (Grid()->height() - HeadHeight) / 6.0 * 5, 1.5);
     }
 }
 
@@ -195,14 +195,14 @@ TEST_F(ucCal_LGTest, NoCellCoversALineOrItsNeighbour) {
             const int height = Grid()->height();
             for (int column = 0; column <= 7; ++column) {
                 const int x = qMin(qRound(image.width() * column / 7.0), image.width() - 1);
-                for (int y = headHeight; y < height; ++y)
-                    ASSERT_EQ(image.pixelColor(x, y), line) << x << ',' << y << ' ' << grow;
+                for (int y = HeadHeight; y < height; ++y)
+                    ASSERT_EQ(image.pixelColor(x, y), Line) << x << ',' << y << ' ' << grow;
             }
             for (int row = 0; row <= 6; ++row) {
                 const int y =
-                    qMin(headHeight + qRound((height - headHeight) * row / 6.0), height - 1);
+                    qMin(HeadHeight + qRound((height - HeadHeight) * row / 6.0), height - 1);
                 for (int x = 0; x < image.width(); ++x)
-                    ASSERT_EQ(image.pixelColor(x, y), line) << x << ',' << y << ' ' << grow;
+                    ASSERT_EQ(image.pixelColor(x, y), Line) << x << ',' << y << ' ' << grow;
             }
         }
 }
@@ -388,13 +388,13 @@ TEST_F(ucCal_LGTest, TheChosenDayStandsInAFrameOfTwoPixels) {
     const int x = cell.center().x();
     const int y = cell.center().y();
     for (int i = -1; i <= 0; ++i) {
-        EXPECT_EQ(image.pixelColor(cell.left() + i, y), line);
-        EXPECT_EQ(image.pixelColor(cell.right() - i, y), line);
-        EXPECT_EQ(image.pixelColor(x, cell.top() + i), line);
-        EXPECT_EQ(image.pixelColor(x, cell.bottom() - i), line);
+        EXPECT_EQ(image.pixelColor(cell.left() + i, y), Line);
+        EXPECT_EQ(image.pixelColor(cell.right() - i, y), Line);
+        EXPECT_EQ(image.pixelColor(x, cell.top() + i), Line);
+        EXPECT_EQ(image.pixelColor(x, cell.bottom() - i), Line);
     }
-    EXPECT_NE(image.pixelColor(cell.left() + 1, y), line);
-    EXPECT_NE(image.pixelColor(cell.right() - 1, y), line);
+    EXPECT_NE(image.pixelColor(cell.left() + 1, y), Line);
+    EXPECT_NE(image.pixelColor(cell.right() - 1, y), Line);
 }
 
 TEST_F(ucCal_LGTest, AnotherMonthStandsOnItsFirstDayAndRaisesItsEnds) {

@@ -31,12 +31,12 @@ struct FieldRow {
     const char* column;
 };
 
-constexpr FieldRow nameRows[] = {
+constexpr FieldRow NameRows[] = {
     {"txtFoodName", "Food Name", "FoodName"},
     {"txtServing", "Serving", "Serv_Desc_A"},
 };
 
-constexpr FieldRow amountRows[] = {
+constexpr FieldRow AmountRows[] = {
     {"txtCals", "Calories", "Calories"},
     {"txtTotalFat", "Total Fat (g)", "TotalFat"},
     {"txtSatFat", "Saturated Fat (g)", "SatFat"},
@@ -69,18 +69,18 @@ constexpr FieldRow amountRows[] = {
     {"txtWater", "Water (g)", "water"},
     {"txtZinc", "Zinc (mg)", "Zinc"},
 };
-static_assert(std::size(amountRows) == NutrientCount);
+static_assert(std::size(AmountRows) == NutrientCount);
 
-const QString foodRefused =
+const QString FoodRefused =
     QStringLiteral("Food names cannot contain the special characters '~', '^' or \".");
-const QString servingRefused =
+const QString ServingRefused =
     QStringLiteral("Serving names cannot contain the special characters '~', '^' or \".");
-const QString noName = QStringLiteral("Please give your custom food a name.");
-const QString noServing = QStringLiteral("Please give your custom food a serving size.");
-const QString sureToDelete = QStringLiteral("Are you sure you want to delete this custom food?");
+const QString NoName = QStringLiteral("Please give your custom food a name.");
+const QString NoServing = QStringLiteral("Please give your custom food a serving size.");
+const QString SureToDelete = QStringLiteral("Are you sure you want to delete this custom food?");
 
 /// Texts that would break a statement put together from them.
-const QString sql[] = {QStringLiteral("x'; DROP TABLE FOODS; --"), QStringLiteral("' OR '1'='1"),
+const QString Sql[] = {QStringLiteral("x'; DROP TABLE FOODS; --"), QStringLiteral("' OR '1'='1"),
                        QStringLiteral("#3/4/2002# % _ [a] TOP 1"), QStringLiteral("O'Brien's")};
 
 } // namespace
@@ -133,7 +133,7 @@ protected:
         Press("cmdSave");
     }
     void Delete(bool answer = true) {
-        ExpectAlert(sureToDelete, answer);
+        ExpectAlert(SureToDelete, answer);
         Press("cmdDelete");
     }
 
@@ -190,15 +190,15 @@ TEST_F(frmFoodListTest, EveryFieldIsBesideItsCaption) {
         EXPECT_GE(caption->width(), caption->sizeHint().width()) << row.caption;
         EXPECT_NEAR(caption->geometry().center().y(), field.geometry().center().y(), 1);
     };
-    std::for_each(std::begin(nameRows), std::end(nameRows), expect);
-    std::for_each(std::begin(amountRows), std::end(amountRows), expect);
+    std::for_each(std::begin(NameRows), std::end(NameRows), expect);
+    std::for_each(std::begin(AmountRows), std::end(AmountRows), expect);
     EXPECT_EQ(screen_->findChildren<QLineEdit*>().size(), NutrientCount + 2);
 }
 
 TEST_F(frmFoodListTest, AnAmountHasRoomForSixFigures) {
     AddFood({.id = 23509, .name = "a", .nutrients = {{"Calories", 1}}});
     Open();
-    for (const FieldRow& row : amountRows) {
+    for (const FieldRow& row : AmountRows) {
         const QLineEdit& field = Field(row.field);
         EXPECT_GE(field.width() - 14, field.fontMetrics().horizontalAdvance("1234.5")) << row.field;
         EXPECT_LE(field.geometry().bottom(), field.parentWidget()->height());
@@ -211,9 +211,9 @@ TEST_F(frmFoodListTest, TabLeadsThroughListButtonsAndFieldsInReadingOrder) {
     Open();
     Type("txtFoodName", "b"); // turns all buttons on
     QStringList expected{"cmdNewBut", "cmdDelete"};
-    for (const FieldRow& row : nameRows)
+    for (const FieldRow& row : NameRows)
         expected << row.field;
-    for (const FieldRow& row : amountRows)
+    for (const FieldRow& row : AmountRows)
         expected << row.field;
     expected << "cmdSave"
              << "cmdCancel"
@@ -284,7 +284,7 @@ TEST_F(frmFoodListTest, ComingForwardAgainChangesNothing) {
 TEST_F(frmFoodListTest, AClickOnALineLoadsAllOfItsFields) {
     FoodRow food{.id = 23510, .name = "b", .servA = "2 slices"};
     double amount = 0.5;
-    for (const FieldRow& row : amountRows)
+    for (const FieldRow& row : AmountRows)
         food.nutrients[row.column] = amount++;
     AddFood(food);
     AddFood({.id = 23511, .name = "c"});
@@ -293,7 +293,7 @@ TEST_F(frmFoodListTest, AClickOnALineLoadsAllOfItsFields) {
     EXPECT_EQ(Field("txtFoodName").text(), "b");
     EXPECT_EQ(Field("txtServing").text(), "2 slices");
     amount = 0.5;
-    for (const FieldRow& row : amountRows) {
+    for (const FieldRow& row : AmountRows) {
         EXPECT_EQ(Field(row.field).text(), QString::number(amount)) << row.field;
         amount += 1;
     }
@@ -358,7 +358,7 @@ TEST_F(frmFoodListTest, NewShowsThePlaceholdersAndEmptyAmounts) {
     Press("cmdNewBut");
     EXPECT_EQ(Field("txtFoodName").text(), "New Food Name");
     EXPECT_EQ(Field("txtServing").text(), "Serving Size");
-    for (const FieldRow& row : amountRows)
+    for (const FieldRow& row : AmountRows)
         EXPECT_EQ(Field(row.field).text(), "");
     EXPECT_FALSE(screen_->Editing());
     ExpectMode(2);
@@ -464,13 +464,13 @@ TEST_F(frmFoodListTest, AmountsAreStoredAsTypedForAServingOfAHundredGrams) {
     Type("txtFoodName", "Muesli");
     Type("txtServing", "1 bowl");
     double amount = 0.25;
-    for (const FieldRow& row : amountRows) {
+    for (const FieldRow& row : AmountRows) {
         Type(row.field, QString::number(amount));
         amount += 1;
     }
     Press("cmdSave");
     amount = 0.25;
-    for (const FieldRow& row : amountRows) {
+    for (const FieldRow& row : AmountRows) {
         EXPECT_EQ(Stored(row.column).toDouble(), amount) << row.column;
         amount += 1;
     }
@@ -521,7 +521,7 @@ TEST_F(frmFoodListTest, SavingAnotherNameKeepsEveryAmountToTheLastDigit) {
 TEST_F(frmFoodListTest, AnEmptyAmountComesBackAsZero) {
     Open();
     SaveNew("Muesli");
-    for (const FieldRow& row : amountRows)
+    for (const FieldRow& row : AmountRows)
         EXPECT_EQ(Field(row.field).text(), "0") << row.field;
 }
 
@@ -639,10 +639,10 @@ TEST_F(frmFoodListTest, EachRefusedCharacterIsRefusedInTheNameTypedAndPasted) {
         Press("cmdNewBut");
         Type("txtFoodName", text);
         EXPECT_EQ(Field("txtFoodName").text(), text);
-        ExpectAlert(foodRefused);
+        ExpectAlert(FoodRefused);
         Press("cmdSave");
         Paste("txtFoodName", text);
-        ExpectAlert(foodRefused);
+        ExpectAlert(FoodRefused);
         Press("cmdSave");
         ExpectMode(2);
         EXPECT_EQ(Field("txtFoodName").text(), text);
@@ -655,10 +655,10 @@ TEST_F(frmFoodListTest, EachRefusedCharacterIsRefusedInTheServingTypedAndPasted)
     for (const char* text : {"1^2", "~1 cup", "8\""}) {
         Press("cmdNewBut");
         Type("txtServing", text);
-        ExpectAlert(servingRefused);
+        ExpectAlert(ServingRefused);
         Press("cmdSave");
         Paste("txtServing", text);
-        ExpectAlert(servingRefused);
+        ExpectAlert(ServingRefused);
         Press("cmdSave");
     }
     EXPECT_EQ(CustomCount(), 0);
@@ -668,7 +668,7 @@ TEST_F(frmFoodListTest, RefusedCharactersInAnAmountMakeItZero) {
     Open();
     SaveNew("Muesli");
     for (const char* text : {"^5", "~5", "\"5\""})
-        for (const FieldRow& row : amountRows) {
+        for (const FieldRow& row : AmountRows) {
             Type(row.field, text);
             Press("cmdSave");
             EXPECT_EQ(Stored(row.column).toDouble(), 0) << row.field << text;
@@ -678,7 +678,7 @@ TEST_F(frmFoodListTest, RefusedCharactersInAnAmountMakeItZero) {
 TEST_F(frmFoodListTest, AnAmountBeyondAMillionIsRefusedInEachField) {
     Open();
     SaveNew("Muesli");
-    for (const FieldRow& row : amountRows)
+    for (const FieldRow& row : AmountRows)
         for (const char* text : {"1000000.5", "-3000000000", "1e300"}) {
             Type(row.field, text);
             ExpectAlert("The amount of " + QString(row.caption) +
@@ -697,12 +697,12 @@ TEST_F(frmFoodListTest, AnEmptyNameOrServingIsRefused) {
     Open();
     Press("cmdNewBut");
     Type("txtFoodName", "");
-    ExpectAlert(noName);
+    ExpectAlert(NoName);
     Press("cmdSave");
     EXPECT_TRUE(Field("txtFoodName").hasFocus());
     Type("txtFoodName", "Muesli");
     Type("txtServing", "");
-    ExpectAlert(noServing);
+    ExpectAlert(NoServing);
     Press("cmdSave");
     EXPECT_TRUE(Field("txtServing").hasFocus());
     EXPECT_EQ(CustomCount(), 0);
@@ -721,13 +721,13 @@ TEST_F(frmFoodListTest, OnlyTheFirstRefusalIsShown) {
     Press("cmdNewBut");
     Field("txtFoodName").setText("~");
     Field("txtServing").setText("^");
-    ExpectAlert(foodRefused);
+    ExpectAlert(FoodRefused);
     Press("cmdSave");
     Field("txtFoodName").clear();
-    ExpectAlert(servingRefused);
+    ExpectAlert(ServingRefused);
     Press("cmdSave");
     Field("txtServing").clear();
-    ExpectAlert(noName);
+    ExpectAlert(NoName);
     Press("cmdSave");
 }
 
@@ -736,7 +736,7 @@ TEST_F(frmFoodListTest, ARefusedEditLeavesTheStoredFoodAsItWas) {
     Open();
     Type("txtCals", "6");
     Type("txtFoodName", "a~");
-    ExpectAlert(foodRefused);
+    ExpectAlert(FoodRefused);
     Press("cmdSave");
     EXPECT_EQ(Stored("Calories").toDouble(), 5);
     EXPECT_TRUE(On("cmdSave"));
@@ -746,7 +746,7 @@ TEST_F(frmFoodListTest, ARefusedEditLeavesTheStoredFoodAsItWas) {
 
 TEST_F(frmFoodListTest, ApostrophesAndSqlAreOrdinaryText) {
     Open();
-    for (const QString& text : sql) {
+    for (const QString& text : Sql) {
         Press("cmdNewBut");
         for (const QLineEdit* field : screen_->findChildren<QLineEdit*>())
             Paste(qPrintable(field->objectName()), text);
@@ -754,11 +754,11 @@ TEST_F(frmFoodListTest, ApostrophesAndSqlAreOrdinaryText) {
         const qint32 id = screen_->CurrentID();
         EXPECT_EQ(Stored("FoodName", id), text);
         EXPECT_EQ(Stored("Serv_Desc_A", id), text);
-        for (const FieldRow& row : amountRows)
+        for (const FieldRow& row : AmountRows)
             EXPECT_EQ(Stored(row.column, id).toDouble(), 0) << row.column;
         EXPECT_EQ(Field("txtFoodName").text(), text);
     }
-    EXPECT_EQ(CustomCount(), int(std::size(sql)));
+    EXPECT_EQ(CustomCount(), int(std::size(Sql)));
 }
 
 TEST_F(frmFoodListTest, NamesOfTenThousandCharactersAreKeptWhole) {
@@ -806,7 +806,7 @@ TEST_F(frmFoodListTest, TenThousandCharactersInEveryFieldAreSavedAndDeleted) {
     Press("cmdSave");
     EXPECT_EQ(Stored("FoodName"), text);
     EXPECT_EQ(Stored("Serv_Desc_A"), text);
-    for (const FieldRow& row : amountRows)
+    for (const FieldRow& row : AmountRows)
         EXPECT_EQ(Stored(row.column).toDouble(), 7) << row.column;
     Delete();
     EXPECT_EQ(CustomCount(), 0);
@@ -841,7 +841,7 @@ TEST_F(frmFoodListTest, NothingIsChangedOrDeletedInAStoreThatCannotBeWritten) {
     EXPECT_EQ(FailureOf([this] { Q_EMIT Button("cmdSave").Click(); }), -8);
     EXPECT_EQ(Field("txtFoodName").text(), "b");
     EXPECT_TRUE(On("cmdSave") && On("cmdCancel"));
-    ExpectAlert(sureToDelete);
+    ExpectAlert(SureToDelete);
     EXPECT_EQ(FailureOf([this] { Q_EMIT Button("cmdDelete").Click(); }), -8);
     EXPECT_EQ(List().ListIndex(), 0);
     EXPECT_FALSE(MousePointer::IsBusy());
@@ -909,7 +909,7 @@ TEST_F(frmFoodListTest, AFoodIsMadeChangedAndDeletedByKeyboardAlone) {
     key(Qt::Key_Return);
     EXPECT_EQ(Field("txtZinc").text(), "0");
     tabTo("cmdDelete");
-    ExpectAlert(sureToDelete);
+    ExpectAlert(SureToDelete);
     key(Qt::Key_Return);
     EXPECT_EQ(CustomCount(), 0);
     EXPECT_EQ(QApplication::focusWidget()->objectName(), "cmdNewBut");

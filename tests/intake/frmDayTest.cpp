@@ -29,13 +29,13 @@
 
 namespace {
 
-const QString invalidWeight =
+const QString InvalidWeight =
     "Please enter a valid weight greater than '0'. To remove the weight entry for this day, delete "
     "the entry from the weight field.";
-const QString tooHeavy =
+const QString TooHeavy =
     "Please enter a weight of 1,000,000 pounds or less. To remove the weight entry for this day, "
     "delete the entry from the weight field.";
-const QString askClear = "Are you sure you wish to remove all foods from your daily intake?";
+const QString AskClear = "Are you sure you wish to remove all foods from your daily intake?";
 
 } // namespace
 
@@ -226,7 +226,7 @@ TEST_F(frmDayTest, WeightsOfZeroOrLessAreRefusedAndLeaveTheTextInTheField) {
     Open();
     for (const char* text :
          {"0", "-1", "abc", "1e400", " ", "lb 150", "0.0", "'; DROP TABLE x; --"}) {
-        ExpectAlert(invalidWeight);
+        ExpectAlert(InvalidWeight);
         Enter(text);
         EXPECT_EQ(Weight()->text(), text);
         EXPECT_FALSE(Weight()->hasFocus());
@@ -238,7 +238,7 @@ TEST_F(frmDayTest, WeightsOfZeroOrLessAreRefusedAndLeaveTheTextInTheField) {
 TEST_F(frmDayTest, AWeightAboveAMillionHasAMessageOfItsOwn) {
     Open();
     for (const char* text : {"1000000.5", "1000001", "99999999999", "1e300"}) {
-        ExpectAlert(tooHeavy);
+        ExpectAlert(TooHeavy);
         Enter(text);
         EXPECT_EQ(Weight()->text(), text);
         EXPECT_EQ(WeightRows(), 0) << text;
@@ -249,9 +249,9 @@ TEST_F(frmDayTest, AWeightAboveAMillionHasAMessageOfItsOwn) {
 
 TEST_F(frmDayTest, RefusedWeightIsTestedAgainAtTheNextChangeOfFocus) {
     Open();
-    ExpectAlert(invalidWeight);
+    ExpectAlert(InvalidWeight);
     Enter("abc");
-    ExpectAlert(invalidWeight);
+    ExpectAlert(InvalidWeight);
     Weight()->setFocus();
     CalendarButton()->setFocus();
 }
@@ -259,7 +259,7 @@ TEST_F(frmDayTest, RefusedWeightIsTestedAgainAtTheNextChangeOfFocus) {
 TEST_F(frmDayTest, TenThousandLettersOrDigitsAreRefused) {
     Open();
     for (const QChar letter : {u'x', u'9'}) {
-        ExpectAlert(invalidWeight);
+        ExpectAlert(InvalidWeight);
         Weight()->setFocus();
         Weight()->setText(QString(10000, letter));
         CalendarButton()->setFocus();
@@ -569,7 +569,7 @@ TEST_F(frmDayTest, ScreenCanGoWhileTheCalendarIsOpen) {
 TEST_F(frmDayTest, ClearAsksFirst) {
     Log("Oats", "Breakfast");
     Open();
-    ExpectAlert(askClear, false);
+    ExpectAlert(AskClear, false);
     Click(Button("cmdClear"));
     EXPECT_EQ(LogCount(), 1);
     EXPECT_EQ(Names(screen.get()), QStringList{"Oats"});
@@ -583,7 +583,7 @@ TEST_F(frmDayTest, ClearRemovesOnlyTheFoodsOfThisDayAndUser) {
     Log("Ben's", "Lunch");
     Log("Ben's other", "Lunch");
     Open();
-    ExpectAlert(askClear);
+    ExpectAlert(AskClear);
     Click(Button("cmdClear"));
     EXPECT_EQ(LogCount(), 6);
     EXPECT_EQ(LogCount("UID = " + QString::number(User::Current().UID)), 0);
@@ -593,7 +593,7 @@ TEST_F(frmDayTest, ClearRemovesOnlyTheFoodsOfThisDayAndUser) {
 TEST_F(frmDayTest, TotalsFollowTheClearing) {
     Log("Oats", "Breakfast", day, 250);
     Open();
-    ExpectAlert(askClear);
+    ExpectAlert(AskClear);
     Click(Button("cmdClear"));
     EXPECT_EQ(Bar(1), "..............................0");
 }
@@ -601,7 +601,7 @@ TEST_F(frmDayTest, TotalsFollowTheClearing) {
 TEST_F(frmDayTest, ClearingADayWithoutRowsDoesNothingButRedraw) {
     Open();
     Log("Late", "Lunch", day.addDays(1));
-    ExpectAlert(askClear);
+    ExpectAlert(AskClear);
     Click(Button("cmdClear"));
     EXPECT_EQ(LogCount(), 1);
 }

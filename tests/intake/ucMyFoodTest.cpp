@@ -48,12 +48,12 @@ protected:
     ucMyFood list{&window};
 };
 
-static const char* const headingNames[] = {"lblBreakfast", "lblLunch", "lblDinner", "lblSnack"};
+static const char* const HeadingNames[] = {"lblBreakfast", "lblLunch", "lblDinner", "lblSnack"};
 
 TEST_F(ucMyFoodTest, DrawsNothingUntilADateIsSet) {
     Log("Oats", "Breakfast");
     list.DisplayFoods();
-    for (const char* name : headingNames)
+    for (const char* name : HeadingNames)
         EXPECT_FALSE(Heading(name)->isVisible()) << name;
     EXPECT_TRUE(Lines(&list).isEmpty());
 }
@@ -62,10 +62,10 @@ TEST_F(ucMyFoodTest, DayWithoutFoodShowsFourHeadingsEachWithABlankLineUnderIt) {
     list.setDate(day);
     const int step = Heading("lblLunch")->height() + TheStyle().tallRowHeight;
     for (int i = 0; i < 4; ++i) {
-        EXPECT_TRUE(Heading(headingNames[i])->isVisible());
-        EXPECT_EQ(Heading(headingNames[i])->y(), i == 0 ? Twips::ToPixels(-15) : i * step);
-        EXPECT_EQ(Heading(headingNames[i])->x(), Twips::ToPixels(-15));
-        EXPECT_EQ(Heading(headingNames[i])->width(), Pane()->width());
+        EXPECT_TRUE(Heading(HeadingNames[i])->isVisible());
+        EXPECT_EQ(Heading(HeadingNames[i])->y(), i == 0 ? Twips::ToPixels(-15) : i * step);
+        EXPECT_EQ(Heading(HeadingNames[i])->x(), Twips::ToPixels(-15));
+        EXPECT_EQ(Heading(HeadingNames[i])->width(), Pane()->width());
     }
     EXPECT_TRUE(Lines(&list).isEmpty());
 }
@@ -73,7 +73,7 @@ TEST_F(ucMyFoodTest, DayWithoutFoodShowsFourHeadingsEachWithABlankLineUnderIt) {
 TEST_F(ucMyFoodTest, HeadingsCarryTheMealsNames) {
     const QStringList captions{"Breakfast", "Lunch", "Dinner", "Snacks"};
     for (int i = 0; i < 4; ++i)
-        EXPECT_EQ(Heading(headingNames[i])->property("Caption"), captions[i]);
+        EXPECT_EQ(Heading(HeadingNames[i])->property("Caption"), captions[i]);
 }
 
 TEST_F(ucMyFoodTest, LinesStandUnderTheirMealInTheOrderOfEntry) {
@@ -433,7 +433,7 @@ TEST_F(ucMyFoodTest, ClickOnAHeadingAsksToAddToItsMeal) {
     list.setDate(day);
     QSignalSpy asked(&list, &ucMyFood::AddRequested);
     for (int i = 0; i < 4; ++i) {
-        Click(Heading(headingNames[i]));
+        Click(Heading(HeadingNames[i]));
         ASSERT_EQ(asked.size(), i + 1);
         EXPECT_EQ(asked[i][0].toInt(), i);
     }
@@ -486,9 +486,9 @@ TEST_F(ucMyFoodTest, HeadingUnderThePointerTurnsWhiteAndTheOthersRest) {
     list.setDate(day);
     const QColor rest(180, 105, 12);
     QSignalSpy moved(&list, &ucMyFood::MouseMove);
-    for (const char* under : headingNames) {
+    for (const char* under : HeadingNames) {
         Hover(Heading(under));
-        for (const char* name : headingNames)
+        for (const char* name : HeadingNames)
             EXPECT_EQ(Heading(name)->ForeColor(), name == under ? QColor(Qt::white) : rest);
     }
     EXPECT_EQ(moved.size(), 4);

@@ -22,8 +22,8 @@
 /// The delivered files and one person, without a window, a display or an application object.
 class KnowledgeTest : public ::testing::Test {
 protected:
-    static constexpr int lunch = 1;
-    static constexpr qint32 stockFood = 23508;
+    static constexpr int Lunch = 1;
+    static constexpr qint32 StockFood = 23508;
 
     void SetUp() override {
         ResetApp();
@@ -66,11 +66,11 @@ protected:
         texts[RecipeField::Yield] = "4";
         EXPECT_EQ(RecipeBook::SaveRecipe(soup, texts), nullptr);
         for (const double quantity : {1.0, 2.5})
-            RecipeBook::AddIngredient(soup, ScaledFood::FromCatalogue(stockFood, "A", quantity));
+            RecipeBook::AddIngredient(soup, ScaledFood::FromCatalogue(StockFood, "A", quantity));
         return soup;
     }
     static double StockCalories() {
-        return ScaledFood::FromCatalogue(stockFood, "A", 1).Amount("Calories");
+        return ScaledFood::FromCatalogue(StockFood, "A", 1).Amount("Calories");
     }
 
     const QDate day_{2002, 3, 4};
@@ -82,8 +82,8 @@ TEST_F(KnowledgeTest, AFoodIsFoundLoggedSummedAndRemoved) {
     ASSERT_GT(found.Count(), 0);
     const ScaledFood lentils = ScaledFood::FromCatalogue(found.Item(1).ID, "A", 2);
     ASSERT_GT(lentils.Amount("Calories"), 0);
-    DayLog::AddFood(lentils, Meals::Names[lunch], day_);
-    const std::vector<LoggedFood> logged = DayLog::FoodsOf(lunch, day_);
+    DayLog::AddFood(lentils, Meals::Names[Lunch], day_);
+    const std::vector<LoggedFood> logged = DayLog::FoodsOf(Lunch, day_);
     ASSERT_EQ(logged.size(), 1U);
     EXPECT_EQ(logged[0].name, found.Item(1).FoodName);
     EXPECT_EQ(logged[0].serving, lentils.Text("SERVING"));
@@ -93,7 +93,7 @@ TEST_F(KnowledgeTest, AFoodIsFoundLoggedSummedAndRemoved) {
     EXPECT_EQ(totals->Calories(), Round(lentils.Amount("Calories")));
     EXPECT_DOUBLE_EQ(totals->Protein(), lentils.Amount("Protein"));
     DayLog::RemoveFood(logged[0].RecID);
-    EXPECT_TRUE(DayLog::FoodsOf(lunch, day_).empty());
+    EXPECT_TRUE(DayLog::FoodsOf(Lunch, day_).empty());
     EXPECT_FALSE(LoggedSums::OfDay(day_));
 }
 
@@ -105,8 +105,8 @@ TEST_F(KnowledgeTest, ARecipeIsMadeOfIngredientsAndLoggedAsTheirSum) {
     const double calories = 3.5 * StockCalories();
     EXPECT_EQ(RecipeBook::CaloriesPerServing(soup, "4"),
               QString("Calories: %1 per serving").arg(Round(calories / 4)));
-    DayLog::AddFood(ScaledFood::FromRecipe(soup, 2), Meals::Names[lunch], day_);
-    EXPECT_EQ(DayLog::FoodsOf(lunch, day_).at(0).name, "Soup");
+    DayLog::AddFood(ScaledFood::FromRecipe(soup, 2), Meals::Names[Lunch], day_);
+    EXPECT_EQ(DayLog::FoodsOf(Lunch, day_).at(0).name, "Soup");
     EXPECT_EQ(LoggedSums::OfDay(day_)->Calories(), Round(2 * calories));
 }
 

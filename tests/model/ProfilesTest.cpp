@@ -5,9 +5,9 @@
 #include "support/HalvaneTest.h"
 
 namespace {
-const QString takenNew = "A user with this name already exists in the database. Please select a "
+const QString TakenNew = "A user with this name already exists in the database. Please select a "
                          "different User Name.";
-const QString takenChange = "A user with this name already exists in the database. Please enter a "
+const QString TakenChange = "A user with this name already exists in the database. Please enter a "
                             "different User Name.";
 
 Profile Berta() {
@@ -189,14 +189,14 @@ TEST_F(ProfilesTest, AKeyWithoutARowFails) {
 TEST_F(ProfilesTest, ANameThatIsTakenIsAProblemWithANewProfile) {
     EXPECT_EQ(Profiles::ProblemWithNew(Berta()), "");
     AddUser("BERTA");
-    EXPECT_EQ(Profiles::ProblemWithNew(Berta()), takenNew);
+    EXPECT_EQ(Profiles::ProblemWithNew(Berta()), TakenNew);
 }
 
 TEST_F(ProfilesTest, ANameThatSomebodyElseHasIsAProblemWithAChange) {
     const qint32 berta = AddUser("Berta");
     EXPECT_EQ(Profiles::ProblemWithChange(berta, Berta()), "");
     const qint32 anna = AddUser("Anna");
-    EXPECT_EQ(Profiles::ProblemWithChange(anna, Berta()), takenChange);
+    EXPECT_EQ(Profiles::ProblemWithChange(anna, Berta()), TakenChange);
 }
 
 TEST_F(ProfilesTest, TheOtherRulesComeBeforeTheName) {

@@ -21,15 +21,15 @@
 #include <QTest>
 
 namespace {
-const QString created =
+const QString Created =
     "Your profile has been created. The RDI values created should be used only as guidelines. You "
     "can edit these values by using the 'Edit My Profile' feature (under the 'Edit' menu).";
-const QString quitQuestion =
+const QString QuitQuestion =
     "You must create a user profile to use Halvane. Are you sure you wish to quit without creating "
     "your profile?";
-const QString takenNew = "A user with this name already exists in the database. Please select a "
+const QString TakenNew = "A user with this name already exists in the database. Please select a "
                          "different User Name.";
-const QString takenEdit = "A user with this name already exists in the database. Please enter a "
+const QString TakenEdit = "A user with this name already exists in the database. Please enter a "
                           "different User Name.";
 
 class ProfileTest : public HalvaneTest {
@@ -375,12 +375,12 @@ TEST_F(ProfileTest, AgesFromHalfAYearTo999AreStored) {
 
 TEST_F(ProfileTest, ATakenNameIsRefusedForANewUser) {
     AddUser("Berta");
-    ExpectRefusal(Fresh(), takenNew);
+    ExpectRefusal(Fresh(), TakenNew);
 }
 
 TEST_F(ProfileTest, NamesAreComparedWithoutCase) {
     AddUser("BERTA");
-    ExpectRefusal(Fresh(), takenNew);
+    ExpectRefusal(Fresh(), TakenNew);
 }
 
 TEST_F(ProfileTest, OtherProblemsAreReportedBeforeATakenName) {
@@ -394,7 +394,7 @@ TEST_F(ProfileTest, ATakenNameIsReportedBeforeMissingFeet) {
     AddUser("Berta");
     frmProfile* form = Fresh();
     Type(form, "txtFeet", "");
-    ExpectRefusal(form, takenNew);
+    ExpectRefusal(form, TakenNew);
 }
 
 TEST_F(ProfileTest, NamesAreStoredAsTyped) {
@@ -447,7 +447,7 @@ TEST_F(ProfileTest, StatementsInANameDoNoHarm) {
         EXPECT_EQ(Profiles(), 1) << name;
     }
     Type(form, "txtUserName", "x' OR '1'='1");
-    ExpectRefusal(form, takenNew);
+    ExpectRefusal(form, TakenNew);
 }
 
 TEST_F(ProfileTest, AnEmbeddedNulIsRefusedByTheStoreAndWritesNothing) {
@@ -674,7 +674,7 @@ TEST_F(ProfileTest, RenamingToAnotherUsersNameIsRefused) {
     AddUser("Bert");
     frmProfile* form = Edit(anna);
     Type(form, "txtUserName", "bert");
-    ExpectRefusal(form, takenEdit);
+    ExpectRefusal(form, TakenEdit);
 }
 
 TEST_F(ProfileTest, KeepingTheOwnNameIsAllowed) {
@@ -904,7 +904,7 @@ TEST_F(ProfileTest, AfterADragTheFormStays) {
 // The first user
 
 TEST_F(ProfileTest, TheFirstUserIsAskedInAModalWindowInTheMiddle) {
-    ExpectAlert(quitQuestion, true);
+    ExpectAlert(QuitQuestion, true);
     WithModal(
         [](QWidget* form) {
             EXPECT_EQ(form->objectName(), QStringLiteral("frmProfile"));
@@ -939,7 +939,7 @@ TEST_F(ProfileTest, TheFirstUserBecomesTheCurrentOneAndSeesTheProgram) {
             EXPECT_FALSE(form->isVisible());
         },
         [] { frmProfile::CreateFirstUser(); });
-    EXPECT_EQ(calls, QStringList({"home", "frmMain", created}));
+    EXPECT_EQ(calls, QStringList({"home", "frmMain", Created}));
     EXPECT_EQ(Profiles(), 1);
     EXPECT_EQ(User::Current().UID, Stored("UID").toInt());
     EXPECT_EQ(User::Current().UserName, QStringLiteral("Berta"));
@@ -949,7 +949,7 @@ TEST_F(ProfileTest, TheFirstUserBecomesTheCurrentOneAndSeesTheProgram) {
 
 TEST_F(ProfileTest, TheRulesHoldForTheFirstUserToo) {
     ExpectAlert("Please enter a User Name.");
-    ExpectAlert(quitQuestion, true);
+    ExpectAlert(QuitQuestion, true);
     WithModal(
         [](QWidget* form) {
             Click(Find(form, "cmdSave"));
@@ -968,7 +968,7 @@ TEST_F(ProfileTest, CancellingTheFirstProfileEndsTheProcessAfterAQuestion) {
         [&](QWidget* form) {
             QList<bool> answers = {false, true};
             TheSeams().ShowAlert = [&](const QString& message, QObject* owner, bool cancel) {
-                EXPECT_EQ(message, quitQuestion);
+                EXPECT_EQ(message, QuitQuestion);
                 EXPECT_EQ(owner, &home);
                 EXPECT_TRUE(cancel);
                 return answers.takeFirst();
@@ -985,9 +985,9 @@ TEST_F(ProfileTest, CancellingTheFirstProfileEndsTheProcessAfterAQuestion) {
 }
 
 TEST_F(ProfileTest, ClosingTheFirstProfileInAnyOtherWayAsksToo) {
-    ExpectAlert(quitQuestion, false);
-    ExpectAlert(quitQuestion, false);
-    ExpectAlert(quitQuestion, true);
+    ExpectAlert(QuitQuestion, false);
+    ExpectAlert(QuitQuestion, false);
+    ExpectAlert(QuitQuestion, true);
     WithModal(
         [this](QWidget* form) {
             form->close();

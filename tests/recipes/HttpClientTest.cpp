@@ -17,8 +17,8 @@
 #include <gtest/gtest.h>
 
 namespace {
-constexpr qint64 plenty = 1024 * 1024;
-const QByteArray chunked = "HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n";
+constexpr qint64 Plenty = 1024 * 1024;
+const QByteArray Chunked = "HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n";
 using std::chrono::milliseconds;
 } // namespace
 
@@ -28,7 +28,7 @@ protected:
     HttpClient http;
 
     int Failure(const QString& path) {
-        return FailureOf([&] { http.Get(server.Address() + path, plenty); });
+        return FailureOf([&] { http.Get(server.Address() + path, Plenty); });
     }
 };
 
@@ -40,7 +40,7 @@ TEST_F(HttpClientTest, GivesStatusAndBodyWhateverTheStatus) {
     for (const int status : {200, 201, 204, 302, 400, 403, 404, 409, 413, 429, 500, 503, 599}) {
         const QByteArray body = status == 204 ? QByteArray() : QByteArray::number(status);
         server.Tell("GET /page", status, body);
-        const HttpReply reply = http.Get(server.Address() + "/page", plenty);
+        const HttpReply reply = http.Get(server.Address() + "/page", Plenty);
         EXPECT_EQ(reply.status, status);
         EXPECT_EQ(reply.body, body);
     }
@@ -49,13 +49,13 @@ TEST_F(HttpClientTest, GivesStatusAndBodyWhateverTheStatus) {
 TEST_F(HttpClientTest, FollowsNoRedirection) {
     server.Tell("GET /page", ScriptedServer::Raw("HTTP/1.1 302 Found\r\nLocation: /other\r\n"
                                                  "Content-Length: 0\r\n\r\n"));
-    EXPECT_EQ(http.Get(server.Address() + "/page", plenty).status, 302);
+    EXPECT_EQ(http.Get(server.Address() + "/page", Plenty).status, 302);
     EXPECT_EQ(server.Lines(), QStringList("GET /page"));
 }
 
 TEST_F(HttpClientTest, PostsJsonWithItsLengthAndToken) {
     server.Tell("POST /page", 201, "{}");
-    EXPECT_EQ(http.PostJson(server.Address() + "/page", R"({"a":1})", "secret", plenty).status,
+    EXPECT_EQ(http.PostJson(server.Address() + "/page", R"({"a":1})", "secret", Plenty).status,
               201);
     const ScriptedServer::Request& request = server.Requests().first();
     EXPECT_EQ(request.body, R"({"a":1})");
@@ -67,14 +67,14 @@ TEST_F(HttpClientTest, PostsJsonWithItsLengthAndToken) {
 
 TEST_F(HttpClientTest, SendsNoAuthorizationWithoutAToken) {
     server.Tell("POST /page", 201, "{}");
-    http.PostJson(server.Address() + "/page", "{}", "", plenty);
+    http.PostJson(server.Address() + "/page", "{}", "", Plenty);
     EXPECT_FALSE(server.Requests().first().headers.contains("authorization"));
 }
 
 TEST_F(HttpClientTest, ABodyIsNotSentAgainIfTheReplyIsLost) {
     server.Tell("POST /page", ScriptedServer::Raw(""));
     EXPECT_NE(FailureOf([&] {
-                  http.PostJson(server.Address() + "/page", QByteArray(100000, 'x'), "t", plenty);
+                  http.PostJson(server.Address() + "/page", QByteArray(100000, 'x'), "t", Plenty);
               }),
               0);
     EXPECT_EQ(server.Requests().size(), 1);
@@ -96,19 +96,19 @@ TEST_F(HttpClientTest, WithoutContentLengthTheReplyEndsWithTheConnection) {
     for (const char* head : {"HTTP/1.1 200 OK\r\n\r\n", "HTTP/1.0 200 OK\r\n\r\n",
                              "HTTP/1.1 200 OK\r\nConnection: close\r\n\r\n"}) {
         server.Tell("GET /page", ScriptedServer::Raw(head + QByteArray("Sent.")));
-        EXPECT_EQ(http.Get(server.Address() + "/page", plenty).body, "Sent.") << head;
+        EXPECT_EQ(http.Get(server.Address() + "/page", Plenty).body, "Sent.") << head;
         server.Tell("GET /page", ScriptedServer::Raw(head));
-        EXPECT_EQ(http.Get(server.Address() + "/page", plenty).body, "") << head;
+        EXPECT_EQ(http.Get(server.Address() + "/page", Plenty).body, "") << head;
     }
 }
 
 TEST_F(HttpClientTest, AChunkedReplyIsAccepted) {
-    server.Tell("GET /page", ScriptedServer::Raw(chunked + "2\r\nSe\r\n3\r\nnt.\r\n0\r\n\r\n"));
-    EXPECT_EQ(http.Get(server.Address() + "/page", plenty).body, "Sent.");
+    server.Tell("GET /page", ScriptedServer::Raw(Chunked + "2\r\nSe\r\n3\r\nnt.\r\n0\r\n\r\n"));
+    EXPECT_EQ(http.Get(server.Address() + "/page", Plenty).body, "Sent.");
 }
 
 TEST_F(HttpClientTest, AChunkThatIsCutShortFails) {
-    server.Tell("GET /page", ScriptedServer::Raw(chunked + "5\r\nSen"));
+    server.Tell("GET /page", ScriptedServer::Raw(Chunked + "5\r\nSen"));
     EXPECT_EQ(Failure("/page"), ErrorNumber::ServiceFailed);
 }
 
@@ -155,7 +155,7 @@ TEST_F(HttpClientTest, FailsIfNobodyListens) {
     }
     for (const QString& nowhere : {address, QString("http://"), QString("nonsense"), QString(),
                                    QString("ftp://127.0.0.1"), QString("http://no.such.invalid")})
-        EXPECT_EQ(FailureOf([&] { http.Get(nowhere + "/page", plenty); }),
+        EXPECT_EQ(FailureOf([&] { http.Get(nowhere + "/page", Plenty); }),
                   ErrorNumber::ServiceFailed)
             << nowhere.toStdString();
 }
@@ -164,7 +164,7 @@ TEST_F(HttpClientTest, IsUsableAgainAfterAFailure) {
     server.Tell("GET /page", ScriptedServer::Raw("HTTP/1.1 200 OK\r\nContent-Length: 9\r\n\r\nh"));
     EXPECT_NE(Failure("/page"), 0);
     server.Tell("GET /page", 200, "there");
-    EXPECT_EQ(http.Get(server.Address() + "/page", plenty).body, "there");
+    EXPECT_EQ(http.Get(server.Address() + "/page", Plenty).body, "there");
 }
 
 // The interface while it waits
@@ -182,7 +182,7 @@ TEST_F(HttpClientTest, RepaintsButDropsInputWhileItWaits) {
         field.close();
         ScriptedServer::Raw("HTTP/1.1 200 OK\r\nContent-Length: 2\r\n\r\nok")(socket);
     });
-    EXPECT_EQ(http.Get(server.Address() + "/page", plenty).body, "ok");
+    EXPECT_EQ(http.Get(server.Address() + "/page", Plenty).body, "ok");
     EXPECT_TRUE(typed);
     EXPECT_TRUE(field.isVisible());
     QApplication::processEvents();
@@ -236,7 +236,7 @@ protected:
         ScriptedServer server(tls);
         server.Tell("GET /page", 200, "secret");
         HttpClient http;
-        return http.Get(server.Address() + "/page", plenty);
+        return http.Get(server.Address() + "/page", Plenty);
     }
 
     QTemporaryDir folder;

@@ -16,8 +16,8 @@
 
 namespace {
 
-constexpr int busy = -5;
-constexpr int readOnly = -8;
+constexpr int Busy = -5;
+constexpr int ReadOnly = -8;
 
 } // namespace
 
@@ -289,7 +289,7 @@ TEST_F(RecipeScreenTest, ASaveIntoALockedStoreLosesNothingAndSucceedsLater) {
     const auto before = Everything();
     SQLite::Database other(UserDB().Path().toStdString(), SQLite::OPEN_READWRITE);
     other.exec("BEGIN IMMEDIATE");
-    EXPECT_EQ(FailureOfPress("cmdEdit"), busy);
+    EXPECT_EQ(FailureOfPress("cmdEdit"), Busy);
     ExpectStillEditing("Better soup");
     EXPECT_EQ(Everything(), before);
     other.exec("ROLLBACK");
@@ -301,17 +301,17 @@ TEST_F(RecipeScreenTest, AReadOnlyStoreIsNotChanged) {
     const qint32 id = OpenWith(2);
     const auto before = Everything();
     UserDB().Raw().exec("PRAGMA query_only = 1");
-    EXPECT_EQ(FailureOfPress("cmdNew"), readOnly);
+    EXPECT_EQ(FailureOfPress("cmdNew"), ReadOnly);
     EXPECT_EQ(screen->CurrentRecipe(), id);
     EXPECT_TRUE(List()->isEnabled());
     ExpectAlert(askDelete);
-    EXPECT_EQ(FailureOfPress("cmdDelete"), readOnly);
+    EXPECT_EQ(FailureOfPress("cmdDelete"), ReadOnly);
     EXPECT_EQ(List()->ListCount(), 1);
     Click(Find(Find<ucAte>(screen.get(), "ucAte1"), "imgTrash"));
     EXPECT_TRUE(Find<ucAte>(screen.get(), "ucAte2")->isVisible());
-    EXPECT_EQ(FailureOf([&] { screen->AddFood(Counting()); }), readOnly);
+    EXPECT_EQ(FailureOf([&] { screen->AddFood(Counting()); }), ReadOnly);
     Press("cmdEdit");
-    EXPECT_EQ(FailureOfPress("cmdEdit"), readOnly);
+    EXPECT_EQ(FailureOfPress("cmdEdit"), ReadOnly);
     ExpectStillEditing("Soup");
     UserDB().Raw().exec("PRAGMA query_only = 0");
     EXPECT_EQ(Everything(), before);

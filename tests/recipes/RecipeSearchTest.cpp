@@ -18,13 +18,13 @@
 /// Stock foods, the user's own foods and recipes, found in one search and logged to a day.
 class RecipeSearchTest : public RecipesTest {
 protected:
-    static constexpr int ownFood = Schema::LastStockFood + 1;
+    static constexpr int OwnFood = Schema::LastStockFood + 1;
 
     void SetUp() override {
         RecipesTest::SetUp();
         AddFood(
             {.id = 7, .name = "Soup, canned", .gramsA = 30.0, .nutrients = {{"Calories", 250}}});
-        AddFood({.id = ownFood,
+        AddFood({.id = OwnFood,
                  .name = "Soup of mine",
                  .servA = "1 mug",
                  .servB = "",
@@ -71,7 +71,7 @@ TEST_F(RecipeSearchTest, EachOfTheThreeCanBeLogged) {
     for (int i = 0; i < 3; ++i)
         Add(i, "2");
     EXPECT_EQ(Logged("Lentil soup"), (QVariantList{1200.0, "1 bowl", soup, "Breakfast", 2.0}));
-    EXPECT_EQ(Logged("Soup of mine"), (QVariantList{160.0, "1 mug", ownFood, "Breakfast", 2.0}));
+    EXPECT_EQ(Logged("Soup of mine"), (QVariantList{160.0, "1 mug", OwnFood, "Breakfast", 2.0}));
     EXPECT_EQ(Logged("Soup, canned"), (QVariantList{150.0, "1 cup", 7, "Breakfast", 2.0}));
 }
 
@@ -170,7 +170,7 @@ TEST_F(RecipeSearchTest, AwkwardNamesAreFoundExaminedAndLogged) {
 
 TEST_F(RecipeSearchTest, ThousandsOfEachSourceGiveTwoHundredAndOneOfEach) {
     AddRecipes(5000, "Bean recipe");
-    AddFoods(5000, ownFood + 1, "Bean of mine");
+    AddFoods(5000, OwnFood + 1, "Bean of mine");
     AddFoods(300, 100, "Bean, stock");
     SearchFor("bean");
     const QStringList names = NamesShown(*dialog.Panel());

@@ -16,8 +16,8 @@
 
 namespace {
 
-const QString placeholder = "(enter preparation instructions here...)";
-const QStringList labels = {"aaRecipeName", "aaCals", "lblRecYield", "lblServingDesc",
+const QString Placeholder = "(enter preparation instructions here...)";
+const QStringList Labels = {"aaRecipeName", "aaCals", "lblRecYield", "lblServingDesc",
                             "aaTotalTime"};
 
 } // namespace
@@ -99,7 +99,7 @@ protected:
         EXPECT_EQ(Button("cmdEdit")->Caption(), "Edit Recipe");
         EXPECT_FALSE(Button("cmdDelete")->Enabled());
         EXPECT_FALSE(Button("cmdSend")->Enabled());
-        for (const QString& label : labels)
+        for (const QString& label : Labels)
             EXPECT_EQ(Shown(label), "") << label.toStdString();
         EXPECT_EQ(Instructions()->toPlainText(), "");
         EXPECT_EQ(IngredientNames(), QStringList());
@@ -114,7 +114,7 @@ protected:
         EXPECT_EQ(Button("cmdEdit")->Caption(), "Edit Recipe");
         EXPECT_FALSE(Visible("cmdIngreds"));
         EXPECT_TRUE(Instructions()->isReadOnly());
-        for (const QString& label : labels)
+        for (const QString& label : Labels)
             EXPECT_TRUE(Visible(label)) << label.toStdString();
         for (const QString& entry : entries)
             EXPECT_FALSE(Visible(entry)) << entry.toStdString();
@@ -129,7 +129,7 @@ protected:
         EXPECT_EQ(Button("cmdEdit")->Caption(), "Save Changes");
         EXPECT_TRUE(Visible("cmdIngreds"));
         EXPECT_FALSE(Instructions()->isReadOnly());
-        for (const QString& label : labels)
+        for (const QString& label : Labels)
             EXPECT_FALSE(Visible(label)) << label.toStdString();
         for (const QString& entry : entries)
             EXPECT_TRUE(Visible(entry)) << entry.toStdString();
@@ -593,11 +593,11 @@ TEST_F(frmRecipeManagerTest, NewWritesARowAtOnceAndOpensItForEditing) {
     EXPECT_EQ(Stored(id, "RecipeName"), "My Recipe");
     EXPECT_EQ(Stored(id, "RecipeYield"), "1");
     EXPECT_EQ(Stored(id, "PrepTime"), "30");
-    EXPECT_EQ(Stored(id, "Instructions"), placeholder);
+    EXPECT_EQ(Stored(id, "Instructions"), Placeholder);
     EXPECT_EQ(Entry("txtName")->text(), "My Recipe");
     EXPECT_EQ(Entry("txtYield")->text(), "1");
     EXPECT_EQ(Entry("txtTime")->text(), "30");
-    EXPECT_EQ(Instructions()->toPlainText(), placeholder);
+    EXPECT_EQ(Instructions()->toPlainText(), Placeholder);
     EXPECT_EQ(IngredientNames(), QStringList());
     EXPECT_EQ(Find<ucIngredients>(screen.get(), "ucING")->RecipeID(), id);
 }

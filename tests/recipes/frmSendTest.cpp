@@ -11,14 +11,14 @@
 #include <SQLiteCpp/SQLiteCpp.h>
 
 namespace {
-const QString failureText =
+const QString FailureText =
     "There was an error posting your recipe. Please ensure you are connected to the internet and "
     "try again. If this problem persists, please contact help@example.org.";
-const QString sentence = "Your recipe has been sent to your friend.";
+const QString Sentence = "Your recipe has been sent to your friend.";
 
-const QString createLine = "POST /halvane/api/recipes";
-const QString addLine = "POST /halvane/api/recipes/1218105222/ingredients";
-const QString pageLine = "GET /halvane/sendrecipe.asp?recID=1218105222";
+const QString CreateLine = "POST /halvane/api/recipes";
+const QString AddLine = "POST /halvane/api/recipes/1218105222/ingredients";
+const QString PageLine = "GET /halvane/sendrecipe.asp?recID=1218105222";
 } // namespace
 
 class frmSendTest : public TransferTest {
@@ -35,9 +35,9 @@ protected:
     }
 
     void TellAll(int rows = 2) {
-        server->Tell(createLine, 201, R"({"RecipeID":1218105222,"token":"abc"})");
-        server->Tell(addLine, 201, "{\"added\":" + QByteArray::number(rows) + '}');
-        server->Tell(pageLine, 200, sentence.toUtf8());
+        server->Tell(CreateLine, 201, R"({"RecipeID":1218105222,"token":"abc"})");
+        server->Tell(AddLine, 201, "{\"added\":" + QByteArray::number(rows) + '}');
+        server->Tell(PageLine, 200, Sentence.toUtf8());
     }
     void OpenSend(qint32 id = 0) { Open(new frmSend(id ? id : recipe, &window)); }
     void FillIn() {
@@ -53,7 +53,7 @@ protected:
         EXPECT_FALSE(MousePointer::IsBusy());
         OpenSend();
     }
-    void ExpectFailure() { ExpectReply(failureText); }
+    void ExpectFailure() { ExpectReply(FailureText); }
     void ExpectFailureSoon() {
         dialog->Exchange().Http().SetLimit(OddLimit);
         ExpectFailure();
@@ -97,9 +97,9 @@ TEST_F(frmSendTest, AsksForTheRecipientFirstAndThenForTheSender) {
 
 TEST_F(frmSendTest, AppendsTheRecipeThenItsIngredientsThenCallsThePage) {
     FillIn();
-    ExpectAlert(sentence);
+    ExpectAlert(Sentence);
     Press("cmdSend");
-    EXPECT_EQ(server->Lines(), QStringList({createLine, addLine, pageLine}));
+    EXPECT_EQ(server->Lines(), QStringList({CreateLine, AddLine, PageLine}));
     EXPECT_EQ(Body(0), (QJsonObject{{"RecipeName", "Crème of lentils"},
                                     {"Instructions", "Rinse.\nCook."},
                                     {"RecipeYield", 4.5},
@@ -114,7 +114,7 @@ TEST_F(frmSendTest, AppendsTheRecipeThenItsIngredientsThenCallsThePage) {
 
 TEST_F(frmSendTest, IngredientsAreSentByPositionWithoutKeyAndQuantity) {
     FillIn();
-    ExpectAlert(sentence);
+    ExpectAlert(Sentence);
     Press("cmdSend");
     const QJsonArray rows = Body(1)["rows"].toArray();
     ASSERT_EQ(rows.size(), 2);
@@ -132,7 +132,7 @@ TEST_F(frmSendTest, IngredientsAreSentByPositionWithoutKeyAndQuantity) {
 TEST_F(frmSendTest, ColumnNamesAndQuantitiesAreSentBesideTheRows) {
     UserDB().Raw().exec("UPDATE Ingredients SET QTY = NULL WHERE FoodName = 'Water'");
     FillIn();
-    ExpectAlert(sentence);
+    ExpectAlert(Sentence);
     Press("cmdSend");
     EXPECT_EQ(Body(1)["fields"].toArray(), Fields());
     EXPECT_EQ(Body(1)["quantities"].toArray(), (QJsonArray{2, QJsonValue::Null}));
@@ -142,7 +142,7 @@ TEST_F(frmSendTest, NullsAreSentAsNulls) {
     UserDB().Raw().exec("UPDATE Recipes SET Instructions = NULL, PrepTime = NULL");
     UserDB().Raw().exec("UPDATE Ingredients SET Calories = NULL, Serving = NULL");
     FillIn();
-    ExpectAlert(sentence);
+    ExpectAlert(Sentence);
     Press("cmdSend");
     EXPECT_TRUE(Body(0)["Instructions"].isNull());
     EXPECT_TRUE(Body(0)["PrepTime"].isNull());
@@ -152,24 +152,24 @@ TEST_F(frmSendTest, NullsAreSentAsNulls) {
 TEST_F(frmSendTest, ARecipeWithoutIngredientsIsAppendedAloneAndThePageIsCalled) {
     UserDB().Raw().exec("DELETE FROM Ingredients");
     FillIn();
-    ExpectAlert(sentence);
+    ExpectAlert(Sentence);
     Press("cmdSend");
-    EXPECT_EQ(server->Lines(), QStringList({createLine, pageLine}));
+    EXPECT_EQ(server->Lines(), QStringList({CreateLine, PageLine}));
 }
 
 TEST_F(frmSendTest, ManyIngredientsAreSentInSeveralCalls) {
     UserDB().Raw().exec("DELETE FROM Ingredients");
     AddIngredients(recipe, 250);
     QList<QByteArray> replies{R"({"added":100})", R"({"added":100})", R"({"added":50})"};
-    server->Tell(addLine, [&](QTcpSocket& socket) {
+    server->Tell(AddLine, [&](QTcpSocket& socket) {
         const QByteArray reply = replies.takeFirst();
         ScriptedServer::Raw("HTTP/1.1 201 Created\r\nContent-Length: " +
                             QByteArray::number(reply.size()) + "\r\n\r\n" + reply)(socket);
     });
     FillIn();
-    ExpectAlert(sentence);
+    ExpectAlert(Sentence);
     Press("cmdSend");
-    EXPECT_EQ(server->Lines(), QStringList({createLine, addLine, addLine, addLine, pageLine}));
+    EXPECT_EQ(server->Lines(), QStringList({CreateLine, AddLine, AddLine, AddLine, PageLine}));
     EXPECT_EQ(Body(1)["rows"][0][32], "Food 1");
     EXPECT_EQ(Body(2)["rows"][0][32], "Food 101");
     EXPECT_EQ(Body(3)["rows"][49][32], "Food 250");
@@ -181,15 +181,15 @@ TEST_F(frmSendTest, TheCheckBoxMakesItPublic) {
     Click(Find(dialog.get(), "ckShare"), QPoint(8, 12));
     ASSERT_TRUE(Find<QCheckBox>(dialog.get(), "ckShare")->isChecked());
     FillIn();
-    ExpectAlert(sentence);
+    ExpectAlert(Sentence);
     Press("cmdSend");
     EXPECT_EQ(Body(0)["ISPUBLIC"], true);
 }
 
 TEST_F(frmSendTest, TheSameRecipeTwiceIsSentTwice) {
-    ExpectReply(sentence);
-    ExpectReply(sentence);
-    EXPECT_EQ(server->Lines().count(createLine), 2);
+    ExpectReply(Sentence);
+    ExpectReply(Sentence);
+    EXPECT_EQ(server->Lines().count(CreateLine), 2);
     EXPECT_EQ(Count("Recipes"), 1);
 }
 
@@ -202,7 +202,7 @@ TEST_F(frmSendTest, ARecipeThatWasDeletedFailsWithoutARequest) {
 TEST_F(frmSendTest, AddressesAreNotChecked) {
     Type("txtEmail", "no address");
     Type("txtFrom", "<b>'\";");
-    ExpectAlert(sentence);
+    ExpectAlert(Sentence);
     Press("cmdSend");
     EXPECT_EQ(Body(0)["EMAILTO"], "no address");
     EXPECT_EQ(Body(0)["EMAILFROM"], "<b>'\";");
@@ -210,20 +210,20 @@ TEST_F(frmSendTest, AddressesAreNotChecked) {
 
 TEST_F(frmSendTest, AReplyWithoutContentLengthIsShownUnchanged) {
     for (const char* head : {"HTTP/1.1 200 OK\r\n\r\n", "HTTP/1.0 500 No\r\n\r\n"}) {
-        server->Tell(pageLine, ScriptedServer::Raw(head + sentence.toUtf8()));
-        ExpectReply(sentence);
+        server->Tell(PageLine, ScriptedServer::Raw(head + Sentence.toUtf8()));
+        ExpectReply(Sentence);
     }
 }
 
 TEST_F(frmSendTest, AnEmptyReplyWithoutContentLengthFails) {
-    server->Tell(pageLine, ScriptedServer::Raw("HTTP/1.1 200 OK\r\n\r\n"));
+    server->Tell(PageLine, ScriptedServer::Raw("HTTP/1.1 200 OK\r\n\r\n"));
     ExpectFailure();
 }
 
 // The settings
 
 TEST_F(frmSendTest, TheAddressesComeBackNextTime) {
-    ExpectReply(sentence);
+    ExpectReply(Sentence);
     EXPECT_EQ(GetRegValue("TOEMAIL"), "friend@example.org");
     EXPECT_EQ(GetRegValue("FROMEMAIL"), "me@example.org");
     EXPECT_EQ(Find<QLineEdit>(dialog.get(), "txtEmail")->text(), "friend@example.org");
@@ -231,7 +231,7 @@ TEST_F(frmSendTest, TheAddressesComeBackNextTime) {
 }
 
 TEST_F(frmSendTest, TheAddressesComeBackAfterAFailedSendToo) {
-    server->Tell(createLine, 500, "");
+    server->Tell(CreateLine, 500, "");
     ExpectFailure();
     EXPECT_EQ(GetRegValue("TOEMAIL"), "friend@example.org");
     EXPECT_EQ(GetRegValue("FROMEMAIL"), "me@example.org");
@@ -256,15 +256,15 @@ TEST_F(frmSendTest, AReplyIsShownUnchanged) {
     for (const char* reply :
          {"OK", "  <", "  <html>", "a<b>c</b>", "Sent. <b>Bold</b> & \"quoted\"", "\t<",
           "Grüße — 🍲", "ERROR: nothing was sent", "\n\n", "  ", "First line.\nSecond line.\n"}) {
-        server->Tell(pageLine, 200, reply);
+        server->Tell(PageLine, 200, reply);
         ExpectReply(QString::fromUtf8(reply));
     }
 }
 
 TEST_F(frmSendTest, ASentenceIsShownWhateverItsStatus) {
     for (const int status : {201, 302, 400, 404, 429, 500, 503}) {
-        server->Tell(pageLine, status, sentence.toUtf8());
-        ExpectReply(sentence);
+        server->Tell(PageLine, status, Sentence.toUtf8());
+        ExpectReply(Sentence);
     }
 }
 
@@ -272,7 +272,7 @@ TEST_F(frmSendTest, MarkupAndRepliesBelowTwoCharactersAreFailures) {
     for (const char* reply : {"<html><body>Sent</body></html>", "<", "<<", " <", " <html>", "", "x",
                               " ", "\n", "\xc3\xbc", "\xef\xbb\xbf<html>"}) {
         SCOPED_TRACE(reply);
-        server->Tell(pageLine, 200, reply);
+        server->Tell(PageLine, 200, reply);
         ExpectFailure();
     }
 }
@@ -280,7 +280,7 @@ TEST_F(frmSendTest, MarkupAndRepliesBelowTwoCharactersAreFailures) {
 TEST_F(frmSendTest, AnOddReplyOfThePageIsAFailure) {
     for (const Oddity& odd : Oddities()) {
         SCOPED_TRACE(odd.name);
-        server->Tell(pageLine, odd.answer);
+        server->Tell(PageLine, odd.answer);
         ExpectFailureSoon();
     }
 }
@@ -290,27 +290,27 @@ TEST_F(frmSendTest, AnOddReplyOfThePageIsAFailure) {
 TEST_F(frmSendTest, AnOddReplyToTheRecipeEndsTheSend) {
     for (const Oddity& odd : Oddities()) {
         SCOPED_TRACE(odd.name);
-        server->Tell(createLine, odd.answer);
+        server->Tell(CreateLine, odd.answer);
         ExpectFailureSoon();
     }
-    EXPECT_FALSE(server->Lines().contains(addLine));
-    EXPECT_FALSE(server->Lines().contains(pageLine));
+    EXPECT_FALSE(server->Lines().contains(AddLine));
+    EXPECT_FALSE(server->Lines().contains(PageLine));
 }
 
 TEST_F(frmSendTest, AnOddReplyToTheIngredientsCallsNoPage) {
     for (const Oddity& odd : Oddities()) {
         SCOPED_TRACE(odd.name);
-        server->Tell(addLine, odd.answer);
+        server->Tell(AddLine, odd.answer);
         ExpectFailureSoon();
     }
-    EXPECT_EQ(server->Lines().count(createLine), server->Lines().count(addLine));
-    EXPECT_FALSE(server->Lines().contains(pageLine));
+    EXPECT_EQ(server->Lines().count(CreateLine), server->Lines().count(AddLine));
+    EXPECT_FALSE(server->Lines().contains(PageLine));
 }
 
 TEST_F(frmSendTest, NothingIsPostedTwice) {
-    server->Tell(addLine, ScriptedServer::Raw(""));
+    server->Tell(AddLine, ScriptedServer::Raw(""));
     ExpectFailure();
-    EXPECT_EQ(server->Lines(), QStringList({createLine, addLine}));
+    EXPECT_EQ(server->Lines(), QStringList({CreateLine, AddLine}));
 }
 
 TEST_F(frmSendTest, AnUnexpectedReplyToTheRecipeFails) {
@@ -321,30 +321,30 @@ TEST_F(frmSendTest, AnUnexpectedReplyToTheRecipeFails) {
           R"({"RecipeID":7})", R"({"RecipeID":7,"token":7})", R"({"RecipeID":7,"token":""})",
           R"({"RecipeID":7,"token":null})", R"({"RecipeID":7,"token":{}})", "<html>"}) {
         SCOPED_TRACE(body);
-        server->Tell(createLine, 201, body);
+        server->Tell(CreateLine, 201, body);
         ExpectFailure();
     }
-    server->Tell(createLine, 200, R"({"RecipeID":1218105222,"token":"abc"})");
+    server->Tell(CreateLine, 200, R"({"RecipeID":1218105222,"token":"abc"})");
     ExpectFailure();
-    EXPECT_EQ(server->Lines().count(createLine), server->Lines().size());
+    EXPECT_EQ(server->Lines().count(CreateLine), server->Lines().size());
 }
 
 TEST_F(frmSendTest, AnUnexpectedReplyToTheIngredientsFails) {
     for (const char* body : {"", "{}", "[2]", R"({"added":"2"})", R"({"added":1})",
                              R"({"added":null})", R"({"added":true})", R"({"added":2.5})"}) {
         SCOPED_TRACE(body);
-        server->Tell(addLine, 201, body);
+        server->Tell(AddLine, 201, body);
         ExpectFailure();
     }
     for (const int status : {200, 400, 403, 409, 413, 500}) {
-        server->Tell(addLine, status, R"({"added":2})");
+        server->Tell(AddLine, status, R"({"added":2})");
         ExpectFailure();
     }
-    EXPECT_FALSE(server->Lines().contains(pageLine));
+    EXPECT_FALSE(server->Lines().contains(PageLine));
 }
 
 TEST_F(frmSendTest, ATokenWithALineBreakIsRefused) {
-    server->Tell(createLine, 201, R"({"RecipeID":1218105222,"token":"abc\r\nX-Smuggled: yes"})");
+    server->Tell(CreateLine, 201, R"({"RecipeID":1218105222,"token":"abc\r\nX-Smuggled: yes"})");
     ExpectFailure();
     for (const ScriptedServer::Request& request : server->Requests())
         EXPECT_FALSE(request.headers.contains("x-smuggled"));
@@ -359,7 +359,7 @@ TEST_F(frmSendTest, AServerThatIsDownIsAFailure) {
 
 TEST_F(frmSendTest, IsBusyAndTakesNoInputWhileItWaits) {
     bool looked = false;
-    server->Tell(createLine, [&](QTcpSocket& socket) {
+    server->Tell(CreateLine, [&](QTcpSocket& socket) {
         ExpectDead("cmdSend");
         Type("txtFrom", "somebody@else.example");
         looked = true;

@@ -19,11 +19,11 @@
 
 class ucIngredientsTest : public RecipesTest {
 protected:
-    static constexpr int frameHeight = 210;
+    static constexpr int FrameHeight = 210;
 
     void SetUp() override {
         RecipesTest::SetUp();
-        window.resize(500, frameHeight + 2);
+        window.resize(500, FrameHeight + 2);
         list.resize(window.size());
         window.show();
         ASSERT_TRUE(QTest::qWaitForWindowActive(&window));

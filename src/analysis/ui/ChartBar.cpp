@@ -8,8 +8,8 @@
 namespace {
 
 QImage BarPicture(const QColor (&rows)[ChartBar::Height]) {
-    constexpr int PictureWidth = 7;
-    QImage picture(PictureWidth, ChartBar::Height, QImage::Format_RGB32);
+    constexpr int pictureWidth = 7;
+    QImage picture(pictureWidth, ChartBar::Height, QImage::Format_RGB32);
     for (int y = 0; y < picture.height(); ++y)
         for (int x = 0; x < picture.width(); ++x)
             picture.setPixelColor(x, y, rows[y]);

@@ -10,11 +10,11 @@
 namespace {
 
 // Twips.
-constexpr double numberPlace = 120;
-constexpr double markSide = 45;
-constexpr double markBottom = 30;
+constexpr double NumberPlace = 120;
+constexpr double MarkSide = 45;
+constexpr double MarkBottom = 30;
 
-constexpr QSize markSize(18, 18);
+constexpr QSize MarkSize(18, 18);
 
 class DayMark : public QWidget {
 public:
@@ -23,7 +23,7 @@ public:
         , picture_(QLatin1String(picture)) {
         setObjectName(name);
         setAttribute(Qt::WA_TransparentForMouseEvents);
-        resize(markSize);
+        resize(MarkSize);
         hide();
     }
 
@@ -63,10 +63,10 @@ void DayCell::Name(const QString& month) {
 }
 
 void DayCell::resizeEvent(QResizeEvent*) {
-    const int side = Twips::ToPixels(markSide);
-    const int top = height() - markSize.height() - Twips::ToPixels(markBottom);
+    const int side = Twips::ToPixels(MarkSide);
+    const int top = height() - MarkSize.height() - Twips::ToPixels(MarkBottom);
     imgFood_->move(side, top);
-    imgScale_->move(width() - markSize.width() - side, top);
+    imgScale_->move(width() - MarkSize.width() - side, top);
 }
 
 void DayCell::paintEvent(QPaintEvent*) {
@@ -76,7 +76,7 @@ void DayCell::paintEvent(QPaintEvent*) {
         painter.fillRect(rect(), style.chosenDay.from);
     else
         Pictures::Paint(painter, rect(), QStringLiteral("day-cell"));
-    const int place = Twips::ToPixels(numberPlace);
+    const int place = Twips::ToPixels(NumberPlace);
     PrintCaption(painter, style.ink, QPointF(place, place));
     if (FocusShown())
         PaintFocusRing(painter, rect(), 0);

@@ -5,7 +5,7 @@
 namespace {
 
 /// A longer value begins left of the column.
-const QString usualValue = QStringLiteral("88,888 kcal");
+const QString UsualValue = QStringLiteral("88,888 kcal");
 
 qsizetype LeaderLength(const QString& caption) {
     const auto isPoint = [](QChar c) { return c == u'.'; };
@@ -29,7 +29,7 @@ QString LedLabel::Fitting(const QString& caption, const QFont& font, int space) 
     const qsizetype leader = LeaderLength(caption);
     const QFontMetricsF metrics(font);
     const double value = metrics.horizontalAdvance(caption.mid(leader));
-    const double room = std::max(value, metrics.horizontalAdvance(usualValue));
+    const double room = std::max(value, metrics.horizontalAdvance(UsualValue));
     const auto points = qsizetype((space - room) / metrics.horizontalAdvance(u'.'));
     return caption.mid(leader - std::clamp<qsizetype>(points, 0, leader));
 }

@@ -9,8 +9,8 @@
 
 namespace {
 
-constexpr int headHeight = 22;   // pixels
-constexpr double lineWidth = 15; // twips
+constexpr int HeadHeight = 22;   // pixels
+constexpr double LineWidth = 15; // twips
 
 } // namespace
 
@@ -47,24 +47,24 @@ double MonthGrid::CellWidth() const {
 }
 
 double MonthGrid::RowHeight() const {
-    return double(Twips::FromPixels(height() - headHeight)) / Rows;
+    return double(Twips::FromPixels(height() - HeadHeight)) / Rows;
 }
 
 int MonthGrid::FirstTop() const {
-    return Twips::FromPixels(headHeight + ucDay_[0]->y()) + int(lineWidth);
+    return Twips::FromPixels(HeadHeight + ucDay_[0]->y()) + int(LineWidth);
 }
 
 int MonthGrid::ColumnLine(int column) const {
-    return qMin(Twips::ToPixels(CellWidth() * column), width() - Twips::ToPixels(lineWidth));
+    return qMin(Twips::ToPixels(CellWidth() * column), width() - Twips::ToPixels(LineWidth));
 }
 
 int MonthGrid::RowLine(int row) const {
-    return qMin(headHeight + Twips::ToPixels(RowHeight() * row),
-                height() - Twips::ToPixels(lineWidth));
+    return qMin(HeadHeight + Twips::ToPixels(RowHeight() * row),
+                height() - Twips::ToPixels(LineWidth));
 }
 
 QRect MonthGrid::SlotAt(int x, int y, int column, int row) const {
-    const int line = Twips::ToPixels(lineWidth);
+    const int line = Twips::ToPixels(LineWidth);
     const QPoint corner(qMax(Twips::ToPixels(x), ColumnLine(column) + line),
                         qMax(Twips::ToPixels(y), RowLine(row) + line));
     return {corner, QPoint(ColumnLine(column + 1) - 1, RowLine(row + 1) - 1)};
@@ -81,7 +81,7 @@ void MonthGrid::resizeEvent(QResizeEvent*) {
     for (int column = 0; column < Columns; ++column) {
         const int left = Twips::ToPixels(CellWidth() * column);
         const int right = Twips::ToPixels(CellWidth() * (column + 1));
-        ucDay_[column]->setGeometry(left, 0, right - left, headHeight);
+        ucDay_[column]->setGeometry(left, 0, right - left, HeadHeight);
     }
 }
 
@@ -105,7 +105,7 @@ void MonthGrid::PaintSlots(QPainter& painter) const {
 
 void MonthGrid::PaintLines(QPainter& painter) const {
     const QColor& line = TheStyle().frame;
-    const int thick = Twips::ToPixels(lineWidth);
+    const int thick = Twips::ToPixels(LineWidth);
     for (int column = 0; column <= Columns; ++column)
         painter.fillRect(ColumnLine(column), 0, thick, height(), line);
     for (int row = 0; row <= Rows; ++row)

@@ -6,9 +6,9 @@
 namespace {
 
 // Pixels.
-constexpr int stripHeight = 34;
-constexpr int firstLeft = 6;
-constexpr int pictureSize = 16;
+constexpr int StripHeight = 34;
+constexpr int FirstLeft = 6;
+constexpr int PictureSize = 16;
 
 } // namespace
 
@@ -24,7 +24,7 @@ ucButtonA* ViewButtons::AddButton(const ViewButton& view) {
     auto* button = new ucButtonA(this);
     button->setObjectName(QLatin1String(view.name));
     button->SetPictures(QLatin1String(view.picture), QLatin1String(view.tip));
-    button->SetPictureSize(QSize(pictureSize, pictureSize));
+    button->SetPictureSize(QSize(PictureSize, PictureSize));
     button->SetBordered(true);
     const QString lowerName = button->objectName().toLower();
     connect(button, &ucButtonA::Click, this, [this, number] { Q_EMIT Asked(number); });
@@ -48,7 +48,7 @@ int ViewButtons::Right() const {
 }
 
 QSize ViewButtons::sizeHint() const {
-    return {Right() + firstLeft, stripHeight};
+    return {Right() + FirstLeft, StripHeight};
 }
 
 void ViewButtons::resizeEvent(QResizeEvent*) {
@@ -56,7 +56,7 @@ void ViewButtons::resizeEvent(QResizeEvent*) {
 }
 
 void ViewButtons::PlaceButtons() {
-    int left = firstLeft;
+    int left = FirstLeft;
     for (ucButtonA* button : buttons_) {
         button->resize(button->sizeHint());
         button->move(left, (height() - button->height()) / 2);

@@ -49,9 +49,9 @@ constexpr ViewButton Views[] = {
 };
 
 // Measures in pixels.
-constexpr int firstLineLeft = 204; ///< right of the screen's title, which the frame shows
-constexpr int dateWidth = 84;
-constexpr int viewsGap = 12;
+constexpr int FirstLineLeft = 204; ///< right of the screen's title, which the frame shows
+constexpr int DateWidth = 84;
+constexpr int ViewsGap = 12;
 
 } // namespace
 
@@ -82,7 +82,7 @@ QLineEdit* frmReport::AddDateField(const char* name, const QString& accessibleNa
     auto* field = new LineField(this);
     field->setObjectName(QLatin1String(name));
     field->setAccessibleName(accessibleName);
-    field->resize(dateWidth, TheStyle().fieldHeight);
+    field->resize(DateWidth, TheStyle().fieldHeight);
     field->installEventFilter(this);
     connect(field, &QLineEdit::returnPressed, this, &frmReport::Refresh);
     return field;
@@ -120,11 +120,11 @@ void frmReport::resizeEvent(QResizeEvent*) {
 }
 
 void frmReport::PlaceFirstLine() {
-    int left = firstLineLeft;
+    int left = FirstLineLeft;
     for (QWidget* control : {static_cast<QWidget*>(aaLBL_), static_cast<QWidget*>(txtStart_),
                              static_cast<QWidget*>(txtEnd_), static_cast<QWidget*>(cmdRefresh_)})
         left = PlaceInTitleLine(control, left) + TheStyle().boxGap;
-    PlaceInTitleLine(views_, left + viewsGap);
+    PlaceInTitleLine(views_, left + ViewsGap);
 }
 
 void frmReport::ShowLastDays() {

@@ -23,19 +23,19 @@
 
 namespace {
 
-constexpr int firstYear = 1992;
-constexpr int lastListedYear = 2012; ///< or the present year, if that is later
+constexpr int FirstYear = 1992;
+constexpr int LastListedYear = 2012; ///< or the present year, if that is later
 
 // Pixels.
-constexpr int titleHeight = 38;
-constexpr int monthWidth = 104;
-constexpr int yearWidth = 70;
-constexpr QPoint todayPlace(5, 9); // from the cell's upper right corner
+constexpr int TitleHeight = 38;
+constexpr int MonthWidth = 104;
+constexpr int YearWidth = 70;
+constexpr QPoint TodayPlace(5, 9); // from the cell's upper right corner
 
 // Twips.
-constexpr int listHeight = 3700;
-constexpr int cellEdge = 15;
-constexpr int buttonPlace = -15;
+constexpr int ListHeight = 3700;
+constexpr int CellEdge = 15;
+constexpr int ButtonPlace = -15;
 
 } // namespace
 
@@ -89,18 +89,18 @@ void ucCal_LG::AddGrid() {
 void ucCal_LG::FillLists() {
     for (int month = 1; month <= 12; ++month)
         ucMonth_->AddItem(Dates::MonthName(month), month);
-    lastYear_ = qMax(lastListedYear, Clock::Today().year());
-    for (int year = firstYear; year <= lastYear_; ++year)
+    lastYear_ = qMax(LastListedYear, Clock::Today().year());
+    for (int year = FirstYear; year <= lastYear_; ++year)
         ucYear_->AddItem(QString::number(year), year);
-    ucMonth_->Set_aHEIGHT(listHeight);
-    ucYear_->Set_aHEIGHT(listHeight);
+    ucMonth_->Set_aHEIGHT(ListHeight);
+    ucYear_->Set_aHEIGHT(ListHeight);
 }
 
 /// A year before the first one of the list is shown without being selected.
 void ucCal_LG::OpenOn(QDate today) {
     ucMonth_->SetIndex(qint16(today.month()));
-    if (today.year() >= firstYear)
-        ucYear_->SetIndex(qint16(today.year() - (firstYear - 1)));
+    if (today.year() >= FirstYear)
+        ucYear_->SetIndex(qint16(today.year() - (FirstYear - 1)));
     else
         ucYear_->SetText(QString::number(today.year()));
     date_ = today;
@@ -140,7 +140,7 @@ void ucCal_LG::PlaceDays() {
     int column = Dates::Weekday(FirstOfMonth()) - 1;
     int row = 0;
     const double cellWidth = picCalBG_->CellWidth();
-    int x = Round(cellWidth * column + cellEdge + column);
+    int x = Round(cellWidth * column + CellEdge + column);
     int y = picCalBG_->FirstTop();
     picCalBG_->SetMonth(column, date_.daysInMonth());
     for (int day = 1; day <= date_.daysInMonth(); ++day) {
@@ -151,7 +151,7 @@ void ucCal_LG::PlaceDays() {
         x = Round(x + cellWidth);
         if (++column == MonthGrid::Columns) {
             column = 0;
-            x = cellEdge;
+            x = CellEdge;
             y = Round(y + picCalBG_->RowHeight());
             ++row;
         }
@@ -178,7 +178,7 @@ void ucCal_LG::PlaceButton() {
     DayCell* cell = CellAt(date_.day());
     if (ucCalButton_->parentWidget() != cell)
         ucCalButton_->setParent(cell);
-    const int place = Twips::ToPixels(buttonPlace);
+    const int place = Twips::ToPixels(ButtonPlace);
     ucCalButton_->setGeometry(place, place, cell->width() - 2 * place, cell->height() - 2 * place);
     ucCalButton_->SetCaption(QString::number(date_.day()));
     ucCalButton_->lower();
@@ -192,8 +192,8 @@ void ucCal_LG::PlaceToday() {
     if (!shown)
         return;
     const QRect cell = CellAt(today.day())->geometry();
-    lblToday_->move(cell.right() + 1 - todayPlace.x() - lblToday_->width(),
-                    cell.top() + todayPlace.y());
+    lblToday_->move(cell.right() + 1 - TodayPlace.x() - lblToday_->width(),
+                    cell.top() + TodayPlace.y());
     lblToday_->raise();
 }
 
@@ -239,9 +239,9 @@ void ucCal_LG::ShowMonth(QDate first) {
 void ucCal_LG::TurnMonth(int months) {
     const QDate first = Dates::AddMonths(FirstOfMonth(), months);
     if (first.year() != date_.year()) {
-        if (first.year() < firstYear || first.year() > lastYear_)
+        if (first.year() < FirstYear || first.year() > lastYear_)
             return;
-        ucYear_->SetIndex(qint16(first.year() - (firstYear - 1)));
+        ucYear_->SetIndex(qint16(first.year() - (FirstYear - 1)));
     }
     ucMonth_->SetIndex(qint16(first.month()));
     ShowMonth(first);
@@ -300,15 +300,15 @@ void ucCal_LG::keyPressEvent(QKeyEvent* event) {
 ucCal_LG::Layout ucCal_LG::layoutRects() const {
     const Style& style = TheStyle();
     const int titleTop = 1 + style.headerHeight;
-    const int listTop = titleTop + (titleHeight - style.fieldHeight) / 2;
-    const int yearLeft = width() - style.boxGap - yearWidth;
-    const int monthLeft = yearLeft - style.boxGap - monthWidth;
+    const int listTop = titleTop + (TitleHeight - style.fieldHeight) / 2;
+    const int yearLeft = width() - style.boxGap - YearWidth;
+    const int monthLeft = yearLeft - style.boxGap - MonthWidth;
     const QSize date = aadate_->sizeHint();
-    const int gridTop = titleTop + titleHeight;
+    const int gridTop = titleTop + TitleHeight;
     return {QRect(1, 1, width() - 2, style.headerHeight),
-            QRect(QPoint(style.boxGap, titleTop + (titleHeight - date.height()) / 2), date),
-            QRect(monthLeft, listTop, monthWidth, ucMonth_->height()),
-            QRect(yearLeft, listTop, yearWidth, ucYear_->height()),
+            QRect(QPoint(style.boxGap, titleTop + (TitleHeight - date.height()) / 2), date),
+            QRect(monthLeft, listTop, MonthWidth, ucMonth_->height()),
+            QRect(yearLeft, listTop, YearWidth, ucYear_->height()),
             QRect(0, gridTop, width(), height() - gridTop)};
 }
 

@@ -9,12 +9,12 @@
 namespace {
 
 // Pixels.
-constexpr int margin = 12;
-constexpr int firstLine = 10;
-constexpr int lineHeight = 26;
-constexpr int pieTop = firstLine + 2 * lineHeight;
-constexpr int usualWidth = 230;
-constexpr int usualHeight = 312;
+constexpr int Margin = 12;
+constexpr int FirstLine = 10;
+constexpr int LineHeight = 26;
+constexpr int PieTop = FirstLine + 2 * LineHeight;
+constexpr int UsualWidth = 230;
+constexpr int UsualHeight = 312;
 
 PieForm GlancePie() {
     PieForm form;
@@ -59,11 +59,11 @@ void ucGlance::UpdateGlance(QDate from, QDate to) {
 }
 
 QSize ucGlance::sizeHint() const {
-    return {usualWidth, usualHeight};
+    return {UsualWidth, UsualHeight};
 }
 
 void ucGlance::resizeEvent(QResizeEvent*) {
-    lblAvgCals_->move(margin, firstLine);
-    Label1_->move(margin, firstLine + lineHeight);
-    pie_->setGeometry(0, pieTop, width(), height() - pieTop);
+    lblAvgCals_->move(Margin, FirstLine);
+    Label1_->move(Margin, FirstLine + LineHeight);
+    pie_->setGeometry(0, PieTop, width(), height() - PieTop);
 }

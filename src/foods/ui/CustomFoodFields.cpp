@@ -9,28 +9,28 @@
 namespace {
 
 // Measures in pixels.
-constexpr int margin = 12;
-constexpr int heavyRule = 3;
-constexpr int ruleGap = 4;   // below the rule, added to the line gap
-constexpr int columnGap = 6; // added to the gaps on both sides
-constexpr int captionGap = 5;
-constexpr int lineGap = 7;
+constexpr int Margin = 12;
+constexpr int HeavyRule = 3;
+constexpr int RuleGap = 4;   // below the rule, added to the line gap
+constexpr int ColumnGap = 6; // added to the gaps on both sides
+constexpr int CaptionGap = 5;
+constexpr int LineGap = 7;
 
 // The grid: names, a rule, the hint, and the amounts in columns of caption, field and gap.
-constexpr int nameRows = 2;
-constexpr int ruleRow = nameRows;
-constexpr int firstAmountRow = ruleRow + 2;
-constexpr int gridColumns = 3;
+constexpr int NameRows = 2;
+constexpr int RuleRow = NameRows;
+constexpr int FirstAmountRow = RuleRow + 2;
+constexpr int GridColumns = 3;
 
 using enum Nutrient;
 
-constexpr Nutrient headlines[] = {Calories,    TotalFat, SatFat, MonoFat, PolyFat,
+constexpr Nutrient Headlines[] = {Calories,    TotalFat, SatFat, MonoFat, PolyFat,
                                   Cholesterol, Sodium,   Carbs,  Fiber,   Protein};
-constexpr Nutrient minerals[] = {Ash,       Calcium,   Copper, Folate, Iron,
+constexpr Nutrient Minerals[] = {Ash,       Calcium,   Copper, Folate, Iron,
                                  Magnesium, Manganese, Niacin, Panto,  Phosphorus};
-constexpr Nutrient others[] = {Potassium, Riboflavin, Selenium, Thiamin, VitaminA, VitaminB12,
+constexpr Nutrient Others[] = {Potassium, Riboflavin, Selenium, Thiamin, VitaminA, VitaminB12,
                                VitaminB6, VitaminC,   VitaminE, Water,   Zinc};
-static_assert(HoldEachNutrientOnce({headlines, minerals, others}));
+static_assert(HoldEachNutrientOnce({Headlines, Minerals, Others}));
 
 TextRole RoleOf(Nutrient id, int column) {
     if (id == Calories)
@@ -45,21 +45,21 @@ CustomFoodFields::CustomFoodFields(QWidget* parent)
     , grid_(new QGridLayout(this)) {
     setObjectName(QStringLiteral("picFields"));
     setMouseTracking(true);
-    grid_->setContentsMargins(margin, margin, margin, margin);
-    grid_->setVerticalSpacing(lineGap);
-    grid_->setHorizontalSpacing(captionGap);
+    grid_->setContentsMargins(Margin, Margin, Margin, Margin);
+    grid_->setVerticalSpacing(LineGap);
+    grid_->setHorizontalSpacing(CaptionGap);
     AddNames();
     AddHint();
-    AddColumn(headlines, 0);
-    AddColumn(minerals, 1);
-    AddColumn(others, 2);
+    AddColumn(Headlines, 0);
+    AddColumn(Minerals, 1);
+    AddColumn(Others, 2);
     grid_->setRowStretch(grid_->rowCount(), 1);
 }
 
 void CustomFoodFields::AddNames() {
     txtFoodName_ = AddField("txtFoodName", "Food Name", TextRole::Strong);
     txtServing_ = AddField("txtServing", "Serving", TextRole::Strong);
-    for (int row = 0; row < nameRows; ++row) {
+    for (int row = 0; row < NameRows; ++row) {
         grid_->addWidget(captions_[row], row, 0);
         grid_->addWidget(fields_[row], row, 1, 1, -1);
     }
@@ -69,13 +69,13 @@ void CustomFoodFields::AddHint() {
     lblHint_ = MakeLabel(this, QStringLiteral("lblHint"),
                          QStringLiteral("Amounts in one serving. An empty field counts as 0."),
                          TextRole::Quiet);
-    grid_->setRowMinimumHeight(ruleRow, heavyRule + ruleGap);
-    grid_->addWidget(lblHint_, ruleRow + 1, 0, 1, -1);
+    grid_->setRowMinimumHeight(RuleRow, HeavyRule + RuleGap);
+    grid_->addWidget(lblHint_, RuleRow + 1, 0, 1, -1);
 }
 
 void CustomFoodFields::AddColumn(std::span<const Nutrient> nutrients, int column) {
-    const int left = column * gridColumns;
-    int row = firstAmountRow;
+    const int left = column * GridColumns;
+    int row = FirstAmountRow;
     for (const Nutrient id : nutrients) {
         const NutrientInfo& nutrient = Info(id);
         QLineEdit* field = AddField(nutrient.textField, nutrient.editCaption, RoleOf(id, column));
@@ -86,7 +86,7 @@ void CustomFoodFields::AddColumn(std::span<const Nutrient> nutrients, int column
     }
     grid_->setColumnStretch(left + 1, 1);
     if (column > 0)
-        grid_->setColumnMinimumWidth(left - 1, columnGap);
+        grid_->setColumnMinimumWidth(left - 1, ColumnGap);
 }
 
 QLineEdit* CustomFoodFields::AddField(const char* name, const char* caption, TextRole role) {
@@ -145,6 +145,6 @@ void CustomFoodFields::FocusOn(const CustomFoodProblem& problem) {
 
 /// The heavy rule below the serving.
 void CustomFoodFields::paintEvent(QPaintEvent*) {
-    const QRect place = grid_->cellRect(ruleRow, 0);
-    QPainter(this).fillRect(margin, place.top(), width() - 2 * margin, heavyRule, TheStyle().ink);
+    const QRect place = grid_->cellRect(RuleRow, 0);
+    QPainter(this).fillRect(Margin, place.top(), width() - 2 * Margin, HeavyRule, TheStyle().ink);
 }

@@ -10,8 +10,8 @@
 
 namespace {
 // In twips.
-constexpr int belowLastRow = 120;
-constexpr int barAbove = 15; ///< the bar covers this much of the line around the frame
+constexpr int BelowLastRow = 120;
+constexpr int BarAbove = 15; ///< the bar covers this much of the line around the frame
 } // namespace
 
 ResultRows::ResultRows(QWidget* parent)
@@ -94,7 +94,7 @@ void ResultRows::SizePane() {
     const ucFood* last = rows_.last();
     const int bottom = last->y() + last->height();
     if (bottom > picResultsPane()->height()) {
-        SetPaneHeight(bottom + Twips::ToPixels(belowLastRow));
+        SetPaneHeight(bottom + Twips::ToPixels(BelowLastRow));
         ShowBar();
     } else {
         HideBar();
@@ -104,7 +104,7 @@ void ResultRows::SizePane() {
 
 void ResultRows::PlaceBar() {
     QRect place = vsResultsPane()->geometry();
-    place.setTop(-Twips::ToPixels(barAbove));
+    place.setTop(-Twips::ToPixels(BarAbove));
     vsResultsPane()->setGeometry(place);
 }
 

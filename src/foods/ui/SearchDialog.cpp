@@ -7,13 +7,13 @@
 #include "toolkit/ucButton.h"
 #include "toolkit/ucTitleFlat.h"
 
-static constexpr QSize dialogSize(640, 520);
+static constexpr QSize DialogSize(640, 520);
 
 SearchDialog::SearchDialog(const QString& name, const QString& title, const QString& panelName,
                            QWidget* owner)
     : Dialog(name, title, owner) {
     Title()->setObjectName(QStringLiteral("ucTitleFlat1"));
-    setFixedSize(dialogSize);
+    setFixedSize(DialogSize);
     BuildPanel(panelName);
     BuildDone();
 }

@@ -7,9 +7,9 @@
 
 namespace {
 
-constexpr int frameMilliseconds = 16;
-constexpr QSize barSize(280, 12);
-constexpr QSize panelSize(320, 64);
+constexpr int FrameMilliseconds = 16;
+constexpr QSize BarSize(280, 12);
+constexpr QSize PanelSize(320, 64);
 
 /// The empty bar, filled from the left with as much of the picture as the fraction says.
 class Bar : public QWidget {
@@ -33,12 +33,12 @@ private:
 };
 
 QPixmap FillPicture() {
-    QPixmap picture(barSize);
+    QPixmap picture(BarSize);
     QPainter painter(&picture);
     const auto& rows = TheStyle().barNormal;
-    for (int y = 0; y < barSize.height(); ++y)
-        painter.fillRect(0, y, barSize.width(), 1,
-                         rows[y * int(std::size(rows)) / barSize.height()]);
+    for (int y = 0; y < BarSize.height(); ++y)
+        painter.fillRect(0, y, BarSize.width(), 1,
+                         rows[y * int(std::size(rows)) / BarSize.height()]);
     return picture;
 }
 
@@ -54,10 +54,10 @@ SearchProgress::SearchProgress(QWidget* parent)
     picHome_ = new Bar(this, picSlide_);
     picHome_->setObjectName(QStringLiteral("picHome"));
     picHome_->setAccessibleName(caption_->text());
-    resize(panelSize);
-    const int left = (width() - barSize.width()) / 2;
-    caption_->setGeometry(left, 11, barSize.width(), 18);
-    picHome_->setGeometry(QRect(QPoint(left, 36), barSize));
+    resize(PanelSize);
+    const int left = (width() - BarSize.width()) / 2;
+    caption_->setGeometry(left, 11, BarSize.width(), 18);
+    picHome_->setGeometry(QRect(QPoint(left, 36), BarSize));
     hide();
 }
 
@@ -72,7 +72,7 @@ void SearchProgress::Begin() {
 void SearchProgress::SetFraction(double fraction) {
     const int before = FilledPixels();
     fraction_ = fraction;
-    if (FilledPixels() == before || !isVisible() || painted_.elapsed() < frameMilliseconds)
+    if (FilledPixels() == before || !isVisible() || painted_.elapsed() < FrameMilliseconds)
         return;
     picHome_->repaint();
     painted_.restart();

@@ -10,7 +10,7 @@ namespace {
 struct Names {
     const char *lblServ, *txtQTY, *cmdEAT, *imgInfo_W;
 };
-constexpr Names names[] = {
+constexpr Names NamesByLetter[] = {
     {"lblServA", "txtQTY_A", "cmdEAT_a", "imgInfo_W_A"},
     {"lblServB", "txtQTY_B", "cmdEAT_B", "imgInfo_W_B"},
 };
@@ -18,7 +18,7 @@ constexpr Names names[] = {
 
 ServingLine::ServingLine(QWidget* row, Letter letter)
     : QObject(row) {
-    const Names& name = names[letter];
+    const Names& name = NamesByLetter[letter];
     lblServ_ = new ElidedLabel(row, QString::fromLatin1(name.lblServ));
     lblServ_->setCursor(Qt::PointingHandCursor);
     BuildQuantity(row, QString::fromLatin1(name.txtQTY));

@@ -6,11 +6,11 @@
 #include <algorithm>
 
 /// The settings keep no more than this. It also limits the number of words in a statement.
-static constexpr int longestTerm = 255;
+static constexpr int LongestTerm = 255;
 
 TermField::TermField(QWidget* parent)
     : LineField(parent) {
-    setMaxLength(longestTerm);
+    setMaxLength(LongestTerm);
     connect(this, &QLineEdit::returnPressed, this, &TermField::SearchAsked);
 }
 

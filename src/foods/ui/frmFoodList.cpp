@@ -15,7 +15,7 @@
 namespace {
 
 // Measures in pixels.
-constexpr int listWidth = 178;
+constexpr int ListWidth = 178;
 
 } // namespace
 
@@ -59,7 +59,7 @@ void frmFoodList::resizeEvent(QResizeEvent*) {
 
 void frmFoodList::PlaceBoxes() {
     QRect place = BoxesPlace();
-    ucBox1_->setGeometry(QRect(place.topLeft(), QSize(listWidth, place.height())));
+    ucBox1_->setGeometry(QRect(place.topLeft(), QSize(ListWidth, place.height())));
     place.setLeft(ucBox1_->geometry().right() + 1 + TheStyle().boxGap);
     ucBox2_->setGeometry(place);
 }

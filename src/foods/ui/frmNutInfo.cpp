@@ -15,37 +15,37 @@
 
 namespace {
 
-constexpr double caloriesOfFatGram = 9;
+constexpr double CaloriesOfFatGram = 9;
 
 // The thin lines, in twips: one under each row of the two blocks.
-constexpr int lineLeft = 180;
-constexpr int lineRight = 4685;
-constexpr int rowStep = 255;
-constexpr int headlineTop = 1700;
-constexpr int headlineLines = 7;
-constexpr int othersTop = 3795;
-constexpr int othersLines = 11;
+constexpr int LineLeft = 180;
+constexpr int LineRight = 4685;
+constexpr int RowStep = 255;
+constexpr int HeadlineTop = 1700;
+constexpr int HeadlineLines = 7;
+constexpr int OthersTop = 3795;
+constexpr int OthersLines = 11;
 
 // In pixels.
-constexpr QSize panelSize(324, 494);
-constexpr int cardBottom = 448;
-constexpr int titleHeight = 30;
-constexpr int heavyRule = 3;
-constexpr int nameTop = 31, nameHeight = 22;
-constexpr int servingTop = 51, servingHeight = 15;
-constexpr int nameRuleTop = 67;
-constexpr int headingTop = 69, headingHeight = 13;
-constexpr int caloriesTop = 82, caloriesHeight = 15;
-constexpr int othersRuleTop = 224;
-constexpr int amountRight = 228;
-constexpr int leftColumnRight = 179;
-constexpr int rightColumnLeft = 189;
+constexpr QSize PanelSize(324, 494);
+constexpr int CardBottom = 448;
+constexpr int TitleHeight = 30;
+constexpr int HeavyRule = 3;
+constexpr int NameTop = 31, NameHeight = 22;
+constexpr int ServingTop = 51, ServingHeight = 15;
+constexpr int NameRuleTop = 67;
+constexpr int HeadingTop = 69, HeadingHeight = 13;
+constexpr int CaloriesTop = 82, CaloriesHeight = 15;
+constexpr int OthersRuleTop = 224;
+constexpr int AmountRight = 228;
+constexpr int LeftColumnRight = 179;
+constexpr int RightColumnLeft = 189;
 
 struct Headline {
     Nutrient id;
     const char* percentLabel;
 };
-constexpr Headline headlines[] = {
+constexpr Headline Headlines[] = {
     {Nutrient::TotalFat, "lblPerFat"},
     {Nutrient::SatFat, "lblPerSatFat"},
     {Nutrient::Cholesterol, "lblPerCholesterol"},
@@ -56,8 +56,8 @@ constexpr Headline headlines[] = {
 };
 
 /// Fills the left column first: it has room for the long captions.
-constexpr int othersRows = 12;
-constexpr Nutrient others[] = {
+constexpr int OthersRows = 12;
+constexpr Nutrient Others[] = {
     Nutrient::MonoFat,   Nutrient::PolyFat,    Nutrient::Ash,       Nutrient::Calcium,
     Nutrient::Copper,    Nutrient::Folate,     Nutrient::Iron,      Nutrient::Magnesium,
     Nutrient::Manganese, Nutrient::Niacin,     Nutrient::Panto,     Nutrient::Phosphorus,
@@ -65,20 +65,20 @@ constexpr Nutrient others[] = {
     Nutrient::VitaminA,  Nutrient::VitaminB12, Nutrient::VitaminB6, Nutrient::VitaminC,
     Nutrient::VitaminE,  Nutrient::Water,      Nutrient::Zinc,
 };
-static_assert(1 + std::size(headlines) + std::size(others) == NutrientCount);
+static_assert(1 + std::size(Headlines) + std::size(Others) == NutrientCount);
 
 int Left() {
-    return Twips::ToPixels(lineLeft);
+    return Twips::ToPixels(LineLeft);
 }
 
 int Right() {
-    return Twips::ToPixels(lineRight);
+    return Twips::ToPixels(LineRight);
 }
 
 /// The rectangle above the line of that row.
 QRect RowPlace(int firstLine, int row, int left, int right) {
-    const int top = Twips::ToPixels(firstLine + (row - 1) * rowStep) + 1;
-    const int bottom = Twips::ToPixels(firstLine + row * rowStep);
+    const int top = Twips::ToPixels(firstLine + (row - 1) * RowStep) + 1;
+    const int bottom = Twips::ToPixels(firstLine + row * RowStep);
     return {left, top, right - left, bottom - top};
 }
 
@@ -92,8 +92,8 @@ QString Percentage(double amount, double target) {
 frmNutInfo::frmNutInfo(QWidget* owner)
     : Dialog(QStringLiteral("frmNutInfo"), QStringLiteral("Details"), owner) {
     Title()->setObjectName(QStringLiteral("ucTitleFlat1"));
-    Title()->setFixedHeight(titleHeight);
-    setFixedSize(panelSize);
+    Title()->setFixedHeight(TitleHeight);
+    setFixedSize(PanelSize);
     BuildName();
     BuildCalories();
     BuildHeadlines();
@@ -105,8 +105,8 @@ void frmNutInfo::BuildName() {
     const Style& style = TheStyle();
     aaFoodName_ = new ElidedLabel(this, QStringLiteral("aaFoodName"));
     aaFoodName_->SetLook({style.screenTitle, style.strong}, style.heading);
-    aaFoodName_->setGeometry(Left(), nameTop, Right() - Left(), nameHeight);
-    const QRect serving(Left(), servingTop, Right() - Left(), servingHeight);
+    aaFoodName_->setGeometry(Left(), NameTop, Right() - Left(), NameHeight);
+    const QRect serving(Left(), ServingTop, Right() - Left(), ServingHeight);
     const int caption = AddCaption(serving, QStringLiteral("lblServSize"),
                                    QStringLiteral("Serving Size"), TextRole::Quiet)
                             ->sizeHint()
@@ -117,14 +117,14 @@ void frmNutInfo::BuildName() {
 }
 
 void frmNutInfo::BuildCalories() {
-    const QRect heading(Left(), headingTop, Right() - Left(), headingHeight);
+    const QRect heading(Left(), HeadingTop, Right() - Left(), HeadingHeight);
     AddCaption(heading, QStringLiteral("lblAmount"), QStringLiteral("Amount Per Serving"),
                TextRole::Small);
     AddCaption(heading, QStringLiteral("lblDailyValue"), QStringLiteral("% Daily Value"),
                TextRole::Small)
         ->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     const int middle = (Left() + Right()) / 2;
-    const QRect row(Left(), caloriesTop, middle - Left() - TheStyle().boxGap, caloriesHeight);
+    const QRect row(Left(), CaloriesTop, middle - Left() - TheStyle().boxGap, CaloriesHeight);
     AddAmount(row, Nutrient::Calories, TextRole::Strong);
     const QRect fat = row.translated(middle - Left() + TheStyle().boxGap, 0);
     AddCaption(fat, QStringLiteral("lblFatCalsCaption"), QStringLiteral("Calories from fat"),
@@ -133,22 +133,22 @@ void frmNutInfo::BuildCalories() {
 }
 
 void frmNutInfo::BuildHeadlines() {
-    for (int row = 0; row < headlineCount; ++row) {
-        AddAmount(RowPlace(headlineTop, row, Left(), amountRight), headlines[row].id,
+    for (int row = 0; row < HeadlineCount; ++row) {
+        AddAmount(RowPlace(HeadlineTop, row, Left(), AmountRight), Headlines[row].id,
                   TextRole::Text);
-        const QRect place = RowPlace(headlineTop, row, amountRight, Right());
+        const QRect place = RowPlace(HeadlineTop, row, AmountRight, Right());
         percents_[size_t(row)] =
-            AddFigure(place, QString::fromLatin1(headlines[row].percentLabel),
-                      QLatin1String(Info(headlines[row].id).factsCaption) + u", % Daily Value");
+            AddFigure(place, QString::fromLatin1(Headlines[row].percentLabel),
+                      QLatin1String(Info(Headlines[row].id).factsCaption) + u", % Daily Value");
     }
 }
 
 void frmNutInfo::BuildOthers() {
-    for (int i = 0; i < int(std::size(others)); ++i) {
-        const bool inLeft = i < othersRows;
-        AddAmount(RowPlace(othersTop, i % othersRows, inLeft ? Left() : rightColumnLeft,
-                           inLeft ? leftColumnRight : Right()),
-                  others[i], TextRole::Small);
+    for (int i = 0; i < int(std::size(Others)); ++i) {
+        const bool inLeft = i < OthersRows;
+        AddAmount(RowPlace(OthersTop, i % OthersRows, inLeft ? Left() : RightColumnLeft,
+                           inLeft ? LeftColumnRight : Right()),
+                  Others[i], TextRole::Small);
     }
 }
 
@@ -201,7 +201,7 @@ void frmNutInfo::Fill(const ScaledFood& item) {
         amounts_[size_t(nutrient.id)]->setText(
             FormatNutrient(item.Amount(QString::fromLatin1(nutrient.logColumn))));
     lblFatCals_->setText(
-        FormatNutrient(item.Amount(QStringLiteral("TotalFat")) * caloriesOfFatGram));
+        FormatNutrient(item.Amount(QStringLiteral("TotalFat")) * CaloriesOfFatGram));
     FillPercents(item);
     CapFatCalories();
 }
@@ -209,7 +209,7 @@ void frmNutInfo::Fill(const ScaledFood& item) {
 void frmNutInfo::FillPercents(const ScaledFood& item) {
     const Nuts& targets = User::Current().RDIs;
     for (size_t row = 0; row < percents_.size(); ++row) {
-        const Nutrient id = headlines[row].id;
+        const Nutrient id = Headlines[row].id;
         const double amount = item.Amount(QString::fromLatin1(Info(id).logColumn));
         percents_[row]->setText(Percentage(amount, targets[id]));
     }
@@ -227,14 +227,14 @@ void frmNutInfo::paintEvent(QPaintEvent* event) {
     const Style& style = TheStyle();
     const QRect inner = Inner();
     QPainter painter(this);
-    painter.fillRect(inner.left(), inner.top(), inner.width(), cardBottom - inner.top(),
+    painter.fillRect(inner.left(), inner.top(), inner.width(), CardBottom - inner.top(),
                      style.paper);
-    painter.fillRect(inner.left(), cardBottom, inner.width(), 1, style.rule);
-    for (const int top : {nameRuleTop, othersRuleTop})
-        painter.fillRect(Left(), top, Right() - Left(), heavyRule, style.ink);
+    painter.fillRect(inner.left(), CardBottom, inner.width(), 1, style.rule);
+    for (const int top : {NameRuleTop, OthersRuleTop})
+        painter.fillRect(Left(), top, Right() - Left(), HeavyRule, style.ink);
     for (const auto& [first, count] :
-         {std::pair(headlineTop, headlineLines), std::pair(othersTop, othersLines)})
+         {std::pair(HeadlineTop, HeadlineLines), std::pair(OthersTop, OthersLines)})
         for (int line = 0; line < count; ++line)
-            painter.fillRect(Left(), Twips::ToPixels(first + line * rowStep), Right() - Left(), 1,
+            painter.fillRect(Left(), Twips::ToPixels(first + line * RowStep), Right() - Left(), 1,
                              style.factsRule);
 }

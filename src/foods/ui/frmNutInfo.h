@@ -23,7 +23,7 @@ protected:
     void paintEvent(QPaintEvent*) override;
 
 private:
-    static constexpr int headlineCount = 7;
+    static constexpr int HeadlineCount = 7;
 
     void BuildName();
     void BuildCalories();
@@ -42,6 +42,6 @@ private:
     ElidedLabel* aaServSize_ = nullptr;
     QLabel* lblFatCals_ = nullptr;
     std::array<QLabel*, NutrientCount> amounts_{};
-    std::array<QLabel*, headlineCount> percents_{};
+    std::array<QLabel*, HeadlineCount> percents_{};
     ucButton* cmdDone_ = nullptr;
 };

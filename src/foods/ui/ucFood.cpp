@@ -13,10 +13,10 @@
 #include <QPainter>
 
 namespace {
-const QString foodPicture = QStringLiteral("food");
-const QString customPicture = QStringLiteral("custom-food");
-const QString recipePicture = QStringLiteral("recipe");
-const QString quantityCaption = QStringLiteral("QTY");
+const QString FoodPicture = QStringLiteral("food");
+const QString CustomPicture = QStringLiteral("custom-food");
+const QString RecipePicture = QStringLiteral("recipe");
+const QString QuantityCaption = QStringLiteral("QTY");
 
 bool FromKeyboard(const QFocusEvent* event) {
     return event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
@@ -29,7 +29,7 @@ ucFood::ucFood(QWidget* parent)
     , servA_(QStringLiteral("ServA"))
     , servB_(QStringLiteral("ServB"))
     , id_(QStringLiteral("1")) {
-    SetFoodIcon(foodPicture);
+    SetFoodIcon(FoodPicture);
     setFocusPolicy(Qt::TabFocus);
     resize(width(), layoutRects().height);
 }
@@ -60,9 +60,9 @@ void ucFood::SetIsRecipe(bool recipe) {
 
 void ucFood::ShowSource() {
     if (isRecipe_)
-        SetFoodIcon(recipePicture);
+        SetFoodIcon(RecipePicture);
     else
-        SetFoodIcon(id_.toInt() > Schema::LastStockFood ? customPicture : foodPicture);
+        SetFoodIcon(id_.toInt() > Schema::LastStockFood ? CustomPicture : FoodPicture);
 }
 
 void ucFood::SetRecipeMode(bool on) {
@@ -98,7 +98,7 @@ void ucFood::PaintTexts(QPainter& painter) const {
     const FoodRowLayout layout = layoutRects();
     Pictures::Paint(painter, layout.imgFoodIcon, FoodIcon(), style.heading);
     ElidedLabel::Print(painter, layout.aaFood, foodName_, NameFont(), ForeColor());
-    ElidedLabel::Print(painter, layout.lblQTY, quantityCaption, style.small, style.quietInk);
+    ElidedLabel::Print(painter, layout.lblQTY, QuantityCaption, style.small, style.quietInk);
     ElidedLabel::Print(painter, layout.lines[0].lblServ, servA_, font(), style.quietInk);
     if (!servB_.isEmpty())
         ElidedLabel::Print(painter, layout.lines[1].lblServ, servB_, font(), style.quietInk);
@@ -117,7 +117,7 @@ void ucFood::Materialise() {
 void ucFood::BuildHeading() {
     aaFood_ = new ElidedLabel(this, QStringLiteral("aaFood"));
     lblQTY_ = new ElidedLabel(this, QStringLiteral("lblQTY"));
-    lblQTY_->SetCaption(quantityCaption);
+    lblQTY_->SetCaption(QuantityCaption);
     lblQTY_->SetLook({TheStyle().small}, TheStyle().quietInk);
     imgFoodIcon_ = MakeLabel(this, QStringLiteral("imgFoodIcon"), {});
     lblID_ = MakeLabel(this, QStringLiteral("lblID"), {});

@@ -27,22 +27,22 @@
 
 namespace {
 
-constexpr int mealCount = Meals::Names.size();
+constexpr int MealCount = Meals::Names.size();
 
-constexpr int limitedRows = 50;
+constexpr int LimitedRows = 50;
 
 // In twips.
-constexpr int resultsLeft = 15;
-constexpr int resultsTop = 1065;
-constexpr int resultsBelow = 30;
+constexpr int ResultsLeft = 15;
+constexpr int ResultsTop = 1065;
+constexpr int ResultsBelow = 30;
 
 // The two lines of fields above the results, in pixels.
-constexpr int captionTop = 0;
-constexpr int captionHeight = 15;
-constexpr int fieldTop = 16;
-constexpr int termWidth = 196;
-constexpr int sourceTop = 46;
-constexpr int sourceHeight = 22;
+constexpr int CaptionTop = 0;
+constexpr int CaptionHeight = 15;
+constexpr int FieldTop = 16;
+constexpr int TermWidth = 196;
+constexpr int SourceTop = 46;
+constexpr int SourceHeight = 22;
 
 QString Named(const char* name, int index) {
     return QLatin1String(name) + QString::number(index);
@@ -50,7 +50,7 @@ QString Named(const char* name, int index) {
 
 QLabel* CaptionAt(QWidget* panel, const char* name, const char* text, QPoint place) {
     QLabel* caption = MakeLabel(panel, QLatin1String(name), QLatin1String(text), TextRole::Small);
-    caption->setGeometry(QRect(place, QSize(caption->sizeHint().width(), captionHeight)));
+    caption->setGeometry(QRect(place, QSize(caption->sizeHint().width(), CaptionHeight)));
     return caption;
 }
 
@@ -74,28 +74,28 @@ ucSearchResults::~ucSearchResults() {
 }
 
 void ucSearchResults::BuildTerm() {
-    Watch(CaptionAt(this, "lblFoodName", "Food name:", {1, captionTop}));
+    Watch(CaptionAt(this, "lblFoodName", "Food name:", {1, CaptionTop}));
     txtSearchString_ = new TermField(this);
     txtSearchString_->setObjectName(QStringLiteral("txtSearchString"));
     txtSearchString_->setAccessibleName(QStringLiteral("Food name"));
-    txtSearchString_->setGeometry(1, fieldTop, termWidth, TheStyle().fieldHeight);
+    txtSearchString_->setGeometry(1, FieldTop, TermWidth, TheStyle().fieldHeight);
     Watch(txtSearchString_);
     cmdGo_ = new ucButton(QStringLiteral("Search"), this);
     cmdGo_->setObjectName(QStringLiteral("cmdGo"));
     cmdGo_->SetMainAction(true);
-    cmdGo_->move(txtSearchString_->geometry().right() + TheStyle().boxGap, fieldTop - 1);
+    cmdGo_->move(txtSearchString_->geometry().right() + TheStyle().boxGap, FieldTop - 1);
     connect(txtSearchString_, &TermField::SearchAsked, this, &ucSearchResults::SearchFoodsDB);
     connect(cmdGo_, &ucButton::Click, this, &ucSearchResults::SearchFoodsDB);
 }
 
 void ucSearchResults::BuildMeals() {
     int left = cmdGo_->geometry().right() + 20;
-    Watch(CaptionAt(this, "lblMeals", "Add foods to meal:", {left, captionTop}));
-    for (int i = 0; i < mealCount; ++i) {
+    Watch(CaptionAt(this, "lblMeals", "Add foods to meal:", {left, CaptionTop}));
+    for (int i = 0; i < MealCount; ++i) {
         opMeal_[i] = new ucRadio(QLatin1String(Meals::Names[i]), this);
         opMeal_[i]->setObjectName(Named("opMeal", i));
         const QSize size = opMeal_[i]->sizeHint();
-        opMeal_[i]->setGeometry(left, fieldTop, size.width(), TheStyle().fieldHeight);
+        opMeal_[i]->setGeometry(left, FieldTop, size.width(), TheStyle().fieldHeight);
         left += size.width() + 2;
         connect(opMeal_[i], &ucRadio::Click, this, [this, i] { TickMeal(i); });
         Watch(opMeal_[i]);
@@ -103,8 +103,8 @@ void ucSearchResults::BuildMeals() {
 }
 
 void ucSearchResults::BuildSources() {
-    QLabel* caption = CaptionAt(this, "lblLocations", "Search locations:", {1, sourceTop});
-    caption->setFixedHeight(sourceHeight);
+    QLabel* caption = CaptionAt(this, "lblLocations", "Search locations:", {1, SourceTop});
+    caption->setFixedHeight(SourceHeight);
     Watch(caption);
     struct Source {
         QCheckBox*& box;
@@ -116,7 +116,7 @@ void ucSearchResults::BuildSources() {
                                  Source{ckRecipes_, "ckRecipes", "Recipes"}}) {
         source.box = new QCheckBox(QLatin1String(source.text), this);
         source.box->setObjectName(QLatin1String(source.name));
-        source.box->setGeometry(left, sourceTop, source.box->sizeHint().width(), sourceHeight);
+        source.box->setGeometry(left, SourceTop, source.box->sizeHint().width(), SourceHeight);
         left += source.box->width() + 18;
         Watch(source.box);
     }
@@ -154,25 +154,25 @@ void ucSearchResults::ResetButtons() {
 
 void ucSearchResults::SetRecipeMode(bool on) {
     recipeMode_ = on;
-    for (int i = 1; i < mealCount; ++i)
+    for (int i = 1; i < MealCount; ++i)
         opMeal_[i]->setVisible(!on);
 }
 
 void ucSearchResults::SetMeal(int meal) {
     meal_ = meal;
-    if (meal >= 0 && meal < mealCount)
+    if (meal >= 0 && meal < MealCount)
         TickMeal(meal);
 }
 
 int ucSearchResults::TickedMeal() const {
-    for (int i = 0; i < mealCount; ++i)
+    for (int i = 0; i < MealCount; ++i)
         if (opMeal_[i]->Value())
             return i;
     return -1;
 }
 
 void ucSearchResults::TickMeal(int meal) {
-    for (int i = 0; i < mealCount; ++i)
+    for (int i = 0; i < MealCount; ++i)
         opMeal_[i]->SetValue(i == meal);
 }
 
@@ -182,7 +182,7 @@ void ucSearchResults::RestoreState() {
     ckRecipes_->setChecked(ticked(Settings::SearchRecipes));
     ckStock_->setChecked(ticked(Settings::SearchStock));
     const double meal = Val(GetRegValue(Settings::Meal));
-    TickMeal(meal > 0 && meal < mealCount - 0.5 ? Round(meal) : 0);
+    TickMeal(meal > 0 && meal < MealCount - 0.5 ? Round(meal) : 0);
     txtSearchString_->setText(GetRegValue(Settings::SearchString));
 }
 
@@ -213,17 +213,17 @@ void ucSearchResults::SearchFoodsDB() {
 
 void ucSearchResults::ShowResults() {
     const int count = foods_.Count();
-    const int shown = App().AppInfo.LIMITRESULTS ? std::min(count, limitedRows) : count;
+    const int shown = App().AppInfo.LIMITRESULTS ? std::min(count, LimitedRows) : count;
     rows_->Load(foods_, shown, recipeMode_,
                 [this](double fraction) { picStatus_->SetFraction(fraction); });
     picStatus_->hide();
 }
 
 void ucSearchResults::resizeEvent(QResizeEvent*) {
-    const int left = Twips::ToPixels(resultsLeft);
-    const int top = Twips::ToPixels(resultsTop);
+    const int left = Twips::ToPixels(ResultsLeft);
+    const int top = Twips::ToPixels(ResultsTop);
     rows_->setGeometry(left, top, width() - 2 * left,
-                       height() - top - Twips::ToPixels(resultsBelow));
+                       height() - top - Twips::ToPixels(ResultsBelow));
     picStatus_->move(rows_->geometry().center() - picStatus_->rect().center());
 }
 

@@ -5,7 +5,7 @@
 
 #include <QApplication>
 
-static constexpr QSize calendarSize(280, 212);
+static constexpr QSize CalendarSize(280, 212);
 
 DayCalendar::DayCalendar(QWidget* parent)
     : ucBox(QStringLiteral("Select a date"), parent)
@@ -26,7 +26,7 @@ DayCalendar::~DayCalendar() {
 }
 
 QSize DayCalendar::sizeHint() const {
-    return calendarSize + QSize(2, TheStyle().headerHeight + 2);
+    return CalendarSize + QSize(2, TheStyle().headerHeight + 2);
 }
 
 void DayCalendar::resizeEvent(QResizeEvent* event) {

@@ -11,9 +11,9 @@
 
 namespace {
 
-constexpr int captionLeft = 11;
-constexpr int signRight = 8;
-constexpr int signSide = 16;
+constexpr int CaptionLeft = 11;
+constexpr int SignRight = 8;
+constexpr int SignSide = 16;
 
 QFont HeadingFont() {
     QFont font = TheStyle().strong;
@@ -59,11 +59,11 @@ void MealHeading::paintEvent(QPaintEvent*) {
     painter.drawLine(0, height() - 1, width(), height() - 1);
     painter.setPen(ForeColor());
     const double textHeight = QFontMetricsF(SmoothedFont(HeadingFont())).height();
-    SmoothedPrint(painter, QPointF(captionLeft, (height() - textHeight) / 2), caption_,
+    SmoothedPrint(painter, QPointF(CaptionLeft, (height() - textHeight) / 2), caption_,
                   HeadingFont());
     Pictures::Paint(
         painter,
-        QRect(width() - signRight - signSide, (height() - signSide) / 2, signSide, signSide),
+        QRect(width() - SignRight - SignSide, (height() - SignSide) / 2, SignSide, SignSide),
         QStringLiteral("add"), ForeColor());
     if (FocusShown())
         PaintFocusRing(painter, rect().adjusted(2, 1, -1, -1), style.fieldRadius);

@@ -27,10 +27,10 @@
 namespace {
 
 // Measures in pixels.
-constexpr int dateLeft = 204; ///< beside the frame's title of the screen
-constexpr int panelWidth = 338;
-constexpr int weightWidth = 62;
-constexpr QSize calendarPicture(18, 18);
+constexpr int DateLeft = 204; ///< beside the frame's title of the screen
+constexpr int PanelWidth = 338;
+constexpr int WeightWidth = 62;
+constexpr QSize CalendarPicture(18, 18);
 
 } // namespace
 
@@ -54,7 +54,7 @@ void frmDay::AddDateLine() {
     cmdCal_ = new ucButtonA(this);
     cmdCal_->setObjectName(QStringLiteral("cmdCal"));
     cmdCal_->SetPictures(QStringLiteral("calendar"), QStringLiteral("Select a new date"));
-    cmdCal_->SetPictureSize(calendarPicture);
+    cmdCal_->SetPictureSize(CalendarPicture);
     cmdCal_->SetBordered(true);
     connect(cmdCal_, &ucButtonA::Click, this, &frmDay::OpenCalendar);
     connect(cmdCal_, &ucButtonA::MouseMove, this, [this] { AllOff(cmdCal_->objectName()); });
@@ -66,7 +66,7 @@ void frmDay::AddWeightField() {
     txtWeight_ = new WeightField(this);
     txtWeight_->setObjectName(QStringLiteral("txtWeight"));
     txtWeight_->setAccessibleName(QStringLiteral("Today's weight in pounds"));
-    txtWeight_->resize(weightWidth, TheStyle().fieldHeight);
+    txtWeight_->resize(WeightWidth, TheStyle().fieldHeight);
     lblWeight_->setBuddy(txtWeight_);
     connect(txtWeight_, &WeightField::Left, this, &frmDay::SaveWeight);
     connect(txtWeight_, &WeightField::returnPressed, this, [this] { focusNextChild(); });
@@ -113,7 +113,7 @@ void frmDay::resizeEvent(QResizeEvent*) {
 
 void frmDay::PlaceDateLine() {
     const Style& style = TheStyle();
-    PlaceInTitleLine(cmdCal_, PlaceInTitleLine(aadate_, dateLeft) + style.boxGap);
+    PlaceInTitleLine(cmdCal_, PlaceInTitleLine(aadate_, DateLeft) + style.boxGap);
     picCal_->setGeometry(QRect(QPoint(cmdCal_->x(), BoxesPlace().top()), picCal_->sizeHint()));
     PlaceInTitleLine(txtWeight_, width() - style.nestEdge - txtWeight_->width());
     PlaceInTitleLine(lblWeight_, txtWeight_->x() - style.boxGap - lblWeight_->width());
@@ -121,7 +121,7 @@ void frmDay::PlaceDateLine() {
 
 void frmDay::PlaceBoxes() {
     QRect place = BoxesPlace();
-    daily_->setGeometry(place.right() + 1 - panelWidth, place.top(), panelWidth, place.height());
+    daily_->setGeometry(place.right() + 1 - PanelWidth, place.top(), PanelWidth, place.height());
     place.setRight(daily_->x() - TheStyle().boxGap - 1);
     box_->setGeometry(place);
 }

@@ -8,11 +8,11 @@
 
 namespace {
 
-constexpr std::array headingNames{"lblBreakfast", "lblLunch", "lblDinner", "lblSnack"};
-static_assert(headingNames.size() == Meals::Names.size());
+constexpr std::array HeadingNames{"lblBreakfast", "lblLunch", "lblDinner", "lblSnack"};
+static_assert(HeadingNames.size() == Meals::Names.size());
 
-constexpr int mostLines = 300;
-constexpr int mostLinesLimited = 49; // with the template, 50 of the row array
+constexpr int MostLines = 300;
+constexpr int MostLinesLimited = 49; // with the template, 50 of the row array
 
 } // namespace
 
@@ -28,7 +28,7 @@ ucMyFood::ucMyFood(QWidget* parent)
 
 MealHeading* ucMyFood::AddHeading(int meal) {
     const auto place = static_cast<size_t>(meal);
-    auto* heading = new MealHeading(QLatin1String(headingNames[place]),
+    auto* heading = new MealHeading(QLatin1String(HeadingNames[place]),
                                     QLatin1String(Meals::Names[place]), Pane()->picResultsPane());
     heading->hide();
     connect(heading, &MealHeading::Click, this, [this, meal] { Q_EMIT AddRequested(meal); });
@@ -63,7 +63,7 @@ void ucMyFood::showFood(const QString& FoodName, const QString& Serving, qint32 
                         int MealNumber, double QTY) {
     Q_UNUSED(MealNumber)
     Pane()->showFood(FoodName, Serving, RecID, QTY,
-                     App().AppInfo.LIMITRESULTS ? mostLinesLimited : mostLines);
+                     App().AppInfo.LIMITRESULTS ? MostLinesLimited : MostLines);
 }
 
 void ucMyFood::ClearList() {

@@ -14,18 +14,18 @@
 #include <span>
 
 namespace {
-constexpr int numberWidth = 56;
-constexpr int captionWidth = 100;
-constexpr int rowGap = 22;
-constexpr int margin = 16;
-constexpr int lastColumn = 5; // takes the space that is left
+constexpr int NumberWidth = 56;
+constexpr int CaptionWidth = 100;
+constexpr int RowGap = 22;
+constexpr int Margin = 16;
+constexpr int LastColumn = 5; // takes the space that is left
 
 struct Choice {
     const char* caption;
     const char* note;
 };
-constexpr Choice genders[] = {{"Female", ""}, {"Male", ""}};
-constexpr Choice activities[] = {
+constexpr Choice Genders[] = {{"Female", ""}, {"Male", ""}};
+constexpr Choice Activities[] = {
     {"Sedentary", "Mostly sitting, no regular exercise"},
     {"Low", "Light exercise on one to three days a week"},
     {"Medium", "Moderate exercise on three to five days a week"},
@@ -45,7 +45,7 @@ ucBox* MakeBox(QWidget* parent, const char* caption) {
 
 template <class Layout> Layout* LayOut(ucBox* box) {
     auto* layout = new Layout(box);
-    layout->setContentsMargins(margin, TheStyle().headerHeight + margin, margin, margin);
+    layout->setContentsMargins(Margin, TheStyle().headerHeight + Margin, Margin, Margin);
     return layout;
 }
 
@@ -59,7 +59,7 @@ QLineEdit* MakeField(QWidget* parent, const char* name, const char* spoken, cons
 
 QLineEdit* MakeNumber(QWidget* parent, const char* name, const char* spoken, const char* tip) {
     QLineEdit* field = MakeField(parent, name, spoken, tip);
-    field->setFixedWidth(numberWidth);
+    field->setFixedWidth(NumberWidth);
     field->setAlignment(Qt::AlignRight);
     return field;
 }
@@ -93,7 +93,7 @@ void AddNote(QGridLayout* grid) {
     note->setWordWrap(true);
     const int foot = grid->rowCount();
     grid->setRowStretch(foot, 1);
-    grid->addWidget(note, foot, 0, 1, lastColumn + 1, Qt::AlignBottom);
+    grid->addWidget(note, foot, 0, 1, LastColumn + 1, Qt::AlignBottom);
 }
 
 void Group(std::span<ucRadio* const> radios) {
@@ -157,13 +157,13 @@ QWidget* ProfileBasics::MakePersonBox() {
     auto* box = MakeBox(this, "Profile");
     auto* grid = LayOut<QGridLayout>(box);
     grid->setHorizontalSpacing(TheStyle().boxGap);
-    grid->setVerticalSpacing(rowGap);
-    grid->setColumnMinimumWidth(0, captionWidth);
-    grid->setColumnStretch(lastColumn, 1);
+    grid->setVerticalSpacing(RowGap);
+    grid->setColumnMinimumWidth(0, CaptionWidth);
+    grid->setColumnStretch(LastColumn, 1);
     AddCaptions(grid);
     txtUserName_ =
         MakeField(box, "txtUserName", "User Name", "Enter the user name you'd like to use");
-    grid->addWidget(txtUserName_, 0, 1, 1, lastColumn);
+    grid->addWidget(txtUserName_, 0, 1, 1, LastColumn);
     txtAge_ = AddNumber(grid, {1, 1}, "txtAge", "Age", "Enter your age in years", "Years");
     txtFeet_ = AddNumber(grid, {1, 2}, "txtFeet", "Height, Feet", "Enter your height", "Feet");
     txtInches_ =
@@ -178,13 +178,13 @@ QWidget* ProfileBasics::MakePersonBox() {
 
 QWidget* ProfileBasics::MakeGenderBox() {
     auto* box = MakeBox(this, "Gender");
-    AddRadios(box, QStringLiteral("opGender"), genders, opGender_);
+    AddRadios(box, QStringLiteral("opGender"), Genders, opGender_);
     return box;
 }
 
 QWidget* ProfileBasics::MakeActivityBox() {
     auto* box = MakeBox(this, "Activity Level");
-    AddRadios(box, QStringLiteral("opAct"), activities, opAct_);
+    AddRadios(box, QStringLiteral("opAct"), Activities, opAct_);
     return box;
 }
 

@@ -8,19 +8,19 @@
 #include <QGridLayout>
 
 namespace {
-constexpr int numberWidth = 66;
-constexpr int margin = 12;
-constexpr int lineGap = 15; // so that the longest group fills its box
+constexpr int NumberWidth = 66;
+constexpr int Margin = 12;
+constexpr int LineGap = 15; // so that the longest group fills its box
 
 using enum Nutrient;
 
-constexpr Nutrient energy[] = {Calories, TotalFat, SatFat,  PolyFat, MonoFat, Cholesterol,
+constexpr Nutrient Energy[] = {Calories, TotalFat, SatFat,  PolyFat, MonoFat, Cholesterol,
                                Carbs,    Fiber,    Protein, Ash,     Water};
-constexpr Nutrient minerals[] = {Sodium, Potassium, Calcium, Phosphorus, Magnesium,
+constexpr Nutrient Minerals[] = {Sodium, Potassium, Calcium, Phosphorus, Magnesium,
                                  Iron,   Zinc,      Copper,  Manganese,  Selenium};
-constexpr Nutrient vitamins[] = {VitaminA,  Thiamin, Riboflavin, Niacin,   Panto,
+constexpr Nutrient Vitamins[] = {VitaminA,  Thiamin, Riboflavin, Niacin,   Panto,
                                  VitaminB6, Folate,  VitaminB12, VitaminC, VitaminE};
-static_assert(HoldEachNutrientOnce({energy, minerals, vitamins}));
+static_assert(HoldEachNutrientOnce({Energy, Minerals, Vitamins}));
 } // namespace
 
 ProfileTargets::ProfileTargets(QWidget* parent)
@@ -30,17 +30,17 @@ ProfileTargets::ProfileTargets(QWidget* parent)
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(TheStyle().boxGap);
-    row->addWidget(MakeGroup("Energy and Macronutrients", energy), 1);
-    row->addWidget(MakeGroup("Minerals", minerals), 1);
-    row->addWidget(MakeGroup("Vitamins", vitamins), 1);
+    row->addWidget(MakeGroup("Energy and Macronutrients", Energy), 1);
+    row->addWidget(MakeGroup("Minerals", Minerals), 1);
+    row->addWidget(MakeGroup("Vitamins", Vitamins), 1);
 }
 
 QWidget* ProfileTargets::MakeGroup(const char* caption, std::span<const Nutrient> nutrients) {
     auto* box = new ucBox(QString::fromLatin1(caption), this);
     box->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     auto* grid = new QGridLayout(box);
-    grid->setContentsMargins(margin, TheStyle().headerHeight + margin, margin, margin);
-    grid->setVerticalSpacing(lineGap);
+    grid->setContentsMargins(Margin, TheStyle().headerHeight + Margin, Margin, Margin);
+    grid->setVerticalSpacing(LineGap);
     grid->setColumnStretch(0, 1);
     int line = 0;
     for (Nutrient id : nutrients) {
@@ -57,7 +57,7 @@ QLineEdit* ProfileTargets::MakeField(QWidget* box, const NutrientInfo& nutrient)
     auto* field = new LineField(box);
     field->setObjectName(QString::fromLatin1(nutrient.textField));
     field->setAccessibleName(QString::fromLatin1(nutrient.editCaption));
-    field->setFixedWidth(numberWidth);
+    field->setFixedWidth(NumberWidth);
     field->setAlignment(Qt::AlignRight);
     fields_[nutrient.id] = field;
     return field;

@@ -21,10 +21,10 @@
 #include <QPointer>
 
 namespace {
-constexpr QSize nestSize(766, 562);
-constexpr QSize firstUserSize(766, 470);
-constexpr int contentsTop = 42;
-constexpr int dragBand = 255; // twips
+constexpr QSize NestSize(766, 562);
+constexpr QSize FirstUserSize(766, 470);
+constexpr int ContentsTop = 42;
+constexpr int DragBand = 255; // twips
 
 QWidget* HomeWindow() {
     const auto windows = QApplication::topLevelWidgets();
@@ -39,7 +39,7 @@ frmProfile::frmProfile(QWidget* parent)
     : Screen(Screens::Profile, parent)
     , title_(new ucTitleFlat(this)) {
     setAttribute(Qt::WA_DeleteOnClose);
-    resize(nestSize);
+    resize(NestSize);
     title_->setObjectName(QStringLiteral("ucTitleFlat1"));
     title_->SetCaption(Title());
     MakePages();
@@ -63,7 +63,7 @@ void frmProfile::AddButtons() {
 void frmProfile::LayOut() {
     const Style& style = TheStyle();
     auto* page = new QGridLayout(this);
-    page->setContentsMargins(style.nestEdge, contentsTop, style.nestEdge, 10);
+    page->setContentsMargins(style.nestEdge, ContentsTop, style.nestEdge, 10);
     page->setSpacing(style.boxGap);
     page->addWidget(basics_, 0, 0);
     page->addWidget(targets_, 0, 0);
@@ -87,7 +87,7 @@ void frmProfile::CreateFirstUser() {
 void frmProfile::ShowModally() {
     setWindowFlags(Qt::Dialog | Qt::FramelessWindowHint);
     setWindowModality(Qt::ApplicationModal);
-    resize(firstUserSize);
+    resize(FirstUserSize);
     CentreWindow(this);
     QEventLoop untilClosed;
     connect(this, &frmProfile::Closed, &untilClosed, &QEventLoop::quit);
@@ -231,7 +231,7 @@ void frmProfile::keyPressEvent(QKeyEvent* event) {
 
 /// Only a window of its own can be dragged.
 void frmProfile::mousePressEvent(QMouseEvent* event) {
-    const bool inBand = event->position().y() < Twips::ToPixels(dragBand);
+    const bool inBand = event->position().y() < Twips::ToPixels(DragBand);
     dragging_ = isWindow() && event->button() == Qt::LeftButton && inBand;
     grip_ = event->globalPosition().toPoint() - pos();
 }

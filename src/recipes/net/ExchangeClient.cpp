@@ -12,11 +12,11 @@ namespace {
 
 // The longest replies that are read, in bytes: many times the largest recipe and the longest
 // sentence.
-constexpr qint64 longestDocument = 8 * 1024 * 1024;
-constexpr qint64 longestSentence = 64 * 1024;
+constexpr qint64 LongestDocument = 8 * 1024 * 1024;
+constexpr qint64 LongestSentence = 64 * 1024;
 
 /// Rows sent in one call: few enough for a server that limits the size of a request.
-constexpr qsizetype rowsAtOnce = 100;
+constexpr qsizetype RowsAtOnce = 100;
 
 enum Status { Done = 200, Created = 201, Unknown = 404 };
 
@@ -47,7 +47,7 @@ QByteArray TokenIn(const QJsonValue& value) {
 
 QJsonArray Slice(const QJsonArray& values, qsizetype from) {
     QJsonArray slice;
-    for (qsizetype i = from; i < std::min(values.size(), from + rowsAtOnce); ++i)
+    for (qsizetype i = from; i < std::min(values.size(), from + RowsAtOnce); ++i)
         slice.append(values.at(i));
     return slice;
 }
@@ -57,7 +57,7 @@ QJsonArray Slice(const QJsonArray& values, qsizetype from) {
 /// The exchange gives a reason when it has no such recipe. A 404 without one comes from another
 /// server, and is a failure.
 std::optional<QJsonObject> ExchangeClient::ReadRecipe(qint32 RecipeID) {
-    const HttpReply reply = http_.Get(Server::Address() + RecipesPath(RecipeID), longestDocument);
+    const HttpReply reply = http_.Get(Server::Address() + RecipesPath(RecipeID), LongestDocument);
     if (reply.status == Unknown && ObjectIn(reply, Unknown)[QLatin1String("reason")].isString())
         return std::nullopt;
     const QJsonObject recipe = ObjectIn(reply, Done);
@@ -68,7 +68,7 @@ std::optional<QJsonObject> ExchangeClient::ReadRecipe(qint32 RecipeID) {
 
 ExchangeClient::Ingredients ExchangeClient::ReadIngredients(qint32 RecipeID) {
     const QString address = Server::Address() + RecipesPath(RecipeID) + "/ingredients";
-    const QJsonObject table = ObjectIn(http_.Get(address, longestDocument), Done);
+    const QJsonObject table = ObjectIn(http_.Get(address, LongestDocument), Done);
     const QJsonValue rows = table[QLatin1String("rows")];
     if (!rows.isArray())
         Refuse();
@@ -83,7 +83,7 @@ ExchangeClient::Appended ExchangeClient::AppendRecipe(const QJsonObject& recipe)
 
 void ExchangeClient::AppendIngredients(const Appended& recipe, const Ingredients& ingredients) {
     const QString path = RecipesPath(recipe.RecipeID) + "/ingredients";
-    for (qsizetype from = 0; from < ingredients.rows.size(); from += rowsAtOnce) {
+    for (qsizetype from = 0; from < ingredients.rows.size(); from += RowsAtOnce) {
         const QJsonArray rows = Slice(ingredients.rows, from);
         const QJsonObject body{{QStringLiteral("fields"), ingredients.fields},
                                {QStringLiteral("rows"), rows},
@@ -97,12 +97,12 @@ void ExchangeClient::AppendIngredients(const Appended& recipe, const Ingredients
 QJsonObject ExchangeClient::Append(const QString& path, const QJsonObject& body,
                                    const QByteArray& token) {
     const QByteArray json = QJsonDocument(body).toJson(QJsonDocument::Compact);
-    return ObjectIn(http_.PostJson(Server::Address() + path, json, token, longestDocument),
+    return ObjectIn(http_.PostJson(Server::Address() + path, json, token, LongestDocument),
                     Created);
 }
 
 QString ExchangeClient::SendRecipe(qint32 RecipeID) {
     const QString address =
         Server::Address() + "/halvane/sendrecipe.asp?recID=" + QString::number(RecipeID);
-    return QString::fromUtf8(http_.Get(address, longestSentence).body);
+    return QString::fromUtf8(http_.Get(address, LongestSentence).body);
 }

@@ -13,10 +13,10 @@ namespace {
 // Positions of an ingredient: its key, the amounts, name, serving, key of the recipe, quantity.
 // Both keys are made anew where the row arrives. The quantity travels beside the rows, and the
 // exchange tells it in the serving.
-constexpr int foodNamePosition = NutrientCount + 1;
-constexpr int servingPosition = NutrientCount + 2;
-constexpr int lastCarried = NutrientCount + 3;
-constexpr int quantityPosition = NutrientCount + 4;
+constexpr int FoodNamePosition = NutrientCount + 1;
+constexpr int ServingPosition = NutrientCount + 2;
+constexpr int LastCarried = NutrientCount + 3;
+constexpr int QuantityPosition = NutrientCount + 4;
 
 using Ingredients = ExchangeClient::Ingredients;
 
@@ -33,8 +33,8 @@ Recipe ReceivedRecipe(const QJsonObject& remote) {
 
 QVariantList ReceivedIngredient(const QJsonArray& row) {
     QVariantList values;
-    for (int i = 1; i <= lastCarried; ++i)
-        values << ReceivedValue(row[i], i != foodNamePosition && i != servingPosition);
+    for (int i = 1; i <= LastCarried; ++i)
+        values << ReceivedValue(row[i], i != FoodNamePosition && i != ServingPosition);
     return values;
 }
 
@@ -60,7 +60,7 @@ QJsonObject RecipeToSend(qint32 RecipeID, const RecipeExchange::Envelope& envelo
 
 QJsonArray IngredientToSend(const QVariantList& row, qint32 remoteID) {
     QJsonArray values{QJsonValue::Null};
-    for (int i = 1; i < lastCarried; ++i)
+    for (int i = 1; i < LastCarried; ++i)
         values.append(QJsonValue::fromVariant(row[i]));
     values.append(remoteID);
     return values;
@@ -71,7 +71,7 @@ Ingredients IngredientsToSend(qint32 RecipeID, qint32 remoteID) {
     Ingredients all{QJsonArray::fromStringList(own.columns), {}, {}};
     for (const QVariantList& row : own.rows) {
         all.rows.append(IngredientToSend(row, remoteID));
-        all.quantities.append(QJsonValue::fromVariant(row[quantityPosition]));
+        all.quantities.append(QJsonValue::fromVariant(row[QuantityPosition]));
     }
     return all;
 }

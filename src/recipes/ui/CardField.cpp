@@ -12,10 +12,10 @@
 namespace {
 
 // Measures in pixels.
-constexpr int captionGap = 8;
-constexpr int unitGap = 4;
-constexpr int blankWidth = 8; // before a unit if there is no number
-constexpr int numberWidth = 56;
+constexpr int CaptionGap = 8;
+constexpr int UnitGap = 4;
+constexpr int BlankWidth = 8; // before a unit if there is no number
+constexpr int NumberWidth = 56;
 
 } // namespace
 
@@ -78,7 +78,7 @@ void CardField::Focus() {
 }
 
 int CardField::CaptionWidth() const {
-    return caption_->width() + captionGap;
+    return caption_->width() + CaptionGap;
 }
 
 void CardField::Place(const QRect& line, int captionWidth) {
@@ -90,14 +90,14 @@ void CardField::Place(const QRect& line, int captionWidth) {
 
 /// The unit follows directly after the number on the label, or after the entry.
 void CardField::PlaceParts() {
-    const int taken = unit_ ? unitGap + unit_->width() : 0;
+    const int taken = unit_ ? UnitGap + unit_->width() : 0;
     const int room = qMax(0, place_.width() - taken);
-    const int shown = unit_ ? qMin(room, qMax(blankWidth, ShownWidth())) : room;
+    const int shown = unit_ ? qMin(room, qMax(BlankWidth, ShownWidth())) : room;
     label_->setGeometry(place_.left(), place_.top(), shown, place_.height());
-    entry_->resize(unit_ ? numberWidth : room, TheStyle().fieldHeight);
+    entry_->resize(unit_ ? NumberWidth : room, TheStyle().fieldHeight);
     PlaceOnLine(place_, entry_);
     if (unit_)
-        PlaceOnLine(place_.translated((editing_ ? numberWidth : shown) + unitGap, 0), unit_);
+        PlaceOnLine(place_.translated((editing_ ? NumberWidth : shown) + UnitGap, 0), unit_);
 }
 
 int CardField::ShownWidth() const {

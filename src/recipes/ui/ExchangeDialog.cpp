@@ -12,7 +12,7 @@
 #include <QEvent>
 #include <QPointer>
 
-static constexpr int captionWidth = 150;
+static constexpr int CaptionWidth = 150;
 
 ExchangeDialog::ExchangeDialog(const QString& name, const QString& title, QSize size,
                                QWidget* owner)
@@ -22,7 +22,7 @@ ExchangeDialog::ExchangeDialog(const QString& name, const QString& title, QSize 
 }
 
 int ExchangeDialog::FieldLeft() const {
-    return Inner().left() + TheStyle().nestEdge + captionWidth;
+    return Inner().left() + TheStyle().nestEdge + CaptionWidth;
 }
 
 QLineEdit* ExchangeDialog::AddField(int top, const char* label, const char* caption,

@@ -13,12 +13,12 @@
 
 namespace {
 
-constexpr int textLeft = 8;
-constexpr int textTop = 6; // as much is kept free below the last line
-constexpr int slack = 1;   // without it the last visible line would count as cut
+constexpr int TextLeft = 8;
+constexpr int TextTop = 6; // as much is kept free below the last line
+constexpr int Slack = 1;   // without it the last visible line would count as cut
 
 /// This control paints the frame around the text, so the field has none.
-const char* const bareField =
+const char* const BareField =
     "#txtInstructions { background: transparent; border: none; padding: 0; }";
 
 } // namespace
@@ -37,7 +37,7 @@ void InstructionText::AddText() {
     text_ = new QPlainTextEdit(this);
     text_->setObjectName(QStringLiteral("txtInstructions"));
     text_->setAccessibleName(QStringLiteral("Preparation instructions"));
-    text_->setStyleSheet(QLatin1String(bareField));
+    text_->setStyleSheet(QLatin1String(BareField));
     text_->setFont(TheStyle().reading);
     text_->document()->setDocumentMargin(0);
     text_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -158,14 +158,14 @@ int InstructionText::LineHeight() const {
 }
 
 QSize InstructionText::sizeHint() const {
-    return {QWidget::sizeHint().width(), LinesInSight * LineHeight() + slack + 2 * textTop};
+    return {QWidget::sizeHint().width(), LinesInSight * LineHeight() + Slack + 2 * TextTop};
 }
 
 /// The room of a hidden bar stays free, so that the line breaks are the same with and without it.
 void InstructionText::resizeEvent(QResizeEvent*) {
     const int barWidth = TheStyle().scrollWidth;
-    text_->setGeometry(textLeft, textTop, width() - 2 * textLeft - barWidth,
-                       height() - 2 * textTop);
+    text_->setGeometry(TextLeft, TextTop, width() - 2 * TextLeft - barWidth,
+                       height() - 2 * TextTop);
     bar_->setGeometry(width() - barWidth - 1, 1, barWidth, height() - 2);
 }
 

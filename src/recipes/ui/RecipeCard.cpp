@@ -12,17 +12,17 @@
 namespace {
 
 // Measures in pixels.
-constexpr int margin = 18;
-constexpr QRect nameLine(margin, 10, 0, 32); // as wide as the card lets it
-constexpr int nameRule = 44;
-constexpr int ruling = 27; // from one ruled line of the card to the next
-constexpr int factsTop = nameRule + 4;
-constexpr int secondColumn = 262; // from the left margin
-constexpr int columnGap = 14;
-constexpr int headingTop = factsTop + 2 * ruling + 4;
-constexpr int headingHeight = 26;
-constexpr int headingGap = 4; // above the ingredients
-constexpr int lowerMargin = 14;
+constexpr int Margin = 18;
+constexpr QRect NameLine(Margin, 10, 0, 32); // as wide as the card lets it
+constexpr int NameRule = 44;
+constexpr int Ruling = 27; // from one ruled line of the card to the next
+constexpr int FactsTop = NameRule + 4;
+constexpr int SecondColumn = 262; // from the left margin
+constexpr int ColumnGap = 14;
+constexpr int HeadingTop = FactsTop + 2 * Ruling + 4;
+constexpr int HeadingHeight = 26;
+constexpr int HeadingGap = 4; // above the ingredients
+constexpr int LowerMargin = 14;
 
 ucAALBL* MakeHeading(QWidget* parent, const char* name, const char* caption) {
     auto* heading = new ucAALBL(parent);
@@ -35,7 +35,7 @@ ucAALBL* MakeHeading(QWidget* parent, const char* name, const char* caption) {
 }
 
 QRect LineAt(int left, int line, int right) {
-    return {margin + left, factsTop + line * ruling, right - left, ruling};
+    return {Margin + left, FactsTop + line * Ruling, right - left, Ruling};
 }
 
 } // namespace
@@ -169,7 +169,7 @@ void RecipeCard::SetEditing(bool editing) {
 }
 
 int RecipeCard::InnerWidth() const {
-    return width() - 2 * margin;
+    return width() - 2 * Margin;
 }
 
 void RecipeCard::resizeEvent(QResizeEvent*) {
@@ -180,7 +180,7 @@ void RecipeCard::resizeEvent(QResizeEvent*) {
 }
 
 void RecipeCard::PlaceName() {
-    FieldOf(RecipeField::Name)->Place(nameLine.adjusted(0, 0, InnerWidth(), 0), 0);
+    FieldOf(RecipeField::Name)->Place(NameLine.adjusted(0, 0, InnerWidth(), 0), 0);
 }
 
 void RecipeCard::PlaceFacts() {
@@ -188,26 +188,26 @@ void RecipeCard::PlaceFacts() {
     CardField* serving = FieldOf(RecipeField::Serving);
     CardField* time = FieldOf(RecipeField::Time);
     const int captions = qMax(yield->CaptionWidth(), serving->CaptionWidth());
-    const int firstEnd = secondColumn - columnGap;
+    const int firstEnd = SecondColumn - ColumnGap;
     yield->Place(LineAt(0, 0, firstEnd), captions);
-    time->Place(LineAt(secondColumn, 0, InnerWidth()), time->CaptionWidth());
+    time->Place(LineAt(SecondColumn, 0, InnerWidth()), time->CaptionWidth());
     serving->Place(LineAt(0, 1, firstEnd), captions);
-    aaCals_->setGeometry(LineAt(secondColumn, 1, InnerWidth()));
+    aaCals_->setGeometry(LineAt(SecondColumn, 1, InnerWidth()));
 }
 
 void RecipeCard::PlaceInstructions() {
-    PlaceOnLine(QRect(margin, headingTop, InnerWidth(), headingHeight), aaPrepare_);
-    instructions_->setGeometry(margin, headingTop + headingHeight, InnerWidth(),
+    PlaceOnLine(QRect(Margin, HeadingTop, InnerWidth(), HeadingHeight), aaPrepare_);
+    instructions_->setGeometry(Margin, HeadingTop + HeadingHeight, InnerWidth(),
                                instructions_->sizeHint().height());
 }
 
 void RecipeCard::PlaceIngredients() {
     const QRect above = instructions_->geometry();
-    const QRect heading(margin, above.bottom() + 1 + headingGap, above.width(), headingHeight);
+    const QRect heading(Margin, above.bottom() + 1 + HeadingGap, above.width(), HeadingHeight);
     PlaceOnLine(heading, aaIngredientsLBL_);
     cmdIngreds_->move(heading.right() + 1 - cmdIngreds_->width(), heading.top());
-    const int top = heading.bottom() + 1 + headingGap / 2;
-    ucING_->setGeometry(margin, top, above.width(), height() - lowerMargin - top);
+    const int top = heading.bottom() + 1 + HeadingGap / 2;
+    ucING_->setGeometry(Margin, top, above.width(), height() - LowerMargin - top);
 }
 
 void RecipeCard::paintEvent(QPaintEvent*) {
@@ -215,9 +215,9 @@ void RecipeCard::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.fillRect(rect(), style.paper);
     painter.setPen(style.cardRuling);
-    for (const int y : {factsTop + ruling, factsTop + 2 * ruling})
-        painter.drawLine(margin, y, width() - margin - 1, y);
-    painter.fillRect(margin, nameRule, width() - 2 * margin, 2, style.cardLine);
+    for (const int y : {FactsTop + Ruling, FactsTop + 2 * Ruling})
+        painter.drawLine(Margin, y, width() - Margin - 1, y);
+    painter.fillRect(Margin, NameRule, width() - 2 * Margin, 2, style.cardLine);
     painter.setPen(style.frame);
     painter.drawRoundedRect(QRectF(rect()).adjusted(.5, .5, -.5, -.5), style.boxRadius,
                             style.boxRadius);

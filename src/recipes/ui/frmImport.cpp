@@ -12,8 +12,8 @@
 
 namespace {
 
-constexpr QSize importSize(460, 172);
-constexpr int introHeight = 34;
+constexpr QSize ImportSize(460, 172);
+constexpr int IntroHeight = 34;
 
 QString FailureText() {
     return "The recipe could not be imported. Please try again or contact " + Server::Support() +
@@ -23,11 +23,11 @@ QString FailureText() {
 } // namespace
 
 frmImport::frmImport(QWidget* owner)
-    : ExchangeDialog(QStringLiteral("frmImport"), QStringLiteral("Import Recipe"), importSize,
+    : ExchangeDialog(QStringLiteral("frmImport"), QStringLiteral("Import Recipe"), ImportSize,
                      owner) {
     const Style& style = TheStyle();
     QRect place = Inner().adjusted(style.nestEdge, style.nestEdge, -style.nestEdge, 0);
-    place.setHeight(introHeight);
+    place.setHeight(IntroHeight);
     QLabel* intro =
         MakeLabel(this, QStringLiteral("Label1"),
                   QStringLiteral("Enter the recipe ID you wish to import into the field "

@@ -6,7 +6,7 @@
 #include <QAccessible>
 #include <QTimer>
 
-static constexpr int noticeTime = 2000; // milliseconds
+static constexpr int NoticeTime = 2000; // milliseconds
 
 frmRecSearch::frmRecSearch(QWidget* owner)
     : SearchDialog(QStringLiteral("frmRecSearch"), QStringLiteral("Add foods to recipe"),
@@ -22,7 +22,7 @@ void frmRecSearch::BuildNotice() {
     lblInfo_->hide();
     tmrHider_ = new QTimer(this);
     tmrHider_->setObjectName(QStringLiteral("tmrHider"));
-    tmrHider_->setInterval(noticeTime);
+    tmrHider_->setInterval(NoticeTime);
     tmrHider_->setTimerType(Qt::PreciseTimer);
     connect(tmrHider_, &QTimer::timeout, this, &frmRecSearch::HideNotice);
 }

@@ -18,12 +18,12 @@
 
 namespace {
 
-constexpr qint32 noRecipe = -1;
+constexpr qint32 NoRecipe = -1;
 
 constexpr QLatin1String editCaption("Edit Recipe");
 constexpr QLatin1String saveCaption("Save Changes");
 
-constexpr int listWidth = 186; // in pixels
+constexpr int ListWidth = 186; // in pixels
 
 } // namespace
 
@@ -82,7 +82,7 @@ void frmRecipeManager::resizeEvent(QResizeEvent*) {
 
 void frmRecipeManager::PlaceBoxes() {
     QRect place = BoxesPlace();
-    ucBox1_->setGeometry(QRect(place.topLeft(), QSize(listWidth, place.height())));
+    ucBox1_->setGeometry(QRect(place.topLeft(), QSize(ListWidth, place.height())));
     place.setLeft(ucBox1_->geometry().right() + 1 + TheStyle().boxGap);
     card_->setGeometry(place);
 }
@@ -105,7 +105,7 @@ void frmRecipeManager::ListRecipes() {
     const int index = qMax(0, lsRecipes_->ListIndex());
     const qint32 chosen = lsRecipes_->ItemData(index);
     lsRecipes_->Clear();
-    current_ = noRecipe;
+    current_ = NoRecipe;
     card_->Clear();
     AllowAll({cmdEdit_, cmdDelete_, cmdSend_}, false);
     Attempt([this] { lsRecipes_->SetLines(RecipeBook::Names()); });
@@ -160,7 +160,7 @@ void frmRecipeManager::AddRecipe() {
 }
 
 void frmRecipeManager::cmdEdit_Click() {
-    if (current_ == noRecipe)
+    if (current_ == NoRecipe)
         return;
     if (!IsEditing()) {
         SetEditCaption(saveCaption);
@@ -202,20 +202,20 @@ void frmRecipeManager::EndEdit() {
 }
 
 void frmRecipeManager::cmdDelete_Click() {
-    if (current_ == noRecipe)
+    if (current_ == NoRecipe)
         return;
     if (!ShowAlert(QStringLiteral("Are you sure you want to delete this recipe?"), this, true))
         return;
     RecipeBook::DeleteRecipe(current_);
     ListRecipes();
-    if (current_ == noRecipe)
+    if (current_ == NoRecipe)
         cmdNew_->setFocus();
     else
         lsRecipes_->setFocus();
 }
 
 void frmRecipeManager::cmdSend_Click() {
-    if (current_ == noRecipe)
+    if (current_ == NoRecipe)
         ShowAlert(QStringLiteral("You must first search for a recipe to send."), this);
     else
         frmSend(current_, this).ShowModal();

@@ -13,7 +13,7 @@
 
 namespace {
 
-constexpr QSize sendSize(460, 196);
+constexpr QSize SendSize(460, 196);
 
 /// A page of markup, or fewer than two characters, is not an answer for a person.
 bool IsNoAnswer(const QString& reply) {
@@ -29,7 +29,7 @@ QString FailureText() {
 } // namespace
 
 frmSend::frmSend(qint32 RecipeID, QWidget* owner)
-    : ExchangeDialog(QStringLiteral("frmSend"), QStringLiteral("Send Recipe"), sendSize, owner)
+    : ExchangeDialog(QStringLiteral("frmSend"), QStringLiteral("Send Recipe"), SendSize, owner)
     , recipeID_(RecipeID) {
     const Style& style = TheStyle();
     const int line = style.fieldHeight + style.boxGap;

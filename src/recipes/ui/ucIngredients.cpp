@@ -6,10 +6,10 @@
 
 #include <QPainter>
 
-static constexpr int edge = 1;
+static constexpr int Edge = 1;
 
 ucIngredients::ucIngredients(QWidget* parent)
-    : AteList(edge, parent) {
+    : AteList(Edge, parent) {
     setAccessibleName(QStringLiteral("Ingredients"));
     Pane()->SetFillsFrame(false);
     connect(Pane(), &AtePane::PaneMove, this, &ucIngredients::RaiseMouseMove);
@@ -18,7 +18,7 @@ ucIngredients::ucIngredients(QWidget* parent)
 void ucIngredients::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setPen(TheStyle().rule);
-    painter.drawRect(rect().adjusted(0, 0, -edge, -edge));
+    painter.drawRect(rect().adjusted(0, 0, -Edge, -Edge));
 }
 
 void ucIngredients::DisplayFoods(bool ResetPane) {

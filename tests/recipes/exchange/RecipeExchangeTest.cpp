@@ -10,12 +10,12 @@
 #include <SQLiteCpp/SQLiteCpp.h>
 
 namespace {
-const QString importedText = "The recipe has been successfully imported!";
-const QString notImportedText = "The recipe could not be imported. Please try again or contact "
+const QString ImportedText = "The recipe has been successfully imported!";
+const QString NotImportedText = "The recipe could not be imported. Please try again or contact "
                                 "help@example.org for assistance.";
-const QString unknownText = "Recipe not found in online database. Please ensure the recipe ID "
+const QString UnknownText = "Recipe not found in online database. Please ensure the recipe ID "
                             "you've entered is correct and try again.";
-const QString notSentText =
+const QString NotSentText =
     "There was an error posting your recipe. Please ensure you are connected to the internet and "
     "try again. If this problem persists, please contact help@example.org.";
 } // namespace
@@ -101,7 +101,7 @@ TEST_P(RecipeExchangeTest, ASentRecipeIsImportedWithoutAnyLoss) {
     UserDB().Raw().exec("UPDATE Ingredients SET QTY = 1");
     const qint32 remote = Send(recipe);
     ASSERT_GT(remote, 1) << answer.toStdString();
-    EXPECT_EQ(Import(QString::number(remote)), importedText);
+    EXPECT_EQ(Import(QString::number(remote)), ImportedText);
     EXPECT_EQ(CardOf(recipe + 1), CardOf(recipe));
     EXPECT_EQ(RowsOf(recipe + 1), RowsOf(recipe));
     EXPECT_EQ(RowsOf(recipe + 1).size(), 10);
@@ -114,11 +114,11 @@ TEST_P(RecipeExchangeTest, AQuantityOtherThanOneArrivesInTheServing) {
     UserDB().Raw().exec("UPDATE Ingredients SET QTY = 1.5 WHERE ID = 2");
     UserDB().Raw().exec("DELETE FROM Ingredients WHERE ID > 5");
     const qint32 remote = Send(recipe);
-    EXPECT_EQ(Import(QString::number(remote)), importedText);
+    EXPECT_EQ(Import(QString::number(remote)), ImportedText);
     EXPECT_EQ(ServingsOf(recipe + 1), "1 cup|1.5 x 1 cup|3 x 1 cup|4 x 1 cup|1 cup");
     EXPECT_EQ(Count("Ingredients", "QTY = 1 AND RecipeID = " + QString::number(recipe + 1)), 5);
     const qint32 again = Send(recipe + 1);
-    EXPECT_EQ(Import(QString::number(again)), importedText);
+    EXPECT_EQ(Import(QString::number(again)), ImportedText);
     EXPECT_EQ(ServingsOf(recipe + 2), ServingsOf(recipe + 1));
 }
 
@@ -128,7 +128,7 @@ TEST_P(RecipeExchangeTest, NullsStayNull) {
     UserDB().Raw().exec("UPDATE Ingredients SET Serving = NULL, FoodName = NULL, VitaminC = NULL, "
                         "Cholesterol = NULL, QTY = 1");
     const qint32 remote = Send(recipe);
-    EXPECT_EQ(Import(QString::number(remote)), importedText);
+    EXPECT_EQ(Import(QString::number(remote)), ImportedText);
     EXPECT_EQ(CardOf(recipe + 1), CardOf(recipe));
     EXPECT_EQ(RowsOf(recipe + 1), RowsOf(recipe));
 }
@@ -137,7 +137,7 @@ TEST_P(RecipeExchangeTest, ARecipeWithinARecipeArrivesWithItsCalories) {
     const qint32 pie = FoodsTest::AddRecipe("Pie", "1 pie");
     RecipeBook::AddIngredient(pie, ScaledFood::FromRecipe(recipe, 2));
     const qint32 remote = Send(pie);
-    EXPECT_EQ(Import(QString::number(remote)), importedText);
+    EXPECT_EQ(Import(QString::number(remote)), ImportedText);
     EXPECT_EQ(RecipeBook::CaloriesPerServing(pie + 1, "1"), "Calories: 11 per serving");
     EXPECT_EQ(Users("SELECT Copper FROM Ingredients WHERE RecipeID = " + QString::number(pie + 1)),
               Users("SELECT Copper FROM Ingredients WHERE RecipeID = " + QString::number(pie)));
@@ -146,7 +146,7 @@ TEST_P(RecipeExchangeTest, ARecipeWithinARecipeArrivesWithItsCalories) {
 TEST_P(RecipeExchangeTest, ARecipeWithoutIngredientsArrivesWithoutThem) {
     UserDB().Raw().exec("DELETE FROM Ingredients");
     const qint32 remote = Send(recipe);
-    EXPECT_EQ(Import(QString::number(remote)), importedText);
+    EXPECT_EQ(Import(QString::number(remote)), ImportedText);
     EXPECT_EQ(CardOf(recipe + 1), CardOf(recipe));
     EXPECT_EQ(RecipeBook::CaloriesPerServing(recipe + 1, "2.5"), "Calories: --");
 }
@@ -155,7 +155,7 @@ TEST_P(RecipeExchangeTest, MoreIngredientsThanOneCallTakesArriveInTheirOrder) {
     UserDB().Raw().exec("DELETE FROM Ingredients");
     AddIngredients(recipe, 205);
     const qint32 remote = Send(recipe);
-    EXPECT_EQ(Import(QString::number(remote)), importedText);
+    EXPECT_EQ(Import(QString::number(remote)), ImportedText);
     EXPECT_EQ(RowsOf(recipe + 1), RowsOf(recipe));
     EXPECT_EQ(RowsOf(recipe + 1).size(), 205);
 }
@@ -165,28 +165,28 @@ TEST_P(RecipeExchangeTest, ARecipeSentAndImportedTwiceIsThereTwice) {
     const qint32 second = Send(recipe);
     EXPECT_NE(first, second);
     for (int i = 0; i < 2; ++i)
-        EXPECT_EQ(Import(QString::number(first)), importedText);
+        EXPECT_EQ(Import(QString::number(first)), ImportedText);
     EXPECT_EQ(Count("Recipes"), 3);
     EXPECT_EQ(Count("Ingredients"), 30);
 }
 
 TEST_P(RecipeExchangeTest, AnIDThatNobodyHasIsNotFound) {
     for (const char* id : {"4711", "12.5", "1", "0", "-5", "2147483647"})
-        EXPECT_EQ(Import(id), unknownText) << id;
-    EXPECT_EQ(Import("abc"), notImportedText);
+        EXPECT_EQ(Import(id), UnknownText) << id;
+    EXPECT_EQ(Import("abc"), NotImportedText);
     EXPECT_EQ(Count("Recipes"), 1);
 }
 
 TEST_P(RecipeExchangeTest, ARecipeThatTheExchangeRefusesIsNotSent) {
     UserDB().Raw().exec("UPDATE Recipes SET RecipeName = ''");
     EXPECT_EQ(Send(recipe), 0);
-    EXPECT_EQ(answer, notSentText);
+    EXPECT_EQ(answer, NotSentText);
 }
 
 TEST_P(RecipeExchangeTest, AnExchangeThatHasEndedFailsBothWays) {
     const qint32 remote = Send(recipe);
     exchange.reset();
-    EXPECT_EQ(Import(QString::number(remote)), notImportedText);
+    EXPECT_EQ(Import(QString::number(remote)), NotImportedText);
     Send(recipe);
-    EXPECT_EQ(answer, notSentText);
+    EXPECT_EQ(answer, NotSentText);
 }
