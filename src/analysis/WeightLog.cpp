@@ -21,7 +21,7 @@ QString Condition(const Period& period) {
 
 std::vector<WeightLog::Entry> WeightLog::Entries(const Period& period) {
     Recordset rows(UserDB(), "SELECT * FROM USER_WEIGHTS " + Condition(period) + "ORDER BY UDate",
-                   Cursor::Static, Lock::Optimistic);
+                   CursorType::Static, LockType::Optimistic);
     std::vector<Entry> entries;
     entries.reserve(static_cast<size_t>(rows.RecordCount()));
     for (; !rows.AtEnd(); rows.MoveNext())

@@ -53,13 +53,13 @@ bool Navigation::HasScreen(const QString& name) const {
     return factories_.contains(name);
 }
 
-Screen* Navigation::LoadScreen(const QString& name) {
+ScreenForm* Navigation::LoadScreen(const QString& name) {
     if (!HasScreen(name))
         return nullptr;
     frmHOME* frame = Frame(); // loading the frame may load the screen
-    if (Screen* loaded = loaded_.value(name))
+    if (ScreenForm* loaded = loaded_.value(name))
         return loaded;
-    Screen* screen = factories_[name](frame);
+    ScreenForm* screen = factories_[name](frame);
     screen->setAttribute(Qt::WA_DeleteOnClose);
     screen->setGeometry(frame->picNest()->geometry());
     screen->hide();
@@ -70,15 +70,15 @@ Screen* Navigation::LoadScreen(const QString& name) {
 
 /// A failure in a step skips the rest and leaves the pointer as it is. Committing the field that is
 /// left comes first, and may show a message.
-Screen* Navigation::ShowScreen(const QString& name) {
+ScreenForm* Navigation::ShowScreen(const QString& name) {
     if (!HasScreen(name))
         return nullptr;
     LeaveField(frame_);
-    Screen* screen = nullptr;
+    ScreenForm* screen = nullptr;
     try {
         MousePointer::SetBusy();
         const bool fresh = !loaded_.value(name);
-        Screen* next = LoadScreen(name);
+        ScreenForm* next = LoadScreen(name);
         if (name == QLatin1String(Screens::Profile.name))
             Cover(next);
         else
@@ -99,11 +99,11 @@ Screen* Navigation::ShowScreen(const QString& name) {
 
 /// Closes all loaded screens, or hides them if the setting FAST is on. This includes the screen to
 /// be shown, which is then rebuilt, unless it is new.
-void Navigation::LeaveOthers(const Screen* fresh) {
+void Navigation::LeaveOthers(const ScreenForm* fresh) {
     const QScopedValueRollback<bool> own(arranging_, true);
     beneath_.clear();
     front_.clear();
-    for (const QPointer<Screen>& screen : loaded_.values()) {
+    for (const QPointer<ScreenForm>& screen : loaded_.values()) {
         if (!screen || screen == fresh)
             continue;
         if (App().AppInfo.FAST)
@@ -113,7 +113,7 @@ void Navigation::LeaveOthers(const Screen* fresh) {
     }
 }
 
-void Navigation::Cover(Screen* next) {
+void Navigation::Cover(ScreenForm* next) {
     if (!front_ || front_ == next)
         return;
     const QScopedValueRollback<bool> own(arranging_, true);
@@ -121,7 +121,7 @@ void Navigation::Cover(Screen* next) {
     beneath_->hide();
 }
 
-void Navigation::Bring(Screen* screen) {
+void Navigation::Bring(ScreenForm* screen) {
     front_ = screen;
     screen->setGeometry(Frame()->picNest()->geometry());
     screen->show();
@@ -135,14 +135,14 @@ void Navigation::Bring(Screen* screen) {
 void Navigation::Uncover() {
     if (front_ || !frame_)
         return;
-    const QPointer<Screen> screen = beneath_;
+    const QPointer<ScreenForm> screen = beneath_;
     beneath_.clear();
     if (screen)
         Bring(screen);
     ShowTitle(screen ? screen->Title() : QString());
 }
 
-void Navigation::Close(Screen* screen) {
+void Navigation::Close(ScreenForm* screen) {
     loaded_.remove(screen->objectName());
     screen->close();
     screen->setParent(nullptr);
@@ -161,7 +161,7 @@ void Navigation::ShowHome() {
 }
 
 void Navigation::GatherWindows() {
-    for (const QPointer<Screen>& screen : std::as_const(loaded_))
+    for (const QPointer<ScreenForm>& screen : std::as_const(loaded_))
         if (screen)
             screen->setGeometry(Frame()->picNest()->geometry());
 }
@@ -169,7 +169,7 @@ void Navigation::GatherWindows() {
 void Navigation::CloseAll() {
     LeaveField(frame_);
     const QScopedValueRollback<bool> own(arranging_, true);
-    for (const QPointer<Screen>& screen : loaded_.values())
+    for (const QPointer<ScreenForm>& screen : loaded_.values())
         if (screen)
             Close(screen);
     loaded_.clear();

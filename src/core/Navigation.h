@@ -1,6 +1,6 @@
 #pragma once
 
-#include "toolkit/Screen.h"
+#include "toolkit/ScreenForm.h"
 
 #include <QHash>
 #include <QObject>
@@ -17,7 +17,7 @@ class Navigation : public QObject {
     Q_OBJECT
 
 public:
-    using Factory = std::function<Screen*(QWidget* parent)>;
+    using Factory = std::function<ScreenForm*(QWidget* parent)>;
 
     Navigation();
     ~Navigation() override;
@@ -30,11 +30,11 @@ public:
 
     bool HasFrame() const;
     frmHOME* Frame(); ///< loaded on first use
-    Screen* Front() const { return front_; }
+    ScreenForm* Front() const { return front_; }
 
     bool HasScreen(const QString& name) const;
-    Screen* LoadScreen(const QString& name);
-    Screen* ShowScreen(const QString& name);
+    ScreenForm* LoadScreen(const QString& name);
+    ScreenForm* ShowScreen(const QString& name);
     void ShowHome();
     void GatherWindows(); ///< lays all loaded screens over the nest
     void CloseAll();      ///< commits the text that is being typed first
@@ -44,19 +44,19 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void LeaveOthers(const Screen* fresh);
-    void Cover(Screen* next);
+    void LeaveOthers(const ScreenForm* fresh);
+    void Cover(ScreenForm* next);
     void Uncover();
-    void Bring(Screen* screen);
-    void Close(Screen* screen);
+    void Bring(ScreenForm* screen);
+    void Close(ScreenForm* screen);
     void ShowTitle(const QString& title);
 
     QHash<QString, Factory> factories_;
-    QHash<QString, QPointer<Screen>> loaded_;
+    QHash<QString, QPointer<ScreenForm>> loaded_;
     QPointer<frmHOME> frame_;
-    QPointer<Screen> front_;
-    QPointer<Screen> beneath_; ///< the screen below `frmProfile`
-    bool arranging_ = false;   ///< hiding and closing screens is our own doing
+    QPointer<ScreenForm> front_;
+    QPointer<ScreenForm> beneath_; ///< the screen below `frmProfile`
+    bool arranging_ = false;       ///< hiding and closing screens is our own doing
 };
 
 /// The navigation of this process.

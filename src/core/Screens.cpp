@@ -15,10 +15,10 @@ namespace {
 
 struct Registration {
     const ScreenRow& screen;
-    Screen* (*make)(QWidget* parent);
+    ScreenForm* (*make)(QWidget* parent);
 };
 
-template <class T> Screen* Make(QWidget* parent) {
+template <class T> ScreenForm* Make(QWidget* parent) {
     return new T(parent);
 }
 

@@ -56,7 +56,7 @@ void EnsureCurrentDate() {
 } // namespace
 
 frmMain::frmMain(QWidget* parent)
-    : Screen(Screens::Main, parent) {
+    : ScreenForm(Screens::Main, parent) {
     setFocusPolicy(Qt::ClickFocus);
     EnsureCurrentDate();
     AddHint();

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "toolkit/Screen.h"
+#include "toolkit/ScreenForm.h"
 
 #include <QDate>
 
@@ -12,7 +12,7 @@ class ucGlance;
 
 /// The home screen: the month calendar, the glance at the month's calories, and the tip of the day.
 /// A click on a day chooses it and opens the day screen.
-class frmMain : public Screen {
+class frmMain : public ScreenForm {
     Q_OBJECT
 
 public:

@@ -25,7 +25,7 @@ QList<NamedKey> CustomFoods::Names() {
 /// that it is never empty.
 qint32 CustomFoods::Append() {
     Recordset foods(FoodDB(), QStringLiteral("SELECT * FROM foods WHERE ID >= 23508"),
-                    Cursor::Dynamic, Lock::Optimistic);
+                    CursorType::Dynamic, LockType::Optimistic);
     foods.MoveLast();
     const qint32 id = Round(foods[QStringLiteral("ID")].Number() + 1);
     foods.AddNew();
@@ -41,7 +41,7 @@ CustomFood CustomFoods::Read(qint32 id) {
 }
 
 void CustomFoods::Save(qint32 id, const CustomFood& food) {
-    Recordset row(FoodDB(), FoodSQL(id), Cursor::Dynamic, Lock::Optimistic);
+    Recordset row(FoodDB(), FoodSQL(id), CursorType::Dynamic, LockType::Optimistic);
     row.Set(QStringLiteral("FoodName"), food.name);
     row.Set(QStringLiteral("Serv_Desc_A"), food.serving);
     row.Set(QStringLiteral("Serv_GM_WT_A"), ServingGrams);
@@ -51,6 +51,6 @@ void CustomFoods::Save(qint32 id, const CustomFood& food) {
 
 void CustomFoods::Delete(qint32 id) {
     Recordset food(FoodDB(), QStringLiteral("SELECT * FROM Foods WHERE ID =") + QString::number(id),
-                   Cursor::Keyset, Lock::Optimistic);
+                   CursorType::Keyset, LockType::Optimistic);
     food.Delete();
 }

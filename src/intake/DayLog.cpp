@@ -37,7 +37,7 @@ std::vector<LoggedFood> DayLog::FoodsOf(int meal, QDate day) {
 }
 
 void DayLog::AddFood(const ScaledFood& item, const QString& meal, QDate day) {
-    Recordset rows(UserDB(), RowsOf("USER_FOODS", day), Cursor::Dynamic, Lock::Optimistic);
+    Recordset rows(UserDB(), RowsOf("USER_FOODS", day), CursorType::Dynamic, LockType::Optimistic);
     rows.AddNew();
     for (int i = 1; i <= NutrientCount; ++i)
         rows.Set(i, item.Item(rows.FieldName(i)));
@@ -53,12 +53,12 @@ void DayLog::AddFood(const ScaledFood& item, const QString& meal, QDate day) {
 
 void DayLog::RemoveFood(qint32 RecID) {
     Recordset row(UserDB(), "SELECT * FROM USER_FOODS WHERE RecID = " + QString::number(RecID),
-                  Cursor::Keyset, Lock::Optimistic);
+                  CursorType::Keyset, LockType::Optimistic);
     row.Delete();
 }
 
 void DayLog::ClearFoods(QDate day) {
-    Recordset rows(UserDB(), RowsOf("USER_FOODS", day), Cursor::Keyset, Lock::Optimistic);
+    Recordset rows(UserDB(), RowsOf("USER_FOODS", day), CursorType::Keyset, LockType::Optimistic);
     const int count = rows.RecordCount();
     if (count > 0)
         rows.MoveLast();
@@ -74,7 +74,7 @@ double DayLog::Weight(QDate day) {
 }
 
 void DayLog::SetWeight(QDate day, double weight) {
-    Recordset rows(UserDB(), RowsOf("USER_WEIGHTS", day), Cursor::Keyset, Lock::Optimistic);
+    Recordset rows(UserDB(), RowsOf("USER_WEIGHTS", day), CursorType::Keyset, LockType::Optimistic);
     if (rows.AtEnd())
         rows.AddNew();
     rows.Set(QStringLiteral("UID"), User::Current().UID);

@@ -84,8 +84,8 @@ Profile Profiles::Read(qint32 uid) {
 User Profiles::Append(const Profile& entered) {
     User user = UserOf(entered);
     user.CreateDefaultRDIs();
-    Recordset row(UserDB(), QStringLiteral("SELECT * FROM profiles"), Cursor::Dynamic,
-                  Lock::Optimistic);
+    Recordset row(UserDB(), QStringLiteral("SELECT * FROM profiles"), CursorType::Dynamic,
+                  LockType::Optimistic);
     row.AddNew();
     WritePerson(row, entered);
     for (const Nutrient id : ProfileOrder())
@@ -98,7 +98,7 @@ User Profiles::Append(const Profile& entered) {
 void Profiles::Change(qint32 uid, const Profile& entered) {
     Recordset row(UserDB(),
                   QStringLiteral("SELECT * FROM profiles WHERE UID=") + QString::number(uid),
-                  Cursor::Dynamic, Lock::Pessimistic);
+                  CursorType::Dynamic, LockType::Pessimistic);
     WritePerson(row, entered);
     entered.targets.WriteTo(row);
     row.Update();

@@ -53,7 +53,7 @@ void MakeTotalTheSumOfThirds(Nuts& targets) {
 void WriteEnergyTargets(const User& user) {
     Recordset row(UserDB(),
                   QStringLiteral("SELECT * FROM profiles WHERE UID=") + QString::number(user.UID),
-                  Cursor::Dynamic, Lock::Optimistic);
+                  CursorType::Dynamic, LockType::Optimistic);
     using enum Nutrient;
     for (Nutrient id : {Calories, Carbs, Protein, TotalFat, SatFat, MonoFat, PolyFat})
         row.Set(Column(id), user.RDIs[id]);

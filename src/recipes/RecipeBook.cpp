@@ -20,8 +20,8 @@ void SetFields(Recordset& row, const Recipe& recipe) {
         row.Set(QLatin1String(field.column), recipe[field.id]);
 }
 
-void DeleteFirst(const QString& source, Lock lock) {
-    Recordset rows(UserDB(), source, Cursor::Keyset, lock);
+void DeleteFirst(const QString& source, LockType lock) {
+    Recordset rows(UserDB(), source, CursorType::Keyset, lock);
     if (rows.RecordCount() > 0)
         rows.Delete();
 }
@@ -71,8 +71,8 @@ void RecipeBook::ReadInto(RecipeTexts& texts, qint32 RecipeID) {
 }
 
 qint32 RecipeBook::AddRecipe() {
-    Recordset rows(UserDB(), QStringLiteral("SELECT * FROM Recipes"), Cursor::Dynamic,
-                   Lock::Optimistic);
+    Recordset rows(UserDB(), QStringLiteral("SELECT * FROM Recipes"), CursorType::Dynamic,
+                   LockType::Optimistic);
     RecipeTexts texts = RecipeTexts::OfNewRecipe();
     texts[RecipeField::Serving].clear(); // asked for on saving
     rows.AddNew();
@@ -86,15 +86,16 @@ const RecipeCheck* RecipeBook::SaveRecipe(qint32 RecipeID, const RecipeTexts& te
     if (const RecipeCheck* failed = texts.FirstFailed())
         return failed;
     Recordset row(UserDB(), "SELECT * FROM Recipes WHERE RecipeID =" + Number(RecipeID),
-                  Cursor::Dynamic, Lock::Optimistic);
+                  CursorType::Dynamic, LockType::Optimistic);
     SetFields(row, texts.Values());
     row.Update();
     return nullptr;
 }
 
 void RecipeBook::DeleteRecipe(qint32 RecipeID) {
-    DeleteFirst("SELECT * FROM Ingredients WHERE RecipeID =" + Number(RecipeID), Lock::Pessimistic);
-    DeleteFirst("SELECT * FROM Recipes WHERE RecipeID =" + Number(RecipeID), Lock::Optimistic);
+    DeleteFirst("SELECT * FROM Ingredients WHERE RecipeID =" + Number(RecipeID),
+                LockType::Pessimistic);
+    DeleteFirst("SELECT * FROM Recipes WHERE RecipeID =" + Number(RecipeID), LockType::Optimistic);
 }
 
 QString RecipeBook::CaloriesPerServing(qint32 RecipeID, const QString& yieldCaption) {
@@ -103,7 +104,7 @@ QString RecipeBook::CaloriesPerServing(qint32 RecipeID, const QString& yieldCapt
         UserDB(),
         "SELECT Sum(Ingredients.Calories) AS [SUMCals] From Ingredients WHERE RecipeID = " +
             Number(RecipeID),
-        Cursor::Dynamic, Lock::Optimistic);
+        CursorType::Dynamic, LockType::Optimistic);
     const Field sum = sums[QStringLiteral("SUMCals")];
     if (sum.IsNull())
         return none;
@@ -125,7 +126,7 @@ std::vector<Ingredient> RecipeBook::Ingredients(qint32 RecipeID) {
 
 void RecipeBook::AddIngredient(qint32 RecipeID, const ScaledFood& item) {
     Recordset rows(UserDB(), "SELECT * FROM Ingredients WHERE RecipeID =" + Number(RecipeID),
-                   Cursor::Dynamic, Lock::Optimistic);
+                   CursorType::Dynamic, LockType::Optimistic);
     rows.AddNew();
     for (int i = 1; i <= NutrientCount; ++i)
         rows.Set(i, item.Item(i));
@@ -137,8 +138,8 @@ void RecipeBook::AddIngredient(qint32 RecipeID, const ScaledFood& item) {
 }
 
 void RecipeBook::RemoveIngredient(qint32 ID) {
-    Recordset row(UserDB(), "SELECT * FROM Ingredients WHERE ID = " + Number(ID), Cursor::Keyset,
-                  Lock::Optimistic);
+    Recordset row(UserDB(), "SELECT * FROM Ingredients WHERE ID = " + Number(ID),
+                  CursorType::Keyset, LockType::Optimistic);
     row.Delete();
 }
 
@@ -164,7 +165,7 @@ QStringList RecipeBook::IngredientColumns() {
 
 qint32 RecipeBook::KeepRecipe(const Recipe& recipe) {
     Recordset row(UserDB(), QStringLiteral("SELECT * FROM Recipes WHERE RecipeID < 2"),
-                  Cursor::Dynamic, Lock::Optimistic);
+                  CursorType::Dynamic, LockType::Optimistic);
     row.AddNew();
     SetFields(row, recipe);
     row.Update();
@@ -174,7 +175,7 @@ qint32 RecipeBook::KeepRecipe(const Recipe& recipe) {
 void RecipeBook::KeepIngredients(qint32 RecipeID, int count,
                                  const std::function<QVariantList(int)>& read) {
     Recordset rows(UserDB(), "SELECT * FROM ingredients WHERE RecipeID = " + Number(RecipeID),
-                   Cursor::Dynamic, Lock::Optimistic);
+                   CursorType::Dynamic, LockType::Optimistic);
     for (int row = 0; row < count; ++row) {
         int position = 0;
         rows.AddNew();

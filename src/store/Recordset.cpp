@@ -172,7 +172,8 @@ void Recordset::Impl::Remove() {
 
 Recordset::Recordset() = default;
 
-Recordset::Recordset(Connection& connection, const QString& source, Cursor cursor, Lock lock) {
+Recordset::Recordset(Connection& connection, const QString& source, CursorType cursor,
+                     LockType lock) {
     Open(connection, source, cursor, lock);
 }
 
@@ -180,9 +181,9 @@ Recordset::~Recordset() = default;
 Recordset::Recordset(Recordset&&) noexcept = default;
 Recordset& Recordset::operator=(Recordset&&) noexcept = default;
 
-void Recordset::Open(Connection& connection, const QString& source, Cursor, Lock lock) {
+void Recordset::Open(Connection& connection, const QString& source, CursorType, LockType lock) {
     Close();
-    impl_ = std::make_unique<Impl>(connection, source, lock != Lock::ReadOnly);
+    impl_ = std::make_unique<Impl>(connection, source, lock != LockType::ReadOnly);
 }
 
 void Recordset::Close() {

@@ -9,8 +9,8 @@
 
 class Connection;
 
-enum class Cursor { Keyset = 1, Dynamic = 2, Static = 3 };
-enum class Lock { ReadOnly = 1, Pessimistic = 2, Optimistic = 3 };
+enum class CursorType { Keyset = 1, Dynamic = 2, Static = 3 };
+enum class LockType { ReadOnly = 1, Pessimistic = 2, Optimistic = 3 };
 
 /// A result set of exactly one statement. The routine that opens it uses and closes it. All rows
 /// are read on opening, whatever the cursor type: later changes of the table do not appear.
@@ -26,14 +26,14 @@ enum class Lock { ReadOnly = 1, Pessimistic = 2, Optimistic = 3 };
 class Recordset {
 public:
     Recordset();
-    Recordset(Connection& connection, const QString& source, Cursor cursor = Cursor::Static,
-              Lock lock = Lock::ReadOnly);
+    Recordset(Connection& connection, const QString& source, CursorType cursor = CursorType::Static,
+              LockType lock = LockType::ReadOnly);
     ~Recordset();
     Recordset(Recordset&&) noexcept;
     Recordset& operator=(Recordset&&) noexcept;
 
-    void Open(Connection& connection, const QString& source, Cursor cursor = Cursor::Static,
-              Lock lock = Lock::ReadOnly);
+    void Open(Connection& connection, const QString& source, CursorType cursor = CursorType::Static,
+              LockType lock = LockType::ReadOnly);
     void Close();
     bool IsOpen() const;
 

@@ -313,7 +313,7 @@ protected:
 INSTANTIATE_TEST_SUITE_P(FastOffAndOn, RealScreens, ::testing::Bool());
 
 TEST_P(RealScreens, ReturningToTheDayShowsTheCurrentDate) {
-    const QPointer<Screen> before = TheNavigation().Front();
+    const QPointer<ScreenForm> before = TheNavigation().Front();
     App().CurrentDate = QDate(2002, 4, 3);
     Click(Find(TheNavigation().Frame(), QStringLiteral("cmdDay")));
     RunDeferredDeletes();
@@ -335,7 +335,7 @@ TEST_P(RealScreens, TheViewOfTheTotalsComesBackWhenTheDayIsBroughtAgain) {
 }
 
 TEST_P(RealScreens, CancellingTheProfileShowsTheSameDayAgain) {
-    const QPointer<Screen> day = TheNavigation().Front();
+    const QPointer<ScreenForm> day = TheNavigation().Front();
     ChooseFromMenu(7);
     ASSERT_EQ(TheNavigation().Front()->objectName(), QStringLiteral("frmProfile"));
     EXPECT_FALSE(day->isVisible());

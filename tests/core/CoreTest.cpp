@@ -22,7 +22,7 @@ QStringList& ScreenLog() {
 }
 
 LoggedScreen::LoggedScreen(const QString& name, const QString& title, QWidget* parent)
-    : Screen(name, title, parent) {
+    : ScreenForm(name, title, parent) {
     Note("made");
 }
 
@@ -41,12 +41,12 @@ void LoggedScreen::DoWinInit() {
 }
 
 void LoggedScreen::showEvent(QShowEvent* event) {
-    Screen::showEvent(event);
+    ScreenForm::showEvent(event);
     Note("shown");
 }
 
 void LoggedScreen::hideEvent(QHideEvent* event) {
-    Screen::hideEvent(event);
+    ScreenForm::hideEvent(event);
     Note("hidden");
 }
 

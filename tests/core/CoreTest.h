@@ -2,7 +2,7 @@
 
 #include "support/HalvaneTest.h"
 
-#include "toolkit/Screen.h"
+#include "toolkit/ScreenForm.h"
 
 #include <QHash>
 #include <QStringList>
@@ -11,7 +11,7 @@
 QStringList& ScreenLog();
 
 /// A screen that records the calls to it.
-class LoggedScreen : public Screen {
+class LoggedScreen : public ScreenForm {
 public:
     LoggedScreen(const QString& name, const QString& title, QWidget* parent);
     ~LoggedScreen() override;

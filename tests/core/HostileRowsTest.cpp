@@ -69,22 +69,22 @@ protected:
         Activate(Window(QStringLiteral("frmHOME")));
     }
 
-    Screen* Show(const char* name) {
-        auto* screen = qobject_cast<Screen*>(::ShowScreen(QLatin1String(name)));
+    ScreenForm* Show(const char* name) {
+        auto* screen = qobject_cast<ScreenForm*>(::ShowScreen(QLatin1String(name)));
         RunDeferredDeletes();
         Grab(screen);
         return screen;
     }
     void ShowDay() { Show(Screens::Day.name); }
     void ShowReport() {
-        Screen* report = Show(Screens::Report.name);
+        ScreenForm* report = Show(Screens::Report.name);
         for (int view = 0; view < ReportViews; ++view) {
             Q_EMIT report->findChild<ViewButtons*>()->Asked(view);
             Grab(report);
         }
     }
     void ShowLines(const char* name, const char* list) {
-        Screen* screen = Show(name);
+        ScreenForm* screen = Show(name);
         auto* lines = Find<ListBox>(screen, QLatin1String(list));
         for (int i = 0; i < lines->ListCount(); ++i) {
             lines->SetListIndex(i);
@@ -156,11 +156,11 @@ protected:
         }
     }
     /// The trash can of the first line.
-    static QWidget* Trash(const Screen* screen) {
+    static QWidget* Trash(const ScreenForm* screen) {
         const auto* line = screen->findChild<QWidget*>(QStringLiteral("ucAte1"));
         return line ? line->findChild<QWidget*>(QStringLiteral("imgTrash")) : nullptr;
     }
-    static QWidget* DeleteOf(const Screen* screen, const char* list) {
+    static QWidget* DeleteOf(const ScreenForm* screen, const char* list) {
         const auto* lines = Find<ListBox>(screen, QLatin1String(list));
         return lines->ListCount() > 0 ? Find(screen, QStringLiteral("cmdDelete")) : nullptr;
     }
@@ -194,7 +194,7 @@ TEST_P(HostileRowsTest, EveryScreenOpensOverRowsWithoutAnySense) {
 TEST_F(HostileRowsTest, EveryLineOfADayCanBeRemoved) {
     const HostileRows rows(UserDB().Raw(), "USER_FOODS", Grounds[0].sound);
     InsertSome(rows);
-    const Screen* day = Show(Screens::Day.name);
+    const ScreenForm* day = Show(Screens::Day.name);
     RemoveAll(QStringLiteral("USER_FOODS"), [&] { return Trash(day); });
     EXPECT_EQ(Users(QStringLiteral("SELECT count(*) FROM USER_FOODS")), 1) << "of another day";
 }
@@ -202,7 +202,7 @@ TEST_F(HostileRowsTest, EveryLineOfADayCanBeRemoved) {
 TEST_F(HostileRowsTest, EveryIngredientCanBeRemoved) {
     const HostileRows rows(UserDB().Raw(), "Ingredients", {{"RecipeID", "1"}});
     InsertSome(rows);
-    const Screen* recipes = Show(Screens::RecipeManager.name);
+    const ScreenForm* recipes = Show(Screens::RecipeManager.name);
     RemoveAll(QStringLiteral("Ingredients"), [&] { return Trash(recipes); });
     EXPECT_EQ(Users(QStringLiteral("SELECT count(*) FROM Ingredients")), 0);
 }
@@ -210,7 +210,7 @@ TEST_F(HostileRowsTest, EveryIngredientCanBeRemoved) {
 TEST_F(HostileRowsTest, EveryOwnFoodCanBeDeleted) {
     const HostileRows rows(FoodDB().Raw(), "FOODS", {});
     InsertSome(rows);
-    const Screen* foods = Show(Screens::FoodList.name);
+    const ScreenForm* foods = Show(Screens::FoodList.name);
     RemoveAll(QStringLiteral("FOODS"), [&] { return DeleteOf(foods, "FoodList"); });
     EXPECT_EQ(Foods(QStringLiteral("SELECT max(ID) FROM FOODS")), 23508);
 }
@@ -219,7 +219,7 @@ TEST_F(HostileRowsTest, EveryRecipeCanBeDeleted) {
     UserDB().Raw().exec("DELETE FROM Ingredients");
     const HostileRows rows(UserDB().Raw(), "Recipes", {});
     InsertSome(rows);
-    const Screen* recipes = Show(Screens::RecipeManager.name);
+    const ScreenForm* recipes = Show(Screens::RecipeManager.name);
     RemoveAll(QStringLiteral("Recipes"), [&] { return DeleteOf(recipes, "lsRecipes"); });
     EXPECT_EQ(Users(QStringLiteral("SELECT count(*) FROM Recipes")), 0);
 }
@@ -229,7 +229,7 @@ TEST_F(HostileRowsTest, AWeightOfNoSenseCanBeReplacedAndTakenBack) {
         UserDB().Raw().exec("DELETE FROM USER_WEIGHTS");
         HostileRows(UserDB().Raw(), "USER_WEIGHTS", {{"UID", "1"}})
             .Insert({{"UID", "1"}, {"UDate", "'2026-11-21'"}, {"Weight", value}});
-        Screen* day = Show(Screens::Day.name);
+        ScreenForm* day = Show(Screens::Day.name);
         auto* weight = Find<QLineEdit>(day, QStringLiteral("txtWeight"));
         weight->setFocus();
         weight->setText(QStringLiteral("180"));

@@ -26,10 +26,10 @@ protected:
         MousePointer::SetNormal();
         CoreTest::TearDown();
     }
-    Screen* Show(const char* name) {
+    ScreenForm* Show(const char* name) {
         QObject* screen = ::ShowScreen(QLatin1String(name));
         RunDeferredDeletes();
-        return qobject_cast<Screen*>(screen);
+        return qobject_cast<ScreenForm*>(screen);
     }
     void CloseFront() {
         TheNavigation().Front()->close();
@@ -46,7 +46,7 @@ protected:
 using Log = QStringList;
 
 TEST_F(NavigationTest, AScreenIsMadeShownTitledAndBroughtUpToDateInThisOrder) {
-    Screen* day = Show("frmDay");
+    ScreenForm* day = Show("frmDay");
     ASSERT_NE(day, nullptr);
     EXPECT_EQ(TakeLog(),
               (Log{"frmDay made", "frmDay BeforeShow", "frmDay shown", "frmDay DoWinInit"}));
@@ -64,31 +64,31 @@ TEST_F(NavigationTest, WithoutFastLeavingAScreenClosesItAndReturningRebuildsIt) 
     Show("frmDay");
     EXPECT_EQ(TakeLog(), (Log{"frmDay made", "frmReport hidden", "frmDay BeforeShow",
                               "frmDay shown", "frmDay DoWinInit", "frmReport gone"}));
-    EXPECT_EQ(Frame()->findChildren<Screen*>().size(), 1);
+    EXPECT_EQ(Frame()->findChildren<ScreenForm*>().size(), 1);
 }
 
 TEST_F(NavigationTest, WithoutFastTheScreenInFrontIsRebuiltToo) {
-    const QPointer<Screen> first = Show("frmDay");
-    const QPointer<Screen> second = Show("frmDay");
+    const QPointer<ScreenForm> first = Show("frmDay");
+    const QPointer<ScreenForm> second = Show("frmDay");
     EXPECT_TRUE(first.isNull());
     EXPECT_FALSE(second.isNull());
 }
 
 TEST_F(NavigationTest, WithFastScreensStayLoadedAndHidden) {
     App().AppInfo.FAST = true;
-    Screen* day = Show("frmDay");
-    Screen* report = Show("frmReport");
+    ScreenForm* day = Show("frmDay");
+    ScreenForm* report = Show("frmReport");
     EXPECT_FALSE(day->isVisible());
     EXPECT_TRUE(report->isVisible());
     TakeLog();
     EXPECT_EQ(Show("frmDay"), day);
     EXPECT_EQ(TakeLog(),
               (Log{"frmReport hidden", "frmDay BeforeShow", "frmDay shown", "frmDay DoWinInit"}));
-    EXPECT_EQ(Frame()->findChildren<Screen*>().size(), 2);
+    EXPECT_EQ(Frame()->findChildren<ScreenForm*>().size(), 2);
 }
 
 TEST_F(NavigationTest, ANewValueOfFastCountsAtTheNextChangeOfScreen) {
-    const QPointer<Screen> day = Show("frmDay");
+    const QPointer<ScreenForm> day = Show("frmDay");
     App().AppInfo.FAST = true;
     Show("frmReport");
     ASSERT_FALSE(day.isNull());
@@ -107,7 +107,7 @@ protected:
 INSTANTIATE_TEST_SUITE_P(FastOffAndOn, ProfileOverDay, ::testing::Bool());
 
 TEST_P(ProfileOverDay, ClosingItShowsTheDayAgainWithItsTitle) {
-    Screen* day = Show("frmDay");
+    ScreenForm* day = Show("frmDay");
     Show("frmProfile");
     EXPECT_EQ(Title(), QStringLiteral("My Profile"));
     EXPECT_FALSE(day->isVisible());
@@ -122,8 +122,8 @@ TEST_P(ProfileOverDay, ClosingItShowsTheDayAgainWithItsTitle) {
 }
 
 TEST_P(ProfileOverDay, OpeningItAgainKeepsTheDayBeneath) {
-    Screen* day = Show("frmDay");
-    Screen* profile = Show("frmProfile");
+    ScreenForm* day = Show("frmDay");
+    ScreenForm* profile = Show("frmProfile");
     EXPECT_EQ(Show("frmProfile"), profile);
     CloseFront();
     EXPECT_EQ(TheNavigation().Front(), day);
@@ -133,10 +133,10 @@ TEST_P(ProfileOverDay, OpeningItAgainKeepsTheDayBeneath) {
 TEST_P(ProfileOverDay, LeavingItForAnotherScreenForgetsWhatItCovered) {
     Show("frmDay");
     Show("frmProfile");
-    Screen* report = Show("frmReport");
+    ScreenForm* report = Show("frmReport");
     EXPECT_EQ(TheNavigation().Front(), report);
     EXPECT_TRUE(report->isVisible());
-    for (Screen* other : Frame()->findChildren<Screen*>())
+    for (ScreenForm* other : Frame()->findChildren<ScreenForm*>())
         EXPECT_EQ(other->isVisible(), other == report);
     EXPECT_EQ(Title(), QStringLiteral("Reports"));
 }
@@ -145,7 +145,7 @@ TEST_P(ProfileOverDay, AScreenThatComesInsteadIsNotCovered) {
     Show("frmDay");
     Show("frmProfile");
     TheNavigation().Front()->close();
-    Screen* report = qobject_cast<Screen*>(::ShowScreen(QStringLiteral("frmReport")));
+    ScreenForm* report = qobject_cast<ScreenForm*>(::ShowScreen(QStringLiteral("frmReport")));
     QCoreApplication::sendPostedEvents();
     EXPECT_EQ(TheNavigation().Front(), report);
     EXPECT_TRUE(report->isVisible());
@@ -163,7 +163,7 @@ TEST_F(NavigationTest, AScreenThatClosesWithNothingBeneathLeavesAnEmptyTitleAndN
 }
 
 TEST_F(NavigationTest, HidingTheFrameForgetsNoScreen) {
-    Screen* day = Show("frmDay");
+    ScreenForm* day = Show("frmDay");
     Frame()->hide();
     Frame()->show();
     EXPECT_EQ(TheNavigation().Front(), day);
@@ -172,8 +172,8 @@ TEST_F(NavigationTest, HidingTheFrameForgetsNoScreen) {
 
 TEST_F(NavigationTest, GatherWindowsPlacesHiddenScreensToo) {
     App().AppInfo.FAST = true;
-    Screen* day = Show("frmDay");
-    Screen* report = Show("frmReport");
+    ScreenForm* day = Show("frmDay");
+    ScreenForm* report = Show("frmReport");
     day->move(5, 5);
     report->move(7, 7);
     TheNavigation().GatherWindows();
@@ -182,7 +182,7 @@ TEST_F(NavigationTest, GatherWindowsPlacesHiddenScreensToo) {
 }
 
 TEST_F(NavigationTest, MovingTheFrameKeepsTheScreenInTheNest) {
-    Screen* day = Show("frmDay");
+    ScreenForm* day = Show("frmDay");
     Frame()->move(240, 130);
     EXPECT_EQ(day->mapToGlobal(QPoint()), Frame()->picNest()->mapToGlobal(QPoint()));
 }
@@ -197,7 +197,7 @@ TEST_F(NavigationTest, LoadScreenMakesItWithoutShowingIt) {
 TEST_F(NavigationTest, AScreenThatIsNotRegisteredIsNull) {
     EXPECT_FALSE(TheNavigation().HasScreen(QStringLiteral("frmRecipeManager")));
     EXPECT_EQ(::LoadScreen(QStringLiteral("frmRecipeManager")), nullptr);
-    Screen* day = Show("frmDay");
+    ScreenForm* day = Show("frmDay");
     EXPECT_EQ(Show("frmRecipeManager"), nullptr);
     EXPECT_EQ(TheNavigation().Front(), day);
     EXPECT_FALSE(MousePointer::IsBusy());
@@ -215,8 +215,8 @@ TEST_F(NavigationTest, AFailureInAStepSkipsTheRestWithoutAMessageAndLeavesThePoi
 
 TEST_F(NavigationTest, AScreenThatCannotBeMadeLeavesTheOneInFrontAsItIs) {
     for (const char* name : {"frmReport", "frmProfile"}) {
-        Screen* day = Show("frmDay");
-        TheNavigation().Register(name, [](QWidget*) -> Screen* {
+        ScreenForm* day = Show("frmDay");
+        TheNavigation().Register(name, [](QWidget*) -> ScreenForm* {
             throw RuntimeError(ErrorNumber::NoCurrentRecord, QStringLiteral("no current record"));
         });
         EXPECT_EQ(Show(name), nullptr);
@@ -228,7 +228,7 @@ TEST_F(NavigationTest, AScreenThatCannotBeMadeLeavesTheOneInFrontAsItIs) {
 }
 
 TEST_F(NavigationTest, WhatIsBeingTypedIsTakenOverBeforeTheScreenGoes) {
-    Screen* day = Show("frmDay");
+    ScreenForm* day = Show("frmDay");
     auto* field = new QLineEdit(day);
     field->show();
     Activate(Frame());
@@ -290,7 +290,7 @@ TEST_F(NavigationTest, AMessageBeforeThereIsAFrameStandsAlone) {
 }
 
 TEST_F(NavigationTest, TheTitleFloatsAboveTheScreen) {
-    Screen* day = Show("frmDay");
+    ScreenForm* day = Show("frmDay");
     auto* title = Find(Frame(), QStringLiteral("aaWindow"));
     const QObjectList children = Frame()->children();
     EXPECT_GT(children.indexOf(title), children.indexOf(day));

@@ -31,15 +31,15 @@ protected:
         ::ShowHome();
     }
     static bool Kept() { return GetParam(); }
-    Screen* Show(const char* name) {
+    ScreenForm* Show(const char* name) {
         QObject* screen = ::ShowScreen(QLatin1String(name));
         RunDeferredDeletes();
-        return qobject_cast<Screen*>(screen);
+        return qobject_cast<ScreenForm*>(screen);
     }
-    static QString Text(Screen* screen, const char* field) {
+    static QString Text(ScreenForm* screen, const char* field) {
         return Find<QLineEdit>(screen, field)->text();
     }
-    static QString Caption(Screen* screen, const char* control) {
+    static QString Caption(ScreenForm* screen, const char* control) {
         return Find(screen, control)->property("Caption").toString();
     }
 };
@@ -48,7 +48,7 @@ INSTANTIATE_TEST_SUITE_P(KeptOrNot, OwnScreensTest, ::testing::Bool(),
                          [](const auto& kept) { return kept.param ? "Kept" : "MadeAnew"; });
 
 TEST_P(OwnScreensTest, ANewFoodThatIsBeingTypedStaysWithTheKeptScreenOnly) {
-    Screen* foods = Show("frmFoodList");
+    ScreenForm* foods = Show("frmFoodList");
     Click(Find(foods, "cmdNewBut"));
     Find<QLineEdit>(foods, "txtFoodName")->setText("Half typed");
     Show("frmRecipeManager");
@@ -63,7 +63,7 @@ TEST_P(OwnScreensTest, ANewFoodThatIsBeingTypedStaysWithTheKeptScreenOnly) {
 }
 
 TEST_P(OwnScreensTest, AnEditedFoodIsSavedUnderItsOwnKeyAfterTheScreenCameBack) {
-    Screen* foods = Show("frmFoodList");
+    ScreenForm* foods = Show("frmFoodList");
     Find<QLineEdit>(foods, "txtFoodName")->setText("Granola, mine");
     Show("frmRecipeManager");
     foods = Show("frmFoodList");
@@ -75,7 +75,7 @@ TEST_P(OwnScreensTest, AnEditedFoodIsSavedUnderItsOwnKeyAfterTheScreenCameBack) 
 }
 
 TEST_P(OwnScreensTest, AnEditedRecipeIsSavedIntoItsOwnRowAfterTheScreenCameBack) {
-    Screen* recipes = Show("frmRecipeManager");
+    ScreenForm* recipes = Show("frmRecipeManager");
     Find<ListBox>(recipes, "lsRecipes")->SetListIndex(1);
     Click(Find(recipes, "cmdEdit"));
     Find<QLineEdit>(recipes, "txtName")->setText("Half typed");
@@ -94,14 +94,14 @@ TEST_P(OwnScreensTest, AnEditedRecipeIsSavedIntoItsOwnRowAfterTheScreenCameBack)
 TEST_P(OwnScreensTest, ANewRecipeThatWasLeftIsThereWithItsDefaults) {
     Click(Find(Show("frmRecipeManager"), "cmdNew"));
     Show("frmFoodList");
-    Screen* recipes = Show("frmRecipeManager");
+    ScreenForm* recipes = Show("frmRecipeManager");
     EXPECT_EQ(Users("SELECT RecipeName FROM Recipes WHERE RecipeID = 3"), "My Recipe");
     EXPECT_EQ(Caption(recipes, "cmdEdit"), Kept() ? "Save Changes" : "Edit Recipe");
     EXPECT_EQ(Find<ListBox>(recipes, "lsRecipes")->ListCount(), Kept() ? 2 : 3);
 }
 
 TEST_P(OwnScreensTest, ARecipeThatOnlyStoodThereIsListedAnewAndShown) {
-    Screen* recipes = Show("frmRecipeManager");
+    ScreenForm* recipes = Show("frmRecipeManager");
     Find<ListBox>(recipes, "lsRecipes")->SetListIndex(1);
     Show("frmFoodList");
     UserDB().Raw().exec("UPDATE Recipes SET RecipeName = RecipeName || ' of today'");
@@ -110,11 +110,11 @@ TEST_P(OwnScreensTest, ARecipeThatOnlyStoodThereIsListedAnewAndShown) {
 }
 
 TEST_P(OwnScreensTest, TheButtonOfTheScreenInFrontKeepsOrDropsItsEdit) {
-    Screen* recipes = Show("frmRecipeManager");
+    ScreenForm* recipes = Show("frmRecipeManager");
     Click(Find(recipes, "cmdEdit"));
     recipes = Show("frmRecipeManager");
     EXPECT_EQ(Caption(recipes, "cmdEdit"), Kept() ? "Save Changes" : "Edit Recipe");
-    Screen* foods = Show("frmFoodList");
+    ScreenForm* foods = Show("frmFoodList");
     Click(Find(foods, "cmdNewBut"));
     foods = Show("frmFoodList");
     EXPECT_EQ(foods->property("Mode").toInt(), Kept() ? 2 : 1);

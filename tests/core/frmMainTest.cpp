@@ -176,7 +176,7 @@ TEST_P(TheWayBack, ShowsTheIconsGoneWithWhatWasRemoved) {
 }
 
 TEST_P(TheWayBack, FromTheProfileFindsTheHomeScreenAsItWas) {
-    Screen* home = ShowMain();
+    ScreenForm* home = ShowMain();
     ::ShowScreen(QStringLiteral("frmProfile"));
     TheNavigation().Front()->close();
     QCoreApplication::sendPostedEvents();

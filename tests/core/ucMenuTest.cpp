@@ -299,7 +299,7 @@ TEST_F(ucMenuTest, EditMyProfileEditsTheCurrentUserAndCancelLeadsBack) {
     TheNavigation().Register<frmProfile>(QStringLiteral("frmProfile"));
     Press(Label("lblEdit"));
     Press(Item(7));
-    Screen* profile = TheNavigation().Front();
+    ScreenForm* profile = TheNavigation().Front();
     ASSERT_EQ(profile->objectName(), QStringLiteral("frmProfile"));
     EXPECT_EQ(Panels(), none);
     EXPECT_EQ(Find<QLineEdit>(profile, QStringLiteral("txtUserName"))->text(),
@@ -322,7 +322,7 @@ TEST_F(ucMenuTest, AWeightBeingTypedReachesTheProfileThatIsEdited) {
     QTest::keyClicks(weight, QStringLiteral("195"));
     Press(Label("lblEdit"));
     Press(Item(7));
-    Screen* profile = TheNavigation().Front();
+    ScreenForm* profile = TheNavigation().Front();
     ASSERT_EQ(profile->objectName(), QStringLiteral("frmProfile"));
     EXPECT_EQ(Find<QLineEdit>(profile, QStringLiteral("txtWeight"))->text(), QStringLiteral("195"));
     EXPECT_EQ(Find<QLineEdit>(profile, QStringLiteral("txtCals"))->text(),

@@ -29,8 +29,8 @@ protected:
         FoodDB().Raw().exec("INSERT INTO FOODS (ID, FoodName) VALUES (23508, 'Granola, stock')");
         foods = std::make_unique<frmFoodList>();
         today = std::make_unique<frmDay>();
-        for (Screen* screen :
-             {static_cast<Screen*>(foods.get()), static_cast<Screen*>(today.get())}) {
+        for (ScreenForm* screen :
+             {static_cast<ScreenForm*>(foods.get()), static_cast<ScreenForm*>(today.get())}) {
             screen->resize(766, 562);
             screen->BeforeShow();
             screen->show();

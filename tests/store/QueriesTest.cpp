@@ -242,8 +242,8 @@ TEST_F(QueriesTest, AveragesAndExtremesOfWeights) {
     EXPECT_EQ(Recordset(users_, "SELECT Avg(USER_WEIGHTS.Weight) AS [Weight] " + period)["Weight"]
                   .Number(),
               152.5);
-    Recordset weights(users_, "SELECT * " + period + "ORDER BY UDate", Cursor::Static,
-                      Lock::Optimistic);
+    Recordset weights(users_, "SELECT * " + period + "ORDER BY UDate", CursorType::Static,
+                      LockType::Optimistic);
     EXPECT_EQ(weights.RecordCount(), 2);
     weights.MoveLast();
     weights.Set("Weight", 156);

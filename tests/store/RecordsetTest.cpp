@@ -20,7 +20,7 @@ class RecordsetTest : public StoreTest {
 protected:
     Recordset Read(const QString& sql) { return Recordset(users_, sql); }
     Recordset Change(const QString& sql) {
-        return Recordset(users_, sql, Cursor::Dynamic, Lock::Optimistic);
+        return Recordset(users_, sql, CursorType::Dynamic, LockType::Optimistic);
     }
     Recordset ThreeWeights() {
         for (int i = 1; i <= 3; ++i)
@@ -290,8 +290,8 @@ TEST_F(RecordsetTest, TheFirstCustomFoodFollowsTheLastStockFood) {
     AddFood(23507, "Salt");
     AddFood(23508, "Vinegar");
     const auto add = [this] {
-        Recordset set(foods_, "SELECT * FROM foods WHERE ID >= 23508", Cursor::Dynamic,
-                      Lock::Optimistic);
+        Recordset set(foods_, "SELECT * FROM foods WHERE ID >= 23508", CursorType::Dynamic,
+                      LockType::Optimistic);
         set.MoveLast();
         const qint32 id = set["ID"].Integer() + 1;
         set.AddNew();
@@ -307,7 +307,7 @@ TEST_F(RecordsetTest, TheFirstCustomFoodFollowsTheLastStockFood) {
 
 TEST_F(RecordsetTest, AKeyGivenTwiceIsRefused) {
     AddFood(23509, "Mine");
-    Recordset set(foods_, "SELECT * FROM foods", Cursor::Dynamic, Lock::Optimistic);
+    Recordset set(foods_, "SELECT * FROM foods", CursorType::Dynamic, LockType::Optimistic);
     set.AddNew();
     set.Set("ID", 23509);
     EXPECT_EQ(ErrorOf([&] { set.Update(); }), -19);
@@ -348,7 +348,7 @@ TEST_F(RecordsetTest, UpdateWritesOnlyTheColumnsThatWereSet) {
 
 TEST_F(RecordsetTest, AKeyCanBeChanged) {
     AddFood(23509, "Mine");
-    Recordset set(foods_, "SELECT * FROM foods", Cursor::Dynamic, Lock::Optimistic);
+    Recordset set(foods_, "SELECT * FROM foods", CursorType::Dynamic, LockType::Optimistic);
     set.Set("ID", 23600);
     set.Update();
     set.Set("FoodName", "Yours");
@@ -424,7 +424,7 @@ TEST_F(RecordsetTest, ARowThatIsGoneCannotBeChanged) {
 
 TEST_F(RecordsetTest, ReadOnlySetsDoNotChange) {
     ThreeWeights();
-    Recordset set(users_, AllWeights, Cursor::Static, Lock::ReadOnly);
+    Recordset set(users_, AllWeights, CursorType::Static, LockType::ReadOnly);
     EXPECT_EQ(ErrorOf([&] { set.Set("Weight", 1); }), ErrorNumber::CannotBeChanged);
     EXPECT_EQ(ErrorOf([&] { set.AddNew(); }), ErrorNumber::CannotBeChanged);
     EXPECT_EQ(ErrorOf([&] { set.Delete(); }), ErrorNumber::CannotBeChanged);
@@ -441,16 +441,16 @@ TEST_F(RecordsetTest, RowsThatAreNotOfOneTableDoNotChange) {
 }
 
 TEST_F(RecordsetTest, EveryCursorAndLockInUseOpens) {
-    const std::pair<Cursor, Lock> pairs[] = {
-        {Cursor::Static, Lock::ReadOnly},    {Cursor::Dynamic, Lock::Optimistic},
-        {Cursor::Keyset, Lock::Optimistic},  {Cursor::Dynamic, Lock::Pessimistic},
-        {Cursor::Keyset, Lock::Pessimistic}, {Cursor::Static, Lock::Optimistic},
+    const std::pair<CursorType, LockType> pairs[] = {
+        {CursorType::Static, LockType::ReadOnly},    {CursorType::Dynamic, LockType::Optimistic},
+        {CursorType::Keyset, LockType::Optimistic},  {CursorType::Dynamic, LockType::Pessimistic},
+        {CursorType::Keyset, LockType::Pessimistic}, {CursorType::Static, LockType::Optimistic},
     };
     ThreeWeights();
     for (const auto& [cursor, lock] : pairs) {
         Recordset set(users_, AllWeights, cursor, lock);
         EXPECT_EQ(set.RecordCount(), 3);
-        if (lock == Lock::ReadOnly)
+        if (lock == LockType::ReadOnly)
             continue;
         set.Set("Weight", set["Weight"].Number() + 1);
         set.Update();

@@ -7,8 +7,8 @@
 class ValuesTest : public StoreTest {
 protected:
     Recordset NewRow(const char* table) {
-        Recordset set(users_, QStringLiteral("SELECT * FROM ") + table, Cursor::Dynamic,
-                      Lock::Optimistic);
+        Recordset set(users_, QStringLiteral("SELECT * FROM ") + table, CursorType::Dynamic,
+                      LockType::Optimistic);
         set.AddNew();
         return set;
     }
@@ -187,7 +187,7 @@ TEST_F(ValuesTest, OtherValuesBecomeText) {
 
 TEST_F(ValuesTest, ARefusedValueLeavesTheRowAsItWas) {
     Written("profiles", "UserName", "Anna");
-    Recordset set(users_, "SELECT * FROM profiles", Cursor::Dynamic, Lock::Pessimistic);
+    Recordset set(users_, "SELECT * FROM profiles", CursorType::Dynamic, LockType::Pessimistic);
     set.Set("UserName", "Berta");
     EXPECT_EQ(ErrorOf([&] { set.Set("height", "tall"); }), ErrorNumber::TypeMismatch);
     EXPECT_EQ(First(users_, "SELECT UserName FROM profiles"), "Anna");

@@ -5,7 +5,7 @@
 #include "toolkit/ButtonRow.h"
 #include "toolkit/CleanUp.h"
 #include "toolkit/Dialog.h"
-#include "toolkit/Screen.h"
+#include "toolkit/ScreenForm.h"
 #include "toolkit/Style.h"
 #include "toolkit/ucButton.h"
 #include "toolkit/ucButtonA.h"
@@ -19,10 +19,10 @@
 
 namespace {
 
-class ListeningScreen : public Screen {
+class ListeningScreen : public ScreenForm {
 public:
     ListeningScreen()
-        : Screen(QStringLiteral("frmDay"), QStringLiteral("Daily Details")) {}
+        : ScreenForm(QStringLiteral("frmDay"), QStringLiteral("Daily Details")) {}
     void AllOff(const QString& except) override { calls << except; }
     QStringList calls;
     ucButton* plain = AddButton("cmdAdd", "Add", [] {});
@@ -30,10 +30,10 @@ public:
         "cmdDone", "Done", [] {}, "cmddone");
 };
 
-class ButtonScreen : public Screen {
+class ButtonScreen : public ScreenForm {
 public:
     ButtonScreen()
-        : Screen(QStringLiteral("frmDay"), QStringLiteral("Daily Details")) {
+        : ScreenForm(QStringLiteral("frmDay"), QStringLiteral("Daily Details")) {
         done->move(100, 0);
     }
     ucButton* add = AddButton("cmdAdd", "Add", [] {});

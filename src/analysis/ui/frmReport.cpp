@@ -56,7 +56,7 @@ constexpr int ViewsGap = 12;
 } // namespace
 
 frmReport::frmReport(QWidget* parent)
-    : Screen(Screens::Report, parent) {
+    : ScreenForm(Screens::Report, parent) {
     setFocusPolicy(Qt::ClickFocus);
     AddPeriod();
     AddViewButtons();
@@ -185,7 +185,7 @@ void frmReport::CatchUp() {
 
 /// If a field holds no date, the line keeps what it shows: it would fail to read the fields.
 void frmReport::hideEvent(QHideEvent* event) {
-    Screen::hideEvent(event);
+    ScreenForm::hideEvent(event);
     if (event->spontaneous())
         return;
     left_ = true;
@@ -195,7 +195,7 @@ void frmReport::hideEvent(QHideEvent* event) {
 }
 
 void frmReport::showEvent(QShowEvent* event) {
-    Screen::showEvent(event);
+    ScreenForm::showEvent(event);
     if (event->spontaneous())
         return;
     ucLine_->ReadPeriodFrom(txtStart_, txtEnd_);
@@ -258,7 +258,7 @@ void frmReport::GoHome() {
 void frmReport::closeEvent(QCloseEvent* event) {
     SetRegValue(Settings::ReportState, state_);
     ucBar_->StoreMode();
-    Screen::closeEvent(event);
+    ScreenForm::closeEvent(event);
 }
 
 void frmReport::AllOff(const QString& except) {
@@ -272,7 +272,7 @@ void frmReport::AllOff(const QString& except) {
 /// Only cmdRefresh borders the label and the fields, so only it is reset.
 bool frmReport::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() != QEvent::MouseMove)
-        return Screen::eventFilter(watched, event);
+        return ScreenForm::eventFilter(watched, event);
     cmdRefresh_->Reset();
     return watched == aaLBL_;
 }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "analysis/Period.h"
-#include "toolkit/Screen.h"
+#include "toolkit/ScreenForm.h"
 
 class QLineEdit;
 class ViewButtons;
@@ -14,7 +14,7 @@ class ucPieChart;
 /// The screen "Report": a period and one of four views of it. All three charts are refreshed
 /// together; choosing a view only shows and hides them. It opens with the last seven days and with
 /// the view that was shown last. Hidden and shown again, it brings its figures up to date.
-class frmReport : public Screen {
+class frmReport : public ScreenForm {
     Q_OBJECT
 
 public:

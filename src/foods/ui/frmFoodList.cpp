@@ -20,7 +20,7 @@ constexpr int ListWidth = 178;
 } // namespace
 
 frmFoodList::frmFoodList(QWidget* parent)
-    : Screen(Screens::FoodList, parent) {
+    : ScreenForm(Screens::FoodList, parent) {
     AddList();
     AddFields();
     AddButtons();

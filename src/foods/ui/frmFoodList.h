@@ -1,6 +1,6 @@
 #pragma once
 
-#include "toolkit/Screen.h"
+#include "toolkit/ScreenForm.h"
 
 class CustomFoodFields;
 class ListBox;
@@ -9,7 +9,7 @@ class ucButton;
 
 /// The screen of custom foods: the list on the left, the fields of the selected or the new food on
 /// the right. Typing into a field edits the food.
-class frmFoodList : public Screen {
+class frmFoodList : public ScreenForm {
     Q_OBJECT
     Q_PROPERTY(int Mode READ Mode)           ///< the last value given to UIMode
     Q_PROPERTY(bool Editing READ Editing)    ///< true: a stored food is shown; false: a new one

@@ -35,7 +35,7 @@ constexpr QSize CalendarPicture(18, 18);
 } // namespace
 
 frmDay::frmDay(QWidget* parent)
-    : Screen(Screens::Day, parent) {
+    : ScreenForm(Screens::Day, parent) {
     setFocusPolicy(Qt::ClickFocus);
     AddDateLine();
     AddWeightField();
@@ -176,7 +176,7 @@ void frmDay::TakeWeight(double weight) {
 
 /// A typed weight is saved even if the screen goes before the field loses the focus.
 void frmDay::hideEvent(QHideEvent* event) {
-    Screen::hideEvent(event);
+    ScreenForm::hideEvent(event);
     if (!event->spontaneous() && txtWeight_->HoldsUnsaved())
         txtWeight_->Leave();
 }
@@ -184,14 +184,14 @@ void frmDay::hideEvent(QHideEvent* event) {
 /// The next day screen may be created before this one is destroyed, and must find the mode.
 void frmDay::closeEvent(QCloseEvent* event) {
     daily_->StoreMode();
-    Screen::closeEvent(event);
+    ScreenForm::closeEvent(event);
 }
 
 void frmDay::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Escape && !picCal_->isHidden())
         CloseCalendar();
     else
-        Screen::keyPressEvent(event);
+        ScreenForm::keyPressEvent(event);
 }
 
 void frmDay::OpenCalendar() {
@@ -257,7 +257,7 @@ void frmDay::AllOff(const QString& except) {
     };
     if (!named(cmdCal_))
         cmdCal_->Reset();
-    Screen::AllOff(except);
+    ScreenForm::AllOff(except);
     daily_->Unhilite();
     daily_->AllOff(QString());
     if (!named(myFood_))

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "toolkit/Screen.h"
+#include "toolkit/ScreenForm.h"
 
 class DayCalendar;
 class ucAALBL;
@@ -15,7 +15,7 @@ class WeightField;
 /// The screen "Daily Details": the chosen day's foods, its totals against the targets, its weight,
 /// and a calendar to choose another day. It shows the process-wide chosen day, which stays when the
 /// screen closes. It connects its parts to each other.
-class frmDay : public Screen {
+class frmDay : public ScreenForm {
     Q_OBJECT
 
 public:

@@ -36,7 +36,7 @@ QWidget* HomeWindow() {
 } // namespace
 
 frmProfile::frmProfile(QWidget* parent)
-    : Screen(Screens::Profile, parent)
+    : ScreenForm(Screens::Profile, parent)
     , title_(new ucTitleFlat(this)) {
     setAttribute(Qt::WA_DeleteOnClose);
     resize(NestSize);
@@ -206,7 +206,7 @@ void frmProfile::SaveChanges() {
 
 /// A window of its own has an edge.
 void frmProfile::paintEvent(QPaintEvent* event) {
-    Screen::paintEvent(event);
+    ScreenForm::paintEvent(event);
     if (!isWindow())
         return;
     QPainter painter(this);
@@ -226,7 +226,7 @@ void frmProfile::closeEvent(QCloseEvent* event) {
 void frmProfile::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Escape && firstUser_)
         return cmdCancel_Click();
-    Screen::keyPressEvent(event);
+    ScreenForm::keyPressEvent(event);
 }
 
 /// Only a window of its own can be dragged.
@@ -239,7 +239,7 @@ void frmProfile::mousePressEvent(QMouseEvent* event) {
 void frmProfile::mouseMoveEvent(QMouseEvent* event) {
     if (dragging_ && event->buttons() & Qt::LeftButton)
         move(event->globalPosition().toPoint() - grip_);
-    Screen::mouseMoveEvent(event);
+    ScreenForm::mouseMoveEvent(event);
 }
 
 void frmProfile::mouseReleaseEvent(QMouseEvent*) {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "toolkit/Screen.h"
+#include "toolkit/ScreenForm.h"
 
 #include <QPoint>
 
@@ -12,7 +12,7 @@ class ucTitleFlat;
 
 /// The screen on which a profile is created or edited. The first user sees it as a modal window;
 /// later it is a screen in the nest. The basic page, `picCover`, covers the page of targets.
-class frmProfile : public Screen {
+class frmProfile : public ScreenForm {
     Q_OBJECT
     Q_PROPERTY(QString Tag READ Tag) ///< "0" while `picCover` is shown, else "1"
 

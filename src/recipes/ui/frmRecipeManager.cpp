@@ -28,7 +28,7 @@ constexpr int ListWidth = 186; // in pixels
 } // namespace
 
 frmRecipeManager::frmRecipeManager(QWidget* parent)
-    : Screen(Screens::RecipeManager, parent) {
+    : ScreenForm(Screens::RecipeManager, parent) {
     setFocusPolicy(Qt::ClickFocus);
     AddList();
     AddCard();
@@ -69,7 +69,7 @@ void frmRecipeManager::AddButtons() {
 
 ucButton* frmRecipeManager::AddButton(const char* name, const char* caption, const char* tip,
                                       void (frmRecipeManager::*pressed)()) {
-    ucButton* button = Screen::AddButton(name, caption, pressed);
+    ucButton* button = ScreenForm::AddButton(name, caption, pressed);
     button->setToolTip(QLatin1String(tip));
     button->setAccessibleDescription(QLatin1String(tip));
     return button;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "toolkit/Screen.h"
+#include "toolkit/ScreenForm.h"
 
 class ListBox;
 class RecipeCard;
@@ -10,7 +10,7 @@ class ucButton;
 
 /// The screen "Recipe Manager": a list of the recipes, and the card of the current one. It is
 /// empty, shows a recipe, or edits one. Saving ends an edit; leaving the screen saves nothing.
-class frmRecipeManager : public Screen {
+class frmRecipeManager : public ScreenForm {
     Q_OBJECT
     Q_PROPERTY(qint32 CurrentRecipe READ CurrentRecipe)
 

@@ -1,4 +1,4 @@
-#include "toolkit/Screen.h"
+#include "toolkit/ScreenForm.h"
 
 #include "toolkit/CleanUp.h"
 #include "toolkit/Style.h"
@@ -18,10 +18,10 @@ constexpr int TitleLineHeight = 24;
 
 } // namespace
 
-Screen::Screen(const ScreenRow& row, QWidget* parent)
-    : Screen(QString::fromLatin1(row.name), QString::fromLatin1(row.title), parent) {}
+ScreenForm::ScreenForm(const ScreenRow& row, QWidget* parent)
+    : ScreenForm(QString::fromLatin1(row.name), QString::fromLatin1(row.title), parent) {}
 
-Screen::Screen(const QString& name, const QString& title, QWidget* parent)
+ScreenForm::ScreenForm(const QString& name, const QString& title, QWidget* parent)
     : QWidget(parent)
     , title_(title) {
     setObjectName(name);
@@ -31,8 +31,8 @@ Screen::Screen(const QString& name, const QString& title, QWidget* parent)
     AddCleanUp(this, [this] { AllOff(QString()); });
 }
 
-ucButton* Screen::AddButton(const char* name, const char* caption, std::function<void()> pressed,
-                            const char* hoverName) {
+ucButton* ScreenForm::AddButton(const char* name, const char* caption,
+                                std::function<void()> pressed, const char* hoverName) {
     auto* button = new ucButton(QString::fromLatin1(caption), this);
     button->setObjectName(QString::fromLatin1(name));
     connect(button, &ucButton::Click, this, std::move(pressed));
@@ -42,7 +42,7 @@ ucButton* Screen::AddButton(const char* name, const char* caption, std::function
     return button;
 }
 
-ucBox* Screen::AddBox(const char* name, const char* caption, QWidget* contents) {
+ucBox* ScreenForm::AddBox(const char* name, const char* caption, QWidget* contents) {
     auto* box = new ucBox(QString::fromLatin1(caption), this);
     box->setObjectName(QString::fromLatin1(name));
     contents->setParent(box);
@@ -52,17 +52,17 @@ ucBox* Screen::AddBox(const char* name, const char* caption, QWidget* contents) 
     return box;
 }
 
-QRect Screen::BoxesPlace() const {
+QRect ScreenForm::BoxesPlace() const {
     const int edge = TheStyle().nestEdge;
     return rect().adjusted(edge, BoxesTop, -edge, -BoxesBottom);
 }
 
-int Screen::PlaceInTitleLine(QWidget* control, int left) {
+int ScreenForm::PlaceInTitleLine(QWidget* control, int left) {
     control->move(left, TitleLineTop + (TitleLineHeight - control->height()) / 2);
     return left + control->width();
 }
 
-void Screen::PlaceInRow(int left, std::initializer_list<ucButton*> buttons) {
+void ScreenForm::PlaceInRow(int left, std::initializer_list<ucButton*> buttons) {
     const int gap = TheStyle().boxGap;
     for (ucButton* button : buttons) {
         button->move(left, height() - BoxesBottom + gap);
@@ -70,17 +70,17 @@ void Screen::PlaceInRow(int left, std::initializer_list<ucButton*> buttons) {
     }
 }
 
-void Screen::PlaceAtEnd(ucButton* button) {
+void ScreenForm::PlaceAtEnd(ucButton* button) {
     PlaceInRow(BoxesPlace().right() + 1 - button->width(), {button});
 }
 
-void Screen::AllOff(const QString& except) {
+void ScreenForm::AllOff(const QString& except) {
     for (ucButton* button : std::as_const(buttons_))
         if (button->objectName().compare(except, Qt::CaseInsensitive) != 0)
             button->Reset();
 }
 
-void Screen::mouseMoveEvent(QMouseEvent* event) {
+void ScreenForm::mouseMoveEvent(QMouseEvent* event) {
     const QPoint place = event->position().toPoint();
     if (place == lastMouse_)
         return;
@@ -88,6 +88,6 @@ void Screen::mouseMoveEvent(QMouseEvent* event) {
     AllOff(QString());
 }
 
-void Screen::paintEvent(QPaintEvent* event) {
+void ScreenForm::paintEvent(QPaintEvent* event) {
     QPainter(this).fillRect(event->rect(), TheStyle().canvas);
 }

@@ -16,12 +16,12 @@ class ucButton;
 /// the screen comes to the front. Closing a screen destroys it; hiding keeps it. The frame prints
 /// the title in the upper left corner, 14 to 196 pixels from the left and 8 to 38 from the top: a
 /// screen keeps this place free. Its timer `cleanUp` calls AllOff("").
-class Screen : public QWidget {
+class ScreenForm : public QWidget {
     Q_OBJECT
 
 public:
-    explicit Screen(const ScreenRow& row, QWidget* parent = nullptr);
-    Screen(const QString& name, const QString& title, QWidget* parent = nullptr);
+    explicit ScreenForm(const ScreenRow& row, QWidget* parent = nullptr);
+    ScreenForm(const QString& name, const QString& title, QWidget* parent = nullptr);
 
     QString Title() const { return title_; }
     /// ShowScreen calls it before the screen is visible: take over the chosen day here.
