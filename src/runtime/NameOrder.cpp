@@ -1,49 +1,73 @@
 #include "runtime/NameOrder.h"
 
 #include <QCollator>
+#include <QHash>
 
 #include <algorithm>
+#include <vector>
 
 namespace {
-/// A name prepared once, because a sort compares it many times.
-struct Sortable {
-    QList<uint> letters;
-    NamedKey key;
+using Letters = QList<uint>;
 
-    explicit Sortable(NamedKey named)
-        : letters(named.name.toCaseFolded().normalized(QString::NormalizationForm_C).toUcs4())
-        , key(std::move(named)) {}
+Letters LettersOf(const QString& name) {
+    return name.toCaseFolded().normalized(QString::NormalizationForm_C).toUcs4();
+}
+
+/// A name with the ranks of its letters, worked out once: a sort compares it many times.
+struct Ranked {
+    Letters ranks;
+    NamedKey key;
 };
 
-/// Names are compared letter by letter: for whole names a collator ranks accents last, so "Äpfel"
-/// would come before "apple".
-class LetterByLetter {
+/// Ranks letters as a collator orders them. Names are then compared rank by rank: for whole names a
+/// collator ranks accents last, so "Äpfel" would come before "apple".
+class LetterRanks {
 public:
-    bool operator()(const Sortable& one, const Sortable& other) const {
-        const qsizetype common = std::min(one.letters.size(), other.letters.size());
-        for (qsizetype i = 0; i < common; ++i)
-            if (const int order = Compare(one.letters[i], other.letters[i]))
-                return order < 0;
-        return one.letters.size() < other.letters.size();
+    void Add(const Letters& letters) {
+        for (const uint letter : letters)
+            ranks_.insert(letter, 0);
+    }
+    void Settle();
+    void Apply(Letters& letters) const {
+        for (uint& letter : letters)
+            letter = ranks_.value(letter);
     }
 
 private:
-    int Compare(char32_t one, char32_t other) const {
-        return one == other
-                   ? 0
-                   : collator_.compare(QString::fromUcs4(&one, 1), QString::fromUcs4(&other, 1));
-    }
-
-    QCollator collator_{QLocale(QLocale::English)};
+    QHash<uint, uint> ranks_;
 };
+
+/// Letters that the collator takes for the same have one rank.
+void LetterRanks::Settle() {
+    const QCollator collator{QLocale(QLocale::English)};
+    std::vector<std::pair<QString, uint>> letters;
+    for (const char32_t letter : ranks_.keys())
+        letters.emplace_back(QString::fromUcs4(&letter, 1), letter);
+    const auto order = [&](const auto& one, const auto& other) {
+        return collator.compare(one.first, other.first) < 0;
+    };
+    std::ranges::sort(letters, order);
+    uint rank = 0;
+    for (size_t i = 0; i < letters.size(); ++i) {
+        if (i > 0 && order(letters[i - 1], letters[i]))
+            ++rank;
+        ranks_[letters[i].second] = rank;
+    }
+}
 } // namespace
 
 void NameOrder::Sort(QList<NamedKey>& keys) {
-    QList<Sortable> sortable;
-    sortable.reserve(keys.size());
-    for (NamedKey& key : keys)
-        sortable.emplace_back(std::move(key));
-    std::stable_sort(sortable.begin(), sortable.end(), LetterByLetter());
-    std::ranges::transform(sortable, keys.begin(),
-                           [](Sortable& one) { return std::move(one.key); });
+    LetterRanks ranks;
+    std::vector<Ranked> names;
+    names.reserve(static_cast<size_t>(keys.size()));
+    for (NamedKey& key : keys) {
+        Letters letters = LettersOf(key.name);
+        ranks.Add(letters);
+        names.push_back({std::move(letters), std::move(key)});
+    }
+    ranks.Settle();
+    for (Ranked& name : names)
+        ranks.Apply(name.ranks);
+    std::ranges::stable_sort(names, std::ranges::lexicographical_compare, &Ranked::ranks);
+    std::ranges::transform(names, keys.begin(), [](Ranked& name) { return std::move(name.key); });
 }
