@@ -112,7 +112,7 @@ QList<TransferTest::Oddity> TransferTest::Oddities() {
         {"half a head", ScriptedServer::Raw("HTTP/1.1 200 OK\r\nContent-Le")},
         {"half a body", ScriptedServer::Raw(head + "Content-Length: 900\r\n\r\n{\"RecipeID\":")},
         {"half of a chunked body",
-         ScriptedServer::Raw(head + "Transfer-Encoding: chunked\r\n\r\n400\r\nYour recipe")},
+         ScriptedServer::Raw(head + "Transfer-Encoding: chunked\r\n\r\n400\r\n{")},
         {"no HTTP", ScriptedServer::Raw("220 mail.example.org ready\r\n\r\n")},
         {"a length below nothing", ScriptedServer::Raw(head + "Content-Length: -1\r\n\r\n")},
         {"an endless redirection", ScriptedServer::Raw("HTTP/1.1 302 Found\r\nLocation: /\r\n"
