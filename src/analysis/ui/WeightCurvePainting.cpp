@@ -33,7 +33,7 @@ constexpr int DotCoreWidth = 2;
 constexpr int FirstPass = 3;
 constexpr int LastPass = 4;
 
-void PaintAxes(TwipsSurface& surface, const WeightCurve& curve, QSize size) {
+void DrawAxes(TwipsSurface& surface, const WeightCurve& curve, QSize size) {
     const Style& style = TheStyle();
     const int right = Twips::FromPixels(size.width()) - Margin;
     const int bottom = Twips::FromPixels(size.height()) - Margin;
@@ -47,7 +47,7 @@ void PaintAxes(TwipsSurface& surface, const WeightCurve& curve, QSize size) {
 
 /// The lighter pen of the last pass lies as a highlight up and to the right of the darker one. The
 /// next segment paints the dots of the far end; the last segment ends where it begins.
-void PaintSegment(TwipsSurface& surface, QPoint from, QPoint to, int pass) {
+void PlotSegment(TwipsSurface& surface, QPoint from, QPoint to, int pass) {
     const Style& style = TheStyle();
     const Style::LinePen& ln = style.ln[pass];
     const QPoint shift = pass == LastPass ? HighlightShift : QPoint();
@@ -64,7 +64,7 @@ void PaintLine(TwipsSurface& surface, const std::vector<PlotPoint>& points) {
         for (size_t i = 0; i < points.size(); ++i) {
             const PlotPoint& from = points[i];
             const PlotPoint& to = points[qMin(i + 1, points.size() - 1)];
-            PaintSegment(surface, {from.x, from.y}, {to.x, to.y}, pass);
+            PlotSegment(surface, {from.x, from.y}, {to.x, to.y}, pass);
         }
 }
 
@@ -111,7 +111,7 @@ void WeightCurvePainting::Paint(QPainter& painter, const WeightCurve& curve, QSi
     painter.fillRect(place.adjusted(1, 1, -1, -1), style.paper);
     painter.save();
     TwipsSurface surface(painter);
-    PaintAxes(surface, curve, size);
+    DrawAxes(surface, curve, size);
     if (curve.noData)
         surface.Print(NoticePlace, QLatin1String(WeightCurve::Notice), style.chartNotice,
                       style.chartNoticeInk);
