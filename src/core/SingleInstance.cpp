@@ -37,7 +37,6 @@ SingleInstance::SingleInstance(const QString& folder, QObject* parent)
     , folder_(FolderOr(folder))
     , lock_(folder_ + "/halvane.lock")
     , address_(AddressIn(folder_)) {
-    lock_.setStaleLockTime(0); // a lock is stale only if its process is gone, never by age
     connect(&server_, &QLocalServer::newConnection, this, &SingleInstance::Answer);
 }
 
@@ -45,14 +44,10 @@ SingleInstance::~SingleInstance() {
     Release();
 }
 
-/// If the folder is not writable, there is no lock, and the program starts.
-bool SingleInstance::HoldLock() {
-    return lock_.isLocked() || lock_.tryLock(0) || lock_.error() != QLockFile::LockFailedError;
-}
-
 bool SingleInstance::Claim() {
     for (int attempt = 0; attempt < Attempts; ++attempt) {
-        if (HoldLock()) {
+        // If the folder is not writable, there is no lock, and the program starts.
+        if (lock_.TryLock() != ProcessLock::Result::HeldByAnother) {
             Listen();
             return true;
         }
@@ -61,13 +56,13 @@ bool SingleInstance::Claim() {
         QThread::msleep(ShortPause); // the first start has the lock but does not listen yet
     }
     std::fprintf(stderr, "halvane: another start holds %s and does not answer\n",
-                 qPrintable(lock_.fileName()));
+                 qPrintable(lock_.Path()));
     return false;
 }
 
 void SingleInstance::Release() {
     server_.close();
-    lock_.unlock();
+    lock_.Release();
 }
 
 bool SingleInstance::AskOther() const {

@@ -1,7 +1,8 @@
 #pragma once
 
+#include "runtime/ProcessLock.h"
+
 #include <QLocalServer>
-#include <QLockFile>
 #include <QObject>
 
 /// Allows one running program for each user. The first start holds a lock and listens on a local
@@ -23,13 +24,12 @@ Q_SIGNALS:
     void Activated(); ///< a later start asks for the window
 
 private:
-    bool HoldLock();
     bool AskOther() const;
     void Listen();
     void Answer();
 
     QString folder_;
-    QLockFile lock_;
+    ProcessLock lock_;
     QString address_;
     QLocalServer server_;
 };
