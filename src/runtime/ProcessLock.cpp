@@ -1,9 +1,24 @@
 #include "runtime/ProcessLock.h"
 
+#include <QFile>
 #include <QThread>
+
+#ifndef Q_OS_WIN
+#include <sys/file.h>
+#endif
 
 namespace {
 constexpr int WritingTime = 50; ///< milliseconds; a process that lives has signed its lock by then
+
+/// Beside what stands in the file, its holder keeps the system's lock on it, which goes with the
+/// process. On Windows a held file cannot even be opened.
+bool IsTaken([[maybe_unused]] const QFile& file) {
+#ifdef Q_OS_WIN
+    return false;
+#else
+    return flock(file.handle(), LOCK_SH | LOCK_NB) != 0;
+#endif
+}
 } // namespace
 
 ProcessLock::ProcessLock(const QString& path)
@@ -26,6 +41,13 @@ ProcessLock::Result ProcessLock::TryLock() {
 
 void ProcessLock::Release() {
     file_.unlock();
+}
+
+bool ProcessLock::IsHeldByAnother() const {
+    QFile file(Path());
+    if (file_.isLocked() || !file.exists())
+        return false;
+    return !file.open(QIODevice::ReadOnly) || IsTaken(file);
 }
 
 QString ProcessLock::Holder() const {

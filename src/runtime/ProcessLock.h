@@ -18,7 +18,8 @@ public:
     Result TryLock();
     void Release();
     QString Path() const { return file_.fileName(); }
-    QString Holder() const; ///< the program that holds it, empty where nobody does
+    bool IsHeldByAnother() const; ///< by a running process; changes nothing
+    QString Holder() const;       ///< the program that holds it, empty where nobody does
 
 private:
     bool HasOwner() const;

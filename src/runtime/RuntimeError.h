@@ -39,5 +39,6 @@ inline constexpr int NoCurrentRecord = 3021;
 inline constexpr int CannotBeChanged = 3251; ///< a result set that is not the rows of one table
 inline constexpr int NoSuchColumn = 3265;
 inline constexpr int JournalDoesNotFit = 3343; ///< only the user can decide: the text is for them
+inline constexpr int RecordsInUse = 3356;      ///< another program writes: the text is for the user
 inline constexpr int NotOpen = 3704;           ///< a connection or a result set
 } // namespace ErrorNumber

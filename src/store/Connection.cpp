@@ -20,28 +20,62 @@ void Configure(SQLite::Database& database, int option, int value) {
     sqlite3_db_config(database.getHandle(), option, value, nullptr);
 }
 
+/// An unknown name in double quotes is an error, not a text.
+void RefuseQuotedTexts(SQLite::Database& database) {
+    Configure(database, SQLITE_DBCONFIG_DQS_DML, 0);
+    Configure(database, SQLITE_DBCONFIG_DQS_DDL, 0);
+}
+
 DatabasePtr OpenForWriting(const QString& path) {
     auto database = std::make_unique<SQLite::Database>(
         path.toStdString(), SQLite::OPEN_READWRITE | SQLite::OPEN_NOMUTEX, BusyMilliseconds);
     if (sqlite3_db_readonly(database->getHandle(), "main") != 0)
         throw StoreError::Make(SQLITE_READONLY, path, {});
-    // An unknown name in double quotes is an error, not a text.
-    Configure(*database, SQLITE_DBCONFIG_DQS_DML, 0);
-    Configure(*database, SQLITE_DBCONFIG_DQS_DDL, 0);
+    RefuseQuotedTexts(*database);
     return database;
+}
+
+/// A connection that writes, to a file that is sound and has this schema version.
+DatabasePtr OpenUpdated(const QString& path, DatabaseKind kind) {
+    FileCheck::Untouched(path, kind);
+    DatabasePtr database = OpenForWriting(path);
+    RollbackJournal::Use(*database, path);
+    Schema::Migrate(*database, kind);
+    return database;
+}
+
+DatabasePtr OpenUnchanged(const QString& path, DatabaseKind kind) {
+    FileCheck::Untouched(path, kind);
+    auto database = std::make_unique<SQLite::Database>(
+        path.toStdString(), SQLite::OPEN_READONLY | SQLite::OPEN_NOMUTEX, BusyMilliseconds);
+    if (database->execAndGet("PRAGMA user_version").getInt() != Schema::Version)
+        throw StoreError::Make(SQLITE_SCHEMA, path,
+                               QStringLiteral("it has another version, and is not updated here"));
+    RefuseQuotedTexts(*database);
+    return database;
+}
+
+bool IsForReading(SQLite::Database& database) {
+    return sqlite3_db_readonly(database.getHandle(), "main") != 0;
 }
 
 } // namespace
 
-struct Connection::Impl {
-    Impl(QString file, DatabasePtr opened)
-        : path(std::move(file))
-        , database(std::move(opened))
-        , statements(database->getHandle(), path) {}
+/// An open database with its prepared statements: of one file, or of two that are open together.
+struct Connection::Database {
+    explicit Database(DatabasePtr opened, const QString& path)
+        : raw(std::move(opened))
+        , statements(raw->getHandle(), path) {
+        TextFunctions::Register(raw->getHandle());
+    }
 
-    QString path;
-    DatabasePtr database;
+    DatabasePtr raw;
     StatementCache statements; ///< goes before the database that its statements are on
+};
+
+struct Connection::Impl {
+    QString path;
+    std::shared_ptr<Database> database;
 };
 
 Connection::Connection() = default;
@@ -52,14 +86,25 @@ Connection::~Connection() {
 
 void Connection::Open(const QString& path, DatabaseKind kind) {
     Close();
+    StoreError::Guarded(path, [&] { Hold(path, OpenUpdated(path, kind)); });
+}
+
+void Connection::OpenForReading(const QString& path, DatabaseKind kind) {
+    Close();
+    StoreError::Guarded(path, [&] { Hold(path, OpenUnchanged(path, kind)); });
+}
+
+void Connection::OpenTogether(const QString& path, DatabaseKind kind, Connection& other) {
+    Close();
     StoreError::Guarded(path, [&] {
-        FileCheck::Untouched(path, kind);
-        DatabasePtr database = OpenForWriting(path);
-        RollbackJournal::Use(*database, path);
-        Schema::Migrate(*database, kind);
-        TextFunctions::Register(database->getHandle());
-        impl_ = std::make_unique<Impl>(path, std::move(database));
+        SQLite::Database& main = other.Raw();
+        IsForReading(main) ? OpenUnchanged(path, kind) : OpenUpdated(path, kind);
+        SQLite::Statement attach(main, "ATTACH ? AS together");
+        attach.bind(1, path.toStdString());
+        attach.exec();
+        RollbackJournal::SyncFully(main, "together");
     });
+    impl_ = std::make_unique<Impl>(path, other.Live().database);
 }
 
 void Connection::Close() {
@@ -75,11 +120,15 @@ QString Connection::Path() const {
 }
 
 SQLite::Database& Connection::Raw() {
-    return *Live().database;
+    return *Live().database->raw;
 }
 
 StatementCache& Connection::Statements() {
-    return Live().statements;
+    return Live().database->statements;
+}
+
+void Connection::Hold(const QString& path, DatabasePtr database) {
+    impl_ = std::make_unique<Impl>(path, std::make_shared<Database>(std::move(database), path));
 }
 
 Connection::Impl& Connection::Live() const {

@@ -30,6 +30,12 @@ public:
     /// older one. An older schema is updated by numbered steps, each in a transaction. A refused
     /// file stays unchanged to the byte.
     void Open(const QString& path, DatabaseKind kind);
+    /// Opens a file that must have this schema version, for reading alone. Neither the file nor its
+    /// folder changes.
+    void OpenForReading(const QString& path, DatabaseKind kind);
+    /// Opens a file on the database that `other` has open, for what `other` is open for. A
+    /// transaction then covers both files: a kill or a power cut leaves both old or both new.
+    void OpenTogether(const QString& path, DatabaseKind kind, Connection& other);
     void Close(); ///< does nothing where it is not open
     State state() const;
     QString Path() const; ///< of the open file
@@ -40,8 +46,11 @@ public:
     StatementCache& Statements();
 
 private:
+    struct Database;
     struct Impl;
     Impl& Live() const;
+    void Hold(const QString& path, std::unique_ptr<SQLite::Database> database);
+
     std::unique_ptr<Impl> impl_;
 };
 

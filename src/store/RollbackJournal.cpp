@@ -32,5 +32,9 @@ void RollbackJournal::Use(SQLite::Database& database, const QString& path) {
                                QStringLiteral("its folder must allow writing, as a journal is kept "
                                               "beside it"));
     }
-    database.exec("PRAGMA synchronous = EXTRA");
+    SyncFully(database, "main");
+}
+
+void RollbackJournal::SyncFully(SQLite::Database& database, const char* schema) {
+    database.exec(std::string("PRAGMA ") + schema + ".synchronous = EXTRA");
 }

@@ -15,4 +15,6 @@ class Database;
 namespace RollbackJournal {
 /// Rolls in the `-wal` of an earlier version. Fails if the folder does not allow a journal.
 void Use(SQLite::Database& database, const QString& path);
+/// Syncs each step of a commit to the file that is attached under that name.
+void SyncFully(SQLite::Database& database, const char* schema);
 } // namespace RollbackJournal

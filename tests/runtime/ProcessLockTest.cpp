@@ -29,6 +29,8 @@ TEST_F(ProcessLockTest, IsHeldOnceAndCanBeTakenAfterItsRelease) {
     EXPECT_EQ(first.TryLock(), ProcessLock::Result::Held);
     EXPECT_EQ(second.TryLock(), ProcessLock::Result::HeldByAnother);
     EXPECT_EQ(second.Holder(), "test_runtime");
+    EXPECT_TRUE(second.IsHeldByAnother());
+    EXPECT_FALSE(first.IsHeldByAnother());
     first.Release();
     EXPECT_EQ(second.Holder(), "");
     EXPECT_EQ(second.TryLock(), ProcessLock::Result::Held);
@@ -45,6 +47,7 @@ TEST_F(ProcessLockTest, OfAProcessThatWasKilledBeforeItSignedIsTaken) {
     for (const QByteArray written : {"", "21474", "2147483646\n"}) {
         Write(written);
         ProcessLock lock(Path());
+        EXPECT_FALSE(lock.IsHeldByAnother());
         EXPECT_EQ(lock.TryLock(), ProcessLock::Result::Held) << written.toStdString();
     }
 }
@@ -61,5 +64,6 @@ TEST_F(ProcessLockTest, OfALivingProcessThatHasNotSignedYetIsNotTaken) {
 
 TEST_F(ProcessLockTest, InAFolderThatIsMissingIsNotPossible) {
     ProcessLock lock(folder_.filePath(QStringLiteral("missing/one.lock")));
+    EXPECT_FALSE(lock.IsHeldByAnother());
     EXPECT_EQ(lock.TryLock(), ProcessLock::Result::NotPossible);
 }

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QString>
+
+/// Copies of a database file.
+namespace DatabaseCopy {
+/// Whether the copy must survive a power cut once it is made. A private copy need not.
+enum class Sync { Fully, No };
+
+/// Copies the state of the last commit, also while another process has the file open and writes. A
+/// file at `to` is replaced page by page, in one transaction. Fails
+/// (negative number) if either cannot be opened or does not become free within seconds.
+void Make(const QString& from, const QString& to, Sync sync = Sync::Fully);
+} // namespace DatabaseCopy
