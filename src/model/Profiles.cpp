@@ -4,6 +4,8 @@
 #include "store/Connection.h"
 #include "store/Recordset.h"
 
+#include <algorithm>
+
 namespace {
 QString SameName(const Profile& entered) {
     return QStringLiteral("SELECT * FROM profiles WHERE UserName = '") + entered.userName + u'\'';
@@ -30,6 +32,13 @@ User UserOf(const Profile& entered) {
     return user;
 }
 
+User UserWithKey(qint32 uid) {
+    User user;
+    user.UID = uid;
+    user.GetUserProfile(uid);
+    return user;
+}
+
 /// The store rounds what goes into a whole-number column.
 void WritePerson(Recordset& row, const Profile& entered) {
     row.Set(QStringLiteral("UserName"), entered.userName);
@@ -46,16 +55,35 @@ void WritePerson(Recordset& row, const Profile& entered) {
 }
 } // namespace
 
+std::vector<Profiles::Person> Profiles::All() {
+    std::vector<Person> people;
+    for (Recordset rows(UserDB(), QStringLiteral("SELECT * FROM profiles")); !rows.AtEnd();
+         rows.MoveNext())
+        if (rows[QStringLiteral("UID")].IsKey())
+            people.push_back(
+                {rows[QStringLiteral("UID")].Integer(), rows[QStringLiteral("UserName")].Text()});
+    return people;
+}
+
 std::optional<User> Profiles::First() {
-    Recordset rows(UserDB(), QStringLiteral("SELECT * FROM profiles"));
-    while (!rows.AtEnd() && !rows[QStringLiteral("UID")].IsKey())
-        rows.MoveNext();
-    if (rows.AtEnd())
+    const std::vector<Person> people = All();
+    if (people.empty())
         return {};
-    User user;
-    user.UID = rows[QStringLiteral("UID")].Integer();
-    user.GetUserProfile(user.UID);
-    return user;
+    return UserWithKey(people.front().UID);
+}
+
+std::optional<User> Profiles::Find(const QString& nameOrKey) {
+    const std::vector<Person> people = All();
+    const auto named = std::ranges::find_if(people, [&](const Person& person) {
+        return person.name.compare(nameOrKey, Qt::CaseInsensitive) == 0;
+    });
+    if (named != people.end())
+        return UserWithKey(named->UID);
+    const auto keyed = std::ranges::find(
+        people, nameOrKey, [](const Person& person) { return QString::number(person.UID); });
+    if (keyed == people.end())
+        return {};
+    return UserWithKey(keyed->UID);
 }
 
 QString Profiles::ProblemWithNew(const Profile& entered) {
