@@ -1,0 +1,15 @@
+#pragma once
+
+class Session;
+
+namespace CLI {
+class App;
+}
+
+/// Each adds one command with its options and its help to the program. When the program is called
+/// with that command, it tells the session what to do.
+namespace Commands {
+void AddSearch(CLI::App& program, Session& session);
+
+inline constexpr void (*All[])(CLI::App& program, Session& session) = {AddSearch};
+} // namespace Commands

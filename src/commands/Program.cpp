@@ -1,0 +1,41 @@
+#include "commands/Program.h"
+
+#include "commands/Commands.h"
+#include "commands/Session.h"
+
+#include <CLI/CLI.hpp>
+
+namespace {
+/// CLI11 takes the last argument first.
+std::vector<std::string> Reversed(const QStringList& arguments) {
+    std::vector<std::string> texts;
+    for (qsizetype i = arguments.size() - 1; i > 0; --i)
+        texts.push_back(arguments[i].toStdString());
+    return texts;
+}
+
+void AddSharedOptions(CLI::App& program, Session& session) {
+    program.add_option("--folder", session.folder,
+                       "The folder of the records; otherwise that of the program");
+    program.add_option("--profile", session.profile,
+                       "The name or key of a person; otherwise the first one");
+    program.add_flag("--json", session.json, "Print facts as JSON");
+}
+} // namespace
+
+int RunCommand(const QStringList& arguments, std::ostream& out, std::ostream& error) {
+    Session session(out, error);
+    CLI::App program("Keeps, checks, takes out and brings in the records of Halvane.",
+                     "halvane-data");
+    program.require_subcommand(1);
+    program.fallthrough();
+    AddSharedOptions(program, session);
+    for (const auto add : Commands::All)
+        add(program, session);
+    try {
+        program.parse(Reversed(arguments));
+    } catch (const CLI::ParseError& wrong) {
+        return program.exit(wrong, out, error) == 0 ? Done : Usage;
+    }
+    return session.Run();
+}

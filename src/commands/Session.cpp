@@ -1,0 +1,48 @@
+#include "commands/Session.h"
+
+#include "model/Profiles.h"
+#include "runtime/AppPath.h"
+#include "runtime/RuntimeError.h"
+
+#include <QJsonDocument>
+#include <QJsonObject>
+
+Session::Session(std::ostream& out, std::ostream& error)
+    : out_(out)
+    , error_(error) {}
+
+RecordsFolder Session::Records() const {
+    return RecordsFolder(folder.empty() ? ApplicationPath() : QString::fromStdString(folder));
+}
+
+void Session::ChooseProfile() const {
+    const QString wanted = QString::fromStdString(profile);
+    const auto person = wanted.isEmpty() ? Profiles::First() : Profiles::Find(wanted);
+    if (!person)
+        throw RuntimeError(ErrorNumber::NoCurrentRecord,
+                           wanted.isEmpty()
+                               ? QStringLiteral("There is no profile in these records.")
+                               : "There is no profile \"" + wanted + "\".");
+    User::Current() = *person;
+}
+
+void Session::Print(const QString& line) const {
+    out_ << line.toStdString() << '\n';
+}
+
+void Session::Print(const QJsonObject& facts) const {
+    out_ << QJsonDocument(facts).toJson().toStdString();
+}
+
+void Session::Tell(const QString& line) const {
+    error_ << "halvane-data: " << line.toStdString() << '\n';
+}
+
+int Session::Run() const {
+    try {
+        return command_();
+    } catch (const RuntimeError& failure) {
+        Tell(failure.Description());
+        return Cannot;
+    }
+}

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "records/RecordsFolder.h"
+
+#include <QDate>
+#include <QString>
+
+#include <functional>
+#include <ostream>
+#include <string>
+
+class QJsonObject;
+
+/// What the program ends with; scripts rely on these.
+enum ExitCode {
+    Done = 0,
+    Found = 1,  ///< a check has found something, or some rows were refused
+    Usage = 2,  ///< unknown command, option or value
+    Cannot = 3, ///< what was asked for failed; nothing was changed
+};
+
+/// One run of halvane-data: the options that all commands share, and where they print.
+class Session {
+public:
+    Session(std::ostream& out, std::ostream& error);
+
+    std::string folder;  ///< of the records; empty: the program's own
+    std::string profile; ///< name or key of a person; empty: the first one
+    bool json = false;   ///< facts are printed as JSON
+
+    RecordsFolder Records() const;
+    /// Makes the person whom `profile` names the current user. Fails if nobody has that name.
+    void ChooseProfile() const;
+
+    std::ostream& Out() const { return out_; }
+    void Print(const QString& line) const;
+    void Print(const QJsonObject& facts) const; ///< indented, with a line end
+    void Tell(const QString& line) const;       ///< on standard error, after the program's name
+
+    /// What the chosen command does. It gives the exit code and runs once all options are read.
+    void Do(std::function<int()> command) { command_ = std::move(command); }
+    int Run() const; ///< a failure is told, and gives Cannot
+
+private:
+    std::ostream& out_;
+    std::ostream& error_;
+    std::function<int()> command_;
+};

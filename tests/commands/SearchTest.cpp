@@ -1,0 +1,46 @@
+#include "CommandTest.h"
+
+#include "commands/Session.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+class SearchTest : public CommandTest {};
+
+TEST_F(SearchTest, PrintsALineForEachFoodThatHasAllWords) {
+    const Run run = Command({"search", "lentils", "cooked"});
+    EXPECT_EQ(run.code, Done);
+    EXPECT_TRUE(run.out.contains("LENTILS", Qt::CaseInsensitive)) << run.out.toStdString();
+    EXPECT_EQ(run.error, "");
+}
+
+TEST_F(SearchTest, PrintsFactsAsJson) {
+    const Run run = Command({"search", "--json", "lentils"});
+    const QJsonArray found = QJsonDocument::fromJson(run.out.toUtf8()).object()["found"].toArray();
+    ASSERT_FALSE(found.isEmpty());
+    EXPECT_EQ(found[0]["kind"], "food");
+    EXPECT_GT(found[0]["key"].toInt(), 0);
+}
+
+TEST_F(SearchTest, EndsWithFoundNothing) {
+    EXPECT_EQ(Command({"search", "xyzzy"}).code, Found);
+}
+
+TEST_F(SearchTest, WithoutWordsIsAUsageError) {
+    const Run run = Command({"search"});
+    EXPECT_EQ(run.code, Usage);
+    EXPECT_NE(run.error, "");
+}
+
+TEST_F(SearchTest, ShowsAnExampleInItsHelp) {
+    const Run run = Command({"search", "--help"});
+    EXPECT_EQ(run.code, Done);
+    EXPECT_TRUE(run.out.contains("Example: halvane-data search")) << run.out.toStdString();
+}
+
+TEST_F(SearchTest, WhereTheRecordsAreMissingItSaysWhichFile) {
+    const Run run = Command({"search", "--folder", Folder() + "/missing", "pie"});
+    EXPECT_EQ(run.code, Cannot);
+    EXPECT_TRUE(run.error.contains("missing/users.mdb")) << run.error.toStdString();
+}
