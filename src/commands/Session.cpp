@@ -38,6 +38,11 @@ void Session::Tell(const QString& line) const {
     error_ << "halvane-data: " << line.toStdString() << '\n';
 }
 
+int Session::Refuse(const QString& line) const {
+    Tell(line);
+    return Usage;
+}
+
 int Session::Run() const {
     try {
         return command_();

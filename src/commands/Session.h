@@ -36,6 +36,7 @@ public:
     void Print(const QString& line) const;
     void Print(const QJsonObject& facts) const; ///< indented, with a line end
     void Tell(const QString& line) const;       ///< on standard error, after the program's name
+    int Refuse(const QString& line) const;      ///< tells why a value is not accepted; gives Usage
 
     /// What the chosen command does. It gives the exit code and runs once all options are read.
     void Do(std::function<int()> command) { command_ = std::move(command); }

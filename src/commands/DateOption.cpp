@@ -1,0 +1,41 @@
+#include "commands/DateOption.h"
+
+#include "runtime/Clock.h"
+#include "runtime/Dates.h"
+#include "runtime/RuntimeError.h"
+
+#include <CLI/CLI.hpp>
+
+namespace {
+/// Of the ISO forms only the one with dashes: "20260302" is a number.
+QDate IsoDay(const QString& text) {
+    const QDate day = QDate::fromString(text, QStringLiteral("yyyy-MM-dd"));
+    return day >= Dates::First() && day <= Dates::Last() ? day : QDate();
+}
+} // namespace
+
+QDate DateOption::Of(const std::string& text) {
+    const QString word = QString::fromStdString(text);
+    if (word.compare(u"today", Qt::CaseInsensitive) == 0)
+        return Clock::Today();
+    if (word.compare(u"yesterday", Qt::CaseInsensitive) == 0)
+        return Clock::Today().addDays(-1);
+    const QDate day = IsoDay(word);
+    if (!day.isValid())
+        throw RuntimeError(ErrorNumber::TypeMismatch,
+                           u'"' + word +
+                               u"\" is no day. Write it as 2026-03-02, today or yesterday.");
+    return day;
+}
+
+CLI::Option* DateOption::Add(CLI::App& command, const std::string& name, QDate& day,
+                             const std::string& help) {
+    const auto read = [name, &day](const std::string& text) {
+        try {
+            day = Of(text);
+        } catch (const RuntimeError& wrong) {
+            throw CLI::ValidationError(name, wrong.Description().toStdString());
+        }
+    };
+    return command.add_option_function<std::string>(name, read, help)->type_name("DAY");
+}
