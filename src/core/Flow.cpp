@@ -3,7 +3,6 @@
 #include "core/Navigation.h"
 #include "core/SingleInstance.h"
 #include "core/StartFailure.h"
-#include "core/StartSettings.h"
 #include "core/Tips.h"
 #include "core/frmEULA.h"
 #include "core/frmHOME.h"
@@ -16,6 +15,7 @@
 #include "runtime/Seams.h"
 #include "runtime/SettingTable.h"
 #include "runtime/Settings.h"
+#include "runtime/StartSettings.h"
 #include "store/Connection.h"
 #include "toolkit/Twips.h"
 

@@ -1,13 +1,14 @@
-#include "core/CoreTest.h"
+#include "runtime/StartSettings.h"
 
-#include "core/StartSettings.h"
+#include "runtime/AppPath.h"
 #include "runtime/Settings.h"
+#include "support/HalvaneTest.h"
 
 #include <QDir>
 
 #include <limits>
 
-class StartSettingsTest : public CoreTest {
+class StartSettingsTest : public HalvaneTest {
 protected:
     AppInfo Read() {
         AppInfo info;

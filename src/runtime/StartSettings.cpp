@@ -1,4 +1,4 @@
-#include "core/StartSettings.h"
+#include "runtime/StartSettings.h"
 
 #include "runtime/AppPath.h"
 #include "runtime/Convert.h"
