@@ -7,14 +7,12 @@
 #include <algorithm>
 
 namespace {
-constexpr int LastRowRead = 200;
-
-/// All three statements give name, key and first serving at the same positions. Only a food has a
-/// second serving.
+/// All statements give name, key and first serving at the same positions. Only a food has a second
+/// serving.
 void ReadSource(FoodList& foods, Connection& connection, const QString& source, bool recipes) {
     Recordset rows(connection, source);
-    const int last = std::min(rows.RecordCount() - 1, LastRowRead);
-    for (int row = 0; row <= last; ++row, rows.MoveNext())
+    const int count = std::min(rows.RecordCount(), FoodSearch::MostOfASource);
+    for (int row = 0; row < count; ++row, rows.MoveNext())
         if (rows[1].IsKey())
             foods.Add(rows[0].Text(), recipes, rows[1].Integer(), rows[2].Value(),
                       recipes ? QVariant(QString()) : rows[3].Value());
@@ -30,4 +28,24 @@ FoodList FoodSearch::Find(const SearchTerms& terms, const Sources& sources) {
     if (sources.stock)
         ReadSource(foods, FoodDB(), terms.StockSQL(), false);
     return foods;
+}
+
+std::optional<Food> FoodSearch::WithKey(qint32 key, bool isRecipe) {
+    const QString number = QString::number(key);
+    FoodList foods;
+    if (isRecipe)
+        ReadSource(foods, UserDB(),
+                   "SELECT RecipeName,RecipeID,ServingName FROM Recipes WHERE RecipeID = " + number,
+                   true);
+    else
+        ReadSource(foods, FoodDB(),
+                   "SELECT FoodName,ID,Serv_Desc_A,Serv_Desc_B FROM FOODS WHERE ID = " + number,
+                   false);
+    if (foods.Count() == 0)
+        return {};
+    return foods.Item(1);
+}
+
+QString FoodSearch::NoMatch() {
+    return QStringLiteral("No foods or recipes matched your search term.");
 }

@@ -2,6 +2,8 @@
 
 #include "foods/FoodList.h"
 
+#include <optional>
+
 class SearchTerms;
 
 /// Finds foods and recipes by the words in their names.
@@ -13,6 +15,11 @@ struct Sources {
     bool stock;
 };
 
-/// Gives at most 201 entries for each source, in the order of the names.
+inline constexpr int MostOfASource = 201;
+/// Gives at most MostOfASource entries for each source, in the order of the names.
 FoodList Find(const SearchTerms& terms, const Sources& sources);
+/// The food or the recipe of that key, if there is one.
+std::optional<Food> WithKey(qint32 key, bool isRecipe);
+
+QString NoMatch(); ///< the message for an empty list
 } // namespace FoodSearch

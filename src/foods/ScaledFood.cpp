@@ -65,6 +65,10 @@ const ScaledFood::Entry* ScaledFood::Find(const QString& key) const {
     return found == entries_.end() ? nullptr : &*found;
 }
 
+ScaledFood ScaledFood::Of(qint32 id, const QString& serv, double qty, bool isRecipe) {
+    return isRecipe ? FromRecipe(id, qty) : FromCatalogue(id, serv, qty);
+}
+
 ScaledFood ScaledFood::FromCatalogue(qint32 id, const QString& serv, double qty) {
     const QString source = u"SELECT * FROM foods WHERE ID = " + QString::number(id);
     const Recordset row(FoodDB(), source);

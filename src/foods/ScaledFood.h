@@ -23,6 +23,8 @@ public:
     QString Text(const QString& key) const { return Item(key).toString(); }
     const QList<Entry>& Entries() const { return entries_; }
 
+    /// A food of the catalogue or a recipe, as the two below.
+    static ScaledFood Of(qint32 id, const QString& serv, double qty, bool isRecipe);
     /// `qty` servings of a food of the catalogue. `serv` is "A" or "B". A key without a row fails.
     static ScaledFood FromCatalogue(qint32 id, const QString& serv, double qty);
     /// The sum of all ingredients times `qty`, whatever the yield of the recipe.

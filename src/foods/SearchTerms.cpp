@@ -3,6 +3,16 @@
 SearchTerms::SearchTerms(const QString& term)
     : words_(term.split(u' ')) {}
 
+SearchTerms SearchTerms::Quoted(QString term) {
+    return SearchTerms(term.replace(u'\'', QStringLiteral("''")));
+}
+
+QString SearchTerms::Refusal(const QString& term) {
+    if (term.size() > Longest)
+        return QStringLiteral("Please enter a search term of %1 characters or less.").arg(Longest);
+    return term.isEmpty() ? QStringLiteral("Please enter a search term.") : QString();
+}
+
 QString SearchTerms::RecipeSQL() const {
     return u"SELECT TOP 300 RecipeName,RecipeID,ServingName FROM Recipes WHERE " +
            Clauses(QStringLiteral("RECIPENAME")) + u" ORDER BY RecipeName";

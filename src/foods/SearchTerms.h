@@ -8,6 +8,12 @@
 class SearchTerms {
 public:
     explicit SearchTerms(const QString& term); ///< splits at each blank and keeps empty words
+    /// A term in which a quote is a character like any other.
+    static SearchTerms Quoted(QString term);
+
+    /// The settings keep no more than this. It also limits the number of words in a statement.
+    static constexpr int Longest = 255;
+    static QString Refusal(const QString& term); ///< the message; empty if it can be searched for
 
     const QStringList& Words() const { return words_; }
     QString RecipeSQL() const; ///< on users.mdb

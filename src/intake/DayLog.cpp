@@ -5,6 +5,8 @@
 #include "model/EnergyTargets.h"
 #include "model/Nutrients.h"
 #include "model/User.h"
+#include "runtime/AppState.h"
+#include "runtime/Attempt.h"
 #include "runtime/Dates.h"
 #include "runtime/Round.h"
 #include "store/Connection.h"
@@ -19,9 +21,18 @@ QString RowsOf(const char* table, QDate day) {
 }
 
 QString RowsOfMeal(int meal, QDate day) {
-    const QString name = QLatin1String(Meals::Names[static_cast<size_t>(meal)]);
     return "SELECT * FROM USER_FOODS WHERE UID =" + QString::number(User::Current().UID) +
-           " AND MEAL = '" + name.toUpper() + "' AND UDate = #" + Dates::ShortText(day) + u'#';
+           " AND MEAL = '" + Meals::NameOf(meal).toUpper() + "' AND UDate = #" +
+           Dates::ShortText(day) + u'#';
+}
+
+/// What another tool wrote and no column of its kind can hold is left out.
+void AppendCopy(const Recordset& food, Recordset& copies, QDate day) {
+    copies.AddNew();
+    for (int column = 1; column < food.FieldCount(); ++column)
+        Attempt([&] { copies.Set(column, food[column].Value()); });
+    copies.Set(QStringLiteral("UDate"), day);
+    copies.Update();
 }
 
 } // namespace
@@ -32,11 +43,12 @@ std::vector<LoggedFood> DayLog::FoodsOf(int meal, QDate day) {
         if (rows[QStringLiteral("RecID")].IsKey())
             foods.push_back(
                 {rows[QStringLiteral("RecID")].Integer(), rows[QStringLiteral("FoodName")].Text(),
-                 rows[QStringLiteral("Serving")].Text(), rows[QStringLiteral("QTY")].NumberOr(0)});
+                 rows[QStringLiteral("Serving")].Text(), rows[QStringLiteral("QTY")].NumberOr(0),
+                 rows[QStringLiteral("Calories")].NumberOr(0)});
     return foods;
 }
 
-void DayLog::AddFood(const ScaledFood& item, const QString& meal, QDate day) {
+qint32 DayLog::AddFood(const ScaledFood& item, const QString& meal, QDate day) {
     Recordset rows(UserDB(), RowsOf("USER_FOODS", day), CursorType::Dynamic, LockType::Optimistic);
     rows.AddNew();
     for (int i = 1; i <= NutrientCount; ++i)
@@ -49,6 +61,16 @@ void DayLog::AddFood(const ScaledFood& item, const QString& meal, QDate day) {
     rows.Set(QStringLiteral("UDate"), day);
     rows.Set(QStringLiteral("QTY"), item.Item(QStringLiteral("QTY")));
     rows.Update();
+    return rows[QStringLiteral("RecID")].Integer();
+}
+
+int DayLog::CopyFoods(QDate from, QDate to, std::optional<int> meal) {
+    Recordset foods(UserDB(), meal ? RowsOfMeal(*meal, from) : RowsOf("USER_FOODS", from));
+    Recordset copies(UserDB(), RowsOf("USER_FOODS", to), CursorType::Dynamic, LockType::Optimistic);
+    const int count = foods.RecordCount();
+    for (; !foods.AtEnd(); foods.MoveNext())
+        AppendCopy(foods, copies, to);
+    return count;
 }
 
 void DayLog::RemoveFood(qint32 RecID) {
@@ -101,4 +123,20 @@ bool DayLog::TakeWeight(double weight) {
     User::Current().CurrentWeight = Round(weight);
     RecalcTargets();
     return true;
+}
+
+bool DayLog::EnterWeight(QDate day, double weight) {
+    SetWeight(day, weight);
+    return TakeWeight(weight);
+}
+
+User DayLog::UserOn(QDate day) {
+    User user = User::Current();
+    const double weight = Weight(day);
+    if (!WeightRefusal(weight).isEmpty())
+        return user;
+    user.CurrentWeight = Round(weight);
+    if (App().AppInfo.AUTOUPDATERDI)
+        Attempt([&] { DeriveEnergyTargets(user); });
+    return user;
 }

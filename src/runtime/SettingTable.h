@@ -30,7 +30,7 @@ inline constexpr Setting SearchCustom{"SEARCH_CUSTOM", "1", "ucSearchResults", "
 inline constexpr Setting SearchRecipes{"SEARCH_RECIPES", "1", "ucSearchResults", "ucSearchResults"};
 inline constexpr Setting SearchStock{"SEARCH_STOCK", "1", "ucSearchResults", "ucSearchResults"};
 inline constexpr Setting SearchString{"SEARCH_STRING", "", "ucSearchResults", "ucSearchResults"};
-inline constexpr Setting Meal{"OPMEAL", "0", "ucSearchResults", "ucSearchResults"};
+inline constexpr Setting Meal{"OPMEAL", "0", "Meals", "ucSearchResults"};
 inline constexpr Setting FromEmail{"FROMEMAIL", "", "frmSend", "frmSend"};
 inline constexpr Setting ToEmail{"TOEMAIL", "", "frmSend", "frmSend"};
 

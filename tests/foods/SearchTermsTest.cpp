@@ -46,3 +46,11 @@ TEST(SearchTermsTest, OtherWhiteSpaceIsPartOfAWord) {
 TEST(SearchTermsTest, TheTermGoesInAsItStands) {
     EXPECT_TRUE(SearchTerms("50%_[x]'").StockSQL().contains("LIKE '%50%_[x]'%' "));
 }
+
+TEST(SearchTermsTest, AnEmptyTermAndOneThatIsTooLongAreRefused) {
+    EXPECT_EQ(SearchTerms::Refusal(""), "Please enter a search term.");
+    EXPECT_EQ(SearchTerms::Refusal(" "), "");
+    EXPECT_EQ(SearchTerms::Refusal(QString(255, u'a')), "");
+    EXPECT_EQ(SearchTerms::Refusal(QString(256, u'a')),
+              "Please enter a search term of 255 characters or less.");
+}

@@ -1,5 +1,6 @@
 #include "foods/ui/ResultRows.h"
 
+#include "foods/FoodSearch.h"
 #include "foods/ui/ucFood.h"
 #include "toolkit/Labels.h"
 #include "toolkit/Style.h"
@@ -32,9 +33,8 @@ void ResultRows::BuildTemplate() {
 }
 
 void ResultRows::BuildNoMatch() {
-    noMatch_ =
-        MakeLabel(picResultsPane(), QStringLiteral("lblNoMatch"),
-                  QStringLiteral("No foods or recipes matched your search term."), TextRole::Quiet);
+    noMatch_ = MakeLabel(picResultsPane(), QStringLiteral("lblNoMatch"), FoodSearch::NoMatch(),
+                         TextRole::Quiet);
     noMatch_->hide();
 }
 

@@ -1,16 +1,15 @@
 #include "foods/ui/TermField.h"
 
+#include "foods/SearchTerms.h"
+
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 
 #include <algorithm>
 
-/// The settings keep no more than this. It also limits the number of words in a statement.
-static constexpr int LongestTerm = 255;
-
 TermField::TermField(QWidget* parent)
     : LineField(parent) {
-    setMaxLength(LongestTerm);
+    setMaxLength(SearchTerms::Longest);
     connect(this, &QLineEdit::returnPressed, this, &TermField::SearchAsked);
 }
 

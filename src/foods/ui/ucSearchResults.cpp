@@ -9,7 +9,6 @@
 #include "foods/ui/TermField.h"
 #include "runtime/AppState.h"
 #include "runtime/Convert.h"
-#include "runtime/Round.h"
 #include "runtime/Seams.h"
 #include "runtime/SettingTable.h"
 #include "runtime/Settings.h"
@@ -52,10 +51,6 @@ QLabel* CaptionAt(QWidget* panel, const char* name, const char* text, QPoint pla
     QLabel* caption = MakeLabel(panel, QLatin1String(name), QLatin1String(text), TextRole::Small);
     caption->setGeometry(QRect(place, QSize(caption->sizeHint().width(), CaptionHeight)));
     return caption;
-}
-
-ScaledFood Scaled(qint32 id, const QString& serv, double qty, bool isRecipe) {
-    return isRecipe ? ScaledFood::FromRecipe(id, qty) : ScaledFood::FromCatalogue(id, serv, qty);
 }
 
 } // namespace
@@ -181,8 +176,7 @@ void ucSearchResults::RestoreState() {
     ckCustom_->setChecked(ticked(Settings::SearchCustom));
     ckRecipes_->setChecked(ticked(Settings::SearchRecipes));
     ckStock_->setChecked(ticked(Settings::SearchStock));
-    const double meal = Val(GetRegValue(Settings::Meal));
-    TickMeal(meal > 0 && meal < MealCount - 0.5 ? Round(meal) : 0);
+    TickMeal(Meals::LastTicked().value_or(0));
     txtSearchString_->setText(GetRegValue(Settings::SearchString));
 }
 
@@ -197,10 +191,10 @@ void ucSearchResults::StoreState() const {
 
 void ucSearchResults::SearchFoodsDB() {
     foods_ = FoodList();
-    if (txtSearchString_->text().isEmpty()) {
+    if (const QString refusal = SearchTerms::Refusal(txtSearchString_->text());
+        !refusal.isEmpty()) {
         MousePointer::SetNormal();
-        ShowAlert(QStringLiteral("Please enter a search term."), window());
-        return;
+        return Refuse(refusal);
     }
     MousePointer::SetBusy();
     const MousePointer::NormalAtEnd normal;
@@ -252,10 +246,10 @@ void ucSearchResults::LogChosenFood(int, qint32 ID, const QString& Serv, double 
     ScaledFood item;
     {
         const MousePointer::NormalAtEnd normal;
-        item = Scaled(ID, Serv, QTY, isRecipe);
+        item = ScaledFood::Of(ID, Serv, QTY, isRecipe);
     }
     const int ticked = TickedMeal();
-    Q_EMIT FoodChosen(ticked < 0 ? QString() : QString(QLatin1String(Meals::Names[ticked])), item);
+    Q_EMIT FoodChosen(ticked < 0 ? QString() : Meals::NameOf(ticked), item);
 }
 
 void ucSearchResults::ExamineChosenFood(int, qint32 ID, const QString& Serv, double QTY,
@@ -263,7 +257,7 @@ void ucSearchResults::ExamineChosenFood(int, qint32 ID, const QString& Serv, dou
     const QString refusal = Quantity::ExamineRefusal(Val(DecimalText(QTY)));
     if (!refusal.isEmpty())
         return Refuse(refusal);
-    Q_EMIT FoodExamined(Scaled(ID, Serv, QTY, isRecipe));
+    Q_EMIT FoodExamined(ScaledFood::Of(ID, Serv, QTY, isRecipe));
 }
 
 void ucSearchResults::Refuse(const QString& message) {

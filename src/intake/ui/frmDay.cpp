@@ -152,7 +152,7 @@ void frmDay::DoWinInit() {
     const double weight = DayLog::Weight(App().CurrentDate);
     const QString text = DecimalText(weight);
     txtWeight_->setText(text == "0" ? QString() : text);
-    TakeWeight(weight);
+    ShowTargets(DayLog::TakeWeight(weight));
 }
 
 /// An empty field takes the entry back: it is stored as 0.
@@ -164,13 +164,13 @@ void frmDay::SaveWeight() {
         ShowAlert(refusal, this);
         return;
     }
-    DayLog::SetWeight(App().CurrentDate, weight);
+    const bool taken = DayLog::EnterWeight(App().CurrentDate, weight);
     txtWeight_->setModified(false);
-    TakeWeight(weight);
+    ShowTargets(taken);
 }
 
-void frmDay::TakeWeight(double weight) {
-    if (DayLog::TakeWeight(weight) && App().AppInfo.AUTOUPDATERDI)
+void frmDay::ShowTargets(bool weightTaken) {
+    if (weightTaken && App().AppInfo.AUTOUPDATERDI)
         daily_->updateCharts();
 }
 

@@ -54,7 +54,7 @@ private:
     void ClearFoods();
     void GoHome();
     void SaveWeight();
-    void TakeWeight(double weight);
+    void ShowTargets(bool weightTaken);
     bool HasMoved(double x, double y);
 
     ucAALBL* aadate_;
