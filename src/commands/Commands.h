@@ -9,7 +9,13 @@ class App;
 /// Each adds one command with its options and its help to the program. When the program is called
 /// with that command, it tells the session what to do.
 namespace Commands {
+void AddCopyDay(CLI::App& program, Session& session);
+void AddCopyMeal(CLI::App& program, Session& session);
+void AddLog(CLI::App& program, Session& session);
 void AddSearch(CLI::App& program, Session& session);
+void AddShow(CLI::App& program, Session& session);
+void AddWeigh(CLI::App& program, Session& session);
 
-inline constexpr void (*All[])(CLI::App& program, Session& session) = {AddSearch};
+inline constexpr void (*All[])(CLI::App& program, Session& session) = {
+    AddCopyDay, AddCopyMeal, AddLog, AddSearch, AddShow, AddWeigh};
 } // namespace Commands

@@ -1,48 +1,67 @@
 #include "commands/Commands.h"
+#include "commands/FoundFoods.h"
 #include "commands/Session.h"
 #include "foods/FoodSearch.h"
 #include "foods/SearchTerms.h"
 #include "records/RecordsReading.h"
-
-#include <QJsonArray>
-#include <QJsonObject>
+#include "store/Schema.h"
 
 #include <CLI/CLI.hpp>
+
+#include <algorithm>
 
 namespace {
 constexpr FoodSearch::Sources Everywhere{.recipes = true, .custom = true, .stock = true};
 
-QJsonObject Facts(const Food& food) {
-    return {{"name", food.FoodName},
-            {"kind", QLatin1String(food.isRecipe ? "recipe" : "food")},
-            {"key", food.ID},
-            {"servingA", QJsonValue::fromVariant(food.ServA)},
-            {"servingB", QJsonValue::fromVariant(food.ServB)}};
+struct Wanted {
+    std::vector<std::string> words;
+    int limit = 3 * FoodSearch::MostOfASource;
+};
+
+bool IsCut(const FoodList& found) {
+    const auto recipe = [](const Food& food) { return food.isRecipe; };
+    const auto own = [](const Food& food) {
+        return !food.isRecipe && food.ID > Schema::LastStockFood;
+    };
+    const auto recipes = std::ranges::count_if(found, recipe);
+    const auto owned = std::ranges::count_if(found, own);
+    return std::max({recipes, owned, found.Count() - recipes - owned}) == FoodSearch::MostOfASource;
 }
 
-QString Line(const Food& food) {
-    const QString key = (food.isRecipe ? u"recipe " : u"food ") + QString::number(food.ID);
-    return key.leftJustified(14) + food.FoodName + QLatin1String(", ") + food.ServA.toString();
+/// Nobody can see in the list itself that there is more.
+void TellIfCut(const Session& session, const FoodList& found, int limit) {
+    if (found.Count() > limit)
+        session.Tell(QStringLiteral("%1 more match.").arg(found.Count() - limit));
+    if (IsCut(found))
+        session.Tell(QStringLiteral("There may be more: a search gives at most %1 recipes, %1 own "
+                                    "foods and %1 standard foods.")
+                         .arg(FoodSearch::MostOfASource));
 }
 
-int Search(const Session& session, const std::string& words) {
+int Search(const Session& session, const Wanted& wanted) {
+    const QString words = QString::fromStdString(CLI::detail::join(wanted.words, " "));
+    if (const QString refusal = SearchTerms::Refusal(words); !refusal.isEmpty())
+        return session.Refuse(refusal);
     const RecordsReading records(session.Records());
-    const FoodList found = FoodSearch::Find(SearchTerms(QString::fromStdString(words)), Everywhere);
-    QJsonArray all;
-    for (const Food& food : found)
-        session.json ? all.append(Facts(food)) : session.Print(Line(food));
-    if (session.json)
-        session.Print(QJsonObject{{"found", all}});
+    FoodList found = FoodSearch::Find(SearchTerms::Quoted(words), Everywhere);
+    TellIfCut(session, found, wanted.limit);
+    while (found.Count() > wanted.limit)
+        found.Remove(found.Count());
+    if (found.Count() == 0)
+        session.Tell(FoodSearch::NoMatch());
+    FoundFoods::Print(session, found);
     return found.Count() == 0 ? Found : Done;
 }
 } // namespace
 
 void Commands::AddSearch(CLI::App& program, Session& session) {
     CLI::App* command = program.add_subcommand("search", "Finds foods and recipes by words");
-    const auto words = std::make_shared<std::vector<std::string>>();
-    command->add_option("WORDS", *words, "Words that all stand in the name")->required();
+    const auto wanted = std::make_shared<Wanted>();
+    command->add_option("WORDS", wanted->words, "Words that all stand in the name")->required();
+    command->add_option("--limit", wanted->limit, "Print at most so many")
+        ->check(CLI::PositiveNumber);
     command->footer("Example: halvane-data search rye bread");
-    command->callback([&session, words] {
-        session.Do([&session, words] { return Search(session, CLI::detail::join(*words, " ")); });
+    command->callback([&session, wanted] {
+        session.Do([&session, wanted] { return Search(session, *wanted); });
     });
 }

@@ -44,3 +44,28 @@ TEST_F(SearchTest, WhereTheRecordsAreMissingItSaysWhichFile) {
     EXPECT_EQ(run.code, Cannot);
     EXPECT_TRUE(run.error.contains("missing/users.mdb")) << run.error.toStdString();
 }
+
+TEST_F(SearchTest, PrintsTheKeyThatOtherCommandsTakeAndBothServings) {
+    EXPECT_TRUE(Command({"search", "butter,", "salted"})
+                    .out.contains("food:16096    Butter, salted (1 cup | 1 tbsp)\n"));
+}
+
+TEST_F(SearchTest, TellsThatASourceMayHaveMoreThanItListed) {
+    const Run run = Command({"search", "e"});
+    EXPECT_EQ(run.out.count('\n'), 201);
+    EXPECT_TRUE(run.error.contains("There may be more")) << run.error.toStdString();
+    EXPECT_EQ(Command({"search", "lentils"}).error, "");
+}
+
+TEST_F(SearchTest, PrintsNoMoreThanTheLimit) {
+    const Run run = Command({"search", "lentils", "--limit", "2"});
+    EXPECT_EQ(run.out.count('\n'), 2);
+    EXPECT_TRUE(run.error.contains(" more match.")) << run.error.toStdString();
+    EXPECT_EQ(Command({"search", "lentils", "--limit", "0"}).code, Usage);
+}
+
+TEST_F(SearchTest, AnEmptyTermIsRefusedAsOnTheScreen) {
+    const Run run = Command({"search", ""});
+    EXPECT_EQ(run.code, Usage);
+    EXPECT_TRUE(run.error.contains("Please enter a search term."));
+}

@@ -1,0 +1,72 @@
+#include "commands/Commands.h"
+#include "commands/DateOption.h"
+#include "commands/MealOption.h"
+#include "commands/Session.h"
+#include "intake/DayLog.h"
+#include "records/RecordsChange.h"
+#include "runtime/Clock.h"
+
+#include <QJsonObject>
+
+#include <CLI/CLI.hpp>
+
+namespace {
+struct Copying {
+    QDate from;
+    QDate to;      ///< null: today
+    int meal = -1; ///< all
+};
+
+void Report(const Session& session, const Copying& copying, int count) {
+    const QString from = copying.from.toString(Qt::ISODate);
+    const QString to = copying.to.toString(Qt::ISODate);
+    if (session.json)
+        session.Print(QJsonObject{{"copied", count}, {"from", from}, {"to", to}});
+    else if (count == 0)
+        session.Print("Nothing to copy is logged on " + from + '.');
+    else
+        session.Print(QStringLiteral("Copied from %1 to %2: %3 %4.")
+                          .arg(from, to, QString::number(count),
+                               QLatin1String(count == 1 ? "food" : "foods")));
+}
+
+int Copy(const Session& session, Copying& copying) {
+    if (copying.to.isNull())
+        copying.to = Clock::Today();
+    if (copying.from == copying.to)
+        return session.Refuse(QStringLiteral("Please give two different days."));
+    RecordsChange change(session.Records());
+    session.ChooseProfile();
+    const int count = DayLog::CopyFoods(
+        copying.from, copying.to, copying.meal < 0 ? std::nullopt : std::optional(copying.meal));
+    if (count > 0)
+        change.Commit();
+    Report(session, copying, count);
+    return count == 0 ? Found : Done;
+}
+
+void AddDays(CLI::App& command, Session& session, const std::shared_ptr<Copying>& copying) {
+    DateOption::Add(command, "FROM", copying->from, "The day to copy")->required();
+    DateOption::Add(command, "TO", copying->to, "The day that gets the copies; otherwise today");
+    command.callback([&session, copying] {
+        session.Do([&session, copying] { return Copy(session, *copying); });
+    });
+}
+} // namespace
+
+void Commands::AddCopyDay(CLI::App& program, Session& session) {
+    CLI::App* command =
+        program.add_subcommand("copy-day", "Logs all foods of a day for another day, too");
+    AddDays(*command, session, std::make_shared<Copying>());
+    command->footer("Example: halvane-data copy-day yesterday");
+}
+
+void Commands::AddCopyMeal(CLI::App& program, Session& session) {
+    CLI::App* command =
+        program.add_subcommand("copy-meal", "Logs the foods of a meal for another day, too");
+    const auto copying = std::make_shared<Copying>();
+    MealOption::Add(*command, "MEAL", copying->meal, "Breakfast, Lunch, Dinner or Snacks")
+        ->required();
+    AddDays(*command, session, copying);
+    command->footer("Example: halvane-data copy-meal Breakfast yesterday today");
+}
