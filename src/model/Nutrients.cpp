@@ -1,5 +1,7 @@
 #include "model/Nutrients.h"
 
+#include "store/Schema.h"
+
 #include <string_view>
 
 namespace {
@@ -81,6 +83,8 @@ constexpr Nutrient Chart[] = {Calories,   TotalFat,   SatFat,    PolyFat,   Mono
                               Folate,     Iron,       Magnesium, Manganese, Niacin,   Phosphorus,
                               Potassium,  Riboflavin, Thiamin,   Selenium,  VitaminA, VitaminB6,
                               VitaminB12, VitaminC,   VitaminE,  Zinc};
+constexpr Nutrient NotInChart[] = {Ash, Panto, Water};
+static_assert(HoldEachNutrientOnce({Chart, NotInChart}));
 
 constexpr Nutrient Period[] = {
     Calories,  TotalFat,  SatFat,     PolyFat,    MonoFat,   Cholesterol, Sodium,  Carbs,
@@ -114,6 +118,7 @@ constexpr Nutrient Stored[] = {
     Ash,      Calcium,   Phosphorus, Iron,      Sodium,     Magnesium, Panto,      Zinc,
     Copper,   Manganese, Selenium,   Thiamin,   Riboflavin, Niacin,    Cholesterol};
 static_assert(HoldEachNutrientOnce({Stored}));
+static_assert(std::size(Stored) == Schema::StoredAmounts, "the tables lack a column");
 
 /// Whether the aliases of the sums are the columns of the log in the order of `Stored`.
 constexpr bool SumsStandInOrder() {

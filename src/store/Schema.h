@@ -13,6 +13,9 @@ class Database;
 /// The tables, indexes and versions of both files.
 namespace Schema {
 inline constexpr int Version = 2;
+/// FOODS, USER_FOODS and Ingredients hold an amount at each position from 1 to this one. The next
+/// column is not an amount.
+inline constexpr int StoredAmounts = 31;
 inline constexpr int LastStockFood = 23508; ///< foods above this key are the user's own
 
 /// The statements from one version to the next. The first step creates a new file. A step never

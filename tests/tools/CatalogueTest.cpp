@@ -2,6 +2,7 @@
 #include "Release.h"
 #include "catalogue/CatalogueReport.h"
 #include "catalogue/FoodColumns.h"
+#include "model/Nutrients.h"
 #include "runtime/RuntimeError.h"
 #include "support/Places.h"
 
@@ -197,4 +198,11 @@ TEST(ShiftDecimal, MovesThePointAndLosesNoDigit) {
     for (const Case& one : cases)
         EXPECT_EQ(ShiftDecimal(QLatin1String(one.number), one.places), QLatin1String(one.moved))
             << one.number;
+}
+
+TEST(FoodColumns, HoldTheNutrientsInTheStoredOrder) {
+    const auto isSame = [](const FoodColumn& column, Nutrient id) {
+        return std::string_view(column.name) == Info(id).profileColumn;
+    };
+    EXPECT_TRUE(std::ranges::equal(FoodColumns(), StoredOrder(), isSame));
 }

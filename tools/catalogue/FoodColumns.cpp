@@ -1,5 +1,6 @@
 #include "catalogue/FoodColumns.h"
 
+#include "model/Nutrients.h"
 #include "runtime/RuntimeError.h"
 
 #include <QRegularExpression>
@@ -42,7 +43,7 @@ constexpr FoodColumn Columns[] = {
     {"Niacin", 24},
     {"Cholesterol", 46},
 };
-static_assert(std::size(Columns) == 31);
+static_assert(std::size(Columns) == NutrientCount, "the catalogue lacks a nutrient");
 
 bool IsDecimal(const QString& text) {
     static const QRegularExpression decimal(QStringLiteral("^(\\d+\\.?\\d*|\\.\\d+)$"));

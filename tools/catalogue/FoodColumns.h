@@ -14,7 +14,7 @@ struct FoodColumn {
     int decimalShift = 0; ///< power of ten between the release's unit and the column's
 };
 
-/// The 31 nutrient columns in the order of the table FOODS.
+/// A column for each nutrient, in the stored order.
 std::span<const FoodColumn> FoodColumns();
 
 /// The two layouts of the abbreviated file: later releases have two more fields for vitamin D,

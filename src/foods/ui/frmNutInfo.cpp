@@ -13,9 +13,10 @@
 
 #include <QPainter>
 
-namespace {
+#include <algorithm>
+#include <array>
 
-constexpr double CaloriesOfFatGram = 9;
+namespace {
 
 // The thin lines, in twips: one under each row of the two blocks.
 constexpr int LineLeft = 180;
@@ -65,7 +66,13 @@ constexpr Nutrient Others[] = {
     Nutrient::VitaminA,  Nutrient::VitaminB12, Nutrient::VitaminB6, Nutrient::VitaminC,
     Nutrient::VitaminE,  Nutrient::Water,      Nutrient::Zinc,
 };
-static_assert(1 + std::size(Headlines) + std::size(Others) == NutrientCount);
+
+constexpr auto NutrientsAbove = [] {
+    std::array<Nutrient, std::size(Headlines) + 1> nutrients{Nutrient::Calories};
+    std::ranges::transform(Headlines, nutrients.begin() + 1, &Headline::id);
+    return nutrients;
+}();
+static_assert(HoldEachNutrientOnce({NutrientsAbove, Others}));
 
 int Left() {
     return Twips::ToPixels(LineLeft);
@@ -201,7 +208,7 @@ void frmNutInfo::Fill(const ScaledFood& item) {
         amounts_[size_t(nutrient.id)]->setText(
             FormatNutrient(item.Amount(QString::fromLatin1(nutrient.logColumn))));
     lblFatCals_->setText(
-        FormatNutrient(item.Amount(QStringLiteral("TotalFat")) * CaloriesOfFatGram));
+        FormatNutrient(item.Amount(QStringLiteral("TotalFat")) * KcalPerGram::Fat));
     FillPercents(item);
     CapFatCalories();
 }
