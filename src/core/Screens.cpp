@@ -9,6 +9,7 @@
 #include "recipes/ui/frmRecipeManager.h"
 #include "runtime/ScreenTable.h"
 
+#include <algorithm>
 #include <iterator>
 
 namespace {
@@ -30,7 +31,13 @@ constexpr Registration Registrations[] = {
     {Screens::RecipeManager, Make<frmRecipeManager>},
     {Screens::Profile, Make<frmProfile>},
 };
-static_assert(std::size(Registrations) == std::size(Screens::All), "a screen has no class");
+
+constexpr bool HasClass(const ScreenRow* screen) {
+    return std::ranges::count(Registrations, screen,
+                              [](const Registration& row) { return &row.screen; }) == 1;
+}
+static_assert(std::ranges::all_of(Screens::All, HasClass), "a screen has no class");
+static_assert(std::size(Registrations) == std::size(Screens::All), "a screen is not in All");
 
 } // namespace
 
