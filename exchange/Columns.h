@@ -16,16 +16,16 @@ struct NutrientColumn {
 };
 
 inline constexpr int NutrientCount = 31;
-inline constexpr int FieldCount = 36;
+inline constexpr int FieldCount = NutrientCount + 5;
 
 /// Positions that mean more than a nutrient.
 enum Position {
     IDPosition = 0,
     CaloriesPosition = 12,
-    FoodNamePosition = 32,
-    ServingPosition = 33,
-    RecipeIDPosition = 34,
-    QuantityPosition = 35
+    FoodNamePosition = NutrientCount + 1,
+    ServingPosition,
+    RecipeIDPosition,
+    QuantityPosition
 };
 
 std::span<const NutrientColumn, NutrientCount> NutrientColumns();

@@ -44,3 +44,12 @@ TEST(LimitTableTest, ThePageHasNoRowThatIsNotOfTheTable) {
         std::count(table.begin(), table.end(), '\n') - 1; // without the two of the head
     EXPECT_EQ(static_cast<size_t>(rows), AllLimits().size());
 }
+
+TEST(LimitTableTest, TheDeliveredFileNamesEachSettingWithItsDefault) {
+    const auto file = ReadFile(std::string(HALVANE_SOURCE_DIR) + "/exchange/halvane-exchange.conf");
+    for (const auto& limit : SettableLimits()) {
+        const auto line =
+            "\n# " + std::string(limit.setting) + " = " + std::to_string(limit.Default()) + "\n";
+        EXPECT_NE(file.find(line), std::string::npos) << line;
+    }
+}
