@@ -43,3 +43,12 @@ TEST(NameOrder, AnEmptyNameStandsFirstAndNoNameIsLost) {
 TEST(NameOrder, OtherAlphabetsStandBehindTheLatinOne) {
     EXPECT_EQ(Sorted({"яблоко", "Борщ", "zucchini"}), QStringLiteral("zucchini|Борщ|яблоко"));
 }
+
+TEST(NameOrder, AccentsAndCapitalsTogetherFollowBothRules) {
+    EXPECT_EQ(Sorted({"ZÜRI", "zuri", "ZUG", "Zürcher", "zucchini"}),
+              QStringLiteral("zucchini|ZUG|zuri|Zürcher|ZÜRI"));
+}
+
+TEST(NameOrder, ALetterBeyondTheFirst65536IsRankedToo) {
+    EXPECT_EQ(Sorted({"pie", "apple", "🍏 soup"}), QStringLiteral("🍏 soup|apple|pie"));
+}
