@@ -15,6 +15,8 @@
 #include <QPainter>
 #include <QShowEvent>
 
+#include <algorithm>
+
 namespace {
 
 // Twips.
@@ -98,13 +100,15 @@ void ucLineChart::ShowLabels() {
     for (size_t i = 0; i < lblWeight_.size(); ++i)
         lblWeight_[i]->SetCaption(curve_.weights.empty() ? QString()
                                                          : QString::number(curve_.weights[i]));
-    for (AxisLabel* label : lblDate_)
-        label->hide();
-    for (const DateAxis::Label& date : curve_.dates) {
-        AxisLabel* label = lblDate_[size_t(date.index)];
-        label->SetCaption(Dates::ShortText(date.day));
-        label->SetPlace(WeightCurvePainting::DateLabelPlace(date.left, height()));
-        label->show();
+    for (size_t i = 0; i < lblDate_.size(); ++i) {
+        const auto date =
+            std::ranges::find(curve_.dates, static_cast<int>(i), &DateAxis::Label::index);
+        const bool isShown = date != curve_.dates.end();
+        if (isShown) {
+            lblDate_[i]->SetCaption(Dates::ShortText(date->day));
+            lblDate_[i]->SetPlace(WeightCurvePainting::DateLabelPlace(date->left, height()));
+        }
+        lblDate_[i]->setVisible(isShown);
     }
 }
 
