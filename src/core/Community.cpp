@@ -11,7 +11,7 @@ QString Community::InstallationID() {
     const QUuid stored = QUuid::fromString(GetRegValue(Settings::Installation));
     if (!stored.isNull())
         return stored.toString(QUuid::WithoutBraces);
-    const QString made = QUuid::createUuid().toString(QUuid::WithoutBraces);
+    QString made = QUuid::createUuid().toString(QUuid::WithoutBraces);
     SetRegValue(Settings::Installation, made);
     return made;
 }

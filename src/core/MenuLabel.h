@@ -19,7 +19,7 @@ public:
     bool Hilited() const { return hilited_; }
     void SetHilited(bool hilited);
     void SetOpen(bool open); ///< its panel is open
-    QSize sizeHint() const override;
+    QSize sizeHint() const final;
     QAccessible::Role AccessibleRole() const override;
 
 protected:

@@ -51,7 +51,7 @@ void MenuPanel::AddItem(int index) {
 
 void MenuPanel::Hilite(MenuLabel* item) {
     for (MenuLabel* other : std::as_const(items_))
-        other->SetHilited(other == item);
+        other->SetHilited(item && other == item);
 }
 
 MenuLabel* MenuPanel::Hilited() const {

@@ -19,7 +19,7 @@ public:
     explicit frmMain(QWidget* parent = nullptr);
 
     void DoWinInit() override;
-    void AllOff(const QString& name) override; ///< resets the calendar unless it is named
+    void AllOff(const QString& name) final; ///< resets the calendar unless it is named
 
 protected:
     void resizeEvent(QResizeEvent*) override;

@@ -33,7 +33,7 @@ public:
         QRect imgFoodIcon, lblFood, lblServ, lblQTY, imgTrash;
     };
     Layout layoutRects() const;
-    QSize sizeHint() const override;
+    QSize sizeHint() const final;
     QAccessible::Role AccessibleRole() const override { return QAccessible::ListItem; }
 
 Q_SIGNALS:

@@ -44,7 +44,7 @@ void ChartBar::paintEvent(QPaintEvent*) {
 }
 
 void ChartBar::Paint(QPainter& painter, const QRect& place, bool hilited) {
-    static const QImage picBarGraph_Bars_N = BarPicture(TheStyle().barNormal);
-    static const QImage picBarGraph_Bars_R = BarPicture(TheStyle().barHover);
-    painter.drawImage(place, hilited ? picBarGraph_Bars_R : picBarGraph_Bars_N);
+    static const QImage normal = BarPicture(TheStyle().barNormal);
+    static const QImage hover = BarPicture(TheStyle().barHover);
+    painter.drawImage(place, hilited ? hover : normal);
 }

@@ -26,7 +26,7 @@ QRgb Mixed(QRgb onto, QRgb over, int alpha) {
 } // namespace
 
 Pie::Pie(PieForm form)
-    : form_(std::move(form)) {
+    : form_(form) {
     SetNoDataCaptions();
 }
 

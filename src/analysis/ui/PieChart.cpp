@@ -18,7 +18,7 @@ int LegendWidth() {
 
 PieChart::PieChart(PieForm form, QWidget* parent)
     : QWidget(parent)
-    , picture_(new PiePicture(std::move(form), this)) {
+    , picture_(new PiePicture(form, this)) {
     picture_->setObjectName(QStringLiteral("picPIE"));
     AddSwatches();
     AddLabels();

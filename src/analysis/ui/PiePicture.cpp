@@ -4,7 +4,7 @@
 
 PiePicture::PiePicture(PieForm form, QWidget* parent)
     : QWidget(parent)
-    , pie_(std::move(form)) {
+    , pie_(form) {
     setFixedSize(pie_.Form().size);
     setAttribute(Qt::WA_OpaquePaintEvent);
     setAccessibleName(QStringLiteral("Caloric breakdown"));

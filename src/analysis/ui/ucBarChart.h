@@ -41,7 +41,7 @@ public:
     QString numFix(double& value) const;
     static double barWidth(qint32 days, double& value, double rdi); ///< in twips
 
-    QSize sizeHint() const override;
+    QSize sizeHint() const final;
 
 protected:
     void paintEvent(QPaintEvent*) override;

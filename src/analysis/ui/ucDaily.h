@@ -44,7 +44,7 @@ public:
 
     void Unhilite();
     void AllOff(const QString& name); ///< resets every hover look except the named button's
-    QSize sizeHint() const override;
+    QSize sizeHint() const final;
 
 protected:
     void paintEvent(QPaintEvent*) override;

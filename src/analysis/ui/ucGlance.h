@@ -16,7 +16,7 @@ public:
 
     /// If no food is logged, the pie says so and the average stays as it was.
     void UpdateGlance(QDate from, QDate to);
-    QSize sizeHint() const override;
+    QSize sizeHint() const final;
 
 protected:
     void resizeEvent(QResizeEvent*) override;

@@ -26,7 +26,7 @@ public:
     void ClearLabels();                        ///< of both axes
 
     const std::vector<PlotPoint>& Points() const { return curve_.points; }
-    QSize sizeHint() const override;
+    QSize sizeHint() const final;
 
 protected:
     void paintEvent(QPaintEvent*) override;

@@ -16,7 +16,7 @@ public:
     QColor ForeColor() const;
     bool Lit() const { return lit_; }
     void SetLit(bool lit);
-    QSize sizeHint() const override;
+    QSize sizeHint() const final;
     QAccessible::Role AccessibleRole() const override { return QAccessible::Button; }
 
 protected:
