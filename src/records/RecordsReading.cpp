@@ -9,20 +9,26 @@
 #include "store/LeftJournal.h"
 #include "store/Schema.h"
 
-#include <QFile>
+#include <QFileInfo>
 
 namespace {
+/// Also where the journal holds nothing for the file: the store cannot tell that without writing.
+bool HasJournal(const QString& path) {
+    return QFileInfo(path + QLatin1String("-journal")).size() > 0 ||
+           QFileInfo(path + QLatin1String("-wal")).size() > 0;
+}
+
 bool CanBeReadInPlace(const QString& path) {
-    return FileHeader::Of(path).SchemaVersion() == Schema::Version &&
-           !LeftJournal(path).ChangesTheFile();
+    return FileHeader::Of(path).SchemaVersion() == Schema::Version && !HasJournal(path);
 }
 
 /// What a killed program left is taken into the copy, not into the file.
 void Copy(const QString& from, const QString& to, bool inUse) {
-    const LeftJournal journal(from);
-    if (inUse || !journal.ChangesTheFile())
+    if (inUse || !HasJournal(from))
         return DatabaseCopy::Make(from, to, DatabaseCopy::Sync::No);
-    journal.RequireFit();
+    const LeftJournal journal(from);
+    if (journal.ChangesTheFile())
+        journal.RequireFit();
     DatabaseCopy::Make(journal.Result(), to, DatabaseCopy::Sync::No);
 }
 

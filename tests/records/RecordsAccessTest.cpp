@@ -88,3 +88,17 @@ TEST_F(RecordsAccessTest, NothingIsChangedWhileTheRecordsAreOpenElsewhere) {
     EXPECT_EQ(FailureOf([&] { const RecordsChange change(Records()); }), ErrorNumber::RecordsInUse);
     EXPECT_EQ(UserDB().state(), Connection::Closed);
 }
+
+/// The store takes it for one that must be rolled back, which a reader cannot do.
+TEST_F(RecordsAccessTest, AJournalThatHoldsNothingForTheFileKeepsNobodyFromReading) {
+    QFile journal(Records().Users() + "-journal");
+    ASSERT_TRUE(journal.open(QIODevice::WriteOnly));
+    journal.write(QByteArray::fromHex("d9d505f920a163d700000000") + QByteArray(500, '\1'));
+    journal.close();
+    const QByteArray before = Users();
+    const QStringList files = Files();
+    const RecordsReading records(Records());
+    EXPECT_EQ(Weights(), 0);
+    EXPECT_EQ(Users(), before);
+    EXPECT_EQ(Files(), files);
+}
