@@ -11,11 +11,14 @@ class App;
 namespace Commands {
 void AddCopyDay(CLI::App& program, Session& session);
 void AddCopyMeal(CLI::App& program, Session& session);
+void AddExport(CLI::App& program, Session& session);
+void AddImport(CLI::App& program, Session& session);
 void AddLog(CLI::App& program, Session& session);
 void AddSearch(CLI::App& program, Session& session);
 void AddShow(CLI::App& program, Session& session);
 void AddWeigh(CLI::App& program, Session& session);
 
 inline constexpr void (*All[])(CLI::App& program, Session& session) = {
-    AddCopyDay, AddCopyMeal, AddLog, AddSearch, AddShow, AddWeigh};
+    AddCopyDay, AddCopyMeal, AddExport, AddImport, AddLog, AddSearch, AddShow, AddWeigh,
+};
 } // namespace Commands

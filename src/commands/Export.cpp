@@ -1,0 +1,79 @@
+#include "commands/Commands.h"
+#include "commands/OutputFile.h"
+#include "commands/Progress.h"
+#include "commands/SectionNames.h"
+#include "commands/Session.h"
+#include "records/document/DocumentFormat.h"
+#include "records/document/RecordsDocument.h"
+#include "runtime/RuntimeError.h"
+
+#include <QDir>
+#include <QFile>
+#include <QJsonObject>
+
+#include <CLI/CLI.hpp>
+
+namespace {
+/// A mistyped name must not cost a file that is something else.
+void RequireNoOtherFile(const QString& path) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly) || file.size() == 0)
+        return;
+    const QByteArray begin = QByteArray("{\"format\":\"") + DocumentFormat::Name + '"';
+    if (file.read(begin.size()) != begin)
+        throw RuntimeError(ErrorNumber::FileAccess,
+                           "The file " + QDir::toNativeSeparators(path) +
+                               " is there already and is not an export. Choose another name.");
+}
+
+std::map<std::string, int> ExportTo(const Session& session, const DocumentWriter::Sink& sink) {
+    Progress progress(session, QStringLiteral("Exporting"));
+    return RecordsDocument::Export(session.Records(), sink,
+                                   [&](qint64 done, qint64 total) { progress.Step(done, total); });
+}
+
+void Print(const Session& session, const QString& path, const std::map<std::string, int>& counts) {
+    QJsonObject rows;
+    QStringList parts;
+    for (const auto& [section, count] : counts) {
+        rows[QString::fromStdString(section)] = count;
+        if (count > 0)
+            parts << SectionNames::Counted(section, count);
+    }
+    if (session.json)
+        return session.Print(QJsonObject{{"file", path}, {"exported", rows}});
+    session.Print("Exported to " + path + ": " +
+                  (parts.isEmpty() ? QStringLiteral("no records") : parts.join(", ")) + u'.');
+}
+
+int ExportToFile(const Session& session, const QString& path) {
+    RequireNoOtherFile(path);
+    OutputFile file(path.toStdString());
+    const auto counts = ExportTo(session, [&](std::string_view piece) { file.Write(piece); });
+    file.Keep();
+    Print(session, path, counts);
+    return Done;
+}
+
+int ExportToOutput(const Session& session) {
+    ExportTo(session, [&](std::string_view piece) { session.Out() << piece; });
+    if (!session.Out().flush())
+        throw RuntimeError(ErrorNumber::FileAccess,
+                           QStringLiteral("Standard output cannot be written."));
+    return Done;
+}
+} // namespace
+
+void Commands::AddExport(CLI::App& program, Session& session) {
+    CLI::App* command = program.add_subcommand("export", "Writes all records to one file");
+    const auto file = std::make_shared<std::string>();
+    command->add_option("FILE", *file, "The file to make; - for standard output")->required();
+    command->footer("The file holds profiles, own foods, recipes, log, weights and settings.\n"
+                    "Example: halvane-data export my-records.json");
+    command->callback([&session, file] {
+        session.Do([&session, file] {
+            return *file == "-" ? ExportToOutput(session)
+                                : ExportToFile(session, QString::fromStdString(*file));
+        });
+    });
+}

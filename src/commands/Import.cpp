@@ -1,0 +1,79 @@
+#include "commands/Commands.h"
+#include "commands/Progress.h"
+#include "commands/SectionNames.h"
+#include "commands/Session.h"
+#include "records/document/RecordsDocument.h"
+
+#include <QJsonArray>
+#include <QJsonObject>
+
+#include <CLI/CLI.hpp>
+
+namespace {
+struct Options {
+    std::vector<std::string> files;
+    RecordsDocument::ImportOptions document;
+};
+
+QJsonArray Sentences(const std::vector<QString>& sentences) {
+    QJsonArray all;
+    for (const QString& sentence : sentences)
+        all.append(sentence);
+    return all;
+}
+
+QJsonObject Facts(const ImportReport& report, bool dryRun) {
+    QJsonObject added;
+    QJsonObject there;
+    for (const auto& [section, count] : report.counts) {
+        added[QString::fromStdString(section)] = count.added;
+        there[QString::fromStdString(section)] = count.there;
+    }
+    return {{"added", added},
+            {"alreadyThere", there},
+            {"kept", Sentences(report.kept)},
+            {"refused", Sentences(report.refused)},
+            {"settingsTaken", report.settings},
+            {"dryRun", dryRun}};
+}
+
+void Print(const Session& session, const ImportReport& report, bool dryRun) {
+    for (const auto& [section, count] : report.counts)
+        if (count.added + count.there > 0)
+            session.Print(SectionNames::Counted(section, count.added) +
+                          QLatin1String(dryRun ? " would be added, " : " added, ") +
+                          QString::number(count.there) + " there already");
+    for (const auto* sentences : {&report.kept, &report.refused})
+        for (const QString& sentence : *sentences)
+            session.Print(sentence);
+    if (report.settings)
+        session.Print(QLatin1String(dryRun ? "The settings would be those of the file."
+                                           : "The settings are now those of the file."));
+}
+
+int ImportDocument(const Session& session, const Options& options) {
+    Progress progress(session, QStringLiteral("Importing"));
+    const ImportReport report = RecordsDocument::Import(
+        session.Records(), QString::fromStdString(options.files.front()), options.document,
+        [&](qint64 done, qint64 total) { progress.Step(done, total); });
+    const bool dryRun = options.document.dryRun;
+    session.json ? session.Print(Facts(report, dryRun)) : Print(session, report, dryRun);
+    return report.kept.empty() && report.refused.empty() ? Done : Found;
+}
+} // namespace
+
+void Commands::AddImport(CLI::App& program, Session& session) {
+    CLI::App* command = program.add_subcommand("import", "Takes records in from a file");
+    const auto options = std::make_shared<Options>();
+    command->add_option("FILE", options->files, "A file that export has made")->required();
+    command->add_flag("--settings", options->document.settings,
+                      "Take the settings of the file, too; without profiles here they are taken "
+                      "in any case");
+    command->add_flag("--dry-run", options->document.dryRun,
+                      "Tell what would happen, and change nothing");
+    command->footer("What is there already is not added again, and never changes.\n"
+                    "Example: halvane-data import my-records.json");
+    command->callback([&session, options] {
+        session.Do([&session, options] { return ImportDocument(session, *options); });
+    });
+}
