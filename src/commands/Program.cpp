@@ -1,6 +1,8 @@
 #include "commands/Program.h"
 
 #include "commands/Commands.h"
+#include "commands/Completion.h"
+#include "commands/ManPage.h"
 #include "commands/Session.h"
 
 #include <CLI/CLI.hpp>
@@ -21,6 +23,21 @@ void AddSharedOptions(CLI::App& program, Session& session) {
                        "The name or key of a person; otherwise the first one");
     program.add_flag("--json", session.json, "Print facts as JSON");
 }
+/// For the build, which makes the man page and the completions of the shells.
+void AddHiddenOptions(CLI::App& program, std::ostream& out) {
+    const auto print = [&program, &out](const char* name, auto text) {
+        program
+            .add_flag_callback(name,
+                               [&program, &out, text] {
+                                   out << text(CommandOutline::Of(program));
+                                   throw CLI::Success();
+                               })
+            ->group("");
+    };
+    print("--print-man", ManPage::Of);
+    print("--print-bash", Completion::ForBash);
+    print("--print-zsh", Completion::ForZsh);
+}
 } // namespace
 
 int RunCommand(const QStringList& arguments, std::ostream& out, std::ostream& error) {
@@ -29,9 +46,13 @@ int RunCommand(const QStringList& arguments, std::ostream& out, std::ostream& er
                      "halvane-data");
     program.require_subcommand(1);
     program.fallthrough();
+    program.footer(
+        "Ends with 0: done; 1: a check found something, or some rows were refused; 2: wrong use; "
+        "3: failed, and nothing was changed.");
     AddSharedOptions(program, session);
     for (const auto add : Commands::All)
         add(program, session);
+    AddHiddenOptions(program, out);
     try {
         program.parse(Reversed(arguments));
     } catch (const CLI::ParseError& wrong) {

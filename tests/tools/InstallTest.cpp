@@ -46,9 +46,13 @@ TEST_F(InstallTest, EverythingStandsBesideTheProgram) {
     Install();
     const QStringList files = Files();
     for (const char* name :
-         {"halvane", "users.mdb", "foods.mdb", "tips.txt", "agreement.txt", "licences.txt"})
+         {"halvane", "halvane-data", "users.mdb", "foods.mdb", "tips.txt", "agreement.txt",
+          "licences.txt", "records-format.schema.json"})
         EXPECT_TRUE(files.contains(QLatin1String(name))) << name;
-    EXPECT_TRUE(QFileInfo(folder_.filePath(QStringLiteral("halvane"))).isExecutable());
+    for (const char* program : {"halvane", "halvane-data"})
+        EXPECT_TRUE(QFileInfo(folder_.filePath(QLatin1String(program))).isExecutable()) << program;
+    for (const char* text : {"halvane-data.1", "halvane-data.bash", "_halvane-data"})
+        EXPECT_TRUE(QFileInfo(folder_.filePath(QLatin1String("shell/") + text)).isFile()) << text;
     EXPECT_TRUE(QFileInfo(folder_.filePath(QStringLiteral("help/index.html"))).isFile());
     for (const char* font : {"Inter-Regular.otf", "Inter-Medium.otf", "Inter-SemiBold.otf",
                              "Inter-Bold.otf", "OFL.txt"})

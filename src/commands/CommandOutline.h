@@ -1,0 +1,30 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace CLI {
+class App;
+}
+
+/// An option, or an argument without a name.
+struct OptionOutline {
+    std::string name;  ///< "--folder", or "FILE" of an argument
+    std::string brief; ///< "-f"; empty where there is none
+    std::string value; ///< what stands behind it: "TEXT"; empty for a flag
+    std::string description;
+    std::vector<std::string> choices; ///< all values that it takes; empty for any
+
+    bool IsArgument() const { return name.front() != '-'; }
+};
+
+/// A command as its help shows it, or the program itself. What is made from it says the same.
+struct CommandOutline {
+    std::string name; ///< "foods import"; empty for the program itself
+    std::string description;
+    std::string footer;
+    std::vector<OptionOutline> options; ///< arguments first
+
+    /// The program first, then each command, in the order of the help. Hidden options are left out.
+    static std::vector<CommandOutline> Of(const CLI::App& program);
+};
