@@ -4,6 +4,7 @@
 #include "commands/SectionNames.h"
 #include "commands/Session.h"
 #include "records/document/DocumentFormat.h"
+#include "records/document/DocumentSection.h"
 #include "records/document/RecordsDocument.h"
 #include "runtime/RuntimeError.h"
 
@@ -35,10 +36,11 @@ std::map<std::string, int> ExportTo(const Session& session, const DocumentWriter
 void Print(const Session& session, const QString& path, const std::map<std::string, int>& counts) {
     QJsonObject rows;
     QStringList parts;
-    for (const auto& [section, count] : counts) {
-        rows[QString::fromStdString(section)] = count;
+    for (const DocumentSection* section : DocumentSections::Lists()) {
+        const int count = counts.at(section->name);
+        rows[QLatin1String(section->name)] = count;
         if (count > 0)
-            parts << SectionNames::Counted(section, count);
+            parts << SectionNames::Counted(section->name, count);
     }
     if (session.json)
         return session.Print(QJsonObject{{"file", path}, {"exported", rows}});

@@ -2,6 +2,7 @@
 #include "commands/Progress.h"
 #include "commands/SectionNames.h"
 #include "commands/Session.h"
+#include "records/document/DocumentSection.h"
 #include "records/document/RecordsDocument.h"
 
 #include <QJsonArray>
@@ -25,9 +26,10 @@ QJsonArray Sentences(const std::vector<QString>& sentences) {
 QJsonObject Facts(const ImportReport& report, bool dryRun) {
     QJsonObject added;
     QJsonObject there;
-    for (const auto& [section, count] : report.counts) {
-        added[QString::fromStdString(section)] = count.added;
-        there[QString::fromStdString(section)] = count.there;
+    for (const DocumentSection* section : DocumentSections::Lists()) {
+        const ImportReport::Count count = report.CountOf(section->name);
+        added[QLatin1String(section->name)] = count.added;
+        there[QLatin1String(section->name)] = count.there;
     }
     return {{"added", added},
             {"alreadyThere", there},
@@ -38,11 +40,13 @@ QJsonObject Facts(const ImportReport& report, bool dryRun) {
 }
 
 void Print(const Session& session, const ImportReport& report, bool dryRun) {
-    for (const auto& [section, count] : report.counts)
+    for (const DocumentSection* section : DocumentSections::Lists()) {
+        const ImportReport::Count count = report.CountOf(section->name);
         if (count.added + count.there > 0)
-            session.Print(SectionNames::Counted(section, count.added) +
+            session.Print(SectionNames::Counted(section->name, count.added) +
                           QLatin1String(dryRun ? " would be added, " : " added, ") +
                           QString::number(count.there) + " there already");
+    }
     for (const auto* sentences : {&report.kept, &report.refused})
         for (const QString& sentence : *sentences)
             session.Print(sentence);

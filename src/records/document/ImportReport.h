@@ -13,7 +13,11 @@ struct ImportReport {
         int there = 0; ///< equal rows were there already
     };
     std::map<std::string, Count> counts; ///< by the name of the section
-    std::vector<QString> kept;           ///< a sentence for each row that is there with other data
-    std::vector<QString> refused;        ///< a sentence for each row that nobody could find again
-    bool settings = false;               ///< the settings of the document were taken
+    Count CountOf(const std::string& section) const {
+        const auto found = counts.find(section);
+        return found == counts.end() ? Count() : found->second;
+    }
+    std::vector<QString> kept;    ///< a sentence for each row that is there with other data
+    std::vector<QString> refused; ///< a sentence for each row that nobody could find again
+    bool settings = false;        ///< the settings of the document were taken
 };
