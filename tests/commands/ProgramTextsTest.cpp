@@ -8,7 +8,6 @@
 
 #include <QFile>
 #include <QProcess>
-#include <QStandardPaths>
 
 #include <sstream>
 
@@ -30,10 +29,6 @@ protected:
             add(program, session);
         return CommandOutline::Of(program);
     }
-    /// Null if the machine has no such program.
-    static QString Program(const char* name) {
-        return QStandardPaths::findExecutable(QLatin1String(name));
-    }
     static QByteArray Output(const QString& program, const QStringList& arguments, int code = 0) {
         QProcess process;
         process.start(program, arguments);
@@ -51,6 +46,16 @@ protected:
                                  "printf '%s\\n' \"${COMPREPLY[@]}\""})
             .trimmed()
             .split('\n');
+    }
+    /// What zsh offers behind these words, a line an offer.
+    static QByteArray OfferedByZsh(const QString& words) {
+        const QString script = Places::Build(QStringLiteral("/delivered/_halvane-data"));
+        return Output(QStringLiteral("zsh"),
+                      {"-f", "-c",
+                       "_files() { print files }; compadd() { print -- $@ };"
+                       "_describe() { for offer in ${(P)2}; print -- $2 $offer };"
+                       "words=(" +
+                           words + "); CURRENT=$#words; source " + script});
     }
 };
 
@@ -74,10 +79,8 @@ TEST_F(ProgramTextsTest, EachHoldsEveryCommandAndOption) {
 }
 
 TEST_F(ProgramTextsTest, ManShowsThePageWithoutAComplaint) {
-    if (Program("man").isEmpty())
-        GTEST_SKIP() << "this machine has no man";
-    const QByteArray page =
-        Output(Program("man"), {"--warnings", "-l", Places::Build("/delivered/halvane-data.1")});
+    const QByteArray page = Output(
+        QStringLiteral("man"), {"--warnings", "-l", Places::Build("/delivered/halvane-data.1")});
     for (const char* text :
          {"NAME", "halvane-data - ", "search WORDS", "EXIT STATUS", "--folder TEXT"})
         EXPECT_TRUE(page.contains(text)) << text << page.constData();
@@ -92,19 +95,21 @@ TEST_F(ProgramTextsTest, BashOffersCommandsOptionsAndNothingTwice) {
     EXPECT_EQ(Offered("halvane-data export --folder ''"), QByteArrayList{""});
 }
 
-TEST_F(ProgramTextsTest, TheShellsTakeTheirScripts) {
-    Output(QStringLiteral("/bin/bash"), {"-n", Places::Build("/delivered/halvane-data.bash")});
-    if (const QString zsh = Program("zsh"); !zsh.isEmpty())
-        Output(zsh, {"-n", Places::Build("/delivered/_halvane-data")});
+TEST_F(ProgramTextsTest, ZshOffersTheSameWithWhatItMeans) {
+    EXPECT_TRUE(OfferedByZsh("halvane-data ''").contains("commands search:Finds foods"));
+    EXPECT_TRUE(OfferedByZsh("halvane-data import ''").contains("options --dry-run:Tell what"));
+    EXPECT_FALSE(OfferedByZsh("halvane-data search ''").contains("--dry-run"));
+    EXPECT_EQ(OfferedByZsh("halvane-data log --serving ''"), "A B\n");
+    EXPECT_EQ(OfferedByZsh("halvane-data export --folder ''"), "files\n");
 }
 
-TEST_F(ProgramTextsTest, EveryCommandShowsAnExample) {
+TEST_F(ProgramTextsTest, EveryCommandShowsAnExampleOfItself) {
     const auto outline = Outline();
     for (size_t i = 1; i < outline.size(); ++i) {
-        const bool hasCommands =
-            i + 1 < outline.size() && outline[i + 1].name.starts_with(outline[i].name + ' ');
-        EXPECT_TRUE(hasCommands || outline[i].footer.find("Example: halvane-data " +
-                                                          outline[i].name) != std::string::npos)
+        const size_t example = outline[i].footer.find("Example");
+        ASSERT_NE(example, std::string::npos) << outline[i].name;
+        EXPECT_NE(outline[i].footer.find("halvane-data " + outline[i].name, example),
+                  std::string::npos)
             << outline[i].name;
     }
 }

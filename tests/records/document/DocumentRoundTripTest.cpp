@@ -8,7 +8,7 @@
 #include <SQLiteCpp/SQLiteCpp.h>
 
 namespace {
-constexpr int OrdinaryFolders = 40;
+constexpr int OrdinaryFolders = 25;
 constexpr unsigned Seed = 20261122;
 
 /// The environment variable HALVANE_FOLDERS asks for more folders than an ordinary run.
