@@ -33,9 +33,9 @@ void ElidedLabel::SetLook(const QList<QFont>& fonts, const QColor& ink) {
 void ElidedLabel::Print(QPainter& painter, const QRect& place, const QString& text,
                         const QFont& font, const QColor& ink) {
     const QFontMetrics metrics(SmoothedFont(font));
+    const int top = place.y() + (place.height() - metrics.height()) / 2;
     painter.setPen(ink);
-    SmoothedPrint(painter, QPointF(place.x(), place.y() + (place.height() - metrics.height()) / 2),
-                  FittingText(text, font, place.width()), font);
+    SmoothedPrint(painter, QPointF(place.x(), top), FittingText(text, font, place.width()), font);
 }
 
 bool ElidedLabel::Fits(const QFont& font) const {
