@@ -6,7 +6,6 @@
 #include "store/Connection.h"
 #include "toolkit/MousePointer.h"
 
-#include <QMessageBox>
 #include <QTimer>
 
 #include <new>
@@ -37,32 +36,19 @@ void Raise(const std::function<void()>& fail) {
 
 class ApplicationTest : public CoreTest {
 protected:
-    /// The text of the message for the failure.
-    QString MessageOf(const std::function<void()>& fail) {
-        QString text;
-        testing::internal::CaptureStderr();
-        WithModal(
-            [&](QWidget* window) {
-                auto* box = qobject_cast<QMessageBox*>(window);
-                ASSERT_NE(box, nullptr);
-                text = box->text();
-                EXPECT_EQ(box->textFormat(), Qt::PlainText);
-                box->accept();
-            },
-            [&] { Raise(fail); });
-        line_ = QString::fromStdString(testing::internal::GetCapturedStderr());
-        return text;
+    QString MessageOfFailure(const std::function<void()>& fail) {
+        return MessageOf([&] { Raise(fail); });
     }
-    QString line_;
 };
 
 TEST_F(ApplicationTest, AnUnhandledFailureSaysWhatFailedWithItsNumberAndEndsTheProcess) {
-    const QString text = MessageOf([] { throw RuntimeError(13, QStringLiteral("Type mismatch")); });
+    const QString text =
+        MessageOfFailure([] { throw RuntimeError(13, QStringLiteral("Type mismatch")); });
     EXPECT_TRUE(text.contains(QStringLiteral("Type mismatch")));
     EXPECT_TRUE(text.contains(QStringLiteral("enter a plain number")));
     EXPECT_TRUE(text.endsWith(QStringLiteral("Error 13")));
     EXPECT_EQ(endings, QList<int>{1});
-    EXPECT_TRUE(line_.startsWith(QStringLiteral("halvane: Type mismatch (13)\n")));
+    EXPECT_TRUE(stderrText.startsWith(QStringLiteral("halvane: Type mismatch (13)\n")));
 }
 
 TEST_F(ApplicationTest, EachKindOfFailureSaysWhatThePersonCanDo) {
@@ -78,7 +64,7 @@ TEST_F(ApplicationTest, EachKindOfFailureSaysWhatThePersonCanDo) {
 }
 
 TEST_F(ApplicationTest, RunningOutOfMemoryTakesTheSamePath) {
-    const QString text = MessageOf([] { throw std::bad_alloc(); });
+    const QString text = MessageOfFailure([] { throw std::bad_alloc(); });
     EXPECT_TRUE(text.contains(QStringLiteral("out of memory")));
     EXPECT_TRUE(text.endsWith(QStringLiteral("Error 7")));
     EXPECT_EQ(endings, QList<int>{1});
@@ -113,7 +99,7 @@ TEST_F(ApplicationTest, TheBusyPointerDoesNotStayOverTheMessage) {
 TEST_F(ApplicationTest, WhatWasCommittedBeforeAFailureStays) {
     OpenDatabases();
     const qint32 uid = AddUser(QStringLiteral("Anna"));
-    MessageOf([this] {
+    MessageOfFailure([this] {
         Users(QStringLiteral("INSERT INTO USER_WEIGHTS (UID, UDate, Weight) "
                              "VALUES (1, '2026-11-21', 150)"));
         throw RuntimeError(-1, QStringLiteral("syntax error"));

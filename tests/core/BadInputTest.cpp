@@ -15,8 +15,6 @@
 
 #include <QFile>
 #include <QLineEdit>
-#include <QMessageBox>
-#include <QScreen>
 #include <QTest>
 
 #include <SQLiteCpp/SQLiteCpp.h>
@@ -75,24 +73,6 @@ protected:
                      [](QWidget* profile) { Click(Find(profile, QStringLiteral("cmdSave"))); });
         Activate(TheNavigation().Frame());
     }
-    /// The message that ends the program after Save.
-    QString MessageOfSaving(QWidget* profile) {
-        QString text;
-        testing::internal::CaptureStderr();
-        WithModal(
-            [&](QWidget* window) {
-                auto* box = qobject_cast<QMessageBox*>(window);
-                ASSERT_NE(box, nullptr);
-                text = box->text();
-                const QSize room = box->screen()->availableSize();
-                EXPECT_LE(box->width(), room.width());
-                EXPECT_LE(box->height(), room.height());
-                box->accept();
-            },
-            [&] { Click(Find(profile, QStringLiteral("cmdSave"))); });
-        testing::internal::GetCapturedStderr();
-        return text;
-    }
     void ShowDay() { Click(Find(TheNavigation().Frame(), QStringLiteral("cmdDay"))); }
     void WeighIn(const char* pounds) {
         ShowDay();
@@ -142,7 +122,7 @@ TEST_P(FailingFirstProfile, SaysWhyEndsTheProcessAndTheNextStartBeginsAfresh) {
     ExpectAlert(QStringLiteral("You must create a user profile to use Halvane. Are you sure you "
                                "wish to quit without creating your profile?"));
     FirstProfile({{QLatin1String(field), text}}, [&](QWidget* profile) {
-        const QString message = MessageOfSaving(profile);
+        const QString message = MessageOf([&] { Click(Find(profile, QStringLiteral("cmdSave"))); });
         EXPECT_TRUE(message.endsWith(QStringLiteral("Error %1").arg(number)))
             << message.right(200).toStdString();
         EXPECT_EQ(endings, QList<int>{1});

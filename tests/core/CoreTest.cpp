@@ -13,6 +13,8 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QMessageBox>
+#include <QScreen>
 #include <QTest>
 #include <QTimer>
 
@@ -127,6 +129,24 @@ int CoreTest::RunMain() {
     const int exitCode = Flow::Main(instance);
     stderrText = QString::fromStdString(testing::internal::GetCapturedStderr());
     return exitCode;
+}
+
+QString CoreTest::MessageOf(const std::function<void()>& step) {
+    QString text;
+    const auto accept = [&](QWidget* window) {
+        auto* box = qobject_cast<QMessageBox*>(window);
+        ASSERT_NE(box, nullptr);
+        text = box->text();
+        EXPECT_EQ(box->textFormat(), Qt::PlainText);
+        const QSize room = box->screen()->availableSize();
+        EXPECT_LE(box->width(), room.width());
+        EXPECT_LE(box->height(), room.height());
+        box->accept();
+    };
+    testing::internal::CaptureStderr();
+    WithModal(accept, step);
+    stderrText = QString::fromStdString(testing::internal::GetCapturedStderr());
+    return text;
 }
 
 void CoreTest::ChooseFromMenu(int index) {

@@ -44,6 +44,9 @@ protected:
     /// the splash is clicked away and the agreement accepted.
     int RunMain();
 
+    /// Runs a step that fails, accepts the message that ends the program, and returns its text.
+    QString MessageOf(const std::function<void()>& step);
+
     static void ChooseFromMenu(int index); ///< the item of the frame's menu bar
 
     QWidget* Window(const QString& name);  ///< the open top-level window of that name, or null
@@ -52,5 +55,5 @@ protected:
 
     QStringList modals; ///< names of the modal windows during RunMain
     QHash<QString, std::function<void(QWidget*)>> answers;
-    QString stderrText; ///< what RunMain wrote to standard error
+    QString stderrText; ///< what RunMain or MessageOf wrote to standard error
 };
