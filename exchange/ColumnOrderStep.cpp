@@ -62,8 +62,8 @@ constexpr const char* Fill[] = {
     " Phosphorus, Iron, Sodium, Magnesium, Panto, Zinc, Copper, Manganese, Selenium,"
     " Thiamin, Riboflavin, Niacin, Cholesterol, FoodName,"
     " Serving, RecipeID, QTY FROM old_ingredients",
-    "INSERT INTO listing SELECT ListedAt, RecipeID, RecipeName, ServingName, PrepTime, Calories"
-    " FROM old_listing",
+    ("INSERT INTO listing SELECT ListedAt, RecipeID, RecipeName, ServingName, PrepTime, Calories"
+     " FROM old_listing"),
 };
 
 constexpr const char* Drop[] = {

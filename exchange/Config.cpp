@@ -97,6 +97,10 @@ struct Assign {
     }
 };
 
+[[noreturn]] void RefuseLine(const std::string& line, const std::string& file) {
+    throw ConfigError("no \"=\" in the line \"" + line + "\" of " + file);
+}
+
 void CheckProxies(const Config& config) {
     for (const auto& proxy : config.trusted_proxies)
         if (!Network::Read(proxy))
@@ -144,7 +148,7 @@ void Config::ReadFile(const std::string& name) {
             continue;
         const auto equals = line.find('=');
         if (equals == std::string::npos)
-            throw ConfigError("no \"=\" in the line \"" + line + "\" of " + name);
+            RefuseLine(line, name);
         Set(Trimmed(line.substr(0, equals)), Trimmed(line.substr(equals + 1)));
     }
     if (file.bad())

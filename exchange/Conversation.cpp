@@ -19,8 +19,8 @@ using std::chrono::milliseconds;
 using std::chrono::seconds;
 
 constexpr asio::use_awaitable_t<Front::Executor> Await;
-constexpr size_t HeadPortion = 4 * 1024;
-constexpr size_t BodyPortion = 16 * 1024;
+constexpr size_t HeadPortion = size_t{4} * 1024;
+constexpr size_t BodyPortion = size_t{16} * 1024;
 constexpr milliseconds ToFinish(2000);
 constexpr milliseconds ToBeTurnedAway(1000);
 constexpr milliseconds ToAnswer(25'000); ///< the program gives up after 30 seconds

@@ -11,7 +11,7 @@ namespace exchange {
 /// Nothing changes by a GET, as programs that test links make one.
 class Forms {
 public:
-    static constexpr size_t Largest = 16 * 1024; ///< a form that is filled in, in bytes
+    static constexpr size_t Largest = size_t{16} * 1024; ///< a form that is filled in, in bytes
 
     explicit Forms(const Service& service)
         : service_(service)

@@ -65,7 +65,7 @@ std::string Ingredients(const Recipe& recipe) {
 /// Relays refuse mails of several mebibytes.
 std::string Instructions(const Recipe& recipe) {
     constexpr size_t most = 100'000;
-    const auto text = ShownText::Lines(recipe.instructions.value_or(""));
+    auto text = ShownText::Lines(recipe.instructions.value_or(""));
     if (text.size() <= most)
         return text;
     return text.substr(0, WholeLetters(text, 0, most)) +

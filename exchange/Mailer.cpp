@@ -42,6 +42,18 @@ bool IsFinal(CURL* curl, CURLcode result) {
 std::string Greeting(const std::string& address) {
     return address.substr(address.find('@') + 1);
 }
+
+std::string RelayURL(const Config& config) {
+    const bool hasPath = config.mail_relay.find('/', 8) != std::string::npos;
+    return hasPath ? config.mail_relay : config.mail_relay + "/" + Greeting(config.mail_from);
+}
+
+void LogIn(CURL* curl, const Config& config) {
+    if (config.mail_user.empty())
+        return;
+    curl_easy_setopt(curl, CURLOPT_USERNAME, config.mail_user.c_str());
+    curl_easy_setopt(curl, CURLOPT_PASSWORD, config.mail_password.c_str());
+}
 } // namespace
 
 Mailer::Mailer(const Config& config)
@@ -62,10 +74,7 @@ Mailer::Result Mailer::Send(const std::string& to, const std::string& mail,
     const auto set = [&](CURLoption option, auto value) {
         curl_easy_setopt(curl.get(), option, value);
     };
-    const auto url = config_.mail_relay + (config_.mail_relay.find('/', 8) == std::string::npos
-                                               ? "/" + Greeting(config_.mail_from)
-                                               : "");
-    set(CURLOPT_URL, url.c_str());
+    set(CURLOPT_URL, RelayURL(config_).c_str());
     set(CURLOPT_PROTOCOLS_STR, "smtp,smtps");
     set(CURLOPT_USE_SSL, Tls(config_.mail_tls));
     set(CURLOPT_TIMEOUT, long{config_.mail_seconds});
@@ -78,10 +87,7 @@ Mailer::Result Mailer::Send(const std::string& to, const std::string& mail,
     set(CURLOPT_READFUNCTION, Feed);
     set(CURLOPT_READDATA, static_cast<void*>(&rest));
     set(CURLOPT_UPLOAD, 1L);
-    if (!config_.mail_user.empty()) {
-        set(CURLOPT_USERNAME, config_.mail_user.c_str());
-        set(CURLOPT_PASSWORD, config_.mail_password.c_str());
-    }
+    LogIn(curl.get(), config_);
     const auto result = curl_easy_perform(curl.get());
     if (result == CURLE_OK)
         return Result::Taken;

@@ -94,7 +94,7 @@ public:
             return;
         for (const auto& field : Fields)
             if (field.name == name_)
-                field.take(std::move(value), recipe, field.name);
+                return field.take(std::move(value), recipe, field.name);
     }
 
 private:
@@ -233,7 +233,7 @@ private:
     void AddBeside(JsonValue&& value) {
         if (key_ == "fields" && fields_->size() <= FieldCount)
             fields_->push_back(std::move(value));
-        if (key_ == "quantities" && quantities_ && quantities_->size() <= most_)
+        else if (key_ == "quantities" && quantities_ && quantities_->size() <= most_)
             quantities_->push_back(std::move(value));
     }
 

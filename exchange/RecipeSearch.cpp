@@ -39,10 +39,13 @@ long long RowOf(long long place) {
 
 /// All of the words, in the language of the database. They hold letters and digits only.
 std::string Query(const std::vector<std::string>& words, bool embedded) {
-    const std::string quote = embedded ? "\"" : "'";
+    const char quote = embedded ? '"' : '\'';
     std::string query;
-    for (const auto& word : words)
-        query.append(query.empty() ? "" : embedded ? " AND " : " & ").append(quote + word + quote);
+    for (const auto& word : words) {
+        if (!query.empty())
+            query += embedded ? " AND " : " & ";
+        query.append(1, quote).append(word).append(1, quote);
+    }
     return query;
 }
 } // namespace

@@ -9,8 +9,8 @@ namespace exchange {
 /// What the head of a request says. Strict: whatever leaves two opinions about where the request
 /// ends is refused.
 struct RequestHead {
-    static constexpr size_t Largest = 16 * 1024;
-    static constexpr size_t LongestTarget = 8 * 1024;
+    static constexpr size_t Largest = size_t{16} * 1024;
+    static constexpr size_t LongestTarget = size_t{8} * 1024;
 
     Request request; ///< without body and peer; of a refused one as much as was understood
     std::uint64_t bodyLength = 0;
