@@ -1,7 +1,7 @@
 #include "catalogue/Catalogue.h"
 #include "Release.h"
 #include "catalogue/CatalogueReport.h"
-#include "catalogue/FoodColumns.h"
+#include "foods/release/FoodColumns.h"
 #include "model/Nutrients.h"
 #include "runtime/RuntimeError.h"
 #include "support/Places.h"
@@ -121,7 +121,7 @@ TEST_F(CatalogueTest, WeightsAreTakenInTheirSequenceWithoutTheMeasureThatIsThere
 TEST_F(CatalogueTest, FoodWithoutAFullDescriptionIsLeftAndTold) {
     Write("FOOD_DES.txt", Description("02000", "Second"));
     const Catalogue made = Made();
-    EXPECT_EQ(made.Unnamed(), QStringList{QStringLiteral("01000")});
+    EXPECT_EQ(made.Release().Unnamed(), QStringList{QStringLiteral("01000")});
     EXPECT_EQ(made.Foods().size(), 1);
     EXPECT_TRUE(CatalogueReport(made).contains(QStringLiteral("no full description: 01000.")));
 }

@@ -1,23 +1,11 @@
 #pragma once
 
-#include "catalogue/Measures.h"
 #include "common/TsvTable.h"
+#include "foods/release/FoodRelease.h"
 
-#include <QList>
-#include <QString>
-#include <QStringList>
-
-/// A stock food of the catalogue. Numbers keep the decimal text of the release; an empty text is an
-/// unknown value.
-struct CatalogueFood {
+/// A stock food of the catalogue.
+struct CatalogueFood : ReleaseFood {
     int id = 0;
-    QString number; ///< the release's own
-    QString name;
-    QStringList nutrients; ///< in the order of FoodColumns
-    Servings servings;
-    bool plainFolate = false; ///< folate is the total, dietary equivalents are unknown
-
-    bool HasValue() const; ///< at least one nutrient is known
 };
 
 /// The stock catalogue made from a release: foods in ascending order of the release's number, with
@@ -25,31 +13,22 @@ struct CatalogueFood {
 /// no other food ever changes its key.
 class Catalogue {
 public:
-    /// Reads ABBREV.txt, FOOD_DES.txt and WEIGHT.txt of the folder. Fails if a file is missing, has
-    /// another layout, or lists a food twice.
+    /// Fails if the release cannot be read, or does not fit the keys of stock foods.
     static Catalogue FromRelease(const QString& folder);
 
+    const FoodRelease& Release() const { return release_; }
     const QList<CatalogueFood>& Foods() const { return foods_; }
-    /// Numbers of foods that are left out because they have no full description.
-    const QStringList& Unnamed() const { return unnamed_; }
     /// Foods that are left out because they have no value at all.
     const QList<CatalogueFood>& Valueless() const { return valueless_; }
-    int ValuesRead() const { return valuesRead_; }
-    int DescriptionsRead() const { return descriptionsRead_; }
-    int WeightsRead() const { return weightsRead_; }
 
     TsvTable Table() const;
 
 private:
-    void AddFoods(const ReleaseTable& values, const ReleaseTable& descriptions,
-                  const Measures& measures);
+    explicit Catalogue(FoodRelease release);
     void Number();
     void SetValuelessAside();
 
+    FoodRelease release_;
     QList<CatalogueFood> foods_;
-    QStringList unnamed_;
     QList<CatalogueFood> valueless_;
-    int valuesRead_ = 0;
-    int descriptionsRead_ = 0;
-    int weightsRead_ = 0;
 };

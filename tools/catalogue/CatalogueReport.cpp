@@ -1,6 +1,6 @@
 #include "catalogue/CatalogueReport.h"
 
-#include "catalogue/FoodColumns.h"
+#include "foods/release/FoodColumns.h"
 
 #include <QLocale>
 
@@ -61,14 +61,14 @@ QString Valueless(const Catalogue& catalogue) {
 QString Records(const Catalogue& catalogue) {
     const auto foods = catalogue.Foods().size();
     return u"## Records\n\n| file | read | mapped | left |\n|---|---:|---:|---:|\n" +
-           RecordsOf("ABBREV.txt", catalogue.ValuesRead(), foods) +
-           RecordsOf("FOOD_DES.txt", catalogue.DescriptionsRead(), foods) +
-           RecordsOf("WEIGHT.txt", catalogue.WeightsRead(), FilledMeasures(catalogue)) +
+           RecordsOf("ABBREV.txt", catalogue.Release().ValuesRead(), foods) +
+           RecordsOf("FOOD_DES.txt", catalogue.Release().DescriptionsRead(), foods) +
+           RecordsOf("WEIGHT.txt", catalogue.Release().WeightsRead(), FilledMeasures(catalogue)) +
            u"\nKeys: " + QString::number(catalogue.Foods().first().id) + u" to " +
            QString::number(catalogue.Foods().last().id) +
            u". Foods left because they have no full description: " +
-           ListOrNone(catalogue.Unnamed()) + u". Foods left because not one value is known: " +
-           Valueless(catalogue) +
+           ListOrNone(catalogue.Release().Unnamed()) +
+           u". Foods left because not one value is known: " + Valueless(catalogue) +
            u". The weights left "
            u"are measures that `ABBREV.txt` gives already, or further ones of "
            "foods that have two.\n\n";

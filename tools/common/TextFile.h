@@ -1,12 +1,6 @@
 #pragma once
 
 #include <QString>
-#include <QStringList>
-
-enum class TextCoding { Utf8, Latin1 };
-
-/// The lines of a text file without their line ends. Fails if it cannot be read.
-QStringList ReadLines(const QString& path, TextCoding coding);
 
 /// Writes the file in UTF-8, completely or not at all.
 void WriteText(const QString& path, const QString& text);

@@ -2,6 +2,7 @@
 
 #include "common/TextFile.h"
 #include "runtime/RuntimeError.h"
+#include "runtime/TextLines.h"
 
 namespace {
 

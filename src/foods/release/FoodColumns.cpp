@@ -1,4 +1,4 @@
-#include "catalogue/FoodColumns.h"
+#include "foods/release/FoodColumns.h"
 
 #include "model/Nutrients.h"
 #include "runtime/RuntimeError.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "catalogue/ReleaseTable.h"
+#include "foods/release/ReleaseTable.h"
 
 #include <QString>
 

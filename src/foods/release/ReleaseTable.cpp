@@ -1,7 +1,7 @@
-#include "catalogue/ReleaseTable.h"
+#include "foods/release/ReleaseTable.h"
 
-#include "common/TextFile.h"
 #include "runtime/RuntimeError.h"
+#include "runtime/TextLines.h"
 
 namespace {
 

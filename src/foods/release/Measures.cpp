@@ -1,6 +1,6 @@
-#include "catalogue/Measures.h"
+#include "foods/release/Measures.h"
 
-#include "catalogue/FoodColumns.h"
+#include "foods/release/FoodColumns.h"
 
 #include <algorithm>
 
