@@ -6,10 +6,6 @@
 #include "store/Recordset.h"
 
 namespace {
-/// The catalogue holds the amounts of 100 grams, a custom food those of one serving. A serving that
-/// weighs 100 grams makes the same formula right for both.
-constexpr double ServingGrams = 100;
-
 QString FoodSQL(qint32 id) {
     return QStringLiteral("SELECT * FROM foods WHERE ID = ") + QString::number(id);
 }
@@ -21,13 +17,16 @@ QList<NamedKey> CustomFoods::Names() {
     return NamedRows::Sorted(foods, QStringLiteral("FoodName"), QStringLiteral("ID"));
 }
 
-/// The store gives the rows in the order of their keys. The set begins with the last stock food, so
-/// that it is never empty.
+qint32 CustomFoods::HighestKey() {
+    const Recordset foods(FoodDB(),
+                          QStringLiteral("SELECT Max(ID) AS ID FROM foods WHERE ID >= 23508"));
+    return foods[QStringLiteral("ID")].Integer();
+}
+
 qint32 CustomFoods::Append() {
-    Recordset foods(FoodDB(), QStringLiteral("SELECT * FROM foods WHERE ID >= 23508"),
+    const qint32 id = Round(HighestKey() + 1.0);
+    Recordset foods(FoodDB(), QStringLiteral("SELECT * FROM foods WHERE ID < 0"),
                     CursorType::Dynamic, LockType::Optimistic);
-    foods.MoveLast();
-    const qint32 id = Round(foods[QStringLiteral("ID")].Number() + 1);
     foods.AddNew();
     foods.Set(QStringLiteral("ID"), id);
     foods.Update();

@@ -5,7 +5,13 @@
 
 /// The foods of a person's own: the rows of FOODS above the last stock food.
 namespace CustomFoods {
+/// The catalogue holds the amounts of 100 grams, a custom food those of one serving. A serving that
+/// weighs 100 grams makes the same formula right for both.
+inline constexpr double ServingGrams = 100;
+
 QList<NamedKey> Names(); ///< in the order of the names
+
+qint32 HighestKey(); ///< that of the last stock food where there is no custom food
 
 /// A row that holds its key alone, one above the highest. Gives the key.
 qint32 Append();

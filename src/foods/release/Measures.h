@@ -19,6 +19,8 @@ struct Servings {
     int ownMeasures = 0;     ///< from the abbreviated file, with text and weight
     int filledMeasures = 0;  ///< taken from the file of weights
     bool secondOnly = false; ///< the abbreviated file has the second measure without the first
+
+    bool OnlyHundredGrams() const { return ownMeasures + filledMeasures == 0; }
 };
 
 /// Chooses the servings: the measures of the abbreviated file in their order. If there are fewer
