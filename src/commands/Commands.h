@@ -12,6 +12,7 @@ namespace Commands {
 void AddCopyDay(CLI::App& program, Session& session);
 void AddCopyMeal(CLI::App& program, Session& session);
 void AddExport(CLI::App& program, Session& session);
+void AddFoods(CLI::App& program, Session& session);
 void AddImport(CLI::App& program, Session& session);
 void AddLog(CLI::App& program, Session& session);
 void AddSearch(CLI::App& program, Session& session);
@@ -19,6 +20,5 @@ void AddShow(CLI::App& program, Session& session);
 void AddWeigh(CLI::App& program, Session& session);
 
 inline constexpr void (*All[])(CLI::App& program, Session& session) = {
-    AddCopyDay, AddCopyMeal, AddExport, AddImport, AddLog, AddSearch, AddShow, AddWeigh,
-};
+    AddCopyDay, AddCopyMeal, AddExport, AddFoods, AddImport, AddLog, AddSearch, AddShow, AddWeigh};
 } // namespace Commands

@@ -1,0 +1,125 @@
+#include "commands/Commands.h"
+#include "commands/Session.h"
+#include "records/fooddata/FoodImport.h"
+#include "runtime/RuntimeError.h"
+
+#include <QJsonArray>
+#include <QJsonObject>
+#include <QSaveFile>
+
+#include <CLI/CLI.hpp>
+
+namespace {
+struct Wanted {
+    std::string folder;
+    std::vector<std::string> only;
+    std::string rejects;
+    bool dryRun = false;
+};
+
+constexpr qsizetype MostShown = 20;
+
+QJsonArray Refused(const FoodTally& tally) {
+    QJsonArray all;
+    for (const FoodTally::Refusal& refusal : tally.Refusals())
+        all.append(QJsonObject{
+            {"place", refusal.place}, {"food", refusal.food}, {"reason", refusal.reason}});
+    return all;
+}
+
+QJsonObject Facts(const FoodTally& tally) {
+    QJsonObject notes;
+    for (const auto& [what, times] : tally.Notes().asKeyValueRange())
+        notes[what] = times;
+    return {{"added", tally.added},
+            {"updated", tally.updated},
+            {"unchanged", tally.unchanged},
+            {"notes", notes},
+            {"refused", Refused(tally)}};
+}
+
+void Tell(const Session& session, const FoodTally& tally, bool dryRun) {
+    session.Print(QStringLiteral("%1%2 foods added, %3 updated, %4 unchanged, %5 refused.")
+                      .arg(QLatin1String(dryRun ? "It would be: " : ""))
+                      .arg(tally.added)
+                      .arg(tally.updated)
+                      .arg(tally.unchanged)
+                      .arg(tally.Refusals().size()));
+    for (const auto& [what, times] : tally.Notes().asKeyValueRange())
+        session.Print(u"  " + what + u": " + QString::number(times));
+}
+
+void TellRefusals(const Session& session, const FoodTally& tally) {
+    const auto& refusals = tally.Refusals();
+    for (const FoodTally::Refusal& refusal : refusals.first(std::min(refusals.size(), MostShown)))
+        session.Tell(refusal.place + u": " + refusal.food + u" was refused: " + refusal.reason +
+                     u'.');
+    if (refusals.size() > MostShown)
+        session.Tell(QStringLiteral("%1 more were refused. --rejects FILE lists them all.")
+                         .arg(refusals.size() - MostShown));
+}
+
+void WriteRejects(const std::string& path, const FoodTally& tally) {
+    QSaveFile file(QString::fromStdString(path));
+    const QByteArray table = tally.RefusalTable();
+    if (!file.open(QIODevice::WriteOnly) || file.write(table) != table.size() || !file.commit())
+        throw RuntimeError(ErrorNumber::FileAccess,
+                           u"The list of refused foods could not be written: " + file.fileName() +
+                               u": " + file.errorString());
+}
+
+int Import(const Session& session, const Wanted& wanted) {
+    FoodImport::Options options{QString::fromStdString(wanted.folder), {}, wanted.dryRun};
+    for (const std::string& one : wanted.only)
+        options.filter.Add(QString::fromStdString(one));
+    const FoodTally tally = FoodImport::Run(session.Records(), options);
+    session.json ? session.Print(Facts(tally)) : Tell(session, tally, wanted.dryRun);
+    if (!wanted.rejects.empty())
+        WriteRejects(wanted.rejects, tally);
+    else if (!session.json)
+        TellRefusals(session, tally);
+    return tally.Refusals().isEmpty() ? Done : Found;
+}
+
+/// Empty: the restriction can be used.
+std::string RestrictionProblem(const std::string& text) {
+    return FoodFilter().Add(QString::fromStdString(text))
+               ? std::string()
+               : '"' + text + "\" is not type=" +
+                     FoodFilter::Types().join(QLatin1String("|")).toStdString() +
+                     ", category=NAME or words=WORDS";
+}
+
+void AddFoodImport(CLI::App& foods, Session& session) {
+    CLI::App* command = foods.add_subcommand(
+        "import", "Brings the foods of a FoodData Central download or a USDA release into your own "
+                  "foods. A newer download updates them.");
+    const auto wanted = std::make_shared<Wanted>();
+    command->add_option("FOLDER", wanted->folder, "The folder of the unpacked download")
+        ->required();
+    command
+        ->add_option("--only", wanted->only,
+                     "Only foods of a type (type=sr, foundation, survey or branded), of a category "
+                     "(category=Snacks) or with words in their name (words=\"rye bread\"); several "
+                     "are possible")
+        ->check(CLI::Validator(RestrictionProblem, "SORT=VALUE"))
+        ->expected(1)
+        ->take_all();
+    command->add_option("--rejects", wanted->rejects, "Write the foods that were refused to a file")
+        ->type_name("FILE");
+    command->add_flag("--dry-run", wanted->dryRun, "Tell what would happen, and change nothing");
+    command->footer("Example: halvane-data foods import FoodData_Central_branded_food_csv "
+                    "--only category=Snacks");
+    command->callback([&session, wanted] {
+        session.Do([&session, wanted] { return Import(session, *wanted); });
+    });
+}
+} // namespace
+
+void Commands::AddFoods(CLI::App& program, Session& session) {
+    CLI::App* foods = program.add_subcommand("foods", "Brings foods of other sources in");
+    foods->require_subcommand(1);
+    foods->fallthrough();
+    foods->footer("Example: halvane-data foods import FOLDER --dry-run");
+    AddFoodImport(*foods, session);
+}
