@@ -1,3 +1,4 @@
+#include "DataFoodsBench.h"
 #include "StartBench.h"
 #include "Table.h"
 
@@ -18,5 +19,6 @@ int main(int argc, char** argv) {
     Table table;
     benchmark::RunSpecifiedBenchmarks(&table);
     MeasureStart();
+    MeasureFoodImport();
     return 0;
 }
