@@ -15,10 +15,12 @@ void AddExport(CLI::App& program, Session& session);
 void AddFoods(CLI::App& program, Session& session);
 void AddImport(CLI::App& program, Session& session);
 void AddLog(CLI::App& program, Session& session);
+void AddRecipes(CLI::App& program, Session& session);
 void AddSearch(CLI::App& program, Session& session);
 void AddShow(CLI::App& program, Session& session);
 void AddWeigh(CLI::App& program, Session& session);
 
 inline constexpr void (*All[])(CLI::App& program, Session& session) = {
-    AddCopyDay, AddCopyMeal, AddExport, AddFoods, AddImport, AddLog, AddSearch, AddShow, AddWeigh};
+    AddCopyDay, AddCopyMeal, AddExport, AddFoods, AddImport,
+    AddLog,     AddRecipes,  AddSearch, AddShow,  AddWeigh};
 } // namespace Commands

@@ -1,0 +1,89 @@
+#include "CommandTest.h"
+
+#include "commands/Session.h"
+#include "records/RecordsLock.h"
+
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+class RecipeCommandsTest : public CommandTest {
+protected:
+    void SetUp() override {
+        CommandTest::SetUp();
+        QFile file(Soup);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(R"({"@type": "Recipe", "name": "Soup", "recipeYield": "2",
+            "recipeIngredient": ["1 cup lentils", "1 onion"], "recipeInstructions": "Boil."})");
+    }
+    Run Import(const QStringList& more = {}) const {
+        return Command(QStringList{"recipes", "import", Soup} + more);
+    }
+    const QString Soup = Folder() + "/soup.json";
+};
+
+TEST_F(RecipeCommandsTest, ImportShowsTheFoodsAndAsksForADecision) {
+    const Run run = Import();
+    EXPECT_EQ(run.code, Found);
+    EXPECT_TRUE(run.out.contains("20704:A:1, Lentils, raw: ")) << run.out.toStdString();
+    EXPECT_TRUE(run.out.contains("its servings cannot express this amount"));
+    EXPECT_TRUE(run.error.contains("Nothing was changed.")) << run.error.toStdString();
+    EXPECT_EQ(Command({"search", "soup", "--json"}).out.count("\"recipe\""), 0);
+}
+
+TEST_F(RecipeCommandsTest, ImportTakesWhatIsAcceptedOrChosen) {
+    const Run run = Import({"--accept", "--choose", "1.2=19122:A:0.5"});
+    EXPECT_EQ(run.code, Done) << run.error.toStdString();
+    EXPECT_TRUE(run.out.endsWith("1 recipes added.\n")) << run.out.toStdString();
+    EXPECT_TRUE(
+        Command({"recipes", "export", "-", "--format", "markdown"}).out.contains("Onions, raw"));
+}
+
+TEST_F(RecipeCommandsTest, ImportPrintsFactsAsJson) {
+    const QJsonObject facts =
+        QJsonDocument::fromJson(Import({"--json", "--accept"}).out.toUtf8()).object();
+    EXPECT_EQ(facts["added"], 1);
+    EXPECT_EQ(facts["recipes"][0]["lines"][0]["food"], 20704);
+    EXPECT_EQ(facts["recipes"][0]["lines"][0]["taken"], true);
+    EXPECT_EQ(facts["recipes"][0]["lines"][1]["taken"], false);
+}
+
+TEST_F(RecipeCommandsTest, ExportWritesAFileThatComesBack) {
+    Import({"--accept"});
+    const QString file = Folder() + "/out.md";
+    EXPECT_EQ(Command({"recipes", "export", file, "soup"}).out, "1 recipes exported.\n");
+    EXPECT_TRUE(Command({"recipes", "import", file}).out.endsWith("0 recipes added.\n"));
+}
+
+TEST_F(RecipeCommandsTest, ExportOfAnUnknownNameFails) {
+    const Run run = Command({"recipes", "export", "-", "nothing"});
+    EXPECT_EQ(run.code, Cannot);
+    EXPECT_TRUE(run.error.contains("There is no recipe \"nothing\".")) << run.error.toStdString();
+}
+
+TEST_F(RecipeCommandsTest, AFileThatCannotBeWrittenIsTold) {
+    const Run run = Command({"recipes", "export", Folder() + "/no/such/out.md"});
+    EXPECT_EQ(run.code, Cannot);
+    EXPECT_TRUE(run.error.contains("out.md could not be written")) << run.error.toStdString();
+}
+
+TEST_F(RecipeCommandsTest, WrongOptionsAreUsageErrors) {
+    EXPECT_EQ(Import({"--choose", "first"}).code, Usage);
+    EXPECT_EQ(Command({"recipes"}).code, Usage);
+    EXPECT_EQ(Command({"recipes", "import"}).code, Usage);
+    EXPECT_EQ(Command({"recipes", "export", "-", "--format", "pdf"}).code, Usage);
+}
+
+TEST_F(RecipeCommandsTest, WhileTheWindowIsOpenNothingIsImportedButFoodsAreShown) {
+    const RecordsLock window{RecordsFolder(Folder())};
+    EXPECT_EQ(Import({"--accept"}).code, Cannot);
+    EXPECT_EQ(Import({"--accept", "--dry-run"}).code, Done);
+    EXPECT_EQ(Command({"recipes", "export", "-"}).code, Done);
+}
+
+TEST_F(RecipeCommandsTest, EachHasAnExampleInItsHelp) {
+    for (const char* one : {"import", "export"})
+        EXPECT_TRUE(
+            Command({"recipes", one, "--help"}).out.contains("Example: halvane-data recipes"));
+}
