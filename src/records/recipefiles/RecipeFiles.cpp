@@ -16,18 +16,9 @@
 namespace {
 using Drafts = QList<RecipeDraft>;
 
-constexpr qint64 MostBytes = 64 << 20;
+constexpr qint64 MostBytes = 64 << 20;   ///< of a file that is no zip
+constexpr qint64 MostUnpacked = 1 << 30; ///< of all zips in a file together
 constexpr int MostZipsInZips = 1;
-
-QByteArray BytesOf(const QString& path) {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        throw RuntimeError(ErrorNumber::FileNotFound, file.errorString());
-    if (file.size() > MostBytes)
-        throw RuntimeError(ErrorNumber::TypeMismatch,
-                           QStringLiteral("A file of recipes has at most 64 megabytes."));
-    return file.readAll();
-}
 
 Drafts OfJson(const QJsonValue& document) {
     const QJsonObject object = document.toObject();
@@ -59,35 +50,60 @@ QByteArray WithoutMark(const QByteArray& bytes) {
     return bytes.startsWith("\xEF\xBB\xBF") ? bytes.mid(3) : bytes;
 }
 
-Drafts OfZip(const QByteArray& bytes, int depth);
-
-Drafts OfBytes(const QByteArray& bytes, int depth) {
-    if (ZipReader::IsZip(bytes.left(4)))
-        return depth > MostZipsInZips ? Drafts() : OfZip(bytes, depth);
+Drafts OfPlain(const QByteArray& bytes) {
     const QByteArray text = WithoutMark(bytes);
     const QByteArray start = text.left(1000).trimmed();
     const bool isJson = start.startsWith('{') || start.startsWith('[');
     return isJson ? OfJson(JsonText::Document(text)) : OfText(text);
 }
 
-/// Pictures and settings stand beside the recipes.
-bool MayHoldRecipes(const QString& name) {
-    return name.endsWith(QLatin1String(".json")) || name.endsWith(QLatin1String(".zip"));
-}
+/// Reads the recipes of a zip and of the zips in it.
+class ZipWalk {
+public:
+    Drafts Recipes(ZipReader zip, int depth = 0) {
+        Drafts recipes;
+        for (const QString& name : zip.Names())
+            if (MayHoldRecipes(name))
+                recipes << Member(zip.Read(name), depth);
+        return recipes;
+    }
 
-Drafts OfZip(const QByteArray& bytes, int depth) {
-    ZipReader zip(bytes, ZipReader::Limits());
-    Drafts recipes;
-    for (const QString& name : zip.Names())
-        if (MayHoldRecipes(name))
-            recipes << OfBytes(zip.Read(name), depth + 1);
-    return recipes;
+private:
+    /// Pictures and settings stand beside the recipes.
+    static bool MayHoldRecipes(const QString& name) {
+        return name.endsWith(QLatin1String(".json")) || name.endsWith(QLatin1String(".zip"));
+    }
+
+    Drafts Member(const QByteArray& bytes, int depth) {
+        unpacked_ += bytes.size();
+        if (unpacked_ > MostUnpacked)
+            throw RuntimeError(ErrorNumber::TypeMismatch,
+                               QStringLiteral("It unpacks to more than a gigabyte."));
+        if (!ZipReader::IsZip(bytes.left(4)))
+            return OfPlain(bytes);
+        return depth < MostZipsInZips ? Recipes(ZipReader(bytes, ZipReader::Limits()), depth + 1)
+                                      : Drafts();
+    }
+
+    qint64 unpacked_ = 0;
+};
+
+Drafts OfFile(const QString& path) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        throw RuntimeError(ErrorNumber::FileNotFound, file.errorString());
+    if (ZipReader::IsZip(file.peek(4)))
+        return ZipWalk().Recipes(ZipReader(path));
+    if (file.size() > MostBytes)
+        throw RuntimeError(ErrorNumber::TypeMismatch,
+                           QStringLiteral("A file of recipes has at most 64 megabytes."));
+    return OfPlain(file.readAll());
 }
 } // namespace
 
 Drafts RecipeFiles::Read(const QString& path) {
     try {
-        Drafts recipes = OfBytes(BytesOf(path), 0);
+        Drafts recipes = OfFile(path);
         if (recipes.isEmpty())
             throw RuntimeError(ErrorNumber::TypeMismatch,
                                QStringLiteral("There is no recipe in it that can be read."));

@@ -1,11 +1,10 @@
 #include "records/recipefiles/RecipeFilesTest.h"
 
+#include "records/archive/TestZip.h"
 #include "records/recipefiles/RecipeFiles.h"
 #include "runtime/RuntimeError.h"
 
-#include <QDir>
 #include <QFile>
-#include <QProcess>
 
 QString RecipeFilesTest::Written(const QString& name, const QByteArray& bytes) const {
     const QString path = Folder() + '/' + name;
@@ -205,21 +204,15 @@ TEST_F(RecipeFilesTest, TandoorIsReadInTheOrderOfItsSteps) {
 }
 
 TEST_F(RecipeFilesTest, AZipOfZipsIsReadWithoutItsPictures) {
-    QDir folder(Folder());
-    ASSERT_TRUE(folder.mkdir("zip"));
-    Written("zip/recipe.json", Tandoor);
-    Written("zip/image.jpg", "no picture");
-    const auto zip = [&](const QStringList& arguments) {
-        QProcess process;
-        process.setWorkingDirectory(Folder() + "/zip");
-        process.start("python3", QStringList{"-m", "zipfile", "-c"} + arguments);
-        return process.waitForFinished() && process.exitCode() == 0;
-    };
-    ASSERT_TRUE(zip({"1.zip", "recipe.json", "image.jpg"}));
-    ASSERT_TRUE(zip({"all.zip", "1.zip"}));
-    const QList<RecipeDraft> recipes = RecipeFiles::Read(Folder() + "/zip/all.zip");
+    const QByteArray one = TestZip({{"recipe.json", Tandoor}, {"image.jpg", "no picture"}});
+    const QList<RecipeDraft> recipes = RecipeFiles::Read(Written("all", TestZip({{"1.zip", one}})));
     ASSERT_EQ(recipes.size(), 1);
     EXPECT_EQ(recipes[0].Name(), "Lentil soup (invented)");
+}
+
+TEST_F(RecipeFilesTest, AZipThatGrowsTooMuchIsRefused) {
+    EXPECT_TRUE(Refusal(TestZip({{"recipe.json", QByteArray(50 << 20, '[')}}))
+                    .contains("unpacks to more than"));
 }
 
 TEST_F(RecipeFilesTest, MealMasterInOneColumn) {
