@@ -1,11 +1,11 @@
 #include "commands/Commands.h"
+#include "commands/OutputFile.h"
+#include "commands/Progress.h"
 #include "commands/Session.h"
 #include "records/fooddata/FoodImport.h"
-#include "runtime/RuntimeError.h"
 
 #include <QJsonArray>
 #include <QJsonObject>
-#include <QSaveFile>
 
 #include <CLI/CLI.hpp>
 
@@ -60,18 +60,17 @@ void TellRefusals(const Session& session, const FoodTally& tally) {
 }
 
 void WriteRejects(const std::string& path, const FoodTally& tally) {
-    QSaveFile file(QString::fromStdString(path));
-    const QByteArray table = tally.RefusalTable();
-    if (!file.open(QIODevice::WriteOnly) || file.write(table) != table.size() || !file.commit())
-        throw RuntimeError(ErrorNumber::FileAccess,
-                           u"The list of refused foods could not be written: " + file.fileName() +
-                               u": " + file.errorString());
+    OutputFile file(path);
+    file.Write(tally.RefusalTable().toStdString());
+    file.Keep();
 }
 
 int Import(const Session& session, const Wanted& wanted) {
-    FoodImport::Options options{QString::fromStdString(wanted.folder), {}, wanted.dryRun};
+    FoodImport::Options options{QString::fromStdString(wanted.folder), {}, wanted.dryRun, {}};
     for (const std::string& one : wanted.only)
         options.filter.Add(QString::fromStdString(one));
+    Progress progress(session, QStringLiteral("Reading"));
+    options.step = [&](qint64 done, qint64 total) { progress.Step(done, total); };
     const FoodTally tally = FoodImport::Run(session.Records(), options);
     session.json ? session.Print(Facts(tally)) : Tell(session, tally, wanted.dryRun);
     if (!wanted.rejects.empty())

@@ -1,14 +1,13 @@
 #include "commands/Commands.h"
+#include "commands/OutputFile.h"
 #include "commands/Session.h"
 #include "records/RecordsReading.h"
 #include "records/recipefiles/RecipeFiles.h"
 #include "records/recipefiles/RecipeImport.h"
 #include "records/recipefiles/RecipeStore.h"
-#include "runtime/RuntimeError.h"
 
 #include <QJsonArray>
 #include <QJsonObject>
-#include <QSaveFile>
 
 #include <CLI/CLI.hpp>
 
@@ -38,13 +37,6 @@ Format FormatOf(const ExportWanted& wanted) {
     return isMarkdown ? Format::Markdown : Format::JsonLd;
 }
 
-void WriteWhole(const QString& path, const QByteArray& bytes) {
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
-        throw RuntimeError(ErrorNumber::FileAccess,
-                           path + u" could not be written: " + file.errorString());
-}
-
 int Export(const Session& session, const ExportWanted& wanted) {
     const RecordsReading records(session.Records());
     const QList<RecipeDraft> recipes =
@@ -54,7 +46,9 @@ int Export(const Session& session, const ExportWanted& wanted) {
         session.Out() << bytes.toStdString();
         return Done;
     }
-    WriteWhole(QString::fromStdString(wanted.file), bytes);
+    OutputFile file(wanted.file);
+    file.Write(bytes.toStdString());
+    file.Keep();
     if (session.json)
         session.Print(QJsonObject{{"exported", recipes.size()}});
     else

@@ -8,17 +8,22 @@
 
 namespace {
 enum Column { FoodKey, NutrientKey, Amount };
+constexpr int RowsInAStep = 10'000;
 constexpr size_t Slots = FdcNutrients::SlotCount;
 } // namespace
 
-FdcAmounts::FdcAmounts(const QString& folder, std::span<const FdcFood> foods, FoodTally& tally)
+FdcAmounts::FdcAmounts(const QString& folder, std::span<const FdcFood> foods, FoodTally& tally,
+                       const Step& step)
     : foods_(foods)
     , figures_(foods.size() * Slots, FdcNutrients::Unknown) {
     FdcTable table(
         folder, QStringLiteral("food_nutrient.csv"),
         {QStringLiteral("fdc_id"), QStringLiteral("nutrient_id"), QStringLiteral("amount")});
-    while (table.Next())
+    while (table.Next()) {
         Read(table, tally);
+        if (table.Line() % RowsInAStep == 0)
+            step(table.Passed(), table.Size());
+    }
 }
 
 FdcNutrients::Figures FdcAmounts::Of(size_t food) const {

@@ -5,6 +5,7 @@
 
 #include <QString>
 
+#include <functional>
 #include <span>
 
 class FdcTable;
@@ -13,7 +14,10 @@ class FoodTally;
 /// The figures of a block of foods, read from food_nutrient.csv.
 class FdcAmounts {
 public:
-    FdcAmounts(const QString& folder, std::span<const FdcFood> foods, FoodTally& tally);
+    using Step = std::function<void(qint64 done, qint64 total)>; ///< bytes of the file
+
+    FdcAmounts(const QString& folder, std::span<const FdcFood> foods, FoodTally& tally,
+               const Step& step);
 
     FdcNutrients::Figures Of(size_t food) const; ///< by the place in the block
 

@@ -1,7 +1,6 @@
 #include "records/fooddata/FdcDownload.h"
 
 #include "foods/CustomFood.h"
-#include "records/fooddata/FdcAmounts.h"
 #include "records/fooddata/FdcNutrients.h"
 #include "records/fooddata/FdcPortions.h"
 #include "records/fooddata/FdcSelection.h"
@@ -69,17 +68,24 @@ FdcDownload::FdcDownload(QString folder, const FoodFilter& filter, FoodTally& ta
     FdcPortions::Read(folder_, foods_);
 }
 
-void FdcDownload::Read(const Take& take) {
+void FdcDownload::Read(const Take& take, const Step& step) {
     const Block all(foods_);
-    for (size_t from = 0; from < all.size(); from += FoodsInABlock)
-        ReadBlock(all.subspan(from, std::min(FoodsInABlock, all.size() - from)), take);
+    const qint64 blocks = static_cast<qint64>(all.size() / FoodsInABlock + 1);
+    for (size_t from = 0; from < all.size(); from += FoodsInABlock) {
+        const qint64 before = static_cast<qint64>(from / FoodsInABlock);
+        ReadBlock(all.subspan(from, std::min(FoodsInABlock, all.size() - from)), take,
+                  [&](qint64 done, qint64 total) {
+                      if (step)
+                          step(before * total + done, blocks * total);
+                  });
+    }
     if (!foods_.empty() && !anyAmount_)
         throw RuntimeError(ErrorNumber::TypeMismatch,
                            QStringLiteral("food_nutrient.csv has no amount of any of the foods."));
 }
 
-void FdcDownload::ReadBlock(Block foods, const Take& take) {
-    const FdcAmounts amounts(folder_, foods, tally_);
+void FdcDownload::ReadBlock(Block foods, const Take& take, const Step& step) {
+    const FdcAmounts amounts(folder_, foods, tally_, step);
     for (size_t i = 0; i < foods.size(); ++i)
         Give(foods[i], FdcNutrients::Amounts(amounts.Of(i), tally_), take);
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "records/fooddata/FdcFood.h"
+#include "records/fooddata/FdcAmounts.h"
 
 #include <QString>
 
@@ -18,6 +18,7 @@ class NutrientAmounts;
 /// block of foods, and only the block's amounts are kept.
 class FdcDownload {
 public:
+    using Step = FdcAmounts::Step;
     using Take = std::function<void(const QString& number, const CustomFood& food)>;
 
     /// Whether a folder holds the files of a download.
@@ -25,11 +26,11 @@ public:
 
     FdcDownload(QString folder, const FoodFilter& filter, FoodTally& tally);
     /// Gives each food that can be used to `take`. Fails if a file is missing or is no such table.
-    void Read(const Take& take);
+    void Read(const Take& take, const Step& step = {});
 
 private:
     using Block = std::span<const FdcFood>;
-    void ReadBlock(Block foods, const Take& take);
+    void ReadBlock(Block foods, const Take& take, const Step& step);
     void Give(const FdcFood& food, const NutrientAmounts& in100, const Take& take);
     void Refuse(const FdcFood& food, const QString& reason);
 

@@ -3,7 +3,6 @@
 #include "foods/release/FoodRelease.h"
 #include "records/RecordsChange.h"
 #include "records/RecordsReading.h"
-#include "records/fooddata/FdcDownload.h"
 #include "records/fooddata/ImportedFoods.h"
 #include "records/fooddata/ReleaseFoods.h"
 #include "runtime/RuntimeError.h"
@@ -25,7 +24,7 @@ FoodTally Bring(const Options& options, ImportedFoods::Mode mode) {
         own.Take(number, food);
     };
     if (FdcDownload::IsIn(options.folder))
-        FdcDownload(options.folder, options.filter, tally).Read(take);
+        FdcDownload(options.folder, options.filter, tally).Read(take, options.step);
     else
         ReleaseFoods::Read(options.folder, options.filter, tally, take);
     return tally;

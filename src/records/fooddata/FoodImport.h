@@ -1,5 +1,6 @@
 #pragma once
 
+#include "records/fooddata/FdcDownload.h"
 #include "records/fooddata/FoodFilter.h"
 #include "records/fooddata/FoodTally.h"
 
@@ -12,6 +13,7 @@ struct Options {
     QString folder;
     FoodFilter filter;
     bool dryRun = false; ///< the records do not change
+    FdcDownload::Step step = {};
 };
 
 /// Everything in one change. Fails if the folder holds neither, or a file cannot be read; then

@@ -259,8 +259,21 @@ TEST_F(FdcDownloadTest, ADownloadWhoseAmountsBelongToOtherFoodsIsRefused) {
     EXPECT_EQ(Refusal(), "food_nutrient.csv has no amount of any of the foods.");
 }
 
+TEST_F(FdcDownloadTest, TellsHowFarItIs) {
+    for (int i = 0; i < 10'000; ++i)
+        AddAmount("1", "1008", "0");
+    qint64 told = 0;
+    FoodImport::Options options{Download(), {}, true, {}};
+    options.step = [&](qint64 done, qint64 total) {
+        told = done;
+        EXPECT_LE(done, total);
+    };
+    FoodImport::Run(Records(), options);
+    EXPECT_GT(told, 0);
+}
+
 TEST_F(FdcDownloadTest, AFolderWithoutFoodsIsRefused) {
     QTemporaryDir empty;
-    FoodImport::Options options{empty.path(), {}, false};
+    FoodImport::Options options{empty.path(), {}, false, {}};
     EXPECT_THROW(FoodImport::Run(Records(), options), std::exception);
 }

@@ -94,7 +94,7 @@ void FoodDataTest::AddAmount(const QString& food, const QString& nutrient,
 }
 
 FoodTally FoodDataTest::Import(const QStringList& only, bool dryRun) const {
-    FoodImport::Options options{Download(), {}, dryRun};
+    FoodImport::Options options{Download(), {}, dryRun, {}};
     for (const QString& restriction : only)
         EXPECT_TRUE(options.filter.Add(restriction)) << restriction.toStdString();
     return FoodImport::Run(Records(), options);

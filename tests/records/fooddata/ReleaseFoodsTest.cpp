@@ -5,7 +5,7 @@
 class ReleaseFoodsTest : public FoodDataTest {
 protected:
     FoodTally ImportRelease(const QStringList& only = {}) const {
-        FoodImport::Options options{Places::Source("/tests/tools/release"), {}, false};
+        FoodImport::Options options{Places::Source("/tests/tools/release"), {}, false, {}};
         for (const QString& restriction : only)
             options.filter.Add(restriction);
         return FoodImport::Run(Records(), options);
