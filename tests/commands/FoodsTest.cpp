@@ -33,6 +33,16 @@ TEST_F(FoodsTest, ImportPrintsFactsAsJson) {
     EXPECT_TRUE(facts["refused"].isArray());
 }
 
+TEST_F(FoodsTest, RestrictionsCanBeRepeated) {
+    const auto added = [&](const QStringList& only) {
+        const Run run = Import(QStringList{"--dry-run", "--json"} + only);
+        return QJsonDocument::fromJson(run.out.toUtf8()).object()["added"].toInt();
+    };
+    EXPECT_EQ(added({"--only", "words=butter, salted", "--only", "words=egg, whole"}),
+              added({"--only", "words=butter, salted"}) + added({"--only", "words=egg, whole"}));
+    EXPECT_GT(added({"--only", "words=egg, whole"}), 0);
+}
+
 TEST_F(FoodsTest, ADryRunChangesNothing) {
     EXPECT_TRUE(Import({"--dry-run"}).out.startsWith("It would be: "));
     EXPECT_FALSE(Import({"--only", "words=butter"}).out.startsWith("0 foods added"));

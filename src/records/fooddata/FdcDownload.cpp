@@ -48,6 +48,15 @@ QString Impossible(const FdcFood& food, const NutrientAmounts& in100) {
     return {};
 }
 
+/// A name that fills pages is none.
+constexpr qsizetype MostLetters = 1000;
+
+QString Refusal(const CustomFood& own) {
+    return std::max(own.name.size(), own.serving.size()) > MostLetters
+               ? QStringLiteral("its name or serving has more than 1,000 characters")
+               : own.FirstProblem().message;
+}
+
 bool HasAmount(const NutrientAmounts& amounts) {
     return std::ranges::any_of(Nutrients(), [&](const NutrientInfo& nutrient) {
         return amounts[nutrient.id].has_value();
@@ -99,8 +108,8 @@ void FdcDownload::Give(const FdcFood& food, const NutrientAmounts& in100, const 
     const CustomFood own{QString::fromUtf8(food.name),
                          food.serving.isEmpty() ? HundredGrams : QString::fromUtf8(food.serving),
                          ServingAmounts(in100, food.amount)};
-    if (const CustomFoodProblem problem = own.FirstProblem())
-        return Refuse(food, problem.message);
+    if (const QString refusal = Refusal(own); !refusal.isEmpty())
+        return Refuse(food, refusal);
     take(QString::fromUtf8(food.number), own);
 }
 

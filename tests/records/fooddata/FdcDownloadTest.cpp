@@ -185,6 +185,14 @@ TEST_F(FdcDownloadTest, AFoodWithoutAnyAmountIsRefused) {
                                     "not one of its amounts is known\r\n");
 }
 
+TEST_F(FdcDownloadTest, AnEndlessNameIsRefused) {
+    Add("food.csv", {"9900060", "sr_legacy_food", QString(2000, 'x'), "20", "2019-04-01"});
+    AddAmount("9900060", "1008", "1");
+    const FoodTally tally = Import();
+    ASSERT_EQ(tally.Refusals().size(), 1);
+    EXPECT_EQ(tally.Refusals()[0].reason, "its name or serving has more than 1,000 characters");
+}
+
 TEST_F(FdcDownloadTest, FoundationFoodsWithoutAnEntryAreEarlierPublications) {
     Add("food.csv", {"9900021", "foundation_food", "Beans, old", "11", "2020-04-30"});
     AddAmount("9900021", "1008", "1");
