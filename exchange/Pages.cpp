@@ -1,51 +1,40 @@
 #include "exchange/Pages.h"
 
 #include "exchange/Assets.h"
-#include "exchange/Moment.h"
 #include "exchange/Numbers.h"
 #include "exchange/Reports.h"
 #include "exchange/ShownText.h"
 #include "exchange/Target.h"
+#include "exchange/Template.h"
 #include "exchange/Text.h"
 
-#include <kainjow/mustache.hpp>
-
+#include <chrono>
 #include <cmath>
 
 namespace exchange::Pages {
 namespace {
-using kainjow::mustache::data;
-using kainjow::mustache::mustache;
-
-/// A template of this thread: one is not made to be used by two at once. What a template takes
-/// unescaped, in three braces, is what another template has filled.
-struct Template {
-    mustache text;
-    explicit Template(const std::string& asset)
-        : text(asset) {}
-    std::string Fill(const data& values) {
-        std::string filled;
-        text.render(values, [&](const std::string& piece) { filled += piece; });
-        return filled;
-    }
-};
-
 enum class Place { Front, List, Elsewhere };
 
-std::string Page(const std::string& title, Place place, bool unlisted, const std::string& content) {
-    thread_local Template layout(Assets::layout);
-    data values;
-    values.set("title", title);
-    values.set("unlisted", unlisted);
-    values.set("onFront", place == Place::Front);
-    values.set("onList", place == Place::List);
-    values.set("content", content);
-    return layout.Fill(values);
+std::string Page(const std::string& title, Place place, bool unlisted, const Template& content,
+                 Values contentValues) {
+    static const Template layout(Assets::layout);
+    Values values;
+    values.Set("title", title);
+    values.Show("unlisted", unlisted);
+    values.Show("onFront", place == Place::Front);
+    values.Show("onList", place == Place::List);
+    values.Insert("content", content, std::move(contentValues));
+    return layout.Filled(values);
 }
 
 std::string Day(long long moment) {
-    const auto day = Moment::Written("%d %B %Y", moment);
-    return day.front() == '0' ? day.substr(1) : day;
+    constexpr const char* months[] = {"January",   "February", "March",    "April",
+                                      "May",       "June",     "July",     "August",
+                                      "September", "October",  "November", "December"};
+    const std::chrono::sys_time since{std::chrono::microseconds(moment)};
+    const std::chrono::year_month_day day(std::chrono::floor<std::chrono::days>(since));
+    return std::to_string(unsigned{day.day()}) + " " + months[unsigned{day.month()} - 1] + " " +
+           std::to_string(int{day.year()});
 }
 
 std::string Calories(const std::optional<double>& calories) {
@@ -69,14 +58,13 @@ std::string NoteOf(const Listed& recipe) {
     return Join(parts, ", ");
 }
 
-std::string LineOf(const Listed& recipe) {
-    thread_local Template line(Assets::line);
-    data values;
-    values.set("id", std::to_string(recipe.id));
-    values.set("name", ShownText::Name(recipe.name, ShownText::InList));
-    values.set("note", NoteOf(recipe));
-    values.set("date", Day(recipe.listedAt));
-    return line.Fill(values);
+Values LineOf(const Listed& recipe) {
+    Values line;
+    line.Set("id", std::to_string(recipe.id));
+    line.Set("name", ShownText::Name(recipe.name, ShownText::InList));
+    line.Set("note", NoteOf(recipe));
+    line.Set("date", Day(recipe.listedAt));
+    return line;
 }
 
 std::string AddressOf(const ListPage& list, int page, std::optional<long long> from) {
@@ -102,25 +90,24 @@ std::string EmptyText(const ListPage& list) {
     return list.page > 1 ? "There are no older recipes." : "No recipe has been shared yet.";
 }
 
-void SetPager(data& values, const ListPage& list, bool more) {
+void SetPager(Values& values, const ListPage& list, bool more) {
     const bool older = more && list.page < LastPage;
-    values.set("pager", older || list.page > 1);
-    values.set("page", std::to_string(list.page));
+    values.Show("pager", older || list.page > 1);
+    values.Set("page", std::to_string(list.page));
     if (list.page > 1)
-        values.set("newer", AddressOf(list, list.page - 1, list.from));
+        values.Set("newer", AddressOf(list, list.page - 1, list.from));
     if (older)
-        values.set("older", AddressOf(list, list.page + 1, list.from));
+        values.Set("older", AddressOf(list, list.page + 1, list.from));
 }
 
-data IngredientsOf(const Recipe& recipe) {
-    data lines(data::type::list);
+Values::List IngredientsOf(const Recipe& recipe) {
+    Values::List lines;
     for (const auto& ingredient : recipe.ingredients) {
-        const auto serving = ShownText::Line(ingredient.Portion().value_or(""), ShownText::InCard);
-        data line;
-        line.set("food", ShownText::Name(ingredient.foodName.value_or(""), ShownText::InCard));
-        line.set("hasServing", !serving.empty());
-        line.set("serving", serving);
-        lines.push_back(line);
+        const auto serving = ingredient.Portion().value_or("");
+        Values line;
+        line.Set("food", ShownText::Name(ingredient.foodName.value_or(""), ShownText::InCard));
+        line.Set("serving", ShownText::Line(serving, ShownText::InCard));
+        lines.push_back(std::move(line));
     }
     return lines;
 }
@@ -135,35 +122,35 @@ std::string AmountOf(const Recipe& recipe, int nutrient) {
     return Numbers::Short(*amount) + " " + std::string(unit);
 }
 
-data NutritionOf(const Recipe& recipe, bool large) {
-    data lines(data::type::list);
+Values::List NutritionOf(const Recipe& recipe, bool large) {
+    Values::List lines;
     for (const int i : LabelOrder()) {
         const auto& column = NutrientColumns()[static_cast<size_t>(i)];
         if (column.large != large)
             continue;
-        data line;
-        line.set("label", std::string(column.label));
-        line.set("amount", AmountOf(recipe, i));
-        lines.push_back(line);
+        Values line;
+        line.Set("label", std::string(column.label));
+        line.Set("amount", AmountOf(recipe, i));
+        lines.push_back(std::move(line));
     }
     return lines;
 }
 
-std::string ReportForm(int id, const std::string& token) {
-    thread_local Template form(Assets::report);
-    data complaints(data::type::list);
+void InsertReportForm(Values& page, int id, const std::string& token) {
+    static const Template form(Assets::report);
+    Values::List complaints;
     for (const auto& complaint : Reports::Complaints()) {
-        data option;
-        option.set("name", std::string(complaint.name));
-        option.set("label", std::string(complaint.label));
-        complaints.push_back(option);
+        Values option;
+        option.Set("name", std::string(complaint.name));
+        option.Set("label", std::string(complaint.label));
+        complaints.push_back(std::move(option));
     }
-    data values;
-    values.set("id", std::to_string(id));
-    values.set("token", token);
-    values.set("most", std::to_string(Reports::LongestWords));
-    values.set("complaints", complaints);
-    return form.Fill(values);
+    Values values;
+    values.Set("id", std::to_string(id));
+    values.Set("token", token);
+    values.Set("most", std::to_string(Reports::LongestWords));
+    values.Each("complaints", std::move(complaints));
+    page.Insert("report", form, std::move(values));
 }
 
 std::string HeadingOf(int status) {
@@ -181,67 +168,66 @@ std::string HeadingOf(int status) {
 } // namespace
 
 std::string Front() {
-    thread_local Template content(Assets::front);
-    return Page("Recipes and nutrition", Place::Front, false, content.Fill({}));
+    static const Template content(Assets::front);
+    return Page("Recipes and nutrition", Place::Front, false, content, {});
 }
 
 std::string Community(const ListPage& list) {
-    thread_local Template content(Assets::community);
+    static const Template content(Assets::community);
     const auto& recipes = list.found.recipes;
     const bool more = recipes.size() > static_cast<size_t>(RecipeStore::PageSize);
-    std::string lines;
+    Values::List lines;
     for (size_t i = 0; i < recipes.size() - (more ? 1 : 0); ++i)
-        lines += LineOf(recipes[i]);
-    data values;
-    values.set("query", ShownText::Line(list.query, list.query.size()));
-    values.set("searched", !list.query.empty());
-    values.set("heading", HeadingOf(list));
-    values.set("any", !recipes.empty());
-    values.set("lines", lines);
-    values.set("empty", EmptyText(list));
+        lines.push_back(LineOf(recipes[i]));
+    Values values;
+    values.Set("query", ShownText::Line(list.query, list.query.size()));
+    values.Show("searched", !list.query.empty());
+    values.Set("heading", HeadingOf(list));
+    values.Show("any", !recipes.empty());
+    values.Each("lines", std::move(lines));
+    values.Set("empty", EmptyText(list));
     if (list.found.next > 0)
-        values.set("searchOn", AddressOf(list, 1, list.found.next));
+        values.Set("searchOn", AddressOf(list, 1, list.found.next));
     SetPager(values, list, more);
-    return Page("Online Community", Place::List, false, content.Fill(values));
+    return Page("Online Community", Place::List, false, content, std::move(values));
 }
 
 std::string RecipePage(const Recipe& recipe, const std::string& token) {
-    thread_local Template content(Assets::recipe);
+    static const Template content(Assets::recipe);
     const auto serving = ShownText::Line(recipe.servingName.value_or(""), ShownText::InCard);
     const auto instructions = ShownText::Lines(recipe.instructions.value_or(""));
     const auto name = recipe.name.value_or("");
-    data values;
-    values.set("name", ShownText::Name(name, ShownText::InCard));
-    values.set("id", std::to_string(recipe.id));
-    values.set("yield", CountOf(recipe.yield, "serving"));
-    values.set("time", CountOf(recipe.prepTime, "minute"));
-    values.set("hasServing", !serving.empty());
-    values.set("serving", serving);
-    values.set("calories", Calories(recipe.PerServing(CaloriesPosition - 1)));
-    values.set("hasInstructions", !Trimmed(instructions).empty());
-    values.set("instructions", instructions);
-    values.set("any", !recipe.ingredients.empty());
-    values.set("ingredients", IngredientsOf(recipe));
-    values.set("large", NutritionOf(recipe, true));
-    values.set("small", NutritionOf(recipe, false));
-    values.set("report", ReportForm(recipe.id, token));
+    Values values;
+    values.Set("name", ShownText::Name(name, ShownText::InCard));
+    values.Set("id", std::to_string(recipe.id));
+    values.Set("yield", CountOf(recipe.yield, "serving"));
+    values.Set("time", CountOf(recipe.prepTime, "minute"));
+    values.Set("serving", serving);
+    values.Set("calories", Calories(recipe.PerServing(CaloriesPosition - 1)));
+    values.Show("hasInstructions", !Trimmed(instructions).empty());
+    values.Set("instructions", instructions);
+    values.Show("any", !recipe.ingredients.empty());
+    values.Each("ingredients", IngredientsOf(recipe));
+    values.Each("large", NutritionOf(recipe, true));
+    values.Each("small", NutritionOf(recipe, false));
+    InsertReportForm(values, recipe.id, token);
     return Page(ShownText::Name(name, ShownText::InList), Place::Elsewhere, !recipe.isPublic,
-                content.Fill(values));
+                content, std::move(values));
 }
 
 std::string NoMail(const std::string& token) {
-    thread_local Template content(Assets::nomail);
-    data values;
-    values.set("token", token);
-    return Page("No more mails", Place::Elsewhere, true, content.Fill(values));
+    static const Template content(Assets::nomail);
+    Values values;
+    values.Set("token", token);
+    return Page("No more mails", Place::Elsewhere, true, content, std::move(values));
 }
 
 std::string Notice(const std::string& heading, const std::string& text) {
-    thread_local Template content(Assets::problem);
-    data values;
-    values.set("heading", heading);
-    values.set("reason", text);
-    return Page(heading, Place::Elsewhere, true, content.Fill(values));
+    static const Template content(Assets::problem);
+    Values values;
+    values.Set("heading", heading);
+    values.Set("reason", text);
+    return Page(heading, Place::Elsewhere, true, content, std::move(values));
 }
 
 std::string Problem(int status, const std::string& reason) {
