@@ -2,8 +2,12 @@
 
 #include "exchange/Json.h"
 
+#include <simdjson.h>
+
 namespace exchange::Documents {
 namespace {
+namespace json = simdjson::ondemand;
+
 void Text(std::string& json, std::string_view name, const std::optional<std::string>& text) {
     json.append("\"").append(name).append("\":");
     Json::AppendText(json, text);
@@ -30,6 +34,53 @@ void Row(std::string& json, const Ingredient& ingredient, int id, int recipeID) 
     Json::AppendText(json += ',', ingredient.Portion());
     json.append(",").append(std::to_string(recipeID)).append(",null]");
 }
+
+std::optional<double> NumberOf(json::value value) {
+    if (value.is_null())
+        return {};
+    return value.get_double().value();
+}
+
+std::optional<std::string> TextOf(json::value value) {
+    if (value.is_null())
+        return {};
+    return std::string(value.get_string().value());
+}
+
+Ingredient IngredientOf(json::array row) {
+    Ingredient ingredient;
+    size_t position = 0;
+    for (auto value : row) {
+        if (position > IDPosition && position <= NutrientCount)
+            ingredient.nutrients[position - 1] = NumberOf(value.value());
+        else if (position == FoodNamePosition)
+            ingredient.foodName = TextOf(value.value());
+        else if (position == ServingPosition)
+            ingredient.serving = TextOf(value.value());
+        ++position;
+    }
+    return ingredient;
+}
+
+void ReadFacts(json::parser& parser, const std::string& document, Recipe& recipe) {
+    const simdjson::padded_string text(document);
+    auto facts = parser.iterate(text);
+    recipe.id = static_cast<int>(facts["RecipeID"].get_int64().value());
+    recipe.name = TextOf(facts["RecipeName"].value());
+    recipe.servingName = TextOf(facts["ServingName"].value());
+    recipe.yield = NumberOf(facts["RecipeYield"].value());
+    recipe.prepTime = NumberOf(facts["PrepTime"].value());
+    recipe.instructions = TextOf(facts["Instructions"].value());
+}
+
+void ReadRows(json::parser& parser, const std::string& document, Recipe& recipe) {
+    const simdjson::padded_string text(document);
+    auto whole = parser.iterate(text);
+    json::array rows = whole["rows"];
+    recipe.ingredients.reserve(rows.count_elements());
+    for (auto row : rows)
+        recipe.ingredients.push_back(IngredientOf(row.get_array()));
+}
 } // namespace
 
 std::string RecipeDocument(const Recipe& recipe) {
@@ -52,6 +103,14 @@ std::string IngredientsDocument(const Recipe& recipe) {
         Row(json, ingredient, ++id, recipe.id);
     }
     return json + "]}";
+}
+
+Recipe Read(const std::string& recipe, const std::string& ingredients) {
+    Recipe read;
+    json::parser parser; // one for both: it takes its memory once
+    ReadFacts(parser, recipe, read);
+    ReadRows(parser, ingredients, read);
+    return read;
 }
 
 } // namespace exchange::Documents

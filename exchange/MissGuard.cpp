@@ -49,10 +49,8 @@ MissGuard::Guess MissGuard::Of(const Visitor& visitor) const {
 
 int MissGuard::Counted(Connection& connection, const Guess& guess) {
     static const std::string counting = std::string("SELECT ") + Counting;
-    const auto& names = guess.names;
     std::optional<int> misses;
-    connection.First(counting, use(names[0]), use(names[1]), use(names[2]), use(names[3]),
-                     use(guess.slot), into(misses));
+    guess.With([&](const auto&... uses) { connection.First(counting, uses..., into(misses)); });
     return misses.value_or(0);
 }
 

@@ -24,6 +24,13 @@ public:
     struct Guess {
         std::array<std::string, std::size(Limits::Growth)> names;
         long long slot = 0;
+
+        /// Calls `run` with the values that `Counting` takes, in its order.
+        template <class Run> void With(const Run& run) const {
+            using soci::use;
+            run(use(names[0]), use(slot), use(names[1]), use(slot), use(names[2]), use(slot),
+                use(names[3]), use(slot));
+        }
     };
 
     explicit MissGuard(const Config& config)
@@ -40,10 +47,15 @@ public:
         return Judge(connection, guess, misses, IsShut(misses, guess) || lookUp());
     }
 
-    /// For a look-up that has read the misses in its own statement, with `Counting`.
+    /// For a look-up that has read the misses in its own statement, with `Counting`. With IN,
+    /// SQLite would make a table for the names at each look-up, which takes longer than to read a
+    /// recipe.
     Verdict Judge(Connection& connection, const Guess& guess, int misses, bool found) const;
     static constexpr const char* Counting =
-        "(SELECT MAX(Hits) FROM counters WHERE Name IN (:a, :b, :c, :d) AND Slot = :slot)";
+        "(SELECT MAX(Hits) FROM (SELECT Hits FROM counters WHERE Name = :a AND Slot = :sa"
+        " UNION ALL SELECT Hits FROM counters WHERE Name = :b AND Slot = :sb"
+        " UNION ALL SELECT Hits FROM counters WHERE Name = :c AND Slot = :sc"
+        " UNION ALL SELECT Hits FROM counters WHERE Name = :d AND Slot = :sd) counted)";
 
     /// Refuses, unless it is found.
     static void Require(Verdict verdict);

@@ -79,7 +79,7 @@ Mailer::Result Postman::HandOver(const Outbox::Entry& entry) const {
     {
         const Pool::Lease lease(service_.pool);
         if (!noMail_.Holds(*lease, entry.to))
-            recipe = RecipeStore(*lease).ReadWhole(entry.recipeID);
+            recipe = RecipeStore(*lease).ReadShown(entry.recipeID, {}).recipe;
     }
     if (!recipe)
         return Mailer::Result::Refused;

@@ -46,6 +46,22 @@ std::string SelectIngredients() {
     return "SELECT " + columns + " FROM ingredients WHERE RecipeID = :id ORDER BY ID";
 }
 
+/// Reads columns of the documents of a recipe, and the misses of the one who asks for it.
+std::string WithMisses(const std::string& columns, const std::string& joins = {}) {
+    return "SELECT Misses, " + columns + " FROM (SELECT " + MissGuard::Counting +
+           " AS Misses) guess LEFT JOIN documents ON documents.RecipeID = :id" + joins;
+}
+
+template <class... Into>
+int ReadWithMisses(Connection& connection, const std::string& statement,
+                   const MissGuard::Guess& guess, int id, const Into&... columns) {
+    std::optional<int> misses;
+    guess.With([&](const auto&... uses) {
+        connection.First(statement, uses..., use(id), into(misses), columns...);
+    });
+    return misses.value_or(0);
+}
+
 /// Changes each text that may hold any letter, on its way into its row and back.
 using ChangeOfText = std::string (*)(std::string_view);
 void EachText(std::initializer_list<std::optional<std::string>*> texts, ChangeOfText change) {
@@ -158,16 +174,6 @@ void RecipeStore::ReadIngredients(Recipe& recipe) {
     (std::make_index_sequence<NutrientCount>());
 }
 
-std::optional<Recipe> RecipeStore::ReadWhole(int id) {
-    auto recipe = ReadRow(id);
-    if (recipe) {
-        recipe->from.clear();
-        recipe->to.clear();
-        ReadIngredients(*recipe);
-    }
-    return recipe;
-}
-
 std::optional<Recipe> RecipeStore::Finish(int id) {
     const auto now = Moment::Now();
     if (connection_.Change(Claim, use(now), use(id)) == 0)
@@ -207,20 +213,29 @@ void RecipeStore::NoteMailed(int id) {
 }
 
 RecipeStore::Document RecipeStore::Read(int id, Part part, const MissGuard::Guess& guess) {
-    static const std::string recipe =
-        std::string("SELECT (SELECT RecipeText FROM documents WHERE RecipeID = :id), ") +
-        MissGuard::Counting;
-    static const std::string ingredients =
-        std::string("SELECT (SELECT IngredientsText FROM documents WHERE RecipeID = :id), ") +
-        MissGuard::Counting;
-    const auto& names = guess.names;
+    static const std::string recipe = WithMisses("RecipeText");
+    static const std::string ingredients = WithMisses("IngredientsText");
     Document document;
-    std::optional<int> misses;
-    connection_.First(part == Part::Recipe ? recipe : ingredients, use(id), use(names[0]),
-                      use(names[1]), use(names[2]), use(names[3]), use(guess.slot),
-                      into(document.text), into(misses));
-    document.misses = misses.value_or(0);
+    document.misses = ReadWithMisses(connection_, part == Part::Recipe ? recipe : ingredients,
+                                     guess, id, into(document.text));
     return document;
+}
+
+RecipeStore::Shown RecipeStore::ReadShown(int id, const MissGuard::Guess& guess) {
+    static const std::string statement =
+        WithMisses("RecipeText, IngredientsText, Place",
+                   " LEFT JOIN listing ON listing.RecipeID = documents.RecipeID");
+    Shown shown;
+    std::optional<std::string> recipe;
+    std::optional<std::string> ingredients;
+    std::optional<long long> place;
+    shown.misses = ReadWithMisses(connection_, statement, guess, id, into(recipe),
+                                  into(ingredients), into(place));
+    if (recipe) {
+        shown.recipe = Documents::Read(*recipe, ingredients.value_or(""));
+        shown.recipe->isPublic = place.has_value();
+    }
+    return shown;
 }
 
 /// Its place is kept for it, as a negative number: no list goes there.

@@ -59,8 +59,12 @@ public:
         int misses = 0;
     };
     Document Read(int id, Part part, const MissGuard::Guess& guess);
-    std::optional<Recipe> ReadWhole(int id); ///< of a sent recipe, without its addresses
-    void ReadIngredients(Recipe& recipe);    ///< adds those of its ID
+    struct Shown {
+        std::optional<Recipe> recipe; ///< without its addresses
+        int misses = 0;
+    };
+    Shown ReadShown(int id, const MissGuard::Guess& guess);
+    void ReadIngredients(Recipe& recipe); ///< adds those of its ID
 
     static constexpr int PageSize = 20;
     struct ListPortion {

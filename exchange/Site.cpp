@@ -101,17 +101,16 @@ void Site::RecipePage(const Ask& ask, Reply& reply) const {
     if (!id)
         MissGuard::Require(MissGuard::Verdict::Missed);
     service_.rates.Take(Rates::Pages, ask.visitor);
-    std::optional<Recipe> recipe;
+    const auto guess = service_.guard.Of(ask.visitor);
+    RecipeStore::Shown shown;
     auto verdict = MissGuard::Verdict::Found;
     {
         const Pool::Lease lease(service_.pool);
-        verdict = service_.guard.Look(*lease, ask.visitor, [&] {
-            recipe = RecipeStore(*lease).ReadWhole(*id);
-            return recipe.has_value();
-        });
+        shown = RecipeStore(*lease).ReadShown(*id, guess);
+        verdict = service_.guard.Judge(*lease, guess, shown.misses, shown.recipe.has_value());
     }
     MissGuard::Require(verdict);
-    reply.SetContent(Pages::RecipePage(*recipe, reportToken_.For(*id, ask.visitor)), HtmlType);
+    reply.SetContent(Pages::RecipePage(*shown.recipe, reportToken_.For(*id, ask.visitor)), HtmlType);
 }
 
 void Site::Fail(const Request& request, Reply& reply, int status, const std::string& reason) {

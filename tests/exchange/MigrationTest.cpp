@@ -82,7 +82,13 @@ protected:
             if (recipe % Unfinished == 0)
                 continue;
             const int id = recipe + 1;
-            const auto text = json{{"RecipeID", id}, {"RecipeName", "Recipe"}}.dump();
+            const auto text = json{{"RecipeID", id},
+                                   {"RecipeName", "Recipe " + std::to_string(recipe)},
+                                   {"ServingName", "1 bowl"},
+                                   {"RecipeYield", 4.5},
+                                   {"PrepTime", recipe},
+                                   {"Instructions", "Cook " + std::to_string(recipe)}}
+                                  .dump();
             connection.Change("INSERT INTO documents VALUES (:id, :recipe, :ingredients)",
                               soci::use(id), soci::use(text), soci::use(OldDocument(recipe)));
         }
@@ -190,6 +196,10 @@ TEST_P(MigrationTest, ARunningExchangeIsTakenOverWithNothingLost) {
               std::string::npos);
     EXPECT_LT(Text("/halvane/community.asp").find("recID=10000\">"),
               Text("/halvane/community.asp").find("recID=9998\">"));
+    const auto page = Text("/halvane/recipe.asp?recID=10000");
+    for (const auto* part : {"<h1>Recipe 9999</h1>", "<dd>9999 minutes</dd>", ">Cook 9999<",
+                             "Food 2<span class=\"note\">1.5 x 1 cup</span>"})
+        EXPECT_NE(page.find(part), std::string::npos) << part;
 }
 
 TEST_P(MigrationTest, ARecipeThatWasBegunBeforeIsFinishedAfterwards) {
