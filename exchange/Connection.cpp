@@ -35,7 +35,20 @@ std::string WithTimeouts(std::string server) {
     return server;
 }
 
-soci::connection_parameters Parameters(const std::string& database) {
+/// All threads would wait at one lock to count what memory SQLite holds. A connection is for one
+/// thread at a time, and needs no lock of its own.
+void ReadySQLite() {
+    static const bool done = [] {
+        sqlite_api::sqlite3_config(SQLITE_CONFIG_MEMSTATUS, 0);
+        sqlite_api::sqlite3_config(SQLITE_CONFIG_MULTITHREAD);
+        return true;
+    }();
+    static_cast<void>(done);
+}
+
+soci::connection_parameters ParametersOf(const std::string& database) {
+    if (IsFile(database))
+        ReadySQLite();
     if (IsFile(database))
         return {soci::sqlite3, "db=\"" + database + "\" timeout=10 shared_cache=false"};
     if (database.starts_with("postgresql://"))
@@ -58,7 +71,7 @@ constexpr const char* ServerSettings[] = {
 
 Connection::Connection(const std::string& database)
     : embedded_(IsFile(database))
-    , session_(Parameters(database))
+    , session_(ParametersOf(database))
     , watch_([this] { Interrupt(); }) {
     const Timed timed(*this, true);
     Tune();
