@@ -21,18 +21,25 @@ Workers::~Workers() {
 }
 
 void Workers::Add(const std::string& client, Job job) {
-    const std::lock_guard lock(mutex_);
+    std::unique_lock lock(mutex_);
     auto& queue = queues_[client];
     queue.jobs.push_back(std::move(job));
-    GiveTurn(client, queue);
+    Wake(lock, GiveTurn(client, queue));
 }
 
-void Workers::GiveTurn(const std::string& client, Queue& queue) {
+bool Workers::GiveTurn(const std::string& client, Queue& queue) {
     if (queue.hasTurn || queue.jobs.empty() || queue.running >= mostPerClient_)
-        return;
+        return false;
     queue.hasTurn = true;
     turns_.push_back(client);
-    wake_.notify_one();
+    return true;
+}
+
+/// A thread that wakes needs the lock at once.
+void Workers::Wake(std::unique_lock<std::mutex>& lock, bool wanted) {
+    lock.unlock();
+    if (wanted)
+        wake_.notify_one();
 }
 
 void Workers::Run() {
@@ -48,13 +55,12 @@ void Workers::Run() {
         auto job = std::move(queue.jobs.front());
         queue.jobs.pop_front();
         ++queue.running;
-        GiveTurn(client, queue);
-        lock.unlock();
+        Wake(lock, GiveTurn(client, queue));
         job();
         job = nullptr;
         lock.lock();
         --queue.running;
-        GiveTurn(client, queue);
+        GiveTurn(client, queue); // this thread takes the next turn
         if (queue.running == 0 && queue.jobs.empty())
             queues_.erase(client);
     }

@@ -31,7 +31,8 @@ private:
     };
 
     void Run();
-    void GiveTurn(const std::string& client, Queue& queue);
+    bool GiveTurn(const std::string& client, Queue& queue);
+    void Wake(std::unique_lock<std::mutex>& lock, bool wanted);
 
     std::mutex mutex_;
     std::condition_variable wake_;
