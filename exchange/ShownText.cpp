@@ -37,6 +37,8 @@ constexpr Range Ranges[] = {
 };
 
 Kind KindOf(char32_t letter) {
+    if (letter > ' ' && letter < 0x7f)
+        return Kind::Seen;
     if ((letter & 0xfffe) == 0xfffe)
         return Kind::Hidden;
     const auto* range = std::lower_bound(

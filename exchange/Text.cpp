@@ -64,10 +64,8 @@ std::optional<int> WholeNumber(std::string_view text, int least, int most) {
 }
 
 namespace {
-/// How many bytes the letter that begins with this byte has; 0 if none begins with it.
+/// How many bytes the letter beyond ASCII has that begins with this byte; 0 if none begins with it.
 size_t LengthOf(unsigned lead) {
-    if (lead < 0x80)
-        return 1;
     if (lead >> 5 == 0b110)
         return 2;
     if (lead >> 4 == 0b1110)
@@ -77,9 +75,7 @@ size_t LengthOf(unsigned lead) {
 
 std::optional<char32_t> CodeOf(std::string_view bytes) {
     constexpr char32_t least[] = {0, 0, 0x80, 0x800, 0x10000};
-    char32_t code = static_cast<unsigned char>(bytes[0]);
-    if (bytes.size() > 1)
-        code &= 0x7fU >> bytes.size();
+    char32_t code = static_cast<unsigned char>(bytes[0]) & (0x7fU >> bytes.size());
     for (const char c : bytes.substr(1)) {
         const unsigned next = static_cast<unsigned char>(c);
         if (next >> 6 != 0b10)
@@ -94,7 +90,10 @@ std::optional<char32_t> CodeOf(std::string_view bytes) {
 } // namespace
 
 std::optional<Letter> FirstLetter(std::string_view text) {
-    const auto size = text.empty() ? 0 : LengthOf(static_cast<unsigned char>(text[0]));
+    const auto lead = text.empty() ? 0xffU : static_cast<unsigned char>(text[0]);
+    if (lead < 0x80)
+        return Letter{lead, 1};
+    const auto size = LengthOf(lead);
     if (size == 0 || size > text.size())
         return {};
     const auto code = CodeOf(text.substr(0, size));
