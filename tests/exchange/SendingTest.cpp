@@ -2,6 +2,8 @@
 #include "support/SmtpSink.h"
 #include "support/Until.h"
 
+#include "exchange/Moderation.h"
+
 #include <csignal>
 #include <future>
 
@@ -342,4 +344,20 @@ TEST_P(SendingTest, AddressesAreInNoReplyPageOrLog) {
     EXPECT_EQ(log.find(number), std::string::npos) << "an ID is in the log";
     EXPECT_EQ(log.find("127.0.0.1"), log.rfind("127.0.0.1")) << "more than its own address";
     EXPECT_NE(log.find("sendrecipe"), std::string::npos);
+}
+
+TEST_P(SendingTest, AMailThatWaitsIsNotSentOnceItsRecipeIsHiddenOrRemoved) {
+    for (const auto act : {&exchange::Moderation::Hide, &exchange::Moderation::Remove}) {
+        const SmtpSink sink(SmtpSink::Manner::Greylists);
+        Start(Mailing(sink));
+        const auto created = Create();
+        SendCreated(created.id);
+        ASSERT_TRUE(Until([&] { return sink.Tries() > 0; }));
+        exchange::Connection connection(Database());
+        EXPECT_TRUE((exchange::Moderation(connection).*act)(created.id));
+        EXPECT_TRUE(IsOutboxEmpty());
+        EXPECT_EQ(Running().End(), 0);
+        EXPECT_LT(sink.Tries(), SmtpSink::GreylistedTries);
+        EXPECT_TRUE(sink.Mails().empty());
+    }
 }
