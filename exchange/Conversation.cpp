@@ -42,7 +42,7 @@ Conversation::Conversation(Front& front, Front::Socket socket, std::string peer,
     : front_(front)
     , socket_(std::move(socket))
     , clock_(front.io_.get_executor())
-    , answered_(front.io_.get_executor())
+    , woken_(front.io_.get_executor())
     , peer_(std::move(peer))
     , proxy_(front.visitors_.IsProxy(peer_))
     , turnedAway_(turnedAway)
@@ -50,6 +50,8 @@ Conversation::Conversation(Front& front, Front::Socket socket, std::string peer,
           std::make_shared<Visitor>(proxy_ || turnedAway ? Visitor{} : front.visitors_.At(peer_)))
     , asker_(holder_)
     , place_(front.conversations_.insert(front.conversations_.end(), this)) {
+    Error ignored;
+    socket_.non_blocking(true, ignored);
     front_.connections_.Add(*holder_, 1);
     front_.turnedAway_ += turnedAway_;
 }
@@ -69,6 +71,7 @@ void Conversation::Leave() {
     if (std::exchange(left_, true))
         return;
     HoldBody(0);
+    front_.bodyTurns_.Leave(woken_);
     front_.connections_.Add(*holder_, -1);
     front_.turnedAway_ -= turnedAway_;
     front_.conversations_.erase(place_);
@@ -76,10 +79,15 @@ void Conversation::Leave() {
 }
 
 void Conversation::RefuseBody() {
-    Error ignored;
     bodyRefused_ = true;
     HoldBody(0);
+    StopReceiving();
+}
+
+void Conversation::StopReceiving() {
+    Error ignored;
     socket_.cancel(ignored);
+    front_.bodyTurns_.Leave(woken_);
 }
 
 void Conversation::HoldBody(size_t bytes) {
@@ -167,12 +175,31 @@ Front::Task<void> Conversation::ReceiveBody(RequestHead& head) {
         const auto portion = std::min(BodyPortion, length - body.size());
         if (!front_.TakeBodyRoom(*this, portion)) {
             head.status = 503;
-        } else if (!co_await Receive(body, portion)) {
+        } else if (!co_await ReceiveInTurn(body, portion)) {
             gone_ = gone_ || !(bodyRefused_ || timedOut_);
             head.status = bodyRefused_ ? 503 : 408;
         }
         if (head.status == 0)
             HoldBody(body.size());
+    }
+}
+
+/// False if nothing comes any more, or if what comes is not wanted any more.
+Front::Task<bool> Conversation::ReceiveInTurn(std::string& text, size_t most) {
+    const auto size = text.size();
+    for (;;) {
+        Error error;
+        front_.bodyTurns_.Enter(woken_);
+        co_await woken_.async_wait(asio::redirect_error(Await, error));
+        if (gone_ || timedOut_ || bodyRefused_)
+            co_return false;
+        text.resize(size + most);
+        text.resize(size + socket_.read_some(asio::buffer(text.data() + size, most), error));
+        if (error != asio::error::would_block)
+            co_return !error;
+        co_await socket_.async_wait(Front::Socket::wait_read, asio::redirect_error(Await, error));
+        if (error)
+            co_return false;
     }
 }
 
@@ -216,15 +243,15 @@ Front::Task<void> Conversation::HandOver(std::shared_ptr<Errand> errand, millise
         asio::post(front.io_, [errand] {
             errand->done = true;
             if (errand->waiting)
-                errand->waiting->answered_.cancel();
+                errand->waiting->woken_.cancel();
         });
     };
     Enter(State::Answering, most);
     errand->waiting = this;
     workers.Add(errand->visitor->networks.back(), std::move(job));
     Error ignored;
-    answered_.expires_at(Clock::time_point::max());
-    co_await answered_.async_wait(asio::redirect_error(Await, ignored));
+    woken_.expires_at(Clock::time_point::max());
+    co_await woken_.async_wait(asio::redirect_error(Await, ignored));
     errand->waiting = nullptr;
     errand->givenUp = !errand->done;
     reply_ = errand->done ? std::move(errand->reply) : front_.router_.Refused(errand->request, 503);
@@ -248,8 +275,9 @@ Front::Task<void> Conversation::LetFinish() {
     Error ignored;
     Enter(State::Closing, ToFinish);
     socket_.shutdown(Front::Socket::shutdown_send, ignored);
+    bodyRefused_ = timedOut_ = false;
     arrived_.clear();
-    while (co_await Receive(arrived_, HeadPortion))
+    while (co_await ReceiveInTurn(arrived_, BodyPortion))
         arrived_.clear();
 }
 
@@ -283,12 +311,11 @@ void Conversation::KeepTime() {
 }
 
 void Conversation::Expire() {
-    Error ignored;
     timedOut_ = true;
     if (state_ == State::Answering)
-        answered_.cancel();
+        woken_.cancel();
     else if (state_ == State::Waiting || state_ == State::Receiving)
-        socket_.cancel(ignored);
+        StopReceiving();
     else
         End();
 }

@@ -33,12 +33,14 @@ private:
     Front::Task<bool> ReceiveHead();
     Front::Task<bool> Receive(std::string& text, size_t most);
     Front::Task<void> ReceiveBody(RequestHead& head);
+    Front::Task<bool> ReceiveInTurn(std::string& text, size_t most);
     Front::Task<void> Answer(RequestHead& head);
     Front::Task<void> HandOver(std::shared_ptr<Errand> errand, std::chrono::milliseconds most);
     Front::Task<bool> Send(bool withBody, bool close);
     Front::Task<void> LetFinish();
 
     void Leave();
+    void StopReceiving();
     RequestHead TakeHead();
     void HoldBody(size_t bytes);
     void Refuse(RequestHead& head);
@@ -50,7 +52,7 @@ private:
     Front& front_;
     Front::Socket socket_;
     Front::Timer clock_;
-    Front::Timer answered_;
+    Front::Timer woken_; ///< for the reply of a worker, or a turn to read
     std::string peer_;
     bool proxy_;
     bool turnedAway_;

@@ -52,6 +52,7 @@ void Front::Open() {
     if (acceptor_.bind(endpoint, error) || acceptor_.listen(Backlog, error))
         throw ConfigError("cannot listen at " + config_.address + " port " +
                           std::to_string(config_.port) + ": " + error.message());
+    acceptor_.non_blocking(true);
     port_ = acceptor_.local_endpoint().port();
 }
 
@@ -94,14 +95,26 @@ void Front::EndIfEmpty() {
 
 Front::Task<void> Front::Accept() {
     while (!stopping_) {
+        Error ignored;
+        co_await acceptor_.async_wait(Acceptor::wait_read, asio::redirect_error(Await, ignored));
+        if (AcceptAll() || stopping_)
+            continue;
+        pause_.expires_after(OutOfDescriptors);
+        co_await pause_.async_wait(asio::redirect_error(Await, ignored));
+    }
+}
+
+/// Takes all who wait: if each had to wait for a turn of its own among the connections that send,
+/// the last of them would wait for seconds. False if there is no descriptor for the next.
+bool Front::AcceptAll() {
+    for (;;) {
         Error error;
-        auto socket = co_await acceptor_.async_accept(asio::redirect_error(Await, error));
-        if (!error) {
+        Socket socket(io_.get_executor());
+        acceptor_.accept(socket, error);
+        if (!error)
             Admit(std::move(socket));
-        } else if (error != asio::error::connection_aborted && !stopping_) {
-            pause_.expires_after(OutOfDescriptors);
-            co_await pause_.async_wait(asio::redirect_error(Await, error));
-        }
+        else if (error != asio::error::connection_aborted)
+            return error == asio::error::would_block;
     }
 }
 

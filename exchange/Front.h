@@ -3,13 +3,13 @@
 #include "exchange/Config.h"
 #include "exchange/Router.h"
 #include "exchange/Shares.h"
+#include "exchange/Turns.h"
 #include "exchange/Visitor.h"
 #include "exchange/Workers.h"
 
 #include <boost/asio/awaitable.hpp>
 #include <boost/asio/io_context.hpp>
 #include <boost/asio/ip/tcp.hpp>
-#include <boost/asio/steady_timer.hpp>
 
 #include <list>
 #include <map>
@@ -44,10 +44,10 @@ public:
 private:
     friend class Conversation;
     using Acceptor = boost::asio::basic_socket_acceptor<boost::asio::ip::tcp, Executor>;
-    using Timer = boost::asio::basic_waitable_timer<
-        std::chrono::steady_clock, boost::asio::wait_traits<std::chrono::steady_clock>, Executor>;
+    using Timer = Turns::Timer;
 
     Task<void> Accept();
+    bool AcceptAll();
     Task<void> TellAlive();
     void Admit(Socket socket);
     bool HasPlaceFor(const Visitor& visitor);
@@ -65,6 +65,7 @@ private:
     size_t turnedAway_ = 0;
     Shares connections_;
     Shares bodies_;
+    Turns bodyTurns_;
     boost::asio::io_context io_{1};
     Acceptor acceptor_{io_.get_executor()};
     Timer pause_{io_.get_executor()};

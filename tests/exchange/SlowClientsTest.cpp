@@ -2,6 +2,7 @@
 #include "support/RawClient.h"
 #include "support/Until.h"
 
+#include <algorithm>
 #include <csignal>
 #include <future>
 
@@ -97,6 +98,31 @@ TEST_P(SlowClientsTest, OneClientHasSoManyConnectionsAndTheOthersTheirs) {
         const auto reply = Get("/health");
         return reply && reply->status == 200;
     }));
+}
+
+TEST_P(SlowClientsTest, NewClientsAreServedWhileHundredsOfBodiesArrive) {
+    Start();
+    auto asking = std::async(std::launch::async, [&] {
+        std::chrono::steady_clock::duration longest{};
+        const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(3);
+        while (std::chrono::steady_clock::now() < end) {
+            const auto begin = std::chrono::steady_clock::now();
+            EXPECT_EQ(RawClient::Status(RawClient::Ask(Running().Port(),
+                                                       "GET /health HTTP/1.1\r\nHost: x\r\n\r\n")),
+                      200);
+            longest = std::max(longest, std::chrono::steady_clock::now() - begin);
+        }
+        return longest;
+    });
+    std::vector<std::unique_ptr<RawClient>> senders;
+    for (int i = 0; i < 800; ++i) {
+        const auto from = "127.9." + std::to_string(i % 16) + ".1";
+        senders.push_back(std::make_unique<RawClient>(Running().Port(), from));
+        senders.back()->Send("POST /halvane/api/recipes HTTP/1.1\r\nHost: x\r\n"
+                             "Content-Type: application/json\r\nContent-Length: 1048576\r\n\r\n" +
+                             std::string(1 << 19, ' '));
+    }
+    EXPECT_LT(asking.get(), std::chrono::milliseconds(500));
 }
 
 TEST_P(SlowClientsTest, RequestsInOnePieceAreAnsweredInTheirOrder) {
