@@ -138,6 +138,8 @@ void Config::Set(const std::string& name, const std::string& value) {
     std::visit(Assign{*this, name, value}, *place);
 }
 
+/// The reader of the command line's library would cut a password at a #, take off its quotes, and
+/// let the file override the environment.
 void Config::ReadFile(const std::string& name) {
     std::ifstream file(name);
     if (!file)
