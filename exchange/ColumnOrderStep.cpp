@@ -89,7 +89,7 @@ void CopyDocument(Connection& connection, int id) {
                       use(ingredients), use(id));
 }
 
-/// A portion at a time: neither database hands out rows without holding all of them.
+/// Reads a portion at a time, since both client libraries keep all rows of a result in memory.
 std::vector<int> IDsAfter(Connection& connection, int last) {
     std::vector<int> ids;
     int id = 0;

@@ -7,10 +7,10 @@ namespace exchange {
 /// The words that the program is started with, and what stands in the environment and in the file
 /// that they name.
 namespace CommandLine {
-/// Something that is done instead of serving, perhaps to an object.
+/// A command that the program runs instead of serving. It may take an argument.
 struct Option {
     std::string name;
-    std::string object; ///< what it is called in the help; empty if there is none
+    std::string object; ///< the name of the argument in the help; empty if there is none
     std::string help;
 };
 

@@ -17,7 +17,7 @@ bool IsFile(std::string_view database) {
 constexpr std::chrono::seconds LongestRead(5);
 constexpr std::chrono::seconds LongestWrite(20);
 
-/// A database server that has vanished is noticed in seconds, unless the setting says otherwise.
+/// Notices within seconds that the database server is gone, unless the setting says otherwise.
 std::string WithTimeouts(std::string server) {
     constexpr std::pair<std::string_view, std::string_view> timeouts[] = {
         {"connect_timeout=", "5"},
@@ -35,8 +35,8 @@ std::string WithTimeouts(std::string server) {
     return server;
 }
 
-/// All threads would wait at one lock to count what memory SQLite holds. A connection is for one
-/// thread at a time, and needs no lock of its own.
+/// By default all threads share a lock under which SQLite counts its memory, and each connection
+/// has a lock. One thread at a time uses a connection, so neither is needed.
 void ReadySQLite() {
     static const bool done = [] {
         sqlite_api::sqlite3_config(SQLITE_CONFIG_MEMSTATUS, 0);
@@ -77,7 +77,7 @@ Connection::Connection(const std::string& database)
     Tune();
 }
 
-/// Each statement would still be taken back at the server, which may have stopped answering.
+/// Otherwise the library would free each statement at the server, which may no longer answer.
 Connection::~Connection() {
     if (!embedded_)
         Interrupt();

@@ -13,7 +13,7 @@
 #include <string_view>
 
 namespace soci {
-/// What is empty is null in the database.
+/// An empty optional is null in the database.
 template <class T> struct type_conversion<std::optional<T>> {
     using base_type = typename type_conversion<T>::base_type;
     static void from_base(const base_type& value, indicator is, std::optional<T>& member) {
@@ -98,7 +98,7 @@ public:
 
 private:
     friend class Transaction;
-    /// Notes when an exception goes through it.
+    /// Notes when an exception leaves its scope.
     class Noted {
     public:
         explicit Noted(Connection& connection)
@@ -115,7 +115,7 @@ private:
         int exceptions_ = std::uncaught_exceptions();
     };
 
-    /// Runs while a statement does.
+    /// Lives while a statement runs.
     class Timed {
     public:
         Timed(Connection& connection, bool writes);

@@ -117,7 +117,7 @@ Front::Task<void> Conversation::Run(std::shared_ptr<Conversation> self) {
     }
 }
 
-/// False if no request comes any more.
+/// False if the client sends no further request.
 Front::Task<bool> Conversation::ReceiveHead() {
     const auto forRequest = turnedAway_ ? ToBeTurnedAway : seconds(front_.config_.request_seconds);
     const bool first = deadline_ == Clock::time_point();
@@ -184,7 +184,7 @@ Front::Task<void> Conversation::ReceiveBody(RequestHead& head) {
     }
 }
 
-/// False if nothing comes any more, or if what comes is not wanted any more.
+/// False at the end of the stream, at the deadline, or if the body has been refused.
 Front::Task<bool> Conversation::ReceiveInTurn(std::string& text, size_t most) {
     const auto size = text.size();
     for (;;) {
@@ -257,7 +257,7 @@ Front::Task<void> Conversation::HandOver(std::shared_ptr<Errand> errand, millise
     reply_ = errand->done ? std::move(errand->reply) : front_.router_.Refused(errand->request, 503);
 }
 
-/// False if the client did not take it.
+/// False if the client did not receive it.
 Front::Task<bool> Conversation::Send(bool withBody, bool close) {
     Enter(State::Sending, seconds(front_.config_.request_seconds));
     const auto head = ReplyHead::Written(reply_, close);
@@ -269,8 +269,8 @@ Front::Task<bool> Conversation::Send(bool withBody, bool close) {
     co_return !error;
 }
 
-/// Lets the other side finish after the last reply: closing on what is still on its way would take
-/// the reply from it.
+/// Reads what the client still sends after the last reply. If we closed with unread data, the
+/// client could lose the reply.
 Front::Task<void> Conversation::LetFinish() {
     Error ignored;
     Enter(State::Closing, ToFinish);
@@ -293,8 +293,8 @@ void Conversation::Enter(State state, milliseconds most) {
         KeepTime();
 }
 
-/// The clock is set again only when it has run out or a deadline comes before it: a request that
-/// is answered in time costs no timer.
+/// Sets the timer again only if it has expired or the new deadline is earlier. A request that is
+/// answered in time costs no timer.
 void Conversation::KeepTime() {
     awake_ = deadline_;
     clock_.expires_at(awake_);

@@ -11,7 +11,7 @@ class Conversation : public std::enable_shared_from_this<Conversation> {
 public:
     enum class State { Waiting, Receiving, Answering, Sending, Closing };
 
-    /// One that is turned away hears that the server is full, whatever it asks.
+    /// A connection that is turned away gets 503 for any request.
     Conversation(Front& front, Front::Socket socket, std::string peer, bool turnedAway);
     ~Conversation();
     Conversation(const Conversation&) = delete;
@@ -20,8 +20,8 @@ public:
     static Front::Task<void> Run(std::shared_ptr<Conversation> self);
 
     State Now() const { return state_; }
-    const Visitor& Holder() const { return *holder_; } ///< who the connection counts for
-    const Visitor& Asker() const { return *asker_; }   ///< who the request counts for
+    const Visitor& Holder() const { return *holder_; } ///< whose connection this is
+    const Visitor& Asker() const { return *asker_; }   ///< whose request this is
     size_t BodyHeld() const { return bodyHeld_; }
     void End();        ///< closes at once, without a further reply
     void RefuseBody(); ///< gives back the room of a body that is still arriving

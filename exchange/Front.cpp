@@ -69,7 +69,7 @@ void Front::Stop() {
     thread_.join();
 }
 
-/// Those whose request is not here as a whole are closed, the others get their reply.
+/// Closes the connections whose request has not arrived completely; the others get their reply.
 void Front::EndAll() {
     Error ignored;
     stopping_ = true;
@@ -104,8 +104,8 @@ Front::Task<void> Front::Accept() {
     }
 }
 
-/// Takes all who wait: if each had to wait for a turn of its own among the connections that send,
-/// the last of them would wait for seconds. False if there is no descriptor for the next.
+/// Accepts all waiting clients at once. If each waited for its own turn behind the connections that
+/// send, the last one would wait for seconds. False if there is no descriptor for the next one.
 bool Front::AcceptAll() {
     for (;;) {
         Error error;
@@ -118,7 +118,7 @@ bool Front::AcceptAll() {
     }
 }
 
-/// From the thread of the connections, so that it is true.
+/// Runs on the thread of the connections, so that it reports what it proves.
 Front::Task<void> Front::TellAlive() {
     const auto interval = Supervisor::Interval();
     while (interval && !stopping_) {
@@ -150,8 +150,8 @@ bool Front::HasPlaceFor(const Visitor& visitor) {
     return greatest != home && TakePlaceFrom(greatest);
 }
 
-/// Of the connections of a network the one that loses least: one that waits before one that works,
-/// an old one before a new one. What is being answered stays.
+/// Ends the connection of a network that loses least: an idle one before a busy one, an old one
+/// before a new one. Never one whose request is being answered.
 bool Front::TakePlaceFrom(const std::string& network) {
     const bool onlyOne = connections_.Of(network) <= 1;
     Conversation* chosen = nullptr;

@@ -38,7 +38,7 @@ public:
     void Open();
     int Port() const { return port_; }
     void Start();
-    /// Takes no more, finishes what is being answered, and closes.
+    /// Accepts no more connections, finishes the running requests, and closes.
     void Stop();
 
 private:

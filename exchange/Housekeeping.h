@@ -8,8 +8,8 @@
 
 namespace exchange {
 
-/// Clears away, every few minutes, what has had its time: recipes that were never finished,
-/// addresses of mails long sent, old counters. Any number of servers may do so at once.
+/// Deletes old data every few minutes: recipes that were never finished, addresses of recipes sent
+/// long ago, old counters. Any number of servers may do so at once.
 class Housekeeping {
 public:
     explicit Housekeeping(const Service& service);

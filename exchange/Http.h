@@ -7,7 +7,7 @@
 
 namespace exchange {
 
-/// One whole request, as the front hands it on: framed once, within the limits.
+/// One complete request within the limits.
 struct Request {
     std::string method;
     std::string path;                                        ///< percent-decoded, without the query

@@ -24,11 +24,11 @@ public:
 
     Counter Daily(std::string_view what, std::string_view who) const; ///< nobody: the whole service
 
-    /// One more; false, and not counted, if that would be above the limit.
+    /// Counts one more. False, without counting, if that would exceed the limit.
     static bool Count(Connection& connection, const Counter& counter, int limit);
 
-    /// One more today for a visitor and for all. False if that is too much for one of his networks,
-    /// or for all; then the caller rolls back. A network has at most a tenth of what all have.
+    /// Counts one more today for a visitor and for all. False if this exceeds the limit of one of
+    /// his networks or of all; then the caller rolls back. A network has at most a tenth of all.
     bool CountToday(Connection& connection, std::string_view what, const Visitor& visitor,
                     int limit, int limitOfAll) const;
 

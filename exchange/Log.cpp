@@ -48,7 +48,7 @@ struct Append {
     void operator()(int number) const { line += std::to_string(number); }
 };
 
-/// What waits to be written has its measure, too: the oldest lines are dropped.
+/// Keeps a limited number of lines that wait to be written, and drops the oldest ones beyond it.
 class Writer {
 public:
     Writer()

@@ -87,7 +87,7 @@ std::string Card(const Recipe& recipe) {
     return text + "Preparation\n" + Instructions(recipe) + "\n\n";
 }
 
-/// Empty if nobody has said where people reach this server.
+/// Empty if public_url is not set.
 std::string NoMailLink(const Config& config, const std::string& token) {
     if (config.public_url.empty())
         return {};

@@ -7,8 +7,7 @@
 
 namespace exchange {
 
-/// The one mail that a recipe goes out in, headers and all, in plain text. The addresses of the
-/// recipe have been checked.
+/// The mail for a recipe with its headers, in plain text. The addresses have been checked.
 /// `noMailToken` is that of the recipient, for the link by which he gets no more mails.
 std::string MailOf(const Recipe& recipe, const Config& config, const std::string& messageID,
                    const std::string& noMailToken);

@@ -5,7 +5,7 @@
 
 namespace exchange {
 
-/// What can be stored; longer ones than that are no addresses.
+/// The longest text that is stored as an address.
 inline constexpr size_t LongestMailAddress = 320;
 
 /// One plain address, name@host.domain: no display name, no list, no quoting, nothing that a header

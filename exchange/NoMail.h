@@ -7,8 +7,8 @@
 
 namespace exchange {
 
-/// Who wants no mail from here. The database holds keyed digests of mailboxes only. Each mail
-/// carries a token for its own mailbox; nobody without the key can make one.
+/// The mailboxes that want no mail from this server. The database holds only their keyed digests.
+/// Each mail carries a token for its mailbox; nobody can make one without the key.
 class NoMail {
 public:
     explicit NoMail(std::string secret)

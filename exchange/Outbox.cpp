@@ -19,7 +19,7 @@ void Outbox::Add(const Recipe& recipe) {
                        use(now));
 }
 
-/// Of several who claim a mail in the same moment, the one gets it who still finds it due as read.
+/// If several claim a mail at once, the first UPDATE gets it: the others no longer find it due.
 std::optional<Outbox::Entry> Outbox::Claim(long long until) {
     const auto now = Moment::Now();
     Entry entry;

@@ -20,7 +20,8 @@ public:
         int recipeID = 0;
         std::string from;
         std::string to;
-        std::string messageID; ///< the same at each try, so that a second copy is known as one
+        std::string
+            messageID; ///< the same at each try, so that mail programs recognise a second copy
         long long queuedAt = 0;
         long long due = 0;
         int tries = 0;

@@ -73,7 +73,7 @@ bool Postman::DeliverNext() {
     }
 }
 
-/// A mail that has lost its recipe, or whose recipient wants no more, is not for the relay.
+/// A mail is not sent if its recipe is hidden or removed, or if its recipient wants no more mails.
 Mailer::Result Postman::HandOver(const Outbox::Entry& entry) const {
     std::optional<Recipe> recipe;
     {

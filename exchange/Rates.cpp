@@ -41,7 +41,7 @@ bool Rates::TakeFrom(Levels& levels, const Visitor& visitor, double most) {
     return true;
 }
 
-/// Wider networks run out faster than this takes them to.
+/// The levels of wider networks decrease faster than this assumes.
 void Rates::ForgetEmpty(Levels& levels, double most) {
     const auto now = Clock::now();
     std::erase_if(levels, [&](const auto& entry) {

@@ -11,8 +11,8 @@
 
 namespace exchange {
 
-/// How often a visitor may ask for what costs much, a minute. Each process counts for itself: what
-/// it protects is its own time.
+/// Limits how often a visitor may ask for expensive pages in a minute. Each process counts for
+/// itself, since it protects its own time.
 class Rates {
 public:
     enum Kind : size_t { Searches, Pages };
@@ -24,7 +24,7 @@ public:
 
 private:
     using Clock = std::chrono::steady_clock;
-    /// What was taken lately; it runs out evenly.
+    /// How much was taken lately. It decreases at a constant rate.
     struct Level {
         double taken = 0;
         Clock::time_point when;

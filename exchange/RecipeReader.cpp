@@ -113,7 +113,7 @@ Places UnnamedPlaces() {
     return places;
 }
 
-/// Each of our names must be there, in any case; as they are as many, no other is.
+/// Each of our names must be there, in upper or lower case. The count excludes any other name.
 Places NamedPlaces(const std::vector<JsonValue>& fields) {
     Places places{};
     for (size_t position = 0; position < FieldCount; ++position) {
@@ -131,7 +131,7 @@ Places NamedPlaces(const std::vector<JsonValue>& fields) {
     return places;
 }
 
-/// A place that is null or not there keeps nothing.
+/// A value that is null or missing stays empty.
 Ingredient IngredientOf(std::vector<JsonValue>& row, const Places& places) {
     static const auto names = FieldNames();
     row.resize(FieldCount);

@@ -7,8 +7,8 @@
 
 namespace exchange {
 
-/// Reads the bodies that a client sends. Whatever is not as docs/exchange.md gives it is refused as
-/// a whole, with a Refusal that names the field.
+/// Reads the bodies that a client sends. Whatever is not as docs/exchange-wire.md gives it is
+/// refused as a whole, with a Refusal that names the field.
 namespace RecipeReader {
 Recipe ReadRecipe(const std::string& body);
 std::vector<Ingredient> ReadIngredients(const std::string& body, int most);

@@ -238,7 +238,7 @@ RecipeStore::Shown RecipeStore::ReadShown(int id, const MissGuard::Guess& guess)
     return shown;
 }
 
-/// Its place is kept for it, as a negative number: no list goes there.
+/// Keeps its place as a negative number, which no list shows.
 void RecipeStore::Unpublish(int id) {
     if (const auto place = PlaceOf(id))
         RecipeSearch(connection_).Remove(*place);
@@ -281,7 +281,7 @@ std::optional<long long> RecipeStore::PlaceOf(int id) {
     return listed ? std::optional(place) : std::nullopt;
 }
 
-/// The row is locked first: whoever is just sending the recipe has listed it when this goes on.
+/// Locks the row first: if the recipe is just being sent, it is listed before this continues.
 bool RecipeStore::Remove(int id) {
     Transaction transaction(connection_);
     connection_.Change("UPDATE recipes SET Token = '' WHERE RecipeID = :id", use(id));

@@ -38,7 +38,7 @@ public:
     Added MayAdd(int id, const std::string& token); ///< whether Add could do anything
     Added Add(int id, const std::string& token, const std::vector<Ingredient>& rows, int most);
 
-    /// What a sender has to be told about, without the ingredients.
+    /// What the reply to the sender depends on.
     struct State {
         bool sent = false;
         std::string from;

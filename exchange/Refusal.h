@@ -5,8 +5,8 @@
 
 namespace exchange {
 
-/// A request that is not done: the status of the reply, and a reason for the one who sent it. One
-/// that a limit refuses tells after how many seconds the limit is another.
+/// Why a request is refused: the status of the reply, and a reason for the client. If a limit
+/// refuses it, it also holds the seconds until the client may try again.
 class Refusal : public std::runtime_error {
 public:
     static constexpr int Minute = 60;
@@ -18,7 +18,7 @@ public:
         , status_(status)
         , retryAfter_(retryAfter) {}
     int Status() const { return status_; }
-    int RetryAfter() const { return retryAfter_; } ///< 0 if that would change nothing
+    int RetryAfter() const { return retryAfter_; } ///< 0 if trying again would not help
 
 private:
     int status_;

@@ -14,8 +14,8 @@ struct RequestHead {
 
     Request request; ///< without body and peer; of a refused one as much as was understood
     std::uint64_t bodyLength = 0;
-    bool close = false; ///< the client wants no further reply on its connection
-    int status = 0;     ///< that it is refused with; 0 if it is understood
+    bool close = false; ///< the connection closes after the reply
+    int status = 0;     ///< of the refusal; 0 if the head is understood
 
     /// The size of the head that the text begins with; 0 if it has not arrived as a whole.
     static size_t SizeIn(std::string_view arrived);

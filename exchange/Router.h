@@ -50,7 +50,7 @@ private:
     };
 
 public:
-    /// What takes a request: nothing, or a route.
+    /// The route that handles a request, if there is one.
     struct Match {
         const Route* route = nullptr;
         std::optional<int> id;

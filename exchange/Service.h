@@ -9,7 +9,7 @@
 
 namespace exchange {
 
-/// What every part that answers requests works with. Lives as long as the server.
+/// What all request handlers share. Lives as long as the server.
 struct Service {
     const Config& config;
     Pool& pool;

@@ -23,7 +23,7 @@ Router::Handler File(const std::string& text, const char* type) {
     };
 }
 
-/// What is asked for where no address was understood gets the reason in the same manner.
+/// A request whose address was not understood gets the reason as JSON, too.
 bool IsForPrograms(const std::string& path) {
     return path.empty() || path == "/health" || path == "/ready" ||
            path.starts_with("/halvane/api/");
@@ -110,7 +110,8 @@ void Site::RecipePage(const Ask& ask, Reply& reply) const {
         verdict = service_.guard.Judge(*lease, guess, shown.misses, shown.recipe.has_value());
     }
     MissGuard::Require(verdict);
-    reply.SetContent(Pages::RecipePage(*shown.recipe, reportToken_.For(*id, ask.visitor)), HtmlType);
+    reply.SetContent(Pages::RecipePage(*shown.recipe, reportToken_.For(*id, ask.visitor)),
+                     HtmlType);
 }
 
 void Site::Fail(const Request& request, Reply& reply, int status, const std::string& reason) {

@@ -7,7 +7,7 @@ namespace exchange {
 namespace {
 constexpr size_t UsualSize = 8192;
 
-/// How a letter is written in HTML; empty if as it is.
+/// The entity of a letter; empty if the letter needs none.
 constexpr std::string_view EscapeOf(char letter) {
     switch (letter) {
     case '&':
@@ -48,7 +48,7 @@ struct Template::Tag {
     static Tag Read(std::string_view text, size_t begin);
 };
 
-/// The values of a list's entry, and those around the list.
+/// The values of an entry, and the scope around its list.
 struct Template::Scope {
     const Values& values;
     const Scope* around;
@@ -57,7 +57,7 @@ struct Template::Scope {
     bool Shows(std::string_view name) const;
     std::string_view TextOf(std::string_view name) const;
 
-    /// Nothing if the value is not there, or is of another kind.
+    /// Null if there is no such value, or if it has another type.
     template <class T> const T* Get(std::string_view name) const {
         const auto* value = Find(name);
         return value ? std::get_if<T>(value) : nullptr;

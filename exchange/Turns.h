@@ -8,8 +8,9 @@
 
 namespace exchange {
 
-/// Lets those who receive bodies read a few at a time, in turn. Between two turns the thread serves
-/// all others: without this, a new client would wait until a thousand senders have been read from.
+/// Lets a few connections at a time read a part of their bodies, in turn. Between two turns the
+/// thread serves all others. Without this, a new client would wait until a thousand bodies had been
+/// read.
 class Turns {
 public:
     using Timer =

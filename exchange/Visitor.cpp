@@ -27,7 +27,7 @@ Visitor Visitors::At(std::string_view address) const {
     return visitor;
 }
 
-/// The last entry is the one that the proxy itself has written; what stands before it is hearsay.
+/// Only the last entry is written by our proxy. The client can forge the others.
 Visitor Visitors::Behind(const Request& request) const {
     const auto names = SplitWords(request.Header("x-forwarded-for"), ", ");
     const auto client = names.empty() ? std::nullopt : NetworkAddress::ReadForwarded(names.back());

@@ -4,7 +4,7 @@
 
 namespace exchange {
 namespace {
-/// When nobody has come or gone for so long, writing is held up.
+/// If no writer has come or gone for this long, writing is blocked.
 constexpr std::chrono::seconds Standstill(1);
 constexpr std::chrono::seconds LongestWait(10);
 } // namespace

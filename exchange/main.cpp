@@ -73,7 +73,7 @@ sigset_t HoldSignals() {
     return ends;
 }
 
-/// What is large goes back to the system as soon as it is free.
+/// Returns large blocks to the system as soon as they are freed.
 void KeepMemorySmall() {
     constexpr int large = 128 * 1024;
     ::mallopt(M_MMAP_THRESHOLD, large);
@@ -93,8 +93,8 @@ void ClaimDescriptors(const Config& config) {
     setrlimit(RLIMIT_NOFILE, &limit);
 }
 
-/// Servers that start in the same moment on a database without any table can trip over each other
-/// at the first one: it is there when they look again.
+/// If servers start at the same moment on an empty database, creating the first table can fail in
+/// one of them. It finds the table at the next attempt.
 void BringUpToDate(Pool& pool) {
     constexpr int attempts = 5;
     constexpr std::chrono::milliseconds pause(100);
@@ -162,7 +162,7 @@ int EndMails(Connection& connection, const Config& config, const std::string& ad
     return Say(done, "No more mails go to this address.\n", "This is no mail address.\n");
 }
 
-/// Everything but serving: it is done at once.
+/// Runs a command of the operator.
 int Do(const CommandLine::Command& command, Connection& connection) {
     if (command.action == "--check") {
         Schema::Check(connection);

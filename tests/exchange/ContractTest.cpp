@@ -7,7 +7,7 @@
 #include <limits>
 #include <set>
 
-/// What the program relies on when it imports and sends; docs/exchange.md is where it is written.
+/// What the program relies on when it imports and sends; docs/exchange-wire.md is where it is written.
 class ContractTest : public ExchangeTest {
 protected:
     void SetUp() override { Start(); }
