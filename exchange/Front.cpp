@@ -19,6 +19,7 @@ using Error = boost::system::error_code;
 
 constexpr asio::use_awaitable_t<Front::Executor> Await;
 constexpr int Backlog = 1024;
+constexpr int AcceptedAtOnce = 32;
 constexpr size_t MostTurnedAway = 64;
 constexpr std::chrono::milliseconds OutOfDescriptors(50);
 constexpr std::chrono::seconds ToEnd(30);
@@ -97,17 +98,18 @@ Front::Task<void> Front::Accept() {
     while (!stopping_) {
         Error ignored;
         co_await acceptor_.async_wait(Acceptor::wait_read, asio::redirect_error(Await, ignored));
-        if (AcceptAll() || stopping_)
+        if (AcceptSome() || stopping_)
             continue;
         pause_.expires_after(OutOfDescriptors);
         co_await pause_.async_wait(asio::redirect_error(Await, ignored));
     }
 }
 
-/// Accepts all waiting clients at once. If each waited for its own turn behind the connections that
-/// send, the last one would wait for seconds. False if there is no descriptor for the next one.
-bool Front::AcceptAll() {
-    for (;;) {
+/// Accepts several waiting clients at once. If each waited for its own turn behind the connections
+/// that send, the last one would wait for seconds. False if there is no descriptor for the next
+/// one.
+bool Front::AcceptSome() {
+    for (int i = 0; i < AcceptedAtOnce; ++i) {
         Error error;
         Socket socket(io_.get_executor());
         acceptor_.accept(socket, error);
@@ -116,6 +118,7 @@ bool Front::AcceptAll() {
         else if (error != asio::error::connection_aborted)
             return error == asio::error::would_block;
     }
+    return true;
 }
 
 /// Runs on the thread of the connections, so that it reports what it proves.

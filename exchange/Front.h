@@ -47,7 +47,7 @@ private:
     using Timer = Turns::Timer;
 
     Task<void> Accept();
-    bool AcceptAll();
+    bool AcceptSome();
     Task<void> TellAlive();
     void Admit(Socket socket);
     bool HasPlaceFor(const Visitor& visitor);
