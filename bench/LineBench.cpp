@@ -4,11 +4,11 @@
 
 #include "analysis/ui/frmReport.h"
 #include "analysis/ui/ucLineChart.h"
+#include "drawing/Style.h"
 #include "model/Nutrients.h"
 #include "model/User.h"
 #include "runtime/Format.h"
 #include "store/Connection.h"
-#include "toolkit/Style.h"
 #include "toolkit/ucButton.h"
 
 #include <QLineEdit>

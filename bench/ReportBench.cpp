@@ -4,10 +4,10 @@
 
 #include "analysis/ui/ucBarChart.h"
 #include "analysis/ui/ucPieChart.h"
+#include "drawing/Style.h"
 #include "model/Nutrients.h"
 #include "model/User.h"
 #include "store/Connection.h"
-#include "toolkit/Style.h"
 
 #include <QPainter>
 

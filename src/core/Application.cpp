@@ -1,11 +1,11 @@
 #include "core/Application.h"
 
 #include "core/FailureText.h"
+#include "drawing/Pictures.h"
 #include "runtime/Seams.h"
 #include "store/Connection.h"
+#include "toolkit/ApplyStyle.h"
 #include "toolkit/MousePointer.h"
-#include "toolkit/Pictures.h"
-#include "toolkit/Style.h"
 
 #include <QIcon>
 #include <QMessageBox>

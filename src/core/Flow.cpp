@@ -8,6 +8,7 @@
 #include "core/frmHOME.h"
 #include "core/frmSplash.h"
 #include "core/frmWelcome.h"
+#include "drawing/Twips.h"
 #include "model/Profiles.h"
 #include "runtime/AppPath.h"
 #include "runtime/AppState.h"
@@ -17,7 +18,6 @@
 #include "runtime/Settings.h"
 #include "runtime/StartSettings.h"
 #include "store/Connection.h"
-#include "toolkit/Twips.h"
 
 #include <QApplication>
 #include <QScopedValueRollback>

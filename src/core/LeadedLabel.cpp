@@ -1,6 +1,6 @@
 #include "core/LeadedLabel.h"
 
-#include "toolkit/Style.h"
+#include "drawing/Style.h"
 
 #include <QPainter>
 #include <QResizeEvent>

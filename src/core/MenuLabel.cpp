@@ -1,6 +1,6 @@
 #include "core/MenuLabel.h"
 
-#include "toolkit/Style.h"
+#include "drawing/Style.h"
 
 #include <QMouseEvent>
 #include <QPainter>

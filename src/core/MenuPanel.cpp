@@ -1,7 +1,7 @@
 #include "core/MenuPanel.h"
 
 #include "core/MenuLabel.h"
-#include "toolkit/Style.h"
+#include "drawing/Style.h"
 
 #include <QMouseEvent>
 #include <QPainter>

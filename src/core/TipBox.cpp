@@ -1,7 +1,7 @@
 #include "core/TipBox.h"
 
 #include "core/LeadedLabel.h"
-#include "toolkit/Style.h"
+#include "drawing/Style.h"
 
 #include <QScrollArea>
 #include <QScrollBar>

@@ -1,9 +1,9 @@
 #include "core/frmAlert.h"
 
+#include "drawing/Pictures.h"
+#include "drawing/Style.h"
 #include "toolkit/ButtonRow.h"
 #include "toolkit/Labels.h"
-#include "toolkit/Pictures.h"
-#include "toolkit/Style.h"
 #include "toolkit/ucButton.h"
 
 #include <QPainter>

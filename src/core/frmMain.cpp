@@ -3,6 +3,7 @@
 #include "analysis/ui/ucCal_LG.h"
 #include "analysis/ui/ucGlance.h"
 #include "core/TipBox.h"
+#include "drawing/Style.h"
 #include "runtime/AppState.h"
 #include "runtime/Clock.h"
 #include "runtime/Dates.h"
@@ -10,7 +11,6 @@
 #include "runtime/ScreenTable.h"
 #include "runtime/Seams.h"
 #include "toolkit/Labels.h"
-#include "toolkit/Style.h"
 #include "toolkit/ucAALBL.h"
 #include "toolkit/ucBox.h"
 

@@ -1,11 +1,11 @@
 #include "core/frmPrefs.h"
 
+#include "drawing/Style.h"
 #include "runtime/AppState.h"
 #include "runtime/SettingTable.h"
 #include "runtime/Settings.h"
 #include "toolkit/ButtonRow.h"
 #include "toolkit/Labels.h"
-#include "toolkit/Style.h"
 #include "toolkit/ucButton.h"
 
 #include <QCheckBox>

@@ -1,9 +1,9 @@
 #include "core/frmSplash.h"
 
+#include "drawing/Pictures.h"
+#include "drawing/Style.h"
 #include "toolkit/CentreWindow.h"
 #include "toolkit/Labels.h"
-#include "toolkit/Pictures.h"
-#include "toolkit/Style.h"
 
 #include <QPainter>
 #include <QShowEvent>

@@ -1,10 +1,10 @@
 #include "core/frmWelcome.h"
 
+#include "drawing/Pictures.h"
 #include "model/ui/frmProfile.h"
 #include "runtime/Seams.h"
 #include "toolkit/ButtonRow.h"
 #include "toolkit/Labels.h"
-#include "toolkit/Pictures.h"
 #include "toolkit/ucButton.h"
 
 #include <QPainter>

@@ -1,4 +1,6 @@
-#include "toolkit/Style.h"
+#include "toolkit/ApplyStyle.h"
+
+#include "drawing/Style.h"
 
 #include <QApplication>
 #include <QPalette>

@@ -1,7 +1,7 @@
 #include "toolkit/AtePane.h"
 
+#include "drawing/Twips.h"
 #include "runtime/Convert.h"
-#include "toolkit/Twips.h"
 #include "toolkit/ucAte.h"
 #include "toolkit/ucButtonA.h"
 #include "toolkit/ucScroll.h"

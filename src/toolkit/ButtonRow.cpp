@@ -1,7 +1,7 @@
 #include "toolkit/ButtonRow.h"
 
+#include "drawing/Style.h"
 #include "toolkit/Dialog.h"
-#include "toolkit/Style.h"
 #include "toolkit/ucButton.h"
 
 ucButton* MakeButton(Dialog* dialog, const QString& name, const QString& caption) {

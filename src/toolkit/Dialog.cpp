@@ -1,8 +1,8 @@
 #include "toolkit/Dialog.h"
 
+#include "drawing/Style.h"
 #include "toolkit/CentreWindow.h"
 #include "toolkit/CleanUp.h"
-#include "toolkit/Style.h"
 #include "toolkit/ucButton.h"
 #include "toolkit/ucButtonA.h"
 #include "toolkit/ucTitleFlat.h"

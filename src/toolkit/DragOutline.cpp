@@ -1,6 +1,6 @@
 #include "toolkit/DragOutline.h"
 
-#include "toolkit/Style.h"
+#include "drawing/Style.h"
 
 #include <QPainter>
 

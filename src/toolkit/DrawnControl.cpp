@@ -1,8 +1,8 @@
 #include "toolkit/DrawnControl.h"
 
+#include "drawing/Style.h"
+#include "drawing/Twips.h"
 #include "toolkit/ControlInterface.h"
-#include "toolkit/Style.h"
-#include "toolkit/Twips.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>

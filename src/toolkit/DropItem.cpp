@@ -1,7 +1,7 @@
 #include "toolkit/DropItem.h"
 
-#include "toolkit/SmoothedPrint.h"
-#include "toolkit/Style.h"
+#include "drawing/SmoothedPrint.h"
+#include "drawing/Style.h"
 
 #include <QFontMetricsF>
 #include <QMouseEvent>

@@ -1,9 +1,9 @@
 #include "toolkit/DropPanel.h"
 
+#include "drawing/Style.h"
+#include "drawing/Twips.h"
 #include "runtime/RuntimeError.h"
 #include "toolkit/DropItem.h"
-#include "toolkit/Style.h"
-#include "toolkit/Twips.h"
 
 #include <QApplication>
 #include <QPainter>

@@ -1,7 +1,7 @@
 #include "toolkit/Labels.h"
 
-#include "toolkit/SmoothedPrint.h"
-#include "toolkit/Style.h"
+#include "drawing/SmoothedPrint.h"
+#include "drawing/Style.h"
 
 #include <QFontMetrics>
 #include <QPainter>

@@ -1,9 +1,9 @@
 #include "toolkit/ListBox.h"
 
+#include "drawing/SmoothedPrint.h"
+#include "drawing/Style.h"
 #include "toolkit/ListLines.h"
 #include "toolkit/PlainTip.h"
-#include "toolkit/SmoothedPrint.h"
-#include "toolkit/Style.h"
 
 #include <QFontMetricsF>
 #include <QHelpEvent>

@@ -1,6 +1,6 @@
 #include "toolkit/ListRow.h"
 
-#include "toolkit/Style.h"
+#include "drawing/Style.h"
 
 ListRow::ListRow(QWidget* parent)
     : DrawnControl(parent)

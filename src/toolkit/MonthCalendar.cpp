@@ -1,8 +1,8 @@
 #include "toolkit/MonthCalendar.h"
 
+#include "drawing/Style.h"
 #include "runtime/Clock.h"
 #include "runtime/Dates.h"
-#include "toolkit/Style.h"
 
 #include <QKeyEvent>
 #include <QPainter>

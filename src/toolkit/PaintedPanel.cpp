@@ -1,8 +1,8 @@
 #include "toolkit/PaintedPanel.h"
 
+#include "drawing/SmoothedPrint.h"
 #include "toolkit/Accessible.h"
 #include "toolkit/Slices.h"
-#include "toolkit/SmoothedPrint.h"
 
 #include <QFontMetricsF>
 #include <QMouseEvent>

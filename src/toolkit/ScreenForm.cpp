@@ -1,7 +1,7 @@
 #include "toolkit/ScreenForm.h"
 
+#include "drawing/Style.h"
 #include "toolkit/CleanUp.h"
-#include "toolkit/Style.h"
 #include "toolkit/ucBox.h"
 #include "toolkit/ucButton.h"
 

@@ -1,8 +1,8 @@
 #include "toolkit/ScrollPane.h"
 
+#include "drawing/Style.h"
+#include "drawing/Twips.h"
 #include "runtime/Round.h"
-#include "toolkit/Style.h"
-#include "toolkit/Twips.h"
 #include "toolkit/ucScroll.h"
 
 #include <QApplication>

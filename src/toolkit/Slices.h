@@ -1,6 +1,6 @@
 #pragma once
 
-#include "toolkit/Style.h"
+#include "drawing/Style.h"
 
 #include <QPixmap>
 

@@ -1,7 +1,7 @@
 #include "toolkit/TitleControl.h"
 
+#include "drawing/Style.h"
 #include "toolkit/DragOutline.h"
-#include "toolkit/Style.h"
 
 #include <QMouseEvent>
 #include <QPainter>

@@ -1,9 +1,9 @@
 #include "toolkit/ucAALBL.h"
 
+#include "drawing/SmoothedPrint.h"
+#include "drawing/Style.h"
+#include "drawing/Twips.h"
 #include "toolkit/Accessible.h"
-#include "toolkit/SmoothedPrint.h"
-#include "toolkit/Style.h"
-#include "toolkit/Twips.h"
 
 #include <QFontMetricsF>
 #include <QMouseEvent>

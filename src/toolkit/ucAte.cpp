@@ -1,11 +1,11 @@
 #include "toolkit/ucAte.h"
 
+#include "drawing/Pictures.h"
+#include "drawing/SmoothedPrint.h"
+#include "drawing/Style.h"
+#include "drawing/Twips.h"
 #include "runtime/Convert.h"
-#include "toolkit/Pictures.h"
 #include "toolkit/PlainTip.h"
-#include "toolkit/SmoothedPrint.h"
-#include "toolkit/Style.h"
-#include "toolkit/Twips.h"
 #include "toolkit/ucButtonA.h"
 
 #include <QFontMetrics>

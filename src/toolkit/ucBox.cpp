@@ -1,6 +1,6 @@
 #include "toolkit/ucBox.h"
 
-#include "toolkit/Style.h"
+#include "drawing/Style.h"
 #include "toolkit/ucHeader.h"
 
 #include <QMouseEvent>

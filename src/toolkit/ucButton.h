@@ -1,7 +1,7 @@
 #pragma once
 
+#include "drawing/Style.h"
 #include "toolkit/DrawnControl.h"
-#include "toolkit/Style.h"
 
 /// A captioned button of any width: left cap, stretched one-pixel middle column, right cap. States:
 /// 1 at rest, 2 pointer over it, 3 pressed, 4 disabled. SetEnabled(true) does not leave state 4,

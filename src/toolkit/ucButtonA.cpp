@@ -1,10 +1,10 @@
 #include "toolkit/ucButtonA.h"
 
+#include "drawing/Pictures.h"
+#include "drawing/SmoothedPrint.h"
 #include "toolkit/Accessible.h"
 #include "toolkit/ControlInterface.h"
-#include "toolkit/Pictures.h"
 #include "toolkit/Slices.h"
-#include "toolkit/SmoothedPrint.h"
 
 #include <QFontMetricsF>
 #include <QKeyEvent>

@@ -1,9 +1,9 @@
 #include "toolkit/ucCalButton.h"
 
+#include "drawing/SmoothedPrint.h"
+#include "drawing/Twips.h"
 #include "toolkit/Accessible.h"
 #include "toolkit/Slices.h"
-#include "toolkit/SmoothedPrint.h"
-#include "toolkit/Twips.h"
 
 #include <QFontMetricsF>
 #include <QKeyEvent>

@@ -1,13 +1,13 @@
 #include "toolkit/ucDropDown.h"
 
+#include "drawing/Pictures.h"
+#include "drawing/SmoothedPrint.h"
 #include "runtime/Convert.h"
 #include "toolkit/Accessible.h"
 #include "toolkit/ControlInterface.h"
 #include "toolkit/DropItem.h"
 #include "toolkit/DropPanel.h"
-#include "toolkit/Pictures.h"
 #include "toolkit/Slices.h"
-#include "toolkit/SmoothedPrint.h"
 
 #include <QApplication>
 #include <QFontMetricsF>

@@ -1,7 +1,7 @@
 #include "toolkit/ucHeader.h"
 
+#include "drawing/Twips.h"
 #include "toolkit/Slices.h"
-#include "toolkit/Twips.h"
 
 #include <QPainter>
 #include <QtMath>

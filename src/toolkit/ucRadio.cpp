@@ -1,10 +1,10 @@
 #include "toolkit/ucRadio.h"
 
+#include "drawing/Pictures.h"
+#include "drawing/SmoothedPrint.h"
+#include "drawing/Style.h"
 #include "toolkit/Accessible.h"
 #include "toolkit/ControlInterface.h"
-#include "toolkit/Pictures.h"
-#include "toolkit/SmoothedPrint.h"
-#include "toolkit/Style.h"
 
 #include <QFontMetricsF>
 #include <QKeyEvent>

@@ -1,9 +1,9 @@
 #include "toolkit/ucScroll.h"
 
+#include "drawing/Pictures.h"
 #include "runtime/Round.h"
 #include "toolkit/Accessible.h"
 #include "toolkit/ControlInterface.h"
-#include "toolkit/Pictures.h"
 #include "toolkit/Slices.h"
 
 #include <QKeyEvent>

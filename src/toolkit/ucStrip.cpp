@@ -1,7 +1,7 @@
 #include "toolkit/ucStrip.h"
 
-#include "toolkit/Style.h"
-#include "toolkit/Twips.h"
+#include "drawing/Style.h"
+#include "drawing/Twips.h"
 
 #include <QPainter>
 #include <QtMath>

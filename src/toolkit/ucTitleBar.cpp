@@ -1,6 +1,6 @@
 #include "toolkit/ucTitleBar.h"
 
-#include "toolkit/Style.h"
+#include "drawing/Style.h"
 
 #include <QtMath>
 

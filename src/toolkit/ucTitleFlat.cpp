@@ -1,7 +1,7 @@
 #include "toolkit/ucTitleFlat.h"
 
-#include "toolkit/Style.h"
-#include "toolkit/Twips.h"
+#include "drawing/Style.h"
+#include "drawing/Twips.h"
 
 #include <QEvent>
 #include <QtMath>

@@ -1,4 +1,4 @@
-#include "analysis/ui/DayPicture.h"
+#include "analysis/charts/DayPicture.h"
 
 #include "AnalysisTest.h"
 #include "analysis/DayFigures.h"

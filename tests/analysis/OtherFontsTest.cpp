@@ -2,7 +2,7 @@
 #include "analysis/ui/ChartLabel.h"
 #include "analysis/ui/ucBarChart.h"
 #include "analysis/ui/ucDaily.h"
-#include "toolkit/Style.h"
+#include "drawing/Style.h"
 
 #include <QFontDatabase>
 

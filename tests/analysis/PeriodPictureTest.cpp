@@ -1,4 +1,4 @@
-#include "analysis/ui/PeriodPicture.h"
+#include "analysis/charts/PeriodPicture.h"
 
 #include "AnalysisTest.h"
 #include "analysis/LoggedSums.h"

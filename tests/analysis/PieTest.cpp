@@ -1,7 +1,7 @@
-#include "analysis/ui/Pie.h"
+#include "analysis/charts/Pie.h"
 #include "analysis/ui/PieChart.h"
+#include "drawing/Style.h"
 #include "support/HalvaneTest.h"
-#include "toolkit/Style.h"
 #include "toolkit/ucAALBL.h"
 
 #include <QPainter>

@@ -1,8 +1,8 @@
 #include "analysis/WeightCurve.h"
 
-#include "analysis/ui/WeightCurvePainting.h"
+#include "analysis/charts/WeightCurvePainting.h"
+#include "drawing/Style.h"
 #include "support/HalvaneTest.h"
-#include "toolkit/Style.h"
 
 #include <QPainter>
 

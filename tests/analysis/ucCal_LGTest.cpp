@@ -2,6 +2,7 @@
 
 #include "Statements.h"
 #include "analysis/ui/DayCell.h"
+#include "drawing/Style.h"
 #include "model/User.h"
 #include "runtime/AppState.h"
 #include "runtime/Clock.h"
@@ -9,7 +10,6 @@
 #include "store/Connection.h"
 #include "support/HalvaneTest.h"
 #include "toolkit/DropItem.h"
-#include "toolkit/Style.h"
 #include "toolkit/ucAALBL.h"
 #include "toolkit/ucCalButton.h"
 #include "toolkit/ucDropDown.h"

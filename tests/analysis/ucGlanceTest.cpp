@@ -2,11 +2,11 @@
 
 #include "AnalysisTest.h"
 #include "analysis/ui/PiePicture.h"
+#include "drawing/Style.h"
 #include "model/User.h"
 #include "runtime/RuntimeError.h"
 #include "store/Connection.h"
 #include "support/Failure.h"
-#include "toolkit/Style.h"
 
 #include <QtMath>
 

@@ -2,13 +2,13 @@
 
 #include "AnalysisTest.h"
 #include "analysis/ui/AxisLabel.h"
+#include "drawing/SmoothedPrint.h"
+#include "drawing/Style.h"
 #include "model/User.h"
 #include "runtime/AppState.h"
 #include "runtime/RuntimeError.h"
 #include "store/Connection.h"
 #include "support/Failure.h"
-#include "toolkit/SmoothedPrint.h"
-#include "toolkit/Style.h"
 
 #include <QAccessible>
 #include <QFontMetricsF>

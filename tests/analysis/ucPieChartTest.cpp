@@ -2,12 +2,12 @@
 
 #include "AnalysisTest.h"
 #include "analysis/ui/PiePicture.h"
+#include "drawing/SmoothedPrint.h"
+#include "drawing/Style.h"
 #include "model/User.h"
 #include "runtime/RuntimeError.h"
 #include "store/Connection.h"
 #include "support/Failure.h"
-#include "toolkit/SmoothedPrint.h"
-#include "toolkit/Style.h"
 
 #include <QAccessible>
 #include <QPainter>

@@ -4,6 +4,7 @@
 #include "core/Navigation.h"
 #include "core/SingleInstance.h"
 #include "core/frmHOME.h"
+#include "drawing/Twips.h"
 #include "model/User.h"
 #include "runtime/AppPath.h"
 #include "runtime/AppState.h"
@@ -13,7 +14,6 @@
 #include "runtime/Settings.h"
 #include "store/Connection.h"
 #include "store/Schema.h"
-#include "toolkit/Twips.h"
 
 #include <QApplication>
 #include <QDir>

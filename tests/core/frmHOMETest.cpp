@@ -5,10 +5,10 @@
 #include "core/Navigation.h"
 #include "core/OpenURL.h"
 #include "core/frmHOME.h"
+#include "drawing/Twips.h"
 #include "model/User.h"
 #include "runtime/AppState.h"
 #include "runtime/Seams.h"
-#include "toolkit/Twips.h"
 #include "toolkit/ucButtonA.h"
 
 #include <QApplication>

@@ -1,10 +1,10 @@
 #include "foods/FoodsTest.h"
 
+#include "drawing/Twips.h"
 #include "foods/ui/SearchProgress.h"
 #include "foods/ui/ucFood.h"
 #include "foods/ui/ucSearchResults.h"
 #include "runtime/AppState.h"
-#include "toolkit/Twips.h"
 #include "toolkit/ucScroll.h"
 
 #include <QApplication>

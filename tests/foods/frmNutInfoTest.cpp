@@ -1,9 +1,9 @@
 #include "foods/FoodsTest.h"
 
+#include "drawing/Style.h"
+#include "drawing/Twips.h"
 #include "foods/ui/frmNutInfo.h"
 #include "model/User.h"
-#include "toolkit/Style.h"
-#include "toolkit/Twips.h"
 
 #include <QAccessible>
 #include <QApplication>

@@ -1,10 +1,10 @@
 #include "gallery/Specimens.h"
 
+#include "drawing/Pictures.h"
+#include "drawing/Style.h"
 #include "toolkit/Labels.h"
 #include "toolkit/ListBox.h"
-#include "toolkit/Pictures.h"
 #include "toolkit/ScrollPane.h"
-#include "toolkit/Style.h"
 #include "toolkit/ucAALBL.h"
 #include "toolkit/ucBox.h"
 #include "toolkit/ucButton.h"

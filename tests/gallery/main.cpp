@@ -1,10 +1,11 @@
 #include "gallery/Specimens.h"
 
+#include "drawing/Pictures.h"
+#include "drawing/Style.h"
 #include "runtime/AppState.h"
+#include "toolkit/ApplyStyle.h"
 #include "toolkit/Labels.h"
 #include "toolkit/MonthCalendar.h"
-#include "toolkit/Pictures.h"
-#include "toolkit/Style.h"
 
 #include <QApplication>
 #include <QDir>

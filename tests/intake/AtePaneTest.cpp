@@ -1,7 +1,7 @@
 #include "IntakeTest.h"
 
+#include "drawing/Style.h"
 #include "toolkit/AtePane.h"
-#include "toolkit/Style.h"
 #include "toolkit/ucButtonA.h"
 #include "toolkit/ucScroll.h"
 

@@ -1,9 +1,9 @@
 #include "IntakeTest.h"
 
+#include "drawing/SmoothedPrint.h"
+#include "drawing/Style.h"
+#include "drawing/Twips.h"
 #include "runtime/RuntimeError.h"
-#include "toolkit/SmoothedPrint.h"
-#include "toolkit/Style.h"
-#include "toolkit/Twips.h"
 #include "toolkit/ucButtonA.h"
 
 #include <QFontMetricsF>

@@ -1,5 +1,7 @@
 #include "IntakeTest.h"
 
+#include "drawing/Style.h"
+#include "drawing/Twips.h"
 #include "intake/ui/MealHeading.h"
 #include "intake/ui/ucMyFood.h"
 #include "model/Nutrients.h"
@@ -10,8 +12,6 @@
 #include "store/Connection.h"
 #include "toolkit/AtePane.h"
 #include "toolkit/MousePointer.h"
-#include "toolkit/Style.h"
-#include "toolkit/Twips.h"
 #include "toolkit/ucButtonA.h"
 #include "toolkit/ucScroll.h"
 

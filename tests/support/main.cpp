@@ -1,4 +1,4 @@
-#include "toolkit/Style.h"
+#include "toolkit/ApplyStyle.h"
 
 #include <QApplication>
 

@@ -1,12 +1,12 @@
 #include "toolkit/Input.h"
 
+#include "drawing/Style.h"
 #include "support/HalvaneTest.h"
 #include "support/Restored.h"
 #include "toolkit/ButtonRow.h"
 #include "toolkit/CleanUp.h"
 #include "toolkit/Dialog.h"
 #include "toolkit/ScreenForm.h"
-#include "toolkit/Style.h"
 #include "toolkit/ucButton.h"
 #include "toolkit/ucButtonA.h"
 #include "toolkit/ucTitleFlat.h"

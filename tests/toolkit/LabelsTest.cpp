@@ -1,7 +1,7 @@
 #include "toolkit/Labels.h"
 
+#include "drawing/Style.h"
 #include "support/HalvaneTest.h"
-#include "toolkit/Style.h"
 #include "toolkit/ucButton.h"
 
 #include <QFontMetrics>

@@ -1,8 +1,9 @@
 #include "toolkit/ListBox.h"
 
+#include "drawing/Style.h"
 #include "support/HalvaneTest.h"
+#include "toolkit/ApplyStyle.h"
 #include "toolkit/Input.h"
-#include "toolkit/Style.h"
 
 #include <QAccessible>
 #include <QApplication>

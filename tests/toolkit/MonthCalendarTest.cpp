@@ -1,7 +1,7 @@
 #include "toolkit/MonthCalendar.h"
+#include "drawing/Style.h"
 #include "runtime/Clock.h"
 #include "support/HalvaneTest.h"
-#include "toolkit/Style.h"
 
 #include <QApplication>
 #include <QTextCharFormat>

@@ -1,7 +1,7 @@
 #include "toolkit/Input.h"
 
+#include "drawing/Style.h"
 #include "support/HalvaneTest.h"
-#include "toolkit/Style.h"
 #include "toolkit/ucBox.h"
 #include "toolkit/ucHeader.h"
 #include "toolkit/ucStrip.h"

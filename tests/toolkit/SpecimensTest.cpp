@@ -1,6 +1,7 @@
 #include "gallery/Specimens.h"
+#include "drawing/Style.h"
 #include "support/HalvaneTest.h"
-#include "toolkit/Style.h"
+#include "toolkit/ApplyStyle.h"
 #include "toolkit/ucButton.h"
 #include "toolkit/ucRadio.h"
 #include "toolkit/ucScroll.h"

@@ -1,7 +1,8 @@
-#include "toolkit/Style.h"
+#include "drawing/Style.h"
+#include "drawing/Twips.h"
 #include "support/HalvaneTest.h"
+#include "toolkit/ApplyStyle.h"
 #include "toolkit/Labels.h"
-#include "toolkit/Twips.h"
 
 #include <QApplication>
 #include <QLineEdit>

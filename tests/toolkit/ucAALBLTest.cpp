@@ -1,9 +1,9 @@
 #include "toolkit/Input.h"
 
+#include "drawing/SmoothedPrint.h"
+#include "drawing/Style.h"
 #include "runtime/AppState.h"
 #include "support/HalvaneTest.h"
-#include "toolkit/SmoothedPrint.h"
-#include "toolkit/Style.h"
 #include "toolkit/ucAALBL.h"
 
 #include <QFontMetricsF>

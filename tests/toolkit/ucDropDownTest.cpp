@@ -1,11 +1,11 @@
 #include "toolkit/ucDropDown.h"
 
+#include "drawing/Style.h"
 #include "runtime/RuntimeError.h"
 #include "support/Failure.h"
 #include "support/HalvaneTest.h"
 #include "toolkit/DropItem.h"
 #include "toolkit/Input.h"
-#include "toolkit/Style.h"
 
 #include <QAccessible>
 #include <QApplication>

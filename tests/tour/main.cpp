@@ -2,7 +2,8 @@
 #include "tour/Walk.h"
 
 #include "core/Application.h"
-#include "toolkit/Style.h"
+#include "drawing/Style.h"
+#include "toolkit/ApplyStyle.h"
 
 #include <QProcess>
 #include <QTemporaryDir>

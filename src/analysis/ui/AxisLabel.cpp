@@ -1,6 +1,6 @@
 #include "analysis/ui/AxisLabel.h"
 
-#include "analysis/ui/WeightCurvePainting.h"
+#include "analysis/charts/WeightCurvePainting.h"
 
 AxisLabel::AxisLabel(const QRectF& place, QWidget* parent)
     : ChartPiece(parent) {

@@ -1,8 +1,6 @@
 #include "analysis/ui/BarGrid.h"
 
-#include "analysis/ui/GridLines.h"
-#include "toolkit/Style.h"
-#include "toolkit/Twips.h"
+#include "analysis/charts/PercentGrid.h"
 
 #include <QPainter>
 
@@ -13,11 +11,5 @@ BarGrid::BarGrid(QWidget* parent)
 
 void BarGrid::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    Paint(painter, size());
-}
-
-void BarGrid::Paint(QPainter& painter, QSize size) {
-    painter.fillRect(QRect(QPoint(), size), TheStyle().paper);
-    const int end = Twips::FromPixels(size.width());
-    GridLines{Origin, Step, DarkStep, end}.DrawGrid(painter, size.height());
+    PercentGrid::Paint(painter, size());
 }

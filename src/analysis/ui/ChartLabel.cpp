@@ -1,7 +1,7 @@
 #include "analysis/ui/ChartLabel.h"
 
-#include "toolkit/SmoothedPrint.h"
-#include "toolkit/Style.h"
+#include "drawing/SmoothedPrint.h"
+#include "drawing/Style.h"
 
 #include <QPainter>
 

@@ -1,5 +1,6 @@
 #include "analysis/ui/ChartRow.h"
 
+#include "analysis/charts/BarPainting.h"
 #include "analysis/ui/ChartBar.h"
 #include "analysis/ui/ChartLabel.h"
 #include "analysis/ui/LedLabel.h"
@@ -23,5 +24,5 @@ void ChartRow::SetFigure(const std::optional<NutrientFigure>& figure) {
 }
 
 bool ChartRow::BarIsNarrow() const {
-    return ChartBar::IsNarrow(imgBar_->Width());
+    return BarPainting::IsNarrow(imgBar_->Width());
 }

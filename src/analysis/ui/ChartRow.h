@@ -19,10 +19,6 @@ public:
         QWidget* values;
     };
 
-    // Twips, below the top of the row's label.
-    static constexpr int BarDrop = 45;
-    static constexpr int ValueDrop = 15;
-
     ChartRow(int i, Nutrient nutrient, const Views& views);
     ChartRow(const ChartRow&) = delete;
     ChartRow& operator=(const ChartRow&) = delete;

@@ -1,10 +1,10 @@
 #include "analysis/ui/DailyRow.h"
 
+#include "analysis/charts/DayPicture.h"
 #include "analysis/ui/ChartBar.h"
 #include "analysis/ui/ChartLabel.h"
-#include "analysis/ui/DayPicture.h"
 #include "analysis/ui/LedLabel.h"
-#include "toolkit/Style.h"
+#include "drawing/Style.h"
 
 DailyRow::DailyRow(int i, const NutrientFigure& figure, const Views& views)
     : ChartRow(i, figure.nutrient, views)

@@ -1,8 +1,8 @@
 #include "analysis/ui/DayCell.h"
 
-#include "toolkit/Pictures.h"
-#include "toolkit/Style.h"
-#include "toolkit/Twips.h"
+#include "drawing/Pictures.h"
+#include "drawing/Style.h"
+#include "drawing/Twips.h"
 
 #include <QKeyEvent>
 #include <QPainter>

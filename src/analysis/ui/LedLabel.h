@@ -11,8 +11,6 @@ public:
     using ChartLabel::ChartLabel;
 
     void SetSpace(int pixels); ///< for leader and value together
-    /// The caption with as many points of its leader as there is room for.
-    static QString Fitting(const QString& caption, const QFont& font, int space);
 
 protected:
     QString Shown() const override;

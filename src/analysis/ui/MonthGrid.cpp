@@ -1,9 +1,9 @@
 #include "analysis/ui/MonthGrid.h"
 
+#include "drawing/Style.h"
+#include "drawing/Twips.h"
 #include "runtime/Dates.h"
 #include "toolkit/PaintedPanel.h"
-#include "toolkit/Style.h"
-#include "toolkit/Twips.h"
 
 #include <QPainter>
 

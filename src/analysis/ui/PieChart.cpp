@@ -1,6 +1,6 @@
 #include "analysis/ui/PieChart.h"
 
-#include "toolkit/Style.h"
+#include "drawing/Style.h"
 #include "toolkit/ucAALBL.h"
 
 namespace {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "analysis/ui/Pie.h"
+#include "analysis/charts/Pie.h"
 
 #include <QWidget>
 

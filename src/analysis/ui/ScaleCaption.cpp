@@ -1,6 +1,6 @@
 #include "analysis/ui/ScaleCaption.h"
 
-#include "toolkit/Style.h"
+#include "drawing/Style.h"
 
 #include <QPainter>
 

@@ -1,6 +1,6 @@
 #include "analysis/ui/ViewButtons.h"
 
-#include "toolkit/Style.h"
+#include "drawing/Style.h"
 #include "toolkit/ucButtonA.h"
 
 namespace {

@@ -5,6 +5,7 @@
 #include "analysis/ui/ucBarChart.h"
 #include "analysis/ui/ucLineChart.h"
 #include "analysis/ui/ucPieChart.h"
+#include "drawing/Style.h"
 #include "runtime/Attempt.h"
 #include "runtime/Clock.h"
 #include "runtime/Convert.h"
@@ -17,7 +18,6 @@
 #include "runtime/Settings.h"
 #include "toolkit/LineField.h"
 #include "toolkit/MousePointer.h"
-#include "toolkit/Style.h"
 #include "toolkit/ucAALBL.h"
 #include "toolkit/ucButton.h"
 

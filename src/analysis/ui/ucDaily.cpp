@@ -1,21 +1,22 @@
 #include "analysis/ui/ucDaily.h"
 
 #include "analysis/LoggedSums.h"
+#include "analysis/charts/DayPicture.h"
+#include "analysis/charts/PercentGrid.h"
 #include "analysis/ui/BarGrid.h"
 #include "analysis/ui/ChartBar.h"
 #include "analysis/ui/ChartLabel.h"
-#include "analysis/ui/DayPicture.h"
 #include "analysis/ui/LedLabel.h"
 #include "analysis/ui/PieChart.h"
 #include "analysis/ui/ScaleCaption.h"
 #include "analysis/ui/ViewButtons.h"
+#include "drawing/Style.h"
+#include "drawing/Twips.h"
 #include "model/User.h"
 #include "runtime/AppState.h"
 #include "runtime/Clock.h"
 #include "runtime/SettingTable.h"
 #include "runtime/Settings.h"
-#include "toolkit/Style.h"
-#include "toolkit/Twips.h"
 #include "toolkit/ucAALBL.h"
 #include "toolkit/ucStrip.h"
 
@@ -172,7 +173,7 @@ void ucDaily::PlaceScale(const Layout& layout) {
     QList<int> marks;
     for (int n = 0; n < 3; ++n)
         marks << layout.view.left() - left +
-                     Twips::ToPixels(BarGrid::Origin + n * BarGrid::DarkStep);
+                     Twips::ToPixels(PercentGrid::Origin + n * PercentGrid::DarkStep);
     lblPercents_->SetMarks(marks);
 }
 

@@ -2,8 +2,8 @@
 
 #include "analysis/LoggedSums.h"
 #include "analysis/ui/PieChart.h"
+#include "drawing/Style.h"
 #include "runtime/Convert.h"
-#include "toolkit/Style.h"
 #include "toolkit/ucAALBL.h"
 
 namespace {

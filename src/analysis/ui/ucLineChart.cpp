@@ -2,13 +2,13 @@
 
 #include "analysis/Period.h"
 #include "analysis/WeightAxis.h"
+#include "analysis/charts/WeightCurvePainting.h"
 #include "analysis/ui/AxisLabel.h"
-#include "analysis/ui/WeightCurvePainting.h"
+#include "drawing/Style.h"
+#include "drawing/Twips.h"
 #include "runtime/AppState.h"
 #include "runtime/Convert.h"
 #include "runtime/Dates.h"
-#include "toolkit/Style.h"
-#include "toolkit/Twips.h"
 #include "toolkit/ucHeader.h"
 
 #include <QLineEdit>

@@ -2,7 +2,7 @@
 
 #include "analysis/LoggedSums.h"
 #include "analysis/ui/PieChart.h"
-#include "toolkit/Style.h"
+#include "drawing/Style.h"
 #include "toolkit/ucBox.h"
 #include "toolkit/ucHeader.h"
 

@@ -1,7 +1,7 @@
 #include "foods/ui/CustomFoodFields.h"
 
+#include "drawing/Style.h"
 #include "toolkit/LineField.h"
-#include "toolkit/Style.h"
 
 #include <QGridLayout>
 #include <QPainter>

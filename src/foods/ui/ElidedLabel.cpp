@@ -1,8 +1,8 @@
 #include "foods/ui/ElidedLabel.h"
 
+#include "drawing/SmoothedPrint.h"
+#include "drawing/Style.h"
 #include "toolkit/PlainTip.h"
-#include "toolkit/SmoothedPrint.h"
-#include "toolkit/Style.h"
 
 #include <QFontMetrics>
 #include <QHelpEvent>

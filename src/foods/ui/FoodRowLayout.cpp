@@ -1,6 +1,6 @@
 #include "foods/ui/FoodRowLayout.h"
 
-#include "toolkit/Style.h"
+#include "drawing/Style.h"
 
 namespace {
 constexpr int Edge = 8;

@@ -1,10 +1,10 @@
 #include "foods/ui/ResultRows.h"
 
+#include "drawing/Style.h"
+#include "drawing/Twips.h"
 #include "foods/FoodSearch.h"
 #include "foods/ui/ucFood.h"
 #include "toolkit/Labels.h"
-#include "toolkit/Style.h"
-#include "toolkit/Twips.h"
 #include "toolkit/ucScroll.h"
 
 #include <algorithm>

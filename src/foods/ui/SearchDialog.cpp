@@ -1,9 +1,9 @@
 #include "foods/ui/SearchDialog.h"
 
+#include "drawing/Style.h"
 #include "foods/ui/frmNutInfo.h"
 #include "foods/ui/ucSearchResults.h"
 #include "toolkit/ButtonRow.h"
-#include "toolkit/Style.h"
 #include "toolkit/ucButton.h"
 #include "toolkit/ucTitleFlat.h"
 

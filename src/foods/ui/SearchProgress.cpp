@@ -1,7 +1,7 @@
 #include "foods/ui/SearchProgress.h"
 
+#include "drawing/Style.h"
 #include "toolkit/Labels.h"
-#include "toolkit/Style.h"
 
 #include <QPainter>
 

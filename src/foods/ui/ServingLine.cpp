@@ -1,9 +1,9 @@
 #include "foods/ui/ServingLine.h"
 
+#include "drawing/Style.h"
 #include "foods/ui/ElidedLabel.h"
 #include "runtime/Convert.h"
 #include "toolkit/LineField.h"
-#include "toolkit/Style.h"
 #include "toolkit/ucButtonA.h"
 
 namespace {

@@ -1,12 +1,12 @@
 #include "foods/ui/frmFoodList.h"
 
+#include "drawing/Style.h"
 #include "foods/CustomFoods.h"
 #include "foods/ui/CustomFoodFields.h"
 #include "runtime/ScreenTable.h"
 #include "runtime/Seams.h"
 #include "toolkit/ListBox.h"
 #include "toolkit/MousePointer.h"
-#include "toolkit/Style.h"
 #include "toolkit/ucBox.h"
 #include "toolkit/ucButton.h"
 

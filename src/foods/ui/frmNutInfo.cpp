@@ -1,13 +1,13 @@
 #include "foods/ui/frmNutInfo.h"
 
+#include "drawing/Style.h"
+#include "drawing/Twips.h"
 #include "foods/FormatNutrient.h"
 #include "foods/ui/ElidedLabel.h"
 #include "model/User.h"
 #include "runtime/Convert.h"
 #include "runtime/Format.h"
 #include "runtime/RuntimeError.h"
-#include "toolkit/Style.h"
-#include "toolkit/Twips.h"
 #include "toolkit/ucButton.h"
 #include "toolkit/ucTitleFlat.h"
 

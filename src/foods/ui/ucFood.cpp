@@ -1,12 +1,12 @@
 #include "foods/ui/ucFood.h"
 
+#include "drawing/Pictures.h"
+#include "drawing/Style.h"
 #include "foods/ui/ElidedLabel.h"
 #include "foods/ui/ServingLine.h"
 #include "runtime/Convert.h"
 #include "store/Schema.h"
 #include "toolkit/Labels.h"
-#include "toolkit/Pictures.h"
-#include "toolkit/Style.h"
 
 #include <QFocusEvent>
 #include <QMouseEvent>

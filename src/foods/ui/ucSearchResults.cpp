@@ -1,5 +1,7 @@
 #include "foods/ui/ucSearchResults.h"
 
+#include "drawing/Style.h"
+#include "drawing/Twips.h"
 #include "foods/FoodSearch.h"
 #include "foods/Meals.h"
 #include "foods/Quantity.h"
@@ -15,8 +17,6 @@
 #include "runtime/Val.h"
 #include "toolkit/Labels.h"
 #include "toolkit/MousePointer.h"
-#include "toolkit/Style.h"
-#include "toolkit/Twips.h"
 #include "toolkit/ucButton.h"
 #include "toolkit/ucRadio.h"
 

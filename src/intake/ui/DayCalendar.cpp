@@ -1,7 +1,7 @@
 #include "intake/ui/DayCalendar.h"
 
+#include "drawing/Style.h"
 #include "toolkit/MonthCalendar.h"
-#include "toolkit/Style.h"
 
 #include <QApplication>
 

@@ -1,6 +1,7 @@
 #include "intake/ui/frmDay.h"
 
 #include "analysis/ui/ucDaily.h"
+#include "drawing/Style.h"
 #include "foods/ui/frmFoodSearch.h"
 #include "foods/ui/ucSearchResults.h"
 #include "intake/DayLog.h"
@@ -15,7 +16,6 @@
 #include "runtime/Seams.h"
 #include "runtime/Val.h"
 #include "toolkit/Labels.h"
-#include "toolkit/Style.h"
 #include "toolkit/ucAALBL.h"
 #include "toolkit/ucBox.h"
 #include "toolkit/ucButton.h"

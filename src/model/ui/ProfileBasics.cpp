@@ -1,10 +1,10 @@
 #include "model/ui/ProfileBasics.h"
 
+#include "drawing/Style.h"
 #include "runtime/Convert.h"
 #include "runtime/Val.h"
 #include "toolkit/Labels.h"
 #include "toolkit/LineField.h"
-#include "toolkit/Style.h"
 #include "toolkit/ucBox.h"
 #include "toolkit/ucRadio.h"
 

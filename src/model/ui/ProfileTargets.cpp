@@ -1,8 +1,8 @@
 #include "model/ui/ProfileTargets.h"
 
+#include "drawing/Style.h"
 #include "toolkit/Labels.h"
 #include "toolkit/LineField.h"
-#include "toolkit/Style.h"
 #include "toolkit/ucBox.h"
 
 #include <QGridLayout>

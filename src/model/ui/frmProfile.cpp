@@ -1,5 +1,7 @@
 #include "model/ui/frmProfile.h"
 
+#include "drawing/Style.h"
+#include "drawing/Twips.h"
 #include "model/Profiles.h"
 #include "model/ui/ProfileBasics.h"
 #include "model/ui/ProfileTargets.h"
@@ -7,8 +9,6 @@
 #include "runtime/Seams.h"
 #include "toolkit/CentreWindow.h"
 #include "toolkit/LeaveField.h"
-#include "toolkit/Style.h"
-#include "toolkit/Twips.h"
 #include "toolkit/ucButton.h"
 #include "toolkit/ucTitleFlat.h"
 

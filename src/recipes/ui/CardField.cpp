@@ -1,10 +1,10 @@
 #include "recipes/ui/CardField.h"
 
+#include "drawing/SmoothedPrint.h"
+#include "drawing/Style.h"
 #include "foods/ui/ElidedLabel.h"
 #include "toolkit/Labels.h"
 #include "toolkit/LineField.h"
-#include "toolkit/SmoothedPrint.h"
-#include "toolkit/Style.h"
 
 #include <QFontMetricsF>
 #include <QtMath>

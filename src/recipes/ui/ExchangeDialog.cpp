@@ -1,10 +1,10 @@
 #include "recipes/ui/ExchangeDialog.h"
 
+#include "drawing/Style.h"
 #include "runtime/Attempt.h"
 #include "toolkit/ButtonRow.h"
 #include "toolkit/LineField.h"
 #include "toolkit/MousePointer.h"
-#include "toolkit/Style.h"
 #include "toolkit/ucAALBL.h"
 #include "toolkit/ucButton.h"
 #include "toolkit/ucTitleFlat.h"

@@ -1,7 +1,7 @@
 #include "recipes/ui/InstructionText.h"
 
+#include "drawing/Style.h"
 #include "toolkit/DrawnControl.h"
-#include "toolkit/Style.h"
 #include "toolkit/ucScroll.h"
 
 #include <QApplication>

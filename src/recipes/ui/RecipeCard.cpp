@@ -1,9 +1,9 @@
 #include "recipes/ui/RecipeCard.h"
 
+#include "drawing/Style.h"
 #include "foods/ui/ElidedLabel.h"
 #include "recipes/ui/InstructionText.h"
 #include "recipes/ui/ucIngredients.h"
-#include "toolkit/Style.h"
 #include "toolkit/ucAALBL.h"
 #include "toolkit/ucButton.h"
 

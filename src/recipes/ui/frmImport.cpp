@@ -1,11 +1,11 @@
 #include "recipes/ui/frmImport.h"
 
+#include "drawing/Style.h"
 #include "recipes/net/RecipeExchange.h"
 #include "runtime/Convert.h"
 #include "runtime/Seams.h"
 #include "runtime/Server.h"
 #include "toolkit/Labels.h"
-#include "toolkit/Style.h"
 #include "toolkit/ucButton.h"
 
 #include <QLineEdit>

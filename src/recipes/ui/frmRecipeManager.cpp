@@ -1,5 +1,6 @@
 #include "recipes/ui/frmRecipeManager.h"
 
+#include "drawing/Style.h"
 #include "foods/ScaledFood.h"
 #include "recipes/RecipeBook.h"
 #include "recipes/ui/InstructionText.h"
@@ -12,7 +13,6 @@
 #include "runtime/ScreenTable.h"
 #include "runtime/Seams.h"
 #include "toolkit/ListBox.h"
-#include "toolkit/Style.h"
 #include "toolkit/ucBox.h"
 #include "toolkit/ucButton.h"
 

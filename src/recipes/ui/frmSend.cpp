@@ -1,11 +1,11 @@
 #include "recipes/ui/frmSend.h"
 
+#include "drawing/Style.h"
 #include "recipes/net/RecipeExchange.h"
 #include "runtime/Seams.h"
 #include "runtime/Server.h"
 #include "runtime/SettingTable.h"
 #include "runtime/Settings.h"
-#include "toolkit/Style.h"
 #include "toolkit/ucButton.h"
 
 #include <QCheckBox>

@@ -1,8 +1,8 @@
 #include "recipes/ui/ucIngredients.h"
 
+#include "drawing/Style.h"
 #include "recipes/RecipeBook.h"
 #include "toolkit/AtePane.h"
-#include "toolkit/Style.h"
 
 #include <QPainter>
 

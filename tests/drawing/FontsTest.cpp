@@ -1,8 +1,8 @@
-#include "toolkit/Fonts.h"
+#include "drawing/Fonts.h"
 
+#include "drawing/Style.h"
 #include "support/HalvaneTest.h"
 #include "support/Places.h"
-#include "toolkit/Style.h"
 
 #include <QApplication>
 #include <QDir>

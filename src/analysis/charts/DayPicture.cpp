@@ -1,19 +1,18 @@
-#include "analysis/ui/DayPicture.h"
+#include "analysis/charts/DayPicture.h"
 
 #include "analysis/DayFigures.h"
-#include "analysis/ui/BarGrid.h"
-#include "analysis/ui/ChartRow.h"
-#include "analysis/ui/FigureRows.h"
-#include "analysis/ui/LedLabel.h"
-#include "toolkit/Style.h"
-#include "toolkit/Twips.h"
+#include "analysis/charts/FigureRows.h"
+#include "analysis/charts/Leader.h"
+#include "analysis/charts/PercentGrid.h"
+#include "drawing/Style.h"
+#include "drawing/Twips.h"
 
 #include <QFontMetrics>
 #include <QPainter>
 
 namespace {
 
-const QString Leader = QStringLiteral(".......................");
+const QString Points = QStringLiteral(".......................");
 const QString EmptyValue = QStringLiteral("..............................0");
 
 // Pixels.
@@ -39,15 +38,15 @@ int DayPicture::Top(int row) {
 
 QRect DayPicture::NamePlace(int row) {
     return {NameLeft, Top(row), NamesWidth - NameLeft,
-            RowHeight + Twips::ToPixels(ChartRow::ValueDrop)};
+            RowHeight + Twips::ToPixels(FigureRows::ValueDrop)};
 }
 
 QPoint DayPicture::BarPlace(int row) {
-    return {Twips::ToPixels(BarGrid::Origin), Top(row) + Twips::ToPixels(ChartRow::BarDrop)};
+    return {Twips::ToPixels(PercentGrid::Origin), Top(row) + Twips::ToPixels(FigureRows::BarDrop)};
 }
 
 QPoint DayPicture::ValuePlace(int row) {
-    return {0, Top(row) + Twips::ToPixels(ChartRow::ValueDrop)};
+    return {0, Top(row) + Twips::ToPixels(FigureRows::ValueDrop)};
 }
 
 QRect DayPicture::View() const {
@@ -64,7 +63,7 @@ void DayPicture::PaintBars(QPainter& painter, const DayFigures& figures) const {
     painter.save();
     painter.setClipRect(View(), Qt::IntersectClip);
     painter.translate(View().topLeft());
-    BarGrid::Paint(painter, View().size());
+    PercentGrid::Paint(painter, View().size());
     FigureRows::PaintBars(painter, figures.Rows(), &BarPlace, [this](const NutrientFigure& figure) {
         return BarWidth(figure.value, figure.target);
     });
@@ -78,8 +77,8 @@ void DayPicture::PaintValues(QPainter& painter, const DayFigures& figures) const
         return QRect(View().topLeft() + ValuePlace(row), size);
     };
     const auto text = [&figures, size](const NutrientFigure& figure) {
-        return LedLabel::Fitting(ValueText(figure, figures.HasData()), TheStyle().small,
-                                 size.width());
+        return Leader::Fitting(ValueText(figure, figures.HasData()), TheStyle().small,
+                               size.width());
     };
     FigureRows::PaintTexts(painter, figures.Rows(), place, text);
 }
@@ -87,11 +86,11 @@ void DayPicture::PaintValues(QPainter& painter, const DayFigures& figures) const
 double DayPicture::BarWidth(double value, double rdi) const {
     const double width = Twips::PerPixel() * 100 * NutrientFigure::PartOfTarget(value, rdi);
     const int end = Twips::FromPixels(panelWidth_) - RightMargin;
-    if (static_cast<float>(end) < static_cast<float>(width + BarGrid::Origin))
-        return qMax(0, end - BarGrid::Origin);
+    if (static_cast<float>(end) < static_cast<float>(width + PercentGrid::Origin))
+        return qMax(0, end - PercentGrid::Origin);
     return qMax(0.0, width);
 }
 
 QString DayPicture::ValueText(const NutrientFigure& figure, bool hasData) {
-    return hasData ? Leader + DayFigures::Text(figure) : EmptyValue;
+    return hasData ? Points + DayFigures::Text(figure) : EmptyValue;
 }

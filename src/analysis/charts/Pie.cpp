@@ -1,8 +1,8 @@
-#include "analysis/ui/Pie.h"
+#include "analysis/charts/Pie.h"
 
-#include "toolkit/Pictures.h"
-#include "toolkit/SmoothedPrint.h"
-#include "toolkit/Style.h"
+#include "drawing/Pictures.h"
+#include "drawing/SmoothedPrint.h"
+#include "drawing/Style.h"
 
 #include <QFontMetricsF>
 #include <QPainter>

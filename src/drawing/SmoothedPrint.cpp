@@ -1,4 +1,4 @@
-#include "toolkit/SmoothedPrint.h"
+#include "drawing/SmoothedPrint.h"
 
 #include "runtime/AppState.h"
 

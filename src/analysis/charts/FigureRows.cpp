@@ -1,8 +1,8 @@
-#include "analysis/ui/FigureRows.h"
+#include "analysis/charts/FigureRows.h"
 
-#include "analysis/ui/ChartBar.h"
-#include "analysis/ui/ChartText.h"
-#include "toolkit/Twips.h"
+#include "analysis/charts/BarPainting.h"
+#include "analysis/charts/ChartText.h"
+#include "drawing/Twips.h"
 
 void FigureRows::PaintTexts(QPainter& painter, const Figures& figures,
                             const std::function<QRect(int)>& place,
@@ -18,8 +18,8 @@ void FigureRows::PaintBars(QPainter& painter, const Figures& figures,
     int row = 0;
     for (const NutrientFigure& figure : figures) {
         const double twips = width(figure);
-        const QRect bar(place(++row), QSize(Twips::ToPixels(twips), ChartBar::Height));
-        if (!ChartBar::IsNarrow(twips))
-            ChartBar::Paint(painter, bar, false);
+        const QRect bar(place(++row), QSize(Twips::ToPixels(twips), BarPainting::Height));
+        if (!BarPainting::IsNarrow(twips))
+            BarPainting::Paint(painter, bar, false);
     }
 }

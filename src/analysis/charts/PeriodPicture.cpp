@@ -1,19 +1,18 @@
-#include "analysis/ui/PeriodPicture.h"
+#include "analysis/charts/PeriodPicture.h"
 
 #include "analysis/PeriodFigures.h"
-#include "analysis/ui/ChartRow.h"
-#include "analysis/ui/FigureRows.h"
-#include "analysis/ui/GridLines.h"
-#include "analysis/ui/LedLabel.h"
-#include "toolkit/Style.h"
-#include "toolkit/Twips.h"
+#include "analysis/charts/FigureRows.h"
+#include "analysis/charts/GridLines.h"
+#include "analysis/charts/Leader.h"
+#include "drawing/Style.h"
+#include "drawing/Twips.h"
 
 #include <QFontMetrics>
 #include <QPainter>
 
 namespace {
 
-const QString Leader(148, u'.');
+const QString Points(148, u'.');
 
 // Twips.
 constexpr GridLines Grid{2430, 300, 1500, 11000};
@@ -55,7 +54,7 @@ int PeriodPicture::RowTop(int row) const {
 }
 
 int PeriodPicture::TextBottom() const {
-    return Twips::ToPixels(ChartRow::ValueDrop) + TextHeight();
+    return Twips::ToPixels(FigureRows::ValueDrop) + TextHeight();
 }
 
 QRect PeriodPicture::NamePlace(int row) const {
@@ -64,7 +63,7 @@ QRect PeriodPicture::NamePlace(int row) const {
 }
 
 QPoint PeriodPicture::BarPlace(int row) const {
-    return {Twips::ToPixels(BarLeft), Twips::ToPixels(RowTop(row) + ChartRow::BarDrop)};
+    return {Twips::ToPixels(BarLeft), Twips::ToPixels(RowTop(row) + FigureRows::BarDrop)};
 }
 
 QRect PeriodPicture::ValuesPlace() const {
@@ -74,7 +73,7 @@ QRect PeriodPicture::ValuesPlace() const {
 
 QRect PeriodPicture::ValuePlace(int row) const {
     return {ValuesPlace().left(),
-            Twips::ToPixels(RowTop(row)) + Twips::ToPixels(ChartRow::ValueDrop),
+            Twips::ToPixels(RowTop(row)) + Twips::ToPixels(FigureRows::ValueDrop),
             Twips::ToPixels(ValueWidth), TextHeight()};
 }
 
@@ -109,7 +108,7 @@ void PeriodPicture::PaintValues(QPainter& painter, const PeriodFigures& figures)
     FigureRows::PaintTexts(
         painter, figures.Rows(), [this](int row) { return ValuePlace(row); },
         [space](const NutrientFigure& figure) {
-            return LedLabel::Fitting(ValueText(figure), TheStyle().small, space);
+            return Leader::Fitting(ValueText(figure), TheStyle().small, space);
         });
 }
 
@@ -122,5 +121,5 @@ double PeriodPicture::BarWidth(double partOfTarget) {
 }
 
 QString PeriodPicture::ValueText(const NutrientFigure& figure) {
-    return Leader + PeriodFigures::Text(figure);
+    return Points + PeriodFigures::Text(figure);
 }

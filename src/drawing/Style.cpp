@@ -1,6 +1,6 @@
-#include "toolkit/Style.h"
+#include "drawing/Style.h"
 
-#include "toolkit/Fonts.h"
+#include "drawing/Fonts.h"
 
 namespace {
 

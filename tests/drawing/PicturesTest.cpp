@@ -1,4 +1,4 @@
-#include "toolkit/Pictures.h"
+#include "drawing/Pictures.h"
 #include "runtime/ScreenTable.h"
 #include "support/HalvaneTest.h"
 #include "support/Places.h"

@@ -1,12 +1,12 @@
-#include "analysis/ui/WeightCurvePainting.h"
+#include "analysis/charts/WeightCurvePainting.h"
 
 #include "analysis/WeightAxis.h"
 #include "analysis/WeightCurve.h"
-#include "analysis/ui/ChartText.h"
-#include "analysis/ui/TwipsSurface.h"
+#include "analysis/charts/ChartText.h"
+#include "analysis/charts/TwipsSurface.h"
+#include "drawing/Style.h"
+#include "drawing/Twips.h"
 #include "runtime/Dates.h"
-#include "toolkit/Style.h"
-#include "toolkit/Twips.h"
 
 #include <QPainter>
 

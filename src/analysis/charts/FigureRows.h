@@ -14,6 +14,10 @@ class QPainter;
 namespace FigureRows {
 using Figures = std::vector<NutrientFigure>;
 
+// Twips, below the top of a row's label.
+inline constexpr int BarDrop = 45;
+inline constexpr int ValueDrop = 15;
+
 void PaintTexts(QPainter& painter, const Figures& figures, const std::function<QRect(int)>& place,
                 const std::function<QString(const NutrientFigure&)>& text);
 /// Widths are twips.

@@ -1,8 +1,8 @@
-#include "analysis/ui/TwipsSurface.h"
+#include "analysis/charts/TwipsSurface.h"
 
-#include "toolkit/SmoothedPrint.h"
-#include "toolkit/Style.h"
-#include "toolkit/Twips.h"
+#include "drawing/SmoothedPrint.h"
+#include "drawing/Style.h"
+#include "drawing/Twips.h"
 
 #include <QFontMetricsF>
 #include <QPainter>

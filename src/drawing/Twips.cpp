@@ -1,4 +1,4 @@
-#include "toolkit/Twips.h"
+#include "drawing/Twips.h"
 
 #include <QGuiApplication>
 #include <QScreen>

@@ -1,7 +1,7 @@
-#include "analysis/ui/GridLines.h"
+#include "analysis/charts/GridLines.h"
 
-#include "toolkit/Style.h"
-#include "toolkit/Twips.h"
+#include "drawing/Style.h"
+#include "drawing/Twips.h"
 
 #include <QPainter>
 

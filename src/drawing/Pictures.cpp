@@ -1,4 +1,4 @@
-#include "toolkit/Pictures.h"
+#include "drawing/Pictures.h"
 
 #include <QFile>
 #include <QPainter>

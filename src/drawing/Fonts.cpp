@@ -1,4 +1,4 @@
-#include "toolkit/Fonts.h"
+#include "drawing/Fonts.h"
 
 #include "runtime/AppPath.h"
 

@@ -3,7 +3,6 @@
 #include <QColor>
 #include <QFont>
 
-class QApplication;
 class QString;
 
 /// Every colour, font and measure of the program, by role. Controls hold no literals of their own.
@@ -90,7 +89,3 @@ const Style& TheStyle();
 
 /// Applies to controls created afterwards. Only tests set another family than the delivered one.
 void SetFontFamily(const QString& family);
-
-/// Sets the application's palette and font, and the look of stock fields, check boxes, tips and
-/// calendars.
-void ApplyStyle(QApplication& application);
