@@ -18,9 +18,11 @@ void AddLog(CLI::App& program, Session& session);
 void AddRecipes(CLI::App& program, Session& session);
 void AddSearch(CLI::App& program, Session& session);
 void AddShow(CLI::App& program, Session& session);
+void AddTable(CLI::App& program, Session& session);
 void AddWeigh(CLI::App& program, Session& session);
 
 inline constexpr void (*All[])(CLI::App& program, Session& session) = {
-    AddCopyDay, AddCopyMeal, AddExport, AddFoods, AddImport,
-    AddLog,     AddRecipes,  AddSearch, AddShow,  AddWeigh};
+    AddCopyDay, AddCopyMeal, AddExport, AddFoods, AddImport, AddLog,
+    AddRecipes, AddSearch,   AddShow,   AddTable, AddWeigh,
+};
 } // namespace Commands

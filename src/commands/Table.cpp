@@ -1,0 +1,105 @@
+#include "commands/Commands.h"
+#include "commands/OutputFile.h"
+#include "commands/PeriodOption.h"
+#include "commands/Session.h"
+#include "records/RecordsReading.h"
+#include "records/tables/TableKinds.h"
+#include "records/tables/TableWriter.h"
+#include "runtime/RuntimeError.h"
+
+#include <CLI/CLI.hpp>
+
+#include <filesystem>
+#include <set>
+
+namespace {
+/// What the command line asks for.
+struct Choice {
+    std::string table;
+    std::string format;
+    std::string out; ///< empty: standard output
+    PeriodOption days;
+};
+
+template <class Row> std::set<std::string> Names(std::span<const Row> rows) {
+    std::set<std::string> names;
+    for (const Row& row : rows)
+        names.insert(row.name);
+    return names;
+}
+
+/// Where no format is chosen, the ending of the file's name tells it.
+const TableFormat& FormatOf(const Choice& choice, const Session& session) {
+    if (!choice.format.empty())
+        return TableFormat::Named(choice.format);
+    if (session.json)
+        return TableFormat::Named("json");
+    const std::string ending = std::filesystem::path(choice.out).extension().string();
+    for (const TableFormat& format : TableFormat::All())
+        if (ending == '.' + std::string(format.name))
+            return format;
+    return TableFormat::Named("csv");
+}
+
+void RequireSense(const Choice& choice, const Session& session) {
+    if (!FormatOf(choice, session).isText && choice.out.empty())
+        throw CLI::ValidationError("--format", "A workbook needs a file: add --out FILE.xlsx.");
+    if (!TableKind::Named(choice.table).hasDays && choice.days.IsGiven())
+        throw CLI::ValidationError("--from",
+                                   "The rows of this table have no days: leave out --from and "
+                                   "--to.");
+}
+
+void Write(const Choice& choice, const TableFormat& format, const Period& period,
+           const TableWriter::Sink& sink) {
+    const TableKind& kind = TableKind::Named(choice.table);
+    const auto writer = format.make(QLatin1String(kind.title), sink);
+    writer->Write(*kind.make(period));
+}
+
+void WriteOut(const Session& session, std::string_view bytes) {
+    if (!session.Out().write(bytes.data(), std::streamsize(bytes.size())))
+        throw RuntimeError(ErrorNumber::FileAccess,
+                           QStringLiteral("Standard output takes no more."));
+}
+
+int WriteTable(const Session& session, const Choice& choice, const Period& period) {
+    const RecordsReading records(session.Records());
+    session.ChooseProfile();
+    const TableFormat& format = FormatOf(choice, session);
+    if (choice.out.empty()) {
+        Write(choice, format, period,
+              [&session](std::string_view bytes) { WriteOut(session, bytes); });
+        return Done;
+    }
+    OutputFile file(choice.out);
+    Write(choice, format, period, [&file](std::string_view bytes) { file.Write(bytes); });
+    file.Keep();
+    return Done;
+}
+} // namespace
+
+void Commands::AddTable(CLI::App& program, Session& session) {
+    CLI::App* command = program.add_subcommand("table", "Writes records as a table: CSV, workbook "
+                                                        "or JSON");
+    const auto choice = std::make_shared<Choice>();
+    command->add_option("TABLE", choice->table, "Which records")
+        ->required()
+        ->check(CLI::IsMember(Names(TableKind::All())));
+    choice->days.AddTo(*command, "rows");
+    command->add_option("--format", choice->format, "The format; otherwise that of FILE, or csv")
+        ->check(CLI::IsMember(Names(TableFormat::All())));
+    command->add_option("--out", choice->out, "The file; otherwise standard output")
+        ->type_name("FILE");
+    command->footer("Amounts that are not known are left empty. The coverage of a total is the "
+                    "share of the logged grams\nwhose amount is known; own foods, recipes and "
+                    "foods that are gone count as 100 grams a serving.\n\n"
+                    "Example: halvane-data table days --from 2026-03-01 --to 2026-03-31 --out "
+                    "march.xlsx");
+    command->callback([&session, choice] {
+        RequireSense(*choice, session);
+        session.Do([&session, choice, period = choice->days.Chosen(TableKind::Always())] {
+            return WriteTable(session, *choice, period);
+        });
+    });
+}

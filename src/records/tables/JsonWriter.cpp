@@ -1,0 +1,53 @@
+#include "records/tables/JsonWriter.h"
+
+#include "records/tables/CellText.h"
+
+namespace {
+constexpr unsigned char FirstPrintable = 0x20;
+
+std::string Escaped(char at) {
+    static constexpr auto hex = "0123456789abcdef";
+    if (at == '"' || at == '\\')
+        return {'\\', at};
+    if (static_cast<unsigned char>(at) >= FirstPrintable)
+        return {at};
+    return std::string("\\u00") + hex[at >> 4] + hex[at & 0xf];
+}
+} // namespace
+
+JsonWriter::JsonWriter(const QString&, Sink sink)
+    : sink_(std::move(sink)) {}
+
+std::string JsonWriter::Text(const std::string& text) {
+    std::string escaped = "\"";
+    for (const char at : text)
+        escaped += Escaped(at);
+    return escaped + '"';
+}
+
+void JsonWriter::Head(const std::vector<TableColumn>& columns) {
+    for (const TableColumn& column : columns)
+        keys_.push_back((keys_.empty() ? "{" : ", ") + Text(column.key.toStdString()) + ": ");
+    sink_("[");
+}
+
+void JsonWriter::Row(const std::vector<Cell>& cells) {
+    std::string line = first_ ? "\n" : ",\n";
+    first_ = false;
+    for (size_t i = 0; i < cells.size(); ++i) {
+        line += keys_[i];
+        if (const auto* number = std::get_if<double>(&cells[i]))
+            CellText::AddNumber(line, *number);
+        else if (const auto* text = std::get_if<std::string>(&cells[i]))
+            line += Text(*text);
+        else if (const auto* day = std::get_if<QDate>(&cells[i]))
+            line += Text(CellText::Iso(*day));
+        else
+            line += "null";
+    }
+    sink_(line + '}');
+}
+
+void JsonWriter::End() {
+    sink_("\n]\n");
+}
