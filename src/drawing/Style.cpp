@@ -117,6 +117,7 @@ void SetLineColours(Style& style) {
     style.ln[2] = {QColor(128, 0, 0), 6};
     style.ln[3] = {QColor(192, 0, 0), 4};
     style.ln[4] = {QColor(255, 128, 128), 2};
+    style.lineMean = {QColor(51, 69, 90), 3};
     style.lineAxis = QColor(0, 0, 0);
     style.lineDotEdge = QColor(255, 170, 170);
     style.lineDotCore = QColor(255, 200, 200);
@@ -148,4 +149,13 @@ const Style& TheStyle() {
 
 void SetFontFamily(const QString& family) {
     SetFonts(OneStyle(), family);
+}
+
+void UseStyleOnPaper() {
+    Style& style = OneStyle();
+    style.paper = Qt::white;
+    for (QFont* font :
+         {&style.text, &style.small, &style.smallStrong, &style.strong, &style.screenTitle,
+          &style.cardTitle, &style.control, &style.title, &style.reading, &style.chartNotice})
+        font->setHintingPreference(QFont::PreferNoHinting);
 }

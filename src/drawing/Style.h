@@ -60,6 +60,7 @@ struct Style {
     QColor pieFat, pieProtein, pieCarbs;
     QColor barNormal[8], barHover[8]; ///< rows of the bar pictures, top to bottom
     LinePen ln[5];                    ///< pens of the weight line; it is drawn with the last two
+    LinePen lineMean;                 ///< pen of the mean over the weight line
     QColor lineAxis, lineDotEdge, lineDotCore;
     QColor chartNoticeInk; ///< the notice on a chart without data
 
@@ -89,3 +90,7 @@ const Style& TheStyle();
 
 /// Applies to controls created afterwards. Only tests set another family than the delivered one.
 void SetFontFamily(const QString& family);
+
+/// For pages: on white, with letters that are not fitted to the pixels of a screen. A process that
+/// writes pages shows no windows.
+void UseStyleOnPaper();

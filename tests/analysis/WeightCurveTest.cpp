@@ -55,6 +55,33 @@ TEST(WeightCurveTest, TheSummaryListsDaysAndWeights) {
     EXPECT_EQ(empty.Summary(), "No weight data To chart");
 }
 
+TEST(WeightCurveTest, OnTheScreenThereIsNoMean) {
+    EXPECT_TRUE(Curve().mean.empty());
+}
+
+TEST(WeightCurveTest, TheMeanOfADayIsThatOfTheSevenDaysUpToIt) {
+    const WeightCurve curve = WeightCurve::WithMean(
+        {{150, First}, {156, First.addDays(6)}, {158, First.addDays(7)}, {151, First.addDays(30)}});
+    ASSERT_EQ(curve.mean.size(), 4U);
+    EXPECT_EQ(curve.mean[0].weight, 150);
+    EXPECT_EQ(curve.mean[1].weight, 153);
+    EXPECT_EQ(curve.mean[2].weight, 157);
+    EXPECT_EQ(curve.mean[3].weight, 151);
+    for (size_t i = 0; i < curve.mean.size(); ++i)
+        EXPECT_EQ(curve.mean[i].x, curve.points[i].x);
+}
+
+TEST(WeightCurveTest, OnAPageEveryWeightStandsBetweenTheLabels) {
+    for (const double range : {0.0, 0.3, 1.0, 3.9, 7.0, 10.0, 24.5, 300.0})
+        for (const double least : {149.6, 150.0, 150.4}) {
+            const WeightCurve curve =
+                WeightCurve::WithMean({{least, First}, {least + range, First.addDays(9)}});
+            EXPECT_LE(double(curve.weights.back()), least);
+            EXPECT_GE(double(curve.weights.front()), least + range);
+            EXPECT_GE(curve.points[0].y, curve.points[1].y);
+        }
+}
+
 class WeightCurvePaintingTest : public HalvaneTest {
 protected:
     static QImage Painted(const WeightCurve& curve, QPoint origin = {}) {

@@ -68,6 +68,13 @@ void PaintLine(TwipsSurface& surface, const std::vector<PlotPoint>& points) {
         }
 }
 
+void PaintMean(TwipsSurface& surface, const std::vector<PlotPoint>& mean) {
+    const Style::LinePen& pen = TheStyle().lineMean;
+    for (size_t i = 1; i < mean.size(); ++i)
+        surface.ThickLine(QPoint(mean[i - 1].x, mean[i - 1].y), QPoint(mean[i].x, mean[i].y),
+                          pen.colour, pen.width);
+}
+
 /// Lines do not cross the text of a date.
 void PaintDate(QPainter& painter, const QRect& place, const QString& text) {
     const int advance = QFontMetrics(TheStyle().small).horizontalAdvance(text);
@@ -116,6 +123,7 @@ void WeightCurvePainting::Paint(QPainter& painter, const WeightCurve& curve, QSi
         surface.Print(NoticePlace, QLatin1String(WeightCurve::Notice), style.chartNotice,
                       style.chartNoticeInk);
     PaintLine(surface, curve.points);
+    PaintMean(surface, curve.mean);
     painter.restore();
     PaintLabels(painter, curve, size.height());
 }
