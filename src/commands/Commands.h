@@ -16,6 +16,7 @@ void AddFoods(CLI::App& program, Session& session);
 void AddImport(CLI::App& program, Session& session);
 void AddLog(CLI::App& program, Session& session);
 void AddRecipes(CLI::App& program, Session& session);
+void AddReport(CLI::App& program, Session& session);
 void AddSearch(CLI::App& program, Session& session);
 void AddShow(CLI::App& program, Session& session);
 void AddTable(CLI::App& program, Session& session);
@@ -23,6 +24,6 @@ void AddWeigh(CLI::App& program, Session& session);
 
 inline constexpr void (*All[])(CLI::App& program, Session& session) = {
     AddCopyDay, AddCopyMeal, AddExport, AddFoods, AddImport, AddLog,
-    AddRecipes, AddSearch,   AddShow,   AddTable, AddWeigh,
+    AddRecipes, AddReport,   AddSearch, AddShow,  AddTable,  AddWeigh,
 };
 } // namespace Commands

@@ -7,6 +7,8 @@
 
 #include <CLI/CLI.hpp>
 
+#include <algorithm>
+
 namespace {
 /// CLI11 takes the last argument first.
 std::vector<std::string> Reversed(const QStringList& arguments) {
@@ -39,6 +41,10 @@ void AddHiddenOptions(CLI::App& program, std::ostream& out) {
     print("--print-zsh", Completion::ForZsh);
 }
 } // namespace
+
+bool NeedsDrawing(const std::vector<std::string>& arguments) {
+    return std::ranges::find(arguments, "report") != arguments.end();
+}
 
 int RunCommand(const QStringList& arguments, std::ostream& out, std::ostream& error) {
     Session session(out, error);
