@@ -1,7 +1,9 @@
-// Makes the stock catalogue and its report from a USDA Standard Reference release.
+// Makes the stock catalogue, the list of its sources and its report from a USDA Standard Reference
+// release.
 #include "catalogue/Catalogue.h"
 #include "catalogue/CatalogueReport.h"
 #include "common/TextFile.h"
+#include "foods/release/FoodSources.h"
 
 #include <QFile>
 
@@ -9,14 +11,20 @@
 #include <exception>
 
 int main(int argc, char** argv) {
-    if (argc != 4) {
-        std::fputs("usage: make_catalogue RELEASE_FOLDER FOODS.tsv REPORT.md\n", stderr);
+    if (argc != 6) {
+        std::fputs("usage: make_catalogue RELEASE_FOLDER RELEASE_NAME FOODS.tsv SOURCES.json "
+                   "REPORT.md\n",
+                   stderr);
         return 2;
     }
     try {
-        const Catalogue catalogue = Catalogue::FromRelease(QFile::decodeName(argv[1]));
-        catalogue.Table().Write(QFile::decodeName(argv[2]));
-        WriteText(QFile::decodeName(argv[3]), CatalogueReport(catalogue));
+        const QString folder = QFile::decodeName(argv[1]);
+        const Catalogue catalogue = Catalogue::FromRelease(folder);
+        const auto sources =
+            FoodSources::Of(catalogue.Release(), QString::fromLocal8Bit(argv[2]), folder);
+        catalogue.Table().Write(QFile::decodeName(argv[3]));
+        WriteText(QFile::decodeName(argv[4]), QString::fromUtf8(sources.Json()));
+        WriteText(QFile::decodeName(argv[5]), CatalogueReport(catalogue));
         return 0;
     } catch (const std::exception& error) {
         std::fprintf(stderr, "make_catalogue: %s\n", error.what());

@@ -47,7 +47,7 @@ TEST_F(InstallTest, EverythingStandsBesideTheProgram) {
     const QStringList files = Files();
     for (const char* name :
          {"halvane", "halvane-data", "users.mdb", "foods.mdb", "tips.txt", "agreement.txt",
-          "licences.txt", "records-format.schema.json"})
+          "licences.txt", "food-sources.json", "records-format.schema.json"})
         EXPECT_TRUE(files.contains(QLatin1String(name))) << name;
     for (const char* program : {"halvane", "halvane-data"})
         EXPECT_TRUE(QFileInfo(folder_.filePath(QLatin1String(program))).isExecutable()) << program;
@@ -84,8 +84,9 @@ TEST(Tools, WrongArgumentsGiveTheUsageAndChangeNothing) {
 TEST(Tools, FailureGivesAnExitCodeAndNoFile) {
     QTemporaryDir folder;
     const QString foods = folder.filePath(QStringLiteral("foods.tsv"));
-    EXPECT_EQ(RunTool("make_catalogue",
-                      {folder.path(), foods, folder.filePath(QStringLiteral("report.md"))}),
+    EXPECT_EQ(RunTool("make_catalogue", {folder.path(), QStringLiteral("a release"), foods,
+                                         folder.filePath(QStringLiteral("sources.json")),
+                                         folder.filePath(QStringLiteral("report.md"))}),
               1);
     EXPECT_EQ(RunTool("make_databases", {QStringLiteral("--update"), folder.path(), folder.path()}),
               1);

@@ -37,7 +37,7 @@ constexpr FoodColumn Columns[] = {
     {"Zinc", 17},
     {"Copper", 18},
     {"Manganese", 19},
-    {"Selenium", 20, 0, MicrogramsToMilligrams},
+    {"Selenium", 20, 0, MicrogramsToMilligrams, "mcg"},
     {"Thiamin", 22},
     {"Riboflavin", 23},
     {"Niacin", 24},
@@ -56,9 +56,12 @@ std::span<const FoodColumn> FoodColumns() {
     return Columns;
 }
 
+int FieldInLayout(int field, int fieldCount) {
+    return field > VitaminE ? field + fieldCount - ShortLayout : field;
+}
+
 const QString& AbbrevField(const ReleaseTable::Record& record, int field) {
-    const int added = int(record.fields.size()) - ShortLayout;
-    return record.Field(field > VitaminE ? field + added : field);
+    return record.Field(FieldInLayout(field, int(record.fields.size())));
 }
 
 QString ColumnValue(const ReleaseTable::Record& record, const FoodColumn& column) {

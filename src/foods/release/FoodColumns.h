@@ -12,6 +12,7 @@ struct FoodColumn {
     int field;            ///< field of the abbreviated file, counted from 1 in its 51-field layout
     int fallback = 0;     ///< field to use if `field` is empty
     int decimalShift = 0; ///< power of ten between the release's unit and the column's
+    const char* unit = nullptr; ///< the release's unit, where it is not the column's
 };
 
 /// A column for each nutrient, in the stored order.
@@ -22,6 +23,8 @@ std::span<const FoodColumn> FoodColumns();
 inline constexpr int ShortLayout = 51;
 inline constexpr int LongLayout = 53;
 
+/// The number of a field in a layout, by its number in the 51-field layout.
+int FieldInLayout(int field, int fieldCount);
 /// A field of the abbreviated file by its number in the 51-field layout.
 const QString& AbbrevField(const ReleaseTable::Record& record, int field);
 

@@ -11,14 +11,17 @@ namespace {
 struct Description {
     QString group;
     QString name;
+    int line = 0;
 };
 
-constexpr QLatin1String ValuesFile("ABBREV.txt");
+QString In(const QString& folder, const char* file) {
+    return QDir(folder).filePath(QLatin1String(file));
+}
 
 QHash<QString, Description> Described(const ReleaseTable& table) {
     QHash<QString, Description> descriptions;
     for (const ReleaseTable::Record& record : table.Records())
-        descriptions.insert(record.Field(1), {record.Field(2), record.Field(3)});
+        descriptions.insert(record.Field(1), {record.Field(2), record.Field(3), record.line});
     return descriptions;
 }
 
@@ -29,6 +32,8 @@ ReleaseFood Food(const ReleaseTable::Record& values, const Description& descript
     food.number = values.Field(1);
     food.group = description.group;
     food.name = description.name;
+    food.nameLine = description.line;
+    food.valuesLine = values.line;
     for (const FoodColumn& column : FoodColumns()) {
         food.nutrients << ColumnValue(values, column);
         if (column.fallback)
@@ -45,17 +50,16 @@ bool ReleaseFood::HasValue() const {
 }
 
 bool FoodRelease::IsIn(const QString& folder) {
-    return QDir(folder).exists(ValuesFile);
+    return QFile::exists(In(folder, ValuesFile));
 }
 
 FoodRelease FoodRelease::Read(const QString& folder) {
-    const QDir files(folder);
-    const auto values = ReleaseTable::Read(files.filePath(ValuesFile), {ShortLayout, LongLayout});
-    const auto descriptions =
-        ReleaseTable::Read(files.filePath(QStringLiteral("FOOD_DES.txt")), {14});
-    const auto weights = ReleaseTable::Read(files.filePath(QStringLiteral("WEIGHT.txt")), {7});
+    const auto values = ReleaseTable::Read(In(folder, ValuesFile), {ShortLayout, LongLayout});
+    const auto descriptions = ReleaseTable::Read(In(folder, NamesFile), {14});
+    const auto weights = ReleaseTable::Read(In(folder, WeightsFile), {7});
 
     FoodRelease release;
+    release.fieldCount_ = values.FieldCount();
     release.valuesRead_ = int(values.Records().size());
     release.descriptionsRead_ = int(descriptions.Records().size());
     release.weightsRead_ = int(weights.Records().size());

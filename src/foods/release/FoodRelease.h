@@ -16,6 +16,8 @@ struct ReleaseFood {
     QStringList nutrients; ///< in the order of FoodColumns, in 100 grams
     Servings servings;
     bool plainFolate = false; ///< folate is the total, dietary equivalents are unknown
+    int valuesLine = 0;       ///< of ABBREV.txt
+    int nameLine = 0;         ///< of FOOD_DES.txt
 
     bool HasValue() const; ///< at least one nutrient is known
 };
@@ -30,9 +32,14 @@ public:
     /// another layout, or lists a food twice.
     static FoodRelease Read(const QString& folder);
 
+    static constexpr const char* ValuesFile = "ABBREV.txt";
+    static constexpr const char* NamesFile = "FOOD_DES.txt";
+    static constexpr const char* WeightsFile = "WEIGHT.txt";
+
     const QList<ReleaseFood>& Foods() const { return foods_; }
     /// Numbers of foods that are left out because they have no full description.
     const QStringList& Unnamed() const { return unnamed_; }
+    int FieldCount() const { return fieldCount_; } ///< of ABBREV.txt
     int ValuesRead() const { return valuesRead_; }
     int DescriptionsRead() const { return descriptionsRead_; }
     int WeightsRead() const { return weightsRead_; }
@@ -44,6 +51,7 @@ private:
 
     QList<ReleaseFood> foods_;
     QStringList unnamed_;
+    int fieldCount_ = 0;
     int valuesRead_ = 0;
     int descriptionsRead_ = 0;
     int weightsRead_ = 0;

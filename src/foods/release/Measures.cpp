@@ -24,7 +24,8 @@ bool Has(const QList<Measure>& measures, const Measure& measure) {
 QList<Measure> OwnMeasures(const ReleaseTable::Record& abbreviated) {
     QList<Measure> measures;
     for (const int field : {47, 49}) {
-        const Measure one{AbbrevField(abbreviated, field + 1), AbbrevField(abbreviated, field)};
+        const Measure one{AbbrevField(abbreviated, field + 1), AbbrevField(abbreviated, field),
+                          field};
         if (!one.text.isEmpty() && !one.grams.isEmpty())
             measures << one;
     }
@@ -37,7 +38,7 @@ Measures::Measures(const ReleaseTable& weights) {
     for (const ReleaseTable::Record& record : weights.Records())
         weights_[record.Field(1)] << Weight{
             record.Field(2).toInt(),
-            {QString(record.Field(3) + u' ' + record.Field(4)), record.Field(5)}};
+            {QString(record.Field(3) + u' ' + record.Field(4)), record.Field(5), 0, record.line}};
     for (QList<Weight>& list : weights_)
         std::ranges::stable_sort(list, {}, &Weight::sequence);
 }

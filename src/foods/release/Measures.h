@@ -9,6 +9,8 @@
 struct Measure {
     QString text;
     QString grams;
+    int field = 0; ///< of the abbreviated file, where it gives the grams
+    int line = 0;  ///< of the file of weights, where it gives the measure
 };
 
 /// The two servings of a food. A food with one measure gets "100 grams" as its second serving. A
