@@ -21,9 +21,10 @@ void AddSearch(CLI::App& program, Session& session);
 void AddShow(CLI::App& program, Session& session);
 void AddTable(CLI::App& program, Session& session);
 void AddWeigh(CLI::App& program, Session& session);
+void AddWhy(CLI::App& program, Session& session);
 
 inline constexpr void (*All[])(CLI::App& program, Session& session) = {
-    AddCopyDay, AddCopyMeal, AddExport, AddFoods, AddImport, AddLog,
-    AddRecipes, AddReport,   AddSearch, AddShow,  AddTable,  AddWeigh,
+    AddCopyDay, AddCopyMeal, AddExport, AddFoods, AddImport, AddLog, AddRecipes,
+    AddReport,  AddSearch,   AddShow,   AddTable, AddWeigh,  AddWhy,
 };
 } // namespace Commands

@@ -45,7 +45,22 @@ void FoodArgument::AddTo(CLI::App& command) {
         .add_option("FOOD", words_,
                     "A key (food:16096, recipe:3, or 16096 for a food), or words of the name")
         ->required();
+    AddRecipeFlag(command);
+}
+
+void FoodArgument::AddRecipeFlag(CLI::App& command) {
     command.add_flag("--recipe", recipe_, "FOOD is a recipe");
+}
+
+void FoodArgument::AddOneTo(CLI::App& command) {
+    const auto take = [this](const std::string& text) { words_ = {text}; };
+    command
+        .add_option_function<std::string>(
+            "FOOD", take,
+            "A key (food:16096, recipe:3, log:5 for an entry, or 16096 for a food), or words of "
+            "the name in one argument")
+        ->required();
+    AddRecipeFlag(command);
 }
 
 QString FoodArgument::Text() const {
@@ -54,6 +69,14 @@ QString FoodArgument::Text() const {
 
 QString FoodArgument::Refusal() const {
     return SearchTerms::Refusal(Text());
+}
+
+std::optional<qint32> FoodArgument::LogKey() const {
+    const QString text = Text();
+    bool fits = false;
+    const qint32 key = QStringView(text).mid(4).toInt(&fits);
+    return fits && text.startsWith(u"log:", Qt::CaseInsensitive) ? std::optional(key)
+                                                                 : std::nullopt;
 }
 
 FoodList FoodArgument::Search() const {

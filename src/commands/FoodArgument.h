@@ -16,15 +16,19 @@ class App;
 /// "recipe:3", "16096") or by words of its name.
 class FoodArgument {
 public:
-    void AddTo(CLI::App& command); ///< this must live as long as the command
+    // This must live as long as the command.
+    void AddTo(CLI::App& command);
+    void AddOneTo(CLI::App& command); ///< in one argument; it can be the key of an entry, too
 
     /// The message that refuses the text; empty if it can be looked for.
     QString Refusal() const;
+    std::optional<qint32> LogKey() const; ///< of an entry: "log:5"
     /// The only food with that key, that whole name, or these words. If the words have none or
     /// several, prints those and gives nothing. Fails on a key that no food has.
     std::optional<Food> Choose(const Session& session) const;
 
 private:
+    void AddRecipeFlag(CLI::App& command);
     QString Text() const;
     FoodList Search() const;
 

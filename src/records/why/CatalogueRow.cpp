@@ -1,0 +1,18 @@
+#include "records/why/CatalogueRow.h"
+
+#include "store/Connection.h"
+
+Recordset CatalogueRow::Of(qint32 id) {
+    return {FoodDB(), QStringLiteral("SELECT * FROM FOODS WHERE ID = %1").arg(id)};
+}
+
+QString CatalogueRow::Title(const Recordset& row) {
+    return row[QStringLiteral("FoodName")].Text() + u" (food:" + row[QStringLiteral("ID")].Text() +
+           u')';
+}
+
+QJsonObject CatalogueRow::Facts(const Recordset& row) {
+    return {{"kind", "food"},
+            {"key", row[QStringLiteral("ID")].WholeOr(0)},
+            {"name", row[QStringLiteral("FoodName")].Text()}};
+}
