@@ -41,9 +41,11 @@ private:
         file.write("\"fdc_id\",\"data_type\",\"description\",\"food_category_id\","
                    "\"publication_date\"\n");
         for (int i = 0; i < foods; ++i)
-            file.write(QByteArray::asprintf(
-                "\"%d\",\"branded_food\",\"INVENTED CRISPS NUMBER %d\",\"\",\"2026-04-30\"\n",
-                FirstKey + i, i * 7919 % foods));
+            file.write(
+                QString::asprintf(
+                    "\"%d\",\"branded_food\",\"INVENTED CRISPS NUMBER %d\",\"\",\"2026-04-30\"\n",
+                    FirstKey + i, i * 7919 % foods)
+                    .toUtf8());
     }
     static void WriteBrands(QFile& file, int foods) {
         file.write("\"fdc_id\",\"brand_owner\",\"brand_name\",\"gtin_upc\",\"ingredients\","
@@ -51,11 +53,13 @@ private:
                    "\"branded_food_category\",\"data_source\",\"modified_date\","
                    "\"available_date\",\"discontinued_date\"\n");
         for (int i = 0; i < foods; ++i)
-            file.write(QByteArray::asprintf(
-                "\"%d\",\"Invented Foods Inc.\",\"BRAND %d\",\"%014d\",\"POTATOES, OIL, SALT AND "
-                "WHAT ELSE IS IN THE BAG\",\"%d\",\"g\",\"1 ONZ\",\"Snacks\",\"LI\",\"2025-11-02\","
-                "\"2025-11-02\",\"\"\n",
-                FirstKey + i, i % 997, i, 20 + i % 50));
+            file.write(QString::asprintf("\"%d\",\"Invented Foods Inc.\",\"BRAND "
+                                         "%d\",\"%014d\",\"POTATOES, OIL, SALT AND "
+                                         "WHAT ELSE IS IN THE BAG\",\"%d\",\"g\",\"1 "
+                                         "ONZ\",\"Snacks\",\"LI\",\"2025-11-02\","
+                                         "\"2025-11-02\",\"\"\n",
+                                         FirstKey + i, i % 997, i, 20 + i % 50)
+                           .toUtf8());
     }
     static void WriteAmounts(QFile& file, int foods) {
         QRandomGenerator random(1);
@@ -64,9 +68,10 @@ private:
                    "\"percent_daily_value\"\n");
         for (int i = 0; i < foods; ++i)
             for (const int nutrient : Nutrients)
-                file.write(QByteArray::asprintf(
-                    "\"1\",\"%d\",\"%d\",\"%.2f\",\"\",\"71\",\"\",\"\",\"\",\"\",\"\",\"\",\"\"\n",
-                    FirstKey + i, nutrient, random.generateDouble() * 30));
+                file.write(QString::asprintf("\"1\",\"%d\",\"%d\",\"%.2f\",\"\",\"71\",\"\",\"\","
+                                             "\"\",\"\",\"\",\"\",\"\"\n",
+                                             FirstKey + i, nutrient, random.generateDouble() * 30)
+                               .toUtf8());
     }
 
     QTemporaryDir folder_;

@@ -1,4 +1,5 @@
 #include "DataFoodsBench.h"
+#include "DataUseBench.h"
 #include "StartBench.h"
 #include "Table.h"
 
@@ -19,6 +20,7 @@ int main(int argc, char** argv) {
     Table table;
     benchmark::RunSpecifiedBenchmarks(&table);
     MeasureStart();
+    MeasureUse();
     MeasureFoodImport();
     return 0;
 }
