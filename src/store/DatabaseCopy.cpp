@@ -2,9 +2,9 @@
 
 #include "store/RollbackJournal.h"
 #include "store/StoreError.h"
+#include "store/UnchangedFile.h"
 
 #include <QFileInfo>
-#include <QUrl>
 
 #include <SQLiteCpp/Backup.h>
 #include <SQLiteCpp/SQLiteCpp.h>
@@ -14,14 +14,15 @@
 namespace {
 constexpr int BusyMilliseconds = 5000; ///< a commit of another process is awaited this long
 constexpr int AllPages = -1;
+constexpr int PagesAtOnce = 1024; ///< the source is free for a writer after each so many pages
+constexpr int MostRestarts = 10;
 
 /// A folder that does not allow writing holds nobody's journal, so its file does not change.
 SQLite::Database Source(const QString& path) {
     const QFileInfo file(path);
     if (file.isWritable() && QFileInfo(file.path()).isWritable())
         return {path.toStdString(), SQLite::OPEN_READWRITE, BusyMilliseconds};
-    const QByteArray address = QUrl::fromLocalFile(file.absoluteFilePath()).toEncoded();
-    return {address.toStdString() + "?immutable=1", SQLite::OPEN_READONLY | SQLite::OPEN_URI};
+    return {UnchangedFile::Address(path).toStdString(), SQLite::OPEN_READONLY | SQLite::OPEN_URI};
 }
 
 void Prepare(SQLite::Database& target, DatabaseCopy::Sync sync) {
@@ -29,6 +30,18 @@ void Prepare(SQLite::Database& target, DatabaseCopy::Sync sync) {
         RollbackJournal::SyncFully(target, "main");
     else
         target.exec("PRAGMA synchronous = OFF");
+}
+/// Where another connection writes between two steps, the copy begins again. Where that happens too
+/// often, the writer waits until all pages are copied.
+int CopyAllPages(SQLite::Backup& backup) {
+    int restarts = 0;
+    for (int left = 0;;) {
+        const int result = backup.executeStep(restarts < MostRestarts ? PagesAtOnce : AllPages);
+        if (result != SQLITE_OK)
+            return result;
+        restarts += left > 0 && backup.getRemainingPageCount() >= left ? 1 : 0;
+        left = backup.getRemainingPageCount();
+    }
 }
 } // namespace
 
@@ -39,7 +52,8 @@ void DatabaseCopy::Make(const QString& from, const QString& to, Sync sync) {
             SQLite::Database target(to.toStdString(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE,
                                     BusyMilliseconds);
             Prepare(target, sync);
-            const int result = SQLite::Backup(target, source).executeStep(AllPages);
+            SQLite::Backup backup(target, source);
+            const int result = CopyAllPages(backup);
             if (result != SQLITE_DONE)
                 throw SQLite::Exception(target.getHandle(), result);
         });

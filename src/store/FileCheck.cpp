@@ -4,11 +4,9 @@
 #include "store/LeftJournal.h"
 #include "store/Schema.h"
 #include "store/StoreError.h"
+#include "store/UnchangedFile.h"
 
 #include <QFileInfo>
-#include <QUrl>
-
-#include <SQLiteCpp/SQLiteCpp.h>
 
 #include <sqlite3.h>
 
@@ -34,10 +32,10 @@ void CheckHeader(const FileHeader& header, const QString& path, DatabaseKind kin
     CheckVersion(header.SchemaVersion(), path);
 }
 
-void CheckInside(SQLite::Database& database, const QString& path) {
-    if (database.execAndGet("SELECT count(*) FROM sqlite_schema").getInt() == 0)
+void CheckInside(UnchangedFile& database, const QString& path) {
+    if (database.Number("SELECT count(*) FROM sqlite_schema") == 0)
         Refuse(SQLITE_NOTADB, path, "it holds no tables");
-    CheckVersion(database.execAndGet("PRAGMA user_version").getInt(), path);
+    CheckVersion(int(database.Number("PRAGMA user_version")), path);
 }
 
 /// The store reads a file without a lock and without an index file only if it is declared
@@ -45,9 +43,7 @@ void CheckInside(SQLite::Database& database, const QString& path) {
 void CheckAlone(const QString& file, const QString& path) {
     if (QFileInfo(file).size() < FileHeader::Of(file).Length())
         Refuse(SQLITE_CORRUPT, path, "its end is missing");
-    const QByteArray address = QUrl::fromLocalFile(QFileInfo(file).absoluteFilePath()).toEncoded();
-    SQLite::Database database(address.toStdString() + "?immutable=1",
-                              SQLite::OPEN_READONLY | SQLite::OPEN_URI);
+    UnchangedFile database(file, path);
     CheckInside(database, path);
 }
 } // namespace
