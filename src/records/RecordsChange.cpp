@@ -1,21 +1,58 @@
 #include "records/RecordsChange.h"
 
-#include "records/RecordsFolder.h"
+#include "records/SnapshotMaking.h"
+#include "records/Snapshots.h"
+#include "records/UpgradeSnapshot.h"
+#include "runtime/RuntimeError.h"
+#include "runtime/SettingTable.h"
+#include "runtime/Settings.h"
 #include "store/Connection.h"
 
-RecordsChange::RecordsChange(const RecordsFolder& folder)
-    : lock_(folder) {
-    UserDB().Open(folder.Users(), DatabaseKind::Users);
-    FoodDB().OpenTogether(folder.Foods(), DatabaseKind::Foods, UserDB());
-    transaction_.emplace(UserDB());
+#include <QDir>
+
+RecordsChange::RecordsChange(const RecordsFolder& folder, const QString& title)
+    : folder_(folder)
+    , lock_(folder) {
+    UpgradeSnapshot::MakeIfNeeded(folder);
+    try {
+        Open();
+        before_ = SnapshotMaking(folder, Snapshots(folder).Place())
+                      .Make(SnapshotKind::Change, title, SnapshotMaking::Care::Quick);
+        transaction_.emplace(UserDB());
+    } catch (const RuntimeError&) {
+        FoodDB().Close();
+        UserDB().Close();
+        throw;
+    }
+}
+
+void RecordsChange::Open() {
+    UserDB().Open(folder_.Users(), DatabaseKind::Users);
+    FoodDB().OpenTogether(folder_.Foods(), DatabaseKind::Foods, UserDB());
 }
 
 RecordsChange::~RecordsChange() {
     transaction_.reset();
     FoodDB().Close();
     UserDB().Close();
+    if (!committed_)
+        QDir(before_.path).removeRecursively();
+}
+
+void RecordsChange::Set(const Setting& setting, const QString& value) {
+    if (GetRegValue(setting) != value)
+        settings_[setting] = value;
 }
 
 void RecordsChange::Commit() {
     transaction_->Commit();
+    const RecordsState after = RecordsState::Of(folder_);
+    committed_ = after != before_.source || !settings_.isEmpty();
+    if (!committed_)
+        return;
+    before_.change = {after, settings_};
+    before_.WriteNote();
+    for (auto setting = settings_.begin(); setting != settings_.end(); ++setting)
+        SetRegValue(setting.key(), setting.value());
+    Snapshots(folder_).Prune();
 }

@@ -8,3 +8,7 @@ RecordsFolder::RecordsFolder(QString path)
 QString RecordsFolder::File(const char* name) const {
     return QDir(path_).filePath(QLatin1String(name));
 }
+
+QString RecordsFolder::BeingMade(const RecordsFile& file) const {
+    return File(file.name) + QLatin1String(".new");
+}

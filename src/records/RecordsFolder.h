@@ -1,5 +1,7 @@
 #pragma once
 
+#include "records/RecordsFiles.h"
+
 #include <QString>
 
 /// The folder in which a person's records are kept: users.mdb, foods.mdb and, while a program
@@ -11,10 +13,11 @@ public:
     const QString& Path() const { return path_; }
     QString Users() const { return File("users.mdb"); }
     QString Foods() const { return File("foods.mdb"); }
-    QString Lock() const { return File("halvane.lock"); }
+    QString Lock() const { return File("records.lock"); }
+    QString File(const char* name) const;
+    /// The name under which a new file is made before it takes the place of the old one.
+    QString BeingMade(const RecordsFile& file) const;
 
 private:
-    QString File(const char* name) const;
-
     QString path_;
 };

@@ -11,7 +11,8 @@ public:
     /// Fails with ErrorNumber::RecordsInUse, and says which program has the records open.
     explicit RecordsLock(const RecordsFolder& folder);
 
-    static bool IsHeld(const RecordsFolder& folder); ///< by a running process
+    static bool IsHeld(const RecordsFolder& folder);          ///< by a running process
+    static bool IsHeldByCommand(const RecordsFolder& folder); ///< by halvane-data
 
 private:
     ProcessLock lock_;

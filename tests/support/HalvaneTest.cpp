@@ -24,6 +24,7 @@ HalvaneTest::~HalvaneTest() = default;
 void HalvaneTest::SetUp() {
     ASSERT_TRUE(folder_.isValid());
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, Folder());
+    qputenv("XDG_DATA_HOME", QFile::encodeName(Folder() + "/data")); // snapshots
     SetApplicationPath(Folder());
     ResetApp();
     User::ResetCurrent();

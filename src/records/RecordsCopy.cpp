@@ -1,0 +1,23 @@
+#include "records/RecordsCopy.h"
+
+#include "records/RecordsFolder.h"
+#include "records/RecordsLock.h"
+#include "store/DatabaseCopy.h"
+#include "store/LeftJournal.h"
+
+#include <QFileInfo>
+
+bool RecordsCopy::HasJournal(const QString& path) {
+    return QFileInfo(path + QLatin1String("-journal")).size() > 0 ||
+           QFileInfo(path + QLatin1String("-wal")).size() > 0;
+}
+
+/// A journal beside a file that is in use belongs to the program that writes.
+void RecordsCopy::Make(const QString& from, const QString& to) {
+    if (!HasJournal(from) || RecordsLock::IsHeld(RecordsFolder(QFileInfo(from).path())))
+        return DatabaseCopy::Make(from, to, DatabaseCopy::Sync::No);
+    const LeftJournal journal(from);
+    if (journal.ChangesTheFile())
+        journal.RequireFit();
+    DatabaseCopy::Make(journal.Result(), to, DatabaseCopy::Sync::No);
+}

@@ -1,0 +1,146 @@
+#include "records/Restoring.h"
+
+#include "records/Disk.h"
+#include "records/SnapshotMaking.h"
+#include "records/Snapshots.h"
+#include "records/SoundRecords.h"
+#include "runtime/RuntimeError.h"
+#include "runtime/Settings.h"
+#include "store/ContentReplacement.h"
+#include "store/FileCheck.h"
+#include "store/RollbackJournal.h"
+#include "store/StoreError.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <SQLiteCpp/SQLiteCpp.h>
+
+#include <algorithm>
+
+namespace {
+/// The first page, without the marks that a copy through the store makes anew.
+QByteArray FirstPage(QFile& file) {
+    struct Mark {
+        qsizetype at;
+        qsizetype length;
+    };
+    constexpr Mark marks[] = {{24, 4}, {40, 4}, {92, 8}}; // change count, schema count, writer
+    constexpr qint64 smallestPage = 512;
+    QByteArray page = file.read(smallestPage);
+    for (const auto& [at, length] : marks)
+        if (at + length <= page.size())
+            std::fill_n(page.begin() + at, length, '\0');
+    return page;
+}
+
+bool HoldTheSame(const QString& one, const QString& other) {
+    QFile first(one);
+    QFile second(other);
+    if (!first.open(QIODevice::ReadOnly) || !second.open(QIODevice::ReadOnly) ||
+        first.size() != second.size() || FirstPage(first) != FirstPage(second))
+        return false;
+    constexpr qint64 piece = 1 << 20;
+    while (!first.atEnd())
+        if (first.read(piece) != second.read(piece))
+            return false;
+    return true;
+}
+
+void PutSettings(const Snapshot::Settings& settings) {
+    for (auto setting = settings.begin(); setting != settings.end(); ++setting)
+        if (GetRegValue(setting.key()) != setting.value())
+            SetRegValue(setting.key(), setting.value());
+}
+} // namespace
+
+Restoring::Restoring(const RecordsFolder& records)
+    : records_(records)
+    , lock_(records) {}
+
+Snapshot Restoring::Put(const Snapshot& snapshot, const Snapshot::Settings& settings,
+                        const QString& reason) {
+    snapshot.RequireSound();
+    return PutChecked(snapshot, settings, reason);
+}
+
+Snapshot Restoring::PutChecked(const Snapshot& snapshot, const Snapshot::Settings& settings,
+                               const QString& reason) {
+    Snapshot kept;
+    try {
+        BringInOrder();
+        kept = Keep(reason);
+        ReplaceSound(snapshot);
+    } catch (const RuntimeError& failure) {
+        if (!SoundRecords::MeansDamage(failure, records_))
+            throw;
+        kept = KeepDamaged(reason);
+        ReplaceDamaged(snapshot);
+    }
+    PutSettings(settings);
+    Snapshots(records_).Prune();
+    return kept;
+}
+
+/// Takes in what a killed program left in a journal, and proves that the folder can be written.
+void Restoring::BringInOrder() const {
+    for (const RecordsFile& file : RecordsFiles) {
+        const QString path = records_.File(file.name);
+        FileCheck::Untouched(path, file.kind);
+        StoreError::Guarded(path, [&] {
+            SQLite::Database database(path.toStdString(), SQLite::OPEN_READWRITE);
+            RollbackJournal::Use(database, path);
+        });
+    }
+}
+
+Snapshot Restoring::Keep(const QString& reason) const {
+    return SnapshotMaking(records_, Snapshots(records_).Place())
+        .Make(SnapshotKind::Replaced, reason, SnapshotMaking::Care::Locked);
+}
+
+Snapshot Restoring::KeepDamaged(const QString& reason) const {
+    return SnapshotMaking(records_, Snapshots(records_).Place()).KeepDamaged(reason);
+}
+
+/// One file is swapped in one step. For two, a transaction covers both.
+void Restoring::ReplaceSound(const Snapshot& snapshot) const {
+    QList<RecordsFile> different;
+    std::ranges::copy_if(RecordsFiles, std::back_inserter(different), [&](const RecordsFile& file) {
+        return !HoldTheSame(records_.File(file.name), snapshot.Files().File(file.name));
+    });
+    if (different.size() == 1)
+        return SwapIn(snapshot, different.first());
+    QList<ContentReplacement::File> files;
+    for (const RecordsFile& file : different)
+        files.push_back({records_.File(file.name), snapshot.Files().File(file.name)});
+    if (!files.isEmpty())
+        ContentReplacement::Run(files);
+}
+
+/// What is left in the journals of the damaged files must not get into the new ones.
+void Restoring::ReplaceDamaged(const Snapshot& snapshot) const {
+    for (const RecordsFile& file : RecordsFiles)
+        for (const char* ending : {"-journal", "-wal", "-shm"})
+            Disk::Remove(records_.File(file.name) + QLatin1String(ending));
+    Disk::Sync(records_.Path());
+    for (const RecordsFile& file : RecordsFiles)
+        SwapIn(snapshot, file);
+}
+
+void Restoring::SwapIn(const Snapshot& snapshot, const RecordsFile& file) const {
+    const QFileInfo old(records_.File(file.name));
+    const QString path = old.exists() ? old.canonicalFilePath() : old.absoluteFilePath();
+    const QString made = records_.BeingMade(file);
+    const auto rights = QFile::ReadOwner | QFile::WriteOwner;
+    try {
+        Disk::Copy(snapshot.Files().File(file.name), made);
+        QFile::setPermissions(made, old.exists() ? old.permissions() | rights : rights);
+        Disk::Sync(made);
+        Disk::Move(made, path);
+        Disk::Sync(QFileInfo(path).path());
+    } catch (const RuntimeError&) {
+        QFile::remove(made);
+        throw;
+    }
+}
