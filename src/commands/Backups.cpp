@@ -1,0 +1,45 @@
+#include "commands/Commands.h"
+#include "commands/Session.h"
+#include "commands/SnapshotFacts.h"
+#include "records/Snapshots.h"
+
+#include <QDir>
+#include <QJsonArray>
+
+#include <CLI/CLI.hpp>
+
+namespace {
+QJsonObject Facts(const Snapshots& snapshots) {
+    QJsonArray all;
+    for (const Snapshot& snapshot : snapshots.All()) {
+        QJsonObject facts = SnapshotFacts::Json(snapshot);
+        facts["number"] = all.size() + 1;
+        all.append(facts);
+    }
+    return {{"place", snapshots.Place()}, {"snapshots", all}};
+}
+
+int PrintLines(const Session& session, const Snapshots& snapshots) {
+    const QList<Snapshot> all = snapshots.All();
+    session.Print((all.isEmpty() ? "There is no snapshot in " : "Snapshots in ") +
+                  QDir::toNativeSeparators(snapshots.Place()) + u'.');
+    for (qsizetype i = 0; i < all.size(); ++i)
+        session.Print(SnapshotFacts::Line(int(i) + 1, all[i]));
+    return Done;
+}
+
+int Backups(const Session& session) {
+    const Snapshots snapshots(session.Records());
+    if (!session.json)
+        return PrintLines(session, snapshots);
+    session.Print(Facts(snapshots));
+    return Done;
+}
+} // namespace
+
+void Commands::AddBackups(CLI::App& program, Session& session) {
+    CLI::App* command = program.add_subcommand(
+        "backups", "Lists the snapshots, newest first: number, time, kind, size and contents");
+    command->footer("Example: halvane-data backups");
+    command->callback([&session] { session.Do([&session] { return Backups(session); }); });
+}

@@ -1,0 +1,38 @@
+#include "commands/Commands.h"
+#include "commands/Session.h"
+#include "commands/SnapshotFacts.h"
+#include "records/Restoring.h"
+#include "records/Snapshots.h"
+
+#include <CLI/CLI.hpp>
+
+namespace {
+int Restore(const Session& session, const std::string& which) {
+    const RecordsFolder records = session.Records();
+    const Snapshot chosen = Snapshots(records).Find(QString::fromStdString(which));
+    const Snapshot replaced =
+        Restoring(records).Put(chosen, chosen.settings, "before restore of " + chosen.When());
+    const int number = Snapshots(records).NumberOf(replaced);
+    if (session.json)
+        session.Print(QJsonObject{{"restored", SnapshotFacts::Json(chosen)},
+                                  {"replaced", SnapshotFacts::Json(replaced)}});
+    else
+        session.Print("Brought back " + chosen.Title() + ": " + chosen.counts.Text() +
+                      ".\nWhat it has replaced is kept. `restore " + QString::number(number) +
+                      "` brings that back.");
+    return Done;
+}
+} // namespace
+
+void Commands::AddRestore(CLI::App& program, Session& session) {
+    CLI::App* command = program.add_subcommand(
+        "restore", "Brings a snapshot back, and keeps what it replaces as another snapshot");
+    const auto which = std::make_shared<std::string>();
+    command
+        ->add_option("WHICH", *which,
+                     "A number of the list that `backups` prints, a path, or `latest`")
+        ->required();
+    command->footer("Example: halvane-data restore 2");
+    command->callback(
+        [&session, which] { session.Do([&session, which] { return Restore(session, *which); }); });
+}

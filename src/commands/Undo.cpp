@@ -1,0 +1,30 @@
+#include "records/Undo.h"
+
+#include "commands/Commands.h"
+#include "commands/Session.h"
+#include "commands/SnapshotFacts.h"
+#include "records/Snapshots.h"
+
+#include <CLI/CLI.hpp>
+
+namespace {
+int TakeBack(const Session& session) {
+    const Undo::Result result = Undo::Last(session.Records());
+    const int number = Snapshots(session.Records()).NumberOf(result.replaced);
+    if (session.json)
+        session.Print(QJsonObject{{"change", result.change},
+                                  {"moment", result.moment.toString(Qt::ISODateWithMs)},
+                                  {"replaced", SnapshotFacts::Json(result.replaced)}});
+    else
+        session.Print("Took back \"" + result.change + "\". `restore " + QString::number(number) +
+                      "` brings it back.");
+    return Done;
+}
+} // namespace
+
+void Commands::AddUndo(CLI::App& program, Session& session) {
+    CLI::App* command = program.add_subcommand(
+        "undo", "Takes the last change of a command back. Repeat it for the change before");
+    command->footer("Example: halvane-data undo");
+    command->callback([&session] { session.Do([&session] { return TakeBack(session); }); });
+}
