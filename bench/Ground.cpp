@@ -60,6 +60,7 @@ QDate Ground::Day(int index) {
 
 void Ground::LayOut(const QString& folder) {
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, folder);
+    qputenv("XDG_DATA_HOME", QFile::encodeName(folder));
     SetRegValue(QStringLiteral("EULA"), QStringLiteral("YES"));
     SetApplicationPath(folder);
     for (const char* name : {"users.mdb", "foods.mdb", "tips.txt", "agreement.txt"})

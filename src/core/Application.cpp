@@ -1,6 +1,7 @@
 #include "core/Application.h"
 
 #include "core/FailureText.h"
+#include "core/HeldRecords.h"
 #include "drawing/Pictures.h"
 #include "runtime/Seams.h"
 #include "store/Connection.h"
@@ -58,6 +59,7 @@ void Application::Fail(const std::exception& error) {
 void Application::EndNow(int exitCode) {
     UserDB().Close();
     FoodDB().Close();
+    HeldRecords::Release();
     instance_.Release();
     std::fflush(nullptr);
     std::_Exit(exitCode);

@@ -1,6 +1,8 @@
 #include "core/Flow.h"
 
+#include "core/HeldRecords.h"
 #include "core/Navigation.h"
+#include "core/OwnSnapshots.h"
 #include "core/SingleInstance.h"
 #include "core/StartFailure.h"
 #include "core/Tips.h"
@@ -29,6 +31,12 @@ struct Step {
     const char* name; ///< in the line that reports a failure
     bool (*run)();
 };
+
+bool TakeRecords() {
+    HeldRecords::Take();
+    OwnSnapshots::BeforeUpgrade();
+    return true;
+}
 
 bool OpenUsers() {
     UserDB().Open(FileBeside(QStringLiteral("users.mdb")), DatabaseKind::Users);
@@ -77,17 +85,20 @@ bool LoadFirstUser() {
 bool ShowFirstWindow() {
     frmHOME* frame = TheNavigation().Frame();
     QObject::connect(frame, &frmHOME::QuitRequested, frame, &Flow::QuitApp);
-    if (User::Current().UID != -1)
-        ShowHome();
-    else
+    if (User::Current().UID == -1) {
         frmWelcome::Open();
+        return true;
+    }
+    new OwnSnapshots(frame);
+    ShowHome();
     return true;
 }
 
 constexpr Step Steps[] = {
-    {"users.mdb", OpenUsers},    {"foods.mdb", OpenFoods},     {"settings", ReadFirstSettings},
-    {"agreement", AskAgreement}, {"splash", ShowSplash},       {"settings", ReadSettings},
-    {"tips.txt", ChooseTip},     {"users.mdb", LoadFirstUser}, {"first window", ShowFirstWindow},
+    {"records", TakeRecords},          {"users.mdb", OpenUsers},    {"foods.mdb", OpenFoods},
+    {"settings", ReadFirstSettings},   {"agreement", AskAgreement}, {"splash", ShowSplash},
+    {"settings", ReadSettings},        {"tips.txt", ChooseTip},     {"users.mdb", LoadFirstUser},
+    {"first window", ShowFirstWindow},
 };
 
 void StorePosition() {
@@ -106,6 +117,7 @@ void CloseForms() {
 void CloseConnections() {
     UserDB().Close();
     FoodDB().Close();
+    HeldRecords::Release();
 }
 
 /// The frame if it is visible, otherwise any visible window.

@@ -1,6 +1,9 @@
 #include "core/StartFailure.h"
 
 #include "core/FailureText.h"
+#include "records/Snapshots.h"
+#include "records/SoundRecords.h"
+#include "runtime/AppPath.h"
 #include "runtime/RuntimeError.h"
 #include "runtime/Seams.h"
 
@@ -38,9 +41,29 @@ void AddHelp(QMessageBox& box, const QString& help) {
 }
 
 /// A case that only the user can decide has its own message.
-void ShowChoice(const RuntimeError& error) {
-    QMessageBox box(QMessageBox::Warning, QStringLiteral("Halvane cannot start"),
-                    error.Description(), QMessageBox::Ok);
+bool IsForTheUser(int number) {
+    return number == ErrorNumber::JournalDoesNotFit || number == ErrorNumber::RecordsInUse;
+}
+
+/// How a missing or damaged file comes back; empty if the failure is another one, or without a
+/// snapshot.
+QString Rescue(const RuntimeError* error) {
+    const RecordsFolder records(ApplicationPath());
+    if (error == nullptr || IsForTheUser(error->Number()) ||
+        !SoundRecords::MeansDamage(*error, records))
+        return {};
+    const Snapshots snapshots(records);
+    const auto sound = snapshots.NewestSound();
+    if (!sound)
+        return {};
+    return QStringLiteral("The newest sound snapshot is of %1: %2. To bring it back, run this "
+                          "command: halvane-data restore %3")
+        .arg(sound->When(), sound->counts.Text(), QString::number(snapshots.NumberOf(*sound)));
+}
+
+void ShowChoice(const QString& text) {
+    QMessageBox box(QMessageBox::Warning, QStringLiteral("Halvane cannot start"), text,
+                    QMessageBox::Ok);
     box.setTextFormat(Qt::PlainText);
     box.exec();
 }
@@ -54,17 +77,23 @@ void ShowMessage(const std::exception& error) {
     box.exec();
 }
 
+void PrintLine(QString text) {
+    text = text.replace(QLatin1String("\n\n"), QLatin1String(" ")).trimmed();
+    std::fputs(("halvane: could not start: " + text + u'\n').toLocal8Bit().constData(), stderr);
+}
+
 } // namespace
 
 void StartFailure::Report(const std::exception& error, const QString& step) {
-    const QString line = "halvane: could not start: " + step + ": " +
-                         FailureText::Short(error).replace(QLatin1String("\n\n"), " ") + '\n';
-    std::fputs(line.toLocal8Bit().constData(), stderr);
+    const auto* known = dynamic_cast<const RuntimeError*>(&error);
+    const QString rescue = Rescue(known);
+    PrintLine(step + ": " + FailureText::Short(error) + u' ' + rescue);
+    if (!rescue.isEmpty())
+        return ShowChoice(known->Description() + "\n\n" + rescue);
     if (FailureText::Number(error) <= LastSilentNumber)
         return;
-    const auto* known = dynamic_cast<const RuntimeError*>(&error);
-    if (known != nullptr && known->Number() == ErrorNumber::JournalDoesNotFit)
-        ShowChoice(*known);
+    if (IsForTheUser(FailureText::Number(error)))
+        ShowChoice(FailureText::Description(error));
     else
         ShowMessage(error);
     EndProcess(1);

@@ -5,8 +5,9 @@
 #include <exception>
 
 /// Reports a failed start: one line on standard error names the step and the reason. Above number
-/// 400 a message box follows, then the process ends; other failures end in silence. A journal that
-/// does not fit its file has its own message, which names the files to move.
+/// 400 a message box follows, then the process ends; other failures end in silence. What only the
+/// user can decide has its own message: a journal that does not fit its file, records that a
+/// command changes, and a missing or damaged file of which there is a snapshot.
 namespace StartFailure {
 /// The page for a newer program.
 inline constexpr auto DownloadPage = "https://www.brindlewick.example/halvane/download";

@@ -33,10 +33,11 @@ inline constexpr Setting SearchString{"SEARCH_STRING", "", "ucSearchResults", "u
 inline constexpr Setting Meal{"OPMEAL", "0", "Meals", "ucSearchResults"};
 inline constexpr Setting FromEmail{"FROMEMAIL", "", "frmSend", "frmSend"};
 inline constexpr Setting ToEmail{"TOEMAIL", "", "frmSend", "frmSend"};
+inline constexpr Setting Snapshots{"SNAPSHOTS", "", "OwnSnapshots", "OwnSnapshots"};
 
 inline constexpr const Setting* All[] = {&Fast,         &Agreement,     &DropShadows, &Left,
                                          &Top,          &AutoRDI,       &Limit50,     &TipNumber,
                                          &Installation, &ReportState,   &ReportMode,  &DailyMode,
                                          &SearchCustom, &SearchRecipes, &SearchStock, &SearchString,
-                                         &Meal,         &FromEmail,     &ToEmail};
+                                         &Meal,         &FromEmail,     &ToEmail,     &Snapshots};
 } // namespace Settings

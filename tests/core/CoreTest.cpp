@@ -1,6 +1,7 @@
 #include "core/CoreTest.h"
 
 #include "core/Flow.h"
+#include "core/HeldRecords.h"
 #include "core/MenuItems.h"
 #include "core/Navigation.h"
 #include "core/SingleInstance.h"
@@ -79,6 +80,7 @@ void CoreTest::TearDown() {
             window->deleteLater();
     }
     RunDeferredDeletes();
+    HeldRecords::Release();
     HalvaneTest::TearDown();
 }
 

@@ -57,6 +57,7 @@ protected:
     std::unique_ptr<QProcess> Start() const {
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert(QStringLiteral("XDG_CONFIG_HOME"), Path("config"));
+        environment.insert(QStringLiteral("XDG_DATA_HOME"), Path("data"));
         environment.insert(QStringLiteral("XDG_RUNTIME_DIR"), Path("run"));
         environment.insert(QStringLiteral("HOME"), Folder());
         environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));

@@ -48,7 +48,8 @@ int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     std::setvbuf(stdout, nullptr, _IOLBF, 0);
     const QTemporaryDir fresh;
-    qputenv("XDG_RUNTIME_DIR", fresh.path().toLocal8Bit());
+    for (const char* folder : {"XDG_RUNTIME_DIR", "XDG_DATA_HOME"})
+        qputenv(folder, fresh.path().toLocal8Bit());
     Application application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     TakeFont(application, qEnvironmentVariable("TOUR_FONT"));
