@@ -11,6 +11,7 @@ class App;
 namespace Commands {
 void AddBackup(CLI::App& program, Session& session);
 void AddBackups(CLI::App& program, Session& session);
+void AddCheck(CLI::App& program, Session& session);
 void AddCopyDay(CLI::App& program, Session& session);
 void AddCopyMeal(CLI::App& program, Session& session);
 void AddExport(CLI::App& program, Session& session);
@@ -28,7 +29,7 @@ void AddWeigh(CLI::App& program, Session& session);
 void AddWhy(CLI::App& program, Session& session);
 
 inline constexpr void (*All[])(CLI::App& program, Session& session) = {
-    AddBackup, AddBackups, AddCopyDay, AddCopyMeal, AddExport,  AddFoods,
-    AddImport, AddLog,     AddRecipes, AddReport,   AddRestore, AddSearch,
-    AddShow,   AddTable,   AddUndo,    AddWeigh,    AddWhy};
+    AddBackup, AddBackups, AddCheck, AddCopyDay, AddCopyMeal, AddExport,
+    AddFoods,  AddImport,  AddLog,   AddRecipes, AddReport,   AddRestore,
+    AddSearch, AddShow,    AddTable, AddUndo,    AddWeigh,    AddWhy};
 } // namespace Commands

@@ -33,7 +33,8 @@ protected:
         CloseDatabases();
     }
     RecordsFolder Records() const { return RecordsFolder(Folder()); }
-    QJsonObject Json(const QStringList& arguments) const {
+    /// Constant, so that an index reads.
+    const QJsonObject Json(const QStringList& arguments) const {
         return QJsonDocument::fromJson(Command(arguments + QStringList{"--json"}).out.toUtf8())
             .object();
     }
@@ -49,8 +50,8 @@ protected:
         return weight;
     }
     /// As a process of its own, which `prepare` changes before it starts.
-    static int Run(const QStringList& arguments, const std::function<void()>& prepare,
-                   QString* said) {
+    static int Process(const QStringList& arguments, const std::function<void()>& prepare,
+                       QString* said) {
         QProcess process;
         process.setChildProcessModifier(prepare);
         process.start(Places::Build(QStringLiteral("/src/halvane-data")), arguments);
@@ -168,7 +169,7 @@ TEST_F(KeepTest, UndoTakesBackOneChangeAfterTheOther) {
 }
 
 TEST_F(KeepTest, EachHelpShowsAnExample) {
-    for (const QString command : {"backup", "backups", "restore", "undo"})
+    for (const QString command : {"backup", "backups", "check", "restore", "undo"})
         EXPECT_TRUE(Command({command, "--help"}).out.contains("Example: halvane-data " + command))
             << command.toStdString();
 }
@@ -187,7 +188,7 @@ TEST_F(KeepTest, AFullDiskLeavesNoHalfSnapshotAndChangesNothing) {
     const qsizetype before = Snapshots(Records()).All().size();
     for (const QStringList& command : {QStringList{"backup"}, QStringList{"restore", "2"}}) {
         QString said;
-        EXPECT_EQ(Run(command + QStringList{"--folder", Folder()}, full, &said), Cannot);
+        EXPECT_EQ(Process(command + QStringList{"--folder", Folder()}, full, &said), Cannot);
         EXPECT_EQ(said.count('\n'), 1) << said.toStdString();
     }
     EXPECT_EQ(Snapshots(Records()).All().size(), before);
@@ -205,8 +206,32 @@ TEST_F(KeepTest, AReadOnlyFolderCanBeBackedUpButNotRestored) {
             _exit(99);
     };
     QString said;
-    EXPECT_EQ(Run({"backup", "--folder", Folder()}, prepare, &said), Done) << said.toStdString();
-    EXPECT_EQ(Run({"restore", "1", "--folder", Folder()}, prepare, &said), Cannot);
+    EXPECT_EQ(Process({"backup", "--folder", Folder()}, prepare, &said), Done)
+        << said.toStdString();
+    EXPECT_EQ(Process({"restore", "1", "--folder", Folder()}, prepare, &said), Cannot);
     EXPECT_TRUE(said.contains("its folder must allow writing")) << said.toStdString();
     QFile::setPermissions(Folder(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+}
+
+TEST_F(KeepTest, CheckOfSoundFilesEndsWithDone) {
+    const Run run = Command({"check"});
+    EXPECT_EQ(run.code, Done);
+    EXPECT_TRUE(run.out.startsWith("Both files are sound: 1 profile, ")) << run.out.toStdString();
+    EXPECT_EQ(Json({"check"})["sound"], true);
+}
+
+TEST_F(KeepTest, CheckEndsWithFoundUntilItIsRepaired) {
+    UserDB().Open(Records().Users(), DatabaseKind::Users);
+    UserDB().Raw().exec("INSERT INTO Ingredients (RecipeID) VALUES (9)");
+    CloseDatabases();
+    const Run run = Command({"check"});
+    EXPECT_EQ(run.code, Found);
+    EXPECT_EQ(run.out.count('\n'), 1) << run.out.toStdString();
+    const QJsonObject facts = Json({"check"})["findings"][0].toObject();
+    EXPECT_EQ(facts["where"], "Ingredients");
+    EXPECT_EQ(facts["rows"], 1);
+    EXPECT_EQ(facts["repairable"], true);
+    const Run repaired = Command({"check", "--repair"});
+    EXPECT_EQ(repaired.code, Done) << repaired.error.toStdString();
+    EXPECT_TRUE(repaired.out.startsWith("Repaired: Ingredients: ")) << repaired.out.toStdString();
 }

@@ -1,0 +1,60 @@
+#include "commands/Commands.h"
+#include "commands/Session.h"
+#include "records/RecordsCheck.h"
+#include "runtime/Clock.h"
+
+#include <QJsonArray>
+#include <QJsonObject>
+
+#include <CLI/CLI.hpp>
+
+namespace {
+QJsonArray Facts(const QList<Finding>& findings) {
+    QJsonArray all;
+    for (const Finding& finding : findings)
+        all.append(QJsonObject{{"where", finding.where},
+                               {"problem", finding.problem},
+                               {"rows", finding.rows},
+                               {"first", finding.first},
+                               {"meaning", finding.meaning},
+                               {"advice", finding.advice},
+                               {"repairable", !finding.repair.isEmpty()}});
+    return all;
+}
+
+void PrintLines(const Session& session, const RecordsCheck& check, const QList<Finding>& repaired) {
+    for (const Finding& finding : repaired)
+        session.Print("Repaired: " + finding.where + ": " + finding.problem + u'.');
+    for (const Finding& finding : check.Findings())
+        session.Print(finding.Line());
+    if (check.Findings().isEmpty())
+        session.Print("Both files are sound: " + check.Counts().Text() + u'.');
+}
+
+int Check(const Session& session, bool repair) {
+    const QDate today = Clock::Today();
+    QList<Finding> repaired;
+    if (repair)
+        repaired = RecordsCheck::Repair(session.Records(), today);
+    const RecordsCheck check(session.Records(), today);
+    if (session.json)
+        session.Print(QJsonObject{{"sound", check.Findings().isEmpty()},
+                                  {"counts", check.Counts().ToJson()},
+                                  {"repaired", Facts(repaired)},
+                                  {"findings", Facts(check.Findings())}});
+    else
+        PrintLines(session, check, repaired);
+    return check.Findings().isEmpty() ? Done : Found;
+}
+} // namespace
+
+void Commands::AddCheck(CLI::App& program, Session& session) {
+    CLI::App* command = program.add_subcommand(
+        "check", "Looks through both files and tells in a line each what is wrong, what it means "
+                 "and what to do; ends with 1 if there is anything");
+    const auto repair = std::make_shared<bool>(false);
+    command->add_flag("--repair", *repair, "Put right what has one right answer");
+    command->footer("Example: halvane-data check --repair");
+    command->callback(
+        [&session, repair] { session.Do([&session, repair] { return Check(session, *repair); }); });
+}

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "records/Finding.h"
+#include "records/RecordsCounts.h"
+
+#include <QDate>
+#include <QList>
+
+class RecordsFolder;
+
+/// Looks through both files of a person's records: pages, indexes, tables, and each row. The
+/// records may be in use meanwhile.
+class RecordsCheck {
+public:
+    RecordsCheck(const RecordsFolder& records, QDate today);
+
+    const QList<Finding>& Findings() const { return findings_; }
+    const RecordsCounts& Counts() const { return counts_; } ///< zero where a file cannot be read
+    bool CanRepair() const; ///< there is a finding with one right answer
+
+    /// Puts right what has one right answer, as one change. Gives those findings.
+    static QList<Finding> Repair(const RecordsFolder& records, QDate today);
+
+private:
+    void CheckOpen(QDate today);
+    void AddDamage(const RecordsFolder& records, const QString& problem);
+
+    QList<Finding> findings_;
+    RecordsCounts counts_;
+};

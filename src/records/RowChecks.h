@@ -1,0 +1,16 @@
+#pragma once
+
+#include "records/Finding.h"
+#include "store/Connection.h"
+
+#include <QList>
+
+namespace SQLite {
+class Database;
+}
+
+/// The rows that a screen does not show, or shows with figures that no food has.
+namespace RowChecks {
+/// Walks each table of such a file once. Dates count as future from a year after `today` on.
+QList<Finding> Run(SQLite::Database& database, DatabaseKind kind, const QString& today);
+} // namespace RowChecks
