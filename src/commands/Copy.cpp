@@ -35,7 +35,7 @@ int Copy(const Session& session, Copying& copying) {
         copying.to = Clock::Today();
     if (copying.from == copying.to)
         return session.Refuse(QStringLiteral("Please give two different days."));
-    RecordsChange change(session.Records());
+    RecordsChange change(session.Records(), copying.meal < 0 ? "copy-day" : "copy-meal");
     session.ChooseProfile();
     const int count = DayLog::CopyFoods(
         copying.from, copying.to, copying.meal < 0 ? std::nullopt : std::optional(copying.meal));

@@ -80,6 +80,7 @@ int Log(const Session& session, Wanted& wanted) {
     if (!HasServing(*food, wanted.Serving()))
         return session.Refuse(food->FoodName + " has no serving B.");
     const LoggedFood logged = LogFood(*food, wanted);
+    change.SetTitle("log " + food->FoodName);
     change.Commit();
     Report(session, logged, wanted);
     return Done;

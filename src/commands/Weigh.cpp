@@ -51,7 +51,7 @@ int Weigh(const Session& session, Weighing& weighing) {
     if (const QString refusal = Refusal(weighing); !refusal.isEmpty())
         return session.Refuse(refusal);
     StartSettings::ReadRest(App().AppInfo);
-    RecordsChange change(session.Records());
+    RecordsChange change(session.Records(), QStringLiteral("weigh"));
     session.ChooseProfile();
     DayLog::EnterWeight(weighing.day, weighing.Weight());
     change.Commit();

@@ -4,7 +4,6 @@
 #include "records/Snapshots.h"
 #include "records/UpgradeSnapshot.h"
 #include "runtime/RuntimeError.h"
-#include "runtime/SettingTable.h"
 #include "runtime/Settings.h"
 #include "store/Connection.h"
 
@@ -39,7 +38,7 @@ RecordsChange::~RecordsChange() {
         QDir(before_.path).removeRecursively();
 }
 
-void RecordsChange::Set(const Setting& setting, const QString& value) {
+void RecordsChange::Set(const QString& setting, const QString& value) {
     if (GetRegValue(setting) != value)
         settings_[setting] = value;
 }

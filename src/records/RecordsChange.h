@@ -6,8 +6,6 @@
 
 #include <optional>
 
-struct Setting;
-
 /// Has a person's records open as `UserDB()` and `FoodDB()`, for one change of both files, as long
 /// as it lives. What is not committed is taken back. A snapshot is made before, so that `undo` can
 /// take back what is committed.
@@ -21,7 +19,8 @@ public:
     RecordsChange(const RecordsChange&) = delete;
     RecordsChange& operator=(const RecordsChange&) = delete;
 
-    void Set(const Setting& setting, const QString& value); ///< once the change is committed
+    void SetTitle(const QString& title) { before_.reason = title; }
+    void Set(const QString& setting, const QString& value); ///< once the change is committed
     void Commit();
 
 private:

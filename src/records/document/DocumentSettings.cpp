@@ -1,5 +1,6 @@
 #include "records/document/DocumentSettings.h"
 
+#include "records/RecordsChange.h"
 #include "runtime/SettingTable.h"
 #include "runtime/Settings.h"
 
@@ -7,9 +8,10 @@
 #include <vector>
 
 namespace {
-/// The place of the window, and the identifier that the exchange knows this installation by.
-constexpr const Setting* OfTheMachine[] = {&Settings::Left, &Settings::Top,
-                                           &Settings::Installation};
+/// The place of the window, the identifier that the exchange knows this installation by, and what
+/// was said of the snapshots.
+constexpr const Setting* OfTheMachine[] = {&Settings::Left, &Settings::Top, &Settings::Installation,
+                                           &Settings::Snapshots};
 
 std::vector<QString> Names() {
     std::vector<QString> names;
@@ -28,11 +30,9 @@ std::map<QString, QString> DocumentSettings::All() {
     return all;
 }
 
-void DocumentSettings::Take(const std::map<QString, QString>& settings) {
+void DocumentSettings::Take(const std::map<QString, QString>& settings, RecordsChange& change) {
     for (const QString& name : Names()) {
         const auto found = settings.find(name);
-        const QString value = found == settings.end() ? QString() : found->second;
-        if (GetRegValue(name) != value)
-            SetRegValue(name, value);
+        change.Set(name, found == settings.end() ? QString() : found->second);
     }
 }

@@ -12,6 +12,8 @@
 
 #include <SQLiteCpp/Database.h>
 
+#include <QFileInfo>
+
 namespace {
 bool HaveProfiles() {
     return UserDB().Raw().execAndGet("SELECT EXISTS (SELECT 1 FROM profiles)").getInt() != 0;
@@ -31,7 +33,7 @@ std::map<std::string, int> RecordsDocument::Export(const RecordsFolder& folder,
 
 ImportReport RecordsDocument::Import(const RecordsFolder& folder, const QString& file,
                                      const ImportOptions& options, const Progress& progress) {
-    RecordsChange change(folder);
+    RecordsChange change(folder, "import " + QFileInfo(file).fileName());
     return StoreError::Guarded(folder.Users(), [&] {
         ImportReport report;
         DocumentStage stage;
@@ -40,9 +42,9 @@ ImportReport RecordsDocument::Import(const RecordsFolder& folder, const QString&
         DocumentMerge::Run(head, report);
         if (options.dryRun)
             return report;
-        change.Commit();
         if (report.settings)
-            DocumentSettings::Take(head.settings);
+            DocumentSettings::Take(head.settings, change);
+        change.Commit();
         return report;
     });
 }

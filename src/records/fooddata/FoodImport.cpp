@@ -37,7 +37,7 @@ FoodTally FoodImport::Run(const RecordsFolder& records, const Options& options) 
         const RecordsReading reading(records);
         return Bring(options, ImportedFoods::Mode::CountOnly);
     }
-    RecordsChange change(records);
+    RecordsChange change(records, QStringLiteral("foods import"));
     const FoodTally tally = Bring(options, ImportedFoods::Mode::Write);
     change.Commit();
     return tally;

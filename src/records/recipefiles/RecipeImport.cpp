@@ -167,7 +167,7 @@ RecipeImport::Result RecipeImport::Run(const RecordsFolder& records, const Optio
         result.undecided = undecided;
         return result;
     }
-    RecordsChange change(records);
+    RecordsChange change(records, QStringLiteral("recipes import"));
     const Result result = Bring(drafts, options, true);
     change.Commit();
     return result;
