@@ -19,6 +19,12 @@ bool IsTaken([[maybe_unused]] const QFile& file) {
     return flock(file.handle(), LOCK_SH | LOCK_NB) != 0;
 #endif
 }
+/// QLockFile removes a stale lock under a second one. A process that was killed before it signed
+/// that would keep it for half a minute.
+void FreeGuard(const QString& path) {
+    if (QFile::exists(path))
+        ProcessLock(path).TryLock();
+}
 } // namespace
 
 ProcessLock::ProcessLock(const QString& path)
@@ -29,8 +35,8 @@ ProcessLock::ProcessLock(const QString& path)
 ProcessLock::Result ProcessLock::TryLock() {
     if (file_.isLocked() || file_.tryLock(0))
         return Result::Held;
-    if (file_.error() == QLockFile::LockFailedError && !HasOwner()) {
-        RemoveWithoutOwner();
+    if (file_.error() == QLockFile::LockFailedError) {
+        HasOwner() ? FreeGuard(Path() + QLatin1String(".rmlock")) : RemoveWithoutOwner();
         file_.tryLock(0);
     }
     if (file_.isLocked())

@@ -52,6 +52,17 @@ TEST_F(ProcessLockTest, OfAProcessThatWasKilledBeforeItSignedIsTaken) {
     }
 }
 
+TEST_F(ProcessLockTest, OfAProcessThatIsGoneIsTakenThoughItsRemovalWasKilledToo) {
+    Write("2147483646\nhalvane\n" + QSysInfo::machineHostName().toLocal8Bit() + "\n\n\n");
+    const QString guard = Path() + ".rmlock";
+    QFile left(guard);
+    ASSERT_TRUE(left.open(QIODevice::WriteOnly));
+    left.close();
+    ProcessLock lock(Path());
+    EXPECT_EQ(lock.TryLock(), ProcessLock::Result::Held);
+    EXPECT_FALSE(QFile::exists(guard));
+}
+
 TEST_F(ProcessLockTest, OfALivingProcessThatHasNotSignedYetIsNotTaken) {
     Write("");
     const int held = open(QFile::encodeName(Path()).constData(), O_RDWR);
