@@ -23,6 +23,7 @@ struct Table {
     DatabaseKind file;
     const char* name;
     const char* key;
+    RowChecks::Part part;
     std::vector<Check> checks;
 };
 
@@ -32,21 +33,25 @@ constexpr auto KeyTooLarge = "{key} NOT BETWEEN -2147483648 AND 2147483647";
 constexpr auto StrangeAmount = "{greatest} > 1e9 OR {least} < 0";
 
 constexpr auto NoProfile = "UID IS NULL OR UID NOT IN (SELECT UID FROM profiles)";
-// Without "+0 days" the store takes February 30 for a date.
+// Each date is looked at once, not in each row. Without "+0 days" the store takes February 30 for a
+// date.
 constexpr auto TimeOfDay =
-    "length(UDate) > 10 AND substr(UDate, 1, 10) IS "
-    "date(substr(UDate, 1, 10), '+0 days') AND substr(UDate, 11, 1) IN (' ', 'T')";
+    "UDate IN (SELECT day FROM (SELECT DISTINCT UDate AS day FROM {table}) WHERE length(day) > 10 "
+    "AND substr(day, 1, 10) IS date(substr(day, 1, 10), '+0 days') AND "
+    "substr(day, 11, 1) IN (' ', 'T'))";
 constexpr auto NoDate =
-    "UDate IS NULL OR (date(UDate, '+0 days') IS NOT UDate AND NOT (length(UDate) > 10 AND "
-    "substr(UDate, 1, 10) IS date(substr(UDate, 1, 10), '+0 days') AND "
-    "substr(UDate, 11, 1) IN (' ', 'T')))";
-constexpr auto Future = "date(UDate, '+0 days') IS UDate AND UDate > date({today}, '+1 year')";
+    "UDate IS NULL OR UDate IN (SELECT day FROM (SELECT DISTINCT UDate AS day FROM {table}) WHERE "
+    "date(day, '+0 days') IS NOT day AND NOT (length(day) > 10 AND "
+    "substr(day, 1, 10) IS date(substr(day, 1, 10), '+0 days') AND "
+    "substr(day, 11, 1) IN (' ', 'T')))";
+constexpr auto Future = "UDate > date({today}, '+1 year') AND date(UDate, '+0 days') IS UDate";
 
 const std::vector<Table>& Tables() {
     static const std::vector<Table> tables = {
         {DatabaseKind::Users,
          "profiles",
          "UID",
+         RowChecks::Part::AllElse,
          {{KeyTooLarge, "have a key that no screen can use", "That profile is not found.",
            "Change the key with a tool for SQLite.", nullptr},
           {"trim(coalesce(UserName, '')) = ''", "have no name", "The profile cannot be chosen.",
@@ -64,6 +69,7 @@ const std::vector<Table>& Tables() {
         {DatabaseKind::Users,
          "USER_FOODS",
          "RecID",
+         RowChecks::Part::AllElse,
          {{KeyTooLarge, "have a key that no screen can use", "The day does not list them.",
            "Change the key with a tool for SQLite.", nullptr},
           {NoProfile, "belong to no profile", "No screen shows them.", Restore, nullptr},
@@ -79,12 +85,17 @@ const std::vector<Table>& Tables() {
           {"trim(coalesce(FoodName, '')) = ''", "have no name", "Their line on the day is empty.",
            Remove, nullptr},
           {"QTY IS NULL OR typeof(QTY) = 'text' OR typeof(QTY) = 'blob' OR QTY <= 0 OR QTY > 1e9",
-           "have a quantity that no food has", "The list of the day shows it.", Remove, nullptr},
-          {StrangeAmount, "have amounts that no food has", "The sums of their day are wrong.",
+           "have a quantity that no food has", "The list of the day shows it.", Remove, nullptr}}},
+        {DatabaseKind::Users,
+         "USER_FOODS",
+         "RecID",
+         RowChecks::Part::Amounts,
+         {{StrangeAmount, "have amounts that no food has", "The sums of their day are wrong.",
            Remove, nullptr}}},
         {DatabaseKind::Users,
          "USER_WEIGHTS",
          "rowid",
+         RowChecks::Part::AllElse,
          {{NoProfile, "belong to no profile", "No screen shows them.", Restore, nullptr},
           {NoDate, "have a date that is none", "No day shows them.", Restore, nullptr},
           {TimeOfDay, "have a time beside their date", "No day shows them.", "",
@@ -102,6 +113,7 @@ const std::vector<Table>& Tables() {
         {DatabaseKind::Users,
          "Recipes",
          "RecipeID",
+         RowChecks::Part::AllElse,
          {{KeyTooLarge, "have a key that no screen can use", "The recipe cannot be opened.",
            "Change the key with a tool for SQLite.", nullptr},
           {"trim(coalesce(RecipeName, '')) = ''", "have no name", "No search finds the recipe.",
@@ -114,6 +126,7 @@ const std::vector<Table>& Tables() {
         {DatabaseKind::Users,
          "Ingredients",
          "ID",
+         RowChecks::Part::AllElse,
          {{"RecipeID IS NULL OR RecipeID NOT IN (SELECT RecipeID FROM Recipes)",
            "belong to no recipe", "They are left of recipes that were deleted.", "",
            "DELETE FROM Ingredients AS t WHERE "},
@@ -124,6 +137,7 @@ const std::vector<Table>& Tables() {
         {DatabaseKind::Foods,
          "FOODS",
          "ID",
+         RowChecks::Part::AllElse,
          {{KeyTooLarge, "have a key that no screen can use", "The food cannot be logged.",
            "Change the key with a tool for SQLite.", nullptr},
           {"trim(coalesce(FoodName, '')) = ''", "have no name", "No search finds the food.",
@@ -156,45 +170,54 @@ QString Filled(const char* text, const Table& table, const QString& today) {
     return filled.replace(QLatin1String("{greatest}"), greatest)
         .replace(QLatin1String("{least}"), least)
         .replace(QLatin1String("{key}"), QLatin1String(table.key))
+        .replace(QLatin1String("{table}"), QLatin1String(table.name))
         .replace(QLatin1String("{today}"), u'\'' + today + u'\'');
 }
 
-/// The count and the first key of each check, in one walk over the table.
-QString Statement(const Table& table, const QString& today) {
+/// The count of each check, in one walk over the table.
+QString Counts(const Table& table, const QString& today) {
     QStringList columns;
     for (const Check& check : table.checks)
-        columns << QStringLiteral("count(CASE WHEN %1 THEN 1 END), min(CASE WHEN %1 THEN t.%2 END)")
-                       .arg(Filled(check.condition, table, today), QLatin1String(table.key));
+        columns << "count(CASE WHEN " + Filled(check.condition, table, today) + " THEN 1 END)";
     return "SELECT " + columns.join(u',') + " FROM " + QLatin1String(table.name) + " AS t";
 }
 
-Finding Found(const Check& check, const Table& table, const QString& today, qint64 rows,
-              const QString& first) {
-    Finding finding{QLatin1String(table.name),    QLatin1String(check.problem), rows, first,
-                    QLatin1String(check.meaning), QLatin1String(check.advice)};
+QString FirstKey(SQLite::Database& database, const Table& table, const QString& condition) {
+    const QString key = "t." + QLatin1String(table.key);
+    const QString select =
+        "SELECT min(" + key + ") FROM " + QLatin1String(table.name) + " AS t WHERE " + condition;
+    return QString::fromStdString(database.execAndGet(select.toStdString()).getString());
+}
+
+Finding Found(SQLite::Database& database, const Check& check, const Table& table,
+              const QString& condition, qint64 rows) {
+    Finding finding{QLatin1String(table.name),
+                    QLatin1String(check.problem),
+                    rows,
+                    FirstKey(database, table, condition),
+                    QLatin1String(check.meaning),
+                    QLatin1String(check.advice)};
     if (check.repair != nullptr)
-        finding.repair = QLatin1String(check.repair) + Filled(check.condition, table, today);
+        finding.repair = QLatin1String(check.repair) + condition;
     return finding;
 }
 
 void Walk(SQLite::Database& database, const Table& table, const QString& today,
           QList<Finding>& findings) {
-    SQLite::Statement statement(database, Statement(table, today).toStdString());
-    statement.executeStep();
-    for (size_t i = 0; i < table.checks.size(); ++i) {
-        const int column = static_cast<int>(2 * i);
-        const qint64 rows = statement.getColumn(column).getInt64();
-        if (rows > 0)
-            findings << Found(table.checks[i], table, today, rows,
-                              QString::fromStdString(statement.getColumn(column + 1).getString()));
-    }
+    SQLite::Statement counts(database, Counts(table, today).toStdString());
+    counts.executeStep();
+    for (size_t i = 0; i < table.checks.size(); ++i)
+        if (const qint64 rows = counts.getColumn(static_cast<int>(i)).getInt64(); rows > 0)
+            findings << Found(database, table.checks[i], table,
+                              Filled(table.checks[i].condition, table, today), rows);
 }
 } // namespace
 
-QList<Finding> RowChecks::Run(SQLite::Database& database, DatabaseKind kind, const QString& today) {
+QList<Finding> RowChecks::Run(SQLite::Database& database, DatabaseKind kind, Part part,
+                              const QString& today) {
     QList<Finding> findings;
     for (const Table& table : Tables())
-        if (table.file == kind)
+        if (table.file == kind && table.part == part)
             Walk(database, table, today, findings);
     return findings;
 }
