@@ -2,10 +2,11 @@
 
 #include "records/text/CsvReader.h"
 
-CsvHeader::CsvHeader(const CsvReader& firstRecord)
-    : count_(firstRecord.Count()) {
-    for (int i = count_ - 1; i >= 0; --i)
-        places_[Key(firstRecord.Text(i))] = i;
+CsvHeader::CsvHeader(const CsvReader& firstRecord) {
+    for (int i = 0; i < firstRecord.Count(); ++i)
+        names_ << firstRecord.Text(i).trimmed();
+    for (int i = Count() - 1; i >= 0; --i)
+        places_[Key(names_[i])] = i;
 }
 
 int CsvHeader::Find(QStringView name) const {

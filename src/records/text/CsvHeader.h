@@ -1,7 +1,7 @@
 #pragma once
 
 #include <QHash>
-#include <QString>
+#include <QStringList>
 
 class CsvReader;
 
@@ -9,15 +9,17 @@ class CsvReader;
 /// blanks around them and without regard to case; both characters for "micro" are equal.
 class CsvHeader {
 public:
+    CsvHeader() = default;
     explicit CsvHeader(const CsvReader& firstRecord);
 
-    int Count() const { return count_; }
+    int Count() const { return static_cast<int>(names_.size()); }
+    const QString& Name(int column) const { return names_[column]; }
     bool Has(QStringView name) const { return Find(name) >= 0; }
     int Find(QStringView name) const; ///< -1 if there is none; the first of two equal names
 
     static QString Key(QStringView name); ///< equal for names that are compared as equal
 
 private:
+    QStringList names_;
     QHash<QString, int> places_;
-    int count_;
 };

@@ -1,0 +1,50 @@
+#include "records/peers/PeerJson.h"
+
+#include "records/peers/PeerFile.h"
+#include "records/peers/PeerNumber.h"
+
+#include <cmath>
+
+namespace {
+constexpr qsizetype LongestQuote = 500;
+
+QString Compact(const QJsonValue& value) {
+    const QJsonDocument document(value.isArray() ? QJsonDocument(value.toArray())
+                                                 : QJsonDocument(value.toObject()));
+    return QString::fromUtf8(document.toJson(QJsonDocument::Compact)).left(LongestQuote);
+}
+} // namespace
+
+QJsonDocument PeerJson::Document(const PeerFile& file) {
+    QJsonParseError error;
+    const QByteArray content = file.ReadAll();
+    const bool hasMark = content.startsWith("\xEF\xBB\xBF");
+    const QJsonDocument document =
+        QJsonDocument::fromJson(hasMark ? content.mid(3) : content, &error);
+    if (document.isNull())
+        throw RuntimeError(ErrorNumber::TypeMismatch,
+                           QStringLiteral("%1 is no JSON: %2 at byte %3.")
+                               .arg(file.name, error.errorString())
+                               .arg(error.offset));
+    return document;
+}
+
+std::optional<double> PeerJson::Number(const QJsonValue& value) {
+    if (value.isNull() || value.isUndefined())
+        return std::nullopt;
+    if (value.isDouble())
+        return value.toDouble();
+    if (value.isString())
+        return PeerNumber::Read(value.toString(), {});
+    throw RuntimeError(ErrorNumber::TypeMismatch, QStringLiteral("A value is not a number."));
+}
+
+QString PeerJson::Text(const QJsonValue& value) {
+    return value.isString() || value.isDouble() ? value.toVariant().toString() : QString();
+}
+
+Origin PeerJson::Element(const Origin& where, qsizetype index, const QJsonValue& value) {
+    const QString list = where.place.isEmpty() ? QStringLiteral("element") : where.place;
+    const QString place = list + u' ' + QString::number(index + 1);
+    return {where.file, place, Compact(value)};
+}
