@@ -1,4 +1,5 @@
 #include "commands/Commands.h"
+#include "commands/ImportFrom.h"
 #include "commands/Progress.h"
 #include "commands/SectionNames.h"
 #include "commands/Session.h"
@@ -64,20 +65,34 @@ int ImportDocument(const Session& session, const Options& options) {
     session.json ? session.Print(Facts(report, dryRun)) : Print(session, report, dryRun);
     return report.kept.empty() && report.refused.empty() ? Done : Found;
 }
+
+int Import(const Session& session, const Options& options, const PeerImport::Options& foreign) {
+    if (!foreign.from.isEmpty())
+        return ImportFrom::Run(session, foreign, options.files, options.document.dryRun);
+    if (options.files.size() > 1)
+        return session.Refuse(QStringLiteral("Please name one file that export has made."));
+    return ImportDocument(session, options);
+}
 } // namespace
 
 void Commands::AddImport(CLI::App& program, Session& session) {
     CLI::App* command = program.add_subcommand("import", "Takes records in from a file");
     const auto options = std::make_shared<Options>();
-    command->add_option("FILE", options->files, "A file that export has made")->required();
+    command
+        ->add_option("FILE", options->files,
+                     "A file that export has made; with --from, files "
+                     "of another program")
+        ->required();
     command->add_flag("--settings", options->document.settings,
                       "Take the settings of the file, too; without profiles here they are taken "
                       "in any case");
     command->add_flag("--dry-run", options->document.dryRun,
                       "Tell what would happen, and change nothing");
+    const auto foreign = ImportFrom::AddOptions(*command);
     command->footer("What is there already is not added again, and never changes.\n"
-                    "Example: halvane-data import my-records.json");
-    command->callback([&session, options] {
-        session.Do([&session, options] { return ImportDocument(session, *options); });
+                    "Example: halvane-data import my-records.json\n"
+                    "Example: halvane-data import --from cronometer --dry-run export.zip");
+    command->callback([&session, options, foreign] {
+        session.Do([&session, options, foreign] { return Import(session, *options, *foreign); });
     });
 }
