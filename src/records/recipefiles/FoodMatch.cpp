@@ -14,6 +14,7 @@
 #include <array>
 
 namespace {
+constexpr qsizetype MostLetters = 500; // of a line that names a food
 constexpr qsizetype MostWords = 8;
 constexpr double LeastQuantity = 0.005;
 
@@ -160,6 +161,8 @@ bool FoodMatch::Exists(qint32 key) {
 }
 
 std::optional<FoodMatch> FoodMatch::Of(const QString& line) {
+    if (line.size() > MostLetters)
+        return std::nullopt;
     const IngredientText text = IngredientText::Of(line);
     const QStringList stems = Stems(text.words);
     const QStringList details = Stems(text.details);

@@ -41,6 +41,7 @@ void Complete(RecipeDraft& draft) {
     FillIn(draft.values[RecipeField::Name], QStringLiteral("Recipe without a name"));
     FillIn(draft.values[RecipeField::Yield], 1.0);
     FillIn(draft.values[RecipeField::Serving], QStringLiteral("1 serving"));
-    for (const RecipeField field : {RecipeField::Name, RecipeField::Serving})
+    for (const RecipeField field :
+         {RecipeField::Name, RecipeField::Serving, RecipeField::Instructions})
         draft.values[field] = AllowedInRecipe(draft.values[field].toString());
 }

@@ -19,6 +19,7 @@ using Drafts = QList<RecipeDraft>;
 constexpr qint64 MostBytes = 64 << 20;   ///< of a file that is no zip
 constexpr qint64 MostUnpacked = 1 << 30; ///< of all zips in a file together
 constexpr int MostZipsInZips = 1;
+constexpr int MostIngredients = 1000;
 
 Drafts OfJson(const QJsonValue& document) {
     const QJsonObject object = document.toObject();
@@ -88,6 +89,14 @@ private:
     qint64 unpacked_ = 0;
 };
 
+/// A food is searched for each line.
+void RequireFewIngredients(const RecipeDraft& draft) {
+    if (draft.ingredients.size() > MostIngredients)
+        throw RuntimeError(
+            ErrorNumber::TypeMismatch,
+            QStringLiteral("A recipe has at most %1 ingredients.").arg(MostIngredients));
+}
+
 Drafts OfFile(const QString& path) {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
@@ -107,8 +116,10 @@ Drafts RecipeFiles::Read(const QString& path) {
         if (recipes.isEmpty())
             throw RuntimeError(ErrorNumber::TypeMismatch,
                                QStringLiteral("There is no recipe in it that can be read."));
-        for (RecipeDraft& draft : recipes)
+        for (RecipeDraft& draft : recipes) {
+            RequireFewIngredients(draft);
             Complete(draft);
+        }
         return recipes;
     } catch (const RuntimeError& failure) {
         throw RuntimeError(failure.Number(), path + u": " + failure.Description());

@@ -76,11 +76,13 @@ private:
     Proposal Propose(IngredientLine& line, int place) const {
         const IngredientChoice* choice = ChoiceFor(options_, number_, place);
         Proposal proposal{place, line.text, line.isHeading};
-        if (choice && choice->food)
+        const bool isChosen = choice && choice->food;
+        if (isChosen) {
             RequireUsable(*choice->food);
-        const bool staysText = line.isHeading || (options_.keepText && !choice);
-        if (!staysText)
-            proposal.match = choice && choice->food ? choice->food : FoodMatch::Of(line.text);
+            proposal.match = choice->food;
+        } else if (!line.isHeading && !options_.keepText) {
+            proposal.match = FoodMatch::Of(line.text);
+        }
         if (!proposal.match || !proposal.match->quantity)
             return proposal;
         const ScaledFood food = proposal.match->Scaled();

@@ -270,6 +270,8 @@ TEST_F(RecipeFilesTest, WhatARecipeLacksIsFilledInAndWhatTheScreenRefusesIsRepla
     EXPECT_EQ(recipe.Name(), "A-B-C");
     EXPECT_EQ(Value(recipe, Yield), 1.0);
     EXPECT_EQ(Value(recipe, Serving), "1 serving");
+    const auto steps = R"({"@type": "Recipe", "recipeInstructions": "~1 hour | or two"})";
+    EXPECT_EQ(Value(One("a", steps), Instructions), "-1 hour / or two");
     EXPECT_EQ(One("a", R"({"@type": "Recipe"})").Name(), "Recipe without a name");
 }
 
@@ -284,6 +286,12 @@ TEST_F(RecipeFilesTest, BadFilesAreRefusedWithTheirNames) {
     EXPECT_EQ(Refusal(QByteArray("\x00\xFF\xFE\x80", 4)),
               place + "There is no recipe in it that can be read.");
     EXPECT_TRUE(Refusal("PK\x03\x04 and no more").startsWith(place));
+}
+
+TEST_F(RecipeFilesTest, ARecipeOfThousandsOfIngredientsIsRefused) {
+    const QByteArray lines = QByteArray("\"salt\",").repeated(1000);
+    EXPECT_TRUE(Refusal("{\"@type\": \"Recipe\", \"recipeIngredient\": [" + lines + "\"salt\"]}")
+                    .endsWith("A recipe has at most 1000 ingredients."));
 }
 
 TEST_F(RecipeFilesTest, AnyPartOfAFileIsReadOrRefused) {
