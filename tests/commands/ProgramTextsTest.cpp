@@ -114,6 +114,16 @@ TEST_F(ProgramTextsTest, EveryCommandShowsAnExampleOfItself) {
     }
 }
 
+TEST_F(ProgramTextsTest, TheHelpPageNamesEveryCommand) {
+    QFile page(Places::Source(QStringLiteral("/data/help/your-data.html")));
+    ASSERT_TRUE(page.open(QIODevice::ReadOnly));
+    const QString text = QString::fromUtf8(page.readAll());
+    for (const CommandOutline& command : Outline()) {
+        const QString named = "<code>" + QString::fromStdString(command.name);
+        EXPECT_TRUE(text.contains(named)) << command.name;
+    }
+}
+
 TEST_F(ProgramTextsTest, ProgressIsToldOnceATime) {
     std::ostringstream out;
     std::ostringstream error;
