@@ -12,8 +12,8 @@ namespace {
 
 // The longest replies that are read, in bytes: many times the largest recipe and the longest
 // sentence.
-constexpr qint64 LongestDocument = 8 * 1024 * 1024;
-constexpr qint64 LongestSentence = 64 * 1024;
+constexpr qint64 LongestDocument = 8 << 20;
+constexpr qint64 LongestSentence = 64 << 10;
 
 /// Rows sent in one call: few enough for a server that limits the size of a request.
 constexpr qsizetype RowsAtOnce = 100;
@@ -38,7 +38,7 @@ QJsonObject ObjectIn(const HttpReply& reply, int status) {
 
 /// The token goes into a header unchanged, so it must be one visible word.
 QByteArray TokenIn(const QJsonValue& value) {
-    const QByteArray token = RemoteValue::Text(value).toString().toUtf8();
+    QByteArray token = RemoteValue::Text(value).toString().toUtf8();
     const auto isVisible = [](char c) { return c > ' ' && c < 0x7f; };
     if (token.isEmpty() || !std::all_of(token.cbegin(), token.cend(), isVisible))
         Refuse();

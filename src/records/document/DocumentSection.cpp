@@ -114,9 +114,9 @@ const DocumentField* DocumentSection::FindField(std::string_view member) const {
 }
 
 std::span<const DocumentSection* const> DocumentSections::Lists() {
-    static constexpr const DocumentSection* All[] = {&Profiles,         &Foods, &Recipes,
+    static constexpr const DocumentSection* all[] = {&Profiles,         &Foods, &Recipes,
                                                      &LooseIngredients, &Log,   &Weights};
-    return All;
+    return all;
 }
 
 const DocumentSection* DocumentSections::Find(std::string_view name) {

@@ -70,14 +70,14 @@ void JsonText::AddText(std::string_view text) {
 }
 
 void JsonText::AddEscaped(char character) {
-    static constexpr char Hex[] = "0123456789abcdef";
+    static constexpr char hex[] = "0123456789abcdef";
     if (character == '"' || character == '\\')
         return Add({std::string{'\\', character}});
     if (character == '\n')
         return Add("\\n");
     Add("\\u00");
-    text_ += Hex[character >> 4];
-    text_ += Hex[character & 0xF];
+    text_ += hex[character >> 4];
+    text_ += hex[character & 0xF];
 }
 
 void JsonText::AddOdd(std::string_view member, std::string_view bytes) {
