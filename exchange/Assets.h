@@ -6,15 +6,15 @@ namespace exchange {
 
 /// The files of exchange/pages and the logo, compiled in; Assets.cpp is made by the build.
 namespace Assets {
-extern const std::string layout;
-extern const std::string front;
-extern const std::string community;
-extern const std::string recipe;
-extern const std::string report;
-extern const std::string nomail;
-extern const std::string problem;
-extern const std::string style;
-extern const std::string logo;
+extern const std::string Layout;
+extern const std::string Front;
+extern const std::string Community;
+extern const std::string Recipe;
+extern const std::string Report;
+extern const std::string Nomail;
+extern const std::string Problem;
+extern const std::string Style;
+extern const std::string Logo;
 } // namespace Assets
 
 } // namespace exchange

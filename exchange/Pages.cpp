@@ -17,7 +17,7 @@ enum class Place { Front, List, Elsewhere };
 
 std::string Page(const std::string& title, Place place, bool unlisted, const Template& content,
                  Values contentValues) {
-    static const Template layout(Assets::layout);
+    static const Template layout(Assets::Layout);
     Values values;
     values.Set("title", title);
     values.Show("unlisted", unlisted);
@@ -137,7 +137,7 @@ Values::List NutritionOf(const Recipe& recipe, bool large) {
 }
 
 void InsertReportForm(Values& page, int id, const std::string& token) {
-    static const Template form(Assets::report);
+    static const Template form(Assets::Report);
     Values::List complaints;
     for (const auto& complaint : Reports::Complaints()) {
         Values option;
@@ -168,12 +168,12 @@ std::string HeadingOf(int status) {
 } // namespace
 
 std::string Front() {
-    static const Template content(Assets::front);
+    static const Template content(Assets::Front);
     return Page("Recipes and nutrition", Place::Front, false, content, {});
 }
 
 std::string Community(const ListPage& list) {
-    static const Template content(Assets::community);
+    static const Template content(Assets::Community);
     const auto& recipes = list.found.recipes;
     const bool more = recipes.size() > static_cast<size_t>(RecipeStore::PageSize);
     Values::List lines;
@@ -193,7 +193,7 @@ std::string Community(const ListPage& list) {
 }
 
 std::string RecipePage(const Recipe& recipe, const std::string& token) {
-    static const Template content(Assets::recipe);
+    static const Template content(Assets::Recipe);
     const auto serving = ShownText::Line(recipe.servingName.value_or(""), ShownText::InCard);
     const auto instructions = ShownText::Lines(recipe.instructions.value_or(""));
     const auto name = recipe.name.value_or("");
@@ -216,14 +216,14 @@ std::string RecipePage(const Recipe& recipe, const std::string& token) {
 }
 
 std::string NoMail(const std::string& token) {
-    static const Template content(Assets::nomail);
+    static const Template content(Assets::Nomail);
     Values values;
     values.Set("token", token);
     return Page("No more mails", Place::Elsewhere, true, content, std::move(values));
 }
 
 std::string Notice(const std::string& heading, const std::string& text) {
-    static const Template content(Assets::problem);
+    static const Template content(Assets::Problem);
     Values values;
     values.Set("heading", heading);
     values.Set("reason", text);

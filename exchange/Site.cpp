@@ -67,9 +67,9 @@ void Site::AddPages(Router& router) {
 
 void Site::AddFiles(Router& router) {
     const RouteTerms here{.lane = Lane::Here};
-    router.Add("GET", "/halvane/style.css", File(Assets::style, "text/css; charset=utf-8"), here);
-    router.Add("GET", "/halvane/logo.svg", File(Assets::logo, "image/svg+xml"), here);
-    router.Add("GET", "/favicon.ico", File(Assets::logo, "image/svg+xml"), here);
+    router.Add("GET", "/halvane/style.css", File(Assets::Style, "text/css; charset=utf-8"), here);
+    router.Add("GET", "/halvane/logo.svg", File(Assets::Logo, "image/svg+xml"), here);
+    router.Add("GET", "/favicon.ico", File(Assets::Logo, "image/svg+xml"), here);
 }
 
 void Site::AddWatches(Router& router) {
