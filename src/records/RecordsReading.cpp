@@ -10,7 +10,8 @@
 
 namespace {
 bool CanBeReadInPlace(const QString& path) {
-    return FileHeader::Of(path).SchemaVersion() == Schema::Version && !RecordsCopy::HasJournal(path);
+    return FileHeader::Of(path).SchemaVersion() == Schema::Version &&
+           !RecordsCopy::HasJournal(path);
 }
 
 /// A private copy may be updated to this version.

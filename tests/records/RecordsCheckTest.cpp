@@ -47,11 +47,12 @@ TEST_F(RecordsCheckTest, DeliveredFilesAreSound) {
 
 TEST_F(RecordsCheckTest, ALineSaysWhatItMeansAndWhatToDo) {
     Log();
-    EXPECT_EQ(WhatIsWith("UPDATE USER_FOODS SET Meal = 'Brunch'"),
-              QStringList("USER_FOODS: 1 row belong to a meal that the program does not know (the "
-                          "first has the key 1). They count in the sums of their day, but its "
-                          "list does not show them. Look for them in a snapshot (`backups`, "
-                          "`restore`)."));
+    EXPECT_EQ(
+        WhatIsWith("UPDATE USER_FOODS SET Meal = 'Brunch'"),
+        QStringList("USER_FOODS: rows that belong to a meal that the program does not know: 1 "
+                    "(the first has the key 1). They count in the sums of their day, but its "
+                    "list does not show them. Look for them in a snapshot (`backups`, "
+                    "`restore`)."));
 }
 
 TEST_F(RecordsCheckTest, EachFaultOfALoggedFoodIsFound) {

@@ -118,6 +118,6 @@ Result PeerImport::Run(const RecordsFolder& folder, const Options& options) {
         const RecordsReading records(folder);
         return Merge(imported, options, nullptr);
     }
-    RecordsChange change(folder);
+    RecordsChange change(folder, "import --from " + options.from);
     return Merge(imported, options, &change);
 }

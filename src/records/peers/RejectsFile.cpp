@@ -40,5 +40,5 @@ void RejectsFile::Write(const QString& path, const std::vector<Reject>& rejects)
     file.write("file,place,what,reason,row\r\n");
     for (const Reject& reject : rejects)
         file.write(Line(reject).toUtf8());
-    Require(file.commit(), file);
+    Require(file.flush() && file.commit(), file); // commit keeps a file whose last bytes do not fit
 }
