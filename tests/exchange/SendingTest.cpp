@@ -213,22 +213,20 @@ TEST_P(SendingTest, ARelayThatGreylistsGetsTheMailAgainAndTakesItOnce) {
 }
 
 TEST_P(SendingTest, ARelayThatIsDownGetsTheMailWhenItIsBackAcrossARestart) {
-    auto sink = std::make_unique<SmtpSink>();
-    const int port = sink->Port();
-    const auto settings = Mailing(*sink);
-    sink.reset();
+    SmtpSink sink(SmtpSink::Manner::IsDown);
+    const auto settings = Mailing(sink);
     Start(settings);
     for (int i = 0; i < 3; ++i)
         EXPECT_TRUE(SendCreated(Create().id).starts_with("Your recipe is on its way"));
     EXPECT_TRUE(Until([&] { return Count("SELECT SUM(Tries) FROM outbox") > 2; }));
     Running().TheProcess().Signal(SIGKILL);
     Running().TheProcess().Wait();
-    sink = std::make_unique<SmtpSink>(SmtpSink::Manner::Takes, port);
+    sink.ComeUp();
     exchange::Connection(Database()).Once("UPDATE outbox SET Due = 0");
     Start(settings);
-    EXPECT_TRUE(Receives(*sink, 3));
+    EXPECT_TRUE(Receives(sink, 3));
     EXPECT_TRUE(IsOutboxEmpty());
-    EXPECT_EQ(sink->Mails().size(), 3U);
+    EXPECT_EQ(sink.Mails().size(), 3U);
 }
 
 TEST_P(SendingTest, SeveralServersMailEachRecipeOnce) {
@@ -252,10 +250,8 @@ TEST_P(SendingTest, SeveralServersMailEachRecipeOnce) {
 }
 
 TEST_P(SendingTest, AMailIsGivenUpAfterTwoDays) {
-    auto sink = std::make_unique<SmtpSink>();
-    const auto settings = Mailing(*sink);
-    sink.reset();
-    Start(settings);
+    const SmtpSink sink(SmtpSink::Manner::IsDown);
+    Start(Mailing(sink));
     SendCreated(Create().id);
     exchange::Connection(Database())
         .Once("UPDATE outbox SET QueuedAt = QueuedAt - 172900000000, Due = 0");

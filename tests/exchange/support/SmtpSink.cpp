@@ -38,26 +38,29 @@ bool ReadLine(int socket, const std::atomic<bool>& ending, std::string& arrived,
 }
 } // namespace
 
-SmtpSink::SmtpSink(Manner manner, int port)
+SmtpSink::SmtpSink(Manner manner)
     : manner_(manner)
     , listener_(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0)) {
     sockaddr_in address{};
     address.sin_family = AF_INET;
     address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-    address.sin_port = htons(static_cast<std::uint16_t>(port));
-    const int again = 1;
-    ::setsockopt(listener_, SOL_SOCKET, SO_REUSEADDR, &again, sizeof again);
     socklen_t size = sizeof address;
     ::bind(listener_, reinterpret_cast<sockaddr*>(&address), size);
-    ::listen(listener_, 16);
     ::getsockname(listener_, reinterpret_cast<sockaddr*>(&address), &size);
     port_ = ntohs(address.sin_port);
+    if (manner_ != Manner::IsDown)
+        ComeUp();
+}
+
+void SmtpSink::ComeUp() {
+    ::listen(listener_, 16);
     thread_ = std::thread([this] { Serve(); });
 }
 
 SmtpSink::~SmtpSink() {
     ending_ = true;
-    thread_.join();
+    if (thread_.joinable())
+        thread_.join();
     ::close(listener_);
 }
 

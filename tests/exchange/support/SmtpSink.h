@@ -9,7 +9,8 @@
 /// A mail server on the loopback that keeps what it is given.
 class SmtpSink {
 public:
-    enum class Manner { Takes, RefusesRecipients, Greylists, Hangs };
+    /// One that is down holds its port and refuses connections until `ComeUp`.
+    enum class Manner { Takes, RefusesRecipients, Greylists, Hangs, IsDown };
     struct Mail {
         std::string from;
         std::vector<std::string> to;
@@ -21,13 +22,12 @@ public:
 
     static constexpr int GreylistedTries = 3; ///< the first that is taken
 
-    /// Port 0 takes a free one.
-    explicit SmtpSink(Manner manner = Manner::Takes, int port = 0);
+    explicit SmtpSink(Manner manner = Manner::Takes);
     ~SmtpSink();
     SmtpSink(const SmtpSink&) = delete;
     SmtpSink& operator=(const SmtpSink&) = delete;
 
-    int Port() const { return port_; }
+    void ComeUp();
     std::string Address() const { return "smtp://127.0.0.1:" + std::to_string(port_); }
     std::vector<Mail> Mails() const;
     int Tries() const { return tries_; } ///< recipients that were named to it
