@@ -18,7 +18,7 @@ QImage BarPicture(const QColor (&rows)[BarPainting::Height]) {
 } // namespace
 
 void BarPainting::Paint(QPainter& painter, const QRect& place, bool hilited) {
-    static const QImage normal = BarPicture(TheStyle().barNormal);
-    static const QImage hover = BarPicture(TheStyle().barHover);
-    painter.drawImage(place, hilited ? hover : normal);
+    static const QImage picBarGraph_Bars_N = BarPicture(TheStyle().barNormal);
+    static const QImage picBarGraph_Bars_R = BarPicture(TheStyle().barHover);
+    painter.drawImage(place, hilited ? picBarGraph_Bars_R : picBarGraph_Bars_N);
 }

@@ -66,7 +66,12 @@ void Pie::Render(double ratio) {
     PaintBackground();
     temp_ = Blank();
     if (shares_.What() == EnergyShares::Content::NoData)
-        return PaintNoData();
+        PaintNoData();
+    else
+        DrawPie();
+}
+
+void Pie::DrawPie() {
     if (shares_.What() == EnergyShares::Content::Sectors) {
         const auto [fat, protein, carbs] = shares_.Sectors();
         AddPieSlice(TheStyle().pieFat, fat);

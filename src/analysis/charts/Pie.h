@@ -58,6 +58,7 @@ private:
     void Render(double ratio);
     QImage Blank() const;
     void PaintBackground();
+    void DrawPie(); ///< the sectors onto `temp`, then `temp` over `picPIE`
     void AddPieSlice(const QColor& colour, const EnergyShares::Sector& sector);
     void PaintNoData();
 
