@@ -3,11 +3,9 @@
 #include "records/SnapshotMaking.h"
 #include "records/Snapshots.h"
 #include "records/UpgradeSnapshot.h"
-#include "runtime/RuntimeError.h"
+#include "runtime/Attempt.h"
 #include "runtime/Settings.h"
 #include "store/Connection.h"
-
-#include <QDir>
 
 RecordsChange::RecordsChange(const RecordsFolder& folder, const QString& title)
     : folder_(folder)
@@ -35,7 +33,7 @@ RecordsChange::~RecordsChange() {
     FoodDB().Close();
     UserDB().Close();
     if (!committed_)
-        QDir(before_.path).removeRecursively();
+        Attempt([&] { Snapshots::Remove(before_); });
 }
 
 void RecordsChange::Set(const QString& setting, const QString& value) {

@@ -39,6 +39,13 @@ RuntimeError NoTurn(ProcessLock::Result result, const QString& place) {
             : QStringLiteral("Another program makes a snapshot in the folder %1. Try again.");
     return {ErrorNumber::FileAccess, text.arg(QDir::toNativeSeparators(place))};
 }
+
+/// The files of a folder, and the names in it.
+void SyncAll(const QString& folder) {
+    for (const QString& name : QDir(folder).entryList(QDir::Files))
+        Disk::Sync(folder + u'/' + name);
+    Disk::Sync(folder);
+}
 } // namespace
 
 SnapshotMaking::SnapshotMaking(const RecordsFolder& records, const QString& place)
@@ -70,8 +77,9 @@ void SnapshotMaking::WaitForTurn() {
 
 void SnapshotMaking::Sweep() const {
     const QDir place(place_);
-    for (const QString& name : place.entryList({".making-*"}, QDir::Dirs | QDir::Hidden))
-        Disk::RemoveFolder(place.filePath(name));
+    for (const QString& name :
+         place.entryList({".making-*", ".removing-*"}, QDir::Dirs | QDir::Hidden))
+        QDir(place.filePath(name)).removeRecursively();
 }
 
 /// No two snapshots have the same moment, so their order is always known.
@@ -109,22 +117,22 @@ void SnapshotMaking::Take(Snapshot& snapshot, size_t file, Care care) const {
         snapshot.source.files[file] = state;
 }
 
-/// Both files are taken at once, and are synced while they are checked.
 void SnapshotMaking::TakeFiles(Snapshot& snapshot, Care care) const {
     auto foods = std::async(std::launch::async, [&] { Take(snapshot, 1, care); });
     Take(snapshot, 0, care);
     foods.get();
-    std::future<void> synced;
-    if (care != Care::Quick)
-        synced = std::async(std::launch::async, [&] {
-            for (const RecordsFile& file : RecordsFiles)
-                Disk::Sync(snapshot.Files().File(file.name));
-        });
+    snapshot.counts = RecordsCounts::Of(snapshot.Files());
+}
+
+/// The disk writes while the copies are checked.
+void SnapshotMaking::Finish(const Snapshot& snapshot, Care care) const {
+    snapshot.WriteNote();
+    if (care == Care::Quick)
+        return;
+    auto synced = std::async(std::launch::async, [&] { SyncAll(snapshot.path); });
     if (care == Care::Full)
         snapshot.RequireSound();
-    snapshot.counts = RecordsCounts::Of(snapshot.Files());
-    if (synced.valid())
-        synced.get();
+    synced.get();
 }
 
 Snapshot SnapshotMaking::Make(SnapshotKind kind, const QString& reason, Care care) {
@@ -139,21 +147,15 @@ Snapshot SnapshotMaking::KeepDamaged(const QString& reason) {
     for (const RecordsFile& file : RecordsFiles)
         for (const char* ending : {"", "-journal", "-wal"}) {
             const QString name = QLatin1String(file.name) + QLatin1String(ending);
-            if (!QFile::exists(records_.Path() + u'/' + name))
-                continue;
-            Disk::Copy(records_.Path() + u'/' + name, snapshot.path + u'/' + name);
-            Disk::Sync(snapshot.path + u'/' + name);
+            if (QFile::exists(records_.Path() + u'/' + name))
+                Disk::Copy(records_.Path() + u'/' + name, snapshot.path + u'/' + name);
         }
     return Publish(std::move(snapshot), Care::Locked);
 }
 
 Snapshot SnapshotMaking::Publish(Snapshot snapshot, Care care) {
-    snapshot.WriteNote();
+    Finish(snapshot, care);
     const QString name = place_ + u'/' + NameOf(snapshot);
-    if (care != Care::Quick)
-        Disk::Sync(snapshot.path + "/snapshot.json");
-    if (care != Care::Quick)
-        Disk::Sync(snapshot.path);
     Disk::Move(snapshot.path, name);
     if (care != Care::Quick)
         Disk::Sync(place_);

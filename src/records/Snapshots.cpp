@@ -101,7 +101,16 @@ bool Snapshots::HasDailyOf(QDate day) const {
     return DailyDays(All()).contains(day);
 }
 
+/// Another program may be removing the same one. What is left of it goes with the next snapshot.
+void Snapshots::Remove(const Snapshot& snapshot) {
+    const QFileInfo folder(snapshot.path);
+    const QString hidden = folder.path() + "/.removing-" + folder.fileName();
+    if (!Attempt([&] { Disk::Move(snapshot.path, hidden); }) && folder.exists())
+        Disk::RemoveFolder(snapshot.path);
+    QDir(hidden).removeRecursively();
+}
+
 void Snapshots::Prune() const {
     for (const Snapshot& snapshot : OutOfDate(All()))
-        Disk::RemoveFolder(snapshot.path);
+        Remove(snapshot);
 }

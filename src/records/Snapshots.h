@@ -21,6 +21,8 @@ public:
     std::optional<Snapshot> NewestSound() const;
     bool HasDailyOf(QDate day) const;
 
+    /// A kill meanwhile leaves none that is half there.
+    static void Remove(const Snapshot& snapshot);
     void Prune() const; ///< removes those that are not kept any longer
 
 private:

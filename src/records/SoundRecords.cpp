@@ -16,7 +16,7 @@
 namespace {
 void RequireFile(const RecordsFolder& folder, const RecordsFile& file) {
     FileCheck::Untouched(folder.File(file.name), file.kind);
-    UnchangedFile(folder.File(file.name)).RequireIntegrity();
+    UnchangedFile(folder.File(file.name)).RequireSoundRows();
 }
 
 bool IsMissing(const RecordsFolder& folder, const RecordsFile& file) {

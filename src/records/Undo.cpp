@@ -1,6 +1,5 @@
 #include "records/Undo.h"
 
-#include "records/Disk.h"
 #include "records/Restoring.h"
 #include "records/Snapshots.h"
 #include "runtime/RuntimeError.h"
@@ -60,6 +59,6 @@ Undo::Result Undo::Last(const RecordsFolder& records) {
         restoring.PutChecked(last, SettingsBefore(last), "before undo of " + last.reason);
     if (changes.size() > 1)
         StandBehind(changes[1], last, records);
-    Disk::RemoveFolder(last.path);
+    Snapshots::Remove(last);
     return {last.reason, last.moment, replaced};
 }

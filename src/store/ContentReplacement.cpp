@@ -42,6 +42,10 @@ constexpr auto Counts =
               '") = (SELECT count(*) FROM B."' || replace(name, '"', '""') || '")'
        FROM B.sqlite_schema WHERE type = 'table' AND name NOT LIKE 'sqlite^_%' ESCAPE '^')";
 
+constexpr auto Reindexing =
+    R"(SELECT 'REINDEX L."' || replace(name, '"', '""') || '"' FROM L.sqlite_schema
+       WHERE type = 'index')";
+
 struct Names {
     std::string live;
     std::string by;
@@ -69,8 +73,21 @@ void Attach(SQLite::Database& database, const std::string& address, const std::s
     attach.exec();
 }
 
+bool IsSound(SQLite::Database& database, const Names& names) {
+    return Texts(database, names.In("PRAGMA L.integrity_check(1)")) ==
+           std::vector<std::string>{"ok"};
+}
+
+/// An index that lacks rows was copied as it was.
+void MakeIndexesAnew(SQLite::Database& database, const Names& names) {
+    for (const std::string& statement : Texts(database, names.In(Reindexing)))
+        database.exec(statement);
+}
+
 void RequireSame(SQLite::Database& database, const Names& names) {
-    if (Texts(database, names.In("PRAGMA L.integrity_check(1)")) != std::vector<std::string>{"ok"})
+    if (!IsSound(database, names))
+        MakeIndexesAnew(database, names);
+    if (!IsSound(database, names))
         throw SQLite::Exception("the copied rows are not sound", SQLITE_CORRUPT);
     for (const std::string& equal : Texts(database, names.In(Counts)))
         if (database.execAndGet(equal).getInt() == 0)

@@ -29,9 +29,9 @@ qint64 UnchangedFile::Number(const QByteArray& select) {
         named_, [&] { return qint64(database_->execAndGet(select.constData()).getInt64()); });
 }
 
-void UnchangedFile::RequireIntegrity() {
+void UnchangedFile::RequireSoundRows() {
     const std::string first = StoreError::Guarded(
-        named_, [&] { return database_->execAndGet("PRAGMA integrity_check(1)").getString(); });
+        named_, [&] { return database_->execAndGet("PRAGMA quick_check(1)").getString(); });
     if (first != "ok")
         throw StoreError::Make(SQLITE_CORRUPT, named_, QString::fromStdString(first));
 }

@@ -23,7 +23,9 @@ public:
     static QByteArray Address(const QString& path); ///< of the file, for ATTACH
 
     qint64 Number(const QByteArray& select); ///< the first value
-    void RequireIntegrity();                 ///< every page and every index is as it must be
+    /// Fails unless every page and every row is as it must be. An index may lack rows: it can be
+    /// made anew of its table.
+    void RequireSoundRows();
 
 private:
     QString named_;

@@ -49,6 +49,19 @@ TEST_F(RestoringTest, WhatWasReplacedCanBeBroughtBack) {
     EXPECT_EQ(Rows(Records()), changed);
 }
 
+TEST_F(RestoringTest, AnIndexThatLacksRowsIsMadeAnew) {
+    AddWeight("2002-03-04", 150);
+    AddWeight("2002-03-05", 151);
+    SpoilIndex();
+    const QStringList before = Rows(Records());
+    const Snapshot snapshot = Make();
+    AddWeight("2002-03-06", 152);
+    AddOwnFood("Tart");
+    Restore(snapshot);
+    EXPECT_EQ(Rows(Records()), before);
+    ExpectBothToOpen();
+}
+
 TEST_F(RestoringTest, AFileThatIsTheSameIsNotTouched) {
     const Snapshot snapshot = Make();
     AddWeight("2002-03-05", 151);

@@ -51,6 +51,12 @@ protected:
                                    std::string(name) + "' FROM FOODS")
                                       .c_str());
     }
+    /// The index of the weights no longer fits its table.
+    void SpoilIndex() const {
+        Change(Records().Users(), "PRAGMA writable_schema = ON; UPDATE sqlite_schema SET sql = "
+                                  "replace(sql, '(UID, UDate)', '(UDate, UID)') "
+                                  "WHERE name = 'USER_WEIGHTS_Day'");
+    }
     static QByteArray Bytes(const QString& path) {
         QFile file(path);
         EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();

@@ -114,6 +114,31 @@ TEST_F(SnapshotsTest, WhatAKilledProgramHasHalfMadeIsNoSnapshotAndGoesNextTime) 
     EXPECT_EQ(All().All().size(), 1);
 }
 
+TEST_F(SnapshotsTest, WhatAKilledProgramHasHalfRemovedIsNoSnapshotAndGoesNextTime) {
+    Make();
+    const QString half = All().Place() + "/.removing-20261122T051033123Z-daily";
+    ASSERT_TRUE(QDir().rename(All().All().first().path, half));
+    EXPECT_TRUE(All().All().isEmpty());
+    Make();
+    EXPECT_FALSE(QFile::exists(half));
+    EXPECT_EQ(All().All().size(), 1);
+}
+
+TEST_F(SnapshotsTest, OneThatAnotherProgramHasRemovedIsGoneWithoutAComplaint) {
+    const Snapshot snapshot = Make();
+    Snapshots::Remove(snapshot);
+    EXPECT_TRUE(All().All().isEmpty());
+    EXPECT_NO_THROW(Snapshots::Remove(snapshot));
+}
+
+TEST_F(SnapshotsTest, AnIndexThatLacksRowsDoesNotKeepThemFromBeingKept) {
+    AddWeight("2026-11-21", 150);
+    SpoilIndex();
+    const Snapshot snapshot = Make();
+    EXPECT_EQ(snapshot.counts.ToJson()["weights"], 1);
+    EXPECT_NO_THROW(snapshot.RequireSound());
+}
+
 TEST_F(SnapshotsTest, ADamagedFileGivesNoSnapshot) {
     Damage(Records().Users(), 8192);
     EXPECT_EQ(FailureOf([&] { Make(); }), -SQLITE_CORRUPT);
