@@ -49,17 +49,8 @@ QList<Finding> Contents(const QString& path, DatabaseKind kind, const QString& t
     SQLite::Database database = ForReading(path);
     SchemaCheck::Result schema = SchemaCheck::Run(database, kind);
     if (schema.canBeRead)
-        schema.findings << RowChecks::Run(database, kind, RowChecks::Part::AllElse, today);
+        schema.findings << RowChecks::Run(database, kind, today);
     return schema.findings;
-}
-
-/// Where a column is missing, the schema says so.
-QList<Finding> Amounts(const QString& path, const QString& today) {
-    SQLite::Database database = ForReading(path);
-    const SchemaCheck::Result schema = SchemaCheck::Run(database, DatabaseKind::Users);
-    if (!schema.canBeRead)
-        return {};
-    return RowChecks::Run(database, DatabaseKind::Users, RowChecks::Part::Amounts, today);
 }
 
 /// An error of the store inside a file that could be opened is a finding, too.
@@ -109,8 +100,6 @@ void RecordsCheck::CheckOpen(QDate today) {
         parts.push_back(Started(file.path, [&day, kind = file.kind](const QString& path) {
             return Contents(path, kind, day);
         }));
-    parts.push_back(
-        Started(files[0].path, [&day](const QString& path) { return Amounts(path, day); }));
     for (std::future<QList<Finding>>& part : parts)
         findings_ << part.get();
     if (findings_.isEmpty())

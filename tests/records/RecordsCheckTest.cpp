@@ -144,10 +144,9 @@ TEST_F(RecordsCheckTest, MissingTablesColumnsAndDeliveredRowsAreFound) {
 }
 
 TEST_F(RecordsCheckTest, AnIndexThatDoesNotFitItsTableIsMadeAnew) {
-    for (int i = 0; i < 3; ++i)
-        Log();
-    ChangeUsers("PRAGMA writable_schema = ON; UPDATE sqlite_schema SET sql = replace(sql, "
-                "'(UID, UDate)', '(UDate, UID)') WHERE name = 'USER_FOODS_Day'");
+    AddWeight("2026-11-20", 150);
+    AddWeight("2026-11-21", 151);
+    SpoilIndex();
     ASSERT_FALSE(Findings().isEmpty());
     EXPECT_TRUE(Findings().first().problem.startsWith("damage inside the file"));
     Repair();
