@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <deque>
+#include <ranges>
 #include <unordered_map>
 
 KeyedMerge::KeyedMerge(const DocumentSection& section, ImportReport& report)
@@ -46,8 +47,10 @@ void KeyedMerge::PairEqual() {
     }
 }
 
+/// From the last one on: of equal profiles the first ones are added, and a second import finds them
+/// again by their values.
 void KeyedMerge::PairNamed() {
-    for (Row& staged : staged_) {
+    for (Row& staged : std::views::reverse(staged_)) {
         if (staged.paired || staged.name.empty())
             continue;
         const auto same = std::ranges::find_if(there_, [&](const Row& row) {

@@ -68,6 +68,17 @@ TEST_F(DocumentMergeTest, AProfileIsTheSameByItsNameAndStaysAsItIs) {
     EXPECT_EQ(place.Value("SELECT UID FROM USER_WEIGHTS"), "3");
 }
 
+TEST_F(DocumentMergeTest, OfTwoEqualProfilesEachFindsItsOwnLogAgain) {
+    const Place place = With("INSERT INTO profiles (UID, UserName, age) VALUES (3, 'Anna', 40)");
+    const QByteArray document =
+        Document(R"("profiles":[{"key":1,"name":"ANNA"},{"key":2,"name":"ANNA"}],
+                    "log":[{"profile":1,"food":"Pie"},{"profile":2,"food":"Soup"}])");
+    EXPECT_EQ(Added(place.Import(document)), 3);
+    const QByteArray merged = place.Export();
+    EXPECT_EQ(Added(place.Import(document)), 0);
+    EXPECT_EQ(place.Export(), merged);
+}
+
 TEST_F(DocumentMergeTest, TheWeightOfADayThatIsThereStaysAndIsTold) {
     const Place place = With("INSERT INTO profiles (UID, UserName, flagsodium, flagcholesterol) "
                              "VALUES (1, 'Anna', NULL, NULL);"
