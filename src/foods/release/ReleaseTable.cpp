@@ -3,7 +3,10 @@
 #include "runtime/RuntimeError.h"
 #include "runtime/TextLines.h"
 
+#include <QFileInfo>
+
 namespace {
+constexpr qint64 LargestFile = 64 << 20;
 
 QString Unwrapped(const QString& field) {
     const bool wrapped = field.size() > 1 && field.startsWith(u'~') && field.endsWith(u'~');
@@ -22,6 +25,9 @@ QStringList Fields(const QString& line) {
 ReleaseTable ReleaseTable::Read(const QString& path, const QList<int>& fieldCounts) {
     ReleaseTable table;
     table.path_ = path;
+    if (QFileInfo(path).size() > LargestFile)
+        throw RuntimeError(ErrorNumber::TypeMismatch,
+                           path + QStringLiteral(" is larger than %1 bytes").arg(LargestFile));
     const QStringList lines = ReadLines(path, TextCoding::Latin1);
     for (int i = 0; i < int(lines.size()); ++i)
         table.Append(i + 1, lines[i], fieldCounts);
@@ -29,12 +35,11 @@ ReleaseTable ReleaseTable::Read(const QString& path, const QList<int>& fieldCoun
 }
 
 void ReleaseTable::Append(int line, const QString& text, const QList<int>& fieldCounts) {
-    const QStringList fields = Fields(text);
-    const int count = int(fields.size());
+    const int count = int(text.count(u'^')) + 1;
     const bool fits = records_.isEmpty() ? fieldCounts.contains(count) : count == fieldCount_;
     if (!fits)
         throw RuntimeError(ErrorNumber::TypeMismatch, path_ + u':' + QString::number(line) + u": " +
                                                           QString::number(count) + u" fields");
     fieldCount_ = count;
-    records_ << Record{line, fields};
+    records_ << Record{line, Fields(text)};
 }

@@ -1,6 +1,7 @@
 #include "records/document/DocumentReader.h"
 
 #include "records/document/DocumentFormat.h"
+#include "records/document/DocumentInput.h"
 #include "records/document/DocumentRowReader.h"
 #include "records/document/DocumentStage.h"
 #include "runtime/RuntimeError.h"
@@ -35,9 +36,11 @@ QString Quoted(const std::string& name) {
 /// Takes a document in while it is parsed: a member or a row that is whole is read and dropped.
 class Intake {
 public:
-    Intake(DocumentStage& stage, std::function<void()> progress)
-        : rows_(stage)
-        , progress_(std::move(progress)) {}
+    Intake(DocumentInput& input, DocumentStage& stage,
+           const std::function<void(qint64, qint64)>& progress)
+        : input_(input)
+        , rows_(stage)
+        , progress_(progress) {}
 
     /// Whether the parser is to keep what the event tells.
     bool Take(int depth, Event event, const Json& parsed);
@@ -59,8 +62,9 @@ private:
     bool TakeRow(const Json& row);
     void RequireShape(int depth, Event event) const;
 
+    DocumentInput& input_;
     DocumentRowReader rows_;
-    std::function<void()> progress_;
+    const std::function<void(qint64, qint64)>& progress_;
     std::string member_;
     const Section* list_ = nullptr; ///< the section whose rows follow
     int row_ = 0;
@@ -115,6 +119,7 @@ void Intake::BeginMember(const std::string& name) {
 bool Intake::TakeMember(const Json& value) {
     if (list_ == nullptr)
         TakeHead(value);
+    input_.EndRow();
     return false;
 }
 
@@ -151,8 +156,9 @@ void Intake::TakeSettings(const Json& settings) {
 
 bool Intake::TakeRow(const Json& row) {
     rows_.ReadRow(*list_, row);
+    input_.EndRow();
     if (++row_ % ProgressRows == 0)
-        progress_();
+        progress_(input_.Taken(), input_.Size());
     return false;
 }
 
@@ -192,11 +198,12 @@ RuntimeError NotJson(const QString& path, const Json::parse_error& error) {
     return {ErrorNumber::TypeMismatch, Named(path, LineOf(path, error.byte)) + ": " + what + u'.'};
 }
 
-void Parse(const QString& path, std::ifstream& file, Intake& intake) {
+void Parse(const QString& path, DocumentInput& input, Intake& intake) {
     try {
-        std::ignore = Json::parse(file, [&](int depth, Event event, Json& parsed) {
-            return intake.Take(depth, event, parsed);
-        });
+        std::ignore =
+            Json::parse(input.begin(), input.end(), [&](int depth, Event event, Json& parsed) {
+                return intake.Take(depth, event, parsed);
+            });
         intake.End();
     } catch (const Json::parse_error& error) {
         throw NotJson(path, error);
@@ -210,23 +217,12 @@ void Parse(const QString& path, std::ifstream& file, Intake& intake) {
                            Named(path, intake.Place()) + ": " + failure.Description() + u'.');
     }
 }
-
-std::ifstream Opened(const QString& path) {
-    std::ifstream file;
-    if (QFileInfo(path).isFile())
-        file.open(path.toStdString(), std::ios::binary);
-    if (!file.is_open())
-        throw RuntimeError(ErrorNumber::FileNotFound,
-                           "The file " + QDir::toNativeSeparators(path) + " cannot be read.");
-    return file;
-}
 } // namespace
 
 DocumentHead DocumentReader::Read(const QString& path, DocumentStage& stage,
                                   const std::function<void(qint64, qint64)>& progress) {
-    std::ifstream file = Opened(path);
-    const qint64 size = QFileInfo(path).size();
-    Intake intake(stage, [&] { progress(qint64(file.tellg()), size); });
-    Parse(path, file, intake);
+    DocumentInput input(path);
+    Intake intake(input, stage, progress);
+    Parse(path, input, intake);
     return intake.head;
 }

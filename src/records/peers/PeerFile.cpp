@@ -9,7 +9,7 @@
 #include <QFileInfo>
 
 namespace {
-constexpr qint64 LargestWhole = 256 << 20;
+constexpr qint64 LargestWhole = 128 << 20;
 
 std::unique_ptr<QIODevice> Opened(std::unique_ptr<QIODevice> device, const QString& name) {
     if (!device->open(QIODevice::ReadOnly))

@@ -12,6 +12,8 @@ namespace {
 using Kind = TableMap::Kind;
 using Basis = TableMap::Basis;
 
+constexpr qint64 LargestMap = 1 << 20;
+
 [[noreturn]] void Fail(const QString& complaint) {
     throw RuntimeError(ErrorNumber::TypeMismatch, "The map cannot be used: " + complaint);
 }
@@ -207,6 +209,7 @@ void RequireWhole(const TableMap& map) {
 TableMap TableMap::Of(const QString& path) {
     TableMap map;
     toml::table root;
+    Require(QFileInfo(path).size() <= LargestMap, "it is larger than a megabyte.");
     try {
         root = toml::parse_file(path.toStdString());
     } catch (const toml::parse_error& error) {
