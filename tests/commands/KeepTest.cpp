@@ -5,6 +5,7 @@
 #include "records/RecordsChange.h"
 #include "records/RecordsLock.h"
 #include "records/Snapshots.h"
+#include "records/WeighIn.h"
 #include "store/Connection.h"
 #include "support/Places.h"
 
@@ -38,17 +39,8 @@ protected:
         return QJsonDocument::fromJson(Command(arguments + QStringList{"--json"}).out.toUtf8())
             .object();
     }
-    void Weigh(int weight) const {
-        RecordsChange change(Records(), "weigh " + QString::number(weight));
-        DayLog::SetWeight(QDate(2002, 3, 4), weight);
-        change.Commit();
-    }
-    double Weight() {
-        UserDB().Open(Records().Users(), DatabaseKind::Users);
-        const double weight = DayLog::Weight(QDate(2002, 3, 4));
-        CloseDatabases();
-        return weight;
-    }
+    void Weigh(int weight) const { WeighIn::Change(Records(), weight); }
+    double Weight() const { return WeighIn::Kept(Records()); }
     /// As a process of its own, which `prepare` changes before it starts.
     static int Process(const QStringList& arguments, const std::function<void()>& prepare,
                        QString* said) {

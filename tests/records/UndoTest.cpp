@@ -1,4 +1,5 @@
 #include "SnapshotTest.h"
+#include "WeighIn.h"
 
 #include "intake/DayLog.h"
 #include "records/RecordsChange.h"
@@ -9,17 +10,8 @@
 
 class UndoTest : public SnapshotTest {
 protected:
-    void Weigh(int weight) const {
-        RecordsChange change(Records(), "weigh " + QString::number(weight));
-        DayLog::SetWeight(QDate(2002, 3, 4), weight);
-        change.Commit();
-    }
-    double Weight() {
-        UserDB().Open(Records().Users(), DatabaseKind::Users);
-        const double weight = DayLog::Weight(QDate(2002, 3, 4));
-        CloseDatabases();
-        return weight;
-    }
+    void Weigh(int weight) const { WeighIn::Change(Records(), weight); }
+    double Weight() const { return WeighIn::Kept(Records()); }
     int Undone() {
         return FailureOf([&] { Undo::Last(Records()); });
     }

@@ -1,5 +1,7 @@
 #include "records/document/JsonText.h"
 
+#include "records/text/JsonQuote.h"
+
 #include <QByteArray>
 #include <QStringDecoder>
 
@@ -15,10 +17,6 @@ constexpr double WholeBelow = 1e15; ///< smaller whole numbers are written witho
 template <class Number> void AddDigits(std::string& text, Number value) {
     char digits[32];
     text.append(digits, std::to_chars(digits, digits + sizeof digits, value).ptr);
-}
-
-bool NeedsEscape(char character) {
-    return static_cast<unsigned char>(character) < ' ' || character == '"' || character == '\\';
 }
 
 bool IsAscii(std::string_view text) {
@@ -58,26 +56,7 @@ void JsonText::AddReal(double value) {
 void JsonText::AddText(std::string_view text) {
     if (!IsUtf8(text))
         return AddOdd("text", text);
-    text_ += '"';
-    while (!text.empty()) {
-        const auto end = std::find_if(text.begin(), text.end(), NeedsEscape);
-        text_.append(text.begin(), end);
-        if (end != text.end())
-            AddEscaped(*end);
-        text.remove_prefix(std::min(text.size(), size_t(end - text.begin()) + 1));
-    }
-    text_ += '"';
-}
-
-void JsonText::AddEscaped(char character) {
-    static constexpr char hex[] = "0123456789abcdef";
-    if (character == '"' || character == '\\')
-        return Add({std::string{'\\', character}});
-    if (character == '\n')
-        return Add("\\n");
-    Add("\\u00");
-    text_ += hex[character >> 4];
-    text_ += hex[character & 0xF];
+    AppendJsonQuoted(text_, text);
 }
 
 void JsonText::AddOdd(std::string_view member, std::string_view bytes) {

@@ -22,7 +22,6 @@ public:
 
 private:
     void AddOdd(std::string_view member, std::string_view bytes);
-    void AddEscaped(char character);
 
     std::string text_;
 };

@@ -29,7 +29,8 @@ constexpr auto SummedCarbs = "carbohydrates are summed up, not the difference";
 constexpr auto OtherFiber = "fiber was measured by another method";
 constexpr auto PlainFolate = "folate is the total, not in dietary equivalents";
 
-/// Figures of one nutrient stand together, the preferred one first.
+/// Figures of one nutrient stand together, the preferred one first. The last ones are the parts of
+/// vitamin A: an IU is so much of each.
 constexpr Figure Table[] = {
     {1008, 208, "KCAL", Calories},
     {2048, 958, "KCAL", Calories, 1, SpecificFactors},
@@ -69,26 +70,19 @@ constexpr Figure Table[] = {
     {1095, 309, "MG", Zinc},
     {1007, 207, "G", Ash},
     {1051, 255, "G", Water},
-};
-
-/// The parts of vitamin A in UG: an IU is so much of each.
-constexpr Figure VitaminAParts[] = {
     {1105, 319, "UG", VitaminA, 0.3},
     {1107, 321, "UG", VitaminA, 0.6},
     {1108, 322, "UG", VitaminA, 1.2},
     {1120, 334, "UG", VitaminA, 1.2},
 };
-constexpr int FirstPart = std::size(Table);
+constexpr quint32 RetinolKey = 1105;
+constexpr int FirstPart =
+    std::ranges::find(Table, RetinolKey, &Figure::key) - std::ranges::begin(Table);
 constexpr int Retinol = FirstPart;
 constexpr int BetaCarotene = FirstPart + 1;
 /// Carbohydrates by summation; 0 means that they cannot be summed.
 constexpr quint32 CarbsBySummation = 1050;
-static_assert(std::size(Table) + std::size(VitaminAParts) == FdcNutrients::SlotCount);
-
-constexpr const Figure& At(int slot) {
-    return slot < FirstPart ? Table[slot] : VitaminAParts[slot - FirstPart];
-}
-constexpr int FigureCount = FdcNutrients::SlotCount;
+static_assert(std::size(Table) == FdcNutrients::SlotCount);
 
 using Figures = FdcNutrients::Figures;
 
@@ -101,10 +95,8 @@ std::optional<double> VitaminAFromParts(Figures figures) {
     if (std::isnan(figures[Retinol]) || std::isnan(figures[BetaCarotene]))
         return std::nullopt;
     double units = 0;
-    for (int i = 0; const Figure& part : VitaminAParts) {
-        const double amount = figures[static_cast<size_t>(FirstPart + i++)];
-        units += std::isnan(amount) ? 0 : amount / part.divisor;
-    }
+    for (size_t slot = FirstPart; slot < std::size(Table); ++slot)
+        units += std::isnan(figures[slot]) ? 0 : figures[slot] / Table[slot].divisor;
     return units;
 }
 
@@ -119,8 +111,8 @@ double NotBelowZero(const Figure& figure, double value, FoodTally& tally) {
 
 int FdcNutrients::SlotOf(quint32 key) {
     static constexpr quint32 firstKey = 1000;
-    for (int slot = 0; slot < FigureCount; ++slot)
-        if (key == (key < firstKey ? At(slot).number : At(slot).key) && key != 0)
+    for (int slot = 0; slot < FdcNutrients::SlotCount; ++slot)
+        if (key == (key < firstKey ? Table[slot].number : Table[slot].key) && key != 0)
             return slot;
     return -1;
 }
@@ -132,12 +124,12 @@ void FdcNutrients::RequireUnits(const QString& folder) {
     while (nutrients.Next()) {
         const int slot = SlotOf(nutrients.Key(Key));
         if (slot >= 0 &&
-            nutrients.Text(Unit).compare(QLatin1String(At(slot).unit), Qt::CaseInsensitive) != 0)
+            nutrients.Text(Unit).compare(QLatin1String(Table[slot].unit), Qt::CaseInsensitive) != 0)
             throw RuntimeError(ErrorNumber::TypeMismatch,
                                QStringLiteral("nutrient.csv: nutrient %1 is in %2, not in %3. "
                                               "Nothing was read.")
                                    .arg(nutrients.Key(Key))
-                                   .arg(nutrients.Text(Unit), QLatin1String(At(slot).unit)));
+                                   .arg(nutrients.Text(Unit), QLatin1String(Table[slot].unit)));
     }
 }
 

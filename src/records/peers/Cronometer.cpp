@@ -1,6 +1,6 @@
 #include "records/peers/Cronometer.h"
 
-#include "records/peers/PeerAmounts.h"
+#include "records/peers/PeerReading.h"
 #include "records/peers/PeerTables.h"
 #include "records/peers/PeerValues.h"
 
@@ -46,12 +46,9 @@ constexpr AmountColumn Amounts[] = {
     {"Water (g)", Water, Unit::Gram},
 };
 
-class Reader {
+class Reader : PeerReading {
 public:
-    Reader(const PeerChoices& choices, Imported& into)
-        : choices_(choices)
-        , into_(into)
-        , rules_(choices, into) {}
+    using PeerReading::PeerReading;
 
     void ReadServings(PeerTable& table) {
         const AmountColumns amounts(table, Amounts, rules_);
@@ -180,9 +177,6 @@ private:
                                  time.isValid() ? time.msecsSinceStartOfDay() : 0});
     }
 
-    const PeerChoices& choices_;
-    Imported& into_;
-    AmountRules rules_;
     bool servingsHaveAmounts_ = false;
     QHash<std::pair<QDate, QString>, Energy> energy_;
 };

@@ -1,7 +1,7 @@
 #include "records/peers/LoseIt.h"
 
 #include "records/peers/MissingWeightUnit.h"
-#include "records/peers/PeerAmounts.h"
+#include "records/peers/PeerReading.h"
 #include "records/peers/PeerTables.h"
 #include "records/peers/PeerValues.h"
 #include "runtime/Convert.h"
@@ -28,11 +28,10 @@ constexpr Heights HeightUnits[] = {
     {36, 96, WeightUnit::Pound, " gives the height in inches"},
 };
 
-class Reader {
+class Reader : PeerReading {
 public:
     Reader(const PeerChoices& choices, Imported& into)
-        : into_(into)
-        , rules_(choices, into)
+        : PeerReading(choices, into)
         , weightUnit_(choices, into) {}
 
     void ReadProfile(PeerTable& table) {
@@ -145,8 +144,6 @@ private:
         into_.recipes.push_back(recipe);
     }
 
-    Imported& into_;
-    AmountRules rules_;
     MissingWeightUnit weightUnit_;
 };
 

@@ -1,7 +1,7 @@
 #include "records/peers/MyFitnessPal.h"
 
 #include "records/peers/MissingWeightUnit.h"
-#include "records/peers/PeerAmounts.h"
+#include "records/peers/PeerReading.h"
 #include "records/peers/PeerTables.h"
 #include "records/peers/PeerValues.h"
 
@@ -28,12 +28,10 @@ constexpr double Rounding = 0.1; ///< of two values with one decimal
 
 constexpr const char* WithoutUnits[] = {"Vitamin A", "Vitamin C", "Calcium", "Iron"};
 
-class Reader {
+class Reader : PeerReading {
 public:
     Reader(const PeerChoices& choices, Imported& into)
-        : choices_(choices)
-        , into_(into)
-        , rules_(choices, into)
+        : PeerReading(choices, into)
         , weightUnit_(choices, into) {}
 
     void ReadExercise(PeerTable& table) {
@@ -123,9 +121,6 @@ private:
         return std::nullopt;
     }
 
-    const PeerChoices& choices_;
-    Imported& into_;
-    AmountRules rules_;
     MissingWeightUnit weightUnit_;
 };
 

@@ -1,7 +1,7 @@
 #include "records/peers/OpenNutriTracker.h"
 
-#include "records/peers/PeerAmounts.h"
 #include "records/peers/PeerJson.h"
+#include "records/peers/PeerReading.h"
 #include "records/peers/PeerTables.h"
 #include "records/peers/PeerValues.h"
 
@@ -62,12 +62,9 @@ struct Intake {
     bool HoldsOldMicronutrients() const { return source == u"off" && dataVersion.value_or(0) < 1; }
 };
 
-class Reader {
+class Reader : PeerReading {
 public:
-    Reader(const PeerChoices& choices, Imported& into)
-        : choices_(choices)
-        , into_(into)
-        , rules_(choices, into) {}
+    using PeerReading::PeerReading;
 
     /// The kind of a file is told by what its elements hold.
     void ReadJson(const PeerFile& file) {
@@ -239,9 +236,6 @@ private:
         into_.recipes.push_back(recipe);
     }
 
-    const PeerChoices& choices_;
-    Imported& into_;
-    AmountRules rules_;
     bool hasJson_ = false;
 };
 

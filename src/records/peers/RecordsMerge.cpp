@@ -1,6 +1,7 @@
 #include "records/peers/RecordsMerge.h"
 
 #include "analysis/Period.h"
+#include "foods/CustomFoods.h"
 #include "intake/DayLog.h"
 #include "model/User.h"
 #include "recipes/RecipeBook.h"
@@ -14,10 +15,6 @@
 #include <algorithm>
 
 namespace {
-/// A serving of an own food counts as 100 grams, so that the amounts of a serving are scaled as
-/// those of 100 grams are.
-constexpr double OwnServingGrams = 100;
-
 /// How often each row stands in the records. Taking one of them leaves one less.
 class Present {
 public:
@@ -100,12 +97,6 @@ QHash<QDate, double> StoredWeights(const QString& days) {
          !rows.AtEnd(); rows.MoveNext())
         weights[rows[QStringLiteral("UDate")].Day()] = rows[QStringLiteral("Weight")].NumberOr(0);
     return weights;
-}
-
-qint32 NextOwnKey() {
-    const Recordset highest(FoodDB(),
-                            QStringLiteral("SELECT Max(ID) AS [ID] FROM foods WHERE ID >= 23508"));
-    return highest[QStringLiteral("ID")].Integer() + 1;
 }
 
 QVariantList IngredientRow(const ImportedFood& food) {
@@ -211,15 +202,15 @@ void RecordsMerge::WriteWeights() const {
 }
 
 void RecordsMerge::WriteFoods() const {
-    qint32 key = NextOwnKey();
+    qint32 key = CustomFoods::HighestKey();
     Recordset rows(FoodDB(), QStringLiteral("SELECT * FROM foods WHERE ID < 0"),
                    CursorType::Dynamic, LockType::Optimistic);
     for (const ImportedOwnFood& own : imported_.foods) {
         rows.AddNew();
-        rows.Set(QStringLiteral("ID"), key++);
+        rows.Set(QStringLiteral("ID"), ++key);
         rows.Set(QStringLiteral("FoodName"), own.food.name);
         rows.Set(QStringLiteral("Serv_Desc_A"), own.food.serving);
-        rows.Set(QStringLiteral("Serv_GM_WT_A"), OwnServingGrams);
+        rows.Set(QStringLiteral("Serv_GM_WT_A"), CustomFoods::ServingGrams);
         StoredFood::SetAmounts(rows, own.food.amounts);
         rows.Update();
     }

@@ -1,9 +1,9 @@
 #include "records/peers/Waistline.h"
 
 #include "foods/Quantity.h"
-#include "records/peers/PeerAmounts.h"
 #include "records/peers/PeerFile.h"
 #include "records/peers/PeerJson.h"
+#include "records/peers/PeerReading.h"
 #include "records/peers/PeerValues.h"
 #include "runtime/Convert.h"
 
@@ -83,14 +83,13 @@ struct Dish {
 };
 using Dishes = QHash<QString, Dish>;
 
-class Reader {
+class Reader : PeerReading {
 public:
     Reader(const QString& file, const QJsonObject& backup, const PeerChoices& choices,
            Imported& into)
-        : file_(file)
+        : PeerReading(choices, into)
+        , file_(file)
         , backup_(backup)
-        , into_(into)
-        , rules_(choices, into)
         , settings_(backup[u"settings"].toObject()) {}
 
     void Read() {
@@ -241,8 +240,6 @@ private:
 
     QString file_;
     QJsonObject backup_;
-    Imported& into_;
-    AmountRules rules_;
     QJsonObject settings_;
     Dishes foods_;
     Dishes recipes_;

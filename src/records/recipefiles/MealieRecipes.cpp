@@ -1,7 +1,7 @@
 #include "records/recipefiles/MealieRecipes.h"
 
 #include "records/recipefiles/DurationText.h"
-#include "records/recipefiles/JsonText.h"
+#include "records/recipefiles/ForeignJson.h"
 #include "records/recipefiles/LineText.h"
 #include "records/recipefiles/NutritionText.h"
 #include "records/recipefiles/Yield.h"
@@ -14,27 +14,27 @@
 #include <algorithm>
 
 namespace {
-using JsonText::Either;
+using ForeignJson::Either;
 
 IngredientLine Line(const QJsonObject& ingredient) {
-    const QString note = JsonText::Of(ingredient["note"]);
+    const QString note = ForeignJson::Of(ingredient["note"]);
     if (Either(ingredient, QStringLiteral("disable_amount")).toBool())
         return {note};
     const QString line =
-        LineText::Of(ingredient["quantity"].toDouble(), JsonText::Of(ingredient["unit"]),
-                     JsonText::Of(ingredient["food"]), note);
+        LineText::Of(ingredient["quantity"].toDouble(), ForeignJson::Of(ingredient["unit"]),
+                     ForeignJson::Of(ingredient["food"]), note);
     if (!line.isEmpty())
         return {line};
-    const QString original = JsonText::Of(Either(ingredient, QStringLiteral("original_text")));
-    return {original.isEmpty() ? JsonText::Of(ingredient["display"]) : original};
+    const QString original = ForeignJson::Of(Either(ingredient, QStringLiteral("original_text")));
+    return {original.isEmpty() ? ForeignJson::Of(ingredient["display"]) : original};
 }
 
 void ReadIngredients(RecipeDraft& draft, const QJsonArray& ingredients) {
     for (const QJsonValue one : ingredients) {
-        if (const QString title = JsonText::Of(one["title"]); !title.isEmpty())
+        if (const QString title = ForeignJson::Of(one["title"]); !title.isEmpty())
             draft.ingredients.append({title, std::nullopt, true});
         if (const IngredientLine line =
-                one.isString() ? IngredientLine{JsonText::Of(one)} : Line(one.toObject());
+                one.isString() ? IngredientLine{ForeignJson::Of(one)} : Line(one.toObject());
             !line.text.isEmpty())
             draft.ingredients.append(line);
     }
@@ -44,14 +44,14 @@ QString Paragraphs(const QJsonArray& steps) {
     QStringList paragraphs;
     for (const QJsonValue step : steps)
         for (const QJsonValue& part : {step["title"], step["text"]})
-            if (const QString text = JsonText::Plain(part.toString()); !text.isEmpty())
+            if (const QString text = ForeignJson::Plain(part.toString()); !text.isEmpty())
                 paragraphs << text;
     return paragraphs.join(u'\n');
 }
 
 QVariant TotalMinutes(const QJsonObject& recipe) {
     const auto minutes = [&](const char* name) {
-        return MinutesOf(JsonText::Of(Either(recipe, QLatin1String(name))));
+        return MinutesOf(ForeignJson::Of(Either(recipe, QLatin1String(name))));
     };
     if (const auto total = minutes("total_time"))
         return *total;
@@ -65,15 +65,16 @@ void ReadRemarks(RecipeDraft& draft, const QJsonObject& recipe) {
         if (!text.isEmpty())
             draft.remarks << QString(caption + u": " + text);
     };
-    add(QStringLiteral("About"), JsonText::Of(recipe["description"]));
+    add(QStringLiteral("About"), ForeignJson::Of(recipe["description"]));
     add(QStringLiteral("Category"),
-        JsonText::Of(Either(recipe, QStringLiteral("recipe_category"))));
-    add(QStringLiteral("Keywords"), JsonText::Of(recipe["tags"]));
+        ForeignJson::Of(Either(recipe, QStringLiteral("recipe_category"))));
+    add(QStringLiteral("Keywords"), ForeignJson::Of(recipe["tags"]));
     for (const char* name : {"org_url", "orgURL"})
-        add(QStringLiteral("Source"), JsonText::Of(recipe[QLatin1String(name)]));
+        add(QStringLiteral("Source"), ForeignJson::Of(recipe[QLatin1String(name)]));
     for (const QJsonValue note : recipe["notes"].toArray())
         add(QStringLiteral("Note"),
-            QString(JsonText::Of(note["title"]) + u' ' + JsonText::Of(note["text"])).trimmed());
+            QString(ForeignJson::Of(note["title"]) + u' ' + ForeignJson::Of(note["text"]))
+                .trimmed());
 }
 
 // ---- a backup: rows of tables that name each other by their keys ----
@@ -132,8 +133,8 @@ bool MealieRecipes::IsBackup(const QJsonObject& object) {
 
 RecipeDraft MealieRecipes::Read(const QJsonObject& recipe) {
     RecipeDraft draft;
-    draft.values[RecipeField::Name] = JsonText::Of(recipe["name"]).simplified();
-    ReadYield(draft, JsonText::Of(Either(recipe, QStringLiteral("recipe_yield"))));
+    draft.values[RecipeField::Name] = ForeignJson::Of(recipe["name"]).simplified();
+    ReadYield(draft, ForeignJson::Of(Either(recipe, QStringLiteral("recipe_yield"))));
     if (const double servings = Either(recipe, QStringLiteral("recipe_servings")).toDouble();
         servings > 0)
         draft.values[RecipeField::Yield] = servings;

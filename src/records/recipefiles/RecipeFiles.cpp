@@ -1,7 +1,7 @@
 #include "records/recipefiles/RecipeFiles.h"
 
 #include "records/archive/ZipReader.h"
-#include "records/recipefiles/JsonText.h"
+#include "records/recipefiles/ForeignJson.h"
 #include "records/recipefiles/MarkdownRecipes.h"
 #include "records/recipefiles/MealMasterRecipes.h"
 #include "records/recipefiles/MealieRecipes.h"
@@ -55,7 +55,7 @@ Drafts OfPlain(const QByteArray& bytes) {
     const QByteArray text = WithoutMark(bytes);
     const QByteArray start = text.left(1000).trimmed();
     const bool isJson = start.startsWith('{') || start.startsWith('[');
-    return isJson ? OfJson(JsonText::Document(text)) : OfText(text);
+    return isJson ? OfJson(ForeignJson::Document(text)) : OfText(text);
 }
 
 /// Reads the recipes of a zip and of the zips in it.

@@ -1,7 +1,7 @@
 #include "records/recipefiles/SchemaRecipes.h"
 
 #include "records/recipefiles/DurationText.h"
-#include "records/recipefiles/JsonText.h"
+#include "records/recipefiles/ForeignJson.h"
 #include "records/recipefiles/LineText.h"
 #include "records/recipefiles/NutritionText.h"
 #include "records/recipefiles/OwnRecipeJson.h"
@@ -37,15 +37,15 @@ QJsonValue Property(const QJsonObject& recipe, const char* name, const char* ear
 
 void ReadYields(RecipeDraft& draft, const QJsonValue& yield) {
     const QStringList texts =
-        yield.isArray() ? JsonText::Lines(yield) : QStringList(JsonText::Of(yield));
+        yield.isArray() ? ForeignJson::Lines(yield) : QStringList(ForeignJson::Of(yield));
     for (const QString& text : texts)
         if (draft.values[RecipeField::Yield].isNull())
             ReadYield(draft, text);
 }
 
 QString PropertyValue(const QJsonObject& object) {
-    return QStringList{JsonText::Of(object["value"]), JsonText::Of(object["unitText"]),
-                       JsonText::Of(object["name"])}
+    return QStringList{ForeignJson::Of(object["value"]), ForeignJson::Of(object["unitText"]),
+                       ForeignJson::Of(object["name"])}
         .join(u' ')
         .simplified();
 }
@@ -56,10 +56,10 @@ void ReadIngredients(RecipeDraft& draft, const QJsonValue& value) {
             ReadIngredients(draft, one);
         else if (one.isObject())
             draft.ingredients.append({PropertyValue(one.toObject())});
-        else if (const QString line = JsonText::Of(one).simplified(); !line.isEmpty())
+        else if (const QString line = ForeignJson::Of(one).simplified(); !line.isEmpty())
             draft.ingredients.append({line});
     if (value.isString())
-        for (const QString& line : JsonText::Lines(value))
+        for (const QString& line : ForeignJson::Lines(value))
             draft.ingredients.append({line.simplified()});
 }
 
@@ -69,10 +69,10 @@ QStringList Steps(const QJsonValue& value) {
     for (const QJsonValue one : value.toArray())
         steps << Steps(one);
     if (value.isString())
-        steps << JsonText::Plain(value.toString());
+        steps << ForeignJson::Plain(value.toString());
     const QJsonObject step = value.toObject();
-    const QString name = JsonText::Plain(step["name"].toString());
-    const QString text = JsonText::Plain(step["text"].toString());
+    const QString name = ForeignJson::Plain(step["name"].toString());
+    const QString text = ForeignJson::Plain(step["text"].toString());
     if (!name.isEmpty() && !text.startsWith(name))
         steps << QString(name + u':');
     if (!text.isEmpty())
@@ -87,7 +87,7 @@ std::optional<double> Minutes(const QJsonObject& recipe, const char* name) {
     for (const char* bound : {"maxValue", "minValue"})
         if (const QJsonValue one = value[QLatin1String(bound)]; one.isString())
             return MinutesOf(one.toString());
-    return MinutesOf(JsonText::Of(value));
+    return MinutesOf(ForeignJson::Of(value));
 }
 
 QVariant TotalMinutes(const QJsonObject& recipe) {
@@ -110,8 +110,8 @@ constexpr Remark Remarks[] = {
 
 RecipeDraft ReadForeign(const QJsonObject& recipe) {
     RecipeDraft draft;
-    draft.values[RecipeField::Name] = JsonText::Of(recipe["name"]).simplified();
-    if (const QString serving = JsonText::Of(recipe["nutrition"]["servingSize"]);
+    draft.values[RecipeField::Name] = ForeignJson::Of(recipe["name"]).simplified();
+    if (const QString serving = ForeignJson::Of(recipe["nutrition"]["servingSize"]);
         !serving.isEmpty())
         draft.values[RecipeField::Serving] = serving;
     ReadYields(draft, Property(recipe, "recipeYield", "yield"));
@@ -119,7 +119,7 @@ RecipeDraft ReadForeign(const QJsonObject& recipe) {
     draft.values[RecipeField::Instructions] = Steps(recipe["recipeInstructions"]).join(u'\n');
     ReadIngredients(draft, Property(recipe, "recipeIngredient", "ingredients"));
     for (const Remark& remark : Remarks)
-        if (const QString text = JsonText::Of(recipe[QLatin1String(remark.property)]);
+        if (const QString text = ForeignJson::Of(recipe[QLatin1String(remark.property)]);
             !text.isEmpty())
             draft.remarks << QString(QLatin1String(remark.caption) + u": " + text);
     ReadNutrition(draft, recipe["nutrition"].toObject());
@@ -143,6 +143,6 @@ QList<RecipeDraft> SchemaRecipes::ReadPage(const QString& page) {
         QRegularExpression::CaseInsensitiveOption | QRegularExpression::DotMatchesEverythingOption);
     QList<RecipeDraft> recipes;
     for (auto all = block.globalMatch(page); all.hasNext();)
-        recipes << Read(JsonText::Document(all.next().captured(1).toUtf8()));
+        recipes << Read(ForeignJson::Document(all.next().captured(1).toUtf8()));
     return recipes;
 }

@@ -1,6 +1,6 @@
 #include "records/recipefiles/TandoorRecipes.h"
 
-#include "records/recipefiles/JsonText.h"
+#include "records/recipefiles/ForeignJson.h"
 #include "records/recipefiles/LineText.h"
 
 #include <QJsonArray>
@@ -18,12 +18,12 @@ QList<QJsonObject> InOrder(const QJsonValue& array) {
 }
 
 IngredientLine Line(const QJsonObject& ingredient) {
-    const QString note = JsonText::Of(ingredient["note"]);
+    const QString note = ForeignJson::Of(ingredient["note"]);
     if (ingredient["is_header"].toBool())
         return {note, std::nullopt, true};
     const double amount = ingredient["no_amount"].toBool() ? 0 : ingredient["amount"].toDouble();
-    return {LineText::Of(amount, JsonText::Of(ingredient["unit"]), JsonText::Of(ingredient["food"]),
-                         note)};
+    return {LineText::Of(amount, ForeignJson::Of(ingredient["unit"]),
+                         ForeignJson::Of(ingredient["food"]), note)};
 }
 
 void ReadSteps(RecipeDraft& draft, const QJsonValue& steps) {
@@ -49,12 +49,13 @@ void ReadRemarks(RecipeDraft& draft, const QJsonObject& recipe) {
                                          {"keywords", QLatin1String("Keywords: ")},
                                          {"source_url", QLatin1String("Source: ")}};
     for (const Remark& remark : remarks)
-        if (const QString text = JsonText::Of(recipe[QLatin1String(remark.key)]); !text.isEmpty())
+        if (const QString text = ForeignJson::Of(recipe[QLatin1String(remark.key)]);
+            !text.isEmpty())
             draft.remarks << QString(remark.caption + text);
     QStringList facts;
     for (const char* name : {"calories", "fats", "carbohydrates", "proteins"})
         if (const QJsonValue value = recipe["nutrition"][QLatin1String(name)]; value.isDouble())
-            facts << QString(QLatin1String(name) + u' ' + JsonText::Of(value));
+            facts << QString(QLatin1String(name) + u' ' + ForeignJson::Of(value));
     if (!facts.isEmpty())
         draft.remarks << QString(u"Nutrition in the file: " + facts.join(QLatin1String(", ")));
 }
@@ -66,10 +67,10 @@ bool TandoorRecipes::IsRecipe(const QJsonObject& object) {
 
 RecipeDraft TandoorRecipes::Read(const QJsonObject& recipe) {
     RecipeDraft draft;
-    draft.values[RecipeField::Name] = JsonText::Of(recipe["name"]).simplified();
+    draft.values[RecipeField::Name] = ForeignJson::Of(recipe["name"]).simplified();
     if (const double servings = recipe["servings"].toDouble(); servings > 0)
         draft.values[RecipeField::Yield] = servings;
-    if (const QString serving = JsonText::Of(recipe["servings_text"]); !serving.isEmpty())
+    if (const QString serving = ForeignJson::Of(recipe["servings_text"]); !serving.isEmpty())
         draft.values[RecipeField::Serving] = serving;
     if (const double minutes =
             recipe["working_time"].toDouble() + recipe["waiting_time"].toDouble();

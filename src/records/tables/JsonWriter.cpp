@@ -1,28 +1,15 @@
 #include "records/tables/JsonWriter.h"
 
 #include "records/tables/CellText.h"
-
-namespace {
-constexpr unsigned char FirstPrintable = 0x20;
-
-std::string Escaped(char at) {
-    static constexpr auto hex = "0123456789abcdef";
-    if (at == '"' || at == '\\')
-        return {'\\', at};
-    if (static_cast<unsigned char>(at) >= FirstPrintable)
-        return {at};
-    return std::string("\\u00") + hex[at >> 4] + hex[at & 0xf];
-}
-} // namespace
+#include "records/text/JsonQuote.h"
 
 JsonWriter::JsonWriter(const QString&, Sink sink)
     : sink_(std::move(sink)) {}
 
 std::string JsonWriter::Text(const std::string& text) {
-    std::string escaped = "\"";
-    for (const char at : text)
-        escaped += Escaped(at);
-    return escaped + '"';
+    std::string quoted;
+    AppendJsonQuoted(quoted, text);
+    return quoted;
 }
 
 void JsonWriter::Head(const std::vector<TableColumn>& columns) {

@@ -1,4 +1,4 @@
-#include "records/recipefiles/JsonText.h"
+#include "records/recipefiles/ForeignJson.h"
 
 #include "runtime/Convert.h"
 #include "runtime/RuntimeError.h"
@@ -51,7 +51,7 @@ QString WithoutEntities(const QString& text) {
 }
 } // namespace
 
-QJsonValue JsonText::Document(const QByteArray& bytes) {
+QJsonValue ForeignJson::Document(const QByteArray& bytes) {
     QJsonParseError error{};
     const QJsonDocument document = QJsonDocument::fromJson(bytes, &error);
     if (error.error != QJsonParseError::NoError)
@@ -62,7 +62,7 @@ QJsonValue JsonText::Document(const QByteArray& bytes) {
     return document.isArray() ? QJsonValue(document.array()) : QJsonValue(document.object());
 }
 
-QString JsonText::Plain(const QString& text) {
+QString ForeignJson::Plain(const QString& text) {
     static const QRegularExpression lineEnd(QStringLiteral("</(p|li|div|h[1-6])>|<br\\s*/?>"),
                                             QRegularExpression::CaseInsensitiveOption);
     static const QRegularExpression mark(QStringLiteral("</?[A-Za-z][^<>]{0,1000}>|</?[A-Za-z]>"));
@@ -72,7 +72,7 @@ QString JsonText::Plain(const QString& text) {
     return WithoutEntities(plain).trimmed();
 }
 
-QString JsonText::Of(const QJsonValue& value) {
+QString ForeignJson::Of(const QJsonValue& value) {
     if (value.isDouble())
         return DecimalText(value.toDouble());
     if (value.isObject())
@@ -84,7 +84,7 @@ QString JsonText::Of(const QJsonValue& value) {
     return Plain(value.toString());
 }
 
-QStringList JsonText::Lines(const QJsonValue& value) {
+QStringList ForeignJson::Lines(const QJsonValue& value) {
     QStringList lines;
     if (value.isArray())
         for (const QJsonValue part : value.toArray())
@@ -94,7 +94,7 @@ QStringList JsonText::Lines(const QJsonValue& value) {
     return lines;
 }
 
-QJsonValue JsonText::Either(const QJsonObject& object, const QString& snakeName) {
+QJsonValue ForeignJson::Either(const QJsonObject& object, const QString& snakeName) {
     if (object.contains(snakeName))
         return object[snakeName];
     QString camel;

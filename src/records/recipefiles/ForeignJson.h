@@ -5,7 +5,7 @@
 #include <QStringList>
 
 /// Reads texts of JSON documents that other programs wrote.
-namespace JsonText {
+namespace ForeignJson {
 /// The object or array of a document. Fails with the place where it breaks off.
 QJsonValue Document(const QByteArray& bytes);
 
@@ -19,4 +19,4 @@ QString Plain(const QString& text);
 
 /// The value under the name "recipe_yield" or "recipeYield".
 QJsonValue Either(const QJsonObject& object, const QString& snakeName);
-} // namespace JsonText
+} // namespace ForeignJson
