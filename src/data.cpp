@@ -6,6 +6,13 @@
 #include <memory>
 #include <span>
 
+#ifdef Q_OS_WIN
+#include <io.h>
+#include <stdio.h>
+#else
+#include <unistd.h>
+#endif
+
 namespace {
 /// Only a report is drawn; what drawing needs would slow the start of the other commands.
 std::unique_ptr<QCoreApplication> MakeApplication(int& argc, char** argv) {
@@ -15,9 +22,19 @@ std::unique_ptr<QCoreApplication> MakeApplication(int& argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen"); // there may be no display
     return std::make_unique<QGuiApplication>(argc, argv);
 }
+
+/// Whether a person types the standard input.
+bool IsTerminal() {
+#ifdef Q_OS_WIN
+    return _isatty(_fileno(stdin)) != 0;
+#else
+    return isatty(STDIN_FILENO) != 0;
+#endif
+}
 } // namespace
 
 int main(int argc, char** argv) {
     const std::unique_ptr<QCoreApplication> application = MakeApplication(argc, argv);
-    return RunCommand(QCoreApplication::arguments(), std::cout, std::cerr);
+    return RunCommand(QCoreApplication::arguments(), std::cout, std::cerr,
+                      IsTerminal() ? &std::cin : nullptr);
 }

@@ -1,6 +1,7 @@
 #include "commands/Commands.h"
 #include "commands/Session.h"
 #include "commands/SnapshotFacts.h"
+#include "commands/Waiting.h"
 #include "records/SnapshotMaking.h"
 #include "records/Snapshots.h"
 
@@ -13,6 +14,7 @@ int Backup(const Session& session, const std::string& to) {
     const RecordsFolder records = session.Records();
     const QString place =
         to.empty() ? Snapshots(records).Place() : QDir(QString::fromStdString(to)).absolutePath();
+    const Waiting waiting(session, QStringLiteral("Copying and checking"));
     const Snapshot made =
         SnapshotMaking(records, place).Make(SnapshotKind::Manual, QStringLiteral("backup"));
     if (session.json)

@@ -1,5 +1,6 @@
 #include "commands/Commands.h"
 #include "commands/Session.h"
+#include "commands/Waiting.h"
 #include "records/RecordsCheck.h"
 #include "runtime/Clock.h"
 
@@ -33,6 +34,7 @@ void PrintLines(const Session& session, const RecordsCheck& check, const QList<F
 
 int Check(const Session& session, bool repair) {
     const QDate today = Clock::Today();
+    const Waiting waiting(session, QStringLiteral("Checking"));
     QList<Finding> repaired;
     if (repair)
         repaired = RecordsCheck::Repair(session.Records(), today);
@@ -50,8 +52,9 @@ int Check(const Session& session, bool repair) {
 
 void Commands::AddCheck(CLI::App& program, Session& session) {
     CLI::App* command = program.add_subcommand(
-        "check", "Looks through both files and tells in a line each what is wrong, what it means "
-                 "and what to do; ends with 1 if there is anything");
+        "check",
+        "Checks both files, and prints a line for each fault: what is wrong, what it means "
+        "and what to do. Ends with 1 if there is a fault");
     const auto repair = std::make_shared<bool>(false);
     command->add_flag("--repair", *repair, "Put right what has one right answer");
     command->footer("Example: halvane-data check --repair");

@@ -30,8 +30,13 @@ std::string ValueName(const CLI::Option& option) {
 }
 
 OptionOutline Outline(const CLI::Option& option) {
-    return {LongName(option), BriefName(option), ValueName(option), option.get_description(),
-            Choices(option.get_type_name())};
+    return {LongName(option),
+            BriefName(option),
+            ValueName(option),
+            option.get_description(),
+            Choices(option.get_type_name()),
+            option.get_required(),
+            option.get_expected_max() > 1};
 }
 
 bool IsShown(const CLI::Option& option) {
@@ -54,6 +59,35 @@ void AddWithCommands(std::vector<CommandOutline>& all, const CLI::App& app,
         AddWithCommands(all, *command, (name.empty() ? "" : name + ' ') + command->get_name());
 }
 } // namespace
+
+std::string OptionOutline::Text() const {
+    return description +
+           (choices.empty() ? "" : " (one of " + CLI::detail::join(choices, ", ") + ')');
+}
+
+std::string OptionOutline::Usage() const {
+    const std::string text = name + (many ? "..." : "");
+    return required ? text : '[' + text + ']';
+}
+
+std::string CommandOutline::Sentence() const {
+    return description + (description.ends_with('.') ? "" : ".");
+}
+
+std::string CommandOutline::LastWord() const {
+    return name.substr(name.rfind(' ') + 1);
+}
+
+std::vector<const CommandOutline*> CommandOutline::Below(const std::vector<CommandOutline>& outline,
+                                                         const std::string& name) {
+    const std::string begin = name.empty() ? "" : name + ' ';
+    std::vector<const CommandOutline*> below;
+    for (const CommandOutline& command : outline)
+        if (!command.name.empty() && command.name.starts_with(begin) &&
+            command.name.find(' ', begin.size()) == std::string::npos && command.name != name)
+            below.push_back(&command);
+    return below;
+}
 
 std::vector<CommandOutline> CommandOutline::Of(const CLI::App& program) {
     std::vector<CommandOutline> all;

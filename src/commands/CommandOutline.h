@@ -14,8 +14,12 @@ struct OptionOutline {
     std::string value; ///< what stands behind it: "TEXT"; empty for a flag
     std::string description;
     std::vector<std::string> choices; ///< all values that it takes; empty for any
+    bool required = false;
+    bool many = false; ///< an argument that may be repeated
 
     bool IsArgument() const { return name.front() != '-'; }
+    std::string Text() const;  ///< its description with all values that it takes
+    std::string Usage() const; ///< of an argument: "FILE...", or "[TO]" where it may be left out
 };
 
 /// A command as its help shows it, or the program itself. What is made from it says the same.
@@ -25,6 +29,12 @@ struct CommandOutline {
     std::string footer;
     std::vector<OptionOutline> options; ///< arguments first
 
+    std::string Sentence() const; ///< the description with its full stop
+    std::string LastWord() const; ///< of the name
+
     /// The program first, then each command, in the order of the help. Hidden options are left out.
     static std::vector<CommandOutline> Of(const CLI::App& program);
+    /// The commands that follow a command: "import" after "foods".
+    static std::vector<const CommandOutline*> Below(const std::vector<CommandOutline>& outline,
+                                                    const std::string& name);
 };

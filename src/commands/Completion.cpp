@@ -19,21 +19,6 @@ std::string Joined(const std::vector<std::string>& words, const char* separator)
     return text;
 }
 
-/// The commands that follow a command: "import" after "foods".
-std::vector<const CommandOutline*> Below(const Outline& outline, const std::string& name) {
-    const std::string begin = name.empty() ? "" : name + ' ';
-    std::vector<const CommandOutline*> below;
-    for (const CommandOutline& command : outline)
-        if (!command.name.empty() && command.name.starts_with(begin) &&
-            command.name.find(' ', begin.size()) == std::string::npos && command.name != name)
-            below.push_back(&command);
-    return below;
-}
-
-std::string LastWord(const std::string& name) {
-    return name.substr(name.rfind(' ') + 1);
-}
-
 /// Options of the command and of the program, without arguments.
 std::vector<const OptionOutline*> OptionsOf(const Outline& outline, const CommandOutline& command) {
     std::vector<const OptionOutline*> options;
@@ -93,8 +78,8 @@ template <class Offer> std::string Choices(const Outline& outline, Offer offer) 
 
 std::string BashWords(const Outline& outline, const CommandOutline& command) {
     std::vector<std::string> words;
-    for (const CommandOutline* below : Below(outline, command.name))
-        words.push_back(LastWord(below->name));
+    for (const CommandOutline* below : CommandOutline::Below(outline, command.name))
+        words.push_back(below->LastWord());
     for (const OptionOutline* option : OptionsOf(outline, command))
         words.push_back(option->name);
     return Joined(words, " ");
@@ -111,8 +96,8 @@ std::string Described(const std::string& word, const std::string& description) {
 std::string ZshLists(const Outline& outline, const CommandOutline& command) {
     std::vector<std::string> commands;
     std::vector<std::string> options;
-    for (const CommandOutline* below : Below(outline, command.name))
-        commands.push_back(Described(LastWord(below->name), below->description));
+    for (const CommandOutline* below : CommandOutline::Below(outline, command.name))
+        commands.push_back(Described(below->LastWord(), below->description));
     for (const OptionOutline* option : OptionsOf(outline, command))
         options.push_back(Described(option->name, option->description));
     return "commands=(" + Joined(commands, " ") + ") options=(" + Joined(options, " ") + ")";

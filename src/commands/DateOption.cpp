@@ -34,7 +34,8 @@ CLI::Option* DateOption::Add(CLI::App& command, const std::string& name, QDate& 
         try {
             day = Of(text);
         } catch (const RuntimeError& wrong) {
-            throw CLI::ValidationError(name, wrong.Description().toStdString());
+            throw CLI::ValidationError(name.substr(0, name.find(',')),
+                                       wrong.Description().toStdString());
         }
     };
     return command.add_option_function<std::string>(name, read, help)->type_name("DAY");

@@ -116,7 +116,7 @@ void AddFoodImport(CLI::App& foods, Session& session) {
 } // namespace
 
 void Commands::AddFoods(CLI::App& program, Session& session) {
-    CLI::App* foods = program.add_subcommand("foods", "Brings foods of other sources in");
+    CLI::App* foods = program.add_subcommand("foods", "Brings in foods of other sources");
     foods->require_subcommand(1);
     foods->fallthrough();
     foods->footer("Example: halvane-data foods import FOLDER --dry-run");

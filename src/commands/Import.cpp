@@ -76,7 +76,7 @@ int Import(const Session& session, const Options& options, const PeerImport::Opt
 } // namespace
 
 void Commands::AddImport(CLI::App& program, Session& session) {
-    CLI::App* command = program.add_subcommand("import", "Takes records in from a file");
+    CLI::App* command = program.add_subcommand("import", "Brings in records from a file");
     const auto options = std::make_shared<Options>();
     command
         ->add_option("FILE", options->files,

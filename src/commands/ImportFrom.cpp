@@ -1,6 +1,9 @@
 #include "commands/ImportFrom.h"
 
+#include "commands/Counted.h"
+#include "commands/OneOf.h"
 #include "commands/Session.h"
+#include "commands/Waiting.h"
 #include "foods/Meals.h"
 #include "records/peers/RejectsFile.h"
 #include "records/text/CsvHeader.h"
@@ -28,7 +31,7 @@ void AddChoice(CLI::App& command, const std::string& name,
     command
         .add_option_function<std::string>(
             name, [words, take](const std::string& word) { take(words.at(word)); }, help)
-        ->check(CLI::IsMember(known));
+        ->transform(OneOf(known));
 }
 
 /// "Second breakfast=Lunch"
@@ -58,7 +61,7 @@ void AddPaths(CLI::App& command, Options& options) {
         names.push_back(name.toStdString());
     CLI::Option* const from =
         path("--from", options.from, "The program that has exported the files, or table")
-            ->check(CLI::IsMember(names));
+            ->transform(OneOf(names));
     path("--map", options.map, "With --from table: a file that tells what its columns mean")
         ->needs(from);
     path("--rejects", options.rejects,
@@ -91,10 +94,6 @@ void AddChoices(CLI::App& command, PeerChoices& choices) {
         "With --from opennutritracker: what minerals and vitamins of older foods are in; otherwise "
         "they are unknown",
         [&choices](PeerChoices::Micronutrients unit) { choices.oldMicronutrients = unit; });
-}
-
-QString Counted(int count, const char* one, const char* many) {
-    return QString::number(count) + u' ' + QLatin1String(count == 1 ? one : many);
 }
 
 struct Row {
@@ -226,6 +225,7 @@ int ImportFrom::Run(const Session& session, Options options, const std::vector<s
     for (const std::string& file : files)
         options.files << QString::fromStdString(file);
     options.choosePerson = [&session] { session.ChooseProfile(); };
+    const Waiting waiting(session, QStringLiteral("Importing"));
     const Result result = PeerImport::Run(session.Records(), options);
     if (session.json)
         session.Print(Facts(result, options.dryRun));

@@ -3,6 +3,7 @@
 #include "commands/FoodArgument.h"
 #include "commands/LoggedLine.h"
 #include "commands/MealOption.h"
+#include "commands/OneOf.h"
 #include "commands/Session.h"
 #include "foods/Meals.h"
 #include "foods/Quantity.h"
@@ -93,7 +94,7 @@ void Commands::AddLog(CLI::App& program, Session& session) {
     wanted->food.AddTo(*command);
     command->add_option("--quantity,-q", wanted->quantity, "How many servings; otherwise 1");
     command->add_option("--serving,-s", wanted->serving, "Serving A or B of the food; otherwise A")
-        ->transform(CLI::IsMember({"A", "B"}, CLI::ignore_case));
+        ->transform(OneOf({"A", "B"}));
     MealOption::Add(*command, "--meal,-m", wanted->meal,
                     "Breakfast, Lunch, Dinner or Snacks; otherwise the meal that the window had "
                     "ticked last");

@@ -32,7 +32,7 @@ std::string Option(const OptionOutline& option) {
         names = In('B', option.brief) + ", " + names;
     if (!option.IsArgument() && !option.value.empty())
         names += ' ' + In('I', option.value);
-    return ".TP\n" + names + '\n' + Lines(option.description);
+    return ".TP\n" + names + '\n' + Lines(option.Text());
 }
 
 std::string Options(const CommandOutline& command) {
@@ -47,12 +47,12 @@ std::string Heading(const CommandOutline& command) {
     std::string heading = ".SS \"" + Escaped(command.name);
     for (const OptionOutline& option : command.options)
         if (option.IsArgument())
-            heading += ' ' + In('I', option.name);
+            heading += ' ' + In('I', option.Usage());
     return heading + "\"\n";
 }
 
 std::string Command(const CommandOutline& command) {
-    std::string text = Heading(command) + Lines(command.description + '.') + Options(command);
+    std::string text = Heading(command) + Lines(command.Sentence()) + Options(command);
     if (!command.footer.empty())
         text += ".PP\n" + Lines(command.footer);
     return text;

@@ -15,7 +15,8 @@ CLI::Option* MealOption::Add(CLI::App& command, const std::string& name, int& me
         const auto* const found = std::ranges::find_if(Meals::Names, begins);
         if (text.empty() || found == Meals::Names.end())
             throw CLI::ValidationError(
-                name, '"' + text + "\" is no meal. Write Breakfast, Lunch, Dinner or Snacks.");
+                name.substr(0, name.find(',')),
+                '"' + text + "\" is no meal. Write Breakfast, Lunch, Dinner or Snacks.");
         meal = int(found - Meals::Names.begin());
     };
     return command.add_option_function<std::string>(name, read, help)->type_name("MEAL");

@@ -2,8 +2,10 @@
 
 #include "commands/Commands.h"
 #include "commands/Completion.h"
+#include "commands/HelpText.h"
 #include "commands/ManPage.h"
 #include "commands/Session.h"
+#include "commands/WrongUse.h"
 
 #include <CLI/CLI.hpp>
 
@@ -19,12 +21,28 @@ std::vector<std::string> Reversed(const QStringList& arguments) {
 }
 
 void AddSharedOptions(CLI::App& program, Session& session) {
-    program.add_option("--folder", session.folder,
-                       "The folder of the records; otherwise that of the program");
-    program.add_option("--profile", session.profile,
-                       "The name or key of a person; otherwise the first one");
+    program
+        .add_option("--folder", session.folder,
+                    "The folder of the records; otherwise that of the program")
+        ->type_name("FOLDER");
+    program
+        .add_option("--profile", session.profile,
+                    "The name or key of a person; otherwise the first one")
+        ->type_name("NAME");
     program.add_flag("--json", session.json, "Print facts as JSON");
 }
+
+/// Every command that is added later has the same.
+void UseOurHelp(CLI::App& program) {
+    program.set_help_flag("--help,-h", "Show this help");
+    const std::string begin = program.get_name() + ' ';
+    program.formatter_fn([&program, begin](const CLI::App*, const std::string& name,
+                                           CLI::AppFormatMode) {
+        return HelpText::Of(CommandOutline::Of(program),
+                            name.starts_with(begin) ? name.substr(begin.size()) : std::string());
+    });
+}
+
 /// For the build, which makes the man page and the completions of the shells.
 void AddHiddenOptions(CLI::App& program, std::ostream& out) {
     const auto print = [&program, &out](const char* name, auto text) {
@@ -46,15 +64,16 @@ bool NeedsDrawing(const std::vector<std::string>& arguments) {
     return std::ranges::find(arguments, "report") != arguments.end();
 }
 
-int RunCommand(const QStringList& arguments, std::ostream& out, std::ostream& error) {
-    Session session(out, error);
-    CLI::App program("Keeps, checks, takes out and brings in the records of Halvane.",
-                     "halvane-data");
+int RunCommand(const QStringList& arguments, std::ostream& out, std::ostream& error,
+               std::istream* keyboard) {
+    Session session(out, error, keyboard);
+    CLI::App program("Keeps, checks, exports and imports the records of Halvane.", "halvane-data");
     program.require_subcommand(1);
     program.fallthrough();
     program.footer(
         "Ends with 0: done; 1: a check found something, or some rows were refused; 2: wrong use; "
         "3: failed, and nothing was changed.");
+    UseOurHelp(program);
     AddSharedOptions(program, session);
     for (const auto add : Commands::All)
         add(program, session);
@@ -62,7 +81,8 @@ int RunCommand(const QStringList& arguments, std::ostream& out, std::ostream& er
     try {
         program.parse(Reversed(arguments));
     } catch (const CLI::ParseError& wrong) {
-        return program.exit(wrong, out, error) == 0 ? Done : Usage;
+        return wrong.get_exit_code() == 0 ? program.exit(wrong, out, error)
+                                          : session.Refuse(WrongUse::Message(program, wrong));
     }
     return session.Run();
 }

@@ -1,6 +1,10 @@
 #include "commands/Commands.h"
+#include "commands/Counted.h"
+#include "commands/OneOf.h"
 #include "commands/OutputFile.h"
+#include "commands/RecipeQuestions.h"
 #include "commands/Session.h"
+#include "commands/Waiting.h"
 #include "records/RecordsReading.h"
 #include "records/recipefiles/RecipeFiles.h"
 #include "records/recipefiles/RecipeImport.h"
@@ -52,7 +56,7 @@ int Export(const Session& session, const ExportWanted& wanted) {
     if (session.json)
         session.Print(QJsonObject{{"exported", recipes.size()}});
     else
-        session.Print(QStringLiteral("%1 recipes exported.").arg(recipes.size()));
+        session.Print(Counted(recipes.size(), "recipe", "recipes") + " exported.");
     return Done;
 }
 
@@ -65,7 +69,7 @@ void AddRecipeExport(CLI::App& recipes, Session& session) {
     command
         ->add_option("--format", wanted->format,
                      "jsonld (schema.org) or markdown; otherwise by the name of the file")
-        ->check(CLI::IsMember({"jsonld", "markdown"}));
+        ->transform(OneOf({"jsonld", "markdown"}));
     command->footer("Example: halvane-data recipes export soups.md \"Lentil soup\"");
     command->callback([&session, wanted] {
         session.Do([&session, wanted] { return Export(session, *wanted); });
@@ -156,9 +160,8 @@ void TellAll(const Session& session, const RecipeImport::Result& result, bool dr
             "with "
             "a quantity, --choose 1.2=KEY:SERVING:QUANTITY takes one, --text leaves all as text."));
     else
-        session.Print(QStringLiteral("%1%2 recipes added.")
-                          .arg(QLatin1String(dryRun ? "It would be: " : ""))
-                          .arg(result.added));
+        session.Print(Counted(result.added, "recipe", "recipes") +
+                      QLatin1String(dryRun ? " would be added." : " added."));
 }
 
 int Import(const Session& session, const ImportWanted& wanted) {
@@ -166,6 +169,14 @@ int Import(const Session& session, const ImportWanted& wanted) {
     for (const QString& choice : Texts(wanted.choices))
         options.choices << *IngredientChoice::Of(choice);
     options.dryRun = wanted.dryRun;
+    if (session.CanAsk() && !options.dryRun) {
+        const auto answers =
+            RecipeQuestions::Ask(session, RecipeImport::Questions(session.Records(), options));
+        if (!answers)
+            return Found;
+        options.choices << *answers;
+    }
+    const Waiting waiting(session, QStringLiteral("Importing"));
     const RecipeImport::Result result = RecipeImport::Run(session.Records(), options);
     if (session.json)
         session.Print(Facts(result));
@@ -184,7 +195,7 @@ std::string ChoiceProblem(const std::string& text) {
 void AddRecipeImport(CLI::App& recipes, Session& session) {
     CLI::App* command = recipes.add_subcommand(
         "import",
-        "Brings recipes of files in: JSON-LD of schema.org (also in a web page), Markdown, "
+        "Brings in recipes of files: JSON-LD of schema.org (also in a web page), Markdown, "
         "Mealie, Tandoor and MealMaster");
     const auto wanted = std::make_shared<ImportWanted>();
     command->add_option("FILE", wanted->files, "The files")->required();
@@ -208,7 +219,8 @@ void AddRecipeImport(CLI::App& recipes, Session& session) {
 } // namespace
 
 void Commands::AddRecipes(CLI::App& program, Session& session) {
-    CLI::App* recipes = program.add_subcommand("recipes", "Takes recipes out and brings them in");
+    CLI::App* recipes =
+        program.add_subcommand("recipes", "Writes recipes to a file, and brings them in");
     recipes->require_subcommand(1);
     recipes->fallthrough();
     recipes->footer("Example: halvane-data recipes import soup.json");

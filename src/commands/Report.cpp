@@ -1,7 +1,9 @@
 #include "commands/Commands.h"
+#include "commands/OneOf.h"
 #include "commands/OutputFile.h"
 #include "commands/PeriodOption.h"
 #include "commands/Session.h"
+#include "commands/Waiting.h"
 #include "drawing/Style.h"
 #include "records/RecordsReading.h"
 #include "records/report/HtmlReport.h"
@@ -38,6 +40,7 @@ QByteArray Pdf(const ReportFigures& figures, const std::string& paper) {
 }
 
 int WriteReport(const Session& session, const Choice& choice, const Period& period) {
+    const Waiting waiting(session, QStringLiteral("Drawing the report"));
     const RecordsReading records(session.Records());
     session.ChooseProfile();
     OutputFile file(choice.out);
@@ -65,7 +68,7 @@ void Commands::AddReport(CLI::App& program, Session& session) {
         ->check(CLI::Validator(NameProblem, ""));
     choice->days.AddTo(*command, "report");
     command->add_option("--paper", choice->paper, "The paper of a PDF file")
-        ->check(CLI::IsMember({"a4", "letter"}))
+        ->transform(OneOf({"a4", "letter"}))
         ->capture_default_str();
     command->footer("Without --from and --to it covers the last 30 days.\n\n"
                     "Example: halvane-data report --from 2026-03-01 --to 2026-03-31 march.pdf");

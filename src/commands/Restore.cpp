@@ -1,6 +1,7 @@
 #include "commands/Commands.h"
 #include "commands/Session.h"
 #include "commands/SnapshotFacts.h"
+#include "commands/Waiting.h"
 #include "records/Restoring.h"
 #include "records/Snapshots.h"
 
@@ -10,6 +11,7 @@ namespace {
 int Restore(const Session& session, const std::string& which) {
     const RecordsFolder records = session.Records();
     const Snapshot chosen = Snapshots(records).Find(QString::fromStdString(which));
+    const Waiting waiting(session, QStringLiteral("Checking and restoring"));
     const Snapshot replaced =
         Restoring(records).Put(chosen, chosen.settings, "before restore of " + chosen.When());
     const int number = Snapshots(records).NumberOf(replaced);

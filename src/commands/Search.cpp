@@ -52,6 +52,13 @@ int Search(const Session& session, const Wanted& wanted) {
     FoundFoods::Print(session, found);
     return found.Count() == 0 ? Found : Done;
 }
+
+/// Empty: the limit can be used.
+std::string LimitProblem(const std::string& text) {
+    bool isNumber = false;
+    const int number = QString::fromStdString(text).toInt(&isNumber);
+    return isNumber && number > 0 ? "" : '"' + text + "\" is no number above 0.";
+}
 } // namespace
 
 void Commands::AddSearch(CLI::App& program, Session& session) {
@@ -59,7 +66,8 @@ void Commands::AddSearch(CLI::App& program, Session& session) {
     const auto wanted = std::make_shared<Wanted>();
     command->add_option("WORDS", wanted->words, "Words that all stand in the name")->required();
     command->add_option("--limit", wanted->limit, "Print at most so many")
-        ->check(CLI::PositiveNumber);
+        ->type_name("NUMBER")
+        ->check(CLI::Validator(LimitProblem, ""));
     command->footer("Example: halvane-data search rye bread");
     command->callback([&session, wanted] {
         session.Do([&session, wanted] { return Search(session, *wanted); });

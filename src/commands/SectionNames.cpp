@@ -1,5 +1,7 @@
 #include "commands/SectionNames.h"
 
+#include "commands/Counted.h"
+
 #include <map>
 
 namespace {
@@ -23,5 +25,5 @@ const Name& NameOf(const std::string& section) {
 
 QString SectionNames::Counted(const std::string& section, int rows) {
     const Name& name = NameOf(section);
-    return QString::number(rows) + u' ' + QLatin1String(rows == 1 ? name.one : name.many);
+    return ::Counted(rows, name.one, name.many);
 }

@@ -7,9 +7,10 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
-Session::Session(std::ostream& out, std::ostream& error)
+Session::Session(std::ostream& out, std::ostream& error, std::istream* keyboard)
     : out_(out)
-    , error_(error) {}
+    , error_(error)
+    , keyboard_(keyboard) {}
 
 RecordsFolder Session::Records() const {
     return RecordsFolder(folder.empty() ? ApplicationPath() : QString::fromStdString(folder));
@@ -41,6 +42,16 @@ void Session::Tell(const QString& line) const {
 int Session::Refuse(const QString& line) const {
     Tell(line);
     return Usage;
+}
+
+std::optional<QString> Session::Ask(const QString& question) const {
+    std::string answer;
+    error_ << question.toStdString() << std::flush;
+    if (!std::getline(*keyboard_, answer)) {
+        error_ << '\n';
+        return {};
+    }
+    return QString::fromStdString(answer).trimmed();
 }
 
 int Session::Run() const {

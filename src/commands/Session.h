@@ -6,6 +6,8 @@
 #include <QString>
 
 #include <functional>
+#include <istream>
+#include <optional>
 #include <ostream>
 #include <string>
 
@@ -22,7 +24,8 @@ enum ExitCode {
 /// One run of halvane-data: the options that all commands share, and where they print.
 class Session {
 public:
-    Session(std::ostream& out, std::ostream& error);
+    /// `keyboard` is where a person can answer questions; null where nobody can.
+    Session(std::ostream& out, std::ostream& error, std::istream* keyboard = nullptr);
 
     std::string folder;  ///< of the records; empty: the program's own
     std::string profile; ///< name or key of a person; empty: the first one
@@ -38,6 +41,10 @@ public:
     void Tell(const QString& line) const;       ///< on standard error, after the program's name
     int Refuse(const QString& line) const;      ///< tells why a value is not accepted; gives Usage
 
+    bool CanAsk() const { return keyboard_ != nullptr && !json; }
+    /// Asks on standard error. Null: the person has ended the input.
+    std::optional<QString> Ask(const QString& question) const;
+
     /// What the chosen command does. It gives the exit code and runs once all options are read.
     void Do(std::function<int()> command) { command_ = std::move(command); }
     int Run() const; ///< a failure is told, and gives Cannot
@@ -45,5 +52,6 @@ public:
 private:
     std::ostream& out_;
     std::ostream& error_;
+    std::istream* keyboard_;
     std::function<int()> command_;
 };

@@ -1,4 +1,5 @@
 #include "commands/Commands.h"
+#include "commands/OneOf.h"
 #include "commands/OutputFile.h"
 #include "commands/PeriodOption.h"
 #include "commands/Session.h"
@@ -21,10 +22,10 @@ struct Choice {
     PeriodOption days;
 };
 
-template <class Row> std::set<std::string> Names(std::span<const Row> rows) {
-    std::set<std::string> names;
+template <class Row> std::vector<std::string> Names(std::span<const Row> rows) {
+    std::vector<std::string> names;
     for (const Row& row : rows)
-        names.insert(row.name);
+        names.emplace_back(row.name);
     return names;
 }
 
@@ -85,14 +86,14 @@ void Commands::AddTable(CLI::App& program, Session& session) {
     const auto choice = std::make_shared<Choice>();
     command->add_option("TABLE", choice->table, "Which records")
         ->required()
-        ->check(CLI::IsMember(Names(TableKind::All())));
+        ->transform(OneOf(Names(TableKind::All())));
     choice->days.AddTo(*command, "rows");
     command->add_option("--format", choice->format, "The format; otherwise that of FILE, or csv")
-        ->check(CLI::IsMember(Names(TableFormat::All())));
+        ->transform(OneOf(Names(TableFormat::All())));
     command->add_option("--out", choice->out, "The file; otherwise standard output")
         ->type_name("FILE");
     command->footer("Amounts that are not known are left empty. The coverage of a total is the "
-                    "share of the logged grams\nwhose amount is known; own foods, recipes and "
+                    "share of the logged grams whose amount is known; own foods, recipes and "
                     "foods that are gone count as 100 grams a serving.\n\n"
                     "Example: halvane-data table days --from 2026-03-01 --to 2026-03-31 --out "
                     "march.xlsx");

@@ -3,12 +3,14 @@
 #include "commands/Commands.h"
 #include "commands/Session.h"
 #include "commands/SnapshotFacts.h"
+#include "commands/Waiting.h"
 #include "records/Snapshots.h"
 
 #include <CLI/CLI.hpp>
 
 namespace {
 int TakeBack(const Session& session) {
+    const Waiting waiting(session, QStringLiteral("Restoring"));
     const Undo::Result result = Undo::Last(session.Records());
     const int number = Snapshots(session.Records()).NumberOf(result.replaced);
     if (session.json)

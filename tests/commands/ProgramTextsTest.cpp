@@ -4,14 +4,41 @@
 #include "commands/Commands.h"
 #include "commands/Progress.h"
 #include "commands/Session.h"
+#include "commands/Waiting.h"
 #include "support/Places.h"
 
 #include <QFile>
 #include <QProcess>
 
+#include <atomic>
 #include <sstream>
 
 #include <CLI/CLI.hpp>
+
+namespace {
+/// Another thread writes; it is read when that thread has ended.
+class LinesOf : public std::streambuf {
+public:
+    void WaitFor(int lines) {
+        for (int count = 0; (count = count_) < lines;)
+            count_.wait(count);
+    }
+    std::string text;
+
+protected:
+    int overflow(int character) override {
+        text += char(character);
+        if (character == '\n') {
+            ++count_;
+            count_.notify_all();
+        }
+        return character;
+    }
+
+private:
+    std::atomic<int> count_ = 0;
+};
+} // namespace
 
 /// The man page, the completions of the shells and the help are one text in four forms.
 class ProgramTextsTest : public CommandTest {
@@ -82,7 +109,7 @@ TEST_F(ProgramTextsTest, ManShowsThePageWithoutAComplaint) {
     const QByteArray page = Output(
         QStringLiteral("man"), {"--warnings", "-l", Places::Build("/delivered/halvane-data.1")});
     for (const char* text :
-         {"NAME", "halvane-data - ", "search WORDS", "EXIT STATUS", "--folder TEXT"})
+         {"NAME", "halvane-data - ", "search WORDS", "EXIT STATUS", "--folder FOLDER"})
         EXPECT_TRUE(page.contains(text)) << text << page.constData();
 }
 
@@ -114,6 +141,64 @@ TEST_F(ProgramTextsTest, EveryCommandShowsAnExampleOfItself) {
     }
 }
 
+TEST_F(ProgramTextsTest, EveryHelpShowsTheOptionsOfAllCommandsAndFitsATerminal) {
+    constexpr qsizetype width = 80;
+    for (const CommandOutline& command : Outline()) {
+        const QStringList words =
+            QString::fromStdString(command.name).split(u' ', Qt::SkipEmptyParts);
+        const Run help = Command(words + QStringList{"--help"});
+        EXPECT_EQ(help.code, Done) << command.name;
+        for (const char* option : {"--folder FOLDER", "--profile NAME", "--json", "-h, --help"})
+            EXPECT_EQ(help.out.count(QLatin1String(option)), 1) << command.name << option;
+        for (const QString& line : help.out.split(u'\n'))
+            EXPECT_TRUE(line.size() <= width || line.startsWith("Example: ")) << line.toStdString();
+    }
+}
+
+TEST_F(ProgramTextsTest, TheHelpSaysHowACommandIsCalled) {
+    EXPECT_TRUE(
+        Command({"log", "--help"}).out.contains("\nUsage: halvane-data log [OPTIONS] FOOD..."));
+    EXPECT_TRUE(Command({"backup", "--help"}).out.contains("halvane-data backup [OPTIONS] [TO]\n"));
+    EXPECT_TRUE(Command({"--help"}).out.contains("Usage: halvane-data [OPTIONS] COMMAND\n"));
+    EXPECT_TRUE(Command({"recipes", "--help"}).out.contains("\nCommands:\n  export "));
+}
+
+TEST_F(ProgramTextsTest, WhatIsWrittenWronglyIsNamed) {
+    const std::pair<QStringList, const char*> calls[] = {
+        {{"frobnicate"},
+         "There is no command \"frobnicate\". `halvane-data --help` lists the commands."},
+        {{}, "Please name a command. `halvane-data --help` lists the commands."},
+        {{"recipes", "cook"},
+         "There is no command \"cook\". `halvane-data recipes --help` lists the commands."},
+        {{"show", "--frob"},
+         "There is no option \"--frob\". `halvane-data show --help` shows how it is used."},
+        {{"backup", "a", "b"},
+         "\"b\" is one argument too many. `halvane-data backup --help` shows how it is used."},
+        {{"show", "--folder"},
+         "--folder needs a value. `halvane-data show --help` shows how it is used."},
+        {{"show", "--folder", "a", "--folder", "b"},
+         "--folder can be given only once. `halvane-data show --help` shows how it is used."},
+        {{"log", "oats", "-m", "brunch"},
+         "--meal: \"brunch\" is no meal. Write Breakfast, Lunch, Dinner or Snacks. "
+         "`halvane-data log --help` shows how it is used."},
+        {{"search"}, "WORDS is required. `halvane-data search --help` shows how it is used."},
+        {{"table", "spoons"},
+         "TABLE: \"spoons\" is none of log, days, weights, foods, recipes, profile. "
+         "`halvane-data table --help` shows how it is used."},
+    };
+    for (const auto& [arguments, message] : calls) {
+        const Run run = Command(arguments);
+        EXPECT_EQ(run.code, Usage);
+        EXPECT_EQ(run.error.toStdString(), std::string("halvane-data: ") + message + '\n');
+        EXPECT_EQ(run.out, "");
+    }
+}
+
+TEST_F(ProgramTextsTest, WordsOfAListMayBeInCapitals) {
+    EXPECT_EQ(Command({"table", "Profile", "--format", "JSON"}).out,
+              Command({"table", "profile", "--format", "json"}).out);
+}
+
 TEST_F(ProgramTextsTest, TheHelpPageNamesEveryCommand) {
     QFile page(Places::Source(QStringLiteral("/data/help/your-data.html")));
     ASSERT_TRUE(page.open(QIODevice::ReadOnly));
@@ -135,5 +220,20 @@ TEST_F(ProgramTextsTest, ProgressIsToldOnceATime) {
     fast.Step(1, 4);
     fast.Step(0, 0);
     EXPECT_EQ(error.str(), "halvane-data: Exporting, 25 %\n");
+    EXPECT_EQ(out.str(), "");
+}
+
+TEST_F(ProgramTextsTest, WhereNobodyKnowsHowFarItIsTheTimeIsTold) {
+    LinesOf lines;
+    std::ostringstream out;
+    std::ostream error(&lines);
+    const Session session(out, error);
+    { const Waiting brief(session, "Checking", std::chrono::hours(1)); }
+    EXPECT_EQ(lines.text, "");
+    {
+        const Waiting waiting(session, "Checking", std::chrono::milliseconds(1));
+        lines.WaitFor(2);
+    }
+    EXPECT_EQ(lines.text.rfind("halvane-data: Checking, 0 s\nhalvane-data: Checking, 0 s\n", 0), 0);
     EXPECT_EQ(out.str(), "");
 }

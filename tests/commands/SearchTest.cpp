@@ -61,7 +61,12 @@ TEST_F(SearchTest, PrintsNoMoreThanTheLimit) {
     const Run run = Command({"search", "lentils", "--limit", "2"});
     EXPECT_EQ(run.out.count('\n'), 2);
     EXPECT_TRUE(run.error.contains(" more match.")) << run.error.toStdString();
-    EXPECT_EQ(Command({"search", "lentils", "--limit", "0"}).code, Usage);
+    for (const QString limit : {"0", "-1", "x", "99999999999"}) {
+        const Run wrong = Command({"search", "lentils", "--limit", limit});
+        EXPECT_EQ(wrong.code, Usage);
+        EXPECT_TRUE(wrong.error.contains("--limit: \"" + limit + "\" is no number above 0."))
+            << wrong.error.toStdString();
+    }
 }
 
 TEST_F(SearchTest, AnEmptyTermIsRefusedAsOnTheScreen) {

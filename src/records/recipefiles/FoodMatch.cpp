@@ -97,6 +97,20 @@ FoodList Candidates(QStringList stems) {
     return all;
 }
 
+/// The nearest food first.
+std::vector<Food> Sorted(const FoodList& foods, const IngredientText& text) {
+    const QStringList stems = Stems(text.words);
+    const QStringList details = Stems(text.details);
+    std::vector<std::pair<Distance, const Food*>> sorted;
+    for (const Food& food : foods)
+        sorted.emplace_back(DistanceOf(food.FoodName, stems, details), &food);
+    std::ranges::stable_sort(sorted, {}, &std::pair<Distance, const Food*>::first);
+    std::vector<Food> all;
+    for (const auto& [distance, food] : sorted)
+        all.push_back(*food);
+    return all;
+}
+
 struct Serving {
     QString letter;
     IngredientText text;
@@ -161,19 +175,20 @@ bool FoodMatch::Exists(qint32 key) {
 }
 
 std::optional<FoodMatch> FoodMatch::Of(const QString& line) {
+    const QList<FoodMatch> best = Best(line, 1);
+    return best.isEmpty() ? std::nullopt : std::optional(best.first());
+}
+
+QList<FoodMatch> FoodMatch::Best(const QString& line, qsizetype most) {
     if (line.size() > MostLetters)
-        return std::nullopt;
+        return {};
     const IngredientText text = IngredientText::Of(line);
-    const QStringList stems = Stems(text.words);
-    const QStringList details = Stems(text.details);
-    const FoodList found = Candidates(stems);
-    const auto best =
-        std::min_element(found.begin(), found.end(), [&](const Food& a, const Food& b) {
-            return DistanceOf(a.FoodName, stems, details) < DistanceOf(b.FoodName, stems, details);
-        });
-    if (best == found.end())
-        return std::nullopt;
-    FoodMatch match{best->ID, best->FoodName};
-    FindQuantity(match, text);
-    return match;
+    QList<FoodMatch> best;
+    for (const Food& food : Sorted(Candidates(Stems(text.words)), text)) {
+        if (best.size() == most)
+            break;
+        if (std::ranges::find(best, food.ID, &FoodMatch::key) == best.end())
+            FindQuantity(best.emplaceBack(FoodMatch{food.ID, food.FoodName}), text);
+    }
+    return best;
 }

@@ -20,4 +20,6 @@ struct FoodMatch {
     /// The best food for an ingredient line, in the foods that are open. Which one is best: it has
     /// the words of the line, begins with them, and has few others.
     static std::optional<FoodMatch> Of(const QString& line);
+    /// The best so many, the best first.
+    static QList<FoodMatch> Best(const QString& line, qsizetype most);
 };

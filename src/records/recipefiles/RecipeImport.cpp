@@ -14,6 +14,8 @@
 namespace {
 using namespace RecipeImport;
 
+constexpr qsizetype MostCandidates = 5; ///< that a person can choose from
+
 FinishedIngredient Finished(const ScaledFood& food) {
     FinishedIngredient ingredient{food.Item(QStringLiteral("FOODNAME")),
                                   food.Item(QStringLiteral("SERVING")),
@@ -155,13 +157,50 @@ void RequireLines(const QList<RecipeDraft>& drafts, const Options& options) {
                                    .arg(choice.recipe)
                                    .arg(choice.line));
 }
-} // namespace
 
-RecipeImport::Result RecipeImport::Run(const RecordsFolder& records, const Options& options) {
+QList<RecipeDraft> Drafts(const Options& options) {
     QList<RecipeDraft> drafts;
     for (const QString& file : options.files)
         drafts << RecipeFiles::Read(file);
     RequireLines(drafts, options);
+    return drafts;
+}
+
+QList<Candidate> Candidates(const QString& line) {
+    QList<Candidate> candidates;
+    for (const FoodMatch& match : FoodMatch::Best(line, MostCandidates)) {
+        if (!match.quantity)
+            continue;
+        const ScaledFood food = match.Scaled();
+        candidates.append(
+            {match, IngredientLabel(Finished(food)), food.Amount(QStringLiteral("Calories"))});
+    }
+    return candidates;
+}
+
+void AddQuestions(const RecipeDraft& draft, int number, QList<Question>& questions) {
+    for (int i = 0; i < draft.ingredients.size(); ++i) {
+        const IngredientLine& line = draft.ingredients[i];
+        if (!line.finished && !line.isHeading)
+            questions.append({draft.Name(), number, i + 1, line.text, Candidates(line.text)});
+    }
+}
+} // namespace
+
+QList<RecipeImport::Question> RecipeImport::Questions(const RecordsFolder& records,
+                                                      const Options& options) {
+    const QList<RecipeDraft> drafts = Drafts(options);
+    QList<Question> questions;
+    if (!IsUndecided(options, drafts))
+        return questions;
+    const RecordsReading reading(records);
+    for (int i = 0; i < drafts.size(); ++i)
+        AddQuestions(drafts[i], i + 1, questions);
+    return questions;
+}
+
+RecipeImport::Result RecipeImport::Run(const RecordsFolder& records, const Options& options) {
+    const QList<RecipeDraft> drafts = Drafts(options);
     const bool undecided = IsUndecided(options, drafts);
     if (options.dryRun || undecided) {
         const RecordsReading reading(records);

@@ -16,6 +16,13 @@ struct Options {
     bool dryRun = false;
 };
 
+/// A food with the quantity that a line asks for.
+struct Candidate {
+    FoodMatch match;
+    QString label;   ///< "2 x 1 cup, Lentils, raw"
+    double kcal = 0; ///< that it would bring
+};
+
 /// A line and the food that was found for it.
 struct Proposal {
     int place = 0; ///< among the ingredients, from 1
@@ -34,11 +41,22 @@ struct Imported {
     bool isThere = false;           ///< an equal recipe is there already
 };
 
+/// A line of text that nobody has decided on, and the foods that fit it best.
+struct Question {
+    QString recipe;
+    int number = 0; ///< of the recipe, from 1
+    int place = 0;  ///< of the line among the ingredients, from 1
+    QString line;
+    QList<Candidate> candidates;
+};
+
 struct Result {
     QList<Imported> recipes;
     int added = 0;
     bool undecided = false; ///< lines of text wait for a decision: nothing was changed
 };
 
+/// What `Run` would leave undecided with these options.
+QList<Question> Questions(const RecordsFolder& records, const Options& options);
 Result Run(const RecordsFolder& records, const Options& options);
 } // namespace RecipeImport

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QString>
+
+namespace CLI {
+class App;
+class ParseError;
+} // namespace CLI
+
+/// What is wrong with the arguments of a call, and where it is told how to write them.
+namespace WrongUse {
+QString Message(const CLI::App& program, const CLI::ParseError& wrong);
+} // namespace WrongUse
