@@ -1,5 +1,6 @@
 #include "records/RecordsFolder.h"
 #include "records/document/RecordsDocument.h"
+#include "store/Connection.h"
 #include "support/HalvaneTest.h"
 #include "support/Places.h"
 
@@ -9,14 +10,19 @@
 #include <QProcess>
 #include <QRandomGenerator>
 
+#include <SQLiteCpp/SQLiteCpp.h>
+
+#include <algorithm>
 #include <iostream>
 
 #include <unistd.h>
 
 namespace {
-constexpr int OrdinaryKills = 20;
+constexpr int OrdinaryKills = 12; ///< of each import
 constexpr unsigned Seed = 20261122;
 constexpr int Entries = 4000;
+constexpr int Foods = 2000;
+constexpr int Recipes = 300;
 
 /// The environment variable HALVANE_KILLS asks for more kills than an ordinary run.
 int Kills() {
@@ -33,40 +39,92 @@ QByteArray ExportOf(const QString& folder) {
     return document;
 }
 
-QByteArrayList Rows(int count, const QByteArray& row) {
+/// The row so often; % is its number.
+QByteArray Rows(int count, const QByteArray& row, const char* separator = "\n") {
     QByteArrayList rows;
     for (int i = 1; i <= count; ++i)
         rows << QByteArray(row).replace("%", QByteArray::number(i));
-    return rows;
+    return rows.join(separator);
+}
+
+QString Write(const QString& path, const QByteArray& bytes) {
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
+    return path;
 }
 
 /// Rows for both files.
-QByteArray ADocument() {
-    return R"({"format":"halvane-records","version":1,"nutrients":[{"name":"Calories","unit":"kcal"}],
-        "profiles":[{"key":1,"name":"Anna"}],"foods":[)" +
-           Rows(300, R"({"name":"Food %","amounts":[%]})").join(',') + R"(],"recipes":[)" +
-           Rows(100, R"({"name":"Pie %","ingredients":[{"food":"Egg %"}]})").join(',') +
-           R"(],"log":[)" +
-           Rows(Entries, R"({"profile":1,"date":"2026-03-02","food":"Oats %","amounts":[%]})")
-               .join(',') +
-           "]}";
+QStringList ADocument(const QString& folder) {
+    return {
+        "import",
+        Write(folder + "/document.json",
+              R"({"format":"halvane-records","version":1,"nutrients":[{"name":"Calories",)"
+              R"("unit":"kcal"}],"profiles":[{"key":1,"name":"Zoe"}],"foods":[)" +
+                  Rows(300, R"({"name":"Food %","amounts":[%]})", ",") + R"(],"recipes":[)" +
+                  Rows(100, R"({"name":"Pie %","ingredients":[{"food":"Egg %"}]})", ",") +
+                  R"(],"log":[)" +
+                  Rows(Entries,
+                       R"({"profile":1,"date":"2026-03-02","food":"Oats %","amounts":[%]})", ",") +
+                  "]}")};
 }
+
+QStringList ALogOfAnotherProgram(const QString& folder) {
+    return {
+        "import", "--from", "cronometer",
+        Write(folder + "/servings.csv", "Day,Food Name,Amount,Group,Energy (kcal)\n" +
+                                            Rows(Entries, "2026-03-02,Oats %,% g,Breakfast,%.5"))};
+}
+
+QStringList FoodsOfADownload(const QString& folder) {
+    const QString download = folder + "/download";
+    EXPECT_TRUE(QDir().mkpath(download));
+    Write(download + "/nutrient.csv", "id,name,unit_name\n1008,Energy,KCAL\n");
+    Write(download + "/food.csv",
+          "fdc_id,data_type,description,food_category_id,publication_date\n" +
+              Rows(Foods, "%,branded_food,Crisps %,,2026-04-30"));
+    Write(download + "/branded_food.csv",
+          "fdc_id,brand_owner,gtin_upc,serving_size,serving_size_unit\n" +
+              Rows(Foods, "%,Invented Foods Inc.,%,28,g"));
+    Write(download + "/food_nutrient.csv",
+          "id,fdc_id,nutrient_id,amount\n" + Rows(Foods, "%,%,1008,500"));
+    return {"foods", "import", download};
+}
+
+QStringList RecipesOfAFile(const QString& folder) {
+    return {"recipes", "import", "--text",
+            Write(folder + "/recipes.json",
+                  '[' +
+                      Rows(Recipes,
+                           R"({"@type":"Recipe","name":"Soup %","recipeYield":"2",)"
+                           R"("recipeIngredient":["1 cup lentils"],)"
+                           R"("recipeInstructions":"Boil % hours.)" +
+                               QByteArray(2000, '.') + "\"}",
+                           ",") +
+                      ']')};
+}
+
+struct Import {
+    const char* name;
+    QStringList (*make)(const QString& folder); ///< writes what is imported; gives the arguments
+};
+constexpr Import Imports[] = {{"Document", ADocument},
+                              {"Foreign", ALogOfAnotherProgram},
+                              {"Foods", FoodsOfADownload},
+                              {"Recipes", RecipesOfAFile}};
 } // namespace
 
-/// halvane-data as a process of its own, with a home of its own.
+/// halvane-data as a process of its own, with a home of its own, on records of one person with a
+/// few stock foods.
 class ImportKillTest : public HalvaneTest {
 protected:
     void SetUp() override {
         HalvaneTest::SetUp();
         OpenDatabases();
+        AddUser();
+        FoodDB().Raw().exec("DELETE FROM FOODS WHERE ID < 23000");
+        FoodDB().Raw().exec("VACUUM");
         CloseDatabases();
-        QFile file(Document());
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(ADocument());
     }
-    QString Document() const { return Folder() + "/document.json"; }
-
-    /// A copy of the delivered files.
     static void CopyTo(const QString& from, const QString& to) {
         for (const char* file : {"/users.mdb", "/foods.mdb"})
             ASSERT_TRUE(QFile::copy(from + QLatin1String(file), to + QLatin1String(file)));
@@ -77,10 +135,9 @@ protected:
             environment.insert(QLatin1String(home), Folder() + "/home");
         process.setProcessEnvironment(environment);
     }
-    void Start(QProcess& process, const QString& folder) const {
+    void Start(QProcess& process, const QString& folder, const QStringList& import) const {
         Prepare(process);
-        process.start(Places::Build("/src/halvane-data"),
-                      {"import", "--folder", folder, Document()});
+        process.start(Places::Build("/src/halvane-data"), import + QStringList{"--folder", folder});
     }
     /// Runs halvane-data in a shell, behind a line that sets its limits. Gives its exit code.
     int RunBehind(const QString& line, const QStringList& arguments, QByteArray& error) const {
@@ -94,30 +151,34 @@ protected:
         return process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
     }
     /// How long an import takes that nobody kills.
-    int Milliseconds(const QString& folder) const {
+    int Milliseconds(const QString& folder, const QStringList& import) const {
         QElapsedTimer timer;
         timer.start();
         QProcess process;
-        Start(process, folder);
+        Start(process, folder, import);
         EXPECT_TRUE(process.waitForFinished(60000));
         EXPECT_EQ(process.exitCode(), 0) << process.readAllStandardError().constData();
         return int(timer.elapsed());
     }
 };
 
-TEST_F(ImportKillTest, AfterAKillTheRecordsAreAsBeforeOrAsAfter) {
+class EachImportKillTest : public ImportKillTest, public testing::WithParamInterface<Import> {};
+
+TEST_P(EachImportKillTest, AfterAKillTheRecordsAreAsBeforeOrAsAfter) {
+    const QStringList import = GetParam().make(Folder());
     const QTemporaryDir whole;
     CopyTo(Folder(), whole.path());
     const QByteArray before = ExportOf(whole.path());
-    const int milliseconds = Milliseconds(whole.path());
+    const int milliseconds = Milliseconds(whole.path(), import);
     const QByteArray after = ExportOf(whole.path());
+    ASSERT_NE(after, before);
     QRandomGenerator random(Seed);
     int done = 0;
     for (int i = 0; i < Kills() && !HasFailure(); ++i) {
         const QTemporaryDir folder;
         CopyTo(Folder(), folder.path());
         QProcess process;
-        Start(process, folder.path());
+        Start(process, folder.path(), import);
         process.waitForFinished(random.bounded(milliseconds + 1));
         process.kill();
         process.waitForFinished();
@@ -130,16 +191,21 @@ TEST_F(ImportKillTest, AfterAKillTheRecordsAreAsBeforeOrAsAfter) {
               << " imports were done\n";
 }
 
-TEST_F(ImportKillTest, AFullDiskLeavesTheRecordsAsTheyWere) {
+TEST_P(EachImportKillTest, AFullDiskLeavesTheRecordsAsTheyWere) {
+    const QStringList import = GetParam().make(Folder());
     const QByteArray before = ExportOf(Folder());
-    const qint64 kilobytes = QFileInfo(Folder() + "/foods.mdb").size() / 1024 + 8;
+    const qint64 bytes = std::max(QFileInfo(Folder() + "/foods.mdb").size(),
+                                  QFileInfo(Folder() + "/users.mdb").size());
     QByteArray error;
-    EXPECT_EQ(RunBehind(QStringLiteral("trap '' XFSZ; ulimit -f %1").arg(kilobytes),
-                        {"import", "--folder", Folder(), Document()}, error),
+    EXPECT_EQ(RunBehind(QStringLiteral("trap '' XFSZ; ulimit -f %1").arg(bytes / 1024 + 8),
+                        import + QStringList{"--folder", Folder()}, error),
               3);
-    EXPECT_NE(error, "");
+    EXPECT_TRUE(error.startsWith("halvane-data: The file ")) << error.constData();
     EXPECT_TRUE(ExportOf(Folder()) == before);
 }
+
+INSTANTIATE_TEST_SUITE_P(Each, EachImportKillTest, testing::ValuesIn(Imports),
+                         [](const auto& import) { return std::string(import.param.name); });
 
 TEST_F(ImportKillTest, AnExportToAFullDiskLeavesTheEarlierExport) {
     const QString path = Folder() + "/export.json";
@@ -156,6 +222,7 @@ TEST_F(ImportKillTest, AnExportToAFullDiskLeavesTheEarlierExport) {
 }
 
 TEST_F(ImportKillTest, AFolderThatCannotBeWrittenIsReadAndNotChanged) {
+    const QStringList import = ADocument(Folder());
     const QByteArray before = ExportOf(Folder());
     const char* locked = geteuid() == 0 ? "setpriv --reuid=65534 --regid=65534 --clear-groups "
                                           "--inh-caps=-all \"$0\" \"$@\"; exit $?"
@@ -166,7 +233,7 @@ TEST_F(ImportKillTest, AFolderThatCannotBeWrittenIsReadAndNotChanged) {
     QFile::setPermissions(Folder(), QFile::ReadOwner | QFile::ExeOwner | QFile::ReadGroup |
                                         QFile::ExeGroup | QFile::ReadOther | QFile::ExeOther);
     QByteArray error;
-    EXPECT_EQ(RunBehind(QLatin1String(locked), {"import", "--folder", Folder(), Document()}, error),
+    EXPECT_EQ(RunBehind(QLatin1String(locked), import + QStringList{"--folder", Folder()}, error),
               3);
     EXPECT_TRUE(error.contains("Allow writing")) << error.constData();
     EXPECT_EQ(RunBehind(QLatin1String(locked), {"export", "--folder", Folder(), "-"}, error), 0)
