@@ -20,6 +20,7 @@ constexpr qint64 MostBytes = 64 << 20;   ///< of a file that is no zip
 constexpr qint64 MostUnpacked = 1 << 30; ///< of all zips in a file together
 constexpr int MostZipsInZips = 1;
 constexpr int MostIngredients = 1000;
+constexpr qsizetype MostCharacters = 1'000'000; ///< of a recipe
 
 Drafts OfJson(const QJsonValue& document) {
     const QJsonObject object = document.toObject();
@@ -97,6 +98,21 @@ void RequireFewIngredients(const RecipeDraft& draft) {
             QStringLiteral("A recipe has at most %1 ingredients.").arg(MostIngredients));
 }
 
+/// The recipe screen shows all of it.
+void RequireFewCharacters(const RecipeDraft& draft) {
+    qsizetype count = 0;
+    for (const RecipeFieldInfo& field : RecipeFields())
+        count += draft.values[field.id].toString().size();
+    for (const IngredientLine& line : draft.ingredients)
+        count += line.text.size();
+    for (const QString& remark : draft.remarks)
+        count += remark.size();
+    if (count > MostCharacters)
+        throw RuntimeError(
+            ErrorNumber::TypeMismatch,
+            QStringLiteral("A recipe has at most %1 characters.").arg(MostCharacters));
+}
+
 Drafts OfFile(const QString& path) {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
@@ -118,6 +134,7 @@ Drafts RecipeFiles::Read(const QString& path) {
                                QStringLiteral("There is no recipe in it that can be read."));
         for (RecipeDraft& draft : recipes) {
             RequireFewIngredients(draft);
+            RequireFewCharacters(draft);
             Complete(draft);
         }
         return recipes;
