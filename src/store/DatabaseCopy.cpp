@@ -25,11 +25,13 @@ SQLite::Database Source(const QString& path) {
     return {UnchangedFile::Address(path).toStdString(), SQLite::OPEN_READONLY | SQLite::OPEN_URI};
 }
 
+/// Each page is written once: to keep many of them only takes time. But with a sync each page that
+/// leaves the cache early costs one.
 void Prepare(SQLite::Database& target, DatabaseCopy::Sync sync) {
     if (sync == DatabaseCopy::Sync::Fully)
         RollbackJournal::SyncFully(target, "main");
     else
-        target.exec("PRAGMA synchronous = OFF");
+        target.exec("PRAGMA synchronous = OFF; PRAGMA journal_mode = OFF; PRAGMA cache_size = 50");
 }
 /// Where another connection writes between two steps, the copy begins again. Where that happens too
 /// often, the writer waits until all pages are copied.
