@@ -18,11 +18,11 @@ std::string Token(const Request& request) {
 [[noreturn]] void Refuse(RecipeStore::Added why) {
     switch (why) {
     case RecipeStore::Added::AlreadySent:
-        throw Refusal(409, "The recipe has been sent and takes no more ingredients.");
+        throw Refusal(409, "The recipe has already been sent. It cannot be changed.");
     case RecipeStore::Added::TooMany:
         throw Refusal(413, "The recipe would have too many ingredients.");
     default:
-        throw Refusal(403, "The token is not that of this recipe.");
+        throw Refusal(403, "The token does not belong to this recipe.");
     }
 }
 } // namespace
@@ -40,7 +40,7 @@ void Api::AddTo(Router& router) {
                [this](const Ask& ask, auto& reply) { AddIngredients(ask, reply); });
 }
 
-/// Before the body is read, so that bodies that are refused use up the limit, too.
+/// Counts before the body is read: a refused body uses up the limit, too.
 void Api::CountRecipe(const Visitor& visitor) const {
     const auto& config = service_.config;
     bool may = false;
@@ -71,7 +71,7 @@ void Api::Create(const Ask& ask, Reply& reply) const {
                      JsonType);
 }
 
-/// Before the body is read, so that nobody else can make us read one.
+/// Checks before the body is read: only the creator can make us read one.
 void Api::RequireCreator(int id, const std::string& token) const {
     auto may = RecipeStore::Added::Done;
     {

@@ -6,7 +6,7 @@
 
 namespace exchange {
 
-/// The addresses below /halvane/api/ that the program itself uses; JSON in and out.
+/// The paths below /halvane/api/, for the program: JSON in and out.
 class Api {
 public:
     explicit Api(const Service& service)

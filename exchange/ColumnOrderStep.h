@@ -4,9 +4,9 @@
 
 namespace exchange {
 
-/// Brings the nutrients of tables and stored documents into the order of the program's own table,
-/// by name, and lets a recipe have nulls. The documents get new column names, so that a server from
-/// before this step fails on them and mixes nothing up.
+/// Reorders the nutrients of tables and stored documents as in the program's own table, by name,
+/// and allows nulls in a recipe. The documents get new column names, so that an older server fails
+/// instead of mixing up nutrients.
 namespace ColumnOrderStep {
 void Take(Connection& connection);
 } // namespace ColumnOrderStep

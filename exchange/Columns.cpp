@@ -43,7 +43,7 @@ constexpr std::string_view LabelNames[] = {
     "Selenium",  "Thiamin",   "VitaminA", "VitaminB12", "VitaminB6",  "VitaminC",    "VitaminE",
     "Zinc",      "Ash",       "Water"};
 
-/// Fails to compile if a name stands in one of the two lists only.
+/// Fails to compile if a name is in only one of the two lists.
 consteval std::array<int, NutrientCount> FindLabelOrder() {
     std::array<int, NutrientCount> order{};
     for (size_t i = 0; i < NutrientCount; ++i)

@@ -7,8 +7,9 @@
 namespace exchange::CommandLine {
 namespace {
 constexpr const char* About =
-    "Serves the recipe exchange until SIGTERM. Each setting may stand in the file of --config as"
-    " `name = value`, in the environment, or here; what stands later in this order counts.";
+    "Serves the recipe exchange until SIGTERM. A setting is read from the file of --config"
+    " (`name = value`), from the environment and from here; the later of these overrides the"
+    " earlier.";
 constexpr const char* SettingGroup = "Settings";
 
 using Settings = std::map<std::string, std::string>;
@@ -35,7 +36,7 @@ std::string Chosen(const CLI::App& app, const std::vector<Option>& options) {
         if (app.count(option.name) == 0)
             continue;
         if (!chosen.empty())
-            throw ConfigError(chosen + " and " + option.name + " do not go together");
+            throw ConfigError(chosen + " and " + option.name + " cannot be used together");
         chosen = option.name;
     }
     return chosen;
@@ -53,7 +54,7 @@ Command Read(int count, const char* const* words, const std::vector<Option>& opt
     Command command;
     Settings settings;
     std::string file;
-    app.add_option("--config", file, "read the settings of a file")->type_name("FILE");
+    app.add_option("--config", file, "read the settings from a file")->type_name("FILE");
     AddOptions(app, options, command);
     AddSettings(app, settings);
     try {
@@ -62,7 +63,7 @@ Command Read(int count, const char* const* words, const std::vector<Option>& opt
         command.help = app.help();
         return command;
     } catch (const CLI::ParseError& error) {
-        throw ConfigError(std::string(error.what()) + "; --help tells what there is");
+        throw ConfigError(std::string(error.what()) + "; see --help");
     }
     command.action = Chosen(app, options);
     if (!file.empty())

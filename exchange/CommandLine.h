@@ -4,8 +4,7 @@
 
 namespace exchange {
 
-/// The words that the program is started with, and what stands in the environment and in the file
-/// that they name.
+/// Reads the command line, the environment, and the file of settings that the command line names.
 namespace CommandLine {
 /// A command that the program runs instead of serving. It may take an argument.
 struct Option {
@@ -21,7 +20,7 @@ struct Command {
     Config config;
 };
 
-/// Fails with ConfigError on words and settings that cannot be used.
+/// Fails with ConfigError on options and settings that cannot be used.
 Command Read(int count, const char* const* words, const std::vector<Option>& options);
 } // namespace CommandLine
 

@@ -54,7 +54,7 @@ std::optional<Place> PlaceOf(const std::string& name) {
     return {};
 }
 
-/// Takes one value into the place of its setting.
+/// Sets one setting to a value.
 struct Assign {
     Config& config;
     const std::string& name;
@@ -109,7 +109,8 @@ void CheckProxies(const Config& config) {
 
 void CheckDatabase(const Config& config) {
     if (config.database.empty())
-        throw ConfigError("database must be the path of a file or an address");
+        throw ConfigError(
+            "database must be the path of a file or the address of a PostgreSQL database");
 }
 
 void CheckMail(const Config& config) {
@@ -138,8 +139,8 @@ void Config::Set(const std::string& name, const std::string& value) {
     std::visit(Assign{*this, name, value}, *place);
 }
 
-/// The reader of the command line's library would cut a password at a #, take off its quotes, and
-/// let the file override the environment.
+/// CLI11's own reader would cut a password at a #, remove its quotes, and let the file override the
+/// environment.
 void Config::ReadFile(const std::string& name) {
     std::ifstream file(name);
     if (!file)

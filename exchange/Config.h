@@ -11,9 +11,9 @@ public:
     using std::runtime_error::runtime_error;
 };
 
-/// What the operator decides: defaults, then a file of `name = value` lines, then the environment
-/// (HALVANE_EXCHANGE_ and the name in capitals), then the command line. Read once at the start and
-/// never changed. Those that limit something are explained in LimitTable.
+/// The settings of the operator: defaults, then a file of `name = value` lines, then the
+/// environment (HALVANE_EXCHANGE_ and the name in capitals), then the command line. Read once at
+/// the start and never changed. LimitTable explains those that limit something.
 struct Config {
     std::string address = "127.0.0.1";
     int port = 8613;
@@ -58,8 +58,8 @@ struct Config {
 
     static std::vector<std::string> Names(); ///< of all settings
 
-    /// Each fails with ConfigError: on an unknown name or a value that the setting does not take,
-    /// on a file that cannot be read, on settings that do not go together.
+    /// Each fails with ConfigError: on an unknown name or a value that the setting does not accept,
+    /// on a file that cannot be read, on settings that contradict each other.
     void Set(const std::string& name, const std::string& value);
     void ReadFile(const std::string& name);
     void Settle();

@@ -35,8 +35,8 @@ std::string WithTimeouts(std::string server) {
     return server;
 }
 
-/// By default all threads share a lock under which SQLite counts its memory, and each connection
-/// has a lock. One thread at a time uses a connection, so neither is needed.
+/// By default, SQLite counts its memory under a lock of all threads, and each connection has a
+/// lock. Only one thread at a time uses a connection, so neither is needed.
 void ReadySQLite() {
     static const bool done = [] {
         sqlite_api::sqlite3_config(SQLITE_CONFIG_MEMSTATUS, 0);
@@ -56,13 +56,13 @@ soci::connection_parameters ParametersOf(const std::string& database) {
     return {soci::postgresql, WithTimeouts(database.substr(ServerPrefix.size()))};
 }
 
-/// What is acknowledged is on the disk: the log is written through at each commit.
+/// Each commit is synced to the disk before it is acknowledged.
 constexpr const char* EmbeddedSettings[] = {"PRAGMA journal_mode=WAL", "PRAGMA synchronous=FULL",
                                             "PRAGMA foreign_keys=ON", "PRAGMA cache_size=-16384"};
 
-/// Every statement of this program goes by an index. The planner, which cannot know how words go
-/// together, is kept from walking whole tables instead. And a program that stops in the middle of a
-/// transaction must not stop the others for long.
+/// Every statement of this program uses an index. The planner cannot know which words occur
+/// together, so it is kept from scanning whole tables. And a program that hangs in a transaction
+/// must not hold up the others for long.
 constexpr const char* ServerSettings[] = {
     "SET client_min_messages = warning", "SET lock_timeout = '10s'",
     "SET statement_timeout = '25s'",     "SET idle_in_transaction_session_timeout = '30s'",
@@ -126,7 +126,7 @@ soci::statement& Connection::Prepared(std::string_view sql) {
     return *statements_.emplace(sql, std::move(statement)).first->second;
 }
 
-/// The first line alone, without its context: in both the values are quoted.
+/// Only the first line, without the statement: the rest quotes the values.
 std::string Connection::Describe(const std::exception& error) {
     const auto* failure = dynamic_cast<const soci::soci_error*>(&error);
     const std::string text = failure ? failure->get_error_message() : error.what();

@@ -29,9 +29,9 @@ template <class T> struct type_conversion<std::optional<T>> {
 namespace exchange {
 
 /// One connection to the database, for one thread at a time. A statement is prepared at its first
-/// use and kept. The statements are the same on SQLite and PostgreSQL; what differs between the two
-/// ends in this class. A statement that takes too long fails: after 5 seconds if it reads, after 20
-/// if it writes. A connection that a statement has failed on must not be used again.
+/// use and kept. The statements are the same on SQLite and PostgreSQL; this class hides what
+/// differs between the two. A statement that takes too long fails: after 5 seconds if it reads,
+/// after 20 if it writes. After a failed statement, the connection must not be used again.
 class Connection {
 public:
     /// `database` is what the setting of that name holds: the path of an SQLite file, or an address
@@ -41,11 +41,11 @@ public:
     Connection(const Connection&) = delete;
     Connection& operator=(const Connection&) = delete;
 
-    /// How many may write or wait for their turn at the same time, in this process.
+    /// How many threads of this process may write, or wait to write, at the same time.
     static void SetWriters(int seats);
 
-    /// Runs a statement of at most one row; the rest are soci::use and soci::into of variables.
-    /// Tells whether there is a row, which has been read into the variables.
+    /// Runs a statement that gives at most one row. The other arguments are soci::use and
+    /// soci::into of variables. Tells whether there is a row, and reads it into the variables.
     template <class... Exchanges> bool First(std::string_view sql, const Exchanges&... exchanges) {
         const Timed timed(*this, inTransaction_);
         auto& statement = Bound(sql, exchanges...);
@@ -55,15 +55,15 @@ public:
         return found;
     }
 
-    /// Runs a statement that changes at most :n rows, its last parameter, until there are no more:
-    /// others get their turn between the portions.
+    /// Runs a statement that changes at most :n rows, its last parameter, until no row is left.
+    /// Others can write between the portions.
     template <class... Exchanges> void ChangeAll(std::string_view sql, const Exchanges&... uses) {
         constexpr int portion = 500;
         while (Change(sql, uses..., soci::use(portion)) == portion) {
         }
     }
 
-    /// Runs a statement and calls back for each row, which has been read into the variables.
+    /// Runs a statement, reads each row into the variables, and calls back for it.
     template <class Row, class... Exchanges>
     void Each(std::string_view sql, const Row& row, const Exchanges&... exchanges) {
         const Timed timed(*this, inTransaction_);
@@ -85,7 +85,7 @@ public:
 
     bool IsEmbedded() const { return embedded_; }
 
-    /// One statement that is not kept, without a limit to its time.
+    /// Runs a statement that is not kept and may take any time.
     void Once(const std::string& sql) {
         const Noted noted(*this);
         session_.once << sql;
@@ -93,7 +93,7 @@ public:
 
     bool Failed() const { return failed_; } ///< a statement has thrown
 
-    /// What a log may say of an error: nothing of the values that a statement was run with.
+    /// An error as the log may name it: without the values of the statement.
     static std::string Describe(const std::exception& error);
 
 private:
@@ -129,7 +129,7 @@ private:
     };
 
     void Tune();
-    /// Makes the statement that runs fail, at once and from another thread.
+    /// Makes the running statement fail at once. Called from another thread.
     void Interrupt();
     static WriteGate& Gate();
     soci::statement& Prepared(std::string_view sql);
@@ -152,8 +152,8 @@ private:
     Watchdog::Watch watch_; ///< ends before what it interrupts
 };
 
-/// All or nothing: rolled back unless committed. Begins with a statement that writes, so that two
-/// of them never wait for each other.
+/// All or nothing: rolled back unless committed. The first statement of a transaction must write,
+/// so that two transactions never wait for each other.
 class Transaction {
 public:
     explicit Transaction(Connection& connection);
@@ -161,7 +161,7 @@ public:
     Transaction(const Transaction&) = delete;
     Transaction& operator=(const Transaction&) = delete;
     void Commit();
-    /// Its statements may take any time: for a change of the tables, before the server serves.
+    /// Lets its statements take any time. For a change of the tables, before the server serves.
     void Unhurry();
 
 private:

@@ -27,7 +27,7 @@ constexpr milliseconds ToAnswer(25'000); ///< the program gives up after 30 seco
 constexpr milliseconds ToWatch(900);
 } // namespace
 
-/// What a worker is given, and what comes back. It outlives a conversation that gave it up.
+/// A request for a worker, and its reply. It outlives a conversation that did not wait for it.
 struct Conversation::Errand {
     Request request;
     Router::Match match;
@@ -234,7 +234,7 @@ Front::Task<void> Conversation::Answer(RequestHead& head) {
         LogRequest(errand->match.Name(), begin);
 }
 
-/// The reply is that of the worker, or 503 if it takes too long.
+/// The reply of the worker, or 503 if it takes too long.
 Front::Task<void> Conversation::HandOver(std::shared_ptr<Errand> errand, milliseconds most) {
     auto& workers = errand->match.lane == Lane::Watch ? front_.watch_ : front_.workers_;
     auto job = [errand, &front = front_] {

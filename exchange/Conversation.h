@@ -5,8 +5,8 @@
 
 namespace exchange {
 
-/// One connection: receives a request, has it answered, sends the reply, and so on until either
-/// side has enough. Each step has a deadline. All of it runs on the thread of the front.
+/// One connection: receives a request, has it answered, sends the reply, and so on until one side
+/// closes. Each step has a deadline. Everything runs on the thread of the front.
 class Conversation : public std::enable_shared_from_this<Conversation> {
 public:
     enum class State { Waiting, Receiving, Answering, Sending, Closing };

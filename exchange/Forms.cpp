@@ -27,13 +27,13 @@ Report ReadReport(const Request& form) {
     if (!Reports::IsComplaint(report.complaint))
         throw Refusal(400, "Please choose what is wrong with the recipe.");
     if (!IsUtf8(report.words))
-        throw Refusal(400, "These words cannot be read.");
+        throw Refusal(400, "Your text contains characters that cannot be read.");
     report.words = ShownText::Line(report.words, Reports::LongestWords);
     return report;
 }
 
 [[noreturn]] void NotALink() {
-    throw Refusal(404, "This link is not complete. Please take it from the mail as a whole.");
+    throw Refusal(404, "This link is not complete. Please copy the whole link from the mail.");
 }
 } // namespace
 
@@ -51,8 +51,9 @@ void Forms::TakeReport(const Ask& ask, Reply& reply) const {
     const auto form = FieldsOf(ask.request);
     const auto id = RecipeID::Read(form.Param("recID")).value_or(0);
     if (!reportToken_.Fits(form.Param("token"), id, ask.visitor))
-        throw Refusal(403, "This form is too old, or was not made for you. Please open the page of "
-                           "the recipe again.");
+        throw Refusal(403,
+                      "This form is too old, or your network has changed. Please open the page "
+                      "of the recipe again.");
     KeepReport(ask, id, form);
     reply.SetContent(Pages::Notice("Thank you", "The people who run this exchange will look at the "
                                                 "recipe."),
@@ -79,8 +80,8 @@ void Forms::ShowNoMail(const Ask& ask, Reply& reply) const {
     reply.SetContent(Pages::NoMail(token), HtmlType);
 }
 
-/// The address alone says what is wanted, so that a mail program can do it with one press; what it
-/// writes in the body makes no difference.
+/// The address says everything: a mail program can send this request for its user. The body does
+/// not matter.
 void Forms::TakeNoMail(const Ask& ask, Reply& reply) const {
     const auto token = ask.request.Param("token");
     if (!noMail_.IsToken(token))
@@ -89,8 +90,8 @@ void Forms::TakeNoMail(const Ask& ask, Reply& reply) const {
         const Pool::Lease lease(service_.pool);
         noMail_.Note(*lease, token);
     }
-    reply.SetContent(Pages::Notice("No more mails", "This exchange will send no more mails to your "
-                                                    "address."),
+    reply.SetContent(Pages::Notice("No more mail", "This exchange will send no more mail to your "
+                                                   "address."),
                      HtmlType);
 }
 

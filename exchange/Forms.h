@@ -7,8 +7,8 @@
 
 namespace exchange {
 
-/// The two forms of the pages that change something: to report a recipe, and to have no more mails.
-/// Nothing changes by a GET, as programs that test links make one.
+/// The two forms that change something: one reports a recipe, one stops the mails to an address. A
+/// GET changes nothing, since programs that test links send one.
 class Forms {
 public:
     static constexpr size_t Largest = size_t{16} * 1024; ///< a form that is filled in, in bytes

@@ -46,7 +46,7 @@ void Front::Open() {
     const auto found = tcp::resolver(io_).resolve(config_.address, std::to_string(config_.port),
                                                   tcp::resolver::passive, error);
     if (error || found.empty())
-        throw ConfigError("\"" + config_.address + "\" is no address to listen at");
+        throw ConfigError("\"" + config_.address + "\" is not an address of this machine");
     const tcp::endpoint endpoint = *found.begin();
     acceptor_.open(endpoint.protocol());
     acceptor_.set_option(tcp::acceptor::reuse_address(true));
@@ -121,7 +121,7 @@ bool Front::AcceptSome() {
     return true;
 }
 
-/// Runs on the thread of the connections, so that it reports what it proves.
+/// Runs on the thread of the connections, so it stops when that thread hangs.
 Front::Task<void> Front::TellAlive() {
     const auto interval = Supervisor::Interval();
     while (interval && !stopping_) {
@@ -153,7 +153,7 @@ bool Front::HasPlaceFor(const Visitor& visitor) {
     return greatest != home && TakePlaceFrom(greatest);
 }
 
-/// Ends the connection of a network that loses least: an idle one before a busy one, an old one
+/// Ends the connection of a network that matters least: an idle one before a busy one, an old one
 /// before a new one. Never one whose request is being answered.
 bool Front::TakePlaceFrom(const std::string& network) {
     const bool onlyOne = connections_.Of(network) <= 1;
@@ -173,8 +173,8 @@ bool Front::TakePlaceFrom(const std::string& network) {
     return chosen != nullptr;
 }
 
-/// Makes room for more of a body, if need be by refusing another that still arrives: the largest of
-/// the network that holds most.
+/// Makes room for more of a body. If necessary, refuses another one that is still arriving: the
+/// largest of the network that holds most.
 bool Front::TakeBodyRoom(const Conversation& taker, size_t bytes) {
     while (bodies_.Sum() + static_cast<long long>(bytes) > config_.bodies_bytes) {
         const auto greatest = bodies_.Greatest();

@@ -34,7 +34,7 @@ public:
     Front(const Front&) = delete;
     Front& operator=(const Front&) = delete;
 
-    /// Fails with ConfigError if the address cannot be had. Port 0 takes a free one.
+    /// Fails with ConfigError if it cannot listen at the address. Port 0 takes a free port.
     void Open();
     int Port() const { return port_; }
     void Start();
@@ -72,7 +72,7 @@ private:
     Timer alive_{io_.get_executor()};
     Timer end_{io_.get_executor()};
     Workers workers_;
-    Workers watch_{1}; ///< answers whether the service is well, also when all workers are busy
+    Workers watch_{1}; ///< answers /ready even when all workers are busy
     std::thread thread_;
 };
 

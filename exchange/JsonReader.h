@@ -9,8 +9,8 @@ namespace exchange {
 enum class JsonGroup { Array, Object };
 using JsonValue = std::variant<std::nullptr_t, bool, double, std::string, JsonGroup>;
 
-/// Is told what a JSON text holds, in its order, and keeps what it needs. `depth` is the number of
-/// arrays and objects around the value. Each operation may refuse the text by an exception.
+/// Receives the contents of a JSON text in their order. `depth` is the number of arrays and objects
+/// around the value. Each operation may throw to refuse the text.
 class JsonListener {
 public:
     virtual ~JsonListener() = default;
@@ -19,12 +19,12 @@ public:
     virtual void End(int depth) = 0; ///< of the array or object whose beginning stood at `depth`
 };
 
-/// Reads the JSON text of a request in one pass. It makes no tree: a body costs what its bytes cost
-/// and what the listener does with them, whatever its shape.
+/// Reads the JSON text of a request in one pass, without building a tree. So the cost depends on
+/// the size of the body, not on its shape.
 namespace JsonReader {
 inline constexpr int DeepestNesting = 4;
 
-/// Fails with a Refusal if the text is no JSON, is no UTF-8, or is nested too deeply.
+/// Fails with a Refusal if the text is not JSON, not UTF-8, or nested too deeply.
 void Read(const std::string& text, JsonListener& listener);
 } // namespace JsonReader
 

@@ -6,8 +6,8 @@
 
 namespace exchange {
 
-/// One limit of the service: what it limits and why, and what is answered beyond it. The one place
-/// for it: the settings are read by this table, and docs/exchange.md shows it.
+/// One limit of the service: what it limits and why, and the reply beyond it. Each limit is defined
+/// here only: the settings are read with this table, and docs/exchange.md shows it.
 struct Limit {
     const char* name;
     const char* setting; ///< null if it is fixed

@@ -8,8 +8,8 @@
 
 namespace exchange {
 
-/// One thing that is counted for somebody, in an hour or a day by the clock (UTC). Who it is stands
-/// in the name as a keyed digest only.
+/// Something that is counted for somebody in an hour or a day (UTC). The name identifies this
+/// person only by a keyed digest.
 struct Counter {
     std::string name;
     long long slot;
@@ -27,14 +27,15 @@ public:
     /// Counts one more. False, without counting, if that would exceed the limit.
     static bool Count(Connection& connection, const Counter& counter, int limit);
 
-    /// Counts one more today for a visitor and for all. False if this exceeds the limit of one of
-    /// his networks or of all; then the caller rolls back. A network has at most a tenth of all.
+    /// Counts one more today for a visitor and for all. False if this exceeds a limit of one of the
+    /// visitor's networks or of all; then the caller rolls back. A network has at most a tenth of
+    /// the limit of all.
     bool CountToday(Connection& connection, std::string_view what, const Visitor& visitor,
                     int limit, int limitOfAll) const;
 
     static long long Hour(); ///< the slot of this hour
 
-    /// How many times the allowance of one client each wider network has, narrowest first.
+    /// The limits of the wider networks, as multiples of that of a client, narrowest first.
     static constexpr int Growth[] = {1, 4, 16, 64};
     static void ForgetOld(Connection& connection);
 

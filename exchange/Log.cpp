@@ -15,8 +15,8 @@ constexpr size_t MostWaiting = 8192;
 constexpr size_t Portion = 4096; ///< a pipe that is ready takes so much without waiting
 constexpr int Patience = 100;
 
-/// Writes lines to the standard output as long as somebody reads them. Once nobody does, lines are
-/// dropped until somebody reads again: the log never keeps the server from ending.
+/// Writes lines to the standard output. While nobody reads them, lines are dropped: the log never
+/// keeps the server from ending.
 class Output : public spdlog::sinks::base_sink<std::mutex> {
 private:
     bool IsReady() {

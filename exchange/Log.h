@@ -7,8 +7,8 @@
 
 namespace exchange {
 
-/// One JSON object a line on the standard output. What is written names routes and outcomes only:
-/// never an address, a network address, a recipe's ID or a text of a user.
+/// Writes one JSON object on each line of the standard output. It names routes and outcomes only:
+/// never a mail address, a network address, a recipe's ID or a text of a user.
 namespace Log {
 using Value = std::variant<std::string_view, double, int>;
 using Fields = std::initializer_list<std::pair<std::string_view, Value>>;

@@ -39,7 +39,7 @@ std::string Encoded(const std::string& text) {
     return encoded;
 }
 
-/// The body in lines that every relay takes, whatever letters it holds.
+/// The body as Base64 in short lines, which every relay accepts.
 std::string Body(const std::string& text) {
     constexpr size_t lineLength = 76;
     const auto encoded = Base64(text);
@@ -62,7 +62,7 @@ std::string Ingredients(const Recipe& recipe) {
     return text.empty() ? text : "Ingredients\n" + text + "\n";
 }
 
-/// Relays refuse mails of several mebibytes.
+/// Shortened, since relays refuse mails of several mebibytes.
 std::string Instructions(const Recipe& recipe) {
     constexpr size_t most = 100'000;
     auto text = ShownText::Lines(recipe.instructions.value_or(""));
@@ -96,8 +96,9 @@ std::string NoMailLink(const Config& config, const std::string& token) {
 
 std::string HowToEnd(const Config& config, const std::string& link) {
     if (link.empty())
-        return "To have no more mails from here, write to " + config.mail_from + ".\n";
-    return "To have no more mails from here, open this page and press the button:\n" + link + "\n";
+        return "To get no more mail from this server, write to " + config.mail_from + ".\n";
+    return "To get no more mail from this server, open this page and press the button:\n" + link +
+           "\n";
 }
 
 std::string Text(const Recipe& recipe, const Config& config, const std::string& link) {
@@ -105,13 +106,13 @@ std::string Text(const Recipe& recipe, const Config& config, const std::string& 
     auto text = recipe.from + " sends you a recipe from Halvane.\n\n" + Card(recipe);
     text += "The recipe ID is " + id +
             ".\n\n"
-            "To take the recipe into your own Halvane, open Recipes, press Import, enter " +
+            "To import the recipe into your own Halvane, open Recipes, press Import, enter " +
             id + " and press Submit.\n";
     if (!config.public_url.empty())
         text += "You can also read it at " + config.public_url + "/halvane/recipe.asp?recID=" + id +
                 "\n";
     return text +
-           "\nThis mail was sent once, because somebody entered your address. Answers go to " +
+           "\nThis mail was sent once, because somebody entered your address. Replies go to " +
            recipe.from + ".\n" + HowToEnd(config, link);
 }
 
@@ -119,7 +120,7 @@ std::string Header(const std::string& name, const std::string& value) {
     return name + ": " + value + "\r\n";
 }
 
-/// A mail program can follow the link for its reader by one press. That needs a safe connection.
+/// With these headers a mail program offers a button for the link. It requires HTTPS.
 std::string NoMailHeaders(const Config& config, const std::string& link) {
     if (link.empty())
         return Header("List-Unsubscribe", "<mailto:" + config.mail_from + ">");

@@ -8,7 +8,7 @@
 namespace exchange {
 
 /// The mail for a recipe with its headers, in plain text. The addresses have been checked.
-/// `noMailToken` is that of the recipient, for the link by which he gets no more mails.
+/// `noMailToken` belongs to the recipient: the link with it stops the mails.
 std::string MailOf(const Recipe& recipe, const Config& config, const std::string& messageID,
                    const std::string& noMailToken);
 

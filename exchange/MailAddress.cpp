@@ -40,7 +40,8 @@ bool EndsInLetters(std::string_view domain) {
            !(domain[dot + 1] >= '0' && domain[dot + 1] <= '9');
 }
 
-/// Hosts that lead several names to one mailbox. A host that stands here twice is one host.
+/// Hosts where several names lead to one mailbox. Domains with the same mailbox domain are one
+/// host.
 struct Host {
     std::string_view domain;
     std::string_view mailboxDomain;

@@ -29,8 +29,8 @@ int IsEnding(void* ending, curl_off_t, curl_off_t, curl_off_t, curl_off_t) {
     return *static_cast<const std::atomic<bool>*>(ending) ? 1 : 0;
 }
 
-/// The relay refused the recipient or the mail itself. What it says against us (a password, TLS) is
-/// for the operator to put right, and the mail can wait for that.
+/// Whether the relay refused the recipient or the mail itself. If it refuses us (a wrong password,
+/// TLS), the operator can correct that, and the mail waits.
 bool IsFinal(CURL* curl, CURLcode result) {
     long code = 0;
     curl_easy_getinfo(curl, CURLINFO_RESPONSE_CODE, &code);

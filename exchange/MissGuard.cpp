@@ -10,7 +10,7 @@ namespace {
 using soci::into;
 using soci::use;
 
-/// A miss weighs less the wider a network is, so that the same sum shuts each of them.
+/// A miss counts less for a wider network, so that one limit fits networks of every width.
 constexpr int Widest = Limits::Growth[std::size(Limits::Growth) - 1];
 constexpr int UnderAlarm = 10;
 

@@ -9,18 +9,18 @@
 
 namespace exchange {
 
-/// Keeps people from finding recipes by trying numbers. Each look-up of an ID that does not exist
-/// counts for all networks of the visitor; one that has too many gets no recipe at all within the
-/// hour, so that a hit does not tell itself apart. When all visitors together miss too often, each
-/// is allowed a tenth only: that slows those who guess, and not those who know their numbers.
+/// Keeps people from finding recipes by guessing IDs. Each request for an unknown ID counts for all
+/// networks of the visitor. A network with too many gets no recipe at all within the hour, so that
+/// a hit looks like a miss. When all visitors together miss too often, the limit of each falls to a
+/// tenth: that slows down guessing, but not readers who know their IDs.
 class MissGuard {
 public:
     static constexpr const char* TooMany =
-        "Too many recipe IDs that do not exist. Please try again later.";
+        "You have asked for too many recipe IDs that do not exist. Please try again later.";
 
     enum class Verdict { Found, Missed, TooMany };
 
-    /// Under which names the misses of a visitor are counted in this hour.
+    /// The names of the counters of a visitor's misses in this hour.
     struct Guess {
         std::array<std::string, std::size(Limits::Growth)> names;
         long long slot = 0;
@@ -38,8 +38,8 @@ public:
 
     Guess Of(const Visitor& visitor) const;
 
-    /// Looks something up, which tells whether it is there, unless the visitor has missed too
-    /// often, and counts a miss.
+    /// Calls `lookUp`, which tells whether the recipe exists, and counts a miss. Does not call it
+    /// if the visitor has missed too often.
     template <class LookUp>
     Verdict Look(Connection& connection, const Visitor& visitor, const LookUp& lookUp) const {
         const auto guess = Of(visitor);
@@ -47,8 +47,8 @@ public:
         return Judge(connection, guess, misses, IsShut(misses, guess) || lookUp());
     }
 
-    /// For a look-up that has read the misses in its own statement, with `Counting`. With IN,
-    /// SQLite would make a table for the names at each look-up, which takes longer than to read a
+    /// For a look-up that has read the misses in its own statement, with `Counting`. IN would be
+    /// slower: SQLite would build a table of the names each time, which takes longer than reading a
     /// recipe.
     Verdict Judge(Connection& connection, const Guess& guess, int misses, bool found) const;
     static constexpr const char* Counting =

@@ -19,7 +19,8 @@ void Outbox::Add(const Recipe& recipe) {
                        use(now));
 }
 
-/// If several claim a mail at once, the first UPDATE gets it: the others no longer find it due.
+/// If several servers claim a mail at once, the first UPDATE gets it: the others do not find it
+/// due.
 std::optional<Outbox::Entry> Outbox::Claim(long long until) {
     const auto now = Moment::Now();
     Entry entry;

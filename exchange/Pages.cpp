@@ -84,7 +84,7 @@ std::string HeadingOf(const ListPage& list) {
 
 std::string EmptyText(const ListPage& list) {
     if (list.found.next > 0)
-        return "None of the recipes that were looked at has all of these words.";
+        return "None of the recipes searched so far has all of these words.";
     if (!list.query.empty())
         return "No recipe has all of these words in its name or ingredients.";
     return list.page > 1 ? "There are no older recipes." : "No recipe has been shared yet.";
@@ -219,7 +219,7 @@ std::string NoMail(const std::string& token) {
     static const Template content(Assets::Nomail);
     Values values;
     values.Set("token", token);
-    return Page("No more mails", Place::Elsewhere, true, content, std::move(values));
+    return Page("No more mail", Place::Elsewhere, true, content, std::move(values));
 }
 
 std::string Notice(const std::string& heading, const std::string& text) {

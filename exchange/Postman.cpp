@@ -13,7 +13,7 @@ constexpr int AtATime = 3;
 constexpr std::chrono::seconds Interval(1);
 constexpr long long GiveUpAfter = 48 * Moment::Hour;
 constexpr long long LongestPause = 4 * Moment::Hour;
-/// Longer than any try takes, so that a claim runs out only if the server that has it is gone.
+/// Longer than any try takes, so a claim only expires if its server is gone.
 constexpr long long Claimed = 120 * Moment::Second;
 
 /// Doubled at each try.
@@ -55,7 +55,7 @@ bool Postman::Pause() {
     return !wake_.wait_for(lock, Interval, [this] { return ending_.load(); });
 }
 
-/// False if nothing is due, or if the database does not say.
+/// False if nothing is due, or if the database does not answer.
 bool Postman::DeliverNext() {
     try {
         std::optional<Outbox::Entry> entry;
@@ -90,7 +90,7 @@ Mailer::Result Postman::HandOver(const Outbox::Entry& entry) const {
         ending_);
 }
 
-/// A mail that has gone out must not go out again because the database was away for a moment.
+/// Tries until the database answers: otherwise a mail that was sent would be sent again.
 void Postman::Note(const Outbox::Entry& entry, Mailer::Result result) {
     for (;;) {
         try {

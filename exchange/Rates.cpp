@@ -9,7 +9,7 @@ namespace exchange {
 namespace {
 constexpr size_t MostKept = 100'000;
 
-/// What is left of an amount after a time in which `most` run out a minute.
+/// What is left of an amount after a time, at `most` a minute.
 double Left(double taken, std::chrono::duration<double> time, double most) {
     return std::max(0.0, taken - time.count() * most / 60);
 }

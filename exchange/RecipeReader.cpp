@@ -15,13 +15,13 @@ namespace {
     throw Refusal(400, reason);
 }
 
-/// Each takes a value into its place, or refuses it; null stands for a value that is not there.
+/// Each converts a value or refuses it. Null is the same as a missing value.
 std::optional<std::string> TextOf(JsonValue&& value, std::string_view name) {
     if (std::holds_alternative<std::nullptr_t>(value))
         return {};
     if (auto* text = std::get_if<std::string>(&value))
         return std::move(*text);
-    Refuse(std::string(name) + " must be a text.");
+    Refuse(std::string(name) + " must be a string.");
 }
 
 std::optional<double> NumberOf(JsonValue&& value, std::string_view name) {
@@ -46,7 +46,7 @@ std::string AddressOf(JsonValue&& value, std::string_view name) {
         Refuse(std::string(name) + " is longer than " + std::to_string(LongestMailAddress) +
                " bytes.");
     if (!IsPlain(text))
-        Refuse(std::string(name) + " holds a control character.");
+        Refuse(std::string(name) + " contains a control character.");
     return text;
 }
 
@@ -79,7 +79,7 @@ constexpr Field Fields[] = {
     {"ISPUBLIC", Take<&Recipe::isPublic, TruthOf>, nullptr},
 };
 
-/// The body of a new recipe: an object of the fields above. Others are passed over.
+/// The body of a new recipe: an object with the fields above. Other fields are ignored.
 class RecipeListener : public JsonListener {
 public:
     Recipe recipe;
@@ -101,7 +101,7 @@ private:
     std::string name_;
 };
 
-/// Where the value of each of our positions stands in the rows of a body.
+/// For each of our positions, the position of its value in the rows of a body.
 using Places = std::array<size_t, FieldCount>;
 
 /// The order of programs that do not name their fields.
@@ -147,9 +147,9 @@ Ingredient IngredientOf(std::vector<JsonValue>& row, const Places& places) {
     return ingredient;
 }
 
-/// The body of ingredients: an object with an array of rows, each an array of values. Beside them
-/// may stand the names of the fields, and the quantities, since programs leave the last position
-/// out of their rows. What a row means is known at the end: the names may come last.
+/// The body of ingredients: an object with an array of rows, each an array of values. It may also
+/// have the names of the fields, and the quantities, since programs leave the last position out of
+/// their rows. The names may come last, so the rows are interpreted at the end.
 class RowsListener : public JsonListener {
 public:
     explicit RowsListener(int most)
@@ -220,7 +220,8 @@ private:
         if (value != JsonValue(JsonGroup::Array))
             RefuseRow();
         if (rows_->size() == most_)
-            throw Refusal(413, "A recipe takes " + std::to_string(most_) + " ingredients at most.");
+            throw Refusal(413,
+                          "A recipe can have at most " + std::to_string(most_) + " ingredients.");
         rows_->emplace_back();
     }
 

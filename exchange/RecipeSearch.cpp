@@ -37,7 +37,7 @@ long long RowOf(long long place) {
     return -place;
 }
 
-/// All of the words, in the language of the database. They hold letters and digits only.
+/// A query for all of the words, in the syntax of the database. Words have letters and digits only.
 std::string Query(const std::vector<std::string>& words, bool embedded) {
     const char quote = embedded ? '"' : '\'';
     std::string query;
@@ -86,8 +86,8 @@ void RecipeSearch::Remove(long long place) {
     connection_.Change("DELETE FROM search WHERE rowid = :row", use(row));
 }
 
-/// Finds what stands in a block at `found.next` or below. The sums keep PostgreSQL from walking the
-/// key instead of the words.
+/// Finds recipes in a block, at `found.next` or below. The sums keep PostgreSQL from using the
+/// primary key instead of the index of words.
 void RecipeSearch::Look(const std::string& words, const std::string& block, size_t most,
                         Found& found) {
     constexpr const char* embedded = "SELECT rowid FROM search WHERE search MATCH :query"

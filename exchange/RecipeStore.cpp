@@ -19,8 +19,8 @@ constexpr const char* InsertRecipe =
     " VALUES (:id, :name, :serving, :yield, :instructions, :time, :from, :to, :public, :token, 0,"
     " :now, 0, 0) ON CONFLICT DO NOTHING";
 
-/// Claims the places of the new rows: whoever gets them is the creator, in time, and within the
-/// limit, and no one else writes to the recipe until the transaction ends.
+/// Reserves the new rows, if the token is the creator's, the recipe is not sent yet, and the limit
+/// is not exceeded. Until the transaction ends, nobody else can write to the recipe.
 constexpr const char* ClaimRows =
     "UPDATE recipes SET IngredientCount = IngredientCount + :n WHERE RecipeID = :id"
     " AND Token = :token AND SentAt = 0 AND HiddenAt = 0 AND IngredientCount + :more <= :most";
@@ -62,7 +62,7 @@ int ReadWithMisses(Connection& connection, const std::string& statement,
     return misses.value_or(0);
 }
 
-/// Changes each text that may hold any letter, on its way into its row and back.
+/// Converts the texts of users for their row, or back.
 using ChangeOfText = std::string (*)(std::string_view);
 void EachText(std::initializer_list<std::optional<std::string>*> texts, ChangeOfText change) {
     for (auto* text : texts)
@@ -238,7 +238,7 @@ RecipeStore::Shown RecipeStore::ReadShown(int id, const MissGuard::Guess& guess)
     return shown;
 }
 
-/// Keeps its place as a negative number, which no list shows.
+/// Keeps the place as a negative number: no list shows it, and Show can restore it.
 void RecipeStore::Unpublish(int id) {
     if (const auto place = PlaceOf(id))
         RecipeSearch(connection_).Remove(*place);
@@ -281,7 +281,7 @@ std::optional<long long> RecipeStore::PlaceOf(int id) {
     return listed ? std::optional(place) : std::nullopt;
 }
 
-/// Locks the row first: if the recipe is just being sent, it is listed before this continues.
+/// Locks the row first: if the recipe is being sent at this moment, we wait until it is listed.
 bool RecipeStore::Remove(int id) {
     Transaction transaction(connection_);
     connection_.Change("UPDATE recipes SET Token = '' WHERE RecipeID = :id", use(id));

@@ -38,7 +38,7 @@ public:
     Added MayAdd(int id, const std::string& token); ///< whether Add could do anything
     Added Add(int id, const std::string& token, const std::vector<Ingredient>& rows, int most);
 
-    /// What the reply to the sender depends on.
+    /// What determines the reply to the sender.
     struct State {
         bool sent = false;
         std::string from;
@@ -51,8 +51,8 @@ public:
     std::optional<Recipe> Finish(int id);
     void NoteMailed(int id);
 
-    /// What is read of a sent recipe. `misses` are those of the one who asks, read in the
-    /// same statement.
+    /// The stored reply for a sent recipe. `misses` are those of the visitor, read in the same
+    /// statement.
     enum class Part { Recipe, Ingredients };
     struct Document {
         std::optional<std::string> text;
@@ -71,11 +71,11 @@ public:
         std::vector<Listed> recipes; ///< one more than a page, if there are more, newest first
         long long next = 0;          ///< the place to search on from; 0 if everything was looked at
     };
-    /// What has all of the words, from a place of the list on, or from its newest one.
+    /// The recipes that have all of the words, from a place of the list on or from the newest.
     ListPortion List(const std::vector<std::string>& words, int page,
                      std::optional<long long> from = {});
 
-    bool Hide(int id); ///< from every reader, and from whoever would send it
+    bool Hide(int id); ///< nobody can read, find or send it
     bool Show(int id); ///< again, as it was
     bool Remove(int id);
     void SweepUnfinished(long long createdBefore);

@@ -7,8 +7,8 @@
 
 namespace exchange {
 
-/// The token in the form that reports a recipe. It fits one recipe and the network that was shown
-/// the form, for a day at least: a page of another site cannot have its visitors send the form.
+/// The token in the form that reports a recipe. It is valid for one recipe and one network, for at
+/// least a day: a page of another site cannot make its visitors send the form.
 class ReportToken {
 public:
     explicit ReportToken(std::string secret)

@@ -10,11 +10,11 @@ using soci::into;
 using soci::use;
 
 constexpr Complaint Table[] = {
-    {"advertising", "It is advertising or a trick"},
+    {"advertising", "It is advertising or a scam"},
     {"offence", "It insults or threatens somebody"},
-    {"private", "It tells private things about somebody"},
+    {"private", "It contains private information about somebody"},
     {"rights", "It is copied without permission"},
-    {"danger", "Who cooks it may come to harm"},
+    {"danger", "It is dangerous to cook or to eat"},
     {"other", "Something else"},
 };
 } // namespace

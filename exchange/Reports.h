@@ -9,7 +9,7 @@
 
 namespace exchange {
 
-/// What is wrong with a recipe, as the one who reports it chooses.
+/// What is wrong with a recipe: a choice in the form.
 struct Complaint {
     std::string_view name; ///< in the form and in the database
     std::string_view label;
@@ -34,7 +34,7 @@ public:
     static std::span<const Complaint> Complaints();
     static bool IsComplaint(std::string_view name);
 
-    /// Keeps nothing of a recipe that cannot be read, and nothing beyond the most of a recipe.
+    /// Ignores reports of recipes that cannot be read, and those beyond the limit of a recipe.
     void Add(int recipeID, const Report& report);
     std::vector<Report> Of(int recipeID); ///< newest first
     bool Forget(int recipeID);

@@ -31,8 +31,8 @@ int StatusOf(const Error& error) {
     return error == http::error::bad_transfer_encoding ? 411 : 400;
 }
 
-/// The library's parser, which tells us each part of a head as it reads it. It would also accept
-/// some heads that another server in between might read differently: those we refuse.
+/// The library's parser, which calls us for each part of a head. It also accepts some heads that a
+/// proxy in front of us could read differently: we refuse those.
 class Parser : public http::basic_parser<true> {
 public:
     explicit Parser(RequestHead& head)
@@ -110,7 +110,7 @@ private:
     bool oldVersion_ = false;
 };
 
-/// A header that goes on in the next line: not every server reads it as one.
+/// Whether a header continues on the next line. Not every server reads it as one header.
 bool HasFold(std::string_view head) {
     return head.find("\r\n ") != std::string_view::npos ||
            head.find("\r\n\t") != std::string_view::npos;

@@ -6,8 +6,8 @@
 
 namespace exchange {
 
-/// What the head of a request says. Strict: whatever leaves two opinions about where the request
-/// ends is refused.
+/// The head of a request. Strict: a head is refused if two servers could disagree about where the
+/// request ends.
 struct RequestHead {
     static constexpr size_t Largest = size_t{16} * 1024;
     static constexpr size_t LongestTarget = size_t{8} * 1024;
@@ -17,7 +17,7 @@ struct RequestHead {
     bool close = false; ///< the connection closes after the reply
     int status = 0;     ///< of the refusal; 0 if the head is understood
 
-    /// The size of the head that the text begins with; 0 if it has not arrived as a whole.
+    /// The size of the head at the beginning of the text; 0 if it is not complete yet.
     static size_t SizeIn(std::string_view arrived);
     static RequestHead Read(std::string_view head, std::uint64_t largestBody);
 };

@@ -16,12 +16,12 @@ struct Sentence {
 };
 constexpr Sentence Sentences[] = {
     {408, "The request did not arrive in time."},
-    {411, "A body must come with its length."},
+    {411, "The request has a body without Content-Length."},
     {413, "The body is too large."},
     {414, "The address is too long."},
-    {415, "The body must come unpacked."},
-    {417, "A body must come without waiting to be invited."},
-    {431, "The head of the request is too large."},
+    {415, "The body must not be compressed."},
+    {417, "The header Expect is not supported."},
+    {431, "The headers of the request are too large."},
     {503, "The service is not available just now."},
 };
 
@@ -42,14 +42,14 @@ bool IsRead(const std::string& method) {
     return method == "GET" || method == "HEAD";
 }
 
-/// A browser says of a request whether a page of another site made it. Such a page may lead people
-/// here, but not have them change anything.
+/// A browser tells whether a page of another site made the request. Such a page may link here, but
+/// it must not make its visitors change anything.
 void RefuseForeign(const Request& request, const RouteTerms& terms) {
     if (terms.changes && request.Header("sec-fetch-site") == "cross-site")
         throw Refusal(403, "This address cannot be used from a page of another site.");
 }
 
-/// A form of another site can send few types only, and the right one is not among them.
+/// A form of another site can only send a few types, and none of them is the required one.
 void RefuseOtherTypes(const Request& request, const RouteTerms& terms) {
     if (!IsRead(request.method) && !terms.body.empty() && TypeOf(request) != terms.body)
         throw Refusal(415, "The body must be " + terms.body + ".");
@@ -119,7 +119,7 @@ Reply Router::Answer(const Match& match, const Request& request, const Visitor& 
         Run(match, {request, match.id, visitor}, reply);
     } else if (!match.allowed.empty()) {
         reply.SetHeader("Allow", match.allowed);
-        failure_(request, reply, 405, "This address does not take that method.");
+        failure_(request, reply, 405, "This address does not accept this method.");
     } else {
         failure_(request, reply, 404, "There is nothing at this address.");
     }

@@ -10,16 +10,16 @@
 
 namespace exchange {
 
-/// What a handler is given: the request, the number in its path if the route has one, and who is
-/// counted for it.
+/// What a handler gets: the request, the number in its path if the route has one, and the visitor
+/// whose limits count.
 struct Ask {
     const Request& request;
     std::optional<int> id;
     const Visitor& visitor;
 };
 
-/// Where a handler runs: on the thread of the connections if it never waits, otherwise on a worker;
-/// what watches the service has a thread of its own.
+/// Where a handler runs: on the thread of the connections if it never waits, otherwise on a worker.
+/// /ready has a thread of its own.
 enum class Lane { Here, Workers, Watch };
 
 struct RouteTerms {
@@ -28,12 +28,12 @@ struct RouteTerms {
     std::string body = "application/json"; ///< the only type of a body that is taken; empty: any
 };
 
-/// Finds the handler of a request by method and path, and answers what no handler takes. A pattern
-/// is a path that may hold `{id}` once: a recipe's number.
+/// Finds the handler of a request by method and path, and answers requests without a handler. A
+/// pattern is a path that may contain `{id}` once: a recipe's number.
 class Router {
 public:
     using Handler = std::function<void(const Ask&, Reply&)>;
-    /// Writes the reply for a status and a reason, in the manner of the place that was asked for.
+    /// Writes the reply for a status and a reason, in the format of the requested path.
     using Failure =
         std::function<void(const Request&, Reply&, int status, const std::string& reason)>;
 
@@ -68,7 +68,7 @@ public:
 
     Match Find(const Request& request) const;
     Reply Answer(const Match& match, const Request& request, const Visitor& visitor) const;
-    /// The reply to what is refused before any handler sees it.
+    /// The reply to a request that is refused before it reaches a handler.
     Reply Refused(const Request& request, int status) const;
 
 private:

@@ -7,7 +7,7 @@
 
 namespace exchange::Schema {
 namespace {
-/// The row of the step comes first: a second server waits at it, and then finds it there.
+/// The row of the step comes first: a second server waits for it, and then finds it.
 void Take(Connection& connection, int number, SchemaSteps::Step step) {
     Transaction transaction(connection);
     transaction.Unhurry();
@@ -43,7 +43,8 @@ void Check(Connection& connection) {
     soci::indicator indicator = soci::i_ok;
     connection.First("SELECT MAX(Step) FROM schema_steps", soci::into(step, indicator));
     if (indicator == soci::i_null || step < static_cast<int>(SchemaSteps::All().size()))
-        throw std::runtime_error("the database lacks a step of its schema");
+        throw std::runtime_error(
+            "the tables are not up to date; start the server, which updates them");
 }
 
 } // namespace exchange::Schema

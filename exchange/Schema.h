@@ -4,9 +4,8 @@
 
 namespace exchange {
 
-/// The tables, made in numbered steps. A step is taken once for a database, however many servers
-/// start on it at the same time, and is never changed after it has been delivered: a new shape is a
-/// new step.
+/// The tables, made in numbered steps. Each step runs once on a database, even if several servers
+/// start at the same time. A released step never changes: each change of the tables is a new step.
 namespace Schema {
 void BringUpToDate(Connection& connection);
 

@@ -4,9 +4,9 @@
 
 namespace exchange {
 
-/// Gives each public recipe a place in the list, in the order in which recipes were sent, and makes
-/// it found by the database's own search. The order is no longer that of the clock: a clock that
-/// was wrong for a while would keep what was sent then on top for good.
+/// Gives each public recipe a place in the list, in the order of sending, and indexes it for the
+/// full text search of the database. The list is not ordered by time, since a recipe that was sent
+/// while the clock was wrong would stay on top forever.
 namespace SearchStep {
 void Take(Connection& connection);
 } // namespace SearchStep

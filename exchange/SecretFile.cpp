@@ -20,7 +20,7 @@ void Make(const std::string& path) {
     std::string draft = path + ".XXXXXX";
     const int file = ::mkstemp(draft.data());
     if (file < 0)
-        throw ConfigError("cannot make " + path + ", the file of the secret");
+        throw ConfigError("cannot create " + path + " for the secret");
     const auto secret = Secrets::RandomToken() + "\n";
     const bool written =
         ::write(file, secret.data(), secret.size()) == static_cast<ssize_t>(secret.size()) &&
@@ -39,13 +39,14 @@ std::string Read(const std::string& path) {
         ::stat(path.c_str(), &state);
     }
     if ((state.st_mode & (S_IRWXG | S_IRWXO)) != 0)
-        throw ConfigError(path + " holds a secret and must be for its owner alone (mode 600)");
+        throw ConfigError(path +
+                          " contains a secret; only its owner may have access to it (mode 600)");
     std::ifstream file(path);
     std::string secret;
     std::getline(file, secret);
     secret = Trimmed(secret);
     if (secret.size() < Shortest)
-        throw ConfigError(path + " must hold a secret of at least 32 characters");
+        throw ConfigError(path + " must contain a secret of at least 32 characters");
     return secret;
 }
 

@@ -4,11 +4,11 @@
 
 namespace exchange {
 
-/// The key of the digests under which clients and recipients are counted. It stands in a file
-/// beside the database and not in it, so that a copy of the database names nobody.
+/// The key of the digests that clients and recipients are counted by. It is in a file beside the
+/// database, not in it: a copy of the database identifies nobody.
 namespace SecretFile {
-/// Makes the file, for its owner alone, where there is none. Fails with ConfigError if it cannot be
-/// read or made, or if others can read it.
+/// Creates the file with mode 600 if it does not exist. Fails with ConfigError if it cannot be read
+/// or created, or if others can read it.
 std::string Read(const std::string& path);
 } // namespace SecretFile
 

@@ -8,8 +8,8 @@
 namespace exchange {
 namespace {
 std::string NotAnAddress(const std::string& whose) {
-    return whose + " is not one that mail can be sent with, so your recipe was not sent. Please "
-                   "correct it and send the recipe again.";
+    return whose + " is not valid, so your recipe was not sent. Please correct it and send the "
+                   "recipe again.";
 }
 } // namespace
 
@@ -78,7 +78,7 @@ bool Sending::CompleteAlone(Connection& connection, int id) const {
 std::string Sending::WhyNoMail(Connection& connection, const std::string& to) const {
     if (!service_.config.Mails())
         return "This server sends no mail.";
-    return noMail_.Holds(connection, to) ? "Your friend wants no mails from here." : "";
+    return noMail_.Holds(connection, to) ? "Your friend does not want mail from this server." : "";
 }
 
 Sending::Outcome Sending::Complete(Connection& connection, int id, const std::string& to,
@@ -89,10 +89,11 @@ Sending::Outcome Sending::Complete(Connection& connection, int id, const std::st
         return {200, "Your recipe is on its way to your friend. Its recipe ID is " + number + "."};
     if (!CompleteAlone(connection, id))
         return AlreadySent(id);
-    return {200, "Your recipe is stored under the recipe ID " + number + ". " +
-                     (why.empty() ? "No mail was sent, as the limit for today is reached." : why) +
-                     " "
-                     "Please tell your friend this number: it is all that Import Recipe needs."};
+    return {200,
+            "Your recipe is stored under the recipe ID " + number + ". " +
+                (why.empty() ? "No mail was sent, because the limit for today is reached." : why) +
+                " "
+                "Please tell your friend this number. Import Recipe needs nothing else."};
 }
 
 /// For the caller's transaction.

@@ -7,7 +7,7 @@
 
 namespace exchange {
 
-/// How much of something scarce each network holds, at each of its widths.
+/// How much of a scarce resource each network holds, for networks of every width.
 class Shares {
 public:
     void Add(const Visitor& holder, long long amount); ///< a negative amount is given back

@@ -5,13 +5,12 @@
 
 namespace exchange {
 
-/// A text of a person as a page, a mail or a terminal shows it: without control characters, without
-/// letters that turn the direction of what follows, and without letters that cannot be seen. The
-/// text that was sent stays as it is.
+/// A user's text as a page, a mail or a terminal shows it: without control characters, direction
+/// overrides and invisible letters. The stored text stays as it was sent.
 namespace ShownText {
 /// One line of at most `most` letters; a longer one ends with three dots.
 std::string Line(std::string_view text, size_t most);
-/// The same, and "(no name)" if nothing of it can be seen.
+/// The same, or "(no name)" if nothing of it is visible.
 std::string Name(std::string_view text, size_t most);
 /// Keeps line ends and tabs.
 std::string Lines(std::string_view text);

@@ -33,7 +33,7 @@ Pages::ListPage ReadListPage(const Request& request) {
     Pages::ListPage list;
     list.query = Trimmed(request.Param("q"));
     if (list.query.size() > LongestQuery || !IsUtf8(list.query) || !IsPlain(list.query))
-        throw Refusal(400, "These words cannot be searched for.");
+        throw Refusal(400, "This text cannot be searched for.");
     if (request.HasParam("page")) {
         const auto page = WholeNumber(request.Param("page"), 1, Pages::LastPage);
         if (!page)

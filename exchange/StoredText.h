@@ -5,9 +5,8 @@
 
 namespace exchange {
 
-/// The way in which a text of a person stands in a column. No database keeps the letter U+0000 in
-/// every way in which we hand it over, so the byte 1 and a sign stand for it and for itself. Every
-/// other text stands as it is.
+/// A user's text as it is stored in a column. The databases do not keep U+0000 in every case, so it
+/// is escaped with the byte 1, and so is that byte. Every other text is stored unchanged.
 namespace StoredText {
 std::string Of(std::string_view text);
 std::string Read(std::string_view stored); ///< the text that `Of` was given

@@ -5,13 +5,13 @@
 
 namespace exchange {
 
-/// What the service manager that started the server wants to hear: that it serves, that it still
-/// lives, that it ends. Without such a manager nothing is said.
+/// Tells systemd that the server is ready, that it still runs, and that it ends. Does nothing if
+/// systemd did not start the server.
 namespace Supervisor {
 void TellReady();
 void TellAlive();
 void TellEnding();
-/// How often it wants to hear that the server lives.
+/// How often systemd wants to hear that the server still runs.
 std::optional<std::chrono::microseconds> Interval();
 } // namespace Supervisor
 

@@ -7,17 +7,17 @@ namespace exchange {
 
 struct Request;
 
-/// The address within a request: reads it, and writes the texts that go into one.
+/// The target of a request: its path and its query.
 namespace Target {
-/// Takes path and parameters into the request. False if the target is not `/path` or `/path?query`:
-/// an address elsewhere is none of this server.
+/// Reads path and parameters into the request. False if the target is not `/path` or `/path?query`:
+/// this server is not a proxy.
 bool Read(std::string_view target, Request& request);
 
-/// Takes `name=value&name=value`, as a query or a form writes it, into the parameters.
+/// Appends the `name=value&name=value` of a query or a form to the parameters.
 void ReadParams(std::string_view text, Request& request);
 
 std::string Encoded(std::string_view text); ///< for a value within a query
-std::string Decoded(std::string_view text); ///< a `%` that begins no byte stays as it is
+std::string Decoded(std::string_view text); ///< a `%` without two digits stays as it is
 } // namespace Target
 
 } // namespace exchange

@@ -10,7 +10,7 @@ namespace exchange {
 
 class Template;
 
-/// What a template is filled with, by name. The names must outlive it.
+/// The values that fill a template, by name. The names must outlive them.
 class Values {
 public:
     using List = std::vector<Values>;
@@ -35,11 +35,11 @@ private:
     std::vector<std::pair<std::string_view, Value>> values_;
 };
 
-/// A page, or a part of one, with places for values. `{{name}}` takes a text and escapes it for
-/// HTML. `{{{name}}}` takes another template: no text is ever written without being escaped. What
-/// stands from `{{#name}}` to `{{/name}}` is written if the value is true, if it is a text that is
-/// not empty, and once for each entry of a list; with `{{^name}}` it is written otherwise. A name
-/// without a value is an empty text. An entry of a list sees the values around the list, too.
+/// A page, or a part of one, with places for values. `{{name}}` is replaced by a text, escaped for
+/// HTML, and `{{{name}}}` by another template: no text is ever written unescaped. A section from
+/// `{{#name}}` to `{{/name}}` is written if the value is true or a text that is not empty, and once
+/// for each entry of a list; with `{{^name}}` it is written otherwise. A name without a value is an
+/// empty text. An entry of a list also sees the values around the list.
 class Template {
 public:
     /// `text` must outlive it. Fails with std::logic_error if a tag or a section has no end.

@@ -14,7 +14,7 @@ std::string Join(const std::vector<std::string>& parts, std::string_view between
 std::vector<std::string> SplitWords(std::string_view text, std::string_view separators);
 void ReplaceAll(std::string& text, std::string_view what, std::string_view with);
 
-/// Decimal digits alone, from least to most; anything else is nothing.
+/// A number of decimal digits only, from least to most; nothing for any other text.
 std::optional<int> WholeNumber(std::string_view text, int least, int most);
 
 struct Letter {
@@ -25,7 +25,7 @@ struct Letter {
 std::optional<Letter> FirstLetter(std::string_view text);
 bool IsUtf8(std::string_view text);
 
-/// No control character but those of the given ones; the text is known to be UTF-8.
+/// Whether the text, which is UTF-8, has no control characters except the allowed ones.
 bool IsPlain(std::string_view text, std::string_view allowed = {});
 
 } // namespace exchange

@@ -8,8 +8,8 @@
 
 namespace exchange {
 
-/// Lets a few connections at a time read a part of their bodies, in turn. Between two turns the
-/// thread serves all others. Without this, a new client would wait until a thousand bodies had been
+/// Lets only a few connections at a time read a part of their bodies, in turn. Between two turns
+/// the thread serves the others. Otherwise a new client would wait until a thousand bodies were
 /// read.
 class Turns {
 public:

@@ -11,8 +11,8 @@ namespace exchange {
 
 struct Request;
 
-/// Who is counted for a request: the networks that its client is in, narrowest first. They are
-/// named by keyed digests only, so that whoever sees a name learns nothing of the address.
+/// Whose limits count for a request: the networks of its client, narrowest first. Their names are
+/// keyed digests, which do not reveal the address.
 struct Visitor {
     std::vector<std::string> networks;
 };
@@ -24,7 +24,7 @@ public:
 
     bool IsProxy(std::string_view peer) const;
     Visitor At(std::string_view address) const;
-    /// What the trusted proxy at the other end says of its client.
+    /// The client that the trusted proxy at the other end names.
     Visitor Behind(const Request& request) const;
 
 private:

@@ -6,13 +6,13 @@
 
 namespace exchange {
 
-/// Ends statements that take too long. One thread looks at all connections of the process a few
-/// times a second.
+/// Ends statements that take too long. One thread checks all connections of the process, many times
+/// a second.
 namespace Watchdog {
 using Clock = std::chrono::steady_clock;
 
-/// Watches one connection. `interrupt` is called from the thread of the watchdog while a statement
-/// runs beyond its time; it must make the statement fail.
+/// Watches one connection. The thread of the watchdog calls `interrupt` when a statement takes too
+/// long; it must make the statement fail.
 class Watch {
 public:
     explicit Watch(std::function<void()> interrupt);
@@ -30,7 +30,7 @@ private:
     Clock::time_point end_ = Clock::time_point::max();
 };
 
-/// From now on every statement has a few seconds at most, since the server is to end.
+/// From now on, every statement gets a few seconds at most: the server is about to end.
 void Hurry();
 } // namespace Watchdog
 

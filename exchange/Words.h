@@ -8,9 +8,9 @@
 
 namespace exchange {
 
-/// The words that a public recipe is found by: those of its name and of its ingredients, each once,
-/// in small letters without accents and in the singular, so that both databases find alike. The
-/// first of them count: no recipe is found by everything.
+/// The words that a public recipe is found by: those of its name and its ingredients, each once, in
+/// lower case without accents and in the singular, so that both databases find the same. Only the
+/// first ones count, so that no recipe is found by every search.
 namespace Words {
 inline constexpr size_t MostOfARecipe = 1000;
 std::vector<std::string> Of(std::string_view text); ///< letters and digits only

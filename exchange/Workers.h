@@ -11,12 +11,12 @@
 
 namespace exchange {
 
-/// Threads that do the work which may take time. Each client has a queue of its own, and the queues
-/// take turns: one that asks for much waits for itself. No client ever has all of the threads.
+/// Threads for work that may take time. Each client has a queue, and the queues take turns, so a
+/// client with many requests delays only itself. No client ever has all of the threads.
 class Workers {
 public:
     explicit Workers(int threads);
-    ~Workers(); ///< drops what has not begun, and waits for the rest
+    ~Workers(); ///< drops jobs that have not begun, and waits for the others
     Workers(const Workers&) = delete;
     Workers& operator=(const Workers&) = delete;
 

@@ -18,7 +18,7 @@ WriteGate::Turn::Turn(WriteGate& gate, bool alone)
         return;
     if (!gate_.moved_.wait_for(lock, LongestWait, [this] { return !gate_.writing_; })) {
         gate_.LeaveSeat();
-        throw std::runtime_error("the writer did not get its turn in time");
+        throw std::runtime_error("a write has waited too long for its turn");
     }
     gate_.writing_ = true;
 }
@@ -39,7 +39,7 @@ void WriteGate::TakeSeat(std::unique_lock<std::mutex>& lock) {
     while (taken_ >= seats_)
         if (moved_.wait_until(lock, lastMove_ + Standstill) == std::cv_status::timeout &&
             Clock::now() >= lastMove_ + Standstill && taken_ >= seats_)
-            throw std::runtime_error("writing is held up");
+            throw std::runtime_error("writes are blocked");
     ++taken_;
     lastMove_ = Clock::now();
 }

@@ -6,15 +6,16 @@
 
 namespace exchange {
 
-/// The turns of those who write. On the embedded database one writes at a time. On either database,
-/// only so many may write or wait for it as there are seats: when writing is held up, the other
-/// workers go on reading.
+/// Lets threads write in turn. On SQLite, one writes at a time. On either database, only as many
+/// threads may write or wait to write as there are seats: if writes are blocked, the other workers
+/// still read.
 class WriteGate {
 public:
     explicit WriteGate(int seats)
         : seats_(seats) {}
 
-    /// Held while its owner writes. Fails if nobody has come or gone for too long.
+    /// Held while its owner writes. Its constructor fails if no seat has been taken or left for too
+    /// long.
     class Turn {
     public:
         Turn(WriteGate& gate, bool alone);

@@ -35,21 +35,21 @@ struct Act {
 };
 constexpr const char* NoRecipe = "There is no such recipe.\n";
 constexpr Act Acts[] = {
-    {"--hide", "keep a recipe from everybody", &Moderation::Hide, "The recipe is hidden.\n",
+    {"--hide", "hide a recipe from everybody", &Moderation::Hide, "The recipe is hidden.\n",
      "There is no such recipe, or it is hidden already.\n"},
     {"--show", "show a hidden recipe again", &Moderation::Show, "The recipe is shown again.\n",
      "There is no such recipe, or it is not hidden.\n"},
-    {"--remove", "take a recipe away for good", &Moderation::Remove, "The recipe is removed.\n",
+    {"--remove", "remove a recipe for good", &Moderation::Remove, "The recipe is removed.\n",
      NoRecipe},
-    {"--dismiss", "forget the reports of a recipe", &Moderation::Dismiss,
-     "The reports are forgotten.\n", "There is no report of such a recipe.\n"},
+    {"--dismiss", "delete the reports of a recipe", &Moderation::Dismiss,
+     "The reports are deleted.\n", "There is no such recipe, or it has no reports.\n"},
 };
 
 std::vector<CommandLine::Option> Options() {
     std::vector<CommandLine::Option> options = {
-        {"--check", "", "read the settings and reach the database"},
+        {"--check", "", "check the settings and the database"},
         {"--reported", "", "list the recipes that readers have reported"},
-        {"--nomail", "ADDRESS", "send no more mails to an address"}};
+        {"--nomail", "ADDRESS", "send no more mail to an address"}};
     for (const auto& act : Acts)
         options.push_back({std::string(act.option), "ID", act.help});
     return options;
@@ -62,7 +62,7 @@ const Act* ActOf(std::string_view option) {
     return nullptr;
 }
 
-/// The signals that end the server reach nobody but the one who waits for them.
+/// Only the thread that waits for them gets the signals that end the server.
 sigset_t HoldSignals() {
     sigset_t ends;
     sigemptyset(&ends);
@@ -79,7 +79,7 @@ void KeepMemorySmall() {
     ::mallopt(M_MMAP_THRESHOLD, large);
 }
 
-/// A connection takes a descriptor, and so does what a worker has open of the database.
+/// Each connection takes a descriptor, and each worker some for the database.
 void ClaimDescriptors(const Config& config) {
     const auto wanted =
         static_cast<rlim_t>(config.connections) + 8 * static_cast<rlim_t>(config.workers) + 192;
@@ -87,7 +87,7 @@ void ClaimDescriptors(const Config& config) {
     getrlimit(RLIMIT_NOFILE, &limit);
     if (limit.rlim_max < wanted)
         throw ConfigError("connections = " + std::to_string(config.connections) + " needs " +
-                          std::to_string(wanted) + " descriptors, and the system allows " +
+                          std::to_string(wanted) + " descriptors, but the system allows only " +
                           std::to_string(limit.rlim_max));
     limit.rlim_cur = std::max(limit.rlim_cur, wanted);
     setrlimit(RLIMIT_NOFILE, &limit);
@@ -159,7 +159,7 @@ int Say(bool done, const char* text, const char* otherwise) {
 int EndMails(Connection& connection, const Config& config, const std::string& address) {
     const NoMail noMail(SecretOf(config));
     const bool done = IsMailAddress(address) && noMail.Note(connection, noMail.TokenFor(address));
-    return Say(done, "No more mails go to this address.\n", "This is no mail address.\n");
+    return Say(done, "This address gets no more mail.\n", "This is not a mail address.\n");
 }
 
 /// Runs a command of the operator.

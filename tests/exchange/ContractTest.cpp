@@ -7,7 +7,8 @@
 #include <limits>
 #include <set>
 
-/// What the program relies on when it imports and sends; docs/exchange-wire.md is where it is written.
+/// What the program relies on when it imports and sends; docs/exchange-wire.md is where it is
+/// written.
 class ContractTest : public ExchangeTest {
 protected:
     void SetUp() override { Start(); }
@@ -273,7 +274,7 @@ TEST_P(ContractTest, OneBadRowAmongGoodOnesStoresNone) {
     EXPECT_EQ(Count("SELECT IngredientCount FROM recipes"), 0);
 }
 
-TEST_P(ContractTest, MoreIngredientsThanTheLimitAreRefusedTogetherOrBitByBit) {
+TEST_P(ContractTest, TooManyIngredientsAreRefusedInOneOrSeveralRequests) {
     Restart({{"ingredients_per_recipe", "3"}});
     const auto created = Create();
     const auto path = Path(created.id) + "/ingredients";

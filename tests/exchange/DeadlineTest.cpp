@@ -12,7 +12,7 @@ using Clock = std::chrono::steady_clock;
 using std::chrono::seconds;
 } // namespace
 
-/// A database that hangs costs a reader and a writer a bounded time, and then all is well again.
+/// A database that hangs holds up readers and writers for a limited time. Then all is well again.
 class DeadlineTest : public ExchangeTest {
 protected:
     int StatusOf(const std::string& path) {
@@ -45,7 +45,7 @@ protected:
 };
 INSTANTIATE_TEST_SUITE_P(DeadlineTest, ServerDeadlineTest, testing::Values("postgresql"));
 
-TEST_P(ServerDeadlineTest, AServerThatIsFrozenIsGivenUpInSecondsAndUsedAgain) {
+TEST_P(ServerDeadlineTest, AFrozenDatabaseIsGivenUpInSecondsAndUsedAgain) {
     Start();
     const auto path = "/halvane/api/recipes/" + std::to_string(Send());
     EXPECT_EQ(StatusOf(path), 200);
@@ -72,7 +72,7 @@ TEST_P(ServerDeadlineTest, ASignalEndsTheServerWhoseDatabaseIsFrozen) {
     Cluster::One().Thaw();
 }
 
-TEST_P(ServerDeadlineTest, AServerThatIsKilledAndStartedAgainIsUsedAgain) {
+TEST_P(ServerDeadlineTest, ADatabaseThatWasKilledAndRestartedIsUsedAgain) {
     Start();
     const auto path = "/halvane/api/recipes/" + std::to_string(Send());
     Cluster::One().Kill();
@@ -81,7 +81,7 @@ TEST_P(ServerDeadlineTest, AServerThatIsKilledAndStartedAgainIsUsedAgain) {
     ExpectWellAgain(path);
 }
 
-TEST_P(ServerDeadlineTest, ALineThatIsCutIsNoticedInSeconds) {
+TEST_P(ServerDeadlineTest, ASilentConnectionToTheDatabaseIsNoticedInSeconds) {
     Proxy proxy(Cluster::One().Socket() + "/.s.PGSQL.5432");
     const auto address =
         "postgresql://postgres@127.0.0.1:" + std::to_string(proxy.Port()) + "/" + Name(Database());
@@ -95,7 +95,7 @@ TEST_P(ServerDeadlineTest, ALineThatIsCutIsNoticedInSeconds) {
     ExpectEndsSoon();
 }
 
-TEST_P(ServerDeadlineTest, AReadThatTakesTooLongIsEndedAndTheNextOneIsServed) {
+TEST_P(ServerDeadlineTest, ALongReadIsEndedAndTheNextOneIsServed) {
     exchange::Connection connection(Database());
     std::string nothing;
     const auto begin = Clock::now();
@@ -140,7 +140,7 @@ TEST_P(FileDeadlineTest, ReadersGoOnWhileWritersWaitForAnotherProgram) {
     EXPECT_EQ(Post("/halvane/api/recipes", Soup())->status, 201);
 }
 
-TEST_P(FileDeadlineTest, AReadThatTakesTooLongIsEnded) {
+TEST_P(FileDeadlineTest, ALongReadIsEnded) {
     exchange::Connection connection(Database());
     long long count = 0;
     const auto begin = Clock::now();

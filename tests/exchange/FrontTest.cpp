@@ -5,7 +5,7 @@
 #include <filesystem>
 #include <fstream>
 
-/// Who is let in, what is refused before any handler sees it, and how.
+/// Which connections are accepted, and what is refused before it reaches a handler.
 class FrontTest : public ExchangeTest {
 protected:
     using Headers = httplib::Headers;
@@ -106,7 +106,7 @@ TEST_P(FrontTest, EveryRefusalHasTheStrictHeaders) {
     }
 }
 
-TEST_P(FrontTest, AHeadThatDoesNotComeInTimeIsToldSo) {
+TEST_P(FrontTest, ALateHeadGets408) {
     Start({{"request_seconds", "1"}});
     EXPECT_EQ(RawClient::Status(RawClient::Talk(Running().Port(), "GET / HT")), 408);
 }
@@ -120,7 +120,7 @@ TEST_P(FrontTest, AReplyToAHeadRequestHasTheLengthAndNoBody) {
     EXPECT_EQ(reply.find("Content-Length: 0\r"), std::string::npos);
 }
 
-TEST_P(FrontTest, AClientThatHasSaidAllItHadToSayStillGetsItsReply) {
+TEST_P(FrontTest, AClientThatHasFinishedSendingStillGetsItsReply) {
     Start();
     RawClient client(Running().Port());
     client.Send(GetOf("/ready"));
@@ -128,7 +128,7 @@ TEST_P(FrontTest, AClientThatHasSaidAllItHadToSayStillGetsItsReply) {
     EXPECT_EQ(RawClient::Status(client.ReadToEnd()), 200);
 }
 
-TEST_P(FrontTest, SixteenAddressesCannotShutTheDoor) {
+TEST_P(FrontTest, SixteenAddressesCannotTakeAllConnections) {
     Start({{"connections", "64"}, {"connections_per_client", "4"}});
     std::vector<std::vector<std::unique_ptr<RawClient>>> crowd;
     for (int i = 1; i <= 16; ++i)
@@ -137,7 +137,7 @@ TEST_P(FrontTest, SixteenAddressesCannotShutTheDoor) {
     EXPECT_EQ(others.size(), 3U);
 }
 
-TEST_P(FrontTest, AConnectionThatWaitsGoesBeforeOneThatSends) {
+TEST_P(FrontTest, AnIdleConnectionIsClosedBeforeABusyOne) {
     Start({{"connections", "3"}, {"connections_per_client", "3"}});
     const auto waiting = Served(Running().Port(), 1, "127.1.0.1");
     RawClient first(Running().Port(), "127.1.0.1");
@@ -150,7 +150,7 @@ TEST_P(FrontTest, AConnectionThatWaitsGoesBeforeOneThatSends) {
     EXPECT_EQ(RawClient::Status(first.ReadReply()), 200);
 }
 
-TEST_P(FrontTest, BodiesThatNeverEndTakeNoMoreThanTheirMeasure) {
+TEST_P(FrontTest, UnfinishedBodiesKeepToTheirMemoryLimit) {
     if (OnServer())
         return;
     Start({{"connections", "1100"}, {"connections_per_client", "1100"}});
@@ -166,7 +166,7 @@ TEST_P(FrontTest, BodiesThatNeverEndTakeNoMoreThanTheirMeasure) {
     EXPECT_EQ(Get("/health")->status, 200);
 }
 
-TEST_P(FrontTest, TheSecretIsMadeOnceAndForItsOwnerAlone) {
+TEST_P(FrontTest, TheSecretIsCreatedOnceAndOnlyForItsOwner) {
     const Folder folder;
     const std::string secret = folder / "secret";
     Start({{"secret", ""}, {"secret_file", secret}});
@@ -181,7 +181,7 @@ TEST_P(FrontTest, TheSecretIsMadeOnceAndForItsOwnerAlone) {
 class StuckWorkerTest : public FrontTest {};
 INSTANTIATE_TEST_SUITE_P(FrontTest, StuckWorkerTest, testing::Values("postgresql"));
 
-TEST_P(StuckWorkerTest, ReadinessIsToldWithinASecondAndHealthAtOnce) {
+TEST_P(StuckWorkerTest, ReadyAnswersInTimeAndHealthAtOnceWhileWorkersAreStuck) {
     Start({{"workers", "2"}});
     exchange::Connection holder(Database());
     exchange::Transaction held(holder);

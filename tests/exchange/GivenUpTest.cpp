@@ -45,13 +45,13 @@ private:
     Front front_{config_, router_, visitors_};
 };
 
-TEST_F(GivenUpTest, AnAddressOfTheProgramGetsAReasonInJson) {
+TEST_F(GivenUpTest, AnApiPathGetsAReasonInJson) {
     const auto reply = Ask503(Api);
     EXPECT_NE(reply.find("Content-Type: application/json\r\n"), std::string::npos);
     EXPECT_EQ(RawClient::Body(reply), R"({"reason":"The service is not available just now."})");
 }
 
-TEST_F(GivenUpTest, WhoSendsGetsASentence) {
+TEST_F(GivenUpTest, ASenderGetsASentence) {
     const auto reply = Ask503(Sending);
     EXPECT_NE(reply.find("Content-Type: text/plain; charset=utf-8\r\n"), std::string::npos);
     EXPECT_EQ(RawClient::Body(reply), "The service is not available just now.");

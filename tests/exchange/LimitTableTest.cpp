@@ -14,13 +14,13 @@ TEST(LimitTableTest, ThePageShowsEachLimitAsItIs) {
         EXPECT_NE(page.find("\n" + limit.Row() + "\n"), std::string::npos) << limit.Row();
 }
 
-TEST(LimitTableTest, EachDefaultIsOneThatTheSettingTakes) {
+TEST(LimitTableTest, EachDefaultIsAValidValue) {
     for (const auto& limit : SettableLimits())
         EXPECT_NO_THROW(Config().Set(limit.setting, std::to_string(limit.Default())))
             << limit.setting;
 }
 
-TEST(LimitTableTest, WhatIsOutsideOfTheBoundsIsNotTaken) {
+TEST(LimitTableTest, ValuesOutsideTheBoundsAreRefused) {
     for (const auto& limit : SettableLimits()) {
         Config config;
         EXPECT_THROW(config.Set(limit.setting, std::to_string(limit.least - 1)), ConfigError);
@@ -28,14 +28,14 @@ TEST(LimitTableTest, WhatIsOutsideOfTheBoundsIsNotTaken) {
     }
 }
 
-TEST(LimitTableTest, WhatIsFixedHasNoSettingAndStandsBehindTheOthers) {
+TEST(LimitTableTest, FixedLimitsHaveNoSettingAndComeLast) {
     const auto settable = SettableLimits().size();
     ASSERT_LT(settable, AllLimits().size());
     for (const auto& limit : AllLimits().subspan(settable))
         EXPECT_TRUE(limit.IsFixed()) << limit.name;
 }
 
-TEST(LimitTableTest, ThePageHasNoRowThatIsNotOfTheTable) {
+TEST(LimitTableTest, ThePageHasNoOtherRows) {
     const auto page = ReadFile(std::string(HALVANE_SOURCE_DIR) + "/docs/exchange.md");
     const auto begin = page.find("| limit | setting |");
     ASSERT_NE(begin, std::string::npos);

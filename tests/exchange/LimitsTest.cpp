@@ -13,7 +13,7 @@ protected:
 };
 ON_BOTH_DATABASES(LimitsTest);
 
-TEST_P(LimitsTest, AClientCreatesSoManyRecipesADay) {
+TEST_P(LimitsTest, RecipesOfAClientAreLimitedPerDay) {
     Start({{"recipes_per_client_day", "3"}});
     for (int i = 0; i < 3; ++i)
         Create();
@@ -30,14 +30,14 @@ TEST_P(LimitsTest, ABodyThatIsRefusedUsesUpTheLimitToo) {
     EXPECT_EQ(Post("/halvane/api/recipes", Soup())->status, 429);
 }
 
-TEST_P(LimitsTest, AllClientsTogetherCreateSoManyRecipesADay) {
+TEST_P(LimitsTest, RecipesOfAllClientsAreLimitedPerDay) {
     Start({{"recipes_per_day", "2"}});
     Create();
     Create();
     EXPECT_EQ(Post("/halvane/api/recipes", Soup())->status, 429);
 }
 
-TEST_P(LimitsTest, WhatOneLimitRefusesUsesUpNothingOfTheOthers) {
+TEST_P(LimitsTest, ARefusalByOneLimitDoesNotCountForTheOthers) {
     Start({{"recipes_per_day", "1"}});
     Create();
     for (int i = 0; i < 3; ++i)
@@ -75,7 +75,7 @@ TEST_P(LimitsTest, GuessingIDsIsStoppedAtEveryAddress) {
     EXPECT_EQ(StatusOf("/halvane/sendrecipe.asp?recID=" + id), 429);
 }
 
-TEST_P(LimitsTest, WhoGuessesTooMuchSendsNoRecipeOfOthers) {
+TEST_P(LimitsTest, AfterTooManyGuessesAClientSendsNoRecipeOfOthers) {
     Start({{"misses_per_client_hour", "1"}, {"trusted_proxies", "127.0.0.1"}});
     const auto path = "/halvane/sendrecipe.asp?recID=" + std::to_string(Create().id);
     EXPECT_EQ(GetAs("192.0.2.1", "/halvane/sendrecipe.asp?recID=14")->status, 404);
@@ -85,7 +85,7 @@ TEST_P(LimitsTest, WhoGuessesTooMuchSendsNoRecipeOfOthers) {
     EXPECT_EQ(Count("SELECT COUNT(*) FROM documents"), 1);
 }
 
-TEST_P(LimitsTest, ClientsBehindATrustedProxyAreCountedApart) {
+TEST_P(LimitsTest, ClientsBehindATrustedProxyAreCountedSeparately) {
     Start({{"misses_per_client_hour", "1"}, {"trusted_proxies", "127.0.0.1"}});
     EXPECT_EQ(GetAs("192.0.2.1", "/halvane/api/recipes/11")->status, 404);
     EXPECT_EQ(GetAs("192.0.2.1", "/halvane/api/recipes/12")->status, 429);
@@ -102,7 +102,7 @@ TEST_P(LimitsTest, AHouseholdWithItsManyAddressesIsOneClient) {
     EXPECT_EQ(GetAs("2001:db8:1:3::1", "/halvane/api/recipes/13")->status, 404);
 }
 
-TEST_P(LimitsTest, ASayingOfTheClientItselfIsNotBelieved) {
+TEST_P(LimitsTest, XForwardedForOfAClientIsIgnored) {
     Start({{"misses_per_client_hour", "1"}});
     EXPECT_EQ(GetAs("192.0.2.1", "/halvane/api/recipes/11")->status, 404);
     EXPECT_EQ(GetAs("192.0.2.2", "/halvane/api/recipes/12")->status, 429);
@@ -156,7 +156,7 @@ TEST_P(LimitsTest, OneNetworkCreatesATenthOfTheDaysRecipesAtMost) {
     EXPECT_EQ(statusAs("192.1.2.1"), 201);
 }
 
-TEST_P(LimitsTest, WhenAllMissTooOftenThoseWhoKnowTheirNumbersGoOn) {
+TEST_P(LimitsTest, WhenAllMissTooOftenKnownIDsAreStillServed) {
     Start({{"misses_per_client_hour", "20"},
            {"misses_per_hour", "3"},
            {"trusted_proxies", "127.0.0.1"}});
@@ -170,7 +170,7 @@ TEST_P(LimitsTest, WhenAllMissTooOftenThoseWhoKnowTheirNumbersGoOn) {
     EXPECT_EQ(GetAs("192.1.2.1", known)->status, 200) << "one mistake hinders nobody";
 }
 
-TEST_P(LimitsTest, SearchesAndPagesAreCountedApartAndTellWhenToComeBack) {
+TEST_P(LimitsTest, SearchesAndPagesHaveTheirOwnLimitsWithRetryAfter) {
     Start({{"searches_per_client_minute", "2"},
            {"pages_per_client_minute", "3"},
            {"trusted_proxies", "127.0.0.1"}});
@@ -188,14 +188,14 @@ TEST_P(LimitsTest, SearchesAndPagesAreCountedApartAndTellWhenToComeBack) {
     EXPECT_EQ(GetAs("192.0.2.2", search)->status, 200) << "another client has its own number";
 }
 
-TEST_P(LimitsTest, WhoGuessesTooMuchIsToldToComeBackInAnHour) {
+TEST_P(LimitsTest, AfterTooManyGuessesRetryAfterIsAnHour) {
     Start({{"misses_per_client_hour", "1"}});
     Get("/halvane/api/recipes/11");
     for (const auto* path : {"/halvane/api/recipes/12", "/halvane/sendrecipe.asp?recID=12"})
         EXPECT_EQ(Get(path)->get_header_value("Retry-After"), "3600") << path;
 }
 
-TEST_P(LimitsTest, CountersNameNobody) {
+TEST_P(LimitsTest, CountersDoNotIdentifyClients) {
     Start();
     Get("/halvane/api/recipes/11");
     EXPECT_EQ(Count("SELECT COUNT(*) FROM counters"), 4) << "three networks, and all";

@@ -15,7 +15,7 @@ TEST(MailAddressTest, PlainAddressesAreTaken) {
     EXPECT_TRUE(IsMailAddress(std::string(64, 'a') + "@example.org"));
 }
 
-TEST(MailAddressTest, WhatIsNotOneAddressOrLeadsElsewhereIsRefused) {
+TEST(MailAddressTest, InvalidAndRoutedAddressesAreRefused) {
     for (const auto* text : AbuseCases::NoMailAddresses())
         EXPECT_FALSE(IsMailAddress(text)) << text;
     EXPECT_FALSE(IsMailAddress(""));
@@ -34,7 +34,7 @@ TEST(MailAddressTest, TagsDoNotMakeAnotherMailbox) {
     EXPECT_EQ(MailboxOf("bert-1@example.org"), "bert-1@example.org");
 }
 
-TEST(MailAddressTest, MarksThatTheHostIgnoresDoNotMakeAnotherMailbox) {
+TEST(MailAddressTest, CharactersThatTheHostIgnoresDoNotMakeAnotherMailbox) {
     EXPECT_EQ(MailboxOf("b.e.r.t+x@gmail.com"), "bert@gmail.com");
     EXPECT_EQ(MailboxOf("be.rt@googlemail.com"), "bert@gmail.com");
     EXPECT_EQ(MailboxOf("b_e-r.t@pm.me"), "bert@proton.me");
@@ -42,7 +42,7 @@ TEST(MailAddressTest, MarksThatTheHostIgnoresDoNotMakeAnotherMailbox) {
     EXPECT_EQ(MailboxOf("b.ert@gmail.com.example.org"), "b.ert@gmail.com.example.org");
 }
 
-TEST(MailAddressTest, ATextThatIsNoAddressHasAMailboxAllTheSame) {
+TEST(MailAddressTest, AnInvalidAddressHasAMailboxToo) {
     EXPECT_EQ(MailboxOf(""), "@");
     EXPECT_EQ(MailboxOf("a+b"), "a@");
     EXPECT_EQ(MailboxOf("@"), "@");

@@ -82,13 +82,11 @@ protected:
             if (recipe % Unfinished == 0)
                 continue;
             const int id = recipe + 1;
-            const auto text = json{{"RecipeID", id},
-                                   {"RecipeName", "Recipe " + std::to_string(recipe)},
-                                   {"ServingName", "1 bowl"},
-                                   {"RecipeYield", 4.5},
-                                   {"PrepTime", recipe},
-                                   {"Instructions", "Cook " + std::to_string(recipe)}}
-                                  .dump();
+            const auto text =
+                json{{"RecipeID", id},          {"RecipeName", "Recipe " + std::to_string(recipe)},
+                     {"ServingName", "1 bowl"}, {"RecipeYield", 4.5},
+                     {"PrepTime", recipe},      {"Instructions", "Cook " + std::to_string(recipe)}}
+                    .dump();
             connection.Change("INSERT INTO documents VALUES (:id, :recipe, :ingredients)",
                               soci::use(id), soci::use(text), soci::use(OldDocument(recipe)));
         }

@@ -3,7 +3,7 @@
 #include <cstdlib>
 #include <regex>
 
-/// Reports of readers, and what the operator does about them.
+/// Reports of readers, and the commands of the operator.
 class ModerationTest : public ExchangeTest {
 protected:
     static constexpr const char* Secret = "the secret of the tests, which is long enough";
@@ -111,7 +111,7 @@ TEST_P(ModerationTest, AReportReachesTheOperator) {
     const auto said = Operate({"--reported"}).text;
     EXPECT_NE(said.find(std::to_string(id) + "  Lentil soup (1 report)\n"), std::string::npos)
         << said;
-    EXPECT_NE(said.find("  It is advertising or a trick: Buy [2J here!\n"), std::string::npos)
+    EXPECT_NE(said.find("  It is advertising or a scam: Buy [2J here!\n"), std::string::npos)
         << said;
     EXPECT_LT(said.find(std::to_string(id)), said.find(std::to_string(other)))
         << "the newest first";
@@ -125,7 +125,7 @@ TEST_P(ModerationTest, TheReportsOfARecipeAreDismissedOrGoWithIt) {
     const int other = Send();
     Report(one, Token(one));
     Report(other, Token(other));
-    EXPECT_EQ(Operate({"--dismiss", std::to_string(one)}).text, "The reports are forgotten.\n");
+    EXPECT_EQ(Operate({"--dismiss", std::to_string(one)}).text, "The reports are deleted.\n");
     EXPECT_EQ(Operate({"--dismiss", std::to_string(one)}).code, 1);
     EXPECT_EQ(Get(Path(one))->status, 200);
     Operate({"--remove", std::to_string(other)});
@@ -170,7 +170,7 @@ TEST_P(ModerationTest, OfOneRecipeTwentyReportsAreKept) {
     EXPECT_EQ(Count("SELECT COUNT(*) FROM reports"), 20);
 }
 
-TEST_P(ModerationTest, TheOperatorIsToldWhatACommandNeeds) {
+TEST_P(ModerationTest, ACommandWithAWrongArgumentIsRefused) {
     StartWith();
     for (const auto* command : {"--hide", "--show", "--remove", "--dismiss"}) {
         EXPECT_EQ(Operate({command}).code, 2) << command;

@@ -19,7 +19,7 @@ bool Has(std::string_view network, std::string_view address) {
 }
 } // namespace
 
-TEST(NetworkAddressTest, AnAddressHasOneWayToBeWritten) {
+TEST(NetworkAddressTest, AnAddressHasOneWrittenForm) {
     EXPECT_EQ(Read("192.0.2.1"), "192.0.2.1");
     EXPECT_EQ(Read("0:0:0:0:0:0:0:1"), "::1");
     EXPECT_EQ(Read("2001:DB8::A"), "2001:db8::a");
@@ -30,7 +30,7 @@ TEST(NetworkAddressTest, Ipv4WithinIpv6IsIpv4) {
     EXPECT_EQ(Read("::FFFF:c000:201"), "192.0.2.1");
 }
 
-TEST(NetworkAddressTest, WhatIsNoAddressIsNotRead) {
+TEST(NetworkAddressTest, InvalidAddressesAreRefused) {
     for (const auto* text :
          {"", "localhost", "192.0.2", "192.0.2.1:80", "10.0.0.0/8", "::g", " ::1"})
         EXPECT_FALSE(NetworkAddress::Read(text)) << text;
@@ -55,7 +55,7 @@ TEST(NetworkAddressTest, AClientIsInNetworksOfGrowingWidth) {
               (std::vector<std::string>{"192.0.2.77/32", "192.0.2.0/24", "192.0.0.0/16"}));
 }
 
-TEST(NetworkAddressTest, ANetworkHasTheAddressesThatBeginAsItDoes) {
+TEST(NetworkAddressTest, ANetworkContainsTheAddressesWithItsPrefix) {
     EXPECT_TRUE(Has("10.0.0.0/8", "10.255.0.1"));
     EXPECT_TRUE(Has("10.0.0.0/8", "::ffff:10.1.2.3"));
     EXPECT_FALSE(Has("10.0.0.0/8", "11.0.0.1"));
@@ -67,7 +67,7 @@ TEST(NetworkAddressTest, ANetworkHasTheAddressesThatBeginAsItDoes) {
     EXPECT_FALSE(Has("0.0.0.0/0", "2001:db8::1"));
 }
 
-TEST(NetworkAddressTest, ANetworkOfAWidthThatThereIsNotIsNotRead) {
+TEST(NetworkAddressTest, ANetworkWithAnImpossibleWidthIsRefused) {
     for (const auto* text : {"10.0.0.0/33", "::/129", "10.0.0.0/", "10.0.0.0/-1", "/8", "x/8"})
         EXPECT_FALSE(Network::Read(text)) << text;
 }

@@ -38,7 +38,7 @@ protected:
 };
 ON_BOTH_DATABASES(NoMailTest);
 
-TEST_P(NoMailTest, EachMailSaysHowToHaveNoMore) {
+TEST_P(NoMailTest, EachMailTellsHowToStopTheMails) {
     StartMailing();
     SendTo("bert@example.org");
     const auto mail = FirstMail();
@@ -46,13 +46,13 @@ TEST_P(NoMailTest, EachMailSaysHowToHaveNoMore) {
     const auto link = "https://halvane.test/halvane/nomail.asp?token=" + token;
     EXPECT_EQ(mail.Header("List-Unsubscribe"), "<" + link + ">");
     EXPECT_EQ(mail.Header("List-Unsubscribe-Post"), "List-Unsubscribe=One-Click");
-    EXPECT_NE(mail.Body().find("To have no more mails from here, open this page and press the "
-                               "button:\n" +
+    EXPECT_NE(mail.Body().find("To get no more mail from this server, open this page and press "
+                               "the button:\n" +
                                link),
               std::string::npos);
 }
 
-TEST_P(NoMailTest, WithoutAnAddressOfTheServerAMailSaysWhomToWrite) {
+TEST_P(NoMailTest, WithoutAPublicUrlAMailNamesAnAddressToWriteTo) {
     StartMailing("");
     SendTo("bert@example.org");
     const auto mail = FirstMail();
@@ -61,7 +61,7 @@ TEST_P(NoMailTest, WithoutAnAddressOfTheServerAMailSaysWhomToWrite) {
     EXPECT_NE(mail.Body().find("write to recipes@halvane.test"), std::string::npos);
 }
 
-TEST_P(NoMailTest, APressOnTheButtonEndsTheMailsOfEveryWayToWriteTheAddress) {
+TEST_P(NoMailTest, TheButtonStopsTheMailsToEverySpellingOfTheAddress) {
     StartMailing();
     SendTo("bert@example.org");
     const auto link = Link();
@@ -69,15 +69,16 @@ TEST_P(NoMailTest, APressOnTheButtonEndsTheMailsOfEveryWayToWriteTheAddress) {
     EXPECT_EQ(Count("SELECT COUNT(*) FROM no_mail"), 0) << "a look at the page is no press";
     const auto reply = Running().Client().Post(link, "", "application/x-www-form-urlencoded");
     EXPECT_EQ(reply->status, 200);
-    EXPECT_NE(reply->body.find("will send no more mails to your address"), std::string::npos);
+    EXPECT_NE(reply->body.find("will send no more mail to your address"), std::string::npos);
     for (const auto* address : {"bert@example.org", "BERT@example.org", "bert+soup@example.org"})
-        EXPECT_NE(SendTo(address).find("wants no mails from here"), std::string::npos) << address;
+        EXPECT_NE(SendTo(address).find("does not want mail from this server"), std::string::npos)
+            << address;
     SendTo("carl@example.org");
     EXPECT_TRUE(Until([&] { return sink_.Mails().size() == 2; }));
     EXPECT_EQ(sink_.Mails()[1].to, std::vector<std::string>{"carl@example.org"});
 }
 
-TEST_P(NoMailTest, AMailProgramDoesItByOneRequest) {
+TEST_P(NoMailTest, AMailProgramCanStopTheMailsWithOneRequest) {
     StartMailing();
     SendTo("bert@example.org");
     for (const auto* type :
@@ -98,17 +99,18 @@ TEST_P(NoMailTest, TheDatabaseHoldsNoAddressAndNoToken) {
         404);
 }
 
-TEST_P(NoMailTest, TheOperatorEndsTheMailsToAnAddressByACommand) {
+TEST_P(NoMailTest, TheOperatorCanStopTheMailsToAnAddress) {
     StartMailing();
     ::setenv("HALVANE_EXCHANGE_DATABASE", Database().c_str(), 1);
     ::setenv("HALVANE_EXCHANGE_SECRET", Secret, 1);
     EXPECT_EQ(Process::Run({Server::Program(), "--nomail", "bert@example.org"}), 0);
     ::unsetenv("HALVANE_EXCHANGE_DATABASE");
     ::unsetenv("HALVANE_EXCHANGE_SECRET");
-    EXPECT_NE(SendTo("bert@example.org").find("wants no mails from here"), std::string::npos);
+    EXPECT_NE(SendTo("bert@example.org").find("does not want mail from this server"),
+              std::string::npos);
 }
 
-TEST(NoMailTokenTest, ATokenFitsItsSecretAndNoOther) {
+TEST(NoMailTokenTest, ATokenIsValidOnlyForItsSecret) {
     const exchange::NoMail one("one");
     const auto token = one.TokenFor("bert@example.org");
     EXPECT_TRUE(one.IsToken(token));

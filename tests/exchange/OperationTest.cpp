@@ -39,7 +39,7 @@ protected:
 };
 ON_BOTH_DATABASES(OperationTest);
 
-TEST_P(OperationTest, HealthAndReadinessAreTold) {
+TEST_P(OperationTest, HealthAndReadyAnswer) {
     Start();
     EXPECT_EQ(Text("/health"), "{\"healthy\":true}");
     EXPECT_EQ(Text("/ready"), "{\"ready\":true}");
@@ -106,7 +106,7 @@ TEST_P(OperationTest, ALogThatNobodyReadsDoesNotKeepItFromEnding) {
     ::close(reader);
 }
 
-TEST_P(OperationTest, TheCommandLineCountsBeforeTheEnvironmentAndThatBeforeTheFile) {
+TEST_P(OperationTest, TheCommandLineOverridesTheEnvironmentAndThatTheFile) {
     WriteFile(folder_ / "exchange.conf", "mail_relay = ftp://file\nport = 0");
     const std::vector<std::string> check = {"--config", folder_ / "exchange.conf", "--check"};
     EXPECT_NE(RunServer(check).output.find("mail_relay must begin"), std::string::npos);
@@ -169,7 +169,7 @@ TEST_P(OperationTest, ARemovedRecipeIsGoneFromEveryPlace) {
         EXPECT_EQ(Count("SELECT COUNT(*) FROM " + std::string(table)), 0) << table;
 }
 
-TEST_P(OperationTest, AnUnusableConfigurationIsNamedAndRefused) {
+TEST_P(OperationTest, AnInvalidConfigurationIsRefusedWithAReason) {
     struct Case {
         const char* line;
         const char* said;
@@ -194,7 +194,7 @@ TEST_P(OperationTest, AnUnusableConfigurationIsNamedAndRefused) {
     EXPECT_EQ(RunServer({"--what"}).code, 2);
 }
 
-TEST_P(OperationTest, ADatabaseThatCannotBeReachedIsNoFaultOfTheConfiguration) {
+TEST_P(OperationTest, AnUnreachableDatabaseIsNotAConfigurationError) {
     const auto outcome = RunWith(OnServer() ? "database = postgresql:host=/nowhere"
                                             : "database = /nowhere/exchange.db");
     EXPECT_EQ(outcome.code, 3);
@@ -218,7 +218,7 @@ TEST_P(OperationTest, AFailureIsLoggedWithoutTheTextsThatItWasAbout) {
         EXPECT_EQ(log.find(text), std::string::npos) << log;
 }
 
-TEST_P(OperationTest, AReplyThatIsHalfOnItsWayIsFinishedBeforeTheEnd) {
+TEST_P(OperationTest, ARunningReplyIsFinishedBeforeTheEnd) {
     Start();
     auto recipe = Soup();
     recipe["Instructions"] = std::string(100'000, 'x');
@@ -237,7 +237,7 @@ TEST_P(OperationTest, AReplyThatIsHalfOnItsWayIsFinishedBeforeTheEnd) {
     EXPECT_EQ(json::parse(RawClient::Body(arrived.substr(last)))["RecipeName"], "Lentil soup");
 }
 
-TEST_P(OperationTest, ItClaimsTheDescriptorsThatItsConnectionsNeed) {
+TEST_P(OperationTest, ItRaisesTheLimitOfDescriptorsForItsConnections) {
     rlimit usual{};
     ASSERT_EQ(::getrlimit(RLIMIT_NOFILE, &usual), 0);
     const rlimit few{200, usual.rlim_max};
@@ -259,10 +259,11 @@ TEST_P(OperationTest, MoreConnectionsThanTheSystemAllowsAreRefusedAtTheStart) {
     const auto command = "ulimit -n 500 && HALVANE_EXCHANGE_DATABASE='" + Database() +
                          "' HALVANE_EXCHANGE_PORT=0 exec " + Server::Program();
     EXPECT_EQ(Process::Run({"bash", "-c", command}, &output), 2);
-    EXPECT_NE(output.find("descriptors, and the system allows 500"), std::string::npos) << output;
+    EXPECT_NE(output.find("descriptors, but the system allows only 500"), std::string::npos)
+        << output;
 }
 
-TEST_P(OperationTest, TheEmbeddedDatabaseIsReadByNobodyElse) {
+TEST_P(OperationTest, TheFilesOfSQLiteAreOnlyForTheirOwner) {
     if (OnServer())
         return;
     Start();
@@ -284,7 +285,7 @@ TEST_P(OperationTest, TheDeliveredConfigurationNamesEverySettingWithItsDefault) 
     EXPECT_EQ(RunWith(text).code, 0) << RunWith(text).output;
 }
 
-TEST_P(OperationTest, ABackupIsRestoredByTheLinesOfTheHandbook) {
+TEST_P(OperationTest, ABackupIsRestoredWithTheCommandsOfTheHandbook) {
     Start();
     const auto id = std::to_string(Send());
     std::string output;
@@ -319,7 +320,7 @@ TEST_P(OperationTest, ABackupIsRestoredByTheLinesOfTheHandbook) {
 class LostDatabaseTest : public ExchangeTest {};
 INSTANTIATE_TEST_SUITE_P(OperationTest, LostDatabaseTest, testing::Values("postgresql"));
 
-TEST_P(LostDatabaseTest, AServerWhoseDatabaseWentAwaySaysSoAndRecovers) {
+TEST_P(LostDatabaseTest, AServerThatLostItsDatabaseSaysSoAndRecovers) {
     Start();
     const auto id = std::to_string(Send());
     Cluster::One().Stop();
@@ -334,7 +335,7 @@ TEST_P(LostDatabaseTest, AServerWhoseDatabaseWentAwaySaysSoAndRecovers) {
     EXPECT_EQ(Get("/halvane/api/recipes/" + id)->status, 200);
 }
 
-TEST_P(LostDatabaseTest, AProgramThatStopsInATransactionStopsTheOthersForSecondsOnly) {
+TEST_P(LostDatabaseTest, AHangingTransactionHoldsUpOthersForSecondsOnly) {
     EXPECT_EQ(Cell("SELECT current_setting('lock_timeout')"), "10s");
     EXPECT_EQ(Cell("SELECT current_setting('idle_in_transaction_session_timeout')"), "30s");
 }

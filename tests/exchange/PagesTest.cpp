@@ -82,7 +82,7 @@ TEST_P(PagesTest, TheListIsTurnedByPages) {
     EXPECT_EQ(Get("/halvane/community.asp?page=0")->status, 404);
 }
 
-TEST_P(PagesTest, ARecipeHasItsCardItsNumberAndItsNutritionByServing) {
+TEST_P(PagesTest, ThePageOfARecipeHasItsCardItsIDAndItsNutrition) {
     auto other = Row(100, "Onions, raw");
     other[14] = nullptr;
     const auto id = std::to_string(Send(Soup(), json::array({Row(310), other})));
@@ -99,7 +99,7 @@ TEST_P(PagesTest, ARecipeHasItsCardItsNumberAndItsNutritionByServing) {
         EXPECT_NE(page.find(part), std::string::npos) << part;
 }
 
-TEST_P(PagesTest, ARecipeThatIsNotPublicIsShownToWhoKnowsItsNumberAndToNoSearchEngine) {
+TEST_P(PagesTest, APrivateRecipeIsShownByItsIDAndNotIndexed) {
     const auto hidden = std::to_string(Send(Soup(false)));
     const auto shared = std::to_string(Send(Soup(true)));
     const auto robots = std::string("name=\"robots\" content=\"noindex\"");
@@ -115,12 +115,12 @@ TEST_P(PagesTest, ARecipeWithoutYieldOrIngredientsHasAPageToo) {
     const auto page =
         Text("/halvane/recipe.asp?recID=" + std::to_string(Send(recipe, json::array())));
     EXPECT_NE(page.find("<dd>-- per serving</dd>"), std::string::npos);
-    EXPECT_NE(page.find("came without ingredients"), std::string::npos);
-    EXPECT_NE(page.find("came without instructions"), std::string::npos);
+    EXPECT_NE(page.find("has no ingredients"), std::string::npos);
+    EXPECT_NE(page.find("has no instructions"), std::string::npos);
     EXPECT_EQ(page.find("Serving size"), std::string::npos);
 }
 
-TEST_P(PagesTest, AYieldBeyondAllMeasureGivesNoNumbersWithoutMeaning) {
+TEST_P(PagesTest, AnExtremeYieldGivesNoMeaninglessNumbers) {
     for (const auto yield : {1e-300, 1e-12, -1e-320}) {
         auto recipe = Soup();
         recipe["RecipeYield"] = yield;
@@ -142,7 +142,7 @@ TEST_P(PagesTest, AnEnormousNameIsShownShortened) {
     EXPECT_LT(page.size(), 20'000U);
 }
 
-TEST_P(PagesTest, WhatCannotBeShownIsLeftOut) {
+TEST_P(PagesTest, InvisibleCharactersAreLeftOut) {
     auto recipe = Named("Soup\u202egpj.\u0085exe\u0000\u001b");
     recipe["Instructions"] = "1.\tCut\r\n\u0007\u009b2. Boil";
     const auto id = std::to_string(Send(recipe, json::array({Row(1, "\u200b")})));
@@ -153,14 +153,14 @@ TEST_P(PagesTest, WhatCannotBeShownIsLeftOut) {
     EXPECT_NE(page.find("<li>(no name)"), std::string::npos);
 }
 
-TEST_P(PagesTest, ANameThatCannotBeSeenIsToldSo) {
+TEST_P(PagesTest, AnInvisibleNameIsShownAsNoName) {
     const auto id = std::to_string(Send(Named("\u200b \u3164")));
     EXPECT_EQ(Names(List()), (Texts{"(no name)"}));
     EXPECT_NE(Text("/halvane/recipe.asp?recID=" + id).find("<h1>(no name)</h1>"),
               std::string::npos);
 }
 
-TEST_P(PagesTest, OneOfAThingIsNotSeveral) {
+TEST_P(PagesTest, OneIsWrittenInTheSingular) {
     auto recipe = Soup();
     recipe["RecipeYield"] = recipe["PrepTime"] = 1;
     const auto id = std::to_string(Send(recipe, json::array({Row(1)})));
@@ -177,7 +177,7 @@ TEST_P(PagesTest, ASearchWithoutResultSaysSoAndLeadsBack) {
     EXPECT_EQ(List().find("Show the newest"), std::string::npos);
 }
 
-TEST_P(PagesTest, NoRecipeIsFoundByEverything) {
+TEST_P(PagesTest, OnlyTheFirstWordsOfARecipeAreFound) {
     auto rows = json::array();
     for (int row = 0; row < 200; ++row) {
         std::string food;

@@ -129,7 +129,7 @@ TEST_P(ProxyTest, ABodyInChunksIsTakenIfItsLengthIsKnownOtherwiseRefused) {
     EXPECT_EQ(reply->status, IsCaddy() ? 411 : 201) << reply->body;
 }
 
-TEST_P(ProxyTest, WhatAClientSaysOfItselfIsNotBelieved) {
+TEST_P(ProxyTest, XForwardedForOfAClientIsIgnored) {
     StartBoth({{"misses_per_client_hour", "1"}});
     const auto statusAs = [&](const char* client) {
         return Client().Get("/halvane/api/recipes/11", {{"X-Forwarded-For", client}})->status;

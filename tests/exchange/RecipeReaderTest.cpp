@@ -104,7 +104,7 @@ TEST(RecipeReaderTest, ABodyOfAnyShapeCostsLessThan50MillisecondsAMebibyte) {
         }
 }
 
-TEST(RecipeReaderTest, TextsAreTakenAtAnyLengthAndWithAnyControlCharacter) {
+TEST(RecipeReaderTest, TextsOfAnyLengthAndWithAnyControlCharacterAreAccepted) {
     const auto recipe = RecipeReader::ReadRecipe(
         R"({"RecipeName":"a\u0000b\u0001\u001b\u007f\u0085","ServingName":"\t","Instructions":")" +
         Repeated("x") + R"(","EMAILFROM":"a@b.cd","EMAILTO":"a@b.cd"})");
@@ -113,7 +113,7 @@ TEST(RecipeReaderTest, TextsAreTakenAtAnyLengthAndWithAnyControlCharacter) {
     EXPECT_EQ(recipe.instructions->size(), Mebibyte);
 }
 
-TEST(RecipeReaderTest, EveryFiniteNumberIsTaken) {
+TEST(RecipeReaderTest, EveryFiniteNumberIsAccepted) {
     using Numbers = std::numeric_limits<double>;
     const auto recipe = RecipeReader::ReadRecipe(
         With(R"("RecipeYield":1.7976931348623157e308,"PrepTime":-5e-324)"));
@@ -133,7 +133,7 @@ TEST(RecipeReaderTest, ANameOfOneBlankIsANameNullStaysNullAndAnEmptyOneIsRefused
     EXPECT_EQ(RecipeStatus(R"({"RecipeName":null)" + rest), 0);
 }
 
-TEST(RecipeReaderTest, OfAKeyThatStandsTwiceTheLastCounts) {
+TEST(RecipeReaderTest, TheLastOfTwoEqualKeysCounts) {
     EXPECT_EQ(RecipeReader::ReadRecipe(With(R"("PrepTime":1,"PrepTime":2)")).prepTime, 2);
     EXPECT_EQ(RecipeReader::ReadRecipe(With(R"("PrepTime":1,"PrepTime":null)")).prepTime,
               std::nullopt);
@@ -142,19 +142,19 @@ TEST(RecipeReaderTest, OfAKeyThatStandsTwiceTheLastCounts) {
     EXPECT_EQ(rows[0].nutrients[11], 2) << "calories come first in older programs";
 }
 
-TEST(RecipeReaderTest, WhatStandsBesideTheKnownKeysIsPassedOver) {
+TEST(RecipeReaderTest, UnknownKeysAreIgnored) {
     EXPECT_EQ(RecipeStatus(With(R"("other":{"RecipeName":7,"PrepTime":["x"]})")), 0);
     EXPECT_EQ(RecipeReader::ReadRecipe(With(R"("other":{"PrepTime":7},"PrepTime":3)")).prepTime, 3);
     EXPECT_EQ(RowsStatus(R"({"other":{"rows":7},"rows":[[1]],"more":[[]]})"), 0);
 }
 
-TEST(RecipeReaderTest, ArraysAndObjectsAreTakenFourDeep) {
+TEST(RecipeReaderTest, ArraysAndObjectsAreAcceptedUpToFourLevels) {
     EXPECT_EQ(RecipeStatus(With(R"("other":[[[1]]])")), 0);
     EXPECT_EQ(RecipeStatus(With(R"("other":[[[[1]]]])")), 400);
     EXPECT_EQ(RowsStatus(R"({"rows":[[[[1]]]]})"), 400);
 }
 
-TEST(RecipeReaderTest, RowsGoByPosition) {
+TEST(RecipeReaderTest, ValuesOfARowAreReadByPosition) {
     std::string row = "[9";
     for (int i = 1; i <= 31; ++i)
         row += "," + std::to_string(i);
@@ -171,7 +171,7 @@ TEST(RecipeReaderTest, RowsGoByPosition) {
     EXPECT_EQ(rows[2].nutrients[13], 5);
 }
 
-TEST(RecipeReaderTest, MoreRowsThanTheLimitAreRefusedAtTheFirstTooMany) {
+TEST(RecipeReaderTest, MoreRowsThanTheLimitAreRefusedEarly) {
     EXPECT_EQ(StatusOf([] { RecipeReader::ReadIngredients(R"({"rows":[[1],[1]]})", 2); }), 0);
     EXPECT_EQ(StatusOf([] { RecipeReader::ReadIngredients(R"({"rows":[[1],[1],[)", 2); }), 413);
 }

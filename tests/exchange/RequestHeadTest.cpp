@@ -51,12 +51,12 @@ const Case Cases[] = {
 };
 } // namespace
 
-TEST(RequestHeadTest, WhateverLeavesTwoOpinionsIsRefused) {
+TEST(RequestHeadTest, AmbiguousHeadsAreRefused) {
     for (const auto& [name, lines, status] : Cases)
         EXPECT_EQ(Read(lines).status, status) << name;
 }
 
-TEST(RequestHeadTest, OfARefusedRequestThePathIsKnown) {
+TEST(RequestHeadTest, ThePathOfARefusedRequestIsKnown) {
     EXPECT_EQ(Read("GET /a?b=c HTTP/1.1\r\nTransfer-Encoding: chunked\r\n").request.path, "/a");
 }
 
@@ -65,7 +65,7 @@ TEST(RequestHeadTest, NamesOfHeadersAreInLowerCaseAndTheLastCounts) {
     EXPECT_EQ(head.request.Header("x-forwarded-for"), "b");
 }
 
-TEST(RequestHeadTest, WhoWantsNoFurtherReplySaysSoInAnyCase) {
+TEST(RequestHeadTest, ConnectionCloseIsReadInAnyCase) {
     EXPECT_FALSE(Read(Get + Host).close);
     EXPECT_TRUE(Read(Get + Host + "Connection: Close\r\n").close);
     EXPECT_TRUE(Read(Get + Host + "CONNECTION: keep-alive, cLOSE\r\n").close);

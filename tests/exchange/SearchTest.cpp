@@ -84,7 +84,7 @@ TEST_P(SearchTest, EveryWordOfAQueryCounts) {
     EXPECT_FALSE(Finds("one+two+three+four+five+six+seven+eight+nine+b", id));
 }
 
-TEST_P(SearchTest, WordsThatAreSignsOfTheDatabasesAreWords) {
+TEST_P(SearchTest, OperatorsOfTheDatabasesAreOrdinaryWords) {
     const int id = SendNamed("AND or NOT near null");
     for (const auto* query :
          {"and", "or", "not", "near", "null", "and+or+not", "AND", "NOT%20null",
@@ -93,7 +93,7 @@ TEST_P(SearchTest, WordsThatAreSignsOfTheDatabasesAreWords) {
     EXPECT_FALSE(Finds("%EE%80%800", id)) << "a mark of a block is no word";
 }
 
-TEST_P(SearchTest, TheNewestStandsFirstWhateverTheClockSaid) {
+TEST_P(SearchTest, TheNewestRecipeIsFirstEvenIfTheClockWasWrong) {
     const int before = SendNamed("Soup before");
     exchange::Connection(Database())
         .Once("UPDATE listing SET ListedAt = ListedAt + 315360000000000");
@@ -106,7 +106,7 @@ TEST_P(SearchTest, TheNewestStandsFirstWhateverTheClockSaid) {
     }
 }
 
-TEST_P(SearchTest, ASearchGoesOnFromAPlace) {
+TEST_P(SearchTest, ASearchCanContinueFromAPlace) {
     for (int i = 1; i <= 3; ++i)
         SendNamed("Soup number" + std::to_string(i));
     const auto page = Text("/halvane/community.asp?q=soup&from=2");
@@ -134,7 +134,7 @@ TEST_P(SearchTest, NothingIsLostBetweenTheBlocksOfASearch) {
     EXPECT_EQ(found, expected);
 }
 
-TEST_P(SearchTest, ASearchGetsToItsEndInSteps) {
+TEST_P(SearchTest, ASearchOfAllRecipesEndsInSteps) {
     Fill(40'000);
     exchange::Connection connection(Database());
     for (auto from = 40'000LL; from > 0;) {

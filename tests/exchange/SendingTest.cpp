@@ -99,7 +99,7 @@ TEST_P(SendingTest, WithoutARelayTheSenderIsToldTheNumberToPassOn) {
     EXPECT_TRUE(IsReadable(created.id));
 }
 
-TEST_P(SendingTest, ABadAddressIsSaidAndNothingIsSent) {
+TEST_P(SendingTest, AnInvalidAddressIsToldAndNothingIsSent) {
     const SmtpSink sink;
     Start(Mailing(sink));
     for (const auto* address :
@@ -109,19 +109,19 @@ TEST_P(SendingTest, ABadAddressIsSaidAndNothingIsSent) {
           "bert@example.org>", "böt@example.org", "bert@127.0.0.1", "bert@example.org."}) {
         const auto created = Create(To(address));
         const auto sentence = SendCreated(created.id);
-        EXPECT_TRUE(sentence.starts_with("Your friend's email address is not one")) << sentence;
+        EXPECT_TRUE(sentence.starts_with("Your friend's email address is not valid")) << sentence;
         EXPECT_FALSE(IsReadable(created.id)) << address;
     }
     EXPECT_TRUE(sink.Mails().empty());
     EXPECT_EQ(Count("SELECT COUNT(*) FROM listing"), 0);
 }
 
-TEST_P(SendingTest, ABadAddressOfTheSenderIsSaidToo) {
+TEST_P(SendingTest, AnInvalidAddressOfTheSenderIsToldToo) {
     const SmtpSink sink;
     Start(Mailing(sink));
     auto recipe = Soup();
     recipe["EMAILFROM"] = "anna";
-    EXPECT_TRUE(SendCreated(Create(recipe).id).starts_with("Your email address is not one"));
+    EXPECT_TRUE(SendCreated(Create(recipe).id).starts_with("Your email address is not valid"));
     EXPECT_TRUE(sink.Mails().empty());
 }
 
@@ -169,7 +169,7 @@ TEST_P(SendingTest, ANameOfAnyLengthWithLineEndsMakesAHarmlessMailToo) {
     EXPECT_LT(mail.text.size(), 200'000U);
 }
 
-TEST_P(SendingTest, AMailNamesANameThatCannotBeSeen) {
+TEST_P(SendingTest, AMailShowsAnInvisibleNameAsNoName) {
     const SmtpSink sink;
     Start(Mailing(sink));
     auto recipe = Soup();

@@ -11,7 +11,7 @@ Visitor At(const std::string& address) {
 }
 } // namespace
 
-TEST(SharesTest, WhoeverHoldsMostIsTheGreatest) {
+TEST(SharesTest, TheHolderOfMostIsTheGreatest) {
     Shares shares;
     EXPECT_EQ(shares.Greatest(), "");
     shares.Add(At("192.0.2.1"), 3);
@@ -30,7 +30,7 @@ TEST(SharesTest, ManySmallNetworksOfOneOwnerCountAsOne) {
     EXPECT_TRUE(shares.Greatest().starts_with("2001:db8:1:")) << shares.Greatest();
 }
 
-TEST(SharesTest, WithinAWideNetworkItIsTheNarrowOneThatHoldsMost) {
+TEST(SharesTest, WithinAWideNetworkTheNarrowOneThatHoldsMostIsFound) {
     Shares shares;
     shares.Add(At("2001:db8:1:1::1"), 2);
     shares.Add(At("2001:db8:2:1::1"), 1);
@@ -38,7 +38,7 @@ TEST(SharesTest, WithinAWideNetworkItIsTheNarrowOneThatHoldsMost) {
     EXPECT_EQ(shares.Greatest(), "2001:db8:2:2::/64");
 }
 
-TEST(SharesTest, WhatIsGivenBackLeavesNoTrace) {
+TEST(SharesTest, AShareThatIsGivenBackLeavesNoTrace) {
     Shares shares;
     shares.Add(At("192.0.2.1"), 5);
     shares.Add(At("192.0.2.1"), -5);

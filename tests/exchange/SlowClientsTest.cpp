@@ -6,7 +6,7 @@
 #include <csignal>
 #include <future>
 
-/// Clients that are slow, silent or gone hold up nobody but themselves.
+/// Clients that are slow, silent or gone delay only themselves.
 class SlowClientsTest : public ExchangeTest {
 protected:
     static constexpr const char* Half = "GET /health HTTP/1.1\r\nHost: x\r\nX-Slow: ";
@@ -29,7 +29,7 @@ TEST_P(SlowClientsTest, HundredsOfHalfRequestsLeaveTheOthersServed) {
     ExpectPromptReplies();
 }
 
-TEST_P(SlowClientsTest, ARequestThatDripsIsCutOffAfterItsTime) {
+TEST_P(SlowClientsTest, ARequestThatArrivesTooSlowlyIsCutOff) {
     Start({{"request_seconds", "1"}});
     RawClient drip(Running().Port());
     drip.Send(Half);
@@ -84,7 +84,7 @@ TEST_P(SlowClientsTest, AClientThatAsksWithoutEndTakesTurnsWithTheOthers) {
     EXPECT_GT(reading.get(), 100'000U);
 }
 
-TEST_P(SlowClientsTest, OneClientHasSoManyConnectionsAndTheOthersTheirs) {
+TEST_P(SlowClientsTest, ConnectionsOfAClientAreLimited) {
     Start({{"connections_per_client", "5"}});
     std::vector<std::unique_ptr<RawClient>> many;
     for (int i = 0; i < 5; ++i) {
@@ -139,7 +139,7 @@ TEST_P(SlowClientsTest, RequestsInOnePieceAreAnsweredInTheirOrder) {
     EXPECT_NE(ready, std::string::npos);
 }
 
-TEST_P(SlowClientsTest, ARequestInSinglePiecesIsOneRequest) {
+TEST_P(SlowClientsTest, ARequestThatArrivesByteByByteIsAnswered) {
     Start();
     RawClient client(Running().Port());
     for (const char c : std::string("GET /health HTTP/1.1\r\nHost: x\r\nConnection: close\r\n\r\n"))

@@ -20,7 +20,7 @@ TEST(TargetTest, PathAndParametersAreDecoded) {
     EXPECT_EQ(request.Param("page"), "2");
 }
 
-TEST(TargetTest, OfAParameterThatComesTwiceTheFirstCounts) {
+TEST(TargetTest, TheFirstOfTwoEqualParametersCounts) {
     EXPECT_EQ(ReadFrom("/?q=a&q=b").Param("q"), "a");
 }
 
@@ -32,7 +32,7 @@ TEST(TargetTest, AParameterMayHaveNoValue) {
     EXPECT_EQ(request.Param("q"), "");
 }
 
-TEST(TargetTest, APercentSignThatBeginsNoByteStays) {
+TEST(TargetTest, APercentSignWithoutDigitsStays) {
     for (const auto* text : {"%", "%4", "%zz", "%-1", "100%"})
         EXPECT_EQ(Target::Decoded(text), text);
 }
@@ -51,7 +51,7 @@ TEST(TargetTest, OnlyAPathIsAnAddressOfThisServer) {
         EXPECT_FALSE(Target::Read(target, request)) << target;
 }
 
-TEST(TargetTest, WhatIsEncodedReadsTheSame) {
+TEST(TargetTest, EncodedTextsAreDecodedToTheSame) {
     std::string all;
     for (int i = 0; i < 256; ++i)
         all += static_cast<char>(i);

@@ -28,7 +28,7 @@ TEST(TemplateTest, ATextIsEscaped) {
               "[&lt;b title=&quot;a&quot; lang=&apos;b&apos;&gt;&amp;amp;&lt;/b&gt;]");
 }
 
-TEST(TemplateTest, ATextIsNoTemplate) {
+TEST(TemplateTest, ATextIsNotReadAsATemplate) {
     EXPECT_EQ(Template("{{text}}").Filled(With("text", "{{text}}{{{text}}}")),
               "{{text}}{{{text}}}");
 }
@@ -79,14 +79,14 @@ TEST(TemplateTest, AnEntrySeesTheValuesAroundItsListBehindItsOwn) {
     EXPECT_EQ(Template("{{#list}}{{name}} {{unit}};{{/list}}").Filled(values), "a g; g;outer g;");
 }
 
-TEST(TemplateTest, SectionsStandInEachOther) {
+TEST(TemplateTest, SectionsCanBeNested) {
     auto values = With("a", "1");
     values.Set("b", "2");
     EXPECT_EQ(Template("{{#a}}<{{#b}}{{a}}{{b}}{{/b}}{{^c}}!{{/c}}>{{/a}}").Filled(values),
               "<12!>");
 }
 
-TEST(TemplateTest, ALineWithTheTagOfASectionAloneIsNoLineOfThePage) {
+TEST(TemplateTest, ALineWithOnlyASectionTagIsNotWritten) {
     const auto values = With("a", "x");
     EXPECT_EQ(Template("{{#a}}\n<p>\n{{a}}\n{{/a}}\nend\n").Filled(values), "<p>\nx\nend\n");
     EXPECT_EQ(Template("<p>{{#a}}\n{{/a}}</p>").Filled(values), "<p>\n</p>");

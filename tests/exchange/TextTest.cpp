@@ -20,14 +20,14 @@ TEST(ShownTextTest, ControlCharactersAreNotShown) {
               "ab");
 }
 
-TEST(ShownTextTest, LettersThatTurnTheDirectionAreNotShown) {
+TEST(ShownTextTest, DirectionOverridesAreNotShown) {
     for (const auto* turn : {"\u202a", "\u202b", "\u202c", "\u202d", "\u202e", "\u2066", "\u2067",
                              "\u2068", "\u2069", "\u200e", "\u200f", "\u061c"})
         EXPECT_EQ(Line("gpj" + std::string(turn) + ".exe"), "gpj.exe");
     EXPECT_EQ(Line("חמין"), "חמין");
 }
 
-TEST(ShownTextTest, LettersThatCannotBeSeenAreNotShown) {
+TEST(ShownTextTest, InvisibleLettersAreNotShown) {
     for (const auto* letter : {"\u200b", "\u2060", "\ufeff", "\u00ad", "\u034f", "\u3164", "\uffa0",
                                "\u180e", "\U000e0041", "\ufffe", "\U0001ffff", "\ufdd0"})
         EXPECT_EQ(Line("so" + std::string(letter) + "up"), "soup");
@@ -51,7 +51,7 @@ TEST(ShownTextTest, ALongLineEndsWithDots) {
     EXPECT_EQ(ShownText::Line(std::string(1 << 20, 'x'), 120), std::string(120, 'x') + "…");
 }
 
-TEST(ShownTextTest, ANameThatCannotBeSeenIsToldSo) {
+TEST(ShownTextTest, AnInvisibleNameIsShownAsNoName) {
     for (const auto& name :
          {std::string(), std::string(" "), std::string("\t\r\n"), std::string(1, '\0'),
           std::string("\u200b"), std::string("\u00a0\u2800"), std::string("\u200d\ufe0f"),
@@ -65,7 +65,7 @@ TEST(ShownTextTest, LinesKeepTheirEndsAndTabs) {
               "1.\tCut\n2. Boil\n3.\n\n4.\n5.");
 }
 
-TEST(ShownTextTest, WhatIsNoUtf8EndsTheText) {
+TEST(ShownTextTest, InvalidUtf8EndsTheText) {
     EXPECT_EQ(Line("ab\xff"
                    "cd"),
               "ab");
@@ -85,7 +85,7 @@ TEST(StoredTextTest, EveryTextComesBack) {
     }
 }
 
-TEST(StoredTextTest, TextsWithoutTheTwoLettersStandAsTheyAre) {
+TEST(StoredTextTest, TextsWithoutControlCharactersAreStoredUnchanged) {
     EXPECT_EQ(StoredText::Of("1.\tCrème\r\n\x1b"), "1.\tCrème\r\n\x1b");
 }
 

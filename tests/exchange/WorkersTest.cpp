@@ -7,7 +7,7 @@
 
 using namespace exchange;
 
-TEST(WorkersTest, AClientThatAsksForMuchWaitsForItself) {
+TEST(WorkersTest, AClientWithManyJobsDelaysOnlyItself) {
     Workers workers(2);
     std::promise<void> go;
     auto gone = go.get_future().share();
@@ -47,7 +47,7 @@ TEST(WorkersTest, ClientsTakeTurns) {
     EXPECT_EQ(order, "abcaa");
 }
 
-TEST(WorkersTest, WhatHasNotBegunIsDroppedAtTheEnd) {
+TEST(WorkersTest, JobsThatHaveNotBegunAreDroppedAtTheEnd) {
     std::atomic<int> ran = 0;
     {
         Workers workers(1);

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-/// A request that a hostile or broken client could send, and what must come of it. In the texts
+/// A request of a hostile or broken client, and its expected outcome. In the texts
 /// {open} and {token} are an unfinished recipe, {sent} a public one, {hidden} a hidden one, {form}
 /// the token of the form that reports {sent}, {link} that of a mail, and {new} the recipe of
 /// `before`.

@@ -65,7 +65,7 @@ Abuse Refused(const std::string& field, const std::string& other, const std::str
     return {.name = address + " as " + field,
             .request = Get("/halvane/sendrecipe.asp?recID={new}"),
             .status = 200,
-            .said = "is not one that mail can be sent with",
+            .said = "email address is not valid",
             .before = Post(Api, "{\"RecipeName\":\"x\",\"" + other + "\":\"a@b.cd\",\"" + field +
                                     "\":" + Quoted(address) + "}"),
             .absent = "SELECT COUNT(*) FROM documents WHERE RecipeID = {new}",

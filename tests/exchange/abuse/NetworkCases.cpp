@@ -4,7 +4,8 @@ namespace AbuseCases {
 namespace {
 using namespace Raw;
 
-/// A client may miss one recipe an hour here. A second miss tells whether it was taken for another.
+/// A client may miss one recipe an hour here. The status of a second miss tells whether both
+/// clients are counted as one.
 struct Pair {
     const char* one;
     const char* other;

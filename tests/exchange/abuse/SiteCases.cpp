@@ -54,7 +54,7 @@ Abuses CrossSite() {
         {"a head request ends no mails",
          "HEAD " + NoMail("{link}") + " HTTP/1.1\r\nHost: x\r\nConnection: close\r\n\r\n", 200},
         {"a look at the link of a mail ends no mails", Get(NoMail("{link}")), 200,
-         "Send me no more mails"},
+         "Send me no more mail"},
         {"a link of a mail that is cut", Get(NoMail("0123")), 404},
         {"a link of a mail that is forged", Post(NoMail(std::string(80, '0')), "", Form), 404},
         {"a link of a mail without its token", Post("/halvane/nomail.asp", "", Form), 404},

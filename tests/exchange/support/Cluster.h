@@ -6,8 +6,8 @@
 #include <memory>
 #include <string>
 
-/// A PostgreSQL of the test program's own, in a folder of its own, reached through a socket there.
-/// It runs as the user `postgres` where the tests run as root, as it refuses to run as root.
+/// A PostgreSQL for the tests, in a temporary folder, reached through a socket there. It refuses to
+/// run as root, so if the tests run as root, it runs as the user `postgres`.
 class Cluster {
 public:
     static Cluster& One(); ///< started at its first use, ended with the program
