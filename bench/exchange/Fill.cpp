@@ -122,11 +122,19 @@ void Copy(Connection& connection, int first, const std::vector<std::vector<std::
     AddWords(connection, words);
     transaction.Commit();
 }
+
+/// Otherwise the first commit after this would wait until the system has written all of it.
+void WriteThrough(Connection& connection) {
+    if (!connection.IsEmbedded())
+        return connection.Once("CHECKPOINT");
+    connection.Once("PRAGMA synchronous=FULL");
+    connection.Once("PRAGMA wal_checkpoint(TRUNCATE)");
+}
 } // namespace
 
 std::vector<int> With(const std::string& database, int recipes) {
     Connection connection(database);
-    if (!database.starts_with("postgresql"))
+    if (connection.IsEmbedded())
         connection.Once("PRAGMA synchronous=OFF");
     const auto words = StoreOriginals(connection, recipes);
     std::vector<int> ids;
@@ -136,6 +144,7 @@ std::vector<int> With(const std::string& database, int recipes) {
             ids.push_back(first + place);
     }
     connection.Once("ANALYZE");
+    WriteThrough(connection);
     return ids;
 }
 } // namespace Fill
