@@ -44,7 +44,7 @@ using Held = std::vector<std::unique_ptr<RawClient>>;
 std::string Ask(const Target& target, const std::string& from, const std::string& request) {
     RawClient client(target.port, from);
     client.Send(request);
-    return client.ReadReply(30'000);
+    return client.ReadReply();
 }
 
 std::string Get(const std::string& path) {

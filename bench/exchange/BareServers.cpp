@@ -15,7 +15,7 @@ int PortIn(const std::string& log) {
     std::string text;
     Until([&] {
         text = ReadFile(log);
-        return std::regex_search(text, found, std::regex(R"("port":(\d+))"));
+        return std::regex_search(text, found, std::regex(R"("port":(\d+)})"));
     });
     return std::stoi(found[1]);
 }
@@ -31,7 +31,6 @@ BareServers::BareServers(int threads)
 }
 
 void BareServers::StartNginx() {
-    const int port = Server::FreePort();
     std::string temporary;
     for (const auto* kind : {"client_body", "proxy", "fastcgi", "uwsgi", "scgi"})
         temporary += std::string(kind) + "_temp_path " + (folder_ / kind) + ";\n";
@@ -39,11 +38,10 @@ void BareServers::StartNginx() {
               "daemon off;\nworker_processes auto;\npid " + (folder_ / "pid") +
                   ";\nerror_log stderr;\nevents {}\nhttp {\naccess_log off;\n"
                   "keepalive_requests 100000000;\n" +
-                  temporary + "server {\nlisten 127.0.0.1:" + std::to_string(port) +
+                  temporary + "server {\nlisten 127.0.0.1:" + std::to_string(nginxPort_.Number()) +
                   ";\nlocation / {\nreturn 200 hello;\n}\n}\n}\n");
     nginx_ = std::make_unique<Process>(
         std::vector<std::string>{Nginx, "-p", folder_ / "", "-c", folder_ / "nginx.conf"},
         Process::Environment{}, folder_ / "nginx.log");
-    if (Until([&] { return std::filesystem::exists(folder_ / "pid"); }))
-        nginxPort_ = port;
+    Until([&] { return std::filesystem::exists(folder_ / "pid"); });
 }

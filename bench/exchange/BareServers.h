@@ -1,6 +1,7 @@
 #pragma once
 
 #include "support/Files.h"
+#include "support/Port.h"
 #include "support/Process.h"
 
 #include <memory>
@@ -12,7 +13,8 @@ public:
     explicit BareServers(int threads);
 
     int HelloPort() const { return helloPort_; }
-    int NginxPort() const { return nginxPort_; } ///< 0 if nginx is not installed
+    bool HasNginx() const { return nginx_ != nullptr; } ///< it is installed
+    int NginxPort() const { return nginxPort_.Number(); }
 
 private:
     void StartNginx();
@@ -21,5 +23,5 @@ private:
     std::unique_ptr<Process> hello_;
     std::unique_ptr<Process> nginx_;
     int helloPort_ = 0;
-    int nginxPort_ = 0;
+    Port nginxPort_;
 };

@@ -40,7 +40,7 @@ public:
         WriteFile(folder_ / "hello", "/hello\n");
         WriteFile(folder_ / "health", "/health\n");
         results_.Bare("a bare server", Rate(bare_.HelloPort(), "hello"));
-        if (bare_.NginxPort() > 0)
+        if (bare_.HasNginx())
             results_.Bare("nginx", Rate(bare_.NginxPort(), "hello"));
         else
             results_.Skipped("nginx is not measured, since it is not installed.");

@@ -191,12 +191,14 @@ TEST_P(AbuseTest, ASearchIsWordsWithoutOperators) {
 }
 
 TEST_P(AbuseTest, ReportsAndHiddenRecipesAreGuarded) {
+    AwaitFreshHour();
     Start(Settings());
     Prepare();
     TryAll(AbuseCases::Moderation(), 20);
 }
 
 TEST_P(AbuseTest, ANetworkIsCountedOnceHoweverItsAddressesAreWritten) {
+    AwaitFreshHour();
     Start(Settings({{"trusted_proxies", "127.0.0.1"}, {"misses_per_client_hour", "1"}}));
     TryAll(AbuseCases::Networks(), 30);
 }

@@ -9,7 +9,6 @@
 
 namespace {
 using Clock = std::chrono::steady_clock;
-using std::chrono::seconds;
 } // namespace
 
 /// A database that hangs holds up readers and writers for a limited time. Then all is well again.
@@ -37,10 +36,7 @@ protected:
     void ExpectEndsSoon() {
         const auto begin = Clock::now();
         EXPECT_EQ(Running().End(), 0);
-        EXPECT_LT(Clock::now() - begin, seconds(10));
-    }
-    static std::string Name(const std::string& database) {
-        return database.substr(database.rfind('=') + 1);
+        EXPECT_LT(Clock::now() - begin, Soon);
     }
 };
 INSTANTIATE_TEST_SUITE_P(DeadlineTest, ServerDeadlineTest, testing::Values("postgresql"));
@@ -50,10 +46,10 @@ TEST_P(ServerDeadlineTest, AFrozenDatabaseIsGivenUpInSecondsAndUsedAgain) {
     const auto path = "/halvane/api/recipes/" + std::to_string(Send());
     EXPECT_EQ(StatusOf(path), 200);
     Cluster::One().Freeze();
-    EXPECT_LT(TimeToFail(path), seconds(8));
+    EXPECT_LT(TimeToFail(path), Soon);
     const auto begin = Clock::now();
     const auto sentence = Get("/halvane/sendrecipe.asp?recID=7");
-    EXPECT_LT(Clock::now() - begin, seconds(8));
+    EXPECT_LT(Clock::now() - begin, Soon);
     EXPECT_EQ(sentence->status, 503);
     EXPECT_EQ(sentence->body.front(), 'T');
     Cluster::One().Thaw();
@@ -76,19 +72,17 @@ TEST_P(ServerDeadlineTest, ADatabaseThatWasKilledAndRestartedIsUsedAgain) {
     Start();
     const auto path = "/halvane/api/recipes/" + std::to_string(Send());
     Cluster::One().Kill();
-    EXPECT_LT(TimeToFail(path), seconds(8));
+    EXPECT_LT(TimeToFail(path), Soon);
     Cluster::One().Start();
     ExpectWellAgain(path);
 }
 
 TEST_P(ServerDeadlineTest, ASilentConnectionToTheDatabaseIsNoticedInSeconds) {
-    Proxy proxy(Cluster::One().Socket() + "/.s.PGSQL.5432");
-    const auto address =
-        "postgresql://postgres@127.0.0.1:" + std::to_string(proxy.Port()) + "/" + Name(Database());
-    Start({{"database", address}});
+    Proxy proxy(Cluster::One().SocketFile());
+    Start({{"database", Cluster::Through(proxy.Port(), Database())}});
     const auto path = "/halvane/api/recipes/" + std::to_string(Send());
     proxy.Cut();
-    EXPECT_LT(TimeToFail(path), seconds(8));
+    EXPECT_LT(TimeToFail(path), Soon);
     proxy.Mend();
     ExpectWellAgain(path);
     proxy.Cut();
@@ -101,7 +95,7 @@ TEST_P(ServerDeadlineTest, ALongReadIsEndedAndTheNextOneIsServed) {
     const auto begin = Clock::now();
     EXPECT_THROW(connection.First("SELECT CAST(pg_sleep(60) AS TEXT)", soci::into(nothing)),
                  std::exception);
-    EXPECT_LT(Clock::now() - begin, seconds(7));
+    EXPECT_LT(Clock::now() - begin, Soon);
     EXPECT_EQ(Cell("SELECT 'x'"), "x");
 }
 
@@ -132,7 +126,7 @@ TEST_P(FileDeadlineTest, ReadersGoOnWhileWritersWaitForAnotherProgram) {
             longest = std::max(longest, Clock::now() - begin);
         }
     }
-    EXPECT_LT(longest, seconds(1));
+    EXPECT_LT(longest, std::chrono::seconds(5)) << "a writer waits for ten";
     for (auto& writer : writers) {
         const int status = writer.get();
         EXPECT_TRUE(status == 201 || status == 503) << status;
@@ -148,5 +142,5 @@ TEST_P(FileDeadlineTest, ALongReadIsEnded) {
                                   " SELECT COUNT(*) FROM n",
                                   soci::into(count)),
                  std::exception);
-    EXPECT_LT(Clock::now() - begin, seconds(7));
+    EXPECT_LT(Clock::now() - begin, Soon);
 }

@@ -6,6 +6,7 @@
 /// What one client may do, and what is cleared away.
 class LimitsTest : public ExchangeTest {
 protected:
+    void SetUp() override { AwaitFreshHour(); }
     int StatusOf(const std::string& path) { return Get(path)->status; }
     httplib::Result GetAs(const std::string& client, const std::string& path) {
         return Running().Client().Get(path, {{"X-Forwarded-For", client}});

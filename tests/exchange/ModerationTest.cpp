@@ -150,6 +150,7 @@ TEST_P(ModerationTest, AReportNeedsTheTokenOfItsRecipeAndOfItsReader) {
 }
 
 TEST_P(ModerationTest, ReportsOfAClientAndOfADayHaveTheirLimits) {
+    AwaitFreshHour();
     for (const auto* setting : {"reports_per_client_day", "reports_per_day"}) {
         const auto database = OnServer() ? Cluster::One().CreateDatabase() : Database() + setting;
         StartWith({{setting, "2"}, {"database", database}});

@@ -1,4 +1,5 @@
 #include "support/ExchangeTest.h"
+#include "support/Port.h"
 #include "support/Until.h"
 
 #include "exchange/Text.h"
@@ -29,7 +30,6 @@ protected:
     void StartBoth(Server::Settings settings = {}) {
         settings["trusted_proxies"] = "127.0.0.1";
         Start(settings);
-        port_ = Server::FreePort();
         MakeCertificate();
         if (IsCaddy())
             StartCaddy();
@@ -40,7 +40,7 @@ protected:
     }
 
     httplib::Client Client() const {
-        httplib::Client client("https://127.0.0.1:" + std::to_string(port_));
+        httplib::Client client("https://127.0.0.1:" + std::to_string(port_.Number()));
         client.enable_server_certificate_verification(false);
         return client;
     }
@@ -75,7 +75,7 @@ private:
     /// That of the page, with the addresses and the certificate of this test.
     std::string BlockOf(const std::string& language, const std::string& address) {
         auto block = Block(language);
-        exchange::ReplaceAll(block, address, "127.0.0.1:" + std::to_string(port_));
+        exchange::ReplaceAll(block, address, "127.0.0.1:" + std::to_string(port_.Number()));
         exchange::ReplaceAll(block, "127.0.0.1:8613",
                              "127.0.0.1:" + std::to_string(Running().Port()));
         return block;
@@ -100,7 +100,7 @@ private:
     }
 
     Folder folder_;
-    int port_ = 0;
+    Port port_;
     std::unique_ptr<Process> proxy_;
 };
 INSTANTIATE_TEST_SUITE_P(Each, ProxyTest, testing::Values("nginx", "caddy"),
@@ -130,6 +130,7 @@ TEST_P(ProxyTest, ABodyInChunksIsTakenIfItsLengthIsKnownOtherwiseRefused) {
 }
 
 TEST_P(ProxyTest, XForwardedForOfAClientIsIgnored) {
+    AwaitFreshHour();
     StartBoth({{"misses_per_client_hour", "1"}});
     const auto statusAs = [&](const char* client) {
         return Client().Get("/halvane/api/recipes/11", {{"X-Forwarded-For", client}})->status;

@@ -12,7 +12,7 @@ class SendingTest : public ExchangeTest {
 protected:
     Server::Settings Mailing(const SmtpSink& sink) {
         return {{"mail_relay", sink.Address()}, {"mail_from", "recipes@halvane.test"},
-                {"mail_tls", "none"},           {"mail_seconds", "1"},
+                {"mail_tls", "none"},           {"mail_seconds", "25"},
                 {"mail_retry_seconds", "1"},    {"public_url", "https://halvane.test/"}};
     }
     std::string SendCreated(int id) {
@@ -262,17 +262,14 @@ TEST_P(SendingTest, AMailIsGivenUpAfterTwoDays) {
 
 TEST_P(SendingTest, ARelayThatHangsHoldsUpNeitherReadersNorTheEnd) {
     const SmtpSink sink(SmtpSink::Manner::Hangs);
-    auto settings = Mailing(sink);
-    settings["mail_seconds"] = "25";
-    Start(settings);
+    Start(Mailing(sink));
     const auto begin = std::chrono::steady_clock::now();
     for (int i = 0; i < 5; ++i)
         EXPECT_TRUE(SendCreated(Create().id).starts_with("Your recipe is on its way"));
     for (int i = 0; i < 20; ++i)
         EXPECT_EQ(Get("/ready")->status, 200);
-    EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(3));
     EXPECT_EQ(Running().End(), 0);
-    EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(8));
+    EXPECT_LT(std::chrono::steady_clock::now() - begin, Soon) << "a mail has 25 seconds";
     EXPECT_EQ(Count("SELECT COUNT(*) FROM outbox"), 5);
 }
 
@@ -295,6 +292,7 @@ TEST_P(SendingTest, AskingForTheHeadAloneSendsNothing) {
 }
 
 TEST_P(SendingTest, RecipientsClientsAndDaysHaveTheirLimits) {
+    AwaitFreshHour();
     struct Case {
         const char* setting;
         const char* other;
@@ -345,15 +343,18 @@ TEST_P(SendingTest, AddressesAreInNoReplyPageOrLog) {
 TEST_P(SendingTest, AMailThatWaitsIsNotSentOnceItsRecipeIsHiddenOrRemoved) {
     for (const auto act : {&exchange::Moderation::Hide, &exchange::Moderation::Remove}) {
         const SmtpSink sink(SmtpSink::Manner::Greylists);
-        Start(Mailing(sink));
+        auto settings = Mailing(sink);
+        settings["mail_retry_seconds"] = "3600";
+        Start(settings);
         const auto created = Create();
         SendCreated(created.id);
-        ASSERT_TRUE(Until([&] { return sink.Tries() > 0; }));
+        ASSERT_TRUE(Until([&] { return Count("SELECT SUM(Tries) FROM outbox") == 1; }));
         exchange::Connection connection(Database());
         EXPECT_TRUE((exchange::Moderation(connection).*act)(created.id));
+        connection.Once("UPDATE outbox SET Due = 0");
         EXPECT_TRUE(IsOutboxEmpty());
         EXPECT_EQ(Running().End(), 0);
-        EXPECT_LT(sink.Tries(), SmtpSink::GreylistedTries);
+        EXPECT_EQ(sink.Tries(), 1);
         EXPECT_TRUE(sink.Mails().empty());
     }
 }

@@ -2,7 +2,7 @@
 #include "support/RawClient.h"
 #include "support/Until.h"
 
-#include <algorithm>
+#include <atomic>
 #include <csignal>
 #include <future>
 
@@ -14,13 +14,13 @@ protected:
         const auto begin = std::chrono::steady_clock::now();
         for (int i = 0; i < 50; ++i)
             EXPECT_EQ(Get("/ready")->status, 200);
-        EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(3));
+        EXPECT_LT(std::chrono::steady_clock::now() - begin, Soon);
     }
 };
 ON_BOTH_DATABASES(SlowClientsTest);
 
 TEST_P(SlowClientsTest, HundredsOfHalfRequestsLeaveTheOthersServed) {
-    Start({{"connections_per_client", "500"}, {"workers", "2"}});
+    Start({{"connections_per_client", "500"}, {"workers", "2"}, {"request_seconds", "60"}});
     std::vector<std::unique_ptr<RawClient>> slow;
     for (int i = 0; i < 300; ++i) {
         slow.push_back(std::make_unique<RawClient>(Running().Port()));
@@ -33,16 +33,14 @@ TEST_P(SlowClientsTest, ARequestThatArrivesTooSlowlyIsCutOff) {
     Start({{"request_seconds", "1"}});
     RawClient drip(Running().Port());
     drip.Send(Half);
-    const auto begin = std::chrono::steady_clock::now();
     EXPECT_TRUE(Until([&] { return !drip.Send("x") || drip.IsClosed(50); }));
-    EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(6));
 }
 
 TEST_P(SlowClientsTest, ABodyThatNeverComesIsCutOff) {
     Start({{"request_seconds", "1"}});
     RawClient endless(Running().Port());
     endless.Send("POST /halvane/api/recipes HTTP/1.1\r\nHost: x\r\nContent-Length: 1000\r\n\r\n{");
-    EXPECT_TRUE(endless.IsClosed(6000));
+    EXPECT_TRUE(endless.IsClosed());
     EXPECT_EQ(Count("SELECT COUNT(*) FROM recipes"), 0);
 }
 
@@ -51,12 +49,12 @@ TEST_P(SlowClientsTest, ASilentConnectionIsClosed) {
     RawClient silent(Running().Port());
     RawClient served(Running().Port());
     served.Send("GET /health HTTP/1.1\r\nHost: x\r\n\r\n");
-    EXPECT_TRUE(silent.IsClosed(6000));
-    EXPECT_TRUE(served.IsClosed(6000));
+    EXPECT_TRUE(silent.IsClosed());
+    EXPECT_TRUE(served.IsClosed());
 }
 
 TEST_P(SlowClientsTest, AClientThatDoesNotReadItsReplyHoldsUpNobody) {
-    Start({{"workers", "2"}});
+    Start({{"workers", "2"}, {"request_seconds", "60"}});
     Send();
     std::vector<std::unique_ptr<RawClient>> deaf;
     for (int i = 0; i < 20; ++i) {
@@ -85,12 +83,12 @@ TEST_P(SlowClientsTest, AClientThatAsksWithoutEndTakesTurnsWithTheOthers) {
 }
 
 TEST_P(SlowClientsTest, ConnectionsOfAClientAreLimited) {
-    Start({{"connections_per_client", "5"}});
+    Start({{"connections_per_client", "5"}, {"idle_seconds", "300"}});
     std::vector<std::unique_ptr<RawClient>> many;
     for (int i = 0; i < 5; ++i) {
         many.push_back(std::make_unique<RawClient>(Running().Port()));
         many.back()->Send("GET /health HTTP/1.1\r\nHost: x\r\n\r\n");
-        EXPECT_FALSE(many.back()->ReadToEnd(30).empty());
+        EXPECT_EQ(RawClient::Status(many.back()->ReadReply()), 200);
     }
     EXPECT_EQ(RawClient::Status(RawClient::Talk(Running().Port(), "")), 503);
     many.clear();
@@ -102,17 +100,14 @@ TEST_P(SlowClientsTest, ConnectionsOfAClientAreLimited) {
 
 TEST_P(SlowClientsTest, NewClientsAreServedWhileHundredsOfBodiesArrive) {
     Start();
+    std::atomic<bool> arriving = true;
     auto asking = std::async(std::launch::async, [&] {
-        std::chrono::steady_clock::duration longest{};
-        const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(3);
-        while (std::chrono::steady_clock::now() < end) {
-            const auto begin = std::chrono::steady_clock::now();
+        int answered = 0;
+        for (; arriving; ++answered)
             EXPECT_EQ(RawClient::Status(RawClient::Ask(Running().Port(),
                                                        "GET /health HTTP/1.1\r\nHost: x\r\n\r\n")),
                       200);
-            longest = std::max(longest, std::chrono::steady_clock::now() - begin);
-        }
-        return longest;
+        return answered;
     });
     std::vector<std::unique_ptr<RawClient>> senders;
     for (int i = 0; i < 800; ++i) {
@@ -122,7 +117,8 @@ TEST_P(SlowClientsTest, NewClientsAreServedWhileHundredsOfBodiesArrive) {
                              "Content-Type: application/json\r\nContent-Length: 1048576\r\n\r\n" +
                              std::string(1 << 19, ' '));
     }
-    EXPECT_LT(asking.get(), std::chrono::milliseconds(500));
+    arriving = false;
+    EXPECT_GT(asking.get(), 20);
 }
 
 TEST_P(SlowClientsTest, RequestsInOnePieceAreAnsweredInTheirOrder) {

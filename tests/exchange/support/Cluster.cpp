@@ -104,6 +104,14 @@ void Cluster::Kill() {
     process_.reset();
 }
 
+std::string Cluster::NameOf(const std::string& database) {
+    return database.substr(database.rfind('=') + 1);
+}
+
+std::string Cluster::Through(int port, const std::string& database) {
+    return "postgresql://postgres@127.0.0.1:" + std::to_string(port) + "/" + NameOf(database);
+}
+
 std::string Cluster::CreateDatabase() {
     const auto base = "postgresql:host=" + Socket() + " user=postgres dbname=";
     const auto name = "test" + std::to_string(++databases_);

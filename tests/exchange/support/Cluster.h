@@ -13,7 +13,10 @@ public:
     static Cluster& One(); ///< started at its first use, ended with the program
 
     std::string CreateDatabase(); ///< a new empty one; what the server's setting takes
-    std::string Socket() const { return folder_.Path(); }
+    std::string Socket() const { return folder_.Path(); } ///< the folder that it is in
+    std::string SocketFile() const { return folder_ / ".s.PGSQL.5432"; }
+    static std::string Through(int port, const std::string& database); ///< by a port of a Proxy
+    static std::string NameOf(const std::string& database);
     static std::string Tool(const std::string& name);
     void Stop();
     void Freeze(); ///< every process of it, until Thaw

@@ -1,6 +1,7 @@
 #include "support/ExchangeTest.h"
 
 #include "exchange/Columns.h"
+#include "exchange/Moment.h"
 
 const std::string& ExchangeTest::Database() {
     if (database_.empty())
@@ -77,6 +78,14 @@ int ExchangeTest::Send(const json& recipe, const json& rows) {
         Add(created, rows);
     Text("/halvane/sendrecipe.asp?recID=" + std::to_string(created.id));
     return created.id;
+}
+
+void ExchangeTest::AwaitFreshHour() {
+    using exchange::Moment::Hour;
+    using exchange::Moment::Second;
+    const auto left = Hour - exchange::Moment::Now() % Hour;
+    if (left < 60 * Second)
+        std::this_thread::sleep_for(std::chrono::microseconds(left));
 }
 
 std::string ExchangeTest::Cell(const std::string& sql) {

@@ -35,6 +35,10 @@ protected:
     void Add(const Created& recipe, const json& rows);
     int Send(const json& recipe = Soup(), const json& rows = json::array({Row(100)}));
 
+    /// Counters begin anew with each hour. Waits if it ends within a minute, so that a test of a
+    /// limit does not run across its end.
+    static void AwaitFreshHour();
+
     long long Count(const std::string& sql); ///< the one number that a statement gives
     std::string Cell(const std::string& sql);
 

@@ -81,10 +81,10 @@ bool RawClient::IsClosed(int milliseconds) {
     return false;
 }
 
-std::string RawClient::Talk(int port, std::string_view bytes, int milliseconds) {
+std::string RawClient::Talk(int port, std::string_view bytes) {
     RawClient client(port);
     client.Send(bytes);
-    return client.ReadToEnd(milliseconds);
+    return client.ReadToEnd();
 }
 
 int RawClient::Status(std::string_view reply) {

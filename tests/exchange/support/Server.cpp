@@ -6,25 +6,16 @@
 
 #include <csignal>
 #include <gtest/gtest.h>
-#include <netinet/in.h>
 #include <regex>
-#include <sys/socket.h>
-#include <unistd.h>
 
 std::string Server::Program() {
     return HALVANE_EXCHANGE_PROGRAM;
 }
 
-int Server::FreePort() {
-    sockaddr_in address{};
-    address.sin_family = AF_INET;
-    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-    socklen_t size = sizeof address;
-    const int socket = ::socket(AF_INET, SOCK_STREAM, 0);
-    ::bind(socket, reinterpret_cast<sockaddr*>(&address), size);
-    ::getsockname(socket, reinterpret_cast<sockaddr*>(&address), &size);
-    ::close(socket);
-    return ntohs(address.sin_port);
+int Server::PortIn(const std::string& log) {
+    std::smatch found;
+    const bool started = std::regex_search(log, found, std::regex(R"("started".*"port":(\d+)[,}])"));
+    return started ? std::stoi(found[1]) : 0;
 }
 
 Server::Server(Settings settings) {
@@ -36,10 +27,7 @@ Server::Server(Settings settings) {
     process_ = std::make_unique<Process>(std::vector<std::string>{Program()}, environment,
                                          folder_ / "log");
     const auto started = [&] {
-        std::smatch found;
-        const auto log = Log();
-        if (std::regex_search(log, found, std::regex(R"("started".*"port":(\d+))")))
-            port_ = std::stoi(found[1]);
+        port_ = PortIn(Log());
         return port_ != 0 || !process_->Runs();
     };
     EXPECT_TRUE(Until(started) && port_ != 0) << Log();

@@ -24,7 +24,7 @@ public:
     std::string Log() const { return ReadFile(folder_ / "log"); }
     int End(); ///< asks it to end and gives its exit code
     static std::string Program();
-    static int FreePort(); ///< for a program that cannot tell which port it took
+    static int PortIn(const std::string& log); ///< 0 until a server has logged that it started
 
 private:
     Folder folder_;
