@@ -1,15 +1,18 @@
 #include "support/ExchangeTest.h"
+#include "support/Proxy.h"
+#include "support/Until.h"
 
 #include <atomic>
 #include <csignal>
 #include <cstdlib>
+#include <functional>
 #include <random>
 #include <set>
 #include <thread>
 
-/// Kills the server under load, again and again: whatever it acknowledged is there afterwards, and
-/// what it did not is there as a whole or not at all.
-class KillTest : public ExchangeTest {
+/// Whatever the server acknowledged under load is there after a failure, and what it did not is
+/// there as a whole or not at all.
+class UnderLoadTest : public ExchangeTest {
 protected:
     /// HALVANE_KILLS sets how many.
     static int Kills() {
@@ -17,86 +20,175 @@ protected:
         return wanted ? std::atoi(wanted) : 30;
     }
 
-    /// What one sender was told, up to the last reply that reached it.
+    /// What one sender was told.
     struct Sender {
         std::set<int> sent;
         std::set<int> withRows;
     };
 
-    void SendUntilItDies(int port, Sender& sender) {
-        httplib::Client client("127.0.0.1", port);
-        client.set_keep_alive(true);
-        client.set_tcp_nodelay(true);
-        const auto recipe = Soup().dump();
-        const auto rows = json{{"rows", json::array({Row(1), Row(2), Row(3)})}}.dump();
-        for (;;) {
-            const auto created = client.Post("/halvane/api/recipes", recipe, "application/json");
-            if (!created || created->status != 201)
-                return;
-            const auto body = json::parse(created->body);
-            const int id = body["RecipeID"];
-            const auto path = "/halvane/api/recipes/" + std::to_string(id) + "/ingredients";
-            const auto added =
-                client.Post(path, {{"Authorization", "Bearer " + body["token"].get<std::string>()}},
-                            rows, "application/json");
-            if (!added || added->status != 201)
-                return;
-            sender.withRows.insert(id);
-            const auto reply = client.Get("/halvane/sendrecipe.asp?recID=" + std::to_string(id));
-            if (!reply || reply->status != 200)
-                return;
-            sender.sent.insert(id);
-        }
+    static Server::Settings Unlimited() {
+        return {{"recipes_per_client_day", "1000000000"}, {"recipes_per_day", "1000000000"}};
     }
 
-    static constexpr size_t Enough = 30;
-    static size_t Sent(const Sender (&senders)[2]) {
-        return senders[0].sent.size() + senders[1].sent.size();
+    bool Acknowledges(const httplib::Result& reply, int status) {
+        const bool acknowledged = reply && reply->status == status;
+        acknowledged_ += acknowledged;
+        return acknowledged;
     }
 
-    void RunAndKill(Sender (&senders)[2], int milliseconds) {
-        auto& server =
-            Start({{"recipes_per_client_day", "1000000"}, {"recipes_per_day", "1000000"}});
+    /// Makes a recipe, adds its rows and sends it, as far as the server acknowledges.
+    void SendOne(httplib::Client& client, Sender& sender) {
+        static const auto recipe = Soup().dump();
+        static const auto rows = json{{"rows", json::array({Row(1), Row(2), Row(3)})}}.dump();
+        const auto created = client.Post("/halvane/api/recipes", recipe, "application/json");
+        if (!Acknowledges(created, 201))
+            return;
+        const auto body = json::parse(created->body);
+        const int id = body["RecipeID"];
+        const auto path = "/halvane/api/recipes/" + std::to_string(id) + "/ingredients";
+        const httplib::Headers creator{
+            {"Authorization", "Bearer " + body["token"].get<std::string>()}};
+        if (!Acknowledges(client.Post(path, creator, rows, "application/json"), 201))
+            return;
+        sender.withRows.insert(id);
+        if (!Acknowledges(client.Get("/halvane/sendrecipe.asp?recID=" + std::to_string(id)), 200))
+            return;
+        sender.sent.insert(id);
+    }
+
+    /// Sends one recipe after the other until the work is done.
+    void DoUnderLoad(const std::function<void()>& work) {
+        std::atomic<bool> done = false;
         std::vector<std::thread> threads;
-        for (auto& sender : senders)
-            threads.emplace_back([&] { SendUntilItDies(server.Port(), sender); });
-        std::this_thread::sleep_for(std::chrono::milliseconds(milliseconds));
-        server.TheProcess().Signal(SIGKILL);
-        server.TheProcess().Wait();
+        for (auto& sender : senders_)
+            threads.emplace_back([&, client = Running().Client()]() mutable {
+                while (!done)
+                    SendOne(client, sender);
+            });
+        work();
+        done = true;
         for (auto& thread : threads)
             thread.join();
     }
+
+    /// Waits until the server has acknowledged so many more requests.
+    void AwaitAcknowledged(int more) {
+        const int wanted = acknowledged_ + more;
+        EXPECT_TRUE(Until([&] { return acknowledged_ >= wanted; }));
+    }
+
+    void ExpectAllAcknowledgedThere() {
+        exchange::Connection connection(Database());
+        size_t sent = 0;
+        const auto countOf = [&](const char* statement, int id) {
+            int count = 0;
+            connection.First(statement, soci::use(id), soci::into(count));
+            return count;
+        };
+        for (const auto& sender : senders_) {
+            sent += sender.sent.size();
+            for (const int id : sender.withRows)
+                EXPECT_EQ(countOf("SELECT COUNT(*) FROM ingredients WHERE RecipeID = :id", id), 3);
+            for (const int id : sender.sent)
+                EXPECT_EQ(countOf("SELECT COUNT(*) FROM documents WHERE RecipeID = :id", id), 1);
+        }
+        EXPECT_GT(sent, 0U);
+    }
+
+    void ExpectNothingHalf() {
+        const auto documents = Count("SELECT COUNT(*) FROM documents");
+        EXPECT_EQ(Count("SELECT COUNT(*) FROM recipes WHERE SentAt > 0"), documents);
+        EXPECT_EQ(Count("SELECT COUNT(*) FROM listing"), documents);
+        EXPECT_EQ(Count("SELECT COUNT(*) FROM search"), documents);
+        EXPECT_EQ(Count("SELECT COUNT(*) FROM ingredients"),
+                  Count("SELECT SUM(IngredientCount) FROM recipes"));
+        if (!OnServer()) {
+            EXPECT_EQ(Cell("PRAGMA integrity_check"), "ok");
+        }
+    }
+
+    std::mt19937 random_{4711};
+
+private:
+    Sender senders_[2];
+    std::atomic<int> acknowledged_ = 0;
 };
+
+class KillTest : public UnderLoadTest {};
 ON_BOTH_DATABASES(KillTest);
 
-TEST_P(KillTest, KillsUnderLoadLoseNothingAcknowledged) {
-    Sender senders[2];
-    std::mt19937 random(4711);
-    // A busy machine acknowledges few sends between two kills.
-    for (int i = 0; i < Kills() || (i < 20 * Kills() && Sent(senders) <= Enough); ++i)
-        RunAndKill(senders, 20 + static_cast<int>(random() % 60));
-    exchange::Connection connection(Database());
-    for (const auto& sender : senders) {
-        for (const int id : sender.withRows) {
-            int rows = 0;
-            connection.First("SELECT COUNT(*) FROM ingredients WHERE RecipeID = :id", soci::use(id),
-                             soci::into(rows));
-            EXPECT_EQ(rows, 3) << id;
-        }
-        for (const int id : sender.sent) {
-            int documents = 0;
-            connection.First("SELECT COUNT(*) FROM documents WHERE RecipeID = :id", soci::use(id),
-                             soci::into(documents));
-            EXPECT_EQ(documents, 1) << id;
-        }
+TEST_P(KillTest, KillsOfTheServerLoseNothingAcknowledged) {
+    for (int i = 0; i < Kills(); ++i) {
+        auto& server = Start(Unlimited());
+        DoUnderLoad([&] {
+            AwaitAcknowledged(static_cast<int>(1 + random_() % 20));
+            server.TheProcess().Signal(SIGKILL);
+            server.TheProcess().Wait();
+        });
     }
-    EXPECT_GT(Sent(senders), Enough);
-    EXPECT_EQ(Count("SELECT COUNT(*) FROM recipes WHERE SentAt > 0"),
-              Count("SELECT COUNT(*) FROM documents"));
-    EXPECT_EQ(Count("SELECT COUNT(*) FROM listing"), Count("SELECT COUNT(*) FROM documents"));
-    EXPECT_EQ(Count("SELECT COUNT(*) FROM ingredients"),
-              Count("SELECT SUM(IngredientCount) FROM recipes"));
-    if (!OnServer()) {
-        EXPECT_EQ(Cell("PRAGMA integrity_check"), "ok");
+    ExpectAllAcknowledgedThere();
+    ExpectNothingHalf();
+}
+
+/// PostgreSQL alone is a server of its own, which can go away.
+class DatabaseKillTest : public UnderLoadTest {
+protected:
+    /// Does harm to the database again and again while the server is used.
+    void Harm(const std::function<void()>& harm, int times) {
+        DoUnderLoad([&] {
+            for (int i = 0; i < times; ++i) {
+                AwaitAcknowledged(static_cast<int>(1 + random_() % 20));
+                harm();
+            }
+            AwaitAcknowledged(20);
+        });
+        EXPECT_EQ(Running().End(), 0);
+        ExpectAllAcknowledgedThere();
+        ExpectNothingHalf();
     }
+};
+INSTANTIATE_TEST_SUITE_P(KillTest, DatabaseKillTest, testing::Values("postgresql"));
+
+TEST_P(DatabaseKillTest, StopsAndStartsOfTheDatabaseLoseNothingAcknowledged) {
+    Start(Unlimited());
+    Harm(
+        [] {
+            Cluster::One().Stop();
+            Cluster::One().Start();
+        },
+        Kills() / 6);
+}
+
+TEST_P(DatabaseKillTest, KillsOfTheDatabaseLoseNothingAcknowledged) {
+    Start(Unlimited());
+    Harm(
+        [] {
+            Cluster::One().Kill();
+            Cluster::One().Start();
+        },
+        Kills() / 6);
+}
+
+TEST_P(DatabaseKillTest, BrokenLinesToTheDatabaseLoseNothingAcknowledged) {
+    Proxy proxy(Cluster::One().SocketFile());
+    auto settings = Unlimited();
+    settings["database"] = Cluster::Through(proxy.Port(), Database());
+    Start(settings);
+    Harm([&] { proxy.Break(); }, Kills());
+}
+
+TEST_P(DatabaseKillTest, ATransactionWhoseLineBreaksLeavesNothing) {
+    Start();
+    Proxy proxy(Cluster::One().SocketFile());
+    exchange::Connection connection(Cluster::Through(proxy.Port(), Database()));
+    try {
+        exchange::Transaction transaction(connection);
+        connection.Change("INSERT INTO counters (Name, Slot, Hits) VALUES ('x', 1, 1)");
+        proxy.Break();
+        transaction.Commit();
+        ADD_FAILURE() << "the commit has not failed";
+    } catch (const std::exception&) {
+        EXPECT_TRUE(connection.Failed());
+    }
+    EXPECT_EQ(Count("SELECT COUNT(*) FROM counters"), 0);
 }

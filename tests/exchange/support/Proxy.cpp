@@ -52,23 +52,24 @@ void Proxy::Accept() {
         pollfd waiting{listener_, POLLIN, 0};
         if (::poll(&waiting, 1, Moment) > 0)
             passing.emplace_back(
-                [this, client = ::accept4(listener_, nullptr, nullptr, SOCK_CLOEXEC)] {
-                    Pass(client, Connect(target_));
-                });
+                [this, client = ::accept4(listener_, nullptr, nullptr, SOCK_CLOEXEC),
+                 breaks = breaks_.load()] { Pass(client, Connect(target_), breaks); });
     }
     for (auto& one : passing)
         one.join();
 }
 
-void Proxy::Pass(int client, int server) const {
+/// `breaks` is how often the line had broken when the client came.
+void Proxy::Pass(int client, int server, int breaks) const {
     pollfd both[] = {{client, POLLIN, 0}, {server, POLLIN, 0}};
+    const auto stands = [&] { return !ending_ && breaks_ == breaks; };
     bool open = true;
-    while (open && !ending_) {
+    while (open && stands()) {
         if (cut_) {
             ::poll(nullptr, 0, Moment);
             continue;
         }
-        if (::poll(both, 2, Moment) <= 0)
+        if (::poll(both, 2, Moment) <= 0 || !stands())
             continue;
         if (both[0].revents != 0)
             open = Forward(client, server);
