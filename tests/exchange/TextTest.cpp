@@ -85,7 +85,7 @@ TEST(StoredTextTest, EveryTextComesBack) {
     }
 }
 
-TEST(StoredTextTest, TextsWithoutControlCharactersAreStoredUnchanged) {
+TEST(StoredTextTest, OtherTextsAreStoredUnchanged) {
     EXPECT_EQ(StoredText::Of("1.\tCrème\r\n\x1b"), "1.\tCrème\r\n\x1b");
 }
 
