@@ -15,7 +15,7 @@ public:
         : secret_(std::move(secret)) {}
 
     std::string TokenFor(std::string_view address) const;
-    /// Notes the mailbox that the token was made for; false if it is no token of ours.
+    /// Notes the mailbox of the token; false if the token is not ours.
     bool Note(Connection& connection, std::string_view token) const;
     bool IsToken(std::string_view token) const;
     bool Holds(Connection& connection, std::string_view address) const;

@@ -8,9 +8,9 @@
 
 namespace exchange {
 
-/// The mails that are to go out, one a recipe. A mail is put in by the transaction that makes its
-/// recipe readable, so that neither is there without the other. Any number of servers may take
-/// mails out: a mail that is claimed is left alone by the others for a while.
+/// The mails that wait to be sent, one for a recipe. The transaction that makes a recipe readable
+/// also adds its mail, so that neither exists without the other. Several servers may take mails
+/// out: when one claims a mail, the others leave it alone for a while.
 class Outbox {
 public:
     explicit Outbox(Connection& connection)
@@ -28,7 +28,7 @@ public:
     };
 
     void Add(const Recipe& recipe); ///< for the caller's transaction
-    /// The mail that has been due longest, claimed until a moment; nothing if none is due.
+    /// Claims the mail that has been due longest, until a moment; nothing if none is due.
     std::optional<Entry> Claim(long long until);
     void NoteSent(const Entry& entry);
     void TryLater(const Entry& entry, long long due);

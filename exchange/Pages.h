@@ -8,13 +8,12 @@
 
 namespace exchange {
 
-/// The pages, written on the server and readable without script. Every text of a user is escaped by
-/// the templates.
+/// The pages, which need no script. The templates escape every text of a user.
 namespace Pages {
 struct ListPage {
     std::string query;
     int page = 1;
-    std::optional<int> from; ///< the place in the list that a search goes on from
+    std::optional<int> from; ///< the place in the list where a search continues
     RecipeStore::ListPortion found;
 };
 

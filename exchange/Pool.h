@@ -9,9 +9,9 @@
 
 namespace exchange {
 
-/// The open connections of the process. A lease takes one or opens a new one, and gives it back;
-/// one that a statement has failed on is closed instead, with all that are free, so that the next
-/// lease connects anew. A refusal that goes through a lease is no failure of the database.
+/// The open connections of the process. A lease takes a free one or opens a new one, and gives it
+/// back. After a failed statement, it closes this one and all free ones instead, so that the next
+/// lease connects anew. A Refusal is not a failure of the database.
 class Pool {
 public:
     explicit Pool(std::string database)

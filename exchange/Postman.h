@@ -12,13 +12,13 @@
 
 namespace exchange {
 
-/// Takes mails out of the outbox and hands them to the relay, a few at a time. What the relay does
-/// not take just now is tried again after growing pauses, for two days. Without a relay there is
-/// nothing to do.
+/// Takes mails out of the outbox and hands them to the relay, a few at a time. If the relay does
+/// not take a mail, it tries again after growing pauses, for two days. Without a relay it does
+/// nothing.
 class Postman {
 public:
     explicit Postman(const Service& service);
-    ~Postman(); ///< breaks off what is on its way; it is tried again
+    ~Postman(); ///< breaks off running deliveries; they are tried again later
     Postman(const Postman&) = delete;
     Postman& operator=(const Postman&) = delete;
 

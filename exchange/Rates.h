@@ -11,8 +11,8 @@
 
 namespace exchange {
 
-/// Limits how often a visitor may ask for expensive pages in a minute. Each process counts for
-/// itself, since it protects its own time.
+/// Limits how many expensive pages a visitor may request in a minute. Each process counts for
+/// itself, since it protects its own processor time.
 class Rates {
 public:
     enum Kind : size_t { Searches, Pages };
@@ -24,7 +24,7 @@ public:
 
 private:
     using Clock = std::chrono::steady_clock;
-    /// How much was taken lately. It decreases at a constant rate.
+    /// How much was used recently. It decreases at a constant rate.
     struct Level {
         double taken = 0;
         Clock::time_point when;

@@ -20,7 +20,7 @@ struct Ingredient {
     std::optional<std::string> Portion() const;
 };
 
-/// One row of `recipes`, as a sender gives it: what he left empty stays empty.
+/// One row of `recipes` as it was sent: empty fields stay empty.
 struct Recipe {
     int id = 0;
     std::optional<std::string> name;
@@ -34,8 +34,8 @@ struct Recipe {
     std::vector<Ingredient> ingredients;
 
     double Servings() const { return yield.value_or(0) == 0 ? 1 : *yield; }
-    /// The sum over the ingredients by one serving; nothing if no ingredient has a value, or if the
-    /// servings are so small that it is beyond all measure.
+    /// The sum over the ingredients, per serving; nothing if no ingredient has a value, or if the
+    /// result is absurdly large.
     std::optional<double> PerServing(int nutrient) const;
 };
 

@@ -4,7 +4,7 @@
 
 namespace exchange {
 
-/// The number of a recipe. The program shows 0 and 1 for other things.
+/// The number of a recipe. 0 and 1 have other meanings in the program.
 namespace RecipeID {
 inline constexpr int Least = 2;
 inline constexpr int Most = 0x7fffffff;

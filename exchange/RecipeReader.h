@@ -7,7 +7,7 @@
 
 namespace exchange {
 
-/// Reads the bodies that a client sends. Whatever is not as docs/exchange-wire.md gives it is
+/// Reads the bodies that a client sends, as docs/exchange-wire.md describes them. Any other body is
 /// refused as a whole, with a Refusal that names the field.
 namespace RecipeReader {
 Recipe ReadRecipe(const std::string& body);

@@ -10,9 +10,9 @@ namespace exchange {
 /// Finds public recipes by words, with the database's own full-text search. A recipe is known by
 /// its place in the list.
 ///
-/// Two common words that never meet would make a database walk all of both. So each recipe also has
-/// the numbers of its blocks of places as words. A search asks for one block after the other,
-/// the newest first, and stops when it has enough or has taken its time.
+/// For two common words that never occur together, a database would read all entries of both. So
+/// each recipe also has the numbers of its blocks of places as words. A search reads one block
+/// after the other, newest first, and stops when it has enough or its time is up.
 class RecipeSearch {
 public:
     explicit RecipeSearch(Connection& connection)
@@ -20,7 +20,7 @@ public:
 
     struct Found {
         std::vector<long long> places; ///< newest first
-        long long next = 0;            ///< the newest place that was not looked at; 0 if all were
+        long long next = 0;            ///< the newest place that was not searched; 0 if all were
     };
     /// At most so many, none newer than `newest`.
     Found Find(const std::vector<std::string>& words, long long newest, size_t most);
@@ -29,7 +29,7 @@ public:
     void Remove(long long place);
     static void MakeTable(Connection& connection);
 
-    /// The words of a place that are not those of its recipe.
+    /// The words that stand for the blocks of a place.
     static std::vector<std::string> BlocksOf(long long place);
 
 private:

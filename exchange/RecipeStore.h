@@ -46,7 +46,7 @@ public:
     };
     std::optional<State> Find(int id);
 
-    /// Makes an unfinished recipe readable; nothing if it is not there or was sent before. Exactly
+    /// Makes an unfinished recipe readable; nothing if it does not exist or was sent before. Only
     /// one caller ever gets the recipe. For the caller's transaction.
     std::optional<Recipe> Finish(int id);
     void NoteMailed(int id);
@@ -69,7 +69,7 @@ public:
     static constexpr int PageSize = 20;
     struct ListPortion {
         std::vector<Listed> recipes; ///< one more than a page, if there are more, newest first
-        long long next = 0;          ///< the place to search on from; 0 if everything was looked at
+        long long next = 0;          ///< where to continue the search; 0 if all was searched
     };
     /// The recipes that have all of the words, from a place of the list on or from the newest.
     ListPortion List(const std::vector<std::string>& words, int page,

@@ -26,7 +26,7 @@ struct Report {
 class Reports {
 public:
     static constexpr size_t LongestWords = 500; ///< letters
-    static constexpr int MostOfARecipe = 20;    ///< that are kept; they are enough to look at it
+    static constexpr int MostOfARecipe = 20;    ///< that are kept
 
     explicit Reports(Connection& connection)
         : connection_(connection) {}

@@ -25,7 +25,7 @@ enum class Lane { Here, Workers, Watch };
 struct RouteTerms {
     Lane lane = Lane::Workers;
     bool changes = false; ///< a GET that changes something, as every other method does
-    std::string body = "application/json"; ///< the only type of a body that is taken; empty: any
+    std::string body = "application/json"; ///< the only accepted type of a body; empty: any
 };
 
 /// Finds the handler of a request by method and path, and answers requests without a handler. A
@@ -54,7 +54,7 @@ public:
     struct Match {
         const Route* route = nullptr;
         std::optional<int> id;
-        std::string allowed; ///< the methods that the path takes, if it takes others
+        std::string allowed; ///< the methods of the path, if the request has another one
         Lane lane = Lane::Here;
 
         std::string_view Name() const { return route ? std::string_view(route->pattern) : "none"; }

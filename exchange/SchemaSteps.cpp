@@ -12,9 +12,9 @@ void Run(Connection& connection, std::initializer_list<const char*> statements) 
         connection.Once(statement);
 }
 
-// A recipe is unfinished while SentAt is 0. `documents` is what is read of a recipe, written once
-// when it is sent: nothing that is not sent can be read. `listing` holds the public ones alone, and
-// `words` leads to them. Moments are microseconds since 1970.
+// A recipe is unfinished while SentAt is 0. `documents` has the replies for readers, written once
+// when the recipe is sent: no unsent recipe can be read. `listing` has only public recipes, and
+// `words` is their index. Times are microseconds since 1970.
 void MakeTables(Connection& connection) {
     Run(connection,
         {
@@ -73,7 +73,8 @@ void MakeModerationTables(Connection& connection) {
         });
 }
 
-/// Mails on their way. The addresses are kept here, too, as those of the recipe may have to go.
+/// Mails that wait. They have their own addresses, since those of the recipe may be deleted
+/// earlier.
 void MakeOutbox(Connection& connection) {
     Run(connection, {"CREATE TABLE outbox ("
                      " RecipeID INTEGER NOT NULL PRIMARY KEY REFERENCES recipes ON DELETE CASCADE,"

@@ -9,7 +9,7 @@ namespace {
 using soci::into;
 using soci::use;
 
-/// A key that the database counts up by itself, and never gives again.
+/// With a key that the database increments by itself and never reuses.
 std::string ListingTable(bool embedded) {
     return std::string("CREATE TABLE listing (Place ") +
            (embedded ? "INTEGER PRIMARY KEY AUTOINCREMENT"

@@ -14,8 +14,8 @@ namespace exchange::SecretFile {
 namespace {
 constexpr size_t Shortest = 32;
 
-/// Writes a new secret under a name of its own. Of servers that start together the first to give
-/// its file the right name wins, and no one ever reads half a file.
+/// Writes a new secret to a temporary file and links it to the right name. If several servers start
+/// together, the first link wins, and nobody ever reads half a file.
 void Make(const std::string& path) {
     std::string draft = path + ".XXXXXX";
     const int file = ::mkstemp(draft.data());

@@ -56,7 +56,7 @@ Sending::Outcome Sending::SendUnfinished(Connection& connection, int id,
     return state.sent ? AlreadySent(id) : Complete(connection, id, state.to, visitor);
 }
 
-/// All or nothing: without a mail, no counter of the limits changes.
+/// All or nothing: if no mail goes out, no counter changes.
 bool Sending::CompleteWithMail(Connection& connection, int id, const Visitor& visitor) const {
     Transaction transaction(connection);
     const auto recipe = RecipeStore(connection).Finish(id);
@@ -74,7 +74,7 @@ bool Sending::CompleteAlone(Connection& connection, int id) const {
     return completed;
 }
 
-/// A sentence; empty if a mail may go out as far as this tells.
+/// A sentence; empty if nothing here forbids a mail.
 std::string Sending::WhyNoMail(Connection& connection, const std::string& to) const {
     if (!service_.config.Mails())
         return "This server sends no mail.";

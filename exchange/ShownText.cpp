@@ -14,7 +14,7 @@ struct Range {
     Kind kind;
 };
 
-/// What is not simply seen, in the order of the letters. A joiner changes how its neighbours look.
+/// Letters that are not simply visible, in order. A joiner changes how its neighbours look.
 constexpr Range Ranges[] = {
     {0x0000, 0x0008, Kind::Hidden},   {0x0009, 0x0009, Kind::Blank},
     {0x000a, 0x000d, Kind::LineEnd},  {0x000e, 0x001f, Kind::Hidden},

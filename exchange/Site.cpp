@@ -23,7 +23,7 @@ Router::Handler File(const std::string& text, const char* type) {
     };
 }
 
-/// A request whose address was not understood gets the reason as JSON, too.
+/// A request with an unreadable target also gets the reason as JSON.
 bool IsForPrograms(const std::string& path) {
     return path.empty() || path == "/health" || path == "/ready" ||
            path.starts_with("/halvane/api/");

@@ -9,7 +9,7 @@ namespace exchange::Target {
 namespace {
 constexpr std::string_view Digits = "0123456789ABCDEF";
 
-/// The byte that `%` and two digits at the begin of the text stand for; -1 if they are not there.
+/// The byte of `%` and two digits at the beginning of the text; -1 if there are none.
 int EncodedByte(std::string_view text) {
     int byte = 0;
     if (text.size() < 3 || text[0] != '%')

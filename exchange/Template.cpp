@@ -64,7 +64,7 @@ struct Template::Scope {
     }
 };
 
-/// The line end after the tag of a section belongs to the tag if nothing else is on its line.
+/// If a section's tag is alone on its line, the line end belongs to the tag.
 Template::Tag Template::Tag::Read(std::string_view text, size_t begin) {
     const auto closing = text.substr(begin).starts_with("{{{") ? "}}}" : "}}";
     const auto last = text.find(closing, begin);

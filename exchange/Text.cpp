@@ -64,7 +64,7 @@ std::optional<int> WholeNumber(std::string_view text, int least, int most) {
 }
 
 namespace {
-/// How many bytes the letter beyond ASCII has that begins with this byte; 0 if none begins with it.
+/// The size of a non-ASCII letter that begins with this byte; 0 if none does.
 size_t LengthOf(unsigned lead) {
     if (lead >> 5 == 0b110)
         return 2;

@@ -9,7 +9,7 @@ namespace {
 constexpr std::chrono::milliseconds Interval(50);
 constexpr std::chrono::seconds InAHurry(2);
 
-/// The watches of the process, and the thread that goes round.
+/// The watches of the process, and the thread that checks them.
 class Round {
 public:
     static Round& One() {

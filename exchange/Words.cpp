@@ -27,7 +27,7 @@ std::string Singular(std::string word) {
     return word;
 }
 
-/// In small letters, each accent taken off; nothing of a text that is no UTF-8.
+/// In lower case without accents; empty if the text is not UTF-8.
 std::string Folded(std::string_view text) {
     constexpr auto manner = static_cast<utf8proc_option_t>(UTF8PROC_COMPAT | UTF8PROC_DECOMPOSE |
                                                            UTF8PROC_CASEFOLD | UTF8PROC_STRIPMARK);

@@ -35,7 +35,7 @@ bool Workers::GiveTurn(const std::string& client, Queue& queue) {
     return true;
 }
 
-/// Unlocks first, since the woken thread takes the lock at once.
+/// Unlocks first, since the woken thread needs the lock.
 void Workers::Wake(std::unique_lock<std::mutex>& lock, bool wanted) {
     lock.unlock();
     if (wanted)

@@ -4,7 +4,7 @@
 
 namespace exchange {
 namespace {
-/// If no writer has come or gone for this long, writing is blocked.
+/// If no writer has come or gone for so long, writes are blocked.
 constexpr std::chrono::seconds Standstill(1);
 constexpr std::chrono::seconds LongestWait(10);
 } // namespace

@@ -38,7 +38,7 @@ private:
     std::vector<std::thread> threads_;
 };
 
-/// Connections that are open and do no more.
+/// Connections that are open and do nothing.
 using Held = std::vector<std::unique_ptr<RawClient>>;
 
 std::string Ask(const Target& target, const std::string& from, const std::string& request) {

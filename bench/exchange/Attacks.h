@@ -5,8 +5,7 @@
 #include <string>
 #include <vector>
 
-/// What somebody does who means ill, from the networks of 127.9.0.0/16: none of them is that of a
-/// reader, who comes from 127.0.0.1.
+/// Attacks, from the networks of 127.9.0.0/16. Readers come from 127.0.0.1.
 namespace Attacks {
 struct Target {
     int port = 0;

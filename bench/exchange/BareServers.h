@@ -6,8 +6,8 @@
 
 #include <memory>
 
-/// What the same machine answers when there is nothing to do: a server of the library that the
-/// exchange stands on, with as many threads, and nginx.
+/// Servers that do nothing, for comparison: one of the same library as the exchange, with as many
+/// threads, and nginx.
 class BareServers {
 public:
     explicit BareServers(int threads);

@@ -1,5 +1,5 @@
-// What the exchange takes, beside a bare server and nginx in the same run, and what it costs others
-// when somebody attacks it. Fails if a figure misses its aim.
+// Measures the exchange beside a bare server and nginx, and what others notice while somebody
+// attacks it. Fails if a figure misses its aim.
 // exchange_bench [RECIPES [SECONDS]]: 100,000 recipes, and 1 second for each measurement. With
 // "exchange_bench 10000 0.3" it ends soon.
 #include "Attacks.h"
@@ -75,8 +75,8 @@ private:
         UnderAttack(name, database, embedded);
     }
 
-    /// What the operator does about a complaint, with the start of the program. The recipes stand
-    /// in the middle of the list.
+    /// The operator's commands, including the start of the program. The recipes are in the middle
+    /// of the list.
     void Commands(const std::string& name, const std::string& database) {
         const auto one = std::to_string(recipes_ / 2);
         const auto other = std::to_string(recipes_ / 2 + 1);
@@ -111,8 +111,8 @@ private:
         WriteFile(folder_ / "worst", "/halvane/community.asp?q=quick+sunday\n");
     }
 
-    /// In short turns with the bare reply, as the machine's own pace changes by the second; the
-    /// turn with the middle ratio counts.
+    /// In short turns with the bare server, since the speed of the machine varies. The turn with
+    /// the median ratio counts.
     void AtTop(const std::string& work, int port, const std::string& paths, double least) {
         struct Turn {
             double bare;
@@ -133,7 +133,7 @@ private:
         results_.Failures(work, failed);
     }
 
-    /// Alone: what one search costs, and not how long it waits for the others.
+    /// On one connection: the cost of one search, without waiting for others.
     void WorstSearch(const std::string& work, int port) {
         auto plan = Plan("worst");
         plan.connections = 1;
@@ -190,7 +190,7 @@ private:
     BareServers bare_{exchange::Config().workers + 1}; // and the thread of the connections
 };
 
-/// An attack needs more descriptors than a program has by default.
+/// The attacks need more descriptors than a program has by default.
 void RaiseDescriptors() {
     rlimit limit{};
     getrlimit(RLIMIT_NOFILE, &limit);

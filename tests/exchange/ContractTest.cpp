@@ -7,8 +7,7 @@
 #include <limits>
 #include <set>
 
-/// What the program relies on when it imports and sends; docs/exchange-wire.md is where it is
-/// written.
+/// What the program relies on when it imports and sends, as docs/exchange-wire.md describes it.
 class ContractTest : public ExchangeTest {
 protected:
     void SetUp() override { Start(); }

@@ -177,7 +177,7 @@ TEST_P(FrontTest, TheSecretIsCreatedOnceAndOnlyForItsOwner) {
     EXPECT_EQ(ReadFile(secret), first);
 }
 
-/// PostgreSQL alone can let a worker wait.
+/// Only on PostgreSQL can a worker be made to wait.
 class StuckWorkerTest : public FrontTest {
 protected:
     /// After so long a statement that reads is ended.

@@ -9,7 +9,7 @@
 
 using namespace exchange;
 
-/// A front in this process, whose workers do not answer before the test ends.
+/// A front in this process whose workers do not answer until the test ends.
 class GivenUpTest : public testing::Test {
 protected:
     GivenUpTest() {

@@ -10,8 +10,8 @@
 #include <set>
 #include <thread>
 
-/// Whatever the server acknowledged under load is there after a failure, and what it did not is
-/// there as a whole or not at all.
+/// After a failure under load, everything that the server acknowledged is there, and nothing is
+/// there by half.
 class UnderLoadTest : public ExchangeTest {
 protected:
     /// HALVANE_KILLS sets how many.
@@ -20,7 +20,7 @@ protected:
         return wanted ? std::atoi(wanted) : 30;
     }
 
-    /// What one sender was told.
+    /// What the server acknowledged to one sender.
     struct Sender {
         std::set<int> sent;
         std::set<int> withRows;
@@ -130,7 +130,7 @@ TEST_P(KillTest, KillsOfTheServerLoseNothingAcknowledged) {
     ExpectNothingHalf();
 }
 
-/// PostgreSQL alone is a server of its own, which can go away.
+/// Only PostgreSQL is a server of its own, which can fail alone.
 class DatabaseKillTest : public UnderLoadTest {
 protected:
     /// Does harm to the database again and again while the server is used.

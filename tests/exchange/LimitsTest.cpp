@@ -3,7 +3,7 @@
 
 #include "exchange/Text.h"
 
-/// What one client may do, and what is cleared away.
+/// The limits of clients, and the deletion of old data.
 class LimitsTest : public ExchangeTest {
 protected:
     void SetUp() override { AwaitFreshHour(); }

@@ -320,7 +320,7 @@ TEST_P(OperationTest, ABackupIsRestoredWithTheCommandsOfTheHandbook) {
     EXPECT_NE(Text("/halvane/community.asp?q=lentil").find(id), std::string::npos);
 }
 
-/// PostgreSQL alone can go away and come back, and is shared with programs that can.
+/// Only PostgreSQL can be stopped and started again, and is used by other programs.
 class LostDatabaseTest : public ExchangeTest {};
 INSTANTIATE_TEST_SUITE_P(OperationTest, LostDatabaseTest, testing::Values("postgresql"));
 
