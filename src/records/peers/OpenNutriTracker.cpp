@@ -41,6 +41,16 @@ constexpr Amount Amounts[] = {
     {"vitaminB12100", {"vitamin_b12_per_100g", VitaminB12, Unit::Microgram}, true},
 };
 
+const QStringList& KnownNames() {
+    static const QStringList names = [] {
+        QStringList all;
+        for (const Amount& amount : Amounts)
+            all << QLatin1String(amount.key);
+        return all;
+    }();
+    return names;
+}
+
 constexpr double GramsPerOunce = 28.3495;
 constexpr double MillilitresPerFluidOunce = 29.5735;
 
@@ -140,6 +150,7 @@ private:
     }
 
     NutrientAmounts AmountsOf(const QJsonObject& nutriments, bool areOld) const {
+        PeerJson::TellOthers(nutriments, KnownNames(), into_);
         return AmountsOf(areOld, [&](const Amount& amount) {
             return PeerJson::Number(nutriments[QLatin1String(amount.key)]);
         });

@@ -32,7 +32,7 @@ AmountColumns::AmountColumns(const PeerTable& table, std::span<const AmountColum
                              const AmountRules& rules)
     : rules_(rules) {
     for (const AmountColumn& column : columns)
-        if (const int place = table.Header().Find(QString::fromUtf8(column.name)); place >= 0)
+        if (const int place = table.Find(column.name); place >= 0)
             columns_.push_back({place, column});
 }
 

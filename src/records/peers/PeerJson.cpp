@@ -39,6 +39,12 @@ std::optional<double> PeerJson::Number(const QJsonValue& value) {
     throw RuntimeError(ErrorNumber::TypeMismatch, QStringLiteral("A value is not a number."));
 }
 
+void PeerJson::TellOthers(const QJsonObject& amounts, const QStringList& names, Imported& into) {
+    for (auto amount = amounts.begin(); amount != amounts.end(); ++amount)
+        if (amount.value().toVariant().toDouble() > 0 && !names.contains(amount.key()))
+            into.Remark("Amounts of " + amount.key() + " are not kept here.");
+}
+
 QString PeerJson::Text(const QJsonValue& value) {
     return value.isString() || value.isDouble() ? value.toVariant().toString() : QString();
 }

@@ -17,6 +17,9 @@ QJsonDocument Document(const PeerFile& file); ///< fails where it is none, and s
 std::optional<double> Number(const QJsonValue& value);
 QString Text(const QJsonValue& value); ///< of a text or a number; empty for all else
 
+/// Tells which amounts have none of these names though they are above 0.
+void TellOthers(const QJsonObject& amounts, const QStringList& names, Imported& into);
+
 /// Takes each element of an array by `take(object, origin)`. One that cannot be taken is refused
 /// with the reason.
 template <class Take>

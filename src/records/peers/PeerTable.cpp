@@ -5,6 +5,14 @@
 
 #include <algorithm>
 
+namespace {
+/// Programs write 0 into columns that they do not use.
+bool SaysSomething(QByteArrayView cell) {
+    return std::ranges::any_of(cell,
+                               [](char at) { return QByteArrayView(" 0.,").indexOf(at) < 0; });
+}
+} // namespace
+
 PeerTable::PeerTable(const PeerFile& file, NumberFormat numbers, char separator)
     : name_(file.name)
     , numbers_(numbers)
@@ -12,6 +20,28 @@ PeerTable::PeerTable(const PeerFile& file, NumberFormat numbers, char separator)
     , reader_(*device_, separator) {
     if (Next())
         header_ = CsvHeader(reader_);
+}
+
+int PeerTable::Find(const char* column) const {
+    const int place = header_.Find(QString::fromUtf8(column));
+    known_ << place;
+    return place;
+}
+
+void PeerTable::NoteCells() {
+    for (int column = 0; column < Count(); ++column)
+        if (SaysSomething(reader_[column]))
+            filled_ << column;
+}
+
+void PeerTable::TellUnread(Imported& into) const {
+    QStringList names;
+    for (int column = 0; column < header_.Count(); ++column)
+        if (filled_.contains(column) && !known_.contains(column))
+            names << header_.Name(column);
+    if (!names.isEmpty())
+        into.Remark("Columns of " + name_ +
+                    " that are not kept here: " + names.join(QLatin1String(", ")) + u'.');
 }
 
 bool PeerTable::Has(std::span<const char* const> columns) const {

@@ -57,6 +57,19 @@ struct OwnNutrient {
 /// A person may add nutrients with units of their own.
 constexpr OwnNutrient OwnNutrients[] = {{"water", Water}, {"ash", Ash}};
 
+/// Kilojoules are the calories in another unit.
+const QStringList& KnownNames() {
+    static const QStringList names = [] {
+        QStringList all{QStringLiteral("kilojoules")};
+        for (const AmountColumn& column : Amounts)
+            all << QString::fromUtf8(column.name);
+        for (const OwnNutrient& own : OwnNutrients)
+            all << QString::fromUtf8(own.name);
+        return all;
+    }();
+    return names;
+}
+
 const QJsonArray& DefaultMeals() {
     static const QJsonArray names{"Breakfast", "Lunch", "Dinner", "Snacks"};
     return names;
@@ -117,6 +130,7 @@ private:
             if (const auto unit = Units::Named(units[QLatin1String(name)].toString()))
                 rules_.Take(amounts, {name, nutrient, *unit},
                             PeerJson::Number(nutrition[QLatin1String(name)]));
+        PeerJson::TellOthers(nutrition, KnownNames(), into_);
         return amounts;
     }
 

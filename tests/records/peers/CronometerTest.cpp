@@ -65,7 +65,7 @@ TEST_F(CronometerTest, VitaminAInMicrogramsIsUnknownUnlessItsSourceIsSaid) {
     const Result result = Read({"cronometer-servings.csv"});
     EXPECT_EQ(UserRows("SELECT VitaminA FROM USER_FOODS ORDER BY RecID"),
               QList<QVariantList>({{0.0}, {QVariant()}, {QVariant()}, {QVariant()}}));
-    EXPECT_EQ(result.remarks.size(), 2);
+    EXPECT_EQ(result.remarks.size(), 3);
     for (const auto& [source, iu] : {std::pair(VitaminASource::Retinol, 134 / 0.3),
                                      {VitaminASource::BetaCarotene, 134 / 0.05}}) {
         Options options = From("cronometer", {"cronometer-servings.csv"});

@@ -117,6 +117,24 @@ TEST_F(PeerImportTest, WhatNobodyKnowsIsCounted) {
     EXPECT_EQ(result.unknown[Nutrient::Iron], 2);
 }
 
+TEST_F(PeerImportTest, ColumnsThatAreNotKeptAreTold) {
+    const QString file =
+        Write("servings.csv", "Day,Food Name,Amount,Energy (kcal),Caffeine (mg),Alcohol (g),Note\n"
+                              "2026-03-02,Tea,1 cup,2,40,0.00,strong\n"
+                              "2026-03-02,Milk,1 cup,122,,,\n");
+    const Result result = Import("cronometer", {file});
+    EXPECT_EQ(result.remarks.keys().filter("not kept"),
+              QStringList("Columns of servings.csv that are not kept here: Caffeine (mg), Note."));
+}
+
+TEST_F(PeerImportTest, AmountsThatAreNotKeptAreTold) {
+    const QString file = Write("a.json", R"({"version": 3, "diary": [], "foodList": [
+        {"id": 1, "name": "Tea", "portion": "100", "unit": "g",
+         "nutrition": {"calories": 2, "kilojoules": 8, "caffeine": "40", "sugars": 0}}]})");
+    EXPECT_EQ(Import("waistline", {file}).remarks.keys().filter("not kept"),
+              QStringList("Amounts of caffeine are not kept here."));
+}
+
 TEST_F(PeerImportTest, AnUnknownAmountCountsAsNothingInASum) {
     Import("cronometer", {Servings});
     EXPECT_EQ(User("SELECT Sum(Iron) FROM USER_FOODS"), 1.70 + 8.00);
