@@ -63,9 +63,11 @@ void AddPaths(CLI::App& command, Options& options) {
         path("--from", options.from, "The program that has exported the files, or table")
             ->transform(OneOf(names));
     path("--map", options.map, "With --from table: a file that tells what its columns mean")
+        ->type_name("FILE")
         ->needs(from);
     path("--rejects", options.rejects,
          "Where rows that are not taken are listed; otherwise beside the first file")
+        ->type_name("FILE")
         ->needs(from);
 }
 
