@@ -38,13 +38,13 @@ QStringList From(const QString& program) {
 const std::vector<Hostile>& Files() {
     static const std::vector<Hostile> files = {
         {"TextOfARow", Import, "a.json", Document + R"("log":[{"food":")", "x", 100,
-         "log, row 1: it is longer than 32 megabytes."},
+         "log, row 1: it is longer than 24 megabytes."},
         {"AmountsOfARow", Import, "a.json", Document + R"("log":[{"amounts":[1)", ",1", 100,
-         "log, row 1: it is longer than 32 megabytes."},
+         "log, row 1: it is longer than 24 megabytes."},
         {"NumberOfARow", Import, "a.json", Document + R"("log":[{"quantity":1)", "0", 100,
-         "log, row 1: it is longer than 32 megabytes."},
+         "log, row 1: it is longer than 24 megabytes."},
         {"NameOfAMember", Import, "a.json", Document + '"', "x", 100,
-         "it is longer than 32 megabytes."},
+         "it is longer than 24 megabytes."},
         {"DeepDocument", Import, "a.json", Document + R"("log":)", "[", 20, "log, row 1: "},
         {"LineOfCronometer", From("cronometer"), "servings.csv", "Day,Food Name,Amount\n", "x", 100,
          "servings.csv: Line 2 cannot be read: it is longer than 4194304 bytes."},

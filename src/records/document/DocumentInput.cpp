@@ -7,7 +7,7 @@
 
 namespace {
 constexpr qsizetype Chunk = 1 << 16;
-constexpr qint64 MostMegabytes = 32; ///< of a row
+constexpr qint64 MostMegabytes = 24; ///< of a row
 } // namespace
 
 DocumentInput::DocumentInput(const QString& path)
