@@ -86,8 +86,7 @@ void OwnSnapshots::Tell(const QString& failure) const {
         return;
     SetRegValue(Settings::Snapshots, failure.isEmpty() ? QString() : QLatin1String(Told));
     if (!failure.isEmpty())
-        ShowAlert("Halvane cannot make a snapshot of your records. " + failure +
-                      "\n\nYou can go on: everything that you enter is saved. Halvane tries again "
-                      "at each start.",
+        ShowAlert("Halvane cannot make a snapshot. " + failure +
+                      " You can go on: what you enter is saved.",
                   parent());
 }

@@ -56,14 +56,15 @@ QString Rescue(const RuntimeError* error) {
     const auto sound = snapshots.NewestSound();
     if (!sound)
         return {};
-    return QStringLiteral("The newest sound snapshot is of %1: %2. To bring it back, run this "
-                          "command: halvane-data restore %3")
+    return QStringLiteral("The newest sound snapshot is of %1: %2.\n\nTo bring it back, run "
+                          "this command: halvane-data restore %3")
         .arg(sound->When(), sound->counts.Text(), QString::number(snapshots.NumberOf(*sound)));
 }
 
 void ShowChoice(const QString& text) {
     QMessageBox box(QMessageBox::Warning, QStringLiteral("Halvane cannot start"), text,
                     QMessageBox::Ok);
+    box.setObjectName(QStringLiteral("frmStartFailure"));
     box.setTextFormat(Qt::PlainText);
     box.exec();
 }

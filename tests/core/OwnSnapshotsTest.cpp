@@ -127,7 +127,7 @@ TEST_F(OwnSnapshotsTest, WhereNoneCanBeMadeThatIsSaidOnceUntilOneSucceeds) {
     MakePlaceImpossible(true);
     ASSERT_EQ(RunMain(), 0);
     ASSERT_TRUE(QTest::qWaitFor([&] { return !said.isEmpty(); }));
-    EXPECT_TRUE(said.first().startsWith("Halvane cannot make a snapshot of your records."))
+    EXPECT_TRUE(said.first().startsWith("Halvane cannot make a snapshot."))
         << said.first().toStdString();
     EXPECT_TRUE(said.first().contains("data")) << "names the folder";
     StartAgain();

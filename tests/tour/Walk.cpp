@@ -357,6 +357,41 @@ void Walk::GoAgain() {
     Quit();
 }
 
+/// A file stands where the folder of the snapshots must be.
+void Walk::GoWithoutSnapshots() {
+    UseFolder();
+    const QString place = qEnvironmentVariable("XDG_DATA_HOME") + QStringLiteral("/halvane");
+    const QString kept = place + QStringLiteral("-kept");
+    guide_.Check(QDir().rename(place, kept) && QFile(place).open(QIODevice::WriteOnly),
+                 QStringLiteral("no snapshot can be made"));
+    guide_.Foresee(QStringLiteral("frmSplash"),
+                   [](QWidget* splash) { QTest::keyClick(splash, Qt::Key_Space); });
+    guide_.Foresee(QStringLiteral("frmAlert"), [this](QWidget* alert) {
+        guide_.Picture(alert, QStringLiteral("snapshot-failed"));
+        guide_.Press(alert, QStringLiteral("cmdOK"));
+    });
+    Start();
+    guide_.Check(QTest::qWaitFor([this] { return guide_.AllForeseenCame(); }, 60'000),
+                 QStringLiteral("the failed snapshot is told"));
+    Quit();
+    guide_.Check(QFile::remove(place) && QDir().rename(kept, place),
+                 QStringLiteral("the snapshots are back"));
+}
+
+void Walk::GoDamaged() {
+    UseFolder();
+    QFile users(folder_ + QStringLiteral("/users.mdb"));
+    guide_.Check(users.open(QIODevice::ReadWrite) && users.write(QByteArray(4096, 'x')) == 4096,
+                 QStringLiteral("the file is damaged"));
+    users.close();
+    guide_.Foresee(QStringLiteral("frmStartFailure"), [this](QWidget* message) {
+        guide_.Picture(message, QStringLiteral("start-damaged"));
+        message->close();
+    });
+    Start();
+    guide_.Check(guide_.AllForeseenCame(), QStringLiteral("the start names the snapshot"));
+}
+
 void Walk::GoAsFriend() {
 #ifdef HALVANE_EXCHANGE_PROGRAM
     ExchangeWalk exchange(guide_, folder_);

@@ -12,9 +12,11 @@ class QWidget;
 class Walk {
 public:
     Walk(Guide& guide, const QString& folder);
-    void Go();         ///< from the first start to leaving the program
-    void GoAgain();    ///< the second start, which finds everything again
-    void GoAsFriend(); ///< the friend, with a folder of her own, imports the recipe
+    void Go();                 ///< from the first start to leaving the program
+    void GoAgain();            ///< the second start, which finds everything again
+    void GoAsFriend();         ///< the friend, with a folder of her own, imports the recipe
+    void GoWithoutSnapshots(); ///< a start that cannot make the snapshot of the day
+    void GoDamaged();          ///< a start with a damaged file
 
 private:
     struct Bite;

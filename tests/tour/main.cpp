@@ -8,9 +8,21 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
+#include <algorithm>
 #include <cstdio>
 
 namespace {
+/// Each is a start of the program in a process of its own.
+struct Stage {
+    const char* name;
+    void (Walk::*go)();
+};
+constexpr Stage Stages[] = {{"first", &Walk::Go},
+                            {"again", &Walk::GoAgain},
+                            {"friend", &Walk::GoAsFriend},
+                            {"blocked", &Walk::GoWithoutSnapshots},
+                            {"damaged", &Walk::GoDamaged}};
+
 /// Starts the program in a process of its own, as a person does.
 bool Start(const QString& stage, const QString& pictures, const QString& folder) {
     QProcess start;
@@ -30,36 +42,36 @@ void TakeFont(QApplication& application, const QString& family) {
 int WalkStage(const QStringList& arguments) {
     Guide guide(arguments[1]);
     Walk walk(guide, arguments[2]);
-    if (arguments[3] == u"first")
-        walk.Go();
-    else if (arguments[3] == u"again")
-        walk.GoAgain();
-    else
-        walk.GoAsFriend();
+    for (const Stage& stage : Stages)
+        if (arguments[3] == QLatin1String(stage.name))
+            (walk.*stage.go)();
     return guide.Failures() ? 1 : 0;
 }
 } // namespace
 
 /// tour PICTURES: walks through all real screens in a fresh folder, from the agreement to a month
 /// of logged foods. Then it starts the program again and finds everything there. A friend with a
-/// folder of her own imports the recipe that was sent. Pictures go to the folder PICTURES.
+/// folder of her own imports the recipe that was sent. At last it starts where no snapshot can be
+/// made, and with a damaged file. Pictures go to the folder PICTURES.
 /// TOUR_FONT in the environment names another font than the delivered one.
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     std::setvbuf(stdout, nullptr, _IOLBF, 0);
     const QTemporaryDir fresh;
+    const bool isStage = argc == 4; // it has the environment of the whole tour
     for (const char* folder : {"XDG_RUNTIME_DIR", "XDG_DATA_HOME"})
-        qputenv(folder, fresh.path().toLocal8Bit());
+        if (!isStage)
+            qputenv(folder, fresh.path().toLocal8Bit());
     Application application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     TakeFont(application, qEnvironmentVariable("TOUR_FONT"));
     const QStringList arguments = QCoreApplication::arguments();
-    if (arguments.size() == 4)
+    if (isStage)
         return WalkStage(arguments);
     const QString pictures = arguments.value(1, fresh.filePath(QStringLiteral("pictures")));
-    const bool through = Start(QStringLiteral("first"), pictures, fresh.path()) &&
-                         Start(QStringLiteral("again"), pictures, fresh.path()) &&
-                         Start(QStringLiteral("friend"), pictures, fresh.path());
+    const bool through = std::ranges::all_of(Stages, [&](const Stage& stage) {
+        return Start(QLatin1String(stage.name), pictures, fresh.path());
+    });
     std::printf("%s\n", through ? "the tour went through" : "the tour failed");
     return through ? 0 : 1;
 }
