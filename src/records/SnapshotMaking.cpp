@@ -34,8 +34,8 @@ QString NameOf(const Snapshot& snapshot) {
 RuntimeError NoTurn(ProcessLock::Result result, const QString& place) {
     const QString text =
         result == ProcessLock::Result::NotPossible
-            ? QStringLiteral("No snapshot can be made in the folder %1. Allow writing there, and "
-                             "make room on its disk.")
+            ? QStringLiteral("The folder %1 cannot be written. Allow writing there, and make room "
+                             "on its disk.")
             : QStringLiteral("Another program makes a snapshot in the folder %1. Try again.");
     return {ErrorNumber::FileAccess, text.arg(QDir::toNativeSeparators(place))};
 }
@@ -121,18 +121,22 @@ void SnapshotMaking::TakeFiles(Snapshot& snapshot, Care care) const {
     auto foods = std::async(std::launch::async, [&] { Take(snapshot, 1, care); });
     Take(snapshot, 0, care);
     foods.get();
-    snapshot.counts = RecordsCounts::Of(snapshot.Files());
 }
 
-/// The disk writes while the copies are checked.
-void SnapshotMaking::Finish(const Snapshot& snapshot, Care care) const {
-    snapshot.WriteNote();
-    if (care == Care::Quick)
-        return;
-    auto synced = std::async(std::launch::async, [&] { SyncAll(snapshot.path); });
-    if (care == Care::Full)
-        snapshot.RequireSound();
-    synced.get();
+/// The copies are counted and written to the disk while they are checked.
+void SnapshotMaking::Finish(Snapshot& snapshot, Care care) const {
+    const auto note = [&snapshot, care] {
+        if (!snapshot.damaged)
+            snapshot.counts = RecordsCounts::Of(snapshot.Files());
+        snapshot.WriteNote();
+        if (care != Care::Quick)
+            SyncAll(snapshot.path);
+    };
+    if (care != Care::Full)
+        return note();
+    auto noted = std::async(std::launch::async, note);
+    snapshot.RequireSound();
+    noted.get();
 }
 
 Snapshot SnapshotMaking::Make(SnapshotKind kind, const QString& reason, Care care) {

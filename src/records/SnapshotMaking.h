@@ -27,7 +27,7 @@ private:
     Snapshot Begin(SnapshotKind kind, const QString& reason);
     void Take(Snapshot& snapshot, size_t file, Care care) const;
     void TakeFiles(Snapshot& snapshot, Care care) const;
-    void Finish(const Snapshot& snapshot, Care care) const;
+    void Finish(Snapshot& snapshot, Care care) const;
     Snapshot Publish(Snapshot snapshot, Care care);
 
     RecordsFolder records_;
