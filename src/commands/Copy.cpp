@@ -33,12 +33,13 @@ void Report(const Session& session, const Copying& copying, int count) {
 int Copy(const Session& session, Copying& copying) {
     if (copying.to.isNull())
         copying.to = Clock::Today();
-    if (copying.from == copying.to)
-        return session.Refuse(QStringLiteral("Please give two different days."));
+    if (const QString refusal = DayLog::CopyRefusal(copying.from, copying.to); !refusal.isEmpty())
+        return session.Refuse(refusal);
     RecordsChange change(session.Records(), copying.meal < 0 ? "copy-day" : "copy-meal");
     session.ChooseProfile();
-    const int count = DayLog::CopyFoods(
-        copying.from, copying.to, copying.meal < 0 ? std::nullopt : std::optional(copying.meal));
+    const auto meal = copying.meal < 0 ? std::nullopt : std::optional(copying.meal);
+    const int count =
+        int(DayLog::CopyFoods(LoggedEntries::Of(copying.from, meal), copying.to).size());
     if (count > 0)
         change.Commit();
     Report(session, copying, count);

@@ -1,45 +1,56 @@
 #include "intake/DayLog.h"
 
 #include "foods/Meals.h"
+#include "foods/Quantity.h"
 #include "foods/ScaledFood.h"
+#include "intake/LoggedRow.h"
 #include "model/EnergyTargets.h"
 #include "model/Nutrients.h"
 #include "model/User.h"
 #include "runtime/AppState.h"
 #include "runtime/Attempt.h"
-#include "runtime/Dates.h"
 #include "runtime/Round.h"
 #include "store/Connection.h"
 #include "store/Recordset.h"
 
+#include <cmath>
+
 namespace {
 
-QString RowsOf(const char* table, QDate day) {
-    return QLatin1String("SELECT * FROM ") + QLatin1String(table) +
-           " WHERE UID =" + QString::number(User::Current().UID) + " AND UDATE = #" +
-           Dates::ShortText(day) + u'#';
+/// A set of these rows that can be changed.
+Recordset Changing(const LoggedEntries& foods) {
+    return {UserDB(), foods.Statement(), CursorType::Keyset, LockType::Optimistic};
 }
 
-QString RowsOfMeal(int meal, QDate day) {
-    return "SELECT * FROM USER_FOODS WHERE UID =" + QString::number(User::Current().UID) +
-           " AND MEAL = '" + Meals::NameOf(meal).toUpper() + "' AND UDate = #" +
-           Dates::ShortText(day) + u'#';
+/// amount * quantity / old, rounded once.
+double Scaled(double amount, double quantity, double old) {
+    const double product = amount * quantity;
+    const double productRest = std::fma(amount, quantity, -product);
+    const double scaled = product / old;
+    const double rest = (std::fma(-scaled, old, product) + productRest) / old;
+    return std::isfinite(rest) ? scaled + rest : scaled;
 }
 
-/// What another tool wrote and no column of its kind can hold is left out.
-void AppendCopy(const Recordset& food, Recordset& copies, QDate day) {
-    copies.AddNew();
-    for (int column = 1; column < food.FieldCount(); ++column)
-        Attempt([&] { copies.Set(column, food[column].Value()); });
-    copies.Set(QStringLiteral("UDate"), day);
-    copies.Update();
+/// An unknown amount can stay so. Text that another tool wrote cannot be scaled.
+bool CanScale(const Field& amount, double quantity, double old) {
+    return amount.IsNull() || (amount.Value().typeId() == QMetaType::Double &&
+                               std::isfinite(Scaled(amount.Number(), quantity, old)));
+}
+
+bool CanScale(const Recordset& row, double quantity) {
+    const double old = row[QStringLiteral("QTY")].NumberOr(0);
+    for (int column = 1; column <= NutrientCount; ++column)
+        if (!CanScale(row[column], quantity, old))
+            return false;
+    return old != 0;
 }
 
 } // namespace
 
 std::vector<LoggedFood> DayLog::FoodsOf(int meal, QDate day) {
     std::vector<LoggedFood> foods;
-    for (Recordset rows(UserDB(), RowsOfMeal(meal, day)); !rows.AtEnd(); rows.MoveNext())
+    for (Recordset rows(UserDB(), LoggedEntries::Of(day, meal).Statement()); !rows.AtEnd();
+         rows.MoveNext())
         if (rows[QStringLiteral("RecID")].IsKey())
             foods.push_back(
                 {rows[QStringLiteral("RecID")].Integer(), rows[QStringLiteral("FoodName")].Text(),
@@ -49,7 +60,8 @@ std::vector<LoggedFood> DayLog::FoodsOf(int meal, QDate day) {
 }
 
 qint32 DayLog::AddFood(const ScaledFood& item, const QString& meal, QDate day) {
-    Recordset rows(UserDB(), RowsOf("USER_FOODS", day), CursorType::Dynamic, LockType::Optimistic);
+    Recordset rows(UserDB(), LoggedEntries::Of(day).Statement(), CursorType::Dynamic,
+                   LockType::Optimistic);
     rows.AddNew();
     for (int i = 1; i <= NutrientCount; ++i)
         rows.Set(i, item.Item(rows.FieldName(i)));
@@ -64,23 +76,59 @@ qint32 DayLog::AddFood(const ScaledFood& item, const QString& meal, QDate day) {
     return rows[QStringLiteral("RecID")].Integer();
 }
 
-int DayLog::CopyFoods(QDate from, QDate to, std::optional<int> meal) {
-    Recordset foods(UserDB(), meal ? RowsOfMeal(*meal, from) : RowsOf("USER_FOODS", from));
-    Recordset copies(UserDB(), RowsOf("USER_FOODS", to), CursorType::Dynamic, LockType::Optimistic);
-    const int count = foods.RecordCount();
-    for (; !foods.AtEnd(); foods.MoveNext())
-        AppendCopy(foods, copies, to);
-    return count;
+QString DayLog::CopyRefusal(QDate from, QDate to) {
+    return from == to ? QStringLiteral("Please give two different days.") : QString();
+}
+
+std::vector<qint32> DayLog::CopyFoods(const LoggedEntries& foods, QDate to) {
+    const std::vector<LoggedRow> rows = LoggedRow::AllOf(foods);
+    Recordset copies(UserDB(), LoggedEntries::Of(to).Statement(), CursorType::Dynamic,
+                     LockType::Optimistic);
+    std::vector<qint32> keys;
+    for (const LoggedRow& row : rows) {
+        copies.AddNew();
+        row.SetIn(copies);
+        copies.Set(QStringLiteral("UDate"), to);
+        copies.Update();
+        keys.push_back(copies[QStringLiteral("RecID")].Integer());
+    }
+    return keys;
+}
+
+void DayLog::MoveFoods(const LoggedEntries& foods, int meal) {
+    for (Recordset rows = Changing(foods); !rows.AtEnd(); rows.MoveNext()) {
+        rows.Set(QStringLiteral("Meal"), Meals::NameOf(meal));
+        rows.Update();
+    }
+}
+
+QString DayLog::QuantityRefusal(qint32 RecID, double quantity) {
+    if (QString refusal = Quantity::LogRefusal(quantity); !refusal.isEmpty())
+        return refusal;
+    const Recordset row(UserDB(), LoggedEntries::One(RecID).Statement());
+    return row.AtEnd() || !CanScale(row, quantity)
+               ? QStringLiteral("The quantity of this entry cannot be changed. Please remove it "
+                                "and add the food again.")
+               : QString();
+}
+
+void DayLog::SetQuantity(qint32 RecID, double quantity) {
+    Recordset row = Changing(LoggedEntries::One(RecID));
+    const double old = row[QStringLiteral("QTY")].Number();
+    for (int column = 1; column <= NutrientCount; ++column)
+        if (!row[column].IsNull())
+            row.Set(column, Scaled(row[column].Number(), quantity, old));
+    row.Set(QStringLiteral("QTY"), quantity);
+    row.Update();
 }
 
 void DayLog::RemoveFood(qint32 RecID) {
-    Recordset row(UserDB(), "SELECT * FROM USER_FOODS WHERE RecID = " + QString::number(RecID),
-                  CursorType::Keyset, LockType::Optimistic);
+    Recordset row = Changing(LoggedEntries::One(RecID));
     row.Delete();
 }
 
 void DayLog::ClearFoods(QDate day) {
-    Recordset rows(UserDB(), RowsOf("USER_FOODS", day), CursorType::Keyset, LockType::Optimistic);
+    Recordset rows = Changing(LoggedEntries::Of(day));
     const int count = rows.RecordCount();
     if (count > 0)
         rows.MoveLast();
@@ -91,12 +139,13 @@ void DayLog::ClearFoods(QDate day) {
 }
 
 double DayLog::Weight(QDate day) {
-    const Recordset rows(UserDB(), RowsOf("USER_WEIGHTS", day));
+    const Recordset rows(UserDB(), RowsOfDay("USER_WEIGHTS", day));
     return rows.AtEnd() ? 0 : rows[QStringLiteral("Weight")].NumberOr(0);
 }
 
 void DayLog::SetWeight(QDate day, double weight) {
-    Recordset rows(UserDB(), RowsOf("USER_WEIGHTS", day), CursorType::Keyset, LockType::Optimistic);
+    Recordset rows(UserDB(), RowsOfDay("USER_WEIGHTS", day), CursorType::Keyset,
+                   LockType::Optimistic);
     if (rows.AtEnd())
         rows.AddNew();
     rows.Set(QStringLiteral("UID"), User::Current().UID);

@@ -1,9 +1,7 @@
 #pragma once
 
-#include <QDate>
-#include <QString>
+#include "intake/LoggedEntries.h"
 
-#include <optional>
 #include <vector>
 
 class ScaledFood;
@@ -24,9 +22,16 @@ namespace DayLog {
 std::vector<LoggedFood> FoodsOf(int meal, QDate day);
 /// Appends one food, whole or not at all. The row holds finished amounts. Gives its key.
 qint32 AddFood(const ScaledFood& item, const QString& meal, QDate day);
-/// Appends the foods of a day, or of one meal of it, to another day. Their amounts stay the same to
-/// the bit. Gives how many.
-int CopyFoods(QDate from, QDate to, std::optional<int> meal = {});
+/// The message that refuses a copy to the day that the foods are on; empty if it is another day.
+QString CopyRefusal(QDate from, QDate to);
+/// Appends foods to a day, under their meals. Their amounts stay the same to the bit. Gives the
+/// keys of the new rows.
+std::vector<qint32> CopyFoods(const LoggedEntries& foods, QDate to);
+void MoveFoods(const LoggedEntries& foods, int meal); ///< to another meal of their day
+/// The message that refuses another quantity for a logged food; empty if it is accepted.
+QString QuantityRefusal(qint32 RecID, double quantity);
+/// Gives a logged food another quantity. Its stored amounts are scaled: what is unknown stays so.
+void SetQuantity(qint32 RecID, double quantity);
 void RemoveFood(qint32 RecID); ///< fails (3021) if it is gone
 void ClearFoods(QDate day);
 

@@ -98,6 +98,8 @@ QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
 QMenu { background: %paper; color: %ink; border: 1px solid %frame; padding: 3px; }
 QMenu::item { padding: 4px 20px 4px 12px; }
 QMenu::item:selected { background: %chosenRow; color: %chosenRowText; }
+QMenu::item:disabled { background: %paper; color: %disabledInk; }
+QMenu::separator { background: %rule; height: 1px; margin: 3px 6px; }
 )";
 
 struct SheetValue {

@@ -122,6 +122,13 @@ TEST_F(WhyTest, AnEntryWhoseFoodHasChangedSaysSo) {
                    " mg 1000 / 100 * 14.2 * 2 is 284 today: the food has changed since");
 }
 
+TEST_F(WhyTest, AnEntryWhoseQuantityWasChangedLaterIsStillTraced) {
+    Command({"log", Butter, "--meal", "Lunch"});
+    Store("UPDATE USER_FOODS SET Calories = Calories * 1.0000000000000002");
+    const Run run = Command({"why", "log:1", "calories"});
+    EXPECT_FALSE(run.out.contains("has changed since")) << run.out.toStdString();
+}
+
 TEST_F(WhyTest, AnUnknownAmountOfAFoodCountsAs0InAnEntry) {
     Command({"log", "Cheese, caraway", "-m", "lunch"});
     ExpectLine(Command({"why", "log:1", "vit. e"}), "Vit. E 0 mg unknown in the food, counts as 0");

@@ -3,12 +3,15 @@
 #include "IntakeTest.h"
 
 #include "foods/Meals.h"
+#include "foods/Quantity.h"
 #include "model/User.h"
 #include "runtime/AppState.h"
 #include "store/Connection.h"
 #include "support/HostileRows.h"
 
 #include <SQLiteCpp/SQLiteCpp.h>
+
+#include <cmath>
 
 class DayLogTest : public IntakeTest {
 protected:
@@ -38,7 +41,7 @@ TEST_F(DayLogTest, CopyingADayKeepsEveryValueToTheBit) {
     DayLog::AddFood(Scaled("Soup", 0.1 + 0.2, 1.0 / 3), "Lunch", day);
     DayLog::AddFood(Scaled("Bread", 1e-300), "Breakfast", day);
     Log("Only calories", ""); // the other amounts are null
-    EXPECT_EQ(DayLog::CopyFoods(day, next_), 3);
+    EXPECT_EQ(DayLog::CopyFoods(LoggedEntries::Of(day), next_).size(), 3);
     EXPECT_EQ(Content(next_), Content(day));
     EXPECT_EQ(LogCount(), 6);
 }
@@ -47,7 +50,7 @@ TEST_F(DayLogTest, CopyingAMealLeavesTheOthers) {
     Log("Soup", "Lunch");
     Log("Bread", "Breakfast");
     Log("Tea", "LUNCH");
-    EXPECT_EQ(DayLog::CopyFoods(day, next_, Lunch), 2);
+    EXPECT_EQ(DayLog::CopyFoods(LoggedEntries::Of(day, Lunch), next_).size(), 2);
     EXPECT_EQ(LogCount("UDate = '2002-03-05'"), 2);
     EXPECT_EQ(LogCount("UDate = '2002-03-05' AND FoodName = 'Bread'"), 0);
 }
@@ -55,13 +58,84 @@ TEST_F(DayLogTest, CopyingAMealLeavesTheOthers) {
 TEST_F(DayLogTest, CopyingTakesTheFoodsOfTheCurrentUserAlone) {
     Log("Soup", "Lunch");
     AddUser("Ben");
-    EXPECT_EQ(DayLog::CopyFoods(day, next_), 0);
+    EXPECT_EQ(DayLog::CopyFoods(LoggedEntries::Of(day), next_).size(), 0);
 }
 
 TEST_F(DayLogTest, CopyingADayOntoItselfDoublesIt) {
     Log("Soup", "Lunch");
-    EXPECT_EQ(DayLog::CopyFoods(day, day), 1);
+    EXPECT_EQ(DayLog::CopyFoods(LoggedEntries::Of(day), day).size(), 1);
     EXPECT_EQ(LogCount(), 2);
+}
+
+TEST_F(DayLogTest, CopyingOneFoodKeepsItsMealAndGivesTheKeyOfTheCopy) {
+    const qint32 key = DayLog::AddFood(Scaled("Soup", 0.1 + 0.2), "Lunch", day);
+    const std::vector<qint32> copies = DayLog::CopyFoods(LoggedEntries::One(key), next_);
+    ASSERT_EQ(copies.size(), 1);
+    EXPECT_EQ(Content(next_), Content(day));
+    EXPECT_EQ(Users(QStringLiteral("SELECT UDate FROM USER_FOODS WHERE RecID = %1").arg(copies[0])),
+              "2002-03-05");
+}
+
+TEST_F(DayLogTest, MovingAFoodChangesItsMealAlone) {
+    const qint32 key = DayLog::AddFood(Scaled("Soup", 0.1 + 0.2, 1.0 / 3), "Lunch", day);
+    Log("Bread", "Lunch");
+    const QList<QVariantList> before = Content(day);
+    DayLog::MoveFoods(LoggedEntries::One(key), 2);
+    EXPECT_EQ(LogCount("FoodName = 'Soup' AND Meal = 'Dinner'"), 1);
+    EXPECT_EQ(LogCount("FoodName = 'Bread' AND Meal = 'Lunch'"), 1);
+    DayLog::MoveFoods(LoggedEntries::One(key), Lunch);
+    EXPECT_EQ(Content(day), before);
+}
+
+/// |product / old - scaled| in more digits than a double has.
+static long double Error(double scaled, double amount, double quantity, double old) {
+    return std::abs(static_cast<long double>(amount) * quantity / old - scaled);
+}
+
+TEST_F(DayLogTest, ANewQuantityScalesTheStoredAmountsWithOneRounding) {
+    for (const double amount : {100.0, 0.1, 7.7, 1.0 / 3, 123456.789, 1e-9})
+        for (const double old : {1.0, 3.0, .7, 49.0, -2.5})
+            for (const double quantity : {1.0, .1, 99.0, 1.0 / 3, 7.0}) {
+                const qint32 key = DayLog::AddFood(Scaled("Soup", amount, old), "Lunch", day);
+                EXPECT_EQ(DayLog::QuantityRefusal(key, quantity), "");
+                DayLog::SetQuantity(key, quantity);
+                const double scaled =
+                    Users(
+                        QStringLiteral("SELECT Calories FROM USER_FOODS WHERE RecID = %1").arg(key))
+                        .toDouble();
+                const double ulp = std::abs(std::nextafter(scaled, 1e300) - scaled);
+                EXPECT_LE(Error(scaled, amount, quantity, old), ulp * .5005L)
+                    << amount << ' ' << old << ' ' << quantity;
+            }
+    EXPECT_EQ(LogCount("QTY = 99 AND Protein = 99"), 6);
+}
+
+TEST_F(DayLogTest, AnUnknownAmountStaysUnknownInAnotherQuantity) {
+    Log("Only calories", "Lunch", day, 100, 2);
+    DayLog::SetQuantity(Users("SELECT RecID FROM USER_FOODS").toInt(), 3);
+    EXPECT_EQ(LogCount("Calories = 150 AND QTY = 3 AND Protein IS NULL"), 1);
+}
+
+TEST_F(DayLogTest, AQuantityIsRefusedAsInTheSearch) {
+    const qint32 key = DayLog::AddFood(Scaled("Soup"), "Lunch", day);
+    for (const double refused : {0.0, 99.01, 1e300})
+        EXPECT_EQ(DayLog::QuantityRefusal(key, refused), Quantity::LogRefusal(refused));
+    for (const double accepted : {99.0, .05, -1.0})
+        EXPECT_EQ(DayLog::QuantityRefusal(key, accepted), "");
+}
+
+TEST_F(DayLogTest, AnEntryThatCannotBeScaledKeepsItsQuantity) {
+    Log("No quantity", "Lunch", day, 100, 0);
+    Log("Infinite", "Lunch", day, INFINITY);
+    Log("Huge", "Lunch", day, 1e300, 1e-300);
+    Log("Text", "Lunch");
+    UserDB().Raw().exec("UPDATE USER_FOODS SET Protein = '12 grams' WHERE FoodName = 'Text'");
+    for (const LoggedFood& food : DayLog::FoodsOf(Lunch, day))
+        EXPECT_EQ(DayLog::QuantityRefusal(food.RecID, 2),
+                  "The quantity of this entry cannot be changed. Please remove it and add the food "
+                  "again.")
+            << food.name.toStdString();
+    EXPECT_NE(DayLog::QuantityRefusal(4711, 2), "") << "an entry that is gone";
 }
 
 TEST_F(DayLogTest, RowsOfAnotherToolNeverKeepADayFromBeingCopied) {
@@ -70,7 +144,7 @@ TEST_F(DayLogTest, RowsOfAnotherToolNeverKeepADayFromBeingCopied) {
     for (const char* value : HostileRows::Values())
         rows.Insert(rows.With(value));
     const int count = LogCount();
-    EXPECT_EQ(DayLog::CopyFoods(day, next_), count);
+    EXPECT_EQ(DayLog::CopyFoods(LoggedEntries::Of(day), next_).size(), count);
     EXPECT_EQ(LogCount("UDate = '2002-03-05'"), count);
 }
 

@@ -1,10 +1,9 @@
-#include "IntakeTest.h"
+#include "DayScreenTest.h"
 
 #include "analysis/ui/ucDaily.h"
 #include "foods/ui/frmFoodSearch.h"
 #include "foods/ui/ucSearchResults.h"
 #include "intake/ui/MealHeading.h"
-#include "intake/ui/frmDay.h"
 #include "intake/ui/ucMyFood.h"
 #include "model/User.h"
 #include "runtime/AppState.h"
@@ -39,29 +38,8 @@ const QString AskClear = "Are you sure you wish to remove all foods from your da
 
 } // namespace
 
-class frmDayTest : public IntakeTest {
+class frmDayTest : public DayScreenTest {
 protected:
-    void SetUp() override {
-        IntakeTest::SetUp();
-        window.resize(766, 562);
-        window.show();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
-    }
-
-    void TearDown() override {
-        screen.reset();
-        IntakeTest::TearDown();
-    }
-
-    /// Brings the screen forward as the navigation does.
-    void Open() {
-        screen = std::make_unique<frmDay>(&window);
-        screen->setGeometry(window.rect());
-        screen->BeforeShow();
-        screen->show();
-        screen->DoWinInit();
-    }
-
     QLineEdit* Weight() { return Find<QLineEdit>(screen.get(), "txtWeight"); }
     ucButton* Button(const char* name) { return Find<ucButton>(screen.get(), name); }
     ucButtonA* CalendarButton() { return Find<ucButtonA>(screen.get(), "cmdCal"); }
@@ -120,9 +98,6 @@ protected:
             }
         FAIL() << "the calendar shows no " << dayOfMonth;
     }
-
-    QWidget window;
-    std::unique_ptr<frmDay> screen;
 };
 
 TEST_F(frmDayTest, ShowsTheDateInItsLongForm) {

@@ -34,7 +34,9 @@ void DayCalendar::resizeEvent(QResizeEvent* event) {
     smCal_->setGeometry(Inner());
 }
 
-void DayCalendar::Open(QDate day) {
+void DayCalendar::Open(QDate day, const QString& caption) {
+    SetCaption(caption);
+    smCal_->setAccessibleName(caption);
     show();
     raise();
     smCal_->setFocus();

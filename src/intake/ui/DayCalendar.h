@@ -15,7 +15,8 @@ public:
     explicit DayCalendar(QWidget* parent = nullptr);
     ~DayCalendar() override;
 
-    void Open(QDate day); ///< shows that day and takes the focus
+    /// Shows that day under a caption and takes the focus.
+    void Open(QDate day, const QString& caption);
     QSize sizeHint() const override;
 
 Q_SIGNALS:

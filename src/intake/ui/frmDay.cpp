@@ -6,6 +6,7 @@
 #include "foods/ui/ucSearchResults.h"
 #include "intake/DayLog.h"
 #include "intake/ui/DayCalendar.h"
+#include "intake/ui/DayMenu.h"
 #include "intake/ui/WeightField.h"
 #include "intake/ui/ucMyFood.h"
 #include "runtime/AppState.h"
@@ -15,14 +16,17 @@
 #include "runtime/ScreenTable.h"
 #include "runtime/Seams.h"
 #include "runtime/Val.h"
+#include "toolkit/ContextMenu.h"
 #include "toolkit/Labels.h"
 #include "toolkit/ucAALBL.h"
 #include "toolkit/ucBox.h"
 #include "toolkit/ucButton.h"
 #include "toolkit/ucButtonA.h"
 
+#include <QApplication>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QShortcut>
 
 namespace {
 
@@ -43,6 +47,7 @@ frmDay::frmDay(QWidget* parent)
     AddPanel();
     AddButtons();
     AddCalendar();
+    AddMenu();
 }
 
 void frmDay::AddDateLine() {
@@ -78,6 +83,7 @@ void frmDay::AddFoodBox() {
     box_ = AddBox("ucBoxMyFood", "Food Intake", myFood_);
     connect(myFood_, &ucMyFood::AddRequested, this, &frmDay::ChooseFoods);
     connect(myFood_, &ucMyFood::FoodRemoved, this, [this] { daily_->updateCharts(); });
+    connect(myFood_, &ucMyFood::FoodsChanged, this, [this] { daily_->updateCharts(); });
     connect(myFood_, &ucMyFood::MouseMove, this, [this](int, int, double x, double y) {
         if (HasMoved(x, y))
             AllOff(QStringLiteral("ucmyfood"));
@@ -103,6 +109,19 @@ void frmDay::AddButtons() {
 void frmDay::AddCalendar() {
     picCal_ = new DayCalendar(this);
     connect(picCal_, &DayCalendar::Picked, this, &frmDay::PickDay);
+}
+
+void frmDay::AddMenu() {
+    auto* items = new DayMenu(myFood_);
+    connect(items, &DayMenu::AddAsked, this, &frmDay::ChooseFoods);
+    connect(items, &DayMenu::CopyDayAsked, this, &frmDay::ChooseCopyDay);
+    new ContextMenu(this, [this, items](QMenu& menu, QWidget* target) {
+        if (!picCal_->isAncestorOf(target))
+            items->Fill(menu, target);
+    });
+    auto* undo = new QShortcut(QKeySequence::Undo, this);
+    undo->setContext(Qt::WidgetWithChildrenShortcut);
+    connect(undo, &QShortcut::activated, myFood_, &ucMyFood::Undo);
 }
 
 void frmDay::resizeEvent(QResizeEvent*) {
@@ -177,8 +196,11 @@ void frmDay::ShowTargets(bool weightTaken) {
 /// A typed weight is saved even if the screen goes before the field loses the focus.
 void frmDay::hideEvent(QHideEvent* event) {
     ScreenForm::hideEvent(event);
-    if (!event->spontaneous() && txtWeight_->HoldsUnsaved())
+    if (event->spontaneous())
+        return;
+    if (txtWeight_->HoldsUnsaved())
         txtWeight_->Leave();
+    myFood_->EndVisit();
 }
 
 /// The next day screen may be created before this one is destroyed, and must find the mode.
@@ -195,18 +217,28 @@ void frmDay::keyPressEvent(QKeyEvent* event) {
 }
 
 void frmDay::OpenCalendar() {
-    picCal_->Open(App().CurrentDate);
+    copied_.reset();
+    cameFrom_ = cmdCal_;
+    picCal_->Open(App().CurrentDate, QStringLiteral("Select a date"));
 }
 
-/// The button takes the focus first. Hiding a panel that has the focus would pass it to another
-/// control.
+void frmDay::ChooseCopyDay(const LoggedEntries& foods) {
+    copied_ = foods;
+    cameFrom_ = QApplication::focusWidget();
+    picCal_->Open(App().CurrentDate, QStringLiteral("Copy to which day?"));
+}
+
+/// Another control takes the focus first. Hiding a panel that has the focus would pass it to the
+/// next one.
 void frmDay::CloseCalendar() {
-    cmdCal_->setFocus();
+    (cameFrom_ ? cameFrom_.data() : this)->setFocus(Qt::OtherFocusReason);
     picCal_->hide();
 }
 
 void frmDay::PickDay(QDate day) {
     CloseCalendar();
+    if (copied_)
+        return myFood_->Copy(*copied_, App().CurrentDate, day);
     App().CurrentDate = day;
     PassDay();
     buildDate();
@@ -231,9 +263,7 @@ void frmDay::ClearFoods() {
             QStringLiteral("Are you sure you wish to remove all foods from your daily intake?"),
             this, true))
         return;
-    DayLog::ClearFoods(App().CurrentDate);
-    myFood_->DisplayFoods();
-    daily_->updateCharts();
+    myFood_->ClearFoods();
 }
 
 void frmDay::GoHome() {

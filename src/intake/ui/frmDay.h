@@ -1,6 +1,9 @@
 #pragma once
 
+#include "intake/LoggedEntries.h"
 #include "toolkit/ScreenForm.h"
+
+#include <QPointer>
 
 class DayCalendar;
 class ucAALBL;
@@ -27,6 +30,9 @@ public:
     void AllOff(const QString& except) override;
     void buildDate();
 
+    void EatFoods() { ChooseFoods(-1); } ///< opens the food search
+    void OpenCalendar();
+
 protected:
     void resizeEvent(QResizeEvent*) override;
     void hideEvent(QHideEvent*) override;
@@ -40,6 +46,7 @@ private:
     void AddPanel();
     void AddButtons();
     void AddCalendar();
+    void AddMenu();
 
     void PlaceDateLine();
     void PlaceBoxes();
@@ -47,10 +54,9 @@ private:
 
     void PassDay();
     void PickDay(QDate day);
-    void OpenCalendar();
+    void ChooseCopyDay(const LoggedEntries& foods);
     void CloseCalendar();
     void ChooseFoods(int meal);
-    void EatFoods() { ChooseFoods(-1); }
     void ClearFoods();
     void GoHome();
     void SaveWeight();
@@ -68,6 +74,8 @@ private:
     ucButton* cmdClear_;
     ucButton* cmdDone_;
     DayCalendar* picCal_;
+    std::optional<LoggedEntries> copied_; ///< while the calendar chooses the day for them
+    QPointer<QWidget> cameFrom_;          ///< had the focus before the calendar
     qint32 lastX_ = -1;
     qint32 lastY_ = -1;
 };

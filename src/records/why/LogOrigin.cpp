@@ -8,6 +8,8 @@
 #include "store/Connection.h"
 #include "store/Recordset.h"
 
+#include <cmath>
+
 namespace {
 constexpr double WholeRecipe = 100; ///< the grams that stand for it in the arithmetic
 
@@ -42,10 +44,16 @@ bool IsFrom(const Recordset& entry, const ScaledFood& food) {
            food.Text(QStringLiteral("SERVING")) == entry[QStringLiteral("Serving")].Text();
 }
 
+/// A quantity that was changed later has rounded once more than logging does.
+bool AreSame(double logged, double today) {
+    constexpr double rounding = 1e-14;
+    return std::abs(logged - today) <= std::abs(today) * rounding;
+}
+
 /// Two servings may have the same name: then the one that gives the amounts of the entry.
 bool HasAmountsOf(const Recordset& entry, const ScaledFood& food) {
     return std::ranges::all_of(StoredOrder(), [&](Nutrient nutrient) {
-        return entry[Column(nutrient)].NumberOr(0) == food.Amount(Column(nutrient));
+        return AreSame(entry[Column(nutrient)].NumberOr(0), food.Amount(Column(nutrient)));
     });
 }
 
@@ -118,7 +126,7 @@ QString Arithmetic(const Source& source, Nutrient nutrient, double quantity) {
 
 QString OriginText(const Recordset& entry, const Source& source, Nutrient nutrient) {
     const double today = source.result.Amount(Column(nutrient));
-    if (today != entry[Column(nutrient)].NumberOr(0))
+    if (!AreSame(entry[Column(nutrient)].NumberOr(0), today))
         return Arithmetic(source, nutrient, QuantityOf(entry)) + " is " + DecimalText(today) +
                " today: the food has changed since";
     if (!source.values[nutrient])

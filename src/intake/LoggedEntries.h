@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QDate>
+#include <QString>
+
+#include <optional>
+
+/// Entries of the current user's log: all of a day, those of one of its meals, or a single one.
+class LoggedEntries {
+public:
+    static LoggedEntries Of(QDate day, std::optional<int> meal = {});
+    static LoggedEntries One(qint32 RecID);
+
+    const QString& Statement() const { return statement_; } ///< reads their rows
+
+private:
+    explicit LoggedEntries(QString statement)
+        : statement_(std::move(statement)) {}
+
+    QString statement_;
+};
+
+/// The statement that reads a day's rows of USER_FOODS or USER_WEIGHTS.
+QString RowsOfDay(const char* table, QDate day);
