@@ -7,6 +7,12 @@ SearchTerms SearchTerms::Quoted(QString term) {
     return SearchTerms(term.replace(u'\'', QStringLiteral("''")));
 }
 
+QString SearchTerms::ForName(QString name) {
+    for (const QChar refused : {u'"', u'*', u'\''})
+        name.replace(refused, u' ');
+    return name.simplified().left(Longest);
+}
+
 QString SearchTerms::Refusal(const QString& term) {
     if (term.size() > Longest)
         return QStringLiteral("Please enter a search term of %1 characters or less.").arg(Longest);

@@ -8,6 +8,8 @@
 class SearchTerms {
 public:
     explicit SearchTerms(const QString& term); ///< splits at each blank and keeps empty words
+    /// The term that finds a food by its name, without the characters that a term cannot hold.
+    static QString ForName(QString name);
     /// A term in which a quote is a character like any other.
     static SearchTerms Quoted(QString term);
 

@@ -8,6 +8,7 @@
 #include "toolkit/MousePointer.h"
 #include "toolkit/ucRadio.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QClipboard>
 #include <QDir>
@@ -287,6 +288,29 @@ TEST_F(SearchTest, EnterStartsTheSearch) {
     Tick("ckStock", false);
     QTest::keyClick(Term(), Qt::Key_Enter);
     EXPECT_TRUE(Names().isEmpty());
+}
+
+TEST_F(SearchTest, EnterGoesOnToTheQuantityOfTheFirstFood) {
+    AddFood({.id = 1, .name = "Milk"});
+    AddFood({.id = 2, .name = "Milk shake"});
+    ASSERT_TRUE(QTest::qWaitForWindowActive(panel_.get()));
+    Term()->setText("milk");
+    QTest::keyClick(Term(), Qt::Key_Return);
+    auto* quantity = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+    ASSERT_NE(quantity, nullptr);
+    EXPECT_EQ(quantity->accessibleName(), "Quantity of Milk, 1 cup");
+    EXPECT_EQ(quantity->selectedText(), "1");
+}
+
+TEST_F(SearchTest, EnterStaysInTheTermWhereNothingIsFound) {
+    ASSERT_TRUE(QTest::qWaitForWindowActive(panel_.get()));
+    Term()->setText("milk");
+    QTest::keyClick(Term(), Qt::Key_Return);
+    EXPECT_EQ(QApplication::focusWidget(), Term());
+    Term()->clear();
+    ExpectAlert("Please enter a search term.");
+    QTest::keyClick(Term(), Qt::Key_Return);
+    EXPECT_EQ(QApplication::focusWidget(), Term());
 }
 
 TEST_F(SearchTest, EnterDoesNotReachTheDialog) {

@@ -53,6 +53,10 @@ void ResultRows::Load(const FoodList& foods, int count, bool recipeMode,
     picResultsPane()->show();
 }
 
+void ResultRows::FocusFirst() {
+    rows_[1]->FocusQuantity();
+}
+
 void ResultRows::Unload() {
     while (rows_.size() > 1)
         delete rows_.takeLast();

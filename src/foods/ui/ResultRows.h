@@ -22,6 +22,7 @@ public:
     void Load(const FoodList& foods, int count, bool recipeMode,
               const std::function<void(double)>& progress);
     int Count() const { return int(rows_.size()) - 1; }
+    void FocusFirst(); ///< the quantity of the first row; there must be one
     void SetTabPredecessor(QWidget* control) { predecessor_ = control; }
 
 Q_SIGNALS:

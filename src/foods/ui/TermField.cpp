@@ -18,6 +18,10 @@ static bool IsRefused(QChar typed) {
 }
 
 void TermField::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Down && text().isEmpty()) {
+        Q_EMIT HabitsAsked();
+        return;
+    }
     const QString typed = event->text();
     if (std::none_of(typed.cbegin(), typed.cend(), IsRefused))
         LineField::keyPressEvent(event);

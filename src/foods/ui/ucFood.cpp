@@ -203,6 +203,11 @@ void ucFood::focusInEvent(QFocusEvent* event) {
     entered->Controls().last()->setFocus(event->reason());
 }
 
+void ucFood::FocusQuantity() {
+    Materialise();
+    lines_[ServingLine::A]->Controls().first()->setFocus(Qt::TabFocusReason);
+}
+
 void ucFood::changeEvent(QEvent* event) {
     ListRow::changeEvent(event);
     if (event->type() == QEvent::FontChange || event->type() == QEvent::EnabledChange)

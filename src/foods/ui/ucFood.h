@@ -37,7 +37,8 @@ public:
     void SetRecipeMode(bool on); ///< has no effect on the row
 
     FoodRowLayout layoutRects() const { return FoodRowLayout::Of(width()); }
-    void Materialise(); ///< makes the controls if they are missing
+    void Materialise();   ///< makes the controls if they are missing
+    void FocusQuantity(); ///< of serving A
     bool Materialised() const { return lines_[0]; }
     void Refresh() override; ///< updates the controls and repaints
 

@@ -2,6 +2,7 @@
 
 #include "drawing/Style.h"
 #include "drawing/Twips.h"
+#include "foods/FoodHabits.h"
 #include "foods/FoodSearch.h"
 #include "foods/Meals.h"
 #include "foods/Quantity.h"
@@ -21,6 +22,7 @@
 #include "toolkit/ucRadio.h"
 
 #include <QCheckBox>
+#include <QMenu>
 #include <QMouseEvent>
 #include <QPainter>
 
@@ -29,6 +31,7 @@ namespace {
 constexpr int MealCount = Meals::Names.size();
 
 constexpr int LimitedRows = 50;
+constexpr int MostHabits = 8; ///< of each kind in the list of the empty field
 
 // In twips.
 constexpr int ResultsLeft = 15;
@@ -73,13 +76,16 @@ void ucSearchResults::BuildTerm() {
     txtSearchString_ = new TermField(this);
     txtSearchString_->setObjectName(QStringLiteral("txtSearchString"));
     txtSearchString_->setAccessibleName(QStringLiteral("Food name"));
+    txtSearchString_->setAccessibleDescription(
+        QStringLiteral("When it is empty, the Down key lists the foods logged before"));
     txtSearchString_->setGeometry(1, FieldTop, TermWidth, TheStyle().fieldHeight);
     Watch(txtSearchString_);
     cmdGo_ = new ucButton(QStringLiteral("Search"), this);
     cmdGo_->setObjectName(QStringLiteral("cmdGo"));
     cmdGo_->SetMainAction(true);
     cmdGo_->move(txtSearchString_->geometry().right() + TheStyle().boxGap, FieldTop - 1);
-    connect(txtSearchString_, &TermField::SearchAsked, this, &ucSearchResults::SearchFoodsDB);
+    connect(txtSearchString_, &TermField::SearchAsked, this, &ucSearchResults::SearchByKey);
+    connect(txtSearchString_, &TermField::HabitsAsked, this, &ucSearchResults::OfferHabits);
     connect(cmdGo_, &ucButton::Click, this, &ucSearchResults::SearchFoodsDB);
 }
 
@@ -203,6 +209,48 @@ void ucSearchResults::SearchFoodsDB() {
         FoodSearch::Find(SearchTerms(txtSearchString_->text()),
                          {ckRecipes_->isChecked(), ckCustom_->isChecked(), ckStock_->isChecked()});
     ShowResults();
+}
+
+/// Another Enter then logs the first food; a number before it is the quantity.
+void ucSearchResults::SearchByKey() {
+    SearchFoodsDB();
+    if (foods_.Count() > 0)
+        rows_->FocusFirst();
+}
+
+/// An ingredient belongs to no meal: there is nothing to offer.
+void ucSearchResults::OfferHabits() {
+    const int meal = TickedMeal();
+    if (recipeMode_ || meal < 0)
+        return;
+    const FoodHabits::Names names = FoodHabits::OfMeal(meal, MostHabits);
+    if (names.last.isEmpty())
+        return;
+    auto* menu = new QMenu(txtSearchString_);
+    menu->setObjectName(QStringLiteral("habits"));
+    menu->setAccessibleName("Foods logged before for " + Meals::NameOf(meal));
+    connect(menu, &QMenu::aboutToHide, menu, &QObject::deleteLater);
+    AddHabits(*menu, "Logged last", names.last);
+    AddHabits(*menu, "Logged most often", names.most);
+    menu->popup(txtSearchString_->mapToGlobal(txtSearchString_->rect().bottomLeft()));
+    menu->setActiveAction(menu->actions().at(1));
+}
+
+void ucSearchResults::AddHabits(QMenu& menu, const char* heading, const QStringList& names) {
+    if (names.isEmpty())
+        return;
+    menu.addAction(QLatin1String(heading))->setEnabled(false);
+    for (const QString& name : names) {
+        QString shown =
+            menu.fontMetrics().elidedText(name.simplified(), Qt::ElideRight, width() / 2);
+        menu.addAction(shown.replace(u'&', QStringLiteral("&&")), this,
+                       [this, name] { SearchFor(name); });
+    }
+}
+
+void ucSearchResults::SearchFor(const QString& name) {
+    txtSearchString_->setText(SearchTerms::ForName(name));
+    SearchByKey();
 }
 
 void ucSearchResults::ShowResults() {

@@ -5,6 +5,7 @@
 #include "toolkit/DrawnControl.h"
 
 class QCheckBox;
+class QMenu;
 class ResultRows;
 class SearchProgress;
 class TermField;
@@ -28,6 +29,7 @@ public:
     int meal() const { return meal_; }
     void SetMeal(int meal); ///< 0 Breakfast to 3 Snacks; ticks the option
     void SearchFoodsDB();
+    void SearchByKey(); ///< and goes on to the first food
     void ShowResults();
     void ResetButtons();
 
@@ -56,6 +58,9 @@ private:
 
     void LogChosenFood(int Index, qint32 ID, const QString& Serv, double QTY, bool isRecipe);
     void ExamineChosenFood(int Index, qint32 ID, const QString& Serv, double QTY, bool isRecipe);
+    void OfferHabits();
+    void AddHabits(QMenu& menu, const char* heading, const QStringList& names);
+    void SearchFor(const QString& name);
     void Refuse(const QString& message);
 
     TermField* txtSearchString_ = nullptr;

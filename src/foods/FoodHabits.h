@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QStringList>
+
+/// The foods that the current user logs, by name, from the log itself.
+namespace FoodHabits {
+struct Names {
+    QStringList last; ///< those logged last, the newest first
+    QStringList most; ///< those logged most often that are not among them
+};
+
+/// Of one meal, by its place in Meals::Names; at most `count` of each.
+Names OfMeal(int meal, int count);
+} // namespace FoodHabits
