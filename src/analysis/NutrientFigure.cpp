@@ -15,9 +15,12 @@ QString NutrientFigure::Percent() const {
     return target == 0 ? QString() : Format(value / target, NumberMask::Percent);
 }
 
+QString NutrientFigure::Amount() const {
+    return DecimalText(numFix(value)) + u' ' + unit;
+}
+
 QString NutrientFigure::Spoken() const {
-    const QString amount = DecimalText(numFix(value)) + u' ' + unit;
-    return target == 0 ? amount : QString(amount + u", " + Percent());
+    return target == 0 ? Amount() : QString(Amount() + u", " + Percent());
 }
 
 double NutrientFigure::numFix(double value) {

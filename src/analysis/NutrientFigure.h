@@ -13,6 +13,7 @@ struct NutrientFigure {
 
     QString Caption() const; ///< "Total Fat"
     QString Percent() const; ///< "50%"; empty without a target
+    QString Amount() const;  ///< "1000 kcal"
     QString Spoken() const;  ///< "1000 kcal, 50%"
     double Part() const { return PartOfTarget(value, target); }
     bool operator==(const NutrientFigure&) const = default;

@@ -1,5 +1,6 @@
 #include "toolkit/PlainTip.h"
 
+#include <QHelpEvent>
 #include <QTextDocument>
 #include <QToolTip>
 
@@ -11,4 +12,9 @@ void ShowPlainTip(const QPoint& globalPlace, const QString& text, QWidget* contr
     QToolTip::showText(globalPlace,
                        Qt::convertFromPlainText(text.left(LongestTip), Qt::WhiteSpaceNormal),
                        control);
+}
+
+void ShowPlainTip(QHelpEvent& asked, const QString& text, QWidget* control) {
+    ShowPlainTip(asked.globalPos(), text, control);
+    asked.setAccepted(!text.isEmpty());
 }

@@ -7,6 +7,7 @@
 #include <QFontMetricsF>
 #include <QPainter>
 #include <QPainterPath>
+#include <QtMath>
 
 #include <cmath>
 
@@ -42,6 +43,21 @@ void Pie::Show(const EnergyShares& shares) {
 void Pie::SetNoDataCaptions() {
     for (size_t i = 0; i < captions_.size(); ++i)
         captions_[i] = QLatin1String(form_.noDataCaptions[i]);
+}
+
+/// Sectors go round against the clock, from the right.
+QString Pie::CaptionAt(QPointF place) const {
+    const QPointF from = place - form_.centre;
+    if (shares_.What() != EnergyShares::Content::Sectors ||
+        std::hypot(from.x(), from.y()) > form_.radius)
+        return {};
+    const double degrees = qRadiansToDegrees(std::atan2(-from.y(), from.x()));
+    const double percent = (degrees < 0 ? degrees + 360 : degrees) / DegreesPerPercent;
+    const auto sectors = shares_.Sectors();
+    size_t i = 0;
+    while (i + 1 < sectors.size() && percent > sectors[i].to)
+        ++i;
+    return captions_[i];
 }
 
 void Pie::Paint(QPainter& painter) {

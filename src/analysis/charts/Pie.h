@@ -43,6 +43,9 @@ public:
     const std::array<QString, 3>& Captions() const { return captions_; }
     const std::array<double, 3>& Shares() const { return shares_.Percents(); }
     QString Summary() const { return shares_.Summary(); }
+    const EnergyShares& EnergyParts() const { return shares_; }
+    /// The caption of the sector at that place of the picture; empty outside the pie.
+    QString CaptionAt(QPointF place) const;
     QImage picPIE(double ratio = 1);
     QImage temp(double ratio = 1);
 

@@ -1,6 +1,10 @@
 #include "analysis/ui/ChartPiece.h"
 
+#include "analysis/ui/SpokenTable.h"
+#include "toolkit/PlainTip.h"
+
 #include <QAccessibleWidget>
+#include <QHelpEvent>
 
 namespace {
 
@@ -16,6 +20,8 @@ public:
             return piece->SpokenName();
         case QAccessible::Value:
             return piece->SpokenValue();
+        case QAccessible::Description:
+            return role() == QAccessible::Chart ? piece->SpokenValue() : QString();
         default:
             return QAccessibleWidget::text(kind);
         }
@@ -24,7 +30,9 @@ public:
 
 QAccessibleInterface* MakeAccessible(const QString&, QObject* object) {
     auto* piece = qobject_cast<ChartPiece*>(object);
-    return piece ? new ChartPieceAccessible(piece) : nullptr;
+    if (!piece)
+        return nullptr;
+    return new WithSpokenTable<ChartPieceAccessible>(piece, [piece] { return piece->Figures(); });
 }
 
 } // namespace
@@ -40,4 +48,12 @@ void ChartPiece::TellValueChanged() {
         return;
     QAccessibleValueChangeEvent change(this, SpokenValue());
     QAccessible::updateAccessibility(&change);
+}
+
+bool ChartPiece::event(QEvent* event) {
+    if (event->type() != QEvent::ToolTip)
+        return QWidget::event(event);
+    auto& asked = static_cast<QHelpEvent&>(*event);
+    ShowPlainTip(asked, TipAt(asked.pos()), this);
+    return true;
 }

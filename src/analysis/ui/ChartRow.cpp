@@ -16,6 +16,9 @@ ChartRow::ChartRow(int i, Nutrient nutrient, const Views& views)
     imgBar_->setAccessibleName(lbl_->Caption());
     imgBar_->SetSpokenValue([this] { return figure_ ? figure_->Percent() : QString(); });
     lblVal_->setObjectName(QStringLiteral("lblVal%1").arg(i));
+    for (ChartPiece* piece : std::initializer_list<ChartPiece*>{lbl_, imgBar_, lblVal_})
+        piece->SetTip(
+            [this] { return figure_ ? lbl_->Caption() + u": " + figure_->Spoken() : QString(); });
 }
 
 void ChartRow::SetFigure(const std::optional<NutrientFigure>& figure) {

@@ -1,5 +1,8 @@
 #include "analysis/ui/PiePicture.h"
 
+#include "toolkit/PlainTip.h"
+
+#include <QHelpEvent>
 #include <QPainter>
 
 PiePicture::PiePicture(PieForm form, QWidget* parent)
@@ -19,6 +22,14 @@ void PiePicture::Show(const EnergyShares& shares) {
 void PiePicture::AddOverLay() {
     pie_.AddOverLay();
     update();
+}
+
+bool PiePicture::event(QEvent* event) {
+    if (event->type() != QEvent::ToolTip)
+        return QWidget::event(event);
+    auto& asked = static_cast<QHelpEvent&>(*event);
+    ShowPlainTip(asked, pie_.CaptionAt(asked.pos()), this);
+    return true;
 }
 
 void PiePicture::paintEvent(QPaintEvent*) {

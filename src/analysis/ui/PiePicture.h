@@ -17,6 +17,7 @@ public:
     Pie& pie() { return pie_; }
 
 protected:
+    bool event(QEvent*) override; ///< the tip of a sector
     void paintEvent(QPaintEvent*) override;
 
 private:

@@ -41,6 +41,7 @@ public:
     QString numFix(double& value) const;
     static double barWidth(qint32 days, double& value, double rdi); ///< in twips
 
+    FigureTable Figures() const override { return FigureTable::Of(figures_.Rows()); }
     QSize sizeHint() const final;
 
 protected:

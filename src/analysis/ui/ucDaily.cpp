@@ -9,6 +9,7 @@
 #include "analysis/ui/LedLabel.h"
 #include "analysis/ui/PieChart.h"
 #include "analysis/ui/ScaleCaption.h"
+#include "analysis/ui/SpokenTable.h"
 #include "analysis/ui/ViewButtons.h"
 #include "drawing/Style.h"
 #include "drawing/Twips.h"
@@ -17,6 +18,7 @@
 #include "runtime/Clock.h"
 #include "runtime/SettingTable.h"
 #include "runtime/Settings.h"
+#include "toolkit/ControlInterface.h"
 #include "toolkit/ucAALBL.h"
 #include "toolkit/ucStrip.h"
 
@@ -238,6 +240,15 @@ void ucDaily::Toggle(int mode) {
     labels_->setVisible(mode != 2);
     buttons_->SetChosen(mode);
     FitValues();
+}
+
+FigureTable ucDaily::Figures() const {
+    return mode_ == QLatin1String(Modes[2]) ? FigureTable::Of(figures_.Energy())
+                                            : FigureTable::Of(figures_.Rows());
+}
+
+QAccessibleInterface* ucDaily::MakeAccessible() {
+    return new WithSpokenTable<ControlInterface>(this, [this] { return Figures(); });
 }
 
 void ucDaily::AddOverLay() {

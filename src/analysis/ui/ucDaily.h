@@ -1,6 +1,7 @@
 #pragma once
 
 #include "analysis/DayFigures.h"
+#include "analysis/FigureTable.h"
 #include "analysis/ui/DailyRow.h"
 #include "model/Nuts.h"
 #include "toolkit/DrawnControl.h"
@@ -45,6 +46,8 @@ public:
     void Unhilite();
     void AllOff(const QString& name); ///< resets every hover look except the named button's
     QSize sizeHint() const final;
+    FigureTable Figures() const; ///< of the view that is shown
+    QAccessibleInterface* MakeAccessible() override;
 
 protected:
     void paintEvent(QPaintEvent*) override;

@@ -16,12 +16,15 @@
 #include <QShowEvent>
 
 #include <algorithm>
+#include <cmath>
 
 namespace {
 
 // Twips.
 constexpr int SurfaceWidth = 10740;
 constexpr int SurfaceHeight = 6000;
+
+constexpr double TipReach = 8; ///< pixels around a point
 
 } // namespace
 
@@ -115,6 +118,22 @@ void ucLineChart::ShowLabels() {
 void ucLineChart::Liner(std::vector<PlotPoint> points) {
     curve_.points = std::move(points);
     update();
+}
+
+QString ucLineChart::TipAt(QPoint place) const {
+    QString tip;
+    double nearest = TipReach;
+    for (size_t i = 0; i < std::min(curve_.points.size(), curve_.entries.size()); ++i) {
+        const PlotPoint& point = curve_.points[i];
+        const double distance =
+            std::hypot(Twips::ToPixels(point.x) - place.x(), Twips::ToPixels(point.y) - place.y());
+        if (distance > nearest)
+            continue;
+        nearest = distance;
+        const WeightLog::Entry& entry = curve_.entries[i];
+        tip = Dates::ShortText(entry.day) + u": " + DecimalText(entry.weight) + u" lbs";
+    }
+    return tip;
 }
 
 void ucLineChart::paintEvent(QPaintEvent*) {

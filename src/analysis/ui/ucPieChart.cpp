@@ -39,6 +39,10 @@ void ucPieChart::updatePie(QDate start, QDate end) {
     TellValueChanged();
 }
 
+FigureTable ucPieChart::Figures() const {
+    return FigureTable::Of(pie_->picPIE()->pie().EnergyParts());
+}
+
 void ucPieChart::AddOverLay() {
     pie_->AddOverLay();
 }

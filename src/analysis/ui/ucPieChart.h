@@ -16,6 +16,7 @@ public:
 
     void updatePie(QDate start, QDate end);
     void AddOverLay();
+    FigureTable Figures() const override;
 
 protected:
     void resizeEvent(QResizeEvent*) override;
