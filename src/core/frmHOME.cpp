@@ -2,6 +2,7 @@
 
 #include "core/Community.h"
 #include "core/FramePlace.h"
+#include "core/ScreenKeys.h"
 #include "core/frmPrefs.h"
 #include "core/ucMenu.h"
 #include "drawing/Style.h"
@@ -170,6 +171,7 @@ void frmHOME::AddShortcuts() {
     add(QKeySequence(Qt::ALT | Qt::Key_F4), &frmHOME::QuitRequested);
     add(QKeySequence(Qt::CTRL | Qt::Key_Q), &frmHOME::QuitRequested);
     add(QKeySequence(Qt::CTRL | Qt::Key_Comma), [this] { frmPrefs(this).ShowModal(); });
+    ScreenKeys::AddTo(*this);
 }
 
 void frmHOME::ShowFront(const QString& screen) {
