@@ -4,7 +4,7 @@
 set(help_source ${CMAKE_CURRENT_SOURCE_DIR}/help)
 set(help ${delivered}/help)
 set(pages index home day search facts profile reports my-foods recipes exchange preferences numbers
-  your-data)
+  your-data shortcuts)
 file(GLOB pictures CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/docs/pictures/*.png)
 
 function(read_page page)

@@ -35,7 +35,7 @@ QStringList Found(const QString& text, const char* pattern) {
 TEST(Help, BeginsWithItsContentsAndHasAPageForEveryScreen) {
     const QStringList pages = Pages();
     for (const char* page : {"index", "home", "day", "search", "facts", "profile", "reports",
-                             "my-foods", "recipes", "exchange", "preferences", "numbers"})
+                             "my-foods", "recipes", "exchange", "preferences", "numbers", "shortcuts"})
         EXPECT_TRUE(pages.contains(QLatin1String(page) + ".html")) << page;
 }
 

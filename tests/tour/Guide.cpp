@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QLineEdit>
+#include <QPainter>
 #include <QTest>
 #include <QTimer>
 
@@ -100,9 +101,26 @@ void Guide::HoverOver(QWidget* root, const QString& control) {
 
 void Guide::Picture(QWidget* window, const QString& name) {
     Settle();
+    Save(window->grab(), name);
+}
+
+void Guide::PictureWithPopups(QWidget* window, const QString& name) {
+    Settle();
+    QPixmap picture = window->grab();
+    QPainter painter(&picture);
+    for (QWidget* over : QApplication::topLevelWidgets()) {
+        const bool isPopup = over->windowType() == Qt::Popup || over->windowType() == Qt::ToolTip;
+        if (isPopup && over->isVisible())
+            painter.drawPixmap(over->pos() - window->mapToGlobal(QPoint()), over->grab());
+    }
+    painter.end();
+    Save(picture, name);
+}
+
+void Guide::Save(const QPixmap& picture, const QString& name) {
     const QString file =
         QStringLiteral("%1-%2.png").arg(++taken_, 2, 10, QLatin1Char('0')).arg(name);
-    Check(window->grab().save(pictures_.filePath(file)), QStringLiteral("the picture ") + file);
+    Check(picture.save(pictures_.filePath(file)), QStringLiteral("the picture ") + file);
 }
 
 void Guide::Settle() {

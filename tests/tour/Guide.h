@@ -36,6 +36,8 @@ public:
     void TakeInput(QWidget* control); ///< keys go to its window from here on
     void HoverOver(QWidget* root, const QString& control);
     void Picture(QWidget* window, const QString& name);
+    /// The window with the menus, lists and tips that are open over it.
+    void PictureWithPopups(QWidget* window, const QString& name);
     void Settle(); ///< lets pending paints and events run
 
     void Check(bool holds, const QString& what);
@@ -54,6 +56,7 @@ private:
     };
     void Visit(QWidget* modal);
     static void KeepHoverLooks(QWidget* form);
+    void Save(const QPixmap& picture, const QString& name);
 
     QDir pictures_;
     QQueue<Stop> foreseen_;

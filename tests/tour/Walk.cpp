@@ -3,6 +3,7 @@
 #include "tour/CustomFoodWalk.h"
 #include "tour/ExchangeWalk.h"
 #include "tour/Guide.h"
+#include "tour/KeyWalk.h"
 #include "tour/RecipeWalk.h"
 #include "tour/ReportWalk.h"
 
@@ -71,6 +72,7 @@ void Walk::Go() {
     LookAtViews();
     RemoveOneFood();
     KeepFoods();
+    KeyWalk(guide_).Go();
     ChangeDay();
     EditProfile();
     Preferences();
