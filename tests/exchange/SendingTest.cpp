@@ -263,13 +263,16 @@ TEST_P(SendingTest, AMailIsGivenUpAfterTwoDays) {
 TEST_P(SendingTest, ARelayThatHangsHoldsUpNeitherReadersNorTheEnd) {
     const SmtpSink sink(SmtpSink::Manner::Hangs);
     Start(Mailing(sink));
-    const auto begin = std::chrono::steady_clock::now();
+    using Clock = std::chrono::steady_clock;
+    const auto begin = Clock::now();
     for (int i = 0; i < 5; ++i)
         EXPECT_TRUE(SendCreated(Create().id).starts_with("Your recipe is on its way"));
     for (int i = 0; i < 20; ++i)
         EXPECT_EQ(Get("/ready")->status, 200);
+    EXPECT_LT(Clock::now() - begin, std::chrono::seconds(100)) << "a mail has 25 seconds";
+    const auto end = Clock::now();
     EXPECT_EQ(Running().End(), 0);
-    EXPECT_LT(std::chrono::steady_clock::now() - begin, Soon) << "a mail has 25 seconds";
+    EXPECT_LT(Clock::now() - end, Soon) << "a mail has 25 seconds";
     EXPECT_EQ(Count("SELECT COUNT(*) FROM outbox"), 5);
 }
 
