@@ -24,7 +24,8 @@ constexpr char Magic[] = "SQLite format 3"; // 16 bytes with its NUL
 }
 
 template <class Number> Number NumberAt(const QByteArray& header, int place) {
-    return qFromBigEndian<Number>(header.constData() + place);
+    return header.size() < HeaderLength ? Number{}
+                                        : qFromBigEndian<Number>(header.constData() + place);
 }
 } // namespace
 
@@ -71,5 +72,5 @@ quint32 FileHeader::ChangeCount() const {
 }
 
 bool FileHeader::HasWriteAheadLog() const {
-    return bytes_[ReadVersionAt] == WriteAhead;
+    return IsWhole() && bytes_[ReadVersionAt] == WriteAhead;
 }

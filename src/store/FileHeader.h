@@ -4,7 +4,7 @@
 #include <QString>
 
 /// The header of a database file, read directly from the disk. Its layout is the same in every
-/// version of the file format.
+/// version of the file format. In a header that is not whole, every number is 0.
 class FileHeader {
 public:
     /// Fails if the file is missing or cannot be read.
