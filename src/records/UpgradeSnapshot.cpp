@@ -7,6 +7,8 @@
 #include "store/FileHeader.h"
 #include "store/Schema.h"
 
+#include <QFileInfo>
+
 #include <algorithm>
 
 namespace {
@@ -17,15 +19,14 @@ bool CanBeOpened(const RecordsFolder& records) {
     });
 }
 
-bool IsOlder(const RecordsFolder& records, const RecordsFile& file) {
-    return FileHeader::Of(records.File(file.name)).SchemaVersion() < Schema::Version;
+bool IsOlder(const QString& path) {
+    return QFileInfo(path).isFile() && FileHeader::Of(path).SchemaVersion() < Schema::Version;
 }
 } // namespace
 
 void UpgradeSnapshot::MakeIfNeeded(const RecordsFolder& records) {
-    if (!CanBeOpened(records) || std::ranges::none_of(RecordsFiles, [&](const RecordsFile& file) {
-            return IsOlder(records, file);
-        }))
+    const auto isOlder = [&](const RecordsFile& file) { return IsOlder(records.File(file.name)); };
+    if (std::ranges::none_of(RecordsFiles, isOlder) || !CanBeOpened(records))
         return;
     SnapshotMaking(records, Snapshots(records).Place())
         .Make(SnapshotKind::Upgrade, QStringLiteral("before an update of the files"));
