@@ -28,7 +28,6 @@ QHash<QString, Description> Described(const ReleaseTable& table) {
 ReleaseFood Food(const ReleaseTable::Record& values, const Description& description,
                  const Measures& measures) {
     ReleaseFood food;
-    food.line = values.line;
     food.number = values.Field(1);
     food.group = description.group;
     food.name = description.name;

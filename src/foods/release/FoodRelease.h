@@ -9,7 +9,6 @@
 /// A food of a release. Numbers keep the decimal text of the release; an empty text is an unknown
 /// value.
 struct ReleaseFood {
-    int line = 0;   ///< of its amounts
     QString number; ///< the release's own
     QString group;  ///< the number of its food group
     QString name;

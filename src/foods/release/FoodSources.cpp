@@ -35,7 +35,8 @@ FoodSource SourceOf(const ReleaseFood& food) {
     std::vector<std::optional<double>> figures;
     for (const QString& amount : food.nutrients)
         figures.push_back(Number(amount));
-    const auto& [a, b] = std::tie(food.servings.a, food.servings.b);
+    const Measure& a = food.servings.a;
+    const Measure& b = food.servings.b;
     figures.push_back(Number(a.grams));
     figures.push_back(Number(b.grams));
     return {food.valuesLine,   food.nameLine,    {a.field, a.line},

@@ -8,7 +8,6 @@
 #include <vector>
 
 class FoodRelease;
-struct ReleaseFood;
 
 /// Where a serving of a stock food comes from. Where both are 0, the release has no such measure.
 struct ServingSource {
@@ -21,7 +20,7 @@ struct FoodSource {
     int valuesLine = 0; ///< of ABBREV.txt
     int nameLine = 0;   ///< of FOOD_DES.txt
     ServingSource a, b;
-    bool plainFolate = false; ///< the field for folate is empty: the total stands in
+    bool plainFolate = false; ///< the field for folate is empty: the total is used
     QString check;            ///< of the figures, see CheckOf
 };
 

@@ -56,6 +56,6 @@ void ReleaseFoods::Read(const QString& folder, const FoodFilter& filter, FoodTal
         if (refusal.isEmpty())
             take(u"sr:" + food.number, own);
         else
-            tally.Refuse(QStringLiteral("ABBREV.txt"), food.line, food.name, refusal);
+            tally.Refuse(QStringLiteral("ABBREV.txt"), food.valuesLine, food.name, refusal);
     }
 }
