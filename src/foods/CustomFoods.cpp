@@ -4,8 +4,11 @@
 #include "store/Connection.h"
 #include "store/NamedRows.h"
 #include "store/Recordset.h"
+#include "store/Schema.h"
 
 namespace {
+static_assert(Schema::LastStockFood == 23508); // the conditions of own foods
+
 QString FoodSQL(qint32 id) {
     return QStringLiteral("SELECT * FROM foods WHERE ID = ") + QString::number(id);
 }
@@ -49,7 +52,6 @@ void CustomFoods::Save(qint32 id, const CustomFood& food) {
 }
 
 void CustomFoods::Delete(qint32 id) {
-    Recordset food(FoodDB(), QStringLiteral("SELECT * FROM Foods WHERE ID =") + QString::number(id),
-                   CursorType::Keyset, LockType::Optimistic);
+    Recordset food(FoodDB(), FoodSQL(id), CursorType::Keyset, LockType::Optimistic);
     food.Delete();
 }

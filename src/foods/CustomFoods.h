@@ -11,9 +11,9 @@ inline constexpr double ServingGrams = 100;
 
 QList<NamedKey> Names(); ///< in the order of the names
 
-qint32 HighestKey(); ///< that of the last stock food where there is no custom food
+qint32 HighestKey(); ///< of the last stock food if there is no custom food
 
-/// A row that holds its key alone, one above the highest. Gives the key.
+/// Appends a row that holds only its key, one above the highest. Gives the key.
 qint32 Append();
 
 // The row of that key must exist, else these fail (3021).
