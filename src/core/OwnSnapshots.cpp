@@ -1,10 +1,10 @@
 #include "core/OwnSnapshots.h"
 
+#include "core/FailureText.h"
 #include "records/SnapshotMaking.h"
 #include "records/Snapshots.h"
 #include "records/UpgradeSnapshot.h"
 #include "runtime/AppPath.h"
-#include "runtime/RuntimeError.h"
 #include "runtime/Seams.h"
 #include "runtime/SettingTable.h"
 #include "runtime/Settings.h"
@@ -28,10 +28,8 @@ template <class Step> QString FailureIn(Step step) {
     try {
         step();
         return {};
-    } catch (const RuntimeError& failure) {
-        return failure.Description();
     } catch (const std::exception& failure) {
-        return QString::fromLocal8Bit(failure.what());
+        return FailureText::Description(failure);
     }
 }
 

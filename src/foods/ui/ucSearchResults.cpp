@@ -93,7 +93,7 @@ void ucSearchResults::BuildMeals() {
     int left = cmdGo_->geometry().right() + 20;
     Watch(CaptionAt(this, "lblMeals", "Add foods to meal:", {left, CaptionTop}));
     for (int i = 0; i < MealCount; ++i) {
-        opMeal_[i] = new ucRadio(QLatin1String(Meals::Names[i]), this);
+        opMeal_[i] = new ucRadio(Meals::NameOf(i), this);
         opMeal_[i]->setObjectName(Named("opMeal", i));
         const QSize size = opMeal_[i]->sizeHint();
         opMeal_[i]->setGeometry(left, FieldTop, size.width(), TheStyle().fieldHeight);

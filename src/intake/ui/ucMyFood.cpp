@@ -40,9 +40,8 @@ ucMyFood::ucMyFood(QWidget* parent)
 }
 
 MealHeading* ucMyFood::AddHeading(int meal) {
-    const auto place = static_cast<size_t>(meal);
-    auto* heading = new MealHeading(QLatin1String(HeadingNames[place]),
-                                    QLatin1String(Meals::Names[place]), Pane()->picResultsPane());
+    auto* heading = new MealHeading(QLatin1String(HeadingNames[static_cast<size_t>(meal)]),
+                                    Meals::NameOf(meal), Pane()->picResultsPane());
     heading->hide();
     connect(heading, &MealHeading::Click, this, [this, meal] { Q_EMIT AddRequested(meal); });
     connect(heading, &MealHeading::MouseMove, this, [this, heading] { OnHeadingMove(heading); });
