@@ -10,8 +10,8 @@
 namespace {
 constexpr int WritingTime = 50; ///< milliseconds; a process that lives has signed its lock by then
 
-/// Beside what stands in the file, its holder keeps the system's lock on it, which goes with the
-/// process. On Windows a held file cannot even be opened.
+/// The process that made the file also holds the system's lock on it. The system frees that lock
+/// when the process ends. On Windows a held file cannot even be opened.
 bool IsTaken([[maybe_unused]] const QFile& file) {
 #ifdef Q_OS_WIN
     return false;
@@ -19,8 +19,9 @@ bool IsTaken([[maybe_unused]] const QFile& file) {
     return flock(file.handle(), LOCK_SH | LOCK_NB) != 0;
 #endif
 }
-/// QLockFile removes a stale lock under a second one. A process that was killed before it signed
-/// that would keep it for half a minute.
+
+/// To remove a stale lock, QLockFile takes a second one, the guard. If a process was killed before
+/// it signed the guard, QLockFile would respect it for half a minute.
 void FreeGuard(const QString& path) {
     if (QFile::exists(path))
         ProcessLock(path).TryLock();
@@ -36,7 +37,10 @@ ProcessLock::Result ProcessLock::TryLock() {
     if (file_.isLocked() || file_.tryLock(0))
         return Result::Held;
     if (file_.error() == QLockFile::LockFailedError) {
-        HasOwner() ? FreeGuard(Path() + QLatin1String(".rmlock")) : RemoveWithoutOwner();
+        if (HasOwner())
+            FreeGuard(Path() + QLatin1String(".rmlock"));
+        else
+            RemoveWithoutOwner();
         file_.tryLock(0);
     }
     if (file_.isLocked())
@@ -68,8 +72,8 @@ bool ProcessLock::HasOwner() const {
     return !Holder().isEmpty();
 }
 
-/// A process that was killed between making the file and signing it leaves one that QLockFile never
-/// takes for stale. A living process holds the file itself, and then it is not removed.
+/// If a process was killed between making the file and signing it, QLockFile never takes that file
+/// for stale. The file of a living process is not removed, because the process holds it.
 void ProcessLock::RemoveWithoutOwner() {
     QThread::msleep(WritingTime);
     if (!HasOwner())

@@ -30,11 +30,12 @@ public:
     /// older one. An older schema is updated by numbered steps, each in a transaction. A refused
     /// file stays unchanged to the byte.
     void Open(const QString& path, DatabaseKind kind);
-    /// Opens a file that must have this schema version, for reading alone. Neither the file nor its
-    /// folder changes.
+    /// Opens a file, which must have this schema version, only for reading. Neither the file nor
+    /// its folder changes.
     void OpenForReading(const QString& path, DatabaseKind kind);
-    /// Opens a file on the database that `other` has open, for what `other` is open for. A
-    /// transaction then covers both files: a kill or a power cut leaves both old or both new.
+    /// Adds a file to the database that `other` has open, at most one. If `other` only reads, so
+    /// does this. A transaction then covers both files: a kill or a power cut leaves both old or
+    /// both new.
     void OpenTogether(const QString& path, DatabaseKind kind, Connection& other);
     void Close(); ///< does nothing where it is not open
     State state() const;

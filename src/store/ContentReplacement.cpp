@@ -14,9 +14,9 @@
 namespace {
 constexpr int BusyMilliseconds = 5000;
 
-/// In the statements, L is the name of the file that changes and B that of the other one. The store
-/// keeps the text of a table and of an index with one blank between its first words. Indexes are
-/// made before the rows come: the store then copies both as they are.
+/// In the statements, L stands for the file that changes, and B for the one whose contents it gets.
+/// The store keeps the text of a table and of an index with one blank between its first words.
+/// Indexes are made before the rows are inserted: the store then copies both as they are.
 constexpr const char* MadeStatements[] = {
     R"(SELECT 'DROP VIEW L."' || replace(name, '"', '""') || '"' FROM L.sqlite_schema
        WHERE type = 'view')",

@@ -12,7 +12,7 @@
 #include <sqlite3.h>
 
 namespace {
-constexpr int BusyMilliseconds = 5000; ///< a commit of another process is awaited this long
+constexpr int BusyMilliseconds = 5000; ///< how long to wait for a commit of another process
 constexpr int AllPages = -1;
 constexpr int PagesAtOnce = 1024; ///< the source is free for a writer after each so many pages
 constexpr int MostRestarts = 10;
@@ -33,7 +33,8 @@ void Prepare(SQLite::Database& target, DatabaseCopy::Sync sync) {
     else
         target.exec("PRAGMA synchronous = OFF; PRAGMA journal_mode = OFF; PRAGMA cache_size = 50");
 }
-/// Where another connection writes between two steps, the copy begins again. Where that happens too
+
+/// If another connection writes between two steps, the copy begins again. If that happens too
 /// often, the writer waits until all pages are copied.
 int CopyAllPages(SQLite::Backup& backup) {
     int restarts = 0;
@@ -41,7 +42,8 @@ int CopyAllPages(SQLite::Backup& backup) {
         const int result = backup.executeStep(restarts < MostRestarts ? PagesAtOnce : AllPages);
         if (result != SQLITE_OK)
             return result;
-        restarts += left > 0 && backup.getRemainingPageCount() >= left ? 1 : 0;
+        if (left > 0 && backup.getRemainingPageCount() >= left)
+            ++restarts;
         left = backup.getRemainingPageCount();
     }
 }

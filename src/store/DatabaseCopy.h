@@ -9,7 +9,7 @@ namespace DatabaseCopy {
 enum class Sync { Fully, No };
 
 /// Copies the state of the last commit, also while another process has the file open and writes. A
-/// file at `to` is replaced page by page, in one transaction. Fails
-/// (negative number) if either cannot be opened or does not become free within seconds.
+/// file at `to` is replaced page by page, in one transaction. Fails (negative number) if one of the
+/// two cannot be opened or does not become free within seconds.
 void Make(const QString& from, const QString& to, Sync sync = Sync::Fully);
 } // namespace DatabaseCopy
