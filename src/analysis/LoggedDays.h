@@ -8,7 +8,7 @@
 namespace LoggedDays {
 int CountWithFood(const Period& period); ///< how many
 
-using Days = std::bitset<32>; ///< by the day of the month, from 1; at 0, what is no date
+using Days = std::bitset<32>; ///< by the day of the month, from 1; bit 0 is a row without a date
 Days WithFood(const Period& month);
 Days WithWeight(const Period& month); ///< a weight of 0 counts as none
 } // namespace LoggedDays

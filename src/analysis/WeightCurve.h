@@ -17,13 +17,12 @@ struct WeightCurve {
     std::vector<DateAxis::Label> dates; ///< the labels that are shown
     std::vector<qint64> weights;        ///< the labels from the top; none before the first entry
     std::vector<PlotPoint> points;
-    std::vector<PlotPoint>
-        mean;            ///< of the seven days up to each entry; only where it was asked for
-    bool noData = false; ///< a notice says so
+    std::vector<PlotPoint> mean; ///< of the seven days up to each entry; WithMean alone sets it
+    bool noData = false;         ///< a notice says so
 
     static WeightCurve Of(std::vector<WeightLog::Entry> entries, WeightLog::Extremes extremes);
-    /// For a page: with the mean, and with a weight axis that holds every entry and is fine in a
-    /// long period, too.
+    /// For a page: with the mean, and with a weight axis that holds every entry and has small steps
+    /// in a long period, too.
     static WeightCurve WithMean(std::vector<WeightLog::Entry> entries);
     WeightCurve AxesAlone() const; ///< without entries, line and notice
     QString Summary() const;       ///< in words

@@ -2,8 +2,8 @@
 
 /// The lock of the person's records, held from start to quit: meanwhile no command changes them.
 namespace HeldRecords {
-/// A command that changes the records is awaited for two seconds; then this fails with
-/// ErrorNumber::RecordsInUse. Beside another window the program goes on without the lock.
+/// Waits up to two seconds for a command that changes the records, then fails with
+/// ErrorNumber::RecordsInUse. If another window holds the lock, the program goes on without it.
 void Take();
-void Release(); ///< does nothing where it is not held
+void Release(); ///< does nothing if it is not held
 } // namespace HeldRecords

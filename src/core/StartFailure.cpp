@@ -45,8 +45,8 @@ bool IsForTheUser(int number) {
     return number == ErrorNumber::JournalDoesNotFit || number == ErrorNumber::RecordsInUse;
 }
 
-/// How a missing or damaged file comes back; empty if the failure is another one, or without a
-/// snapshot.
+/// How the user brings back a missing or damaged file. Empty for any other failure, or if there is
+/// no sound snapshot.
 QString Rescue(const RuntimeError* error) {
     const RecordsFolder records(ApplicationPath());
     if (error == nullptr || IsForTheUser(error->Number()) ||

@@ -42,7 +42,7 @@ QString WeightRefusal(double weight); ///< the message that refuses it; empty if
 /// Makes the weight the current user's and derives the targets from it. A weight that is refused
 /// changes nothing: false.
 bool TakeWeight(double weight);
-/// What happens to a weight that a person enters: it is kept for the day, then taken.
+/// For a weight that a person enters: SetWeight, then TakeWeight.
 bool EnterWeight(QDate day, double weight);
 /// The current user with the weight and the targets of a day, as its screen shows them. Writes
 /// nothing.

@@ -19,7 +19,7 @@ struct Profile {
     void SetHeight(qint32 height); ///< whole inches, split into feet and inches
     double Height() const;         ///< inches; feet that are not wholly a number fail (13)
 
-    /// The message of the first rule that the person's data break; empty where they keep all. The
-    /// targets are free.
+    /// The message of the first rule that the person's data break; empty if they break none. Any
+    /// targets are allowed.
     QString FirstProblem() const;
 };

@@ -11,7 +11,7 @@ namespace Profiles {
 /// The user of the first row that has a sound key, if there is one. Nothing chooses between several
 /// profiles.
 std::optional<User> First();
-/// The user whose name, whatever the case, or else whose key the text is.
+/// The user with that name, whatever its case. If there is none: the user with that key.
 std::optional<User> Find(const QString& nameOrKey);
 
 struct Person {
@@ -20,14 +20,15 @@ struct Person {
 };
 std::vector<Person> All(); ///< those with a sound key, in the order of the rows
 
-/// What is wrong with the entries, a name that somebody else has included; empty if nothing is.
+/// The message of the first problem: a rule that is broken, or a name that somebody else has. Empty
+/// if there is none.
 QString ProblemWithNew(const Profile& entered);
 QString ProblemWithChange(qint32 uid, const Profile& entered);
 
 Profile Read(qint32 uid); ///< a key without a row fails (3021)
 
-/// Appends a row with targets derived from the entries, not with those entered. Gives the user of
-/// that row. The entries must be right: where a derivation fails, nothing is written.
+/// Appends a row. Its targets are derived from the entries; the entered ones are not used. Gives
+/// the user of that row. If a target cannot be derived, this fails and nothing is written.
 User Append(const Profile& entered);
 
 /// Writes person and targets as entered; derives nothing.

@@ -357,7 +357,7 @@ TEST_F(frmReportTest, AFailingQueryIsNotCaught) {
     EXPECT_FALSE(MousePointer::IsBusy());
 }
 
-TEST_F(frmReportTest, ANullTargetOfTheProfileCountsAsNoneAndTheReportIsShown) {
+TEST_F(frmReportTest, ANullGenderInTheProfileDoesNotKeepTheReportFromBeingShown) {
     LogWeek();
     App().AppInfo.AUTOUPDATERDI = true;
     Open();
