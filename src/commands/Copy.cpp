@@ -5,6 +5,7 @@
 #include "intake/DayLog.h"
 #include "records/RecordsChange.h"
 #include "runtime/Clock.h"
+#include "runtime/Counted.h"
 
 #include <QJsonObject>
 
@@ -25,9 +26,8 @@ void Report(const Session& session, const Copying& copying, int count) {
     else if (count == 0)
         session.Print("Nothing to copy is logged on " + from + '.');
     else
-        session.Print(QStringLiteral("Copied from %1 to %2: %3 %4.")
-                          .arg(from, to, QString::number(count),
-                               QLatin1String(count == 1 ? "food" : "foods")));
+        session.Print("Copied from " + from + " to " + to + ": " + Counted(count, "food", "foods") +
+                      '.');
 }
 
 int Copy(const Session& session, Copying& copying) {

@@ -1,12 +1,12 @@
 #include "commands/ImportFrom.h"
 
-#include "commands/Counted.h"
 #include "commands/OneOf.h"
 #include "commands/Session.h"
 #include "commands/Waiting.h"
 #include "foods/Meals.h"
 #include "records/peers/RejectsFile.h"
 #include "records/text/CsvHeader.h"
+#include "runtime/Counted.h"
 
 #include <QJsonArray>
 #include <QJsonObject>

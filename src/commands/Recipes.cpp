@@ -1,5 +1,4 @@
 #include "commands/Commands.h"
-#include "commands/Counted.h"
 #include "commands/OneOf.h"
 #include "commands/OutputFile.h"
 #include "commands/RecipeQuestions.h"
@@ -9,6 +8,7 @@
 #include "records/recipefiles/RecipeFiles.h"
 #include "records/recipefiles/RecipeImport.h"
 #include "records/recipefiles/RecipeStore.h"
+#include "runtime/Counted.h"
 
 #include <QJsonArray>
 #include <QJsonObject>

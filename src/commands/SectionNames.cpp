@@ -1,6 +1,6 @@
 #include "commands/SectionNames.h"
 
-#include "commands/Counted.h"
+#include "runtime/Counted.h"
 
 #include <map>
 

@@ -2,6 +2,7 @@
 
 #include "records/RecordsFiles.h"
 #include "records/RecordsFolder.h"
+#include "runtime/Counted.h"
 #include "store/Schema.h"
 #include "store/UnchangedFile.h"
 
@@ -29,10 +30,6 @@ constexpr Kind All[] = {
 };
 static_assert(std::size(All) == RecordsCounts::Kinds);
 static_assert(Schema::LastStockFood == 23508);
-
-QString Phrase(const Kind& kind, qint64 count) {
-    return QString::number(count) + u' ' + QLatin1String(count == 1 ? kind.one : kind.many);
-}
 } // namespace
 
 RecordsCounts RecordsCounts::Of(const RecordsFolder& folder) {
@@ -64,6 +61,6 @@ QJsonObject RecordsCounts::ToJson() const {
 QString RecordsCounts::Text() const {
     QStringList phrases;
     for (size_t i = 0; i < Kinds; ++i)
-        phrases << Phrase(All[i], counts_[i]);
+        phrases << Counted(counts_[i], All[i].one, All[i].many);
     return phrases.join(QStringLiteral(", "));
 }

@@ -2,5 +2,5 @@
 
 #include <QString>
 
-/// "1 recipe", "2 recipes".
+/// A number and what it counts: "1 day", "3 days".
 QString Counted(qint64 count, const char* one, const char* many);
