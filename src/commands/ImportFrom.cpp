@@ -38,17 +38,12 @@ void AddChoice(CLI::App& command, const std::string& name,
 void TakeMeal(Options& options, const std::string& text) {
     const QString said = QString::fromStdString(text);
     const qsizetype equals = said.lastIndexOf(u'=');
-    const QString meal = said.mid(equals + 1).trimmed();
-    const auto isMeal = [&meal](const char* name) {
-        return meal.compare(QLatin1String(name), Qt::CaseInsensitive) == 0;
-    };
-    const auto* const found = std::ranges::find_if(Meals::Names, isMeal);
-    if (equals < 0 || found == Meals::Names.end())
+    const auto meal = Meals::Find(QStringView(said).mid(equals + 1).trimmed());
+    if (equals < 0 || !meal)
         throw CLI::ValidationError("--meal",
                                    "Write the name in the file, = and Breakfast, Lunch, Dinner or "
                                    "Snacks.");
-    options.choices.meals[CsvHeader::Key(said.left(equals))] =
-        static_cast<int>(found - Meals::Names.begin());
+    options.choices.meals[CsvHeader::Key(said.left(equals))] = *meal;
 }
 
 void AddPaths(CLI::App& command, Options& options) {
@@ -80,7 +75,7 @@ void AddChoices(CLI::App& command, PeerChoices& choices) {
                           [&choices](WeightUnit unit) { choices.weightUnit = unit; });
     AddChoice<PeerChoices::DateOrder>(
         command, "--date-order", {{"mdy", MonthFirst}, {"dmy", DayFirst}},
-        "With --from: the order in dates such as 3/2/2026 where the layout has none",
+        "With --from: whether 3/2/2026 has the month or the day first, where the files do not tell",
         [&choices](PeerChoices::DateOrder order) { choices.dateOrder = order; });
     AddChoice<VitaminASource>(
         command, "--vitamin-a",

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringView>
 
 #include <array>
 #include <optional>
@@ -10,6 +11,7 @@ namespace Meals {
 inline constexpr std::array<const char*, 4> Names{"Breakfast", "Lunch", "Dinner", "Snacks"};
 
 QString NameOf(int meal);
+std::optional<int> Find(QStringView name); ///< the meal of that name, whatever the case
 
 /// The meal that a search panel had ticked when it closed last; empty if there was none.
 std::optional<int> LastTicked();

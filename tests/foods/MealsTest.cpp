@@ -26,3 +26,10 @@ TEST_F(MealsTest, AKeptTextThatIsNoMealIsTheFirstMeal) {
     for (const char* kept : {"abc", "-1", "4", "1e300"})
         EXPECT_EQ(With(kept), 0) << kept;
 }
+
+TEST_F(MealsTest, AMealIsFoundByItsWholeNameWhateverTheCase) {
+    EXPECT_EQ(Meals::Find(u"Breakfast"), 0);
+    EXPECT_EQ(Meals::Find(u"snacks"), 3);
+    EXPECT_EQ(Meals::Find(u"Snack"), std::nullopt);
+    EXPECT_EQ(Meals::Find(u""), std::nullopt);
+}

@@ -143,12 +143,11 @@ void TakeNutrients(TableMap& map, const toml::table& table) {
 
 void TakeMeals(TableMap& map, const toml::table& table) {
     for (const auto& [key, node] : table) {
-        const std::string_view meal = TextOf(node, key);
-        const auto found = std::ranges::find(Meals::Names, meal);
-        if (found == Meals::Names.end())
-            Fail("the meal " + Quoted(meal) + " is not one of ours.");
-        map.meals[CsvHeader::Key(Decoded(key.str()))] =
-            static_cast<int>(found - Meals::Names.begin());
+        const std::string_view name = TextOf(node, key);
+        const auto meal = Meals::Find(Decoded(name));
+        if (!meal)
+            Fail("the meal " + Quoted(name) + " is not one of ours.");
+        map.meals[CsvHeader::Key(Decoded(key.str()))] = *meal;
     }
 }
 
@@ -189,6 +188,8 @@ void RequireWhole(const TableMap& map) {
     const bool hasDays = map.kind != Kind::Foods;
     Require(!hasDays || !map.date.empty(), "columns.date is missing.");
     Require(map.dateFormat.contains(u"yyyy"), "file.date must name the year as yyyy.");
+    Require(map.numbers.thousands.isNull() || map.numbers.thousands != map.numbers.decimal,
+            "file.thousands and file.decimal are the same.");
     if (map.kind == Kind::Weights) {
         Require(!map.weight.empty(), "columns.weight is missing.");
         Require(map.weightUnit.has_value(), "file.weight must say kg or lb.");
@@ -201,8 +202,6 @@ void RequireWhole(const TableMap& map) {
     Require(map.basis != Basis::HundredGrams || !map.grams.empty(),
             "columns.grams is missing, but the amounts are given for 100 g.");
     Require(map.kind != Kind::Foods || !map.serving.empty(), "columns.serving is missing.");
-    Require(map.numbers.thousands.isNull() || map.numbers.thousands != map.numbers.decimal,
-            "file.thousands and file.decimal are the same.");
 }
 } // namespace
 

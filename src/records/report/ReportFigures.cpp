@@ -17,10 +17,7 @@ constexpr auto OtherMeal = "Other";
 
 /// An entry without a meal, or with one that we do not know, comes last.
 size_t PlaceOf(const QString& meal) {
-    const auto named = std::ranges::find_if(Meals::Names, [&meal](const char* name) {
-        return meal.compare(QLatin1String(name), Qt::CaseInsensitive) == 0;
-    });
-    return size_t(named - Meals::Names.begin());
+    return size_t(Meals::Find(meal).value_or(int(Meals::Names.size())));
 }
 
 QString MealName(size_t place) {
@@ -35,13 +32,16 @@ QString FoodText(const LogReading& entry) {
            QString::fromStdString(entry.FoodName());
 }
 
+/// The meal of that name; a new one where there is none.
+Meal& MealIn(std::vector<Meal>& meals, const QString& name) {
+    const auto meal = std::ranges::find(meals, name, &Meal::name);
+    return meal == meals.end() ? meals.emplace_back(Meal{name, 0, {}}) : *meal;
+}
+
 void AddTo(std::vector<Meal>& meals, const LogReading& entry) {
-    const QString name = MealName(PlaceOf(QString::fromStdString(entry.Meal())));
-    auto meal = std::ranges::find(meals, name, &Meal::name);
-    if (meal == meals.end())
-        meal = meals.insert(meals.end(), Meal{name, 0, {}});
-    meal->calories += entry.Amount(Nutrient::Calories).value_or(0);
-    meal->foods << FoodText(entry);
+    Meal& meal = MealIn(meals, MealName(PlaceOf(QString::fromStdString(entry.Meal()))));
+    meal.calories += entry.Amount(Nutrient::Calories).value_or(0);
+    meal.foods << FoodText(entry);
 }
 
 void SortMeals(std::vector<Meal>& meals) {
@@ -78,10 +78,7 @@ void ShareMeals(ReportFigures& figures) {
     double whole = 0;
     for (const Day& day : figures.days)
         for (const Meal& meal : day.meals) {
-            auto same = std::ranges::find(all, meal.name, &Meal::name);
-            if (same == all.end())
-                same = all.insert(all.end(), Meal{meal.name, 0, {}});
-            same->calories += meal.calories;
+            MealIn(all, meal.name).calories += meal.calories;
             whole += meal.calories;
         }
     SortMeals(all);

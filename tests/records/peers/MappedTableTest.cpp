@@ -128,6 +128,9 @@ TEST_F(MappedTableTest, AWrongMapIsRefusedWithWhatIsWrong) {
               start + "\"decimal\" must be a text in quotes.");
     EXPECT_EQ(MapFailure(map + "[file]\ndecimal = \",\"\nthousands = \",\"\n"),
               start + "file.thousands and file.decimal are the same.");
+    EXPECT_EQ(MapFailure("kind = \"weights\"\n[file]\ndecimal = \",\"\nthousands = \",\"\n"
+                         "[columns]\ndate = \"a\"\n"),
+              start + "file.thousands and file.decimal are the same.");
     EXPECT_EQ(MapFailure(map + "[file]\namounts = \"100 g\"\n"),
               start + "columns.grams is missing, but the amounts are given for 100 g.");
     EXPECT_EQ(MapFailure(map + "Sugar = { column = \"a\", unit = \"g\" }\n"),
