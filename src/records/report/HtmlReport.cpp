@@ -103,8 +103,7 @@ QString DayCell(const ReportFigures& figures, QDate day) {
 }
 
 QString MonthRow(const ReportFigures& figures, QDate first) {
-    QString cells =
-        Text("th", Dates::MonthName(first.month()) + u' ' + QString::number(first.year()));
+    QString cells = Text("th", ReportText::Month(first));
     for (QDate day = first; day <= Dates::LastOfMonth(first); day = day.addDays(1))
         cells += DayCell(figures, day);
     return Element("tr", cells);

@@ -2,7 +2,7 @@
 
 #include "drawing/Style.h"
 #include "records/report/Pages.h"
-#include "records/report/ReportFigures.h"
+#include "records/report/ReportText.h"
 #include "runtime/Dates.h"
 
 namespace {
@@ -11,10 +11,6 @@ constexpr int LineHeight = 16;
 constexpr int CellHeight = 13;
 constexpr int CellGap = 1;
 constexpr int MostDays = 31;
-
-QString MonthName(QDate day) {
-    return Dates::MonthName(day.month()) + u' ' + QString::number(day.year());
-}
 
 void PaintCell(QPainter& painter, const QRect& cell, int day, bool logged) {
     const Style& style = TheStyle();
@@ -30,7 +26,7 @@ void PaintMonth(Pages& pages, const ReportFigures& figures, QDate first, QDate l
     painter.setFont(TheStyle().small);
     painter.setPen(TheStyle().ink);
     painter.drawText(QRect(0, pages.Y(), NameWidth, CellHeight), Qt::AlignLeft | Qt::AlignVCenter,
-                     MonthName(first));
+                     ReportText::Month(first));
     const int pitch = (pages.Width() - NameWidth) / MostDays;
     for (QDate day = first; day <= last; day = day.addDays(1)) {
         const int left = NameWidth + (day.day() - 1) * pitch;

@@ -2,6 +2,7 @@
 
 #include "model/Nutrients.h"
 #include "runtime/Convert.h"
+#include "runtime/Counted.h"
 #include "runtime/Dates.h"
 #include "runtime/Format.h"
 #include "runtime/Round.h"
@@ -16,10 +17,6 @@ const QString Unknown = QStringLiteral("–");
 QString LongDay(QDate day) {
     return Dates::MonthName(day.month()) + u' ' + QString::number(day.day()) + u", " +
            QString::number(day.year());
-}
-
-QString Counted(qint64 count, const char* one, const char* many) {
-    return QString::number(count) + u' ' + QLatin1String(count == 1 ? one : many);
 }
 
 int DaysIn(const Period& period) {
@@ -53,6 +50,10 @@ QString ReportText::Person(const User& person) {
                        DecimalText(person.Age) + u" years", Height(person.Height),
                        QString::number(person.CurrentWeight) + u" lb"}
         .join(u", ");
+}
+
+QString ReportText::Month(QDate day) {
+    return Dates::MonthName(day.month()) + u' ' + QString::number(day.year());
 }
 
 QString ReportText::Days(const Period& period) {

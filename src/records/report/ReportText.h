@@ -18,6 +18,7 @@ inline constexpr auto MeanWeight = "Mean of seven days";
 inline constexpr auto NoWeight = "No weight was entered in this period.";
 
 QString Person(const User& person);   ///< "Anna, male, 40 years, 5 ft 10 in, 200 lb"
+QString Month(QDate day);             ///< "March 2026"
 QString Days(const Period& period);   ///< "March 1, 2026 to March 31, 2026"
 QString Day(QDate day);               ///< "Monday, March 2, 2026"
 QString Logged(const ReportFigures&); ///< how many days and entries
