@@ -58,10 +58,8 @@ int ExportToFile(const Session& session, const QString& path) {
 }
 
 int ExportToOutput(const Session& session) {
-    ExportTo(session, [&](std::string_view piece) { session.Out() << piece; });
-    if (!session.Out().flush())
-        throw RuntimeError(ErrorNumber::FileAccess,
-                           QStringLiteral("Standard output cannot be written."));
+    ExportTo(session, [&](std::string_view piece) { session.Write(piece); });
+    session.Flush();
     return Done;
 }
 } // namespace

@@ -37,7 +37,9 @@ struct ExportWanted {
 
 Format FormatOf(const ExportWanted& wanted) {
     const bool byName = wanted.format.empty();
-    const bool isMarkdown = byName ? wanted.file.ends_with(".md") : wanted.format == "markdown";
+    const QString name = QString::fromStdString(wanted.file);
+    const bool isMarkdown = byName ? name.endsWith(QLatin1String(".md"), Qt::CaseInsensitive)
+                                   : wanted.format == "markdown";
     return isMarkdown ? Format::Markdown : Format::JsonLd;
 }
 
@@ -47,7 +49,8 @@ int Export(const Session& session, const ExportWanted& wanted) {
         wanted.names.empty() ? RecipeStore::All() : RecipeStore::Named(Texts(wanted.names));
     const QByteArray bytes = RecipeFiles::Write(recipes, FormatOf(wanted));
     if (wanted.file == "-") {
-        session.Out() << bytes.toStdString();
+        session.Write(bytes.toStdString());
+        session.Flush();
         return Done;
     }
     OutputFile file(wanted.file);

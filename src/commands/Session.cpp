@@ -7,6 +7,14 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
+namespace {
+void Require(const std::ostream& out) {
+    if (!out)
+        throw RuntimeError(ErrorNumber::FileAccess,
+                           QStringLiteral("Standard output cannot be written."));
+}
+} // namespace
+
 Session::Session(std::ostream& out, std::ostream& error, std::istream* keyboard)
     : out_(out)
     , error_(error)
@@ -25,6 +33,14 @@ void Session::ChooseProfile() const {
                                ? QStringLiteral("There is no profile in these records.")
                                : "There is no profile \"" + wanted + "\".");
     User::Current() = *person;
+}
+
+void Session::Write(std::string_view bytes) const {
+    Require(out_.write(bytes.data(), std::streamsize(bytes.size())));
+}
+
+void Session::Flush() const {
+    Require(out_.flush());
 }
 
 void Session::Print(const QString& line) const {

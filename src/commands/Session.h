@@ -10,6 +10,7 @@
 #include <optional>
 #include <ostream>
 #include <string>
+#include <string_view>
 
 class QJsonObject;
 
@@ -35,7 +36,8 @@ public:
     /// Makes the person whom `profile` names the current user. Fails if nobody has that name.
     void ChooseProfile() const;
 
-    std::ostream& Out() const { return out_; }
+    void Write(std::string_view bytes) const; ///< as they are; fails if they cannot be written
+    void Flush() const;                       ///< the same for bytes that are held back
     void Print(const QString& line) const;
     void Print(const QJsonObject& facts) const; ///< indented, with a line end
     void Tell(const QString& line) const;       ///< on standard error, after the program's name

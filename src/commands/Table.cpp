@@ -6,11 +6,11 @@
 #include "records/RecordsReading.h"
 #include "records/tables/TableKinds.h"
 #include "records/tables/TableWriter.h"
-#include "runtime/RuntimeError.h"
+
+#include <QFileInfo>
 
 #include <CLI/CLI.hpp>
 
-#include <filesystem>
 #include <set>
 
 namespace {
@@ -35,9 +35,9 @@ const TableFormat& FormatOf(const Choice& choice, const Session& session) {
         return TableFormat::Named(choice.format);
     if (session.json)
         return TableFormat::Named("json");
-    const std::string ending = std::filesystem::path(choice.out).extension().string();
+    const QString ending = QFileInfo(QString::fromStdString(choice.out)).suffix().toLower();
     for (const TableFormat& format : TableFormat::All())
-        if (ending == '.' + std::string(format.name))
+        if (ending == QLatin1String(format.name))
             return format;
     return TableFormat::Named("csv");
 }
@@ -58,19 +58,13 @@ void Write(const Choice& choice, const TableFormat& format, const Period& period
     writer->Write(*kind.make(period));
 }
 
-void WriteOut(const Session& session, std::string_view bytes) {
-    if (!session.Out().write(bytes.data(), std::streamsize(bytes.size())))
-        throw RuntimeError(ErrorNumber::FileAccess,
-                           QStringLiteral("Standard output takes no more."));
-}
-
 int WriteTable(const Session& session, const Choice& choice, const Period& period) {
     const RecordsReading records(session.Records());
     session.ChooseProfile();
     const TableFormat& format = FormatOf(choice, session);
     if (choice.out.empty()) {
-        Write(choice, format, period,
-              [&session](std::string_view bytes) { WriteOut(session, bytes); });
+        Write(choice, format, period, [&session](std::string_view bytes) { session.Write(bytes); });
+        session.Flush();
         return Done;
     }
     OutputFile file(choice.out);

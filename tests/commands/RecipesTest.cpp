@@ -1,5 +1,6 @@
 #include "CommandTest.h"
 
+#include "commands/Program.h"
 #include "commands/Session.h"
 #include "records/RecordsLock.h"
 #include "support/Places.h"
@@ -12,6 +13,8 @@
 
 #include <fcntl.h>
 #include <unistd.h>
+
+#include <sstream>
 
 class RecipeCommandsTest : public CommandTest {
 protected:
@@ -126,6 +129,14 @@ TEST_F(RecipeCommandsTest, AFileThatCannotBeWrittenIsTold) {
     const Run run = Command({"recipes", "export", Folder() + "/no/such/out.md"});
     EXPECT_EQ(run.code, Cannot);
     EXPECT_TRUE(run.error.contains("out.md")) << run.error.toStdString();
+}
+
+TEST_F(RecipeCommandsTest, ExportFailsIfStandardOutputCannotBeWritten) {
+    std::ostringstream full;
+    full.setstate(std::ios::badbit);
+    std::ostringstream error;
+    EXPECT_EQ(RunCommand({"halvane-data", "recipes", "export", "-"}, full, error), Cannot);
+    EXPECT_EQ(error.str(), "halvane-data: Standard output cannot be written.\n");
 }
 
 TEST_F(RecipeCommandsTest, WrongOptionsAreUsageErrors) {

@@ -275,6 +275,7 @@ TEST_F(TableTest, TheNameOfTheFileChoosesTheFormat) {
         return file.read(2);
     };
     EXPECT_EQ(first("foods.xlsx"), "PK");
+    EXPECT_EQ(first("FOODS.XLSX"), "PK");
     EXPECT_EQ(first("foods.json"), "[\n");
     EXPECT_EQ(first("foods.csv"), "Ke");
     EXPECT_EQ(first("foods"), "Ke");
