@@ -9,6 +9,8 @@
 
 #include <CLI/CLI.hpp>
 
+#include <optional>
+
 namespace {
 struct Wanted {
     std::string folder;
@@ -59,8 +61,7 @@ void TellRefusals(const Session& session, const FoodTally& tally) {
                          .arg(refusals.size() - MostShown));
 }
 
-void WriteRejects(const std::string& path, const FoodTally& tally) {
-    OutputFile file(path);
+void WriteRejects(OutputFile& file, const FoodTally& tally) {
     file.Write(tally.RefusalTable().toStdString());
     file.Keep();
 }
@@ -69,12 +70,15 @@ int Import(const Session& session, const Wanted& wanted) {
     FoodImport::Options options{QString::fromStdString(wanted.folder), {}, wanted.dryRun, {}};
     for (const std::string& one : wanted.only)
         options.filter.Add(QString::fromStdString(one));
+    std::optional<OutputFile> rejects; // nothing changes if it cannot be opened
+    if (!wanted.rejects.empty())
+        rejects.emplace(wanted.rejects);
     Progress progress(session, QStringLiteral("Reading"));
     options.step = [&](qint64 done, qint64 total) { progress.Step(done, total); };
     const FoodTally tally = FoodImport::Run(session.Records(), options);
     session.json ? session.Print(Facts(tally)) : Tell(session, tally, wanted.dryRun);
-    if (!wanted.rejects.empty())
-        WriteRejects(wanted.rejects, tally);
+    if (rejects)
+        WriteRejects(*rejects, tally);
     else if (!session.json)
         TellRefusals(session, tally);
     return tally.Refusals().isEmpty() ? Done : Found;

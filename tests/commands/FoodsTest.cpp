@@ -68,6 +68,12 @@ TEST_F(FoodsTest, RefusedFoodsAreListedAndEndWithFound) {
     EXPECT_TRUE(rejects.readAll().contains("99999,it has no description\r\n"));
 }
 
+TEST_F(FoodsTest, AListOfRefusedFoodsThatCannotBeWrittenChangesNothing) {
+    const QStringList butter{"--only", "words=butter"};
+    EXPECT_EQ(Import(butter + QStringList{"--rejects", Folder() + "/no/such/r.csv"}).code, Cannot);
+    EXPECT_FALSE(Import(butter).out.startsWith("0 foods added"));
+}
+
 TEST_F(FoodsTest, AnUnknownRestrictionIsAUsageError) {
     const Run run = Import({"--only", "colour=green"});
     EXPECT_EQ(run.code, Usage);
