@@ -170,8 +170,7 @@ void FindQuantity(FoodMatch& match, const IngredientText& line) {
 } // namespace
 
 bool FoodMatch::Exists(qint32 key) {
-    return Recordset(FoodDB(), u"SELECT ID FROM foods WHERE ID = " + QString::number(key))
-               .RecordCount() > 0;
+    return FoodSearch::WithKey(key, false).has_value();
 }
 
 std::optional<FoodMatch> FoodMatch::Of(const QString& line) {

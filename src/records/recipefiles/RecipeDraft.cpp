@@ -1,7 +1,5 @@
 #include "records/recipefiles/RecipeDraft.h"
 
-#include "model/Nutrients.h"
-
 #include <algorithm>
 
 namespace {
@@ -33,6 +31,15 @@ FinishedIngredient FinishedIngredient::OfRow(const QVariantList& row) {
 bool RecipeDraft::IsFinished() const {
     return std::ranges::all_of(
         ingredients, [](const IngredientLine& line) { return line.finished.has_value(); });
+}
+
+double RecipeDraft::InServing(Nutrient id) const {
+    const auto place = std::ranges::find(StoredOrder(), id) - StoredOrder().begin();
+    double total = 0;
+    for (const IngredientLine& line : ingredients)
+        total += line.finished->amounts[place].toDouble();
+    const double yield = values[RecipeField::Yield].toDouble();
+    return total / (yield > 0 ? yield : 1);
 }
 
 void Complete(RecipeDraft& draft) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/Nutrients.h"
 #include "recipes/Recipe.h"
 
 #include <QStringList>
@@ -35,7 +36,8 @@ struct RecipeDraft {
     bool isOwn = false; ///< we wrote the file: everything is as it was stored
 
     QString Name() const { return values[RecipeField::Name].toString(); }
-    bool IsFinished() const; ///< no ingredient is a line of text
+    bool IsFinished() const;             ///< no ingredient is a line of text
+    double InServing(Nutrient id) const; ///< its amount; all ingredients must be finished
 };
 
 /// Fills in what a recipe of another program needs here: a name, a yield and a serving. Replaces

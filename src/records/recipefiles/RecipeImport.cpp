@@ -66,7 +66,7 @@ public:
         }
         draft_.ingredients = taken;
         KeepAsText(left);
-        imported.kcal = KcalOfServing();
+        imported.kcal = draft_.InServing(Nutrient::Calories);
         imported.isThere = RecipeStore::Has(draft_);
         return imported;
     }
@@ -110,16 +110,6 @@ private:
         parts.removeAll(QString());
         draft_.values[RecipeField::Instructions] =
             AllowedInRecipe(parts.join(QLatin1String("\n\n")));
-    }
-
-    double KcalOfServing() const {
-        const auto place =
-            std::ranges::find(StoredOrder(), Nutrient::Calories) - StoredOrder().begin();
-        double total = 0;
-        for (const IngredientLine& line : draft_.ingredients)
-            total += line.finished->amounts[place].toDouble();
-        const double yield = draft_.values[RecipeField::Yield].toDouble();
-        return total / (yield > 0 ? yield : 1);
     }
 
     RecipeDraft draft_;

@@ -8,8 +8,6 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
-#include <algorithm>
-
 namespace {
 struct Fact {
     const char* property;
@@ -29,23 +27,14 @@ constexpr Fact Facts[] = {
     {"proteinContent", Nutrient::Protein, Nutrient::Protein, " g"},
 };
 
-double Total(const RecipeDraft& draft, Nutrient id) {
-    const auto place = std::ranges::find(StoredOrder(), id) - StoredOrder().begin();
-    double total = 0;
-    for (const IngredientLine& line : draft.ingredients)
-        total += line.finished->amounts[place].toDouble();
-    return total;
-}
-
 QJsonObject NutritionOf(const RecipeDraft& draft) {
-    const double yield = draft.values[RecipeField::Yield].toDouble();
     QJsonObject nutrition{{"@type", "NutritionInformation"},
                           {"servingSize", draft.values[RecipeField::Serving].toString()}};
     for (const Fact& fact : Facts) {
-        const double total = Total(draft, fact.nutrient) +
-                             (fact.second == fact.nutrient ? 0 : Total(draft, fact.second));
-        nutrition[QLatin1String(fact.property)] = QString(
-            QString::number(total / (yield > 0 ? yield : 1), 'f', 1) + QLatin1String(fact.unit));
+        const double amount = draft.InServing(fact.nutrient) +
+                              (fact.second == fact.nutrient ? 0 : draft.InServing(fact.second));
+        nutrition[QLatin1String(fact.property)] =
+            QString(QString::number(amount, 'f', 1) + QLatin1String(fact.unit));
     }
     return nutrition;
 }
