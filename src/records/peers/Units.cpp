@@ -63,8 +63,15 @@ std::optional<double> Iu(double rae, VitaminASource source) {
     }
 }
 
+/// Each amount of each row asks for it.
 Unit OwnUnit(Nutrient nutrient) {
-    return *Units::Named(QString::fromLatin1(Info(nutrient).unit));
+    static const auto units = [] {
+        std::array<Unit, NutrientCount> all{};
+        for (const NutrientInfo& info : Nutrients())
+            all[static_cast<size_t>(info.id)] = *Units::Named(QString::fromLatin1(info.unit));
+        return all;
+    }();
+    return units[static_cast<size_t>(nutrient)];
 }
 
 std::optional<double> Mass(double value, Unit from, Unit to) {
