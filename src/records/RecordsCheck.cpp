@@ -14,7 +14,6 @@
 
 #include <SQLiteCpp/SQLiteCpp.h>
 
-#include <algorithm>
 #include <future>
 
 namespace {
@@ -119,11 +118,6 @@ void RecordsCheck::AddDamage(const RecordsFolder& records, const QString& proble
                                    .arg(QString::number(snapshots.NumberOf(*sound)), sound->Title())
                              : QStringLiteral("There is no snapshot. Put a copy of yours in its "
                                               "place.")};
-}
-
-bool RecordsCheck::CanRepair() const {
-    return std::ranges::any_of(findings_,
-                               [](const Finding& finding) { return !finding.repair.isEmpty(); });
 }
 
 QList<Finding> RecordsCheck::Repair(const RecordsFolder& records, QDate today) {

@@ -16,7 +16,6 @@ public:
 
     const QList<Finding>& Findings() const { return findings_; }
     const RecordsCounts& Counts() const { return counts_; } ///< zero where a file cannot be read
-    bool CanRepair() const; ///< there is a finding with one right answer
 
     /// Puts right what has one right answer, as one change. Gives those findings.
     static QList<Finding> Repair(const RecordsFolder& records, QDate today);

@@ -28,7 +28,6 @@ public:
     quint32 Day(int column) const;                  ///< as the number yyyymmdd; 0 if unknown
     int Line() const { return reader_->Line(); }
     const QString& Name() const { return name_; }
-    bool Has(int column) const { return places_[static_cast<size_t>(column)] >= 0; }
     qint64 Passed() const { return file_.pos(); } ///< bytes read so far
     qint64 Size() const { return file_.size(); }
 

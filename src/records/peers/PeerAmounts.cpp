@@ -56,7 +56,3 @@ void PeerAmounts::RequireSound(const NutrientAmounts& amounts) {
     for (const Nutrient id : CanonicalOrder())
         ::RequireSound(QString::fromLatin1(Info(id).chartCaption), amounts[id].value_or(0));
 }
-
-bool PeerAmounts::AreAllUnknown(const NutrientAmounts& amounts) {
-    return amounts == NutrientAmounts();
-}

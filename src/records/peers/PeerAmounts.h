@@ -56,5 +56,4 @@ namespace PeerAmounts {
 /// Amount / `of` * `eaten`, for amounts that a file gives for `of` of something.
 NutrientAmounts Scaled(const NutrientAmounts& amounts, double of, double eaten);
 void RequireSound(const NutrientAmounts& amounts); ///< fails for more than anybody eats
-bool AreAllUnknown(const NutrientAmounts& amounts);
 } // namespace PeerAmounts
