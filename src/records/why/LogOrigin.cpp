@@ -3,6 +3,7 @@
 #include "foods/FoodSearch.h"
 #include "foods/ScaledFood.h"
 #include "model/NutrientAmounts.h"
+#include "records/why/CatalogueRow.h"
 #include "runtime/Convert.h"
 #include "runtime/RuntimeError.h"
 #include "store/Connection.h"
@@ -11,7 +12,8 @@
 #include <cmath>
 
 namespace {
-constexpr double WholeRecipe = 100; ///< the grams that stand for it in the arithmetic
+/// They stand for a whole recipe in the arithmetic, and for a serving without a weight.
+constexpr double HundredGrams = 100;
 
 /// The food or the recipe that an entry was logged from, as it is today.
 struct Source {
@@ -58,8 +60,8 @@ bool HasAmountsOf(const Recordset& entry, const ScaledFood& food) {
 }
 
 Source FoodSourceOf(const Food& food, const QString& serving, ScaledFood result) {
-    const Recordset row(FoodDB(), QStringLiteral("SELECT * FROM FOODS WHERE ID = %1").arg(food.ID));
-    return {food, serving, row["Serv_GM_WT_" + serving].NumberOr(WholeRecipe),
+    const Recordset row = CatalogueRow::Of(food.ID);
+    return {food, serving, row["Serv_GM_WT_" + serving].NumberOr(HundredGrams),
             NutrientAmounts::Of(row), std::move(result)};
 }
 
@@ -79,7 +81,7 @@ std::optional<Source> FromRecipe(const Recordset& entry, const Food& recipe) {
         return {};
     Source source{recipe,
                   QStringLiteral("A"),
-                  WholeRecipe,
+                  HundredGrams,
                   {},
                   ScaledFood::FromRecipe(recipe.ID, QuantityOf(entry))};
     for (const Nutrient nutrient : StoredOrder())

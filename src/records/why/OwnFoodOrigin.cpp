@@ -1,16 +1,15 @@
 #include "records/why/OwnFoodOrigin.h"
 
+#include "foods/CustomFoods.h"
 #include "model/NutrientAmounts.h"
 #include "records/why/CatalogueRow.h"
 #include "runtime/Convert.h"
 
 namespace {
-constexpr double HundredGrams = 100; ///< own foods keep the amounts of one serving under it
-
 QString ServingText(const Recordset& row) {
     const QString serving = row[QStringLiteral("Serv_Desc_A")].Text();
-    const double grams = row[QStringLiteral("Serv_GM_WT_A")].NumberOr(HundredGrams);
-    if (grams == HundredGrams)
+    const double grams = row[QStringLiteral("Serv_GM_WT_A")].NumberOr(CustomFoods::ServingGrams);
+    if (grams == CustomFoods::ServingGrams)
         return "Amounts in one serving: " + serving;
     return "Amounts in 100 grams. One serving, " + serving + ", is " + DecimalText(grams) +
            " grams.";

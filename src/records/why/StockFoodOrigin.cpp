@@ -152,7 +152,6 @@ Explanation::Row RowOf(const StockRow& stock, Nutrient nutrient) {
     return {nutrient, Explanation::Amount(value, nutrient), OriginText(released, column),
             Servings(stock, nutrient, value), facts};
 }
-
 } // namespace
 
 Explanation StockFoodOrigin::Of(qint32 id, const FoodSources& sources) {
