@@ -48,7 +48,7 @@ QString Impossible(const FdcFood& food, const NutrientAmounts& in100) {
     return {};
 }
 
-/// A name that fills pages is none.
+/// A longer name or serving cannot be meant.
 constexpr qsizetype MostLetters = 1000;
 
 QString Refusal(const CustomFood& own) {
@@ -62,7 +62,6 @@ bool HasAmount(const NutrientAmounts& amounts) {
         return amounts[nutrient.id].has_value();
     });
 }
-
 } // namespace
 
 bool FdcDownload::IsIn(const QString& folder) {

@@ -92,7 +92,7 @@ void FdcSelection::RefuseDoubles() {
                           QStringLiteral("its fdc_id stands twice"));
             Mark(foods_[i]);
         }
-    std::erase_if(foods_, [](const FdcFood& food) { return !food.kind; });
+    RemoveMarked();
 }
 
 /// The names of the categories, where the download has them; else their numbers stay.
@@ -139,7 +139,7 @@ void FdcSelection::ReadBranded() {
         if (table.IsDiscontinued() || !refused.isEmpty())
             Mark(*food);
     }
-    std::erase_if(foods_, [](const FdcFood& food) { return !food.kind; });
+    RemoveMarked();
 }
 
 void FdcSelection::LeaveSuperseded() {
@@ -161,9 +161,12 @@ void FdcSelection::LeaveUnwanted() {
     });
 }
 
+int FdcSelection::RemoveMarked() {
+    return static_cast<int>(std::erase_if(foods_, [](const FdcFood& food) { return !food.kind; }));
+}
+
 void FdcSelection::LeaveMarked(const QString& why) {
-    const auto left = std::erase_if(foods_, [](const FdcFood& food) { return !food.kind; });
-    tally_.Note(why, static_cast<int>(left));
+    tally_.Note(why, RemoveMarked());
 }
 
 bool FdcSelection::HasKind(const FdcKind& kind) const {

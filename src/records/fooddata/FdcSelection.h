@@ -24,8 +24,9 @@ private:
     void ReadBranded();
     void LeaveSuperseded();
     void LeaveUnwanted();
+    void Mark(FdcFood& food) { food.kind = nullptr; } ///< for RemoveMarked
+    int RemoveMarked();                               ///< gives their number
     void LeaveMarked(const QString& why);
-    void Mark(FdcFood& food) { food.kind = nullptr; } ///< LeaveMarked will take it out
     bool HasKind(const FdcKind& kind) const;
     QByteArray Shared(const QByteArray& text); ///< the same bytes for equal texts
 
