@@ -31,6 +31,7 @@ QString NameOf(const Snapshot& snapshot) {
     return snapshot.moment.toString(QStringLiteral("yyyyMMdd'T'HHmmsszzz'Z'-")) +
            snapshot.KindName();
 }
+
 RuntimeError NoTurn(ProcessLock::Result result, const QString& place) {
     const QString text =
         result == ProcessLock::Result::NotPossible

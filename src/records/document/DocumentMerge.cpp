@@ -96,7 +96,6 @@ void FollowKeys(ImportReport& report) {
     DocumentKeys::Follow(Sections::Log, "ID", Sections::Recipes,
                          "ID <= 23508 AND ID NOT IN (SELECT ID FROM FOODS)");
 }
-
 } // namespace
 
 void DocumentMerge::Run(const DocumentHead& head, ImportReport& report) {

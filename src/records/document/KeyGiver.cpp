@@ -35,10 +35,12 @@ bool HasRows(const DocumentSection& section) {
                            " WHERE " + section.rows + ")")
                .getInt() != 0;
 }
+
 struct Reference {
     const DocumentSection& section;
     const char* rows; ///< those that refer to a key
 };
+
 /// What was logged of a food stays as it was when another food gets its key.
 const Reference References[] = {
     {DocumentSections::Profiles, "SELECT 1 FROM USER_FOODS WHERE UID = ?"},

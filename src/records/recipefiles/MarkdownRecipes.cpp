@@ -86,7 +86,7 @@ bool IsOneOf(const QString& title, std::initializer_list<const char*> names) {
     });
 }
 
-/// A line between separators: without the blank lines at both ends of a section.
+/// The text of a section, without the blank line at each end.
 QString Body(QStringList lines) {
     if (!lines.isEmpty() && lines.first().isEmpty())
         lines.removeFirst();
