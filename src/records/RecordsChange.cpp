@@ -48,7 +48,8 @@ void RecordsChange::Commit() {
     if (!committed_)
         return;
     before_.change = {after, settings_};
-    before_.WriteNote();
+    // Committed is committed: without the note, only `undo` is missing.
+    Attempt([this] { before_.WriteNote(); });
     for (auto setting = settings_.begin(); setting != settings_.end(); ++setting)
         SetRegValue(setting.key(), setting.value());
     Snapshots(folder_).Prune();
