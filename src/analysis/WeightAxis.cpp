@@ -35,8 +35,9 @@ int WeightAxis::Y(double weight) const {
         const double lower = double(Label(i + 1));
         if (weight < lower || weight > higher)
             continue;
-        const double part = (weight - lower) / (higher - lower);
-        return Round(LabelMiddle(i + 1) - (LabelMiddle(i + 1) - LabelMiddle(i)) * part);
+        const int gap = LabelMiddle(i + 1) - LabelMiddle(i);
+        // Divided last: a place that is a half of a twip stays one.
+        return Round(LabelMiddle(i + 1) - gap * (weight - lower) / (higher - lower));
     }
     return Round(LabelMiddle(0) + (max_ - weight) * scale_);
 }

@@ -64,6 +64,13 @@ TEST(WeightAxisTest, PlacesAreRoundedHalfToEven) {
     EXPECT_EQ(WeightAxis(0, 4 * 7, 0).Y(1.5), 5062); // 5310 - 247.5 = 5062.5
 }
 
+TEST(WeightAxisTest, TheDivisionComesLastSoThatAHalfTwipStaysOne) {
+    const WeightAxis axis(150, 210, 112);
+    EXPECT_EQ(axis.Label(3), 206);
+    EXPECT_EQ(axis.Label(4), 192);
+    EXPECT_EQ(axis.Y(204.6), 2722); // 3330 - 675 * 12.6 / 14 = 2722.5
+}
+
 TEST(WeightAxisTest, AWeightAboveTheTopLabelHasAScaleOfItsOwn) {
     const WeightAxis axis(100, 110, 0); // labels 100 to 107
     EXPECT_EQ(axis.Y(110), 675);
