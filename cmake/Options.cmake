@@ -6,6 +6,11 @@ set(HALVANE_SANITIZE "" CACHE STRING "Sanitizers to build with, as -fsanitize= t
 add_library(halvane_options INTERFACE)
 target_compile_options(halvane_options INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wno-sign-conversion -Wnon-virtual-dtor)
+if(NOT CMAKE_SYSTEM_PROCESSOR MATCHES "x86_64|AMD64")
+  # Otherwise the compiler may round a product and a sum once instead of twice, and the last bit of a figure
+  # would depend on the machine.
+  target_compile_options(halvane_options INTERFACE -ffp-contract=off)
+endif()
 target_compile_definitions(halvane_options INTERFACE
   QT_NO_KEYWORDS QT_NO_FOREACH QT_USE_QSTRINGBUILDER QT_DISABLE_DEPRECATED_BEFORE=0x060400)
 if(HALVANE_WERROR)
