@@ -1,7 +1,12 @@
 """The amounts of a food or a recipe at a quantity."""
 
-from conversions import shortest, to_display_integer, val
+import functools
+import operator
+
+from conversions import to_integer, val
 from nutrients import NUTRIENTS
+
+NO_CALORIES = "Calories: --"
 
 
 def known(value):
@@ -22,20 +27,45 @@ def scaled(values, grams, quantity):
 
 
 def added(values):
-    """The values one after the other, from the first.
+    """The values one after the other, from the first; None without any.
 
-    >>> added([0.1, 0.2, 0.3]), added([])
-    (0.6000000000000001, None)
+    >>> added([0.1, 0.2, 0.3]), added([-0.0]), added([])
+    (0.6000000000000001, 0.0, None)
     """
-    total = None
+    return functools.reduce(operator.add, values, 0.0) if values else None
+
+
+def compensated(values):
+    """The same, with the error of each step kept and added at the end (Kahan, Babuska, Neumaier).
+
+    >>> compensated([1e16, 1.0, -1e16]), compensated([0.1] * 10), compensated([])
+    (1.0, 1.0, None)
+    """
+    if not values:
+        return None
+    total = error = 0.0
     for value in values:
-        total = value if total is None else total + value
-    return total
+        step = total + value
+        big, small = (total, value) if abs(total) > abs(value) else (value, total)
+        error += (big - step) + small
+        total = step
+    return total + error
+
+
+class Store:
+    """How the store adds up: SQLite compensates from 3.43 on."""
+
+    version = 3040000
+
+
+def store_sum(values):
+    """The store's sum of a column, or None without a row."""
+    return compensated(values) if Store.version >= 3043000 else added(values)
 
 
 def recipe_sums(ingredients):
     """The 31 sums over the ingredients of a recipe; None without any."""
-    return {name: added([row[name] for row in ingredients]) for name in NUTRIENTS}
+    return {name: store_sum([row[name] for row in ingredients]) for name in NUTRIENTS}
 
 
 def recipe_amounts(ingredients, quantity):
@@ -44,7 +74,7 @@ def recipe_amounts(ingredients, quantity):
 
 
 def calories_caption(ingredients, yield_text):
-    """The line of the recipe card.
+    """The line of the recipe card, if there is a figure and it fits a whole number.
 
     >>> calories_caption([{"Calories": 1000.0}], "3"), calories_caption([], "3")
     ('Calories: 333 per serving', 'Calories: --')
@@ -53,18 +83,11 @@ def calories_caption(ingredients, yield_text):
     >>> calories_caption([{"Calories": 5.0}], "abc")
     'Calories: 5 per serving'
     """
-    total = added([row["Calories"] for row in ingredients])
+    total = store_sum([row["Calories"] for row in ingredients])
     if total is None:
-        return "Calories: --"
-    servings = val(yield_text)
-    each = to_display_integer(total / (servings or 1.0))
+        return NO_CALORIES
+    try:
+        each = to_integer(total / (val(yield_text) or 1.0))
+    except OverflowError:
+        return NO_CALORIES
     return f"Calories: {each} per serving"
-
-
-def quantity_text(quantity):
-    """The quantity behind a line of a day or a recipe.
-
-    >>> quantity_text(1.5), quantity_text(2.0)
-    ('(x 1.5)', '(x 2)')
-    """
-    return f"(x {shortest(quantity)})"

@@ -18,8 +18,8 @@ import targets
 import weight_chart
 from nutrients import DAY_ROWS, NUTRIENTS, PERIOD_ROWS, UNITS
 
-MODULES = """amounts conversions dates day_panel facts_panel masks month_glance nutrients
-period_chart shares sums tables targets weight_chart""".split()
+MODULES = """amounts conversions dates day_panel facts_panel figure_line masks month_glance
+nutrients period_chart report shares sums tables targets weight_chart""".split()
 
 FIRST = date(2026, 3, 1)
 
@@ -27,7 +27,7 @@ FIRST = date(2026, 3, 1)
 def entry(day=FIRST, **amounts):
     """A logged food with these amounts, and 0 of everything else."""
     return {"day": day, "amounts": {**dict.fromkeys(NUTRIENTS, 0.0), **amounts},
-            "quantity": 1.0, "grams": None, "stock": False, "unknown": frozenset()}
+            "values": dict.fromkeys(NUTRIENTS, 0.0), "quantity": 1.0, "grams": None}
 
 
 def same_target(value):
@@ -172,16 +172,16 @@ class Weights(unittest.TestCase):
 
 
 class Facts(unittest.TestCase):
-    def test_a_target_of_0_shows_nothing(self):
-        with self.assertRaises(facts_panel.NotShown):
-            facts_panel.shares(entry()["amounts"], {**same_target(1), "Fiber": 0})
+    def test_without_a_target_there_is_no_percentage(self):
+        found = facts_panel.shares(entry(Protein=0.5)["amounts"], {**same_target(1), "Fiber": 0})
+        self.assertEqual(("--", "50%"), (found["Fiber"], found["Protein"]))
 
 
 class Days(unittest.TestCase):
     def test_what_the_catalogue_does_not_know_is_not_covered(self):
-        stock = {**entry(Iron=0.0, Zinc=2.0), "stock": True, "grams": 30.0,
-                 "unknown": frozenset(["Iron"])}
-        (row,) = tables.day_rows([stock, entry(Zinc=1.0)], same_target(12))
+        food = {**entry(Zinc=2.0), "grams": 30.0,
+                "values": {**dict.fromkeys(NUTRIENTS, 1.0), "Iron": None}}
+        (row,) = tables.day_rows([food, entry(Zinc=1.0)], same_target(12))
         self.assertEqual((FIRST, 2, 130.0), row[:3])
         cells = dict(zip(PERIOD_ROWS, row[3]))
         self.assertEqual((3.0, 12, 25.0, 100.0), cells["Zinc"])

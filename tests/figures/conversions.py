@@ -1,12 +1,13 @@
 """Conversions between texts, doubles and 32-bit integers."""
 
+import math
 import re
 import struct
 from decimal import Decimal
 
 LOWEST, HIGHEST = -2**31, 2**31 - 1
 
-LEADING_NUMBER = re.compile(r"[+-]?(\d+\.?\d*|\.\d+)([eEdD][+-]?\d+)?")
+LEADING_NUMBER = re.compile(r"[+-]?([0-9]+\.?[0-9]*|\.[0-9]+)([eE][+-]?[0-9]+)?")
 
 
 def nearest(value):
@@ -33,13 +34,18 @@ def to_integer(value):
     return whole
 
 
+def bounded(value):
+    """What is shown lies within the bounds of a 32-bit integer."""
+    return min(max(value, float(LOWEST)), float(HIGHEST))
+
+
 def to_display_integer(value):
     """As to_integer, but what does not fit becomes the nearest bound.
 
     >>> to_display_integer(3e9), to_display_integer(-1e300), to_display_integer(0.5)
     (2147483647, -2147483648, 0)
     """
-    return nearest(min(max(value, LOWEST), HIGHEST))
+    return nearest(bounded(value))
 
 
 def val(text):
@@ -47,9 +53,17 @@ def val(text):
 
     >>> val("1 2.5 lb"), val("abc"), val("-.5x"), val("1e2"), val("5."), val(".")
     (12.5, 0.0, -0.5, 100.0, 5.0, 0.0)
+
+    A number that is too large or too small for a double is 0, too.
+
+    >>> val("1e999"), val("-1e-999"), val("-0")
+    (0.0, 0.0, -0.0)
     """
     match = LEADING_NUMBER.match(text.replace(" ", ""))
-    return float(match.group().lower().replace("d", "e")) if match else 0.0
+    if not match:
+        return 0.0
+    value, digits = float(match.group()), float(match.group(1))
+    return value if math.isfinite(value) and (value or not digits) else 0.0
 
 
 def shortest(value):
@@ -70,7 +84,4 @@ def single(value):
     >>> single(0.1), single(0.5)
     (0.10000000149011612, 0.5)
     """
-    try:
-        return struct.unpack("f", struct.pack("f", value))[0]
-    except OverflowError:
-        return float("inf") if value > 0 else float("-inf")
+    return struct.unpack("f", struct.pack("f", value))[0]

@@ -1,14 +1,10 @@
 """The nutrition facts of a chosen food."""
 
-from conversions import shortest
+from conversions import shortest, to_display_integer
 from masks import percent, thousands, two_decimals
 from nutrients import NUTRIENTS
 
 HEADLINES = "TotalFat SatFat Cholesterol Sodium Carbs Fiber Protein".split()
-
-
-class NotShown(Exception):
-    """A share of a target of 0 keeps the panel from opening."""
 
 
 def amount(value):
@@ -23,7 +19,7 @@ def amount(value):
 
 def whole_caption(caption):
     """A caption read back as a whole number."""
-    return round(float(caption.replace(",", "")))
+    return to_display_integer(float(caption.replace(",", "")))
 
 
 def fat_calories(amounts):
@@ -39,10 +35,9 @@ def fat_calories(amounts):
 
 
 def shares(amounts, targets):
-    """The percentages of the daily value."""
-    if any(targets[name] == 0 for name in HEADLINES):
-        raise NotShown
-    return {name: percent(amounts[name] / targets[name]) for name in HEADLINES}
+    """The percentages of the daily value; without a target there is none."""
+    return {name: percent(amounts[name] / targets[name]) if targets[name] else "--"
+            for name in HEADLINES}
 
 
 def serving(text, quantity):

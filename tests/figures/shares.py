@@ -1,6 +1,6 @@
 """Where the calories came from: shares, angles and labels of the pie."""
 
-from conversions import to_display_integer
+from conversions import bounded, to_display_integer
 from masks import whole
 
 TURN = 6.28318530718
@@ -16,7 +16,7 @@ def daily_averages(sums, days):
     >>> daily_averages({"Calories": 1.0, "TotalFat": 3.0, "Protein": 0.0, "Carbs": 0.0}, 2)
     {'Calories': 0, 'TotalFat': 1.5, 'Protein': 0.0, 'Carbs': 0.0}
     """
-    averages = {name: sums[name] / days for name in ("TotalFat", "Protein", "Carbs")}
+    averages = {name: bounded(sums[name]) / days for name in ("TotalFat", "Protein", "Carbs")}
     energy = to_display_integer(to_display_integer(sums["Calories"]) / days)
     return {"Calories": energy, **averages}
 
@@ -72,11 +72,6 @@ def angle(percent):
     (6.28318530718, 1.570796326795)
     """
     return percent * TURN / 100
-
-
-def angle_of_month(percent):
-    """The same on the home screen, where the factor comes first; clockwise is positive."""
-    return -TURN / 100 * percent
 
 
 def labels(shares):

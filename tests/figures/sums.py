@@ -3,8 +3,8 @@
 A sum takes the rows day by day, and within a day in the order of entry.
 """
 
-from amounts import added
-from conversions import to_display_integer
+from amounts import store_sum
+from conversions import bounded, to_display_integer
 from nutrients import INTEGER_MEMBERS, NUTRIENTS
 
 
@@ -16,12 +16,12 @@ def in_period(log, first, last):
 
 def store_sums(entries):
     """The plain sum of each nutrient, or None where nothing was logged."""
-    return {name: added([entry["amounts"][name] for entry in entries]) for name in NUTRIENTS}
+    return {name: store_sum([entry["amounts"][name] for entry in entries]) for name in NUTRIENTS}
 
 
 def members(sums):
     """Sums as the record of nutrients holds them: eight are whole numbers."""
-    return {name: to_display_integer(total) if name in INTEGER_MEMBERS else total
+    return {name: to_display_integer(total) if name in INTEGER_MEMBERS else bounded(total)
             for name, total in sums.items()}
 
 
@@ -39,5 +39,5 @@ def average_weight(weights, first, last):
     150.5
     """
     chosen = [weight for day, weight in sorted(weights) if first <= day <= last and weight > 0]
-    total = added(chosen)
+    total = store_sum(chosen)
     return None if total is None else total / len(chosen)

@@ -3,18 +3,16 @@
 from amounts import added
 from nutrients import PERIOD_ROWS
 
-LAST_STOCK_FOOD = 23508
-
 
 def grams(entry):
-    """Grams of an entry; what is no stock food counts as 100 grams a serving."""
-    weight = entry["grams"] if entry["stock"] else 100.0
-    return (100.0 if weight is None else weight) * entry["quantity"]
+    """Grams of an entry; what is no food of the catalogue counts as 100 grams a serving."""
+    weight = 100.0 if entry["grams"] is None else entry["grams"]
+    return abs(weight * entry["quantity"])
 
 
 def known_amount(entry, name):
     """The logged amount, or None where the catalogue does not know the food's value."""
-    return None if name in entry["unknown"] else entry["amounts"][name]
+    return None if entry["values"][name] is None else entry["amounts"][name]
 
 
 def share(part, whole):
@@ -26,16 +24,16 @@ def share(part, whole):
 
 
 def coverage(entries, name):
-    """The percentage of the logged grams whose amount is known."""
+    """The part of the logged grams whose amount is known."""
     known = added([grams(e) for e in entries if known_amount(e, name) is not None])
-    return share(known or 0.0, added([grams(e) for e in entries])) or 0.0
+    return (known or 0.0) / added([grams(e) for e in entries])
 
 
 def cells(entries, targets, name):
     """Total, target, percent and coverage of one nutrient."""
     known = [known_amount(entry, name) for entry in entries]
     total = added([amount for amount in known if amount is not None])
-    return total, targets[name], share(total, targets[name]), coverage(entries, name)
+    return total, targets[name], share(total, targets[name]), coverage(entries, name) * 100
 
 
 def day_rows(log, targets):

@@ -15,7 +15,7 @@ TABLE_MEMBERS = """Ash Calcium Cholesterol Copper Folate Iron Magnesium Manganes
 Phosphorus Riboflavin Selenium Thiamin VitaminA VitaminB12 VitaminB6 VitaminC VitaminE
 Zinc""".split()
 ADULT_BANDS = [(9, 13), (14, 18), (19, 30), (31, 50), (51, 70), (71, 999)]
-MOTHER_BANDS = [(0, 18), (19, 30), (31, 999)]
+MOTHER_BANDS = [(19, 30), (31, 999)]
 
 
 class NoTargets(Exception):
@@ -77,7 +77,7 @@ def life_stage(person):
     """
     stage = common_stage(person.gender, person.age)
     for applies, name in ((person.lactating, "LACTATION"), (person.pregnant, "PREGNANCY")):
-        suffix = "_0_18" if person.age <= 18 else band(person.age, MOTHER_BANDS[1:])
+        suffix = "_0_18" if person.age <= 18 else band(person.age, MOTHER_BANDS)
         if applies and suffix:
             stage = name + suffix
     return stage

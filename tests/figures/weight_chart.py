@@ -110,6 +110,13 @@ def chosen(weights, first, last):
             if first <= day <= last and weight > 0]
 
 
+def places(days, label_width):
+    """How far right each day stands; the first is below the middle of its label."""
+    span = (days[-1] - days[0]).days
+    origin = to_integer(float(marks(span)[0][2]) + label_width / 2)
+    return [origin + (day - days[0]).days * twips_per_day(span) for day in days]
+
+
 def chart(weights, first, last, label_width):
     """Date labels, weight labels and points, or None without a weight."""
     points = chosen(weights, first, last)
@@ -120,9 +127,7 @@ def chart(weights, first, last, label_width):
     most = to_integer(max(weight for _, weight in points))
     labels = weight_labels(least, tick_of(most - least, days))
     scale = RISE / max(most - least, 1)
-    dates = date_labels(begin, days)
-    origin = to_integer(dates[0][2] + label_width / 2)
-    line = [(origin + (day - begin).days * twips_per_day(days),
-             height_of(weight, labels, most, scale), to_integer(weight))
-            for day, weight in points]
-    return dates, labels, line
+    left = places([day for day, _ in points], label_width)
+    line = [(x, height_of(weight, labels, most, scale), to_integer(weight))
+            for x, (_, weight) in zip(left, points)]
+    return date_labels(begin, days), labels, line
