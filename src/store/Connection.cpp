@@ -104,7 +104,7 @@ void Connection::OpenTogether(const QString& path, DatabaseKind kind, Connection
         attach.exec();
         RollbackJournal::SyncFully(main, "together");
     });
-    impl_ = std::make_unique<Impl>(path, other.Live().database);
+    impl_ = std::make_unique<Impl>(Impl{path, other.Live().database});
 }
 
 void Connection::Close() {
@@ -128,7 +128,8 @@ StatementCache& Connection::Statements() {
 }
 
 void Connection::Hold(const QString& path, DatabasePtr database) {
-    impl_ = std::make_unique<Impl>(path, std::make_shared<Database>(std::move(database), path));
+    impl_ =
+        std::make_unique<Impl>(Impl{path, std::make_shared<Database>(std::move(database), path)});
 }
 
 Connection::Impl& Connection::Live() const {
