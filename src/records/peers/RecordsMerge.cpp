@@ -7,6 +7,7 @@
 #include "recipes/RecipeBook.h"
 #include "records/peers/StoredFood.h"
 #include "runtime/Convert.h"
+#include "runtime/Round.h"
 #include "store/Connection.h"
 #include "store/Recordset.h"
 
@@ -207,7 +208,7 @@ void RecordsMerge::WriteFoods() const {
                    CursorType::Dynamic, LockType::Optimistic);
     for (const ImportedOwnFood& own : imported_.foods) {
         rows.AddNew();
-        rows.Set(QStringLiteral("ID"), ++key);
+        rows.Set(QStringLiteral("ID"), key = Round(key + 1.0));
         rows.Set(QStringLiteral("FoodName"), own.food.name);
         rows.Set(QStringLiteral("Serv_Desc_A"), own.food.serving);
         rows.Set(QStringLiteral("Serv_GM_WT_A"), CustomFoods::ServingGrams);

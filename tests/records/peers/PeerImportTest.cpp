@@ -8,6 +8,8 @@
 #include <QFile>
 #include <QRandomGenerator>
 
+#include <SQLiteCpp/Database.h>
+
 namespace {
 const QString Servings = "cronometer-servings.csv";
 
@@ -165,6 +167,14 @@ TEST_F(PeerImportTest, ATextThatIsTooLongForANameIsRefused) {
 TEST_F(PeerImportTest, AZipThatUnpacksToFarTooMuchIsRefused) {
     const QString zip = Write("a.zip", TestZip({{"a.csv", QByteArray(20 << 20, ',')}}));
     EXPECT_EQ(Failure(From("cronometer", {zip})), "a.csv unpacks to more than 250 times its size.");
+}
+
+TEST_F(PeerImportTest, WhereNoKeyIsLeftForAFoodNothingIsChanged) {
+    SQLite::Database(Records().Foods().toStdString(), SQLite::OPEN_READWRITE)
+        .exec("INSERT INTO FOODS (ID, FoodName) VALUES (2147483647, 'Last')");
+    EXPECT_NE(Failure(From("waistline", {"waistline_export.json"})), "");
+    EXPECT_EQ(Food("SELECT count(*) FROM FOODS WHERE ID > 23508 OR ID < 0"), 1);
+    EXPECT_EQ(User("SELECT count(*) FROM USER_FOODS"), 0);
 }
 
 TEST_F(PeerImportTest, AFileThatIsNotThereIsNamed) {
