@@ -2,12 +2,14 @@
 
 #include <QRegularExpression>
 
+#include <cmath>
+
 namespace {
 constexpr double HoursInDay = 24;
 constexpr double MinutesInHour = 60;
 
 std::optional<double> Positive(double minutes) {
-    return minutes > 0 ? std::optional(minutes) : std::nullopt;
+    return minutes > 0 && std::isfinite(minutes) ? std::optional(minutes) : std::nullopt;
 }
 
 std::optional<double> Iso(const QString& text) {

@@ -51,6 +51,11 @@ TEST(DurationTextTest, ReadsIsoFormsAndWords) {
         EXPECT_EQ(MinutesOf(QString::fromLatin1(one.text)).value_or(0), one.minutes) << one.text;
 }
 
+TEST(DurationTextTest, AWordForInfinityIsNoTime) {
+    for (const char* text : {"inf", "-inf", "nan", "1e400"})
+        EXPECT_FALSE(MinutesOf(QString::fromLatin1(text))) << text;
+}
+
 TEST(IngredientTextTest, TakesALineApart) {
     const IngredientText line = IngredientText::Of("1 1/2 cups brown lentils, rinsed well (dry)");
     EXPECT_EQ(line.quantity, 1.5);
