@@ -4,23 +4,19 @@
 #include "recipes/ui/frmImport.h"
 #include "recipes/ui/frmSend.h"
 #include "support/ScriptedServer.h"
+#include "support/ServedSoup.h"
 
 #include "runtime/Seams.h"
 #include "runtime/Server.h"
 #include "toolkit/ucButton.h"
 
 #include <QCheckBox>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QLineEdit>
 
 /// A server with prepared answers, the user's recipes, and the two dialogs. Both dialogs are tried
 /// with the same table of odd replies.
-class TransferTest : public RecipesTest {
+class TransferTest : public RecipesTest, protected ServedSoup {
 protected:
-    static constexpr qint32 Soup = 1218105222; ///< a recipe on the server
-
     void SetUp() override;
     void TearDown() override;
 
@@ -28,16 +24,8 @@ protected:
     void Type(const QString& field, const QString& text);
     void Press(const QString& button) { Click(Find(dialog.get(), button)); }
     void ExpectDead(const QString& button); ///< no input has any effect on the dialog
-    QString RecipePath(const QString& behind = QString()) const;
 
-    /// Prepares the answers for a recipe with two ingredients.
-    void TellSoup();
-    static QJsonObject SoupRecipe();
-    static QJsonArray SoupRows();
-    static QByteArray Json(const QJsonObject& object);
-    static QJsonArray Fields(); ///< names of the 36 columns of an ingredient, in order
-    static QByteArray Table(const QJsonArray& rows);
-
+    void TellSoup() { ServedSoup::TellSoup(*server); }
     QString AllRecipes(); ///< all rows of recipes and ingredients as one text
 
     struct Oddity {

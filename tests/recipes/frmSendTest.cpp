@@ -5,6 +5,7 @@
 #include "store/Connection.h"
 #include "toolkit/MousePointer.h"
 
+#include <QJsonDocument>
 #include <QTest>
 #include <QTimer>
 
