@@ -1,9 +1,13 @@
 #include "runtime/Settings.h"
 
+#include <QDateTime>
+#include <QFile>
+#include <QFileInfo>
 #include <QSettings>
 
 namespace {
 constexpr qsizetype LongestValue = 255;
+constexpr int LockIsSigned = 2; ///< seconds at most after it was made
 
 #ifdef Q_OS_WIN
 constexpr QSettings::Format StoreFormat = QSettings::NativeFormat;
@@ -18,6 +22,17 @@ public:
         : QSettings(StoreFormat, QSettings::UserScope, QStringLiteral("Brindlewick"),
                     QStringLiteral("HALVANE")) {
         setFallbacksEnabled(false);
+        RemoveUnsignedLock(fileName() + ".lock");
+    }
+
+private:
+    /// A process that was killed between making the lock and signing it leaves an empty file. The
+    /// library would wait half a minute for it.
+    static void RemoveUnsignedLock(const QString& path) {
+        const QFileInfo lock(path);
+        const QDateTime latest = QDateTime::currentDateTime().addSecs(-LockIsSigned);
+        if (lock.exists() && lock.size() == 0 && lock.lastModified() < latest)
+            QFile::remove(path);
     }
 };
 

@@ -1,6 +1,8 @@
 #include "runtime/Settings.h"
 
+#include <QDateTime>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
 #include <QSettings>
@@ -129,4 +131,26 @@ TEST_F(Settings, AFolderThatCannotBeMadeIgnoresWrites) {
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, file);
     SetRegValue("FAST", "True");
     EXPECT_EQ(Value("FAST"), "");
+}
+
+TEST_F(Settings, ALockThatAKilledProcessDidNotSignDelaysNobody) {
+    SetRegValue("FAST", "False");
+    QFile lock(FileName() + ".lock");
+    ASSERT_TRUE(lock.open(QIODevice::WriteOnly));
+    lock.setFileTime(QDateTime::currentDateTime().addSecs(-3), QFile::FileModificationTime);
+    lock.close();
+    QElapsedTimer clock;
+    clock.start();
+    SetRegValue("FAST", "True");
+    EXPECT_EQ(Value("FAST"), "True");
+    EXPECT_LT(clock.elapsed(), 20'000); // the library waits for 30 seconds
+}
+
+TEST_F(Settings, ALockThatWasJustMadeIsLeftToItsProcess) {
+    SetRegValue("FAST", "False");
+    QFile lock(FileName() + ".lock");
+    ASSERT_TRUE(lock.open(QIODevice::WriteOnly));
+    lock.close();
+    Value("FAST");
+    EXPECT_TRUE(lock.exists());
 }
