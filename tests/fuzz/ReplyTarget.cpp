@@ -31,6 +31,9 @@ void ExpectWhole(qint32 recipe) {
 HttpReply HttpClient::Get(const QString& address, qint64) const {
     return Reply(replies[address.endsWith(QLatin1String("/ingredients")) ? 1 : 0]);
 }
+HttpReply HttpClient::GetOnce(const QString&, qint64) const {
+    return {};
+}
 HttpReply HttpClient::PostJson(const QString&, const QByteArray&, const QByteArray&, qint64) const {
     return {};
 }

@@ -80,6 +80,16 @@ TEST_F(HttpClientTest, ABodyIsNotSentAgainIfTheReplyIsLost) {
     EXPECT_EQ(server.Requests().size(), 1);
 }
 
+TEST_F(HttpClientTest, AQuestionThatChangesSomethingIsNotAskedAgainIfTheReplyIsLost) {
+    for (const char* cut : {"", "HTTP/1.1 2", "HTTP/1.1 200 OK\r\n"}) {
+        server.Tell("GET /page", ScriptedServer::Raw(cut));
+        EXPECT_EQ(FailureOf([&] { http.GetOnce(server.Address() + "/page", Plenty); }),
+                  ErrorNumber::ServiceFailed)
+            << cut;
+    }
+    EXPECT_EQ(server.Requests().size(), 3);
+}
+
 TEST_F(HttpClientTest, AReplyOfTheGreatestLengthIsAcceptedAndOneByteMoreIsNot) {
     server.Tell("GET /page", 200, QByteArray(1000, 'x'));
     EXPECT_EQ(http.Get(server.Address() + "/page", 1000).body.size(), 1000);

@@ -104,5 +104,5 @@ QJsonObject ExchangeClient::Append(const QString& path, const QJsonObject& body,
 QString ExchangeClient::SendRecipe(qint32 RecipeID) {
     const QString address =
         Server::Address() + "/halvane/sendrecipe.asp?recID=" + QString::number(RecipeID);
-    return QString::fromUtf8(http_.Get(address, LongestSentence).body);
+    return QString::fromUtf8(http_.GetOnce(address, LongestSentence).body);
 }

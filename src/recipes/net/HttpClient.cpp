@@ -14,7 +14,8 @@
 namespace {
 
 /// The network layer repeats a request if the connection closes before a reply: a recipe would be
-/// appended twice. It cannot repeat a body that can be read only once.
+/// appended or mailed twice. It cannot repeat one whose body can be read only once, even an empty
+/// one.
 class OneWayBody : public QIODevice {
 public:
     explicit OneWayBody(const QByteArray& bytes)
@@ -53,15 +54,15 @@ int StatusOf(const QNetworkReply& reply) {
     return reply.attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
 }
 
-/// Without Content-Length we cannot detect truncation: the end of the connection ends the reply. The
-/// network layer treats a reset, and an end between two chunks, in the same way.
+/// Without Content-Length we cannot detect truncation: the end of the connection ends the reply.
+/// The network layer treats a reset, and an end between two chunks, in the same way.
 bool IsOfItsLength(const QNetworkReply& reply, qint64 length) {
     const QVariant told = reply.header(QNetworkRequest::ContentLengthHeader);
     return told.isNull() || told.toLongLong() == length;
 }
 
-/// The network layer turns a status of 400 or above into one of these errors. The reply is there all
-/// the same.
+/// The network layer turns a status of 400 or above into one of these errors. The reply is there
+/// all the same.
 bool HasCome(const QNetworkReply& reply) {
     const QNetworkReply::NetworkError error = reply.error();
     const bool refused = (error >= QNetworkReply::ContentAccessDenied &&
@@ -80,17 +81,26 @@ HttpReply HttpClient::Get(const QString& address, qint64 atMost) const {
     return Await(*network.get(RequestTo(address)), atMost);
 }
 
+HttpReply HttpClient::GetOnce(const QString& address, qint64 atMost) const {
+    return SendOnce("GET", RequestTo(address), {}, atMost);
+}
+
 HttpReply HttpClient::PostJson(const QString& address, const QByteArray& json,
                                const QByteArray& token, qint64 atMost) const {
-    OneWayBody body(json);
-    QNetworkAccessManager network;
     QNetworkRequest request = RequestTo(address);
     request.setHeader(QNetworkRequest::ContentTypeHeader, QStringLiteral("application/json"));
-    request.setHeader(QNetworkRequest::ContentLengthHeader, json.size());
-    request.setAttribute(QNetworkRequest::DoNotBufferUploadDataAttribute, true);
     if (!token.isEmpty())
         request.setRawHeader("Authorization", "Bearer " + token);
-    return Await(*network.post(request, &body), atMost);
+    return SendOnce("POST", request, json, atMost);
+}
+
+HttpReply HttpClient::SendOnce(const QByteArray& method, QNetworkRequest request,
+                               const QByteArray& bytes, qint64 atMost) const {
+    OneWayBody body(bytes);
+    QNetworkAccessManager network;
+    request.setHeader(QNetworkRequest::ContentLengthHeader, bytes.size());
+    request.setAttribute(QNetworkRequest::DoNotBufferUploadDataAttribute, true);
+    return Await(*network.sendCustomRequest(request, method, &body), atMost);
 }
 
 HttpReply HttpClient::Await(QNetworkReply& reply, qint64 atMost) const {

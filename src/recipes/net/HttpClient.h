@@ -6,6 +6,7 @@
 #include <chrono>
 
 class QNetworkReply;
+class QNetworkRequest;
 
 struct HttpReply {
     int status = 0;
@@ -25,12 +26,16 @@ public:
     std::chrono::milliseconds Limit() const { return limit_; }
     void SetLimit(std::chrono::milliseconds limit) { limit_ = limit; }
 
+    /// Sent again if the connection closes before the reply: for questions that change nothing.
     HttpReply Get(const QString& address, qint64 atMost) const;
-    /// Never sends a body twice, even if the connection closes before the reply.
+    /// The others are never sent twice. Without Content-Length, a reply to them may be lost.
+    HttpReply GetOnce(const QString& address, qint64 atMost) const;
     HttpReply PostJson(const QString& address, const QByteArray& json, const QByteArray& token,
                        qint64 atMost) const;
 
 private:
+    HttpReply SendOnce(const QByteArray& method, QNetworkRequest request, const QByteArray& bytes,
+                       qint64 atMost) const;
     HttpReply Await(QNetworkReply& reply, qint64 atMost) const;
 
     std::chrono::milliseconds limit_ = DefaultLimit;
