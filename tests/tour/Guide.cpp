@@ -1,5 +1,6 @@
 #include "tour/Guide.h"
 
+#include "network/Connections.h"
 #include "store/Connection.h"
 
 #include <QApplication>
@@ -18,6 +19,13 @@ Guide::Guide(const QString& pictures)
     taken_ = int(pictures_.entryList({QStringLiteral("*.png")}).size());
     qApp->installEventFilter(this);
     QApplication::setCursorFlashTime(0);
+    Connections::Watch([this](const std::string& to) {
+        Check(Connections::AreAskedFor(), "somebody asked for " + QString::fromStdString(to));
+    });
+}
+
+Guide::~Guide() {
+    Connections::Watch({});
 }
 
 void Guide::Foresee(const QString& window, std::function<void(QWidget*)> visit) {

@@ -12,10 +12,11 @@ class Connection;
 
 /// Leads through the real program with real input. It finds controls by name, answers modal windows
 /// in the order in which they are foreseen, takes pictures and checks what the databases hold. A
-/// failed check is printed and counted.
+/// failed check is printed and counted. A connection that nobody asked for fails, too.
 class Guide : public QObject {
 public:
     explicit Guide(const QString& pictures);
+    ~Guide() override;
 
     /// The next modal window must have that object name; `visit` works in it and must close it.
     void Foresee(const QString& window, std::function<void(QWidget*)> visit);
