@@ -1,8 +1,8 @@
 #include "store/FileHeader.h"
 
+#include "store/FileBytes.h"
 #include "store/StoreError.h"
 
-#include <QFile>
 #include <QFileInfo>
 #include <QtEndian>
 
@@ -35,10 +35,7 @@ FileHeader FileHeader::Of(const QString& path) {
         Refuse(path, "it is not there");
     if (!info.isFile())
         Refuse(path, "it is not a file");
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        Refuse(path, "reading it is not allowed");
-    return FileHeader(file.read(HeaderLength));
+    return FileHeader(FileBytes::Of(path, HeaderLength));
 }
 
 bool FileHeader::IsOfDatabase() const {

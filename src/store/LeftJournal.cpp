@@ -1,5 +1,6 @@
 #include "store/LeftJournal.h"
 
+#include "store/FileBytes.h"
 #include "store/FileHeader.h"
 #include "store/StoreError.h"
 
@@ -21,11 +22,6 @@ namespace {
 constexpr qint64 LongestCommit = 10'000;
 
 constexpr const char* Endings[] = {"-journal", "-wal"};
-
-QByteArray Contents(const QString& path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 bool CopyForTrial(const QString& from, const QString& to) {
     return QFile::copy(from, to) && QFile::setPermissions(to, QFile::ReadOwner | QFile::WriteOwner);
@@ -72,9 +68,10 @@ qint64 LowestPage(const QByteArray& log, qint64 pageSize) {
 /// matches. In another file that page differs.
 bool IsBeingTakenIn(const QString& path, const QString& result, const QString& journal) {
     const qint64 size = FileHeader::Of(path).PageSize();
-    const qint64 lowest = LowestPage(Contents(journal), size);
+    const qint64 lowest = LowestPage(FileBytes::Of(journal), size);
     const qint64 place = (lowest - 1) * size;
-    return lowest > 0 && Contents(path).mid(place, size) == Contents(result).mid(place, size);
+    return lowest > 0 &&
+           FileBytes::Of(path).mid(place, size) == FileBytes::Of(result).mid(place, size);
 }
 
 RuntimeError DoesNotFit(const QString& path, const QStringList& journals) {
@@ -124,7 +121,7 @@ void LeftJournal::Try() {
 }
 
 bool LeftJournal::ChangesTheFile() const {
-    return QFile::exists(Result()) && Contents(Result()) != Contents(path_);
+    return QFile::exists(Result()) && FileBytes::Of(Result()) != FileBytes::Of(path_);
 }
 
 bool LeftJournal::Fits(const char* ending) const {
