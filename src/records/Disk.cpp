@@ -61,6 +61,8 @@ void Disk::Copy(const QString& from, const QString& to) {
     std::filesystem::copy_file(PathOf(from), PathOf(to),
                                std::filesystem::copy_options::overwrite_existing, failure);
     Require(failure, to);
+    if (QFileInfo(from).size() != QFileInfo(to).size()) // the library misses a disk that gets full
+        Fail(to, QStringLiteral("the disk has taken a part of it only"));
 }
 
 void Disk::LinkOrCopy(const QString& from, const QString& to) {

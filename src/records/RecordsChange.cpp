@@ -41,16 +41,24 @@ void RecordsChange::Set(const QString& setting, const QString& value) {
         settings_[setting] = value;
 }
 
+/// From the commit on the change stands: what fails then must not look like a change that failed.
 void RecordsChange::Commit() {
     transaction_->Commit();
+    committed_ = true;
+    for (auto setting = settings_.begin(); setting != settings_.end(); ++setting)
+        SetRegValue(setting.key(), setting.value());
+    Attempt([&] {
+        NoteChange();
+        Snapshots(folder_).Prune();
+    });
+}
+
+/// Without the note the change cannot be taken back alone.
+void RecordsChange::NoteChange() {
     const RecordsState after = RecordsState::Of(folder_);
     committed_ = after != before_.source || !settings_.isEmpty();
     if (!committed_)
         return;
     before_.change = {after, settings_};
-    // Committed is committed: without the note, only `undo` is missing.
-    Attempt([this] { before_.WriteNote(); });
-    for (auto setting = settings_.begin(); setting != settings_.end(); ++setting)
-        SetRegValue(setting.key(), setting.value());
-    Snapshots(folder_).Prune();
+    before_.WriteNote();
 }

@@ -25,6 +25,7 @@ public:
 
 private:
     void Open();
+    void NoteChange();
 
     RecordsFolder folder_;
     RecordsLock lock_;

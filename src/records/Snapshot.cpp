@@ -2,6 +2,7 @@
 
 #include "records/Disk.h"
 #include "records/SoundRecords.h"
+#include "runtime/Attempt.h"
 #include "runtime/RuntimeError.h"
 
 #include <QFile>
@@ -11,6 +12,7 @@
 
 namespace {
 constexpr auto NoteName = "snapshot.json";
+constexpr auto MomentInName = "yyyyMMdd'T'HHmmsszzz'Z'";
 
 SnapshotKind KindOf(const QString& name) {
     for (const SnapshotKinds::Row& row : SnapshotKinds::Rows)
@@ -52,10 +54,20 @@ void ReadNote(Snapshot& snapshot, const QJsonObject& note) {
     snapshot.change = ChangeFrom(note[u"change"].toObject());
 }
 
+/// A power cut can take the note of a snapshot that was made without a sync, and damage its files.
+/// The name of its folder remains.
 void DescribeFiles(Snapshot& snapshot) {
-    snapshot.moment = QFileInfo(snapshot.Files().Users()).lastModified().toUTC();
-    snapshot.reason = QStringLiteral("copied by hand");
-    snapshot.counts = RecordsCounts::Of(snapshot.Files());
+    const QString name = QFileInfo(snapshot.path).fileName();
+    snapshot.moment = QDateTime::fromString(name.section(u'-', 0, 0), QLatin1String(MomentInName));
+    snapshot.moment.setTimeSpec(Qt::UTC);
+    if (snapshot.moment.isValid()) {
+        snapshot.kind = KindOf(name.section(u'-', -1));
+        snapshot.reason = QStringLiteral("its note is lost");
+    } else {
+        snapshot.moment = QFileInfo(snapshot.Files().Users()).lastModified().toUTC();
+        snapshot.reason = QStringLiteral("copied by hand");
+    }
+    Attempt([&] { snapshot.counts = RecordsCounts::Of(snapshot.Files()); });
 }
 
 bool HasBothFiles(const RecordsFolder& folder) {
@@ -106,6 +118,10 @@ qint64 Snapshot::Bytes() const {
 
 QString Snapshot::KindName() const {
     return QLatin1String(SnapshotKinds::Of(kind).name);
+}
+
+QString Snapshot::FolderName() const {
+    return moment.toString(QLatin1String(MomentInName)) + u'-' + KindName();
 }
 
 QString Snapshot::When() const {

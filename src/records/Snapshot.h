@@ -32,15 +32,16 @@ struct Snapshot {
     };
     std::optional<Change> change;
 
-    /// A folder that holds only the two files counts as made by hand.
+    /// A folder that holds only the two files counts as made by hand, unless it has a name of ours.
     static std::optional<Snapshot> Read(const QString& path);
     void WriteNote() const;
 
     RecordsFolder Files() const { return RecordsFolder(path); }
     qint64 Bytes() const; ///< of both files
     QString KindName() const;
-    QString When() const;  ///< "2026-11-22 05:10:33", local time
-    QString Title() const; ///< "the snapshot of 2026-11-22 05:10:33 (daily)", for a sentence
+    QString FolderName() const; ///< "20261122T051033123Z-daily"
+    QString When() const;       ///< "2026-11-22 05:10:33", local time
+    QString Title() const;      ///< "the snapshot of 2026-11-22 05:10:33 (daily)", for a sentence
     /// Since the system was started anew, bytes that were not synced may be lost.
     bool MayHaveLostBytes() const;
     /// Fails unless both files are whole and sound, and of a version that this program knows.

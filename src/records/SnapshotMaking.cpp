@@ -27,11 +27,6 @@ Snapshot::Settings AllSettings() {
     return settings;
 }
 
-QString NameOf(const Snapshot& snapshot) {
-    return snapshot.moment.toString(QStringLiteral("yyyyMMdd'T'HHmmsszzz'Z'-")) +
-           snapshot.KindName();
-}
-
 RuntimeError NoTurn(ProcessLock::Result result, const QString& place) {
     const QString text =
         result == ProcessLock::Result::NotPossible
@@ -93,7 +88,7 @@ Snapshot SnapshotMaking::Begin(SnapshotKind kind, const QString& reason) {
     snapshot.settings = AllSettings();
     if (!others_.isEmpty() && others_.first().moment >= snapshot.moment)
         snapshot.moment = others_.first().moment.addMSecs(1);
-    made_ = place_ + "/.making-" + NameOf(snapshot);
+    made_ = place_ + "/.making-" + snapshot.FolderName();
     snapshot.path = made_;
     Disk::MakeFolder(made_);
     return snapshot;
@@ -160,7 +155,7 @@ Snapshot SnapshotMaking::KeepDamaged(const QString& reason) {
 
 Snapshot SnapshotMaking::Publish(Snapshot snapshot, Care care) {
     Finish(snapshot, care);
-    const QString name = place_ + u'/' + NameOf(snapshot);
+    const QString name = place_ + u'/' + snapshot.FolderName();
     Disk::Move(snapshot.path, name);
     if (care != Care::Quick)
         Disk::Sync(place_);

@@ -197,6 +197,23 @@ TEST_F(SnapshotsTest, ANoteThatIsDamagedIsNoSnapshot) {
     EXPECT_TRUE(All().All().isEmpty());
 }
 
+TEST_F(SnapshotsTest, WithoutItsNoteASnapshotOfOursHasTheKindAndTheMomentOfItsName) {
+    const Snapshot made = Make(SnapshotKind::Change);
+    Disk::Remove(made.path + "/snapshot.json");
+    ASSERT_EQ(All().All().size(), 1);
+    EXPECT_EQ(All().All().first().kind, SnapshotKind::Change);
+    EXPECT_EQ(All().All().first().moment, made.moment);
+}
+
+TEST_F(SnapshotsTest, DamagedFilesWithoutANoteDoNotHinderOtherSnapshots) {
+    const Snapshot made = Make(SnapshotKind::Change);
+    Disk::Remove(made.path + "/snapshot.json");
+    Disk::Remove(made.path + "/users.mdb");
+    Disk::Write(made.path + "/users.mdb", QByteArray());
+    EXPECT_NO_THROW(Make());
+    EXPECT_EQ(All().All().size(), 2);
+}
+
 TEST_F(SnapshotsTest, BeforeFilesOfAnOlderVersionAreUpdatedTheyAreKept) {
     Change(Records().Users(), "PRAGMA user_version = 1");
     { const RecordsChange change(Records()); }
