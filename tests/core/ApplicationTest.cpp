@@ -10,34 +10,10 @@
 
 #include <new>
 
-namespace {
-
-/// Fails on demand, as a handler of a screen might.
-class Failing : public QObject {
-public:
-    explicit Failing(std::function<void()> fail)
-        : fail_(std::move(fail)) {}
-    bool event(QEvent*) override {
-        fail_();
-        return true;
-    }
-
-private:
-    std::function<void()> fail_;
-};
-
-void Raise(const std::function<void()>& fail) {
-    Failing receiver(fail);
-    QEvent event(QEvent::User);
-    QCoreApplication::sendEvent(&receiver, &event);
-}
-
-} // namespace
-
 class ApplicationTest : public CoreTest {
 protected:
     QString MessageOfFailure(const std::function<void()>& fail) {
-        return MessageOf([&] { Raise(fail); });
+        return MessageOf([&] { InEvent(fail); });
     }
 };
 
@@ -76,11 +52,11 @@ TEST_F(ApplicationTest, AFailureWhileTheMessageStandsStaysUnsaid) {
     WithModal(
         [&](QWidget* box) {
             ++messages;
-            Raise([] { throw RuntimeError(94, QStringLiteral("Invalid use of Null")); });
+            InEvent([] { throw RuntimeError(94, QStringLiteral("Invalid use of Null")); });
             EXPECT_EQ(QApplication::activeModalWidget(), box);
             box->close();
         },
-        [] { Raise([] { throw RuntimeError(6, QStringLiteral("Overflow")); }); });
+        [] { InEvent([] { throw RuntimeError(6, QStringLiteral("Overflow")); }); });
     testing::internal::GetCapturedStderr();
     EXPECT_EQ(messages, 1);
     EXPECT_EQ(endings, QList<int>{1});
@@ -91,7 +67,7 @@ TEST_F(ApplicationTest, TheBusyPointerDoesNotStayOverTheMessage) {
     bool busy = true;
     testing::internal::CaptureStderr();
     WithModal([&](QWidget*) { busy = MousePointer::IsBusy(); },
-              [] { Raise([] { throw RuntimeError(6, QStringLiteral("Overflow")); }); });
+              [] { InEvent([] { throw RuntimeError(6, QStringLiteral("Overflow")); }); });
     testing::internal::GetCapturedStderr();
     EXPECT_FALSE(busy);
 }
@@ -110,7 +86,7 @@ TEST_F(ApplicationTest, WhatWasCommittedBeforeAFailureStays) {
 
 TEST_F(ApplicationTest, EventsThatDoNotFailPassThrough) {
     bool met = false;
-    Raise([&] { met = true; });
+    InEvent([&] { met = true; });
     EXPECT_TRUE(met);
     EXPECT_TRUE(endings.isEmpty());
 }

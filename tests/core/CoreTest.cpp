@@ -151,6 +151,40 @@ QString CoreTest::MessageOf(const std::function<void()>& step) {
     return text;
 }
 
+QString CoreTest::EndingDuring(const std::function<void()>& work) {
+    QString text;
+    QTimer watch;
+    QObject::connect(&watch, &QTimer::timeout, [&] {
+        if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+            text = box->text();
+            box->accept();
+        }
+    });
+    watch.start(0);
+    testing::internal::CaptureStderr();
+    work();
+    stderrText = QString::fromStdString(testing::internal::GetCapturedStderr());
+    return text;
+}
+
+void CoreTest::InEvent(const std::function<void()>& work) {
+    class Receiver : public QObject {
+    public:
+        explicit Receiver(const std::function<void()>& work)
+            : work_(work) {}
+        bool event(QEvent*) override {
+            work_();
+            return true;
+        }
+
+    private:
+        const std::function<void()>& work_;
+    };
+    Receiver receiver(work);
+    QEvent event(QEvent::User);
+    QCoreApplication::sendEvent(&receiver, &event);
+}
+
 void CoreTest::ChooseFromMenu(int index) {
     const MenuItems::Title& title = MenuItems::Titles()[MenuItems::All()[index].menu];
     QWidget* frame = TheNavigation().Frame();

@@ -47,6 +47,11 @@ protected:
     /// Runs a step that fails, accepts the message that ends the program, and returns its text.
     QString MessageOf(const std::function<void()>& step);
 
+    /// The message with which the program ended during some work; empty if there was none.
+    QString EndingDuring(const std::function<void()>& work);
+    /// Runs it in the handler of an event, as a screen does.
+    static void InEvent(const std::function<void()>& work);
+
     static void ChooseFromMenu(int index); ///< the item of the frame's menu bar
 
     QWidget* Window(const QString& name);  ///< the open top-level window of that name, or null
@@ -55,5 +60,5 @@ protected:
 
     QStringList modals; ///< names of the modal windows during RunMain
     QHash<QString, std::function<void(QWidget*)>> answers;
-    QString stderrText; ///< what RunMain or MessageOf wrote to standard error
+    QString stderrText; ///< what RunMain, MessageOf or EndingDuring wrote to standard error
 };
