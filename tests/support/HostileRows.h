@@ -28,8 +28,10 @@ public:
     QList<Row> With(const char* value) const;
     /// Every column holds one or another value, or what the store puts there.
     Row Random(QRandomGenerator& random) const;
+    /// The same with values that nobody has listed, and sometimes with a key beyond every bound.
+    Row Wild(QRandomGenerator& random) const;
 
-    void Insert(const Row& row) const;
+    void Insert(const Row& row) const; ///< one with a key that is taken replaces that row
     void Insert(const QList<Row>& rows) const;
 
 private:
@@ -37,4 +39,5 @@ private:
     QByteArray table_;
     Row sound_;
     QByteArrayList columns_; ///< but for the key and those of the sound row
+    QByteArray key_;         ///< empty if the table has none
 };
