@@ -52,8 +52,18 @@ bool SyncNow(const QString& path) {
 
 void Disk::MakeFolder(const QString& path) {
     std::error_code failure;
-    std::filesystem::create_directories(PathOf(path), failure);
+    std::filesystem::create_directory(PathOf(path), failure);
     Require(failure, path);
+}
+
+/// Where a folder cannot be synced, what is in it is still of use.
+void Disk::MakeFolders(const QString& path) {
+    const QFileInfo folder(path);
+    if (folder.isDir())
+        return;
+    MakeFolders(folder.path());
+    MakeFolder(path);
+    SyncNow(folder.path());
 }
 
 void Disk::Copy(const QString& from, const QString& to) {

@@ -5,7 +5,8 @@
 /// Steps on whole files. Each failure is a RuntimeError with ErrorNumber::FileAccess that names the
 /// path and the reason.
 namespace Disk {
-void MakeFolder(const QString& path); ///< with those above it
+void MakeFolder(const QString& path);  ///< in one that is there
+void MakeFolders(const QString& path); ///< with those above it; they survive a power cut
 void Copy(const QString& from, const QString& to);
 /// Both names lead to one file; where the disk does not allow that, `to` is a copy.
 void LinkOrCopy(const QString& from, const QString& to);

@@ -48,7 +48,7 @@ SnapshotMaking::SnapshotMaking(const RecordsFolder& records, const QString& plac
     : records_(records)
     , place_(place)
     , turn_(place + "/snapshots.lock") {
-    Disk::MakeFolder(place);
+    Disk::MakeFolders(place);
     WaitForTurn();
     Sweep();
     others_ = Snapshots::In(place_);

@@ -1,7 +1,7 @@
 #include "disk/DiskWatch.h"
 #include "disk/DiskAtCut.h"
 #include "records/Disk.h"
-#include "records/Snapshot.h"
+#include "records/Snapshots.h"
 #include "store/Connection.h"
 #include "store/FileHeader.h"
 #include "store/Schema.h"
@@ -160,6 +160,11 @@ TEST_F(DiskWatchTest, ANameIsSafeOnceItsFolderIsSynced) {
         EXPECT_EQ(files.keys(), QStringList{"new"});
 }
 
+TEST_F(DiskWatchTest, FoldersThatAreMadeSurviveAPowerCut) {
+    for (const auto& files : AfterCuts(TraceOf([&] { Disk::MakeFolders(Place("a/b/c")); })))
+        EXPECT_EQ(files.keys(), (QStringList{"a", "a/b", "a/b/c"}));
+}
+
 TEST_F(DiskWatchTest, WithoutASyncOfTheFolderAJournalComesBackAndUndoesARow) {
     EXPECT_GT(Lost(TraceOfRows("OFF")), 0);
     EXPECT_GT(Lost(TraceOfRows("FULL")), 0);
@@ -192,6 +197,6 @@ TEST_F(DiskWatchTest, ASnapshotWhoseFilesCannotBeRemovedIsNotListed) {
     snapshot.path = Place("20261122T051033123Z-manual");
     DiskWatch watch(Place());
     watch.Plan({FaultKind::Denied, 2, true}); // the first call gives it a hidden name
-    EXPECT_EQ(FailureOf([&] { snapshot.Remove(); }), 0);
+    EXPECT_EQ(FailureOf([&] { Snapshots::Remove(snapshot); }), 0);
     EXPECT_FALSE(QFile::exists(snapshot.path));
 }
