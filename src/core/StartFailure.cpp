@@ -56,8 +56,9 @@ QString Rescue(const RuntimeError* error) {
     const auto sound = snapshots.NewestSound();
     if (!sound)
         return {};
-    return QStringLiteral("The newest sound snapshot is of %1: %2.\n\nTo bring it back, run "
-                          "this command: halvane-data restore %3")
+    return QStringLiteral(
+               "The newest sound snapshot is of %1: %2.\n\nThis command brings it back:\n\n"
+               "halvane-data restore %3")
         .arg(sound->When(), sound->counts.Text(), QString::number(snapshots.NumberOf(*sound)));
 }
 

@@ -146,7 +146,7 @@ protected:
         process.start("/bin/bash", QStringList{"-c", line + "; exec \"$0\" \"$@\"",
                                                Places::Build("/src/halvane-data")} +
                                        arguments);
-        EXPECT_TRUE(process.waitForFinished(60000));
+        EXPECT_TRUE(process.waitForFinished(-1));
         error = process.readAllStandardError();
         return process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
     }
@@ -156,7 +156,7 @@ protected:
         timer.start();
         QProcess process;
         Start(process, folder, import);
-        EXPECT_TRUE(process.waitForFinished(60000));
+        EXPECT_TRUE(process.waitForFinished(-1));
         EXPECT_EQ(process.exitCode(), 0) << process.readAllStandardError().constData();
         return int(timer.elapsed());
     }
