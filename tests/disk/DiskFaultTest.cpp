@@ -1,6 +1,5 @@
 #include "disk/DiskTest.h"
 #include "disk/DiskWatch.h"
-#include "records/Snapshots.h"
 #include "runtime/RuntimeError.h"
 
 #include <QSet>
@@ -54,8 +53,6 @@ protected:
                            << (fault.lasts ? " and after it" : "") << ": state " << state << ", \""
                            << end.message.toStdString() << "\"\n"
                            << found.left(300).constData();
-        EXPECT_TRUE(fault.kind == FaultKind::InputOutput || !HasDamagedSnapshot())
-            << Info(fault.kind).name << " at call " << fault.at;
         EXPECT_TRUE(end.message.isEmpty() || end.message.contains(Folder()) ||
                     end.message == NoChange)
             << end.message.toStdString();
@@ -64,11 +61,6 @@ protected:
             ++doubtful_;
             messages_.insert(QString::fromLatin1(Info(fault.kind).name) + ' ' + end.message);
         }
-    }
-
-    /// Only a disk that cannot read is taken for a damaged file.
-    bool HasDamagedSnapshot() const {
-        return std::ranges::any_of(Snapshots(Ground().records).All(), &Snapshot::damaged);
     }
 
     void FailEach(FaultKind kind, bool lasts) {
