@@ -112,5 +112,5 @@ void Snapshots::Remove(const Snapshot& snapshot) {
 
 void Snapshots::Prune() const {
     for (const Snapshot& snapshot : OutOfDate(All()))
-        Remove(snapshot);
+        Attempt([&] { Remove(snapshot); });
 }

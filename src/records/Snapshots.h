@@ -23,7 +23,8 @@ public:
 
     /// A kill meanwhile leaves none that is half there.
     static void Remove(const Snapshot& snapshot);
-    void Prune() const; ///< removes those that are not kept any longer
+    /// Removes those that are not kept any longer. One that cannot be removed stays.
+    void Prune() const;
 
 private:
     QString place_;
