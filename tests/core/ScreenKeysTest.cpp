@@ -78,6 +78,32 @@ TEST_F(ScreenKeysTest, TheKeyOfTheScreenInFrontKeepsWhatIsBeingTyped) {
     EXPECT_EQ(Find<QLineEdit>(TheNavigation().Front(), "txtUserName")->text(), "Half typed");
 }
 
+TEST_F(ScreenKeysTest, AFoodOfTodayIsLoggedWithAShortcutItsWordsAndEnterTwice) {
+    OpenWithPerson();
+    App().CurrentDate = today_.addDays(-9);
+    Control(Qt::Key_4);
+    WithModal(
+        [this](QWidget* dialog) {
+            Activate(dialog);
+            EXPECT_TRUE(QTest::qWaitFor([dialog] {
+                const QWidget* focus = QApplication::focusWidget();
+                return focus && dialog->isAncestorOf(focus);
+            }));
+            QTest::keyClicks(QApplication::focusWidget(), "oats");
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+            EXPECT_EQ(QApplication::focusWidget()->accessibleName(), "Quantity of Oats, 1 cup");
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+            EXPECT_EQ(Users("SELECT count(*) FROM USER_FOODS"), 1);
+        },
+        [] { Control(Qt::Key_F); });
+    EXPECT_EQ(Front(), "frmDay");
+    EXPECT_EQ(App().CurrentDate, today_);
+    EXPECT_EQ(Users("SELECT UDate || ' ' || FoodName || ' ' || QTY || ' ' || Calories FROM "
+                    "USER_FOODS")
+                  .toString(),
+              "2026-11-21 Oats 1.0 250.0");
+}
+
 TEST_F(ScreenKeysTest, AWeightBeingTypedBelongsToItsDayWhenTheSearchOfTodayOpens) {
     OpenWithPerson();
     App().CurrentDate = today_.addDays(-9);

@@ -27,6 +27,7 @@ void KeyWalk::Go() {
     MoveAFood();
     ChangeAQuantity();
     BringADayBack();
+    LogWithKeys();
     LookAtTips();
 }
 
@@ -160,6 +161,36 @@ void KeyWalk::BringADayBack() {
     Undo(QStringLiteral("Brought back: 10 foods."));
     guide_.Picture(Frame(), QStringLiteral("day-brought-back"));
     guide_.CheckValue(UserDB(), Logged, 10);
+}
+
+/// From another screen: the shortcut, the words, Enter and Enter.
+void KeyWalk::LogWithKeys() {
+    Press(Qt::Key_4, Qt::ControlModifier);
+    guide_.Window(QStringLiteral("frmFoodList"));
+    keys_ = 0;
+    guide_.Foresee(QStringLiteral("frmFoodSearch"),
+                   [this](QWidget* search) { SearchWithKeys(search); });
+    Press(Qt::Key_F, Qt::ControlModifier);
+    guide_.TakeInput(Frame());
+    guide_.CheckValue(UserDB(), Logged, 11);
+    Undo(QStringLiteral("Removed again: Apples, raw, with skin."));
+    guide_.CheckValue(UserDB(), Logged, 10);
+}
+
+void KeyWalk::SearchWithKeys(QWidget* search) {
+    guide_.TakeInput(search);
+    guide_.Settle();
+    QTest::keyClick(Focus(), Qt::Key_Delete);
+    QTest::keyClick(Focus(), Qt::Key_Down);
+    guide_.PictureWithPopups(search, QStringLiteral("search-habits"));
+    QTest::keyClick(Focus(), Qt::Key_Escape);
+    const QString words = QStringLiteral("apples raw with skin");
+    QTest::keyClicks(Focus(), words);
+    Press(Qt::Key_Return);
+    guide_.Picture(search, QStringLiteral("search-by-key"));
+    Press(Qt::Key_Return);
+    guide_.Check(keys_ == 3, QStringLiteral("a shortcut, words, Enter and Enter log a food"));
+    Press(Qt::Key_Escape);
 }
 
 void KeyWalk::LookAtTips() {

@@ -28,6 +28,8 @@ private:
     void MoveAFood();
     void ChangeAQuantity();
     void BringADayBack();
+    void LogWithKeys();
+    void SearchWithKeys(QWidget* search);
     void LookAtTips();
 
     Guide& guide_;
