@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <span>
 
 namespace {
 
@@ -48,16 +49,22 @@ WeightCurve Axes::Curve(Entries entries) const {
     return curve;
 }
 
-/// For each entry the mean of those of the seven days that end with it.
+double MeanOf(std::span<const WeightLog::Entry> entries) {
+    double sum = 0;
+    for (const WeightLog::Entry& entry : entries)
+        sum += entry.weight;
+    return sum / double(entries.size());
+}
+
+/// For each entry the mean of those of the seven days that end with it. Each is summed anew: a
+/// running sum would keep rounding errors of weights that it does not hold any more.
 Entries Means(const Entries& entries) {
     Entries means;
-    double sum = 0;
     size_t first = 0;
     for (size_t i = 0; i < entries.size(); ++i) {
-        sum += entries[i].weight;
-        for (; Dates::DaysBetween(entries[first].day, entries[i].day) >= DaysOfMean; ++first)
-            sum -= entries[first].weight;
-        means.push_back({sum / double(i - first + 1), entries[i].day});
+        while (Dates::DaysBetween(entries[first].day, entries[i].day) >= DaysOfMean)
+            ++first;
+        means.push_back({MeanOf(std::span(entries).subspan(first, i - first + 1)), entries[i].day});
     }
     return means;
 }

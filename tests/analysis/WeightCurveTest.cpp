@@ -71,6 +71,13 @@ TEST(WeightCurveTest, TheMeanOfADayIsThatOfTheSevenDaysUpToIt) {
         EXPECT_EQ(curve.mean[i].x, curve.points[i].x);
 }
 
+TEST(WeightCurveTest, AMeanKeepsNothingOfWeightsBeforeItsSevenDays) {
+    const WeightCurve curve = WeightCurve::WithMean(
+        {{150.8, First}, {150.9, First.addDays(7)}, {156.5, First.addDays(9)}});
+    EXPECT_EQ(curve.weights[4], 153);
+    EXPECT_EQ(curve.mean[2].y, 2858); // of 153.7: 3330 - 675 * .7 = 2857.5
+}
+
 TEST(WeightCurveTest, OnAPageEveryWeightStandsBetweenTheLabels) {
     for (const double range : {0.0, 0.3, 1.0, 3.9, 7.0, 10.0, 24.5, 300.0})
         for (const double least : {149.6, 150.0, 150.4}) {
