@@ -47,10 +47,14 @@ bool ContextMenu::OpenByKey() {
     return QApplication::sendEvent(focus, &own);
 }
 
+/// An item may open a window with an event loop of its own, and that deletes what waits for it
+/// although the menu still runs the item. So a menu stays until the next one opens.
 bool ContextMenu::Open(QWidget* target, QPoint globalPlace) {
+    if (menu_)
+        menu_->deleteLater();
     auto* menu = new QMenu(owner_);
+    menu_ = menu;
     menu->setObjectName(QStringLiteral("contextMenu"));
-    connect(menu, &QMenu::aboutToHide, menu, &QObject::deleteLater);
     fill_(*menu, target);
     if (menu->isEmpty())
         delete menu;

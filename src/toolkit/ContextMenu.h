@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <QPointer>
 
 #include <functional>
 
@@ -28,4 +29,5 @@ private:
 
     QWidget* owner_;
     Fill fill_;
+    QPointer<QMenu> menu_; ///< the last one
 };

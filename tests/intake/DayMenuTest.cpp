@@ -15,6 +15,7 @@
 #include <QContextMenuEvent>
 #include <QLineEdit>
 #include <QMenu>
+#include <QPointer>
 #include <QTest>
 
 /// The day screen, worked with keys alone.
@@ -410,4 +411,17 @@ TEST_F(DayMenuTest, AnEntryWithoutAQuantityCannotBeScaled) {
     Key(Qt::Key_Return);
     Key(Qt::Key_Escape);
     EXPECT_EQ(LogCount("QTY = 0 AND Calories = 250"), 1);
+}
+
+TEST_F(DayMenuTest, TheMenuLivesAsLongAsTheWindowThatItHasOpened) {
+    Open();
+    const QPointer<QMenu> menu = OpenMenu("lblLunch");
+    ASSERT_FALSE(menu.isNull());
+    WithModal(
+        [&menu](QWidget*) {
+            QCoreApplication::processEvents();
+            EXPECT_FALSE(menu.isNull());
+        },
+        [] { Key(Qt::Key_A); });
+    EXPECT_FALSE(menu.isNull());
 }
