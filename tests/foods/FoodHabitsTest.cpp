@@ -11,6 +11,7 @@
 #include <QApplication>
 #include <QLineEdit>
 #include <QMenu>
+#include <QPointer>
 #include <QTest>
 
 #include <SQLiteCpp/SQLiteCpp.h>
@@ -91,6 +92,22 @@ TEST_F(FoodHabitsTest, TheDownKeyInAnEmptyFieldListsThemAndEnterSearchesForOne) 
     Key(field, Qt::Key_Return);
     EXPECT_EQ(field->text(), "Ben s bread & butter");
     EXPECT_EQ(NamesShown(panel), QStringList{"Ben's bread & butter"});
+}
+
+TEST_F(FoodHabitsTest, TheListStaysUntilItIsOpenedAgain) {
+    Log("Oats", "Breakfast");
+    ucSearchResults panel;
+    panel.show();
+    panel.SetMeal(Breakfast);
+    auto* field = Find<QLineEdit>(&panel, "txtSearchString");
+    Key(field, Qt::Key_Down);
+    const QPointer<QWidget> list = QApplication::activePopupWidget();
+    Key(field, Qt::Key_Escape);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_FALSE(list.isNull());
+    Key(field, Qt::Key_Down);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_TRUE(list.isNull());
 }
 
 TEST_F(FoodHabitsTest, TheListIsThatOfTheTickedMeal) {

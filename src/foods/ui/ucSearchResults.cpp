@@ -226,10 +226,12 @@ void ucSearchResults::OfferHabits() {
     const FoodHabits::Names names = FoodHabits::OfMeal(meal, MostHabits);
     if (names.last.isEmpty())
         return;
+    if (habits_) // not when it closes: an item may open a message while the menu still runs it
+        habits_->deleteLater();
     auto* menu = new QMenu(txtSearchString_);
+    habits_ = menu;
     menu->setObjectName(QStringLiteral("habits"));
     menu->setAccessibleName("Foods logged before for " + Meals::NameOf(meal));
-    connect(menu, &QMenu::aboutToHide, menu, &QObject::deleteLater);
     AddHabits(*menu, "Logged last", names.last);
     AddHabits(*menu, "Logged most often", names.most);
     menu->popup(txtSearchString_->mapToGlobal(txtSearchString_->rect().bottomLeft()));

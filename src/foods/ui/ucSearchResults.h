@@ -4,6 +4,8 @@
 #include "foods/ScaledFood.h"
 #include "toolkit/DrawnControl.h"
 
+#include <QPointer>
+
 class QCheckBox;
 class QMenu;
 class ResultRows;
@@ -64,6 +66,7 @@ private:
     void Refuse(const QString& message);
 
     TermField* txtSearchString_ = nullptr;
+    QPointer<QMenu> habits_; ///< the last one
     ucButton* cmdGo_ = nullptr;
     ucRadio* opMeal_[4] = {};
     QCheckBox* ckStock_ = nullptr;
