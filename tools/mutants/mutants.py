@@ -73,15 +73,19 @@ class Tree:
     def find(self):
         from places import Places  # needs libclang, a run does not
         found, number = {}, 0
-        for entry in json.loads((self.build / 'compile_commands.json').read_text()):
-            place = Path(entry['file']).relative_to(self.source)
-            if place.parts[0] != 'src' or len(place.parts) != 3 or place.parts[1] not in PROGRAMS:
-                continue
-            wanted = [a for a in shlex.split(entry['command']) if a[:2] in ('-D', '-I', '-s')]
+        for entry in self.entries():
+            wanted = [word for word in shlex.split(entry['command']) if word[:2] in ('-D', '-I', '-s')]
             mutants = Places(entry['file'], [*self.with_system(entry['command']), *wanted]).find()
-            found[str(place)] = list(enumerate(mutants, number))
+            found[str(Path(entry['file']).relative_to(self.source))] = list(enumerate(mutants, number))
             number += len(mutants)
         return found
+
+    def entries(self):
+        """How the sources that are changed are compiled."""
+        for entry in json.loads((self.build / 'compile_commands.json').read_text()):
+            parts = Path(entry['file']).relative_to(self.source).parts
+            if parts[0] == 'src' and len(parts) == 3 and parts[1] in PROGRAMS:
+                yield entry
 
     @staticmethod
     def with_system(command):
@@ -95,20 +99,23 @@ class Tree:
             (self.source / file).write_bytes(head + rewritten((ROOT / file).read_bytes(), mutants))
 
     def drop_what_fails(self, found):
-        """Takes out the mutants of lines that the compiler refuses, until it takes all."""
-        libraries = ['halvane_' + folder for folder in PROGRAMS]
-        command = ['cmake', '--build', str(self.build), '--target', *libraries, '--', '-k', '0']
-        for attempt in range(12):
-            built = self.run(command, capture_output=True, text=True)
-            if built.returncode == 0:
-                return
-            wrong = set(re.findall(r'(src/\w+/\w+\.cpp):(\d+):', built.stdout))
-            print(f'{len(wrong)} lines are refused', flush=True)
-            for file, mutants in found.items():
-                lines = {int(line) for name, line in wrong if name == file}
-                found[file] = [one for one in mutants if lines.isdisjoint(self.lines_of(one[1]))]
-            self.rewrite(found)
-        sys.exit(built.stdout[-3000:])
+        """Takes out the mutants of lines that the compiler refuses, file by file, until it takes the file."""
+        for entry in self.entries():
+            file = str(Path(entry['file']).relative_to(self.source))
+            while wrong := self.refused(entry, file):
+                found[file] = [one for one in found[file] if wrong.isdisjoint(self.lines_of(one[1]))]
+                self.rewrite({file: found[file]})
+
+    @staticmethod
+    def refused(entry, file):
+        """The lines of the file that the compiler names in its errors."""
+        words = [word for word in shlex.split(entry['command']) if not word.endswith('ccache')]
+        command = [*words[:words.index('-o')], *words[words.index('-o') + 2:], '-fsyntax-only']
+        tried = subprocess.run(command, cwd=entry['directory'], capture_output=True, text=True)
+        lines = set(map(int, re.findall(re.escape(file) + r':(\d+):', tried.stderr)))
+        if tried.returncode != 0 and not lines:
+            sys.exit(tried.stderr)
+        return lines if tried.returncode != 0 else set()
 
     @staticmethod
     def lines_of(mutant):
