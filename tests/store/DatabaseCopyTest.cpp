@@ -1,0 +1,59 @@
+#include "store/DatabaseCopy.h"
+
+#include "StoreTest.h"
+
+#include <QFile>
+
+#include <SQLiteCpp/SQLiteCpp.h>
+
+class DatabaseCopyTest : public StoreTest {
+protected:
+    static QString NameIn(const QString& path) {
+        SQLite::Database copy(path.toStdString(), SQLite::OPEN_READONLY);
+        return QString::fromStdString(copy.execAndGet("SELECT FoodName FROM FOODS").getString());
+    }
+    /// The message; empty where the copy was made.
+    static QString Failure(const QString& from, const QString& to) {
+        try {
+            DatabaseCopy::Make(from, to);
+        } catch (const RuntimeError& failure) {
+            EXPECT_LT(failure.Number(), 0);
+            return failure.Description();
+        }
+        return {};
+    }
+};
+
+TEST_F(DatabaseCopyTest, HoldsTheLastCommitWhileTheFileIsOpen) {
+    AddFood(30001, "Rye");
+    for (const auto sync : {DatabaseCopy::Sync::Fully, DatabaseCopy::Sync::No}) {
+        const QString copy = File(QStringLiteral("copy%1.mdb").arg(int(sync)));
+        DatabaseCopy::Make(FoodsFile(), copy, sync);
+        EXPECT_EQ(NameIn(copy), "Rye");
+    }
+}
+
+TEST_F(DatabaseCopyTest, ReplacesAFileThatIsThere) {
+    AddFood(30001, "Rye");
+    DatabaseCopy::Make(FoodsFile(), File("copy.mdb"));
+    Run(foods_, "UPDATE FOODS SET FoodName = 'Oats'");
+    DatabaseCopy::Make(FoodsFile(), File("copy.mdb"));
+    EXPECT_EQ(NameIn(File("copy.mdb")), "Oats");
+}
+
+TEST_F(DatabaseCopyTest, AFileThatIsNotThereIsNamed) {
+    EXPECT_TRUE(Failure(File("none.mdb"), File("copy.mdb")).contains("none.mdb"));
+    EXPECT_FALSE(QFile::exists(File("none.mdb")));
+}
+
+TEST_F(DatabaseCopyTest, APlaceThatCannotBeWrittenIsNamed) {
+    EXPECT_TRUE(Failure(FoodsFile(), File("none/copy.mdb")).contains("copy.mdb"));
+}
+
+TEST_F(DatabaseCopyTest, AFileThatIsNoDatabaseIsRefused) {
+    QFile text(File("text.mdb"));
+    ASSERT_TRUE(text.open(QIODevice::WriteOnly));
+    text.write(QByteArray(4096, 'x'));
+    text.close();
+    EXPECT_NE(Failure(File("text.mdb"), File("copy.mdb")), "");
+}
