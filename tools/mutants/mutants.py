@@ -32,29 +32,32 @@ PROGRAMS = {
     'intake': ['knowledge', 'intake'],
     'recipes': ['knowledge', 'recipes'],
 }
-NAMES = sorted({name for names in PROGRAMS.values() for name in names})
 SEED = 1
 
 
 class Tree:
     """The copy of the sources, with all mutants in it."""
 
-    def __init__(self, folder, builder):
+    def __init__(self, folder, builder, subjects):
         self.folder = folder
+        self.subjects = subjects
+        self.programs = sorted({name for subject in subjects for name in PROGRAMS[subject]})
         self.source = folder / 'tree'
         self.build = self.source / 'build' / 'dev'
         self.list = folder / 'mutants.json'
         self.builder = builder
 
     def make(self):
-        if self.list.exists():
-            return
+        if not self.list.exists():
+            self.make_sources()
+        self.make_programs()
+
+    def make_sources(self):
         self.copy()
         subprocess.run(['cmake', '--preset', 'dev'], cwd=self.source, check=True, stdout=subprocess.DEVNULL)
         found = self.find()
         self.rewrite(found)
         self.drop_what_fails(found)
-        self.make_programs()
         self.list.write_text(json.dumps([
             {'id': number, 'file': file, 'line': mutant.line, 'text': mutant.text, 'change': mutant.change}
             for file, mutants in found.items() for number, mutant in mutants]))
@@ -84,7 +87,7 @@ class Tree:
         """How the sources that are changed are compiled."""
         for entry in json.loads((self.build / 'compile_commands.json').read_text()):
             parts = Path(entry['file']).relative_to(self.source).parts
-            if parts[0] == 'src' and len(parts) == 3 and parts[1] in PROGRAMS:
+            if parts[0] == 'src' and len(parts) == 3 and parts[1] in self.subjects:
                 yield entry
 
     @staticmethod
@@ -122,7 +125,7 @@ class Tree:
         return range(mutant.line, mutant.last_line + 1)
 
     def make_programs(self):
-        targets = [f'test_{name}' for name in NAMES]
+        targets = [f'test_{name}' for name in self.programs]
         self.run(['cmake', '--build', str(self.build), '--target', *targets], check=True)
 
     def mutants(self):
@@ -180,7 +183,7 @@ def killer(mutant, programs):
 
 
 def try_all(tree, results):
-    programs = {name: Program(tree, name) for name in NAMES}
+    programs = {name: Program(tree, name) for name in tree.programs}
     for program in programs.values():
         program.measure()
     known = {result['id'] for result in read(results)}
@@ -208,7 +211,7 @@ def report(tree, results):
         if not one['killer']:
             how = '' if one['reached'] else ' (no test comes by)'
             print(f"{one['file']}:{one['line']}: {one['text']}: {one['change']}{how}")
-    for folder in PROGRAMS:
+    for folder in tree.subjects:
         own = [one for one in tried if one['file'].startswith(f'src/{folder}/')]
         print(f"{folder}: {sum(bool(one['killer']) for one in own)} of {len(own)} killed")
     print(f'{len(killed)} of {len(tried)} killed, {len(tree.mutants())} mutants in all')
@@ -217,12 +220,13 @@ def report(tree, results):
 def main():
     options = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
     options.add_argument('folder', type=Path, help='holds the copy and the results')
+    options.add_argument('--only', nargs='+', choices=PROGRAMS, default=list(PROGRAMS), help='folders of src/')
     options.add_argument('--report', action='store_true', help='list what is known so far')
     options.add_argument('--make', action='store_true', help='only make and build the copy')
     options.add_argument('--builder', default='', help='a command that is put before each build')
     chosen = options.parse_args()
     chosen.folder.mkdir(parents=True, exist_ok=True)
-    tree = Tree(chosen.folder.resolve(), shlex.split(chosen.builder))
+    tree = Tree(chosen.folder.resolve(), shlex.split(chosen.builder), chosen.only)
     results = tree.folder / 'results.jsonl'
     if not chosen.report:
         tree.make()
