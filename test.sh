@@ -8,4 +8,8 @@ install_packages build exchange test
 cmake --preset dev
 cmake --build --preset dev
 export QT_QPA_PLATFORM=offscreen
+# The corpora of what is quickly built, under sanitizers. The whole tree takes too long.
+cmake --preset asan
+cmake --build --preset asan --target sanitized
+ctest --test-dir build/asan -L sanitized -j2 --output-on-failure
 exec ctest --test-dir build/dev -j2 --output-on-failure
