@@ -78,6 +78,19 @@ QWidget* FirstVisible() {
     return first == windows.end() ? nullptr : *first;
 }
 
+/// A press may close the window: then nobody waits for the release.
+void PressAndRelease(const QPointer<QWindow>& window, Qt::MouseButton button, QPoint place) {
+    QTest::mousePress(window, button, {}, place);
+    if (window)
+        QTest::mouseRelease(window, button, {}, place);
+}
+
+void PressAndRelease(const QPointer<QWindow>& window, Qt::Key key, Qt::KeyboardModifiers with) {
+    QTest::keyPress(window, key, with);
+    if (window)
+        QTest::keyRelease(window, key, with);
+}
+
 /// A character that no key of this keyboard gives comes from an input method.
 void Type(const QPointer<QWidget>& window, QChar character) {
     if (!window || !window->windowHandle())
@@ -157,11 +170,11 @@ RandomInput::Input RandomInput::PressAnywhere(QWidget* window) {
 RandomInput::Input RandomInput::PressAt(QWidget* window, QPoint place) {
     const bool left = Chance(95);
     const bool twice = Chance(5);
-    const auto perform = [window, place, left, twice] {
+    const auto perform = [window = QPointer(window->windowHandle()), place, left, twice] {
         const Qt::MouseButton button = left ? Qt::LeftButton : Qt::RightButton;
-        QTest::mouseMove(window->windowHandle(), place);
-        twice ? QTest::mouseDClick(window->windowHandle(), button, {}, place)
-              : QTest::mouseClick(window->windowHandle(), button, {}, place);
+        QTest::mouseMove(window, place);
+        for (int i = 0; i < (twice ? 2 : 1) && window; ++i)
+            PressAndRelease(window, button, place);
     };
     const QString detail = Text(place) + (left ? "" : " right") + (twice ? " twice" : "");
     return {Told(Action::Press, detail, window, ControlAt(window, place)), perform};
@@ -170,8 +183,8 @@ RandomInput::Input RandomInput::PressAt(QWidget* window, QPoint place) {
 RandomInput::Input RandomInput::PressKey(QWidget* window) {
     const Keyboard::Pressed pressed =
         OneOf(Chance(75) ? Keyboard::OftenPressed() : Keyboard::SometimesPressed());
-    const auto perform = [window, pressed] {
-        QTest::keyClick(window->windowHandle(), Qt::Key(pressed.key), pressed.modifiers);
+    const auto perform = [window = QPointer(window->windowHandle()), pressed] {
+        PressAndRelease(window, Qt::Key(pressed.key), pressed.modifiers);
     };
     const QString keys = QKeySequence(pressed.key | pressed.modifiers.toInt()).toString();
     Action told = Told(Action::Key, keys, window, nullptr);
@@ -184,7 +197,7 @@ RandomInput::Input RandomInput::TypeText(QWidget* window) {
     const bool instead = Chance(70);
     const auto perform = [window = QPointer(window), text, instead] {
         if (instead)
-            QTest::keyClick(window->windowHandle(), Qt::Key_A, Qt::ControlModifier);
+            PressAndRelease(window->windowHandle(), Qt::Key_A, Qt::ControlModifier);
         for (const QChar character : text)
             Type(window, character);
     };
