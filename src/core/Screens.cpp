@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <string_view>
 
 namespace {
 
@@ -33,8 +34,9 @@ constexpr Registration Registrations[] = {
 };
 
 constexpr bool HasClass(const ScreenRow* screen) {
-    return std::ranges::count(Registrations, screen,
-                              [](const Registration& row) { return &row.screen; }) == 1;
+    return std::ranges::count(
+               Registrations, std::string_view(screen->name),
+               [](const Registration& row) { return std::string_view(row.screen.name); }) == 1;
 }
 static_assert(std::ranges::all_of(Screens::All, HasClass), "a screen has no class");
 static_assert(std::size(Registrations) == std::size(Screens::All), "a screen is not in All");
