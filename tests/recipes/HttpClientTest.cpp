@@ -112,6 +112,18 @@ TEST_F(HttpClientTest, WithoutContentLengthTheReplyEndsWithTheConnection) {
     }
 }
 
+/// The reply and its end come at once, so the network layer may notice the end first. Many calls
+/// meet both orders.
+TEST_F(HttpClientTest, AReplyThatEndsWithTheConnectionIsTakenByACallThatIsSentOnce) {
+    server.Tell("GET /page", ScriptedServer::Raw("HTTP/1.1 200 OK\r\n\r\nSent."));
+    for (int call = 1; call <= 100; ++call) {
+        const HttpReply reply = http.GetOnce(server.Address() + "/page", Plenty);
+        EXPECT_EQ(reply.status, 200);
+        EXPECT_EQ(reply.body, "Sent.");
+        EXPECT_EQ(server.Lines().size(), call);
+    }
+}
+
 TEST_F(HttpClientTest, AChunkedReplyIsAccepted) {
     server.Tell("GET /page", ScriptedServer::Raw(Chunked + "2\r\nSe\r\n3\r\nnt.\r\n0\r\n\r\n"));
     EXPECT_EQ(http.Get(server.Address() + "/page", Plenty).body, "Sent.");

@@ -61,6 +61,13 @@ bool IsOfItsLength(const QNetworkReply& reply, qint64 length) {
     return told.isNull() || told.toLongLong() == length;
 }
 
+/// A server that answers and closes before the network layer expects a reply makes it send the
+/// request again, which the one-way body prevents. The reply is there, and the close ends it.
+bool EndsWithTheConnection(const QNetworkReply& reply) {
+    return reply.error() == QNetworkReply::ContentReSendError && StatusOf(reply) > 0 &&
+           !reply.hasRawHeader("Transfer-Encoding");
+}
+
 /// The network layer turns a status of 400 or above into one of these errors. The reply is there
 /// all the same.
 bool HasCome(const QNetworkReply& reply) {
@@ -70,7 +77,8 @@ bool HasCome(const QNetworkReply& reply) {
                          error == QNetworkReply::ProtocolInvalidOperationError ||
                          error >= QNetworkReply::InternalServerError;
     return reply.isFinished() &&
-           (error == QNetworkReply::NoError || (refused && StatusOf(reply) >= 400));
+           (error == QNetworkReply::NoError || (refused && StatusOf(reply) >= 400) ||
+            EndsWithTheConnection(reply));
 }
 
 } // namespace
