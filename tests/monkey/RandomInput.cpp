@@ -85,10 +85,31 @@ void PressAndRelease(const QPointer<QWindow>& window, Qt::MouseButton button, QP
         QTest::mouseRelease(window, button, {}, place);
 }
 
-void PressAndRelease(const QPointer<QWindow>& window, Qt::Key key, Qt::KeyboardModifiers with) {
-    QTest::keyPress(window, key, with);
+QList<Qt::Key> KeysOf(Qt::KeyboardModifiers modifiers) {
+    QList<Qt::Key> keys;
+    for (const auto& [modifier, key] :
+         {std::pair{Qt::ShiftModifier, Qt::Key_Shift},
+          std::pair{Qt::ControlModifier, Qt::Key_Control}, std::pair{Qt::AltModifier, Qt::Key_Alt}})
+        if (modifiers.testFlag(modifier))
+            keys << key;
+    return keys;
+}
+
+void SendKey(const QPointer<QWindow>& window, bool press, Qt::Key key, Qt::KeyboardModifiers with) {
+    const char text = QTest::keyToAscii(key);
     if (window)
-        QTest::keyRelease(window, key, with);
+        QTest::simulateEvent(window, press, key, with,
+                             text ? QString(QLatin1Char(text)) : QString(), false);
+}
+
+/// Each of the keys may close the window, also a modifier: QTest::keyPress would go on using it.
+void PressAndRelease(const QPointer<QWindow>& window, Qt::Key key, Qt::KeyboardModifiers with) {
+    QList<Qt::Key> keys = KeysOf(with) << key;
+    for (const bool press : {true, false}) {
+        for (const Qt::Key next : std::as_const(keys))
+            SendKey(window, press, next, next == key ? with : Qt::NoModifier);
+        std::ranges::reverse(keys);
+    }
 }
 
 /// A character that no key of this keyboard gives comes from an input method.
