@@ -5,19 +5,14 @@
 #include "support/Until.h"
 
 #include <filesystem>
-#include <regex>
 
 namespace {
 constexpr const char* Nginx = "/usr/sbin/nginx";
 
 int PortIn(const std::string& log) {
-    std::smatch found;
-    std::string text;
-    Until([&] {
-        text = ReadFile(log);
-        return std::regex_search(text, found, std::regex(R"("port":(\d+)})"));
-    });
-    return std::stoi(found[1]);
+    int port = 0;
+    Until([&] { return (port = Server::PortIn(ReadFile(log))) > 0; });
+    return port;
 }
 } // namespace
 
