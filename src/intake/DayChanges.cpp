@@ -65,6 +65,7 @@ QString DayChanges::Copy(const LoggedEntries& foods, QDate to) {
 
 QString DayChanges::Move(const LoggedEntries& foods, int meal) {
     std::vector<LoggedRow> rows = LoggedRow::AllOf(foods);
+    std::erase_if(rows, [](const LoggedRow& row) { return !row.HasKey(); }); // they stay
     if (rows.empty())
         return {};
     Transaction whole(UserDB());

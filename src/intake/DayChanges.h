@@ -7,10 +7,11 @@ class ScaledFood;
 
 /// Changes the log for a person who looks at a day, and takes the changes back, the last one first.
 /// The day's list owns it, for one visit to the day screen. A copy, a move, a change of quantity
-/// and each step back are kept as a whole or not at all. A change that fails is none to take back.
+/// and each step back are kept as a whole or not at all; a day is cleared row by row. A change that
+/// fails adds nothing to take back.
 class DayChanges {
 public:
-    /// What a step back did: "Brought back", "Oats", and the day that it is about.
+    /// What a step back did: "Brought back", "Oats", and the day of these foods.
     struct Report {
         QString done;
         QString foods; ///< a name or a number

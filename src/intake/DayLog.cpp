@@ -97,6 +97,8 @@ std::vector<qint32> DayLog::CopyFoods(const LoggedEntries& foods, QDate to) {
 
 void DayLog::MoveFoods(const LoggedEntries& foods, int meal) {
     for (Recordset rows = Changing(foods); !rows.AtEnd(); rows.MoveNext()) {
+        if (!rows[QStringLiteral("RecID")].IsKey())
+            continue;
         rows.Set(QStringLiteral("Meal"), Meals::NameOf(meal));
         rows.Update();
     }

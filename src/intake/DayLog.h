@@ -18,7 +18,8 @@ struct LoggedFood {
 
 /// What the current user has logged on one day: foods by meal, and a weight in pounds.
 namespace DayLog {
-/// The foods of a meal, by its place in Meals::Names, in the order of entry.
+/// The foods of a meal, by its place in Meals::Names, in the order of entry. Foods with a key that
+/// is too large for ours are not listed.
 std::vector<LoggedFood> FoodsOf(int meal, QDate day);
 /// Appends one food, whole or not at all. The row holds finished amounts. Gives its key.
 qint32 AddFood(const ScaledFood& item, const QString& meal, QDate day);
@@ -27,7 +28,8 @@ QString CopyRefusal(QDate from, QDate to);
 /// Appends foods to a day, under their meals. Their amounts stay the same to the bit. Gives the
 /// keys of the new rows.
 std::vector<qint32> CopyFoods(const LoggedEntries& foods, QDate to);
-void MoveFoods(const LoggedEntries& foods, int meal); ///< to another meal of their day
+/// Puts foods under another meal of their day. Foods with a key that is too large stay.
+void MoveFoods(const LoggedEntries& foods, int meal);
 /// The message that refuses another quantity for a logged food; empty if it is accepted.
 QString QuantityRefusal(qint32 RecID, double quantity);
 /// Gives a logged food another quantity. Its stored amounts are scaled: what is unknown stays so.

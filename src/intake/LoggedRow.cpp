@@ -33,9 +33,9 @@ void LoggedRow::SetIn(Recordset& target) const {
 void LoggedRow::Restore() const {
     Recordset row(UserDB(), LoggedEntries::One(RecID).Statement(), CursorType::Keyset,
                   LockType::Optimistic);
-    if (row.AtEnd()) {
+    if (!HasKey() || row.AtEnd()) {
         row.AddNew();
-        if (RecID != 0)
+        if (HasKey())
             row.Set(QStringLiteral("RecID"), RecID);
     }
     SetIn(row);

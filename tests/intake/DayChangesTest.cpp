@@ -156,6 +156,26 @@ TEST_F(DayChangesTest, ACopyThatFailsInTheMiddleLeavesNothing) {
     EXPECT_FALSE(changes_.CanUndo());
 }
 
+TEST_F(DayChangesTest, AMoveLeavesAFoodWhoseKeyIsTooLargeAndItsStepBackDoesNotDoubleIt) {
+    Log("Rye", "Lunch");
+    UserDB().Raw().exec("UPDATE USER_FOODS SET RecID = 5000000000 WHERE FoodName = 'Rye'");
+    const auto before = Everything();
+    EXPECT_EQ(changes_.Move(LoggedEntries::Of(day, Lunch), Dinner), "3 foods");
+    EXPECT_EQ(LogCount("FoodName = 'Rye' AND Meal = 'Lunch'"), 1);
+    changes_.Undo();
+    EXPECT_EQ(Everything(), before);
+}
+
+TEST_F(DayChangesTest, ARowWithoutAKeyOfOursComesBackBesideARowWithTheKeyZero) {
+    UserDB().Raw().exec("UPDATE USER_FOODS SET RecID = 0 WHERE FoodName = 'Milk'");
+    Log("Rye", "Lunch");
+    UserDB().Raw().exec("UPDATE USER_FOODS SET RecID = 5000000000 WHERE FoodName = 'Rye'");
+    changes_.Clear(day);
+    changes_.Undo();
+    EXPECT_EQ(LogCount("FoodName = 'Milk'"), 1);
+    EXPECT_EQ(LogCount("FoodName = 'Rye'"), 1);
+}
+
 TEST_F(DayChangesTest, AStepBackThatFailsInTheMiddleLeavesNothingAndCanBeRepeated) {
     const auto before = Everything();
     changes_.Clear(day);

@@ -4,8 +4,9 @@
 
 class QTimer;
 
-/// The status of a list: a line over its lower edge that says what has just been done. It goes
-/// after some seconds and at the next change of the list. Assistive tools are told its text.
+/// The status of a list: a line over its lower edge that says what has just been done. It
+/// disappears after some seconds and at the next change of the list. Assistive tools are told its
+/// text.
 class ListNotice : public QLabel {
     Q_OBJECT
 

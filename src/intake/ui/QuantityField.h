@@ -4,9 +4,10 @@
 
 class ucAte;
 
-/// The field before the trash can of a line, while a person changes it. The line owns it. Enter and
-/// leaving the field ask its host to keep the number, Escape closes it. Another window in front or
-/// an open menu does not count as leaving: the person comes back to the field.
+/// The field for the quantity of a line, to the left of its trash can. The line owns it, as long as
+/// a person changes the quantity. Enter and leaving the field ask its host to keep the number,
+/// Escape closes it. Another window in front or an open menu does not count as leaving: the person
+/// comes back to the field.
 class QuantityField : public LineField {
     Q_OBJECT
 
