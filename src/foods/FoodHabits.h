@@ -6,7 +6,7 @@
 namespace FoodHabits {
 struct Names {
     QStringList last; ///< those logged last, the newest first
-    QStringList most; ///< those logged most often that are not among them
+    QStringList most; ///< of the others, those logged most often
 };
 
 /// Of one meal, by its place in Meals::Names; at most `count` of each.
