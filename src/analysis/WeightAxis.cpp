@@ -36,7 +36,7 @@ int WeightAxis::Y(double weight) const {
         if (weight < lower || weight > higher)
             continue;
         const int gap = LabelMiddle(i + 1) - LabelMiddle(i);
-        // Divided last: a place that is a half of a twip stays one.
+        // The division comes last: otherwise rounding errors would move places at half a twip.
         return Round(LabelMiddle(i + 1) - gap * (weight - lower) / (higher - lower));
     }
     return Round(LabelMiddle(0) + (max_ - weight) * scale_);

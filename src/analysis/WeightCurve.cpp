@@ -56,8 +56,8 @@ double MeanOf(std::span<const WeightLog::Entry> entries) {
     return sum / double(entries.size());
 }
 
-/// For each entry the mean of those of the seven days that end with it. Each is summed anew: a
-/// running sum would keep rounding errors of weights that it does not hold any more.
+/// For each entry the mean of the seven days that end with it. Each sum is made anew: a running sum
+/// would keep the rounding errors of weights that have left it.
 Entries Means(const Entries& entries) {
     Entries means;
     size_t first = 0;

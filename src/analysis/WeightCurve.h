@@ -17,7 +17,7 @@ struct WeightCurve {
     std::vector<DateAxis::Label> dates; ///< the labels that are shown
     std::vector<qint64> weights;        ///< the labels from the top; none before the first entry
     std::vector<PlotPoint> points;
-    std::vector<PlotPoint> mean; ///< of the seven days up to each entry; WithMean alone sets it
+    std::vector<PlotPoint> mean; ///< of the seven days up to each entry; only WithMean sets it
     bool noData = false;         ///< a notice says so
 
     static WeightCurve Of(std::vector<WeightLog::Entry> entries, WeightLog::Extremes extremes);

@@ -17,7 +17,7 @@
 namespace {
 constexpr auto Told = "FAILED";
 
-/// Why the files could not be kept before they were updated. There is no window yet to say it.
+/// Why the files could not be kept before they were updated. At that time no window can say it.
 QString& FailureBeforeUpgrade() {
     static QString failure;
     return failure;

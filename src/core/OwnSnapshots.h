@@ -7,8 +7,8 @@
 class QThread;
 class QWidget;
 
-/// The snapshots that the program makes by itself. If one fails, a message says so, once until one
-/// succeeds again. It never keeps anybody from logging.
+/// The snapshots that the program makes by itself. If one fails, a message says so, and no other
+/// message follows until one has succeeded again. A failure keeps nobody from logging.
 class OwnSnapshots : public QObject {
     Q_OBJECT
 

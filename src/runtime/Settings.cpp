@@ -7,7 +7,7 @@
 
 namespace {
 constexpr qsizetype LongestValue = 255;
-constexpr int LockIsSigned = 2; ///< seconds at most after it was made
+constexpr int SigningTime = 2; ///< seconds; a process that lives has signed its lock by then
 
 #ifdef Q_OS_WIN
 constexpr QSettings::Format StoreFormat = QSettings::NativeFormat;
@@ -26,11 +26,11 @@ public:
     }
 
 private:
-    /// A process that was killed between making the lock and signing it leaves an empty file. The
-    /// library would wait half a minute for it.
+    /// A process that was killed between making the lock and signing it leaves an empty file.
+    /// QSettings would wait half a minute for it.
     static void RemoveUnsignedLock(const QString& path) {
         const QFileInfo lock(path);
-        const QDateTime latest = QDateTime::currentDateTime().addSecs(-LockIsSigned);
+        const QDateTime latest = QDateTime::currentDateTime().addSecs(-SigningTime);
         if (lock.exists() && lock.size() == 0 && lock.lastModified() < latest)
             QFile::remove(path);
     }

@@ -25,8 +25,8 @@ SQLite::Database Source(const QString& path) {
     return {UnchangedFile::Address(path).toStdString(), SQLite::OPEN_READONLY | SQLite::OPEN_URI};
 }
 
-/// Each page is written once: to keep many of them only takes time. But with a sync each page that
-/// leaves the cache early costs one.
+/// Each page is written only once, so a large cache only takes time. With syncs the cache stays
+/// large, because each page that leaves it early costs a sync.
 void Prepare(SQLite::Database& target, DatabaseCopy::Sync sync) {
     if (sync == DatabaseCopy::Sync::Fully)
         RollbackJournal::SyncFully(target, "main");

@@ -4,8 +4,8 @@
 
 /// Copies of a database file.
 namespace DatabaseCopy {
-/// Whether the copy must survive a power cut once it is made. A private copy, to a new file, need
-/// not: where it fails it is thrown away.
+/// Whether the copy must survive a power cut once it is made. A private copy in a new file need
+/// not: if it fails, it is thrown away.
 enum class Sync { Fully, No };
 
 /// Copies the state of the last commit, also while another process has the file open and writes. A

@@ -23,8 +23,8 @@ public:
     static QByteArray Address(const QString& path); ///< of the file, for ATTACH
 
     qint64 Number(const QByteArray& select); ///< the first value
-    /// Fails unless every page and every row is as it must be. An index may lack rows: it can be
-    /// made anew of its table.
+    /// Fails unless every page and every row is sound. An index may lack rows: it can be made anew
+    /// from its table.
     void RequireSoundRows();
 
 private:

@@ -14,7 +14,7 @@
 #include <QHelpEvent>
 #include <QToolTip>
 
-/// The figures of the charts for who cannot see them, and the tips for who can.
+/// The figures of the charts for people who cannot see them, and the tips for people who can.
 class SpokenTableTest : public AnalysisTest {
 protected:
     const QDate day_{2002, 4, 3};
