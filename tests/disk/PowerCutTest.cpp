@@ -1,5 +1,6 @@
 #include "disk/DiskTest.h"
 #include "disk/DiskWatch.h"
+#include "support/RunSize.h"
 
 #include <QRandomGenerator>
 #include <QSet>
@@ -16,8 +17,7 @@ constexpr int MostRepeats = 20; ///< of a disk that was tried already
 
 /// The environment variable HALVANE_CUTS asks for more cuts of each routine.
 int Cuts() {
-    const int asked = qEnvironmentVariableIntValue("HALVANE_CUTS");
-    return asked > 0 ? asked : FewCuts;
+    return RunSize("HALVANE_CUTS", FewCuts);
 }
 
 unsigned FirstSeed() {

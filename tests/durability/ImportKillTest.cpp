@@ -3,6 +3,7 @@
 #include "store/Connection.h"
 #include "support/HalvaneTest.h"
 #include "support/Places.h"
+#include "support/RunSize.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -26,8 +27,7 @@ constexpr int Recipes = 300;
 
 /// The environment variable HALVANE_KILLS asks for more kills than an ordinary run.
 int Kills() {
-    const int asked = qEnvironmentVariableIntValue("HALVANE_KILLS");
-    return asked > 0 ? asked : OrdinaryKills;
+    return RunSize("HALVANE_KILLS", OrdinaryKills);
 }
 
 QByteArray ExportOf(const QString& folder) {

@@ -4,6 +4,7 @@
 #include "records/Snapshots.h"
 #include "store/Connection.h"
 #include "support/Places.h"
+#include "support/RunSize.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -22,8 +23,7 @@ constexpr int RowCount = 6000; ///< so that a restore writes for a while
 
 /// The environment variable HALVANE_KILLS asks for more kills than an ordinary run.
 int Kills() {
-    const int asked = qEnvironmentVariableIntValue("HALVANE_KILLS");
-    return asked > 0 ? asked : FewKills;
+    return RunSize("HALVANE_KILLS", FewKills);
 }
 } // namespace
 

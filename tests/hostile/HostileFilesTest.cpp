@@ -10,6 +10,7 @@
 #include "runtime/RuntimeError.h"
 #include "runtime/ScreenTable.h"
 #include "store/Connection.h"
+#include "support/RunSize.h"
 
 #include <QFile>
 #include <QRandomGenerator>
@@ -28,8 +29,7 @@ constexpr const char* Files[] = {"users.mdb", "foods.mdb"};
 
 /// The environment variable HALVANE_HOSTILE_FILES asks for more files than an ordinary run.
 int FileCount() {
-    const int asked = qEnvironmentVariableIntValue("HALVANE_HOSTILE_FILES");
-    return asked > 0 ? asked : FewFiles;
+    return RunSize("HALVANE_HOSTILE_FILES", FewFiles);
 }
 
 unsigned FirstSeed() {

@@ -2,6 +2,7 @@
 
 #include "store/Connection.h"
 #include "support/HostileRows.h"
+#include "support/RunSize.h"
 
 #include <QRandomGenerator>
 
@@ -13,8 +14,7 @@ constexpr unsigned Seed = 20261122;
 
 /// The environment variable HALVANE_FOLDERS asks for more folders than an ordinary run.
 int Folders() {
-    const int asked = qEnvironmentVariableIntValue("HALVANE_FOLDERS");
-    return asked > 0 ? asked : OrdinaryFolders;
+    return RunSize("HALVANE_FOLDERS", OrdinaryFolders);
 }
 
 struct Table {
