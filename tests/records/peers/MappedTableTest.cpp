@@ -115,33 +115,31 @@ TEST_F(MappedTableTest, AWrongMapIsRefusedWithWhatIsWrong) {
     const QString start = "The map cannot be used: ";
     EXPECT_EQ(MapFailure("kind = \"log\"\n[columns\n").left(start.size() + 16),
               start + "map.toml, line 2");
-    EXPECT_EQ(MapFailure("[columns]\n"),
-              start + "kind is missing. It is \"log\", \"weights\" or \"foods\".");
-    EXPECT_EQ(MapFailure("kind = \"diary\"\n"),
-              start + "kind is \"diary\", but must be one of \"log\", \"weights\", \"foods\".");
-    EXPECT_EQ(MapFailure(map + "[colums]\n"), start + "the key \"colums\" is unknown.");
-    EXPECT_EQ(MapFailure(map + "[file]\ndecimals = \",\"\n"),
-              start + "the key \"decimals\" is unknown.");
-    EXPECT_EQ(MapFailure(map + "[file]\ndate = \"d.M.yy\"\n"),
-              start + "file.date must name the year as yyyy.");
-    EXPECT_EQ(MapFailure(map + "[file]\ndecimal = 1\n"),
-              start + "\"decimal\" must be a text in quotes.");
-    EXPECT_EQ(MapFailure(map + "[file]\ndecimal = \",\"\nthousands = \",\"\n"),
-              start + "file.thousands and file.decimal are the same.");
-    EXPECT_EQ(MapFailure("kind = \"weights\"\n[file]\ndecimal = \",\"\nthousands = \",\"\n"
-                         "[columns]\ndate = \"a\"\n"),
-              start + "file.thousands and file.decimal are the same.");
-    EXPECT_EQ(MapFailure(map + "[file]\namounts = \"100 g\"\n"),
-              start + "columns.grams is missing, but the amounts are given for 100 g.");
-    EXPECT_EQ(MapFailure(map + "Sugar = { column = \"a\", unit = \"g\" }\n"),
-              start + "no nutrient is called \"Sugar\".");
-    EXPECT_EQ(MapFailure(map + "Iron = { column = \"a\", unit = \"kcal\" }\n"),
-              start + "\"Iron\" cannot be given in \"kcal\".");
-    EXPECT_EQ(MapFailure(map + "Iron = \"a\"\n"), start + "\"Iron\" must be a table.");
-    EXPECT_EQ(MapFailure(map + "[meals]\nTea = \"Tea\"\n"),
-              start + "the meal \"Tea\" is not one of ours.");
-    EXPECT_EQ(MapFailure("kind = \"weights\"\n[columns]\ndate = \"a\"\nweight = \"b\"\n"),
-              start + "file.weight must say kg or lb.");
+    const std::pair<QByteArray, const char*> wrongMaps[] = {
+        {"[columns]\n", "kind is missing. It is \"log\", \"weights\" or \"foods\"."},
+        {"kind = \"diary\"\n",
+         "kind is \"diary\", but must be one of \"log\", \"weights\", \"foods\"."},
+        {map + "[colums]\n", "the key \"colums\" is unknown."},
+        {map + "[file]\ndecimals = \",\"\n", "the key \"decimals\" is unknown."},
+        {map + "[file]\ndate = \"d.M.yy\"\n", "file.date must name the year as yyyy."},
+        {map + "[file]\ndecimal = 1\n", "\"decimal\" must be a text in quotes."},
+        {map + "[file]\ndecimal = \",\"\nthousands = \",\"\n",
+         "file.thousands and file.decimal are the same."},
+        {"kind = \"weights\"\n[file]\ndecimal = \",\"\nthousands = \",\"\n[columns]\ndate = "
+         "\"a\"\n",
+         "file.thousands and file.decimal are the same."},
+        {map + "[file]\namounts = \"100 g\"\n",
+         "columns.grams is missing, but the amounts are given for 100 g."},
+        {map + "Sugar = { column = \"a\", unit = \"g\" }\n", "no nutrient is called \"Sugar\"."},
+        {map + "Iron = { column = \"a\", unit = \"kcal\" }\n",
+         "\"Iron\" cannot be given in \"kcal\"."},
+        {map + "Iron = \"a\"\n", "\"Iron\" must be a table."},
+        {map + "[meals]\nTea = \"Tea\"\n", "the meal \"Tea\" is not one of ours."},
+        {"kind = \"weights\"\n[columns]\ndate = \"a\"\nweight = \"b\"\n",
+         "file.weight must say kg or lb."},
+    };
+    for (const auto& [wrong, problem] : wrongMaps)
+        EXPECT_EQ(MapFailure(wrong), start + problem);
 }
 
 TEST_F(MappedTableTest, AMapThatIsNotThereIsNamed) {
