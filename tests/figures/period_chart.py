@@ -1,12 +1,9 @@
 """The report's averages: bars against the targets of the average weight, and values."""
 
-import dataclasses
-
 from conversions import single, to_integer
 from masks import thousands, two_decimals
 from nutrients import PERIOD_ROWS, period_unit
 from sums import average_weight, in_period, logged_days, members, store_sums
-from targets import energy_targets
 
 TWIPS = 15
 
@@ -43,13 +40,6 @@ def bar_width(days, total, target):
     if single(width) > limit:
         width = float(limit)
     return max(width, 0.0)
-
-
-def weighed(person, targets, weight, automatic):
-    """The person at another weight, with the targets that follow where they are automatic."""
-    if not automatic:
-        return targets
-    return {**targets, **energy_targets(dataclasses.replace(person, weight=weight))}
 
 
 def report_weight(weights, first, last):

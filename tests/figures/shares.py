@@ -7,7 +7,6 @@ TURN = 6.28318530718
 LABELS = ("Fat ", "Protein ", "Carbs. ")
 NO_DATA = ("Total Fat --", "Protein --", "Carbs. --")
 NO_DATA_MONTH = ("Total Fat: --", "Protein: --", "Carbs: --")
-KEPT = ("", "", "")
 
 
 def daily_averages(sums, days):
