@@ -106,8 +106,11 @@ class Tree:
         for entry in self.entries():
             file = str(Path(entry['file']).relative_to(self.source))
             while wrong := self.refused(entry, file):
-                found[file] = [one for one in found[file] if wrong.isdisjoint(self.lines_of(one[1]))]
-                self.rewrite({file: found[file]})
+                kept = [one for one in found[file] if wrong.isdisjoint(self.lines_of(one[1]))]
+                if len(kept) == len(found[file]):
+                    sys.exit(f'{file} does not compile, and no mutant is in the lines {sorted(wrong)}')
+                found[file] = kept
+                self.rewrite({file: kept})
 
     @staticmethod
     def refused(entry, file):
