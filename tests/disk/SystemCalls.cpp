@@ -47,8 +47,6 @@ size_t LengthOf(int file, size_t asked) {
     return watch != nullptr && watch->Knows(file) ? watch->Length(asked) : asked;
 }
 
-using Open = int(const char*, int, ...);
-
 /// Not every file system has files without a name: callers then make one with a name.
 bool AsksForNoName(const char* folder, int flags) {
     DiskWatch* watch = DiskWatch::Current();
@@ -57,7 +55,8 @@ bool AsksForNoName(const char* folder, int flags) {
 }
 
 /// A file that is there already is opened, or made empty; otherwise it is made.
-int OpenWatched(Open* system, const char* path, int flags, mode_t mode) {
+int OpenWatched(const char* path, int flags, mode_t mode) {
+    static auto* const system = System<int(const char*, int, ...)>("open64");
     if (AsksForNoName(path, flags)) {
         errno = EOPNOTSUPP;
         return -1;
@@ -146,22 +145,14 @@ template <class Call> int LinkWith(const char* to, Call call) {
 
 extern "C" {
 int open(const char* path, int flags, ...) {
-    static auto* const system = System<Open>("open");
     va_list more;
     va_start(more, flags);
     const mode_t mode = ModeOf(flags, more);
     va_end(more);
-    return OpenWatched(system, path, flags, mode);
+    return OpenWatched(path, flags, mode);
 }
 
-int open64(const char* path, int flags, ...) {
-    static auto* const system = System<Open>("open64");
-    va_list more;
-    va_start(more, flags);
-    const mode_t mode = ModeOf(flags, more);
-    va_end(more);
-    return OpenWatched(system, path, flags, mode);
-}
+int open64(const char* path, int flags, ...) __attribute__((alias("open")));
 
 ssize_t read(int file, void* bytes, size_t count) {
     static auto* const system = System<ssize_t(int, void*, size_t)>("read");
