@@ -18,6 +18,7 @@
 #include "runtime/AppState.h"
 #include "store/VersionOne.h"
 #include "support/Places.h"
+#include "support/SamplePerson.h"
 
 #include <QDir>
 #include <QFile>
@@ -72,19 +73,6 @@ void WriteTables(const QString& folder, qsizetype first, qsizetype count) {
         few.Append(all.Rows()[row]);
     few.Append(all.Rows().last()); // own foods follow it
     few.Write(folder + "/foods.tsv");
-}
-
-Profile Person(const QString& name) {
-    Profile profile;
-    profile.userName = name;
-    profile.age = 40;
-    profile.feet = QStringLiteral("5");
-    profile.inches = 10;
-    profile.currentWeight = 200;
-    profile.desiredWeight = 170;
-    profile.gender = 1;
-    profile.activityLevel = 2;
-    return profile;
 }
 
 CustomFood Food(const char* name) {
@@ -210,8 +198,12 @@ const WritingRoutine Routines[] = {
      [](const Ground&) { RecipeBook::AddIngredient(FirstRecipe, Butter()); }},
     {"remove an ingredient", true, 1, {}, [](const Ground&) { RecipeBook::RemoveIngredient(1); }},
     {"import a recipe of the exchange", true, 4, {}, KeepRecipe},
-    {"make a profile", true, 1, {}, [](const Ground&) { Profiles::Append(Person("Carl")); }},
-    {"change a profile", true, 1, {}, [](const Ground&) { Profiles::Change(1, Person("Dora")); }},
+    {"make a profile", true, 1, {}, [](const Ground&) { Profiles::Append(SamplePerson("Carl")); }},
+    {"change a profile",
+     true,
+     1,
+     {},
+     [](const Ground&) { Profiles::Change(1, SamplePerson("Dora")); }},
     {"import records", false, 1, {}, ImportRecords},
     {"import recipes of a file", false, 1, {}, ImportRecipe},
     {"update files of the first version", false, 0, BecomeOlder, WritingRoutines::OpenAsWindow},
@@ -234,7 +226,7 @@ void WritingRoutines::MakeGround(const Ground& ground) {
     WriteFile(ground.files + "/soup.json", Soup);
     DeliveredDatabases(ground.files + "/old").Build(ground.records.Path());
     OpenAsWindow(ground);
-    User::Current() = Profiles::Append(Person("Anna"));
+    User::Current() = Profiles::Append(SamplePerson("Anna"));
     for (const char* meal : {"Breakfast", "Lunch", "Dinner"})
         DayLog::AddFood(Butter(), QLatin1String(meal), Day);
     DayLog::SetWeight(NextDay, 190);
