@@ -2,11 +2,16 @@
 
 #include "StoreTest.h"
 
-using RowReaderTest = StoreTest;
+class RowReaderTest : public StoreTest {
+protected:
+    void AddTwoFoods() {
+        AddFood(30001, "Rye");
+        AddFood(30002, "Oats");
+    }
+};
 
 TEST_F(RowReaderTest, WalksTheRowsInTheirOrderUpToTheLast) {
-    AddFood(30001, "Rye");
-    AddFood(30002, "Oats");
+    AddTwoFoods();
     RowReader rows(foods_, "SELECT ID, FoodName FROM FOODS ORDER BY FoodName");
     ASSERT_TRUE(rows.Next());
     EXPECT_EQ(rows.Text(1), "Oats");
@@ -16,8 +21,7 @@ TEST_F(RowReaderTest, WalksTheRowsInTheirOrderUpToTheLast) {
 }
 
 TEST_F(RowReaderTest, TakesStatementsInTheDialect) {
-    AddFood(30001, "Rye");
-    AddFood(30002, "Oats");
+    AddTwoFoods();
     RowReader rows(foods_, "SELECT TOP 1 FoodName FROM FOODS WHERE FoodName <> 'OATS'");
     ASSERT_TRUE(rows.Next());
     EXPECT_EQ(rows.Text(0), "Rye");
