@@ -1,7 +1,6 @@
 #include "monkey/Explanations.h"
 
 #include <algorithm>
-#include <iterator>
 
 namespace {
 

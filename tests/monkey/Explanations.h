@@ -2,7 +2,7 @@
 
 #include "monkey/Action.h"
 
-/// Which input may change which table. Whatever the table of them does not name is a finding.
+/// Which input may change which table, as a list of rules. A change without a rule is a finding.
 namespace Explanations {
 enum class Change { Added, Changed, Removed };
 

@@ -1,7 +1,6 @@
 #include "monkey/KnownMessages.h"
 
 #include <algorithm>
-#include <iterator>
 
 namespace {
 

@@ -13,8 +13,6 @@ class Monkey : public QObject {
 public:
     Monkey(quint32 seed, int inputs, Trail& trail, RowWatch& rows);
 
-    bool Tires() const { return left_ <= 0; }
-
 private:
     void Schedule();
     void Wake();

@@ -22,6 +22,11 @@ Change ChangeBy(int operation) {
     return operation == SQLITE_DELETE ? Change::Removed : Change::Changed;
 }
 
+QLatin1String Word(Change change) {
+    static constexpr const char* words[] = {"added", "changed", "removed"};
+    return QLatin1String(words[int(change)]);
+}
+
 QString Front() {
     const ScreenForm* front = TheNavigation().Front();
     return front ? front->objectName() : QString();
@@ -72,10 +77,7 @@ void RowWatch::Note(int operation, const QString& table, qint64 key) {
     };
     if (std::ranges::none_of(trail_.MayExplain(), covers))
         trail_.Report(QStringLiteral("nothing explains that row %1 of %2 was %3")
-                          .arg(QString::number(key), table,
-                               QLatin1String(change == Change::Added     ? "added"
-                                             : change == Change::Removed ? "removed"
-                                                                         : "changed")));
+                          .arg(QString::number(key), table, Word(change)));
 }
 
 void RowWatch::CompareWith(const QString& folder) {
