@@ -39,6 +39,13 @@ void Write(const QString& path, const QByteArray& bytes) {
         qFatal("%s cannot be written", qPrintable(path));
 }
 
+/// `rows` takes a number `i` of each row from `n`.
+void AddRows(const QString& path, const char* rows) {
+    SQLite::Database(path.toStdString(), SQLite::OPEN_READWRITE)
+        .exec("WITH n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < " +
+              std::to_string(RowCount) + ") INSERT INTO " + rows);
+}
+
 /// Rows for both files, as a document.
 class DocumentImport : public WholeWork {
 public:
@@ -69,15 +76,9 @@ public:
         : WholeWork("restore") {
         SmallRecords::CopyTo(Before(), ground);
         SmallRecords::CopyTo(Folder(), ground);
-        for (const char* file : {"/users.mdb", "/foods.mdb"}) {
-            const bool users = file[1] == 'u';
-            SQLite::Database(Folder().toStdString() + file, SQLite::OPEN_READWRITE)
-                .exec("WITH n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < " +
-                      std::to_string(RowCount) + ") INSERT INTO " +
-                      (users ? "USER_WEIGHTS (UID, UDate, Weight) SELECT 1, date(i), i FROM n"
-                             : "FOODS (FoodName) SELECT 'Food ' || i FROM n"));
-        }
         const RecordsFolder records(Folder());
+        AddRows(records.Users(), "USER_WEIGHTS (UID, UDate, Weight) SELECT 1, date(i), i FROM n");
+        AddRows(records.Foods(), "FOODS (FoodName) SELECT 'Food ' || i FROM n");
         snapshot_ = SnapshotMaking(records, Snapshots(records).Place())
                         .Make(SnapshotKind::Manual, QStringLiteral("other rows"));
     }
