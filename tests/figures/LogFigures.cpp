@@ -3,6 +3,7 @@
 #include "figures/CaseLine.h"
 #include "figures/FigureLine.h"
 #include "figures/ReportLines.h"
+#include "figures/TargetFields.h"
 #include "foods/ScaledFood.h"
 #include "intake/DayLog.h"
 #include "model/Profiles.h"
@@ -17,9 +18,6 @@
 #include <SQLiteCpp/SQLiteCpp.h>
 
 namespace {
-
-using enum Nutrient;
-constexpr Nutrient EnergyTargets[] = {Calories, Protein, Carbs, TotalFat, SatFat, MonoFat, PolyFat};
 
 void Bind(SQLite::Statement& statement, int place, std::optional<double> number) {
     if (number)
@@ -52,15 +50,13 @@ void PrintPerson() {
     FigureLine line("person");
     for (const User* person : {&user, &std::as_const(kept)}) {
         line << person->CurrentWeight;
-        for (const Nutrient id : EnergyTargets)
-            line << person->RDIs[id];
+        AddEnergyTargets(line, person->RDIs);
     }
 }
 
 void PrintTargets() {
     FigureLine line("profile");
-    for (const Nutrient id : StoredOrder())
-        line << User::Current().RDIs[id];
+    AddTargets(line, User::Current().RDIs);
 }
 
 void Print(FigureLine& line, const Cell& cell) {
@@ -89,8 +85,7 @@ void PrintPersonOn(QDate day) {
     const User user = DayLog::UserOn(day);
     FigureLine line("on");
     line << user.CurrentWeight;
-    for (const Nutrient id : EnergyTargets)
-        line << user.RDIs[id];
+    AddEnergyTargets(line, user.RDIs);
 }
 
 } // namespace
@@ -142,7 +137,7 @@ void LogFigures::Begin(const CaseLine& line) {
 }
 
 void LogFigures::AddFood(const CaseLine& line) {
-    constexpr int Servings = 2; // fields of a name, then those of the servings, then the amounts
+    constexpr int servings = 2; // fields of a name, then those of the servings, then the amounts
     QString values = QStringLiteral("?, ?, ?, ?, ?, ?");
     QString columns =
         QStringLiteral("ID, FoodName, Serv_Desc_A, Serv_GM_WT_A, Serv_Desc_B, Serv_GM_WT_B");
@@ -156,7 +151,7 @@ void LogFigures::AddFood(const CaseLine& line) {
     foods_.push_back(Schema::LastStockFood + 1 + qint32(foods_.size()));
     insert.bind(1, foods_.back());
     Bind(insert, 2, line.Known(1));
-    for (int serving = 0; serving < Servings; ++serving) {
+    for (int serving = 0; serving < servings; ++serving) {
         Bind(insert, 3 + 2 * serving, line.Known(2 + 2 * serving));
         Bind(insert, 4 + 2 * serving, line.NumberIfKnown(3 + 2 * serving));
     }

@@ -4,6 +4,7 @@
 #include "analysis/PeriodFigures.h"
 #include "figures/CaseLine.h"
 #include "figures/FigureLine.h"
+#include "figures/TargetFields.h"
 #include "foods/FormatNutrient.h"
 #include "model/EnergyTargets.h"
 #include "model/User.h"
@@ -39,11 +40,6 @@ User PersonOf(const CaseLine& line) {
     return user;
 }
 
-void PrintTargets(FigureLine& line, const Nuts& targets) {
-    for (const Nutrient id : StoredOrder())
-        line << targets[id];
-}
-
 } // namespace
 
 void SingleFigures::OfText(const CaseLine& line) {
@@ -76,15 +72,13 @@ void SingleFigures::OfPerson(const CaseLine& line) {
         FigureLine figures("targets");
         try {
             user.CreateDefaultRDIs();
-            PrintTargets(figures, user.RDIs);
+            AddTargets(figures, user.RDIs);
         } catch (const RuntimeError&) {
             figures << Refused;
         }
     }
     user.CurrentWeight = line.Whole(9);
     DeriveEnergyTargets(user);
-    using enum Nutrient;
     FigureLine figures("reweighed");
-    for (const Nutrient id : {Calories, Protein, Carbs, TotalFat, SatFat, MonoFat, PolyFat})
-        figures << user.RDIs[id];
+    AddEnergyTargets(figures, user.RDIs);
 }
