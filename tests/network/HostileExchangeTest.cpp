@@ -15,18 +15,6 @@ namespace {
 using HostileReplies::Fate;
 using HostileReplies::Reply;
 
-const QString Success = "The recipe has been successfully imported!";
-const QString ImportFailed = "The recipe could not be imported. Please try again or contact "
-                             "help@example.org for assistance.";
-const QString SendFailed =
-    "There was an error posting your recipe. Please ensure you are connected to the internet and "
-    "try again. If this problem persists, please contact help@example.org.";
-const QByteArray Sentence = "Your recipe has been sent to your friend.";
-
-const QString CreateLine = "POST /halvane/api/recipes";
-const QString AddLine = "POST /halvane/api/recipes/1218105222/ingredients";
-const QString PageLine = "GET /halvane/sendrecipe.asp?recID=1218105222";
-const QByteArray Created = R"({"RecipeID":1218105222,"token":"abc"})";
 const QByteArray Added = R"({"added":2})";
 
 constexpr std::chrono::milliseconds ShortLimit(60); ///< for a reply that only the limit ends
@@ -75,8 +63,8 @@ protected:
         Open(new frmImport(&window));
         Type("txtRecID", QString::number(Soup));
         Use("cmdGo", endless);
-        EXPECT_EQ(dialog->isVisible(), said != Success);
-        EXPECT_TRUE(said == Success || said == ImportFailed) << said.toStdString();
+        EXPECT_EQ(dialog->isVisible(), said != ImportedText);
+        EXPECT_TRUE(said == ImportedText || said == ImportFailed) << said.toStdString();
         ExpectNothingHalf(QJsonDocument::fromJson(recipe).object(),
                           QJsonDocument::fromJson(table).object()["rows"].toArray());
     }
@@ -89,7 +77,7 @@ protected:
         const auto ingredients = HalvaneTest::Rows(UserDB(), "SELECT * FROM Ingredients");
         ASSERT_LE(kept.size(), 1);
         ASSERT_LE(ingredients.size(), kept.isEmpty() ? 0 : rows.size());
-        if (said == Success) {
+        if (said == ImportedText) {
             ASSERT_EQ(kept.size(), 1);
             EXPECT_EQ(ingredients.size(), rows.size());
         }
@@ -131,11 +119,6 @@ protected:
         for (const char* food : {"Lentils", "Water"})
             RecipeBook::AddIngredient(own, Counting(food));
     }
-    void TellAll() {
-        server->Tell(CreateLine, 201, Created);
-        server->Tell(AddLine, 201, Added);
-        server->Tell(PageLine, 200, Sentence);
-    }
     void Send(const QByteArray& name, bool endless = false) {
         SCOPED_TRACE(name.left(60).toStdString());
         const QString before = AllRecipes();
@@ -154,7 +137,7 @@ protected:
     }
     void SendAround(const QString& line, int status, const QByteArray& body) {
         MakeRecipe();
-        TellAll();
+        TellSend();
         for (const Reply& reply : HostileReplies::Around(*server, status, body)) {
             server->Tell(line, reply.answer);
             Send(reply.name, reply.endless);
@@ -238,7 +221,7 @@ TEST_F(HostileExchangeTest, RowsAndFieldsOfAnyOtherShapeAreRefused) {
             server->Tell(RecipePath("/ingredients"), 200, served);
             Import(QByteArray(part).append(" as ").append(value), Json(SoupRecipe()), served);
             const bool noRows = part == std::string("rows") && value == "[]";
-            EXPECT_EQ(said, noRows ? Success : ImportFailed) << value.left(60).constData();
+            EXPECT_EQ(said, noRows ? ImportedText : ImportFailed) << value.left(60).constData();
         }
 }
 
@@ -246,7 +229,7 @@ TEST_F(HostileExchangeTest, TheReplyToARecipeIsTheAgreedOneOrAFailure) {
     MakeRecipe();
     for (const char* part : {"1218105222", "\"abc\""})
         for (const QByteArray& value : HostileReplies::Values()) {
-            TellAll();
+            TellSend();
             server->Tell(CreateLine, 201, With(Created, part, value));
             Send(QByteArray(part).append(" as ").append(value));
         }
@@ -255,7 +238,7 @@ TEST_F(HostileExchangeTest, TheReplyToARecipeIsTheAgreedOneOrAFailure) {
 TEST_F(HostileExchangeTest, TheReplyToIngredientsIsTheirNumberOrAFailure) {
     MakeRecipe();
     for (const QByteArray& value : HostileReplies::Values()) {
-        TellAll();
+        TellSend();
         server->Tell(AddLine, 201, With(Added, "2", value));
         Send(value);
         EXPECT_EQ(said, SendFailed) << value.left(60).constData();

@@ -50,7 +50,7 @@ protected:
         server->Tell(RecipePath("/ingredients"), 200, json.toUtf8());
         Open(new frmImport(&window));
         Type("txtRecID", QString::number(Soup));
-        ExpectAlert("The recipe has been successfully imported!");
+        ExpectAlert(ImportedText);
         Press("cmdGo");
     }
 };

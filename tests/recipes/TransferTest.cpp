@@ -44,6 +44,12 @@ void TransferTest::ExpectDead(const QString& button) {
     EXPECT_TRUE(dialog->isVisible());
 }
 
+void TransferTest::TellSend(int rows) {
+    server->Tell(CreateLine, 201, Created);
+    server->Tell(AddLine, 201, "{\"added\":" + QByteArray::number(rows) + '}');
+    server->Tell(PageLine, 200, Sentence);
+}
+
 QString TransferTest::AllRecipes() {
     QString all;
     for (const char* table : {"Recipes", "Ingredients"})

@@ -9,11 +9,6 @@
 #include <QTimer>
 
 namespace {
-const QString FailureText = "The recipe could not be imported. Please try again or contact "
-                            "help@example.org for assistance.";
-const QString UnknownText = "Recipe not found in online database. Please ensure the recipe ID "
-                            "you've entered is correct and try again.";
-const QString SuccessText = "The recipe has been successfully imported!";
 const QString UnknownReply = R"({"reason":"There is no recipe with this ID."})";
 } // namespace
 
@@ -36,7 +31,7 @@ protected:
         EXPECT_FALSE(MousePointer::IsBusy());
     }
     void ExpectFailure(const QString& id = QString::number(Soup)) {
-        ExpectAlert(FailureText);
+        ExpectAlert(ImportFailed);
         Submit(id);
         ExpectReady();
     }
@@ -82,7 +77,7 @@ TEST_F(frmImportTest, CancelAndEscapeCloseIt) {
 
 TEST_F(frmImportTest, CopiesTheRecipeAndItsIngredientsAndClosesFirst) {
     TellSoup();
-    ExpectAlert(SuccessText);
+    ExpectAlert(ImportedText);
     SubmitSoup();
     EXPECT_FALSE(dialog->isVisible());
     EXPECT_EQ(server->Lines(), QStringList({RecipePath(), RecipePath("/ingredients")}));
@@ -98,7 +93,7 @@ TEST_F(frmImportTest, ClosesBeforeTheMessageOfSuccess) {
     TellSoup();
     bool visible = true;
     TheSeams().ShowAlert = [&](const QString& message, QObject* owner, bool) {
-        EXPECT_EQ(message, SuccessText);
+        EXPECT_EQ(message, ImportedText);
         EXPECT_EQ(owner, &window);
         visible = dialog->isVisible();
         return true;
@@ -111,7 +106,7 @@ TEST_F(frmImportTest, IngredientsAreImportedByPositionWithNewKeysAndTheQuantityO
     FoodsTest::AddRecipe("One's own", "1 plate");
     AddIngredients(1, 3);
     TellSoup();
-    ExpectAlert(SuccessText);
+    ExpectAlert(ImportedText);
     SubmitSoup();
     const auto rows =
         HalvaneTest::Rows(UserDB(), "SELECT * FROM Ingredients WHERE RecipeID = 2 ORDER BY ID");
@@ -157,7 +152,7 @@ TEST_F(frmImportTest, TheCaseOfAColumnsNameDoesNotMatter) {
     for (const QJsonValue& name : Fields())
         upper.append(name.toString().toUpper());
     server->Tell(RecipePath("/ingredients"), 200, Json({{"fields", upper}, {"rows", SoupRows()}}));
-    ExpectAlert(SuccessText);
+    ExpectAlert(ImportedText);
     SubmitSoup();
     EXPECT_EQ(Count("Ingredients"), 2);
 }
@@ -165,7 +160,7 @@ TEST_F(frmImportTest, TheCaseOfAColumnsNameDoesNotMatter) {
 TEST_F(frmImportTest, TheSameRecipeTwiceGivesTwo) {
     TellSoup();
     for (int i = 0; i < 2; ++i) {
-        ExpectAlert(SuccessText);
+        ExpectAlert(ImportedText);
         SubmitSoup();
         Open(new frmImport(&window));
     }
@@ -177,7 +172,7 @@ TEST_F(frmImportTest, TheSameRecipeTwiceGivesTwo) {
 TEST_F(frmImportTest, ARecipeWithoutIngredientsHasNoCalories) {
     TellSoup();
     server->Tell(RecipePath("/ingredients"), 200, Table({}));
-    ExpectAlert(SuccessText);
+    ExpectAlert(ImportedText);
     SubmitSoup();
     EXPECT_EQ(Count("Recipes"), 1);
     EXPECT_EQ(RecipeBook::CaloriesPerServing(1, "4.5"), "Calories: --");
@@ -196,7 +191,7 @@ TEST_F(frmImportTest, NullsAreImportedAsNulls) {
     QJsonArray rows;
     rows.append(row);
     server->Tell(RecipePath("/ingredients"), 200, Table(rows));
-    ExpectAlert(SuccessText);
+    ExpectAlert(ImportedText);
     SubmitSoup();
     EXPECT_EQ(Count("Recipes", "RecipeName IS NULL AND RecipeYield IS NULL"), 1);
     EXPECT_EQ(Count("Ingredients", "RecipeID = 1 AND Calories IS NULL AND FoodName IS NULL"), 1);
@@ -208,14 +203,14 @@ TEST_F(frmImportTest, MarkupAndQuotesAreKeptAsText) {
     QJsonObject recipe = SoupRecipe();
     recipe["RecipeName"] = name;
     server->Tell(RecipePath(), 200, Json(recipe));
-    ExpectAlert(SuccessText);
+    ExpectAlert(ImportedText);
     SubmitSoup();
     EXPECT_EQ(Column("RecipeName"), name);
 }
 
 TEST_F(frmImportTest, EnterInTheFieldSubmits) {
     TellSoup();
-    ExpectAlert(SuccessText);
+    ExpectAlert(ImportedText);
     Type("txtRecID", QString::number(Soup));
     QTest::keyClick(Find(dialog.get(), "txtRecID"), Qt::Key_Return);
     EXPECT_EQ(Count("Recipes"), 1);
@@ -226,7 +221,7 @@ TEST_F(frmImportTest, EnterInTheFieldSubmits) {
 TEST_F(frmImportTest, ARecipeThatTheExchangeDoesNotHaveIsNotFound) {
     for (const QString id : {"4711", "1", "0", "-5"}) {
         server->Tell("GET /halvane/api/recipes/" + id, 404, UnknownReply.toUtf8());
-        ExpectAlert(UnknownText);
+        ExpectAlert(UnknownRecipe);
         Submit(id);
         ExpectReady();
     }
@@ -238,7 +233,7 @@ TEST_F(frmImportTest, AnIDIsRoundedHalfToEven) {
         {"12.5", "12"}, {"13.5", "14"}, {"12.4", "12"}, {"12.6", "13"}, {" 12 ", "12"}};
     for (const auto& [typed, asked] : rows) {
         server->Tell(QString("GET /halvane/api/recipes/") + asked, 404, UnknownReply.toUtf8());
-        ExpectAlert(UnknownText);
+        ExpectAlert(UnknownRecipe);
         Submit(typed);
         EXPECT_EQ(server->Lines().last(), QString("GET /halvane/api/recipes/") + asked);
     }
@@ -264,7 +259,7 @@ TEST_F(frmImportTest, WithoutContentLengthARecipeIsImported) {
     const QByteArray head = "HTTP/1.1 200 OK\r\n\r\n";
     server->Tell(RecipePath(), ScriptedServer::Raw(head + Json(SoupRecipe())));
     server->Tell(RecipePath("/ingredients"), ScriptedServer::Raw(head + Table(SoupRows())));
-    ExpectAlert(SuccessText);
+    ExpectAlert(ImportedText);
     SubmitSoup();
     EXPECT_EQ(Count("Recipes"), 1);
     EXPECT_EQ(Count("Ingredients"), 2);
@@ -320,7 +315,7 @@ TEST_F(frmImportTest, AServerThatIsDownIsAFailureAndTheNextTrySucceeds) {
     server = std::make_unique<ScriptedServer>();
     Server::SetAddress(server->Address());
     TellSoup();
-    ExpectAlert(SuccessText);
+    ExpectAlert(ImportedText);
     Press("cmdGo");
     EXPECT_EQ(Count("Recipes"), 1);
 }
@@ -428,7 +423,7 @@ TEST_F(frmImportTest, AnotherTryAfterAFailureImportsEverythingAgain) {
     server->Tell(RecipePath("/ingredients"), 200, Table({SoupRows().at(0), QJsonValue(7)}));
     ExpectFailure();
     TellSoup();
-    ExpectAlert(SuccessText);
+    ExpectAlert(ImportedText);
     Press("cmdGo");
     EXPECT_EQ(Count("Recipes"), 2);
     EXPECT_EQ(Count("Ingredients", "RecipeID = 1"), 1);
@@ -454,7 +449,7 @@ TEST_F(frmImportTest, TheFocusIsBackOnTheButtonAfterAFailure) {
     server->Tell(RecipePath(), 500, "");
     Type("txtRecID", QString::number(Soup));
     Go()->setFocus();
-    ExpectAlert(FailureText);
+    ExpectAlert(ImportFailed);
     QTest::keyClick(Go(), Qt::Key_Return);
     EXPECT_EQ(dialog->focusWidget(), Go());
 }

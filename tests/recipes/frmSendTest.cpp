@@ -11,17 +11,6 @@
 
 #include <SQLiteCpp/SQLiteCpp.h>
 
-namespace {
-const QString FailureText =
-    "There was an error posting your recipe. Please ensure you are connected to the internet and "
-    "try again. If this problem persists, please contact help@example.org.";
-const QString Sentence = "Your recipe has been sent to your friend.";
-
-const QString CreateLine = "POST /halvane/api/recipes";
-const QString AddLine = "POST /halvane/api/recipes/1218105222/ingredients";
-const QString PageLine = "GET /halvane/sendrecipe.asp?recID=1218105222";
-} // namespace
-
 class frmSendTest : public TransferTest {
 protected:
     void SetUp() override {
@@ -31,15 +20,10 @@ protected:
                             "Instructions = 'Rinse.\nCook.'");
         RecipeBook::AddIngredient(recipe, Counting("Lentils", 2));
         RecipeBook::AddIngredient(recipe, Counting("Water", 3));
-        TellAll();
+        TellSend();
         OpenSend();
     }
 
-    void TellAll(int rows = 2) {
-        server->Tell(CreateLine, 201, R"({"RecipeID":1218105222,"token":"abc"})");
-        server->Tell(AddLine, 201, "{\"added\":" + QByteArray::number(rows) + '}');
-        server->Tell(PageLine, 200, Sentence.toUtf8());
-    }
     void OpenSend(qint32 id = 0) { Open(new frmSend(id ? id : recipe, &window)); }
     void FillIn() {
         Type("txtEmail", "friend@example.org");
@@ -54,7 +38,7 @@ protected:
         EXPECT_FALSE(MousePointer::IsBusy());
         OpenSend();
     }
-    void ExpectFailure() { ExpectReply(FailureText); }
+    void ExpectFailure() { ExpectReply(SendFailed); }
     void ExpectFailureSoon() {
         dialog->Exchange().Http().SetLimit(OddLimit);
         ExpectFailure();
@@ -211,7 +195,7 @@ TEST_F(frmSendTest, AddressesAreNotChecked) {
 
 TEST_F(frmSendTest, AReplyWithoutContentLengthIsShownUnchanged) {
     for (const char* head : {"HTTP/1.1 200 OK\r\n\r\n", "HTTP/1.0 500 No\r\n\r\n"}) {
-        server->Tell(PageLine, ScriptedServer::Raw(head + Sentence.toUtf8()));
+        server->Tell(PageLine, ScriptedServer::Raw(head + Sentence));
         ExpectReply(Sentence);
     }
 }
@@ -264,7 +248,7 @@ TEST_F(frmSendTest, AReplyIsShownUnchanged) {
 
 TEST_F(frmSendTest, ASentenceIsShownWhateverItsStatus) {
     for (const int status : {201, 302, 400, 404, 429, 500, 503}) {
-        server->Tell(PageLine, status, Sentence.toUtf8());
+        server->Tell(PageLine, status, Sentence);
         ExpectReply(Sentence);
     }
 }
@@ -325,7 +309,7 @@ TEST_F(frmSendTest, AnUnexpectedReplyToTheRecipeFails) {
         server->Tell(CreateLine, 201, body);
         ExpectFailure();
     }
-    server->Tell(CreateLine, 200, R"({"RecipeID":1218105222,"token":"abc"})");
+    server->Tell(CreateLine, 200, Created);
     ExpectFailure();
     EXPECT_EQ(server->Lines().count(CreateLine), server->Lines().size());
 }

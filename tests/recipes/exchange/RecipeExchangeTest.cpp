@@ -9,17 +9,6 @@
 
 #include <SQLiteCpp/SQLiteCpp.h>
 
-namespace {
-const QString ImportedText = "The recipe has been successfully imported!";
-const QString NotImportedText = "The recipe could not be imported. Please try again or contact "
-                                "help@example.org for assistance.";
-const QString UnknownText = "Recipe not found in online database. Please ensure the recipe ID "
-                            "you've entered is correct and try again.";
-const QString NotSentText =
-    "There was an error posting your recipe. Please ensure you are connected to the internet and "
-    "try again. If this problem persists, please contact help@example.org.";
-} // namespace
-
 /// The dialogs with the real server, on each of its two databases.
 class RecipeExchangeTest : public TransferTest, public testing::WithParamInterface<const char*> {
 protected:
@@ -172,21 +161,21 @@ TEST_P(RecipeExchangeTest, ARecipeSentAndImportedTwiceIsThereTwice) {
 
 TEST_P(RecipeExchangeTest, AnIDThatNobodyHasIsNotFound) {
     for (const char* id : {"4711", "12.5", "1", "0", "-5", "2147483647"})
-        EXPECT_EQ(Import(id), UnknownText) << id;
-    EXPECT_EQ(Import("abc"), NotImportedText);
+        EXPECT_EQ(Import(id), UnknownRecipe) << id;
+    EXPECT_EQ(Import("abc"), ImportFailed);
     EXPECT_EQ(Count("Recipes"), 1);
 }
 
 TEST_P(RecipeExchangeTest, ARecipeThatTheExchangeRefusesIsNotSent) {
     UserDB().Raw().exec("UPDATE Recipes SET RecipeName = ''");
     EXPECT_EQ(Send(recipe), 0);
-    EXPECT_EQ(answer, NotSentText);
+    EXPECT_EQ(answer, SendFailed);
 }
 
 TEST_P(RecipeExchangeTest, AnExchangeThatHasEndedFailsBothWays) {
     const qint32 remote = Send(recipe);
     exchange.reset();
-    EXPECT_EQ(Import(QString::number(remote)), NotImportedText);
+    EXPECT_EQ(Import(QString::number(remote)), ImportFailed);
     Send(recipe);
-    EXPECT_EQ(answer, NotSentText);
+    EXPECT_EQ(answer, SendFailed);
 }
