@@ -33,8 +33,9 @@ constexpr Rule Rules[] = {
     {"frmDay", "Ctrl+Z", Removed, "USER_FOODS"},
     {"frmDay", "txtWeight", Added, "USER_WEIGHTS"},
     {"frmDay", "txtWeight", Changed, "USER_WEIGHTS profiles"},
-    {"frmDay", "", Changed, "profiles"},    // its weight becomes the current one
-    {"frmReport", "", Changed, "profiles"}, // the average does, until the report stands
+    {"frmDay", "", Changed, "profiles"},           // its weight becomes the current one
+    {"frmReport", "", Changed, "profiles"},        // the average does, until the report stands
+    {"", "cmdReport Ctrl+3", Changed, "profiles"}, // the screen does it while it is made
     {"frmFoodList", "cmdSave", Added, "FOODS"},
     {"frmFoodList", "cmdSave", Changed, "FOODS"},
     {"frmAlert Are you sure you want to delete this custom food?", "cmdOK", Removed, "FOODS"},

@@ -19,7 +19,7 @@ const QByteArray Added = R"({"added":2})";
 
 constexpr std::chrono::milliseconds ShortLimit(60); ///< for a reply that only the limit ends
 constexpr std::chrono::seconds LongLimit(20);
-constexpr int Unhurried = 10'000; ///< milliseconds that a busy machine may add
+constexpr int Unhurried = 60'000; ///< milliseconds that a busy machine may add
 
 constexpr int MostCalls = 3; ///< of one dialog
 
