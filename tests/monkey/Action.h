@@ -13,4 +13,7 @@ struct Action {
     QStringList controls; ///< at the place of the input and with the focus, each up to its window
 
     QString Line() const;
+    /// Neither the pointer nor the wheel nor time changes a record; they take the focus from no
+    /// field.
+    bool CanChange() const { return kind != Move && kind != Wheel && kind != Wait; }
 };

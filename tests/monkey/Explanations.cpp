@@ -63,16 +63,11 @@ bool IsAt(const QStringList& controls, const char* beginnings) {
     });
 }
 
-/// Neither the pointer nor the wheel nor time changes a record; they take the focus from no field.
-bool CanChange(Action::Kind kind) {
-    return kind != Action::Move && kind != Action::Wheel && kind != Action::Wait;
-}
-
 } // namespace
 
 bool Explanations::Covers(const Action& action, const QString& front, Change change,
                           const QString& table) {
-    return CanChange(action.kind) && std::ranges::any_of(Rules, [&](const Rule& rule) {
+    return action.CanChange() && std::ranges::any_of(Rules, [&](const Rule& rule) {
                const QLatin1String window(rule.window);
                const bool there =
                    action.window.startsWith(window) || action.screen == window || front == window;

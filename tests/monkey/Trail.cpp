@@ -1,29 +1,24 @@
 #include "monkey/Trail.h"
 
-#include <algorithm>
 #include <cstdio>
 
 namespace {
 constexpr int Kept = 40;
-const QStringList SavedWhenLeft{"txtWeight", "txtQTY"};
-
-bool IsAtSavedField(const Action& action) {
-    return std::ranges::any_of(
-        SavedWhenLeft, [&action](const QString& field) { return action.controls.contains(field); });
-}
+const QStringList WorkLater{"txtWeight", "txtQTY", "cmdGo", "txtRecID"};
 } // namespace
 
 void Trail::Add(const Action& action) {
     ++done_;
     actions_ << action;
-    if (IsAtSavedField(action))
-        atSavedField_ = action;
+    for (const QString& control : WorkLater)
+        if (action.CanChange() && action.controls.contains(control))
+            late_[control] = action;
     if (actions_.size() > Kept)
         actions_.removeFirst();
 }
 
 QList<Action> Trail::MayExplain() const {
-    return actions_.mid(qMax<qsizetype>(0, actions_.size() - 2)) << atSavedField_;
+    return actions_.mid(qMax<qsizetype>(0, actions_.size() - 2)) << late_.values();
 }
 
 void Trail::Report(const QString& finding) {
