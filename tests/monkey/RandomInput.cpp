@@ -97,7 +97,7 @@ QList<Qt::Key> KeysOf(Qt::KeyboardModifiers modifiers) {
 
 void SendKey(const QPointer<QWindow>& window, bool press, Qt::Key key, Qt::KeyboardModifiers with) {
     const char text = QTest::keyToAscii(key);
-    if (window)
+    if (window && window->isVisible())
         QTest::simulateEvent(window, press, key, with,
                              text ? QString(QLatin1Char(text)) : QString(), false);
 }
@@ -112,9 +112,10 @@ void PressAndRelease(const QPointer<QWindow>& window, Qt::Key key, Qt::KeyboardM
     }
 }
 
-/// A character that no key of this keyboard gives comes from an input method.
+/// A character that no key of this keyboard gives comes from an input method. A character before
+/// may have closed the window, and a dialog of its own may be over, too.
 void Type(const QPointer<QWidget>& window, QChar character) {
-    if (!window || !window->windowHandle())
+    if (!window || !window->isVisible() || !window->windowHandle())
         return;
     if (character.unicode() >= ' ' && character.unicode() < 0x7f)
         return QTest::keyClick(window->windowHandle(), char(character.unicode()));
