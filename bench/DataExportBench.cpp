@@ -2,7 +2,7 @@
 #include "Ground.h"
 #include "Table.h"
 
-#include "commands/OutputFile.h"
+#include "records/OutputFile.h"
 #include "records/RecordsFolder.h"
 #include "records/document/DocumentSection.h"
 #include "records/document/RecordsDocument.h"
@@ -22,7 +22,7 @@ void ExportOurs(benchmark::State& state) {
     const Ground ground(true);
     CloseBoth();
     for (auto _ : state) {
-        OutputFile file(FileBeside(QStringLiteral("records.json")).toStdString());
+        OutputFile file(FileBeside(QStringLiteral("records.json")));
         RecordsDocument::Export(
             RecordsFolder(ApplicationPath()), [&](std::string_view piece) { file.Write(piece); },
             [](qint64, qint64) {});

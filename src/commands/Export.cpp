@@ -1,8 +1,8 @@
 #include "commands/Commands.h"
-#include "commands/OutputFile.h"
 #include "commands/Progress.h"
 #include "commands/SectionNames.h"
 #include "commands/Session.h"
+#include "records/OutputFile.h"
 #include "records/document/DocumentFormat.h"
 #include "records/document/DocumentSection.h"
 #include "records/document/RecordsDocument.h"
@@ -50,7 +50,7 @@ void Print(const Session& session, const QString& path, const std::map<std::stri
 
 int ExportToFile(const Session& session, const QString& path) {
     RequireNoOtherFile(path);
-    OutputFile file(path.toStdString());
+    OutputFile file(path);
     const auto counts = ExportTo(session, [&](std::string_view piece) { file.Write(piece); });
     file.Keep();
     Print(session, path, counts);

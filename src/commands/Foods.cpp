@@ -1,7 +1,7 @@
 #include "commands/Commands.h"
-#include "commands/OutputFile.h"
 #include "commands/Progress.h"
 #include "commands/Session.h"
+#include "records/OutputFile.h"
 #include "records/fooddata/FoodImport.h"
 
 #include <QJsonArray>
@@ -62,7 +62,7 @@ void TellRefusals(const Session& session, const FoodTally& tally) {
 }
 
 void WriteRejects(OutputFile& file, const FoodTally& tally) {
-    file.Write(tally.RefusalTable().toStdString());
+    file.Write(tally.RefusalTable());
     file.Keep();
 }
 
@@ -72,7 +72,7 @@ int Import(const Session& session, const Wanted& wanted) {
         options.filter.Add(QString::fromStdString(one));
     std::optional<OutputFile> rejects; // nothing changes if it cannot be opened
     if (!wanted.rejects.empty())
-        rejects.emplace(wanted.rejects);
+        rejects.emplace(QString::fromStdString(wanted.rejects));
     Progress progress(session, QStringLiteral("Reading"));
     options.step = [&](qint64 done, qint64 total) { progress.Step(done, total); };
     const FoodTally tally = FoodImport::Run(session.Records(), options);

@@ -1,9 +1,9 @@
 #include "commands/Commands.h"
 #include "commands/OneOf.h"
-#include "commands/OutputFile.h"
 #include "commands/RecipeQuestions.h"
 #include "commands/Session.h"
 #include "commands/Waiting.h"
+#include "records/OutputFile.h"
 #include "records/RecordsReading.h"
 #include "records/recipefiles/RecipeFiles.h"
 #include "records/recipefiles/RecipeImport.h"
@@ -53,7 +53,7 @@ int Export(const Session& session, const ExportWanted& wanted) {
         session.Flush();
         return Done;
     }
-    OutputFile file(wanted.file);
+    OutputFile file(QString::fromStdString(wanted.file));
     file.Write(bytes.toStdString());
     file.Keep();
     if (session.json)

@@ -1,10 +1,10 @@
 #include "commands/Commands.h"
 #include "commands/OneOf.h"
-#include "commands/OutputFile.h"
 #include "commands/PeriodOption.h"
 #include "commands/Session.h"
 #include "commands/Waiting.h"
 #include "drawing/Style.h"
+#include "records/OutputFile.h"
 #include "records/RecordsReading.h"
 #include "records/report/HtmlReport.h"
 #include "records/report/PdfReport.h"
@@ -43,7 +43,7 @@ int WriteReport(const Session& session, const Choice& choice, const Period& peri
     const Waiting waiting(session, QStringLiteral("Drawing the report"));
     const RecordsReading records(session.Records());
     session.ChooseProfile();
-    OutputFile file(choice.out);
+    OutputFile file(QString::fromStdString(choice.out));
     UseStyleOnPaper();
     const ReportFigures figures = ReportFigures::Of(period);
     const QByteArray report =

@@ -1,8 +1,8 @@
 #include "commands/Commands.h"
 #include "commands/OneOf.h"
-#include "commands/OutputFile.h"
 #include "commands/PeriodOption.h"
 #include "commands/Session.h"
+#include "records/OutputFile.h"
 #include "records/RecordsReading.h"
 #include "records/tables/TableKinds.h"
 #include "records/tables/TableWriter.h"
@@ -67,7 +67,7 @@ int WriteTable(const Session& session, const Choice& choice, const Period& perio
         session.Flush();
         return Done;
     }
-    OutputFile file(choice.out);
+    OutputFile file(QString::fromStdString(choice.out));
     Write(choice, format, period, [&file](std::string_view bytes) { file.Write(bytes); });
     file.Keep();
     return Done;

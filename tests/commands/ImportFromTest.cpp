@@ -75,7 +75,7 @@ TEST_F(ImportFromTest, WhatItCannotReadIsNamed) {
     Write("servings.csv", "a,b\n1,2\n");
     const Run run = Import({});
     EXPECT_EQ(run.code, Cannot);
-    EXPECT_TRUE(run.error.contains("servings.csv is no table that Cronometer exports"));
+    EXPECT_TRUE(run.error.contains("servings.csv is not a table that Cronometer exports"));
 }
 
 TEST_F(ImportFromTest, WrongOptionsAreUsageErrors) {

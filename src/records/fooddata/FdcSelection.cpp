@@ -77,7 +77,7 @@ void FdcSelection::ReadFoods() {
         food.published = table.Day(Published);
         if (food.key == 0)
             tally_.Refuse(table.Name(), food.line, QString::fromUtf8(food.name),
-                          QStringLiteral("its fdc_id is no number"));
+                          QStringLiteral("its fdc_id is not a number"));
         else
             foods_.push_back(std::move(food));
     }

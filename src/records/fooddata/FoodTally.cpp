@@ -6,14 +6,10 @@ void FoodTally::Refuse(const QString& file, int line, const QString& food, const
     refusals_.append({file + u':' + QString::number(line), food, reason});
 }
 
-QByteArray FoodTally::RefusalTable() const {
-    QByteArray table = "place,food,reason\r\n";
-    for (const Refusal& refusal : refusals_) {
-        const QStringList cells{CsvText::ForeignCell(refusal.place),
-                                CsvText::ForeignCell(refusal.food),
-                                CsvText::ForeignCell(refusal.reason)};
-        table += cells.join(u',').toUtf8() + "\r\n";
-    }
+std::string FoodTally::RefusalTable() const {
+    std::string table = "place,food,reason\r\n";
+    for (const Refusal& refusal : refusals_)
+        table += CsvText::ForeignLine({refusal.place, refusal.food, refusal.reason});
     return table;
 }
 

@@ -4,6 +4,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <string>
+
 /// What an import of foods did with the rows of its files.
 class FoodTally {
 public:
@@ -18,7 +20,7 @@ public:
 
     const QList<Refusal>& Refusals() const { return refusals_; }
     const QMap<QString, int>& Notes() const { return notes_; } ///< how often each was noted
-    QByteArray RefusalTable() const; ///< comma separated values with a header
+    std::string RefusalTable() const; ///< comma separated values with a header
 
     int added = 0;
     int updated = 0;

@@ -1,9 +1,11 @@
 #include "records/peers/OpenNutriTracker.h"
 
+#include "records/peers/PeerFile.h"
 #include "records/peers/PeerJson.h"
 #include "records/peers/PeerReading.h"
 #include "records/peers/PeerTables.h"
 #include "records/peers/PeerValues.h"
+#include "records/text/JsonInput.h"
 
 #include <algorithm>
 
@@ -78,7 +80,7 @@ public:
 
     /// The kind of a file is told by what its elements hold.
     void ReadJson(const PeerFile& file) {
-        const QJsonArray all = PeerJson::Document(file).array();
+        const QJsonArray all = JsonInput::Parsed(file.ReadAll(), file.name).array();
         const QJsonObject first = all.first().toObject();
         const auto forEach = [&](auto take) {
             PeerJson::ForEach(

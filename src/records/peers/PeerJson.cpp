@@ -1,6 +1,5 @@
 #include "records/peers/PeerJson.h"
 
-#include "records/peers/PeerFile.h"
 #include "records/peers/PeerNumber.h"
 
 #include <cmath>
@@ -14,20 +13,6 @@ QString Compact(const QJsonValue& value) {
     return QString::fromUtf8(document.toJson(QJsonDocument::Compact)).left(LongestQuote);
 }
 } // namespace
-
-QJsonDocument PeerJson::Document(const PeerFile& file) {
-    QJsonParseError error;
-    const QByteArray content = file.ReadAll();
-    const bool hasMark = content.startsWith("\xEF\xBB\xBF");
-    const QJsonDocument document =
-        QJsonDocument::fromJson(hasMark ? content.mid(3) : content, &error);
-    if (document.isNull())
-        throw RuntimeError(ErrorNumber::TypeMismatch,
-                           QStringLiteral("%1 is no JSON: %2 at byte %3.")
-                               .arg(file.name, error.errorString())
-                               .arg(error.offset));
-    return document;
-}
 
 std::optional<double> PeerJson::Number(const QJsonValue& value) {
     if (value.isNull() || value.isUndefined())

@@ -7,12 +7,8 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
-struct PeerFile;
-
 /// A JSON file of another program.
 namespace PeerJson {
-QJsonDocument Document(const PeerFile& file); ///< fails where it is none, and says at which byte
-
 /// Numbers may be texts. Empty for null, an empty text and a missing key; fails for all else.
 std::optional<double> Number(const QJsonValue& value);
 QString Text(const QJsonValue& value); ///< of a text or a number; empty for all else

@@ -22,7 +22,7 @@ std::optional<PeerTable> PeerTables::Opened(const PeerFile& file) const {
 void PeerTables::TellUnknown(const PeerFile& file) const {
     if (!file.isMember)
         throw RuntimeError(ErrorNumber::TypeMismatch,
-                           file.name + " is no table that " + program_ +
+                           file.name + " is not a table that " + program_ +
                                " exports: its header names other columns.");
     into_.LeaveOut({file.name, {}, {}}, QStringLiteral("It holds nothing that is kept here."));
 }

@@ -112,6 +112,6 @@ void PeerValues::SetPortion(ImportedFood& food, const QString& amount) {
 double PeerValues::Pounds(std::optional<double> weight, WeightUnit unit) {
     const double pounds = Units::Pounds(weight.value_or(0), unit);
     if (!(pounds > 0 && pounds <= HeaviestWeight))
-        Refuse(QStringLiteral("It is no weight."));
+        Refuse(QStringLiteral("It is not a weight."));
     return pounds;
 }

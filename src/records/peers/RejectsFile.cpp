@@ -1,25 +1,14 @@
 #include "records/peers/RejectsFile.h"
 
+#include "records/OutputFile.h"
 #include "records/text/CsvText.h"
 #include "runtime/RuntimeError.h"
 
-#include <QSaveFile>
-
 namespace {
-QString Line(const Reject& reject) {
-    QStringList cells{reject.origin.file, reject.origin.place, RejectsFile::Word(reject.kind),
-                      reject.reason, reject.origin.text};
-    for (QString& cell : cells)
-        cell = CsvText::ForeignCell(cell);
-    return cells.join(u',') + "\r\n";
-}
-
-void Require(bool done, const QSaveFile& file) {
-    if (!done)
-        throw RuntimeError(ErrorNumber::FileAccess,
-                           "The rows that were not taken cannot be listed in " + file.fileName() +
-                               ": " + file.errorString() +
-                               ". Name another file with --rejects. Nothing was changed.");
+std::string Line(const Reject& reject) {
+    return CsvText::ForeignLine({reject.origin.file, reject.origin.place,
+                                 RejectsFile::Word(reject.kind), reject.reason,
+                                 reject.origin.text});
 }
 } // namespace
 
@@ -35,10 +24,16 @@ QString RejectsFile::Word(Reject::Kind kind) {
 }
 
 void RejectsFile::Write(const QString& path, const std::vector<Reject>& rejects) {
-    QSaveFile file(path);
-    Require(file.open(QIODevice::WriteOnly), file);
-    file.write("file,place,what,reason,row\r\n");
-    for (const Reject& reject : rejects)
-        file.write(Line(reject).toUtf8());
-    Require(file.flush() && file.commit(), file); // commit keeps a file whose last bytes do not fit
+    try {
+        OutputFile file(path);
+        file.Write("file,place,what,reason,row\r\n");
+        for (const Reject& reject : rejects)
+            file.Write(Line(reject));
+        file.Keep();
+    } catch (const RuntimeError& failure) {
+        throw RuntimeError(failure.Number(),
+                           failure.Description() +
+                               " It is to list the rows that are not taken. Name another file "
+                               "with --rejects. Nothing was changed.");
+    }
 }

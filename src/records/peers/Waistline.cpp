@@ -5,6 +5,7 @@
 #include "records/peers/PeerJson.h"
 #include "records/peers/PeerReading.h"
 #include "records/peers/PeerValues.h"
+#include "records/text/JsonInput.h"
 #include "runtime/Convert.h"
 
 #include <QHash>
@@ -263,9 +264,9 @@ private:
 void Waistline::Read(const std::vector<PeerFile>& files, const PeerChoices& choices,
                      Imported& into) {
     for (const PeerFile& file : files) {
-        const QJsonObject backup = PeerJson::Document(file).object();
+        const QJsonObject backup = JsonInput::Parsed(file.ReadAll(), file.name).object();
         if (!backup[u"foodList"].isArray() || !backup[u"diary"].isArray())
-            Refuse(file.name + " is no backup of Waistline: it has no foodList and no diary.");
+            Refuse(file.name + " is not a backup of Waistline: it has no foodList and no diary.");
         Reader(file.name, backup, choices, into).Read();
     }
 }

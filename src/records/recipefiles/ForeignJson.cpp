@@ -1,10 +1,9 @@
 #include "records/recipefiles/ForeignJson.h"
 
+#include "records/text/JsonInput.h"
 #include "runtime/Convert.h"
-#include "runtime/RuntimeError.h"
 
 #include <QJsonArray>
-#include <QJsonDocument>
 #include <QRegularExpression>
 
 #include <optional>
@@ -52,13 +51,7 @@ QString WithoutEntities(const QString& text) {
 } // namespace
 
 QJsonValue ForeignJson::Document(const QByteArray& bytes) {
-    QJsonParseError error{};
-    const QJsonDocument document = QJsonDocument::fromJson(bytes, &error);
-    if (error.error != QJsonParseError::NoError)
-        throw RuntimeError(ErrorNumber::TypeMismatch,
-                           QStringLiteral("It is no JSON: at byte %1 the reader says: %2.")
-                               .arg(error.offset)
-                               .arg(error.errorString()));
+    const QJsonDocument document = JsonInput::Parsed(bytes, QStringLiteral("It"));
     return document.isArray() ? QJsonValue(document.array()) : QJsonValue(document.object());
 }
 

@@ -7,6 +7,7 @@
 #include "records/recipefiles/MealieRecipes.h"
 #include "records/recipefiles/SchemaRecipes.h"
 #include "records/recipefiles/TandoorRecipes.h"
+#include "records/text/ByteOrderMark.h"
 #include "runtime/RuntimeError.h"
 
 #include <QFile>
@@ -47,13 +48,8 @@ Drafts OfText(const QByteArray& bytes) {
     return MarkdownRecipes::Read(QString::fromUtf8(bytes));
 }
 
-/// A byte order mark is no part of the text.
-QByteArray WithoutMark(const QByteArray& bytes) {
-    return bytes.startsWith("\xEF\xBB\xBF") ? bytes.mid(3) : bytes;
-}
-
 Drafts OfPlain(const QByteArray& bytes) {
-    const QByteArray text = WithoutMark(bytes);
+    const QByteArray text = ByteOrderMark::Removed(bytes);
     const QByteArray start = text.left(1000).trimmed();
     const bool isJson = start.startsWith('{') || start.startsWith('[');
     return isJson ? OfJson(ForeignJson::Document(text)) : OfText(text);

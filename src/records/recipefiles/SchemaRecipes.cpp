@@ -6,9 +6,12 @@
 #include "records/recipefiles/NutritionText.h"
 #include "records/recipefiles/OwnRecipeJson.h"
 #include "records/recipefiles/Yield.h"
+#include "runtime/RuntimeError.h"
 
 #include <QJsonArray>
 #include <QRegularExpression>
+
+#include <optional>
 
 namespace {
 bool IsRecipe(const QJsonObject& object) {
@@ -142,7 +145,14 @@ QList<RecipeDraft> SchemaRecipes::ReadPage(const QString& page) {
         QStringLiteral("<script[^>]{1,200}application/ld\\+json[^>]{0,200}>(.*?)</script>"),
         QRegularExpression::CaseInsensitiveOption | QRegularExpression::DotMatchesEverythingOption);
     QList<RecipeDraft> recipes;
+    std::optional<RuntimeError> broken;
     for (auto all = block.globalMatch(page); all.hasNext();)
-        recipes << Read(ForeignJson::Document(all.next().captured(1).toUtf8()));
+        try {
+            recipes << Read(ForeignJson::Document(all.next().captured(1).toUtf8()));
+        } catch (const RuntimeError& failure) {
+            broken = failure;
+        }
+    if (recipes.isEmpty() && broken)
+        throw RuntimeError(*broken);
     return recipes;
 }

@@ -10,7 +10,8 @@ namespace SchemaRecipes {
 inline constexpr QLatin1String OwnPart("halvane"); ///< the property that holds all of it
 
 QList<RecipeDraft> Read(const QJsonValue& document);
-/// All blocks of JSON-LD of a web page.
+/// All blocks of JSON-LD of a web page. One that is broken is passed over where another one holds
+/// a recipe; otherwise it fails.
 QList<RecipeDraft> ReadPage(const QString& page);
 QByteArray Write(const QList<RecipeDraft>& recipes);
 } // namespace SchemaRecipes

@@ -1,35 +1,18 @@
 #include "records/tables/CsvWriter.h"
 
 #include "records/tables/CellText.h"
+#include "records/text/CsvText.h"
 
 namespace {
 constexpr size_t BufferSize = 1 << 16;
-constexpr auto FormulaBeginnings = "=+-@\t\r";
-constexpr auto NeedQuotes = "\",\r\n";
-
-bool LooksLikeFormula(const std::string& text) {
-    return text.find_first_of(FormulaBeginnings) == 0;
-}
-
-std::string Quoted(const std::string& text) {
-    std::string quoted = "\"";
-    for (const char at : text)
-        quoted.append(at == '"' ? 2 : 1, at);
-    return quoted + '"';
-}
 } // namespace
 
 CsvWriter::CsvWriter(const QString&, Sink sink)
     : sink_(std::move(sink)) {}
 
-std::string CsvWriter::Field(const std::string& text) {
-    const std::string guarded = LooksLikeFormula(text) ? '\'' + text : text;
-    return guarded.find_first_of(NeedQuotes) == guarded.npos ? guarded : Quoted(guarded);
-}
-
 void CsvWriter::Head(const std::vector<TableColumn>& columns) {
     for (const TableColumn& column : columns)
-        buffer_ += Field(column.Caption().toStdString()) + ',';
+        buffer_ += CsvText::ForeignCell(column.Caption().toStdString()) + ',';
     EndLine();
 }
 
@@ -38,7 +21,7 @@ void CsvWriter::Row(const std::vector<Cell>& cells) {
         if (const auto* number = std::get_if<double>(&cell))
             CellText::AddNumber(buffer_, *number);
         else if (const auto* text = std::get_if<std::string>(&cell))
-            buffer_ += Field(*text);
+            buffer_ += CsvText::ForeignCell(*text);
         else if (const auto* day = std::get_if<QDate>(&cell))
             buffer_ += CellText::Iso(*day);
         buffer_ += ',';

@@ -1,12 +1,12 @@
 #include "records/text/CsvReader.h"
 
+#include "records/text/ByteOrderMark.h"
 #include "records/text/CsvText.h"
 #include "runtime/RuntimeError.h"
 
 #include <QIODevice>
 
 #include <algorithm>
-#include <cstring>
 
 namespace {
 constexpr qsizetype Chunk = 1 << 16;
@@ -21,9 +21,8 @@ CsvReader::CsvReader(QIODevice& device, char separator, Limits limits)
     : device_(device)
     , separator_(separator)
     , limits_(limits) {
-    constexpr char mark[] = "\xEF\xBB\xBF";
-    if (Peek() != AtEnd && buffer_.startsWith(mark))
-        start_ = std::strlen(mark);
+    if (Peek() != AtEnd && buffer_.startsWith(ByteOrderMark::Bytes))
+        start_ = ByteOrderMark::Bytes.size();
 }
 
 bool CsvReader::Next() {
@@ -47,10 +46,11 @@ QByteArrayView CsvReader::operator[](int field) const {
 }
 
 QString CsvReader::Source() const {
-    QStringList cells;
+    std::string record;
     for (int i = 0; i < Count(); ++i)
-        cells << CsvText::Cell(Text(i));
-    return cells.join(QLatin1Char(separator_));
+        record += (i == 0 ? "" : std::string(1, separator_)) +
+                  CsvText::Cell((*this)[i].toByteArray().toStdString(), separator_);
+    return QString::fromStdString(record);
 }
 
 void CsvReader::StartRecord() {

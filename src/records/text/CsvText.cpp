@@ -1,23 +1,34 @@
 #include "records/text/CsvText.h"
 
-#include <algorithm>
-
 namespace {
-bool NeedsQuotes(QChar c) {
-    return c == u'"' || c == u',' || c == u';' || c == u'\t' || c == u'\n' || c == u'\r';
+constexpr auto FormulaBeginnings = "=+-@\t\r";
+
+bool LooksLikeFormula(const std::string& text) {
+    return text.find_first_of(FormulaBeginnings) == 0;
 }
 
-bool LooksLikeAFormula(QStringView text) {
-    return !text.isEmpty() && QStringView(u"=+-@\t\r").contains(text.front());
+std::string Quoted(const std::string& text) {
+    std::string quoted = "\"";
+    for (const char at : text)
+        quoted.append(at == '"' ? 2 : 1, at);
+    return quoted + '"';
 }
 } // namespace
 
-QString CsvText::Cell(QStringView text) {
-    if (std::none_of(text.begin(), text.end(), NeedsQuotes))
-        return text.toString();
-    return u'"' + text.toString().replace(u'"', QStringLiteral("\"\"")) + u'"';
+std::string CsvText::Cell(std::string text, char separator) {
+    const char special[] = {separator, '"', '\r', '\n'};
+    return text.find_first_of(special, 0, sizeof special) == text.npos ? std::move(text)
+                                                                       : Quoted(text);
 }
 
-QString CsvText::ForeignCell(QStringView text) {
-    return Cell(LooksLikeAFormula(text) ? QString(u'\'' + text.toString()) : text.toString());
+std::string CsvText::ForeignCell(std::string text) {
+    return Cell(LooksLikeFormula(text) ? '\'' + text : std::move(text));
+}
+
+std::string CsvText::ForeignLine(const QStringList& cells) {
+    std::string line;
+    for (const QString& cell : cells)
+        line += ForeignCell(cell.toStdString()) + ',';
+    line.pop_back();
+    return line + "\r\n";
 }

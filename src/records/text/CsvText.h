@@ -1,11 +1,16 @@
 #pragma once
 
-#include <QString>
-#include <QStringView>
+#include <QStringList>
 
-/// Writes values for a file of comma separated values (RFC 4180).
+#include <string>
+
+/// Writes comma separated values (RFC 4180) in UTF-8.
 namespace CsvText {
-QString Cell(QStringView text); ///< in quotes where they are needed
-/// The same for a text of unknown origin: a spreadsheet does not take it for a formula.
-QString ForeignCell(QStringView text);
+/// In quotes where they are needed.
+std::string Cell(std::string text, char separator = ',');
+/// The same for a text of unknown origin. If a spreadsheet would take it for a formula, it gets an
+/// apostrophe in front, which makes it a text there.
+std::string ForeignCell(std::string text);
+/// A record of texts of unknown origin, with its line end.
+std::string ForeignLine(const QStringList& cells);
 } // namespace CsvText

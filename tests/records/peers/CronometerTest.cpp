@@ -203,6 +203,6 @@ TEST_F(CronometerTest, ADateWithSlashesIsReadInTheOrderThatIsSaid) {
 
 TEST_F(CronometerTest, AFileOfAnotherProgramIsRefusedWhole) {
     EXPECT_EQ(Failure(From("cronometer", {"loseit-food-logs.csv"})),
-              "loseit-food-logs.csv is no table that Cronometer exports: its header names other "
+              "loseit-food-logs.csv is not a table that Cronometer exports: its header names other "
               "columns.");
 }

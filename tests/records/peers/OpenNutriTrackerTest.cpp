@@ -61,7 +61,7 @@ TEST_F(OpenNutriTrackerTest, JsonGoesBeforeTheTableOfTheSameExport) {
     EXPECT_EQ(result.weights.added, 1);
     EXPECT_EQ(result.recipes.added, 1);
     EXPECT_EQ(User("SELECT Calories FROM Ingredients WHERE FoodName = 'Soup'"), 400.0);
-    EXPECT_EQ(Listed(result, Kind::Refused), QStringList("element 2: It is no weight."));
+    EXPECT_EQ(Listed(result, Kind::Refused), QStringList("element 2: It is not a weight."));
     EXPECT_EQ(result.CountOf(Kind::LeftOut), 3 + 3 + 1 + 1);
 }
 

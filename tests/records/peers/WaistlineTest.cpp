@@ -109,10 +109,10 @@ TEST_F(WaistlineTest, WhatIsNoBackupIsRefusedWhole) {
     const auto message = [this](const QByteArray& content) {
         return Failure(From("waistline", {Write("a.json", content)}));
     };
-    EXPECT_TRUE(message("[]").startsWith("a.json is no backup of Waistline"));
-    EXPECT_TRUE(message("{\"version\": 1, \"foodList\": []}").startsWith("a.json is no backup"));
-    EXPECT_TRUE(message("{\"foodList\": [").startsWith("a.json is no JSON: "));
-    EXPECT_TRUE(message(QByteArray(100'000, '[')).startsWith("a.json is no JSON: "));
-    EXPECT_TRUE(message("\xFF\xFE{").startsWith("a.json is no JSON: "));
-    EXPECT_TRUE(message("").startsWith("a.json is no JSON: "));
+    EXPECT_TRUE(message("[]").startsWith("a.json is not a backup of Waistline"));
+    EXPECT_TRUE(message("{\"version\": 1, \"foodList\": []}").startsWith("a.json is not a backup"));
+    EXPECT_TRUE(message("{\"foodList\": [").startsWith("a.json is not JSON: "));
+    EXPECT_TRUE(message(QByteArray(100'000, '[')).startsWith("a.json is not JSON: "));
+    EXPECT_TRUE(message("\xFF\xFE{").startsWith("a.json is not JSON: "));
+    EXPECT_TRUE(message("").startsWith("a.json is not JSON: "));
 }

@@ -146,6 +146,20 @@ TEST_F(RecipeFilesTest, JsonLdIsFoundInGraphsArraysAndWebPages) {
               "Lentil soup (invented)");
 }
 
+TEST_F(RecipeFilesTest, ABrokenBlockOfAPageDoesNotHideTheRecipeOfAnother) {
+    const QByteArray begin = "<script type=\"application/ld+json\">";
+    const QByteArray broken = begin + R"({"@type": "WebSite", "name": "Soups",})" + "</script>";
+    const QByteArray sound = begin + Schema + "</script>";
+    EXPECT_EQ(One("a", "<html>" + broken + sound).Name(), "Lentil soup (invented)");
+    EXPECT_EQ(One("a", "<html>" + sound + broken).Name(), "Lentil soup (invented)");
+}
+
+TEST_F(RecipeFilesTest, APageWithBrokenBlocksAloneSaysWhatIsWrong) {
+    const QString message =
+        Refusal("<html><script type=\"application/ld+json\">{\"name\":}</script>");
+    EXPECT_TRUE(message.contains("It is not JSON: ")) << message.toStdString();
+}
+
 TEST_F(RecipeFilesTest, JsonLdMayBeOlderOrLoose) {
     const RecipeDraft recipe = One("a", R"({"@type": ["Thing", "Recipe"], "name": "A &amp; B",
         "yield": ["", "12 rolls"], "prepTime": "PT", "cookTime": {"maxValue": "PT1H30M"},
@@ -277,8 +291,8 @@ TEST_F(RecipeFilesTest, WhatARecipeLacksIsFilledInAndWhatTheScreenRefusesIsRepla
 
 TEST_F(RecipeFilesTest, BadFilesAreRefusedWithTheirNames) {
     const QString place = Folder() + "/refused: ";
-    EXPECT_TRUE(Refusal("{\"@type\": \"Recipe\", ").startsWith(place + "It is no JSON: at byte "));
-    EXPECT_TRUE(Refusal(QByteArray(100'000, '[')).startsWith(place + "It is no JSON"));
+    EXPECT_TRUE(Refusal("{\"@type\": \"Recipe\", ").startsWith(place + "It is not JSON: "));
+    EXPECT_TRUE(Refusal(QByteArray(100'000, '[')).startsWith(place + "It is not JSON"));
     EXPECT_EQ(Refusal("{}"), place + "There is no recipe in it that can be read.");
     EXPECT_EQ(Refusal(""), place + "There is no recipe in it that can be read.");
     EXPECT_EQ(Refusal(QByteArray(20 << 20, 'x')),

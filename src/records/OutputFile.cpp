@@ -1,9 +1,9 @@
-#include "commands/OutputFile.h"
+#include "records/OutputFile.h"
 
 #include "runtime/RuntimeError.h"
 
-OutputFile::OutputFile(const std::string& path)
-    : file_(QString::fromStdString(path)) {
+OutputFile::OutputFile(const QString& path)
+    : file_(path) {
     if (!file_.open(QIODevice::WriteOnly))
         Fail();
 }
