@@ -2,6 +2,7 @@
 
 #include "foods/CustomFood.h"
 #include "foods/CustomFoods.h"
+#include "records/StoredAmounts.h"
 #include "records/fooddata/FoodTally.h"
 #include "runtime/RuntimeError.h"
 #include "store/Connection.h"
@@ -12,23 +13,18 @@
 namespace {
 constexpr int MostAppended = 500;
 
-QVariant Stored(std::optional<double> amount) {
-    return amount ? QVariant(*amount) : QVariant();
-}
-
 /// Unlike a food that a person types, an amount that is missing stays unknown.
 void SetFields(Recordset& row, const CustomFood& food) {
     row.Set(QStringLiteral("FoodName"), food.name);
     row.Set(QStringLiteral("Serv_Desc_A"), food.serving);
     row.Set(QStringLiteral("Serv_GM_WT_A"), CustomFoods::ServingGrams);
-    for (int position = 1; const Nutrient id : StoredOrder())
-        row.Set(position++, Stored(food.amounts[id]));
+    StoredAmounts::Set(row, food.amounts);
 }
 
 bool Holds(const Recordset& row, const CustomFood& food) {
     return row[QStringLiteral("FoodName")].Text() == food.name &&
            row[QStringLiteral("Serv_Desc_A")].Text() == food.serving &&
-           NutrientAmounts::Of(row) == food.amounts;
+           StoredAmounts::Of(row) == food.amounts;
 }
 } // namespace
 

@@ -5,6 +5,7 @@
 #include "intake/DayLog.h"
 #include "model/User.h"
 #include "recipes/RecipeBook.h"
+#include "records/StoredAmounts.h"
 #include "records/peers/StoredFood.h"
 #include "runtime/Convert.h"
 #include "runtime/Round.h"
@@ -101,10 +102,8 @@ QHash<QDate, double> StoredWeights(const QString& days) {
 }
 
 QVariantList IngredientRow(const ImportedFood& food) {
-    QVariantList values;
-    for (const Nutrient id : StoredOrder())
-        values << (food.amounts[id] ? QVariant(*food.amounts[id]) : QVariant());
-    return values << food.name << food.serving << QVariant() << food.quantity;
+    return StoredAmounts::Values(food.amounts)
+           << food.name << food.serving << QVariant() << food.quantity;
 }
 } // namespace
 
@@ -160,7 +159,7 @@ void RecordsMerge::CompareFoods() {
          !rows.AtEnd(); rows.MoveNext())
         present.Add(
             OwnFoodKey({rows[QStringLiteral("FoodName")].Text(),
-                        rows[QStringLiteral("Serv_Desc_A")].Text(), StoredFood::Amounts(rows)}));
+                        rows[QStringLiteral("Serv_Desc_A")].Text(), StoredAmounts::Of(rows)}));
     foods_ = Separate(imported_.foods, present,
                       [](const ImportedOwnFood& own) { return OwnFoodKey(own.food); });
 }
@@ -212,7 +211,7 @@ void RecordsMerge::WriteFoods() const {
         rows.Set(QStringLiteral("FoodName"), own.food.name);
         rows.Set(QStringLiteral("Serv_Desc_A"), own.food.serving);
         rows.Set(QStringLiteral("Serv_GM_WT_A"), CustomFoods::ServingGrams);
-        StoredFood::SetAmounts(rows, own.food.amounts);
+        StoredAmounts::Set(rows, own.food.amounts);
         rows.Update();
     }
 }

@@ -1,12 +1,11 @@
 #include "records/peers/StoredFood.h"
 
+#include "records/StoredAmounts.h"
 #include "store/Recordset.h"
 
 #include <limits>
 
 namespace {
-constexpr int FirstAmount = 1;
-
 void Append(QByteArray& key, double number) {
     key.append(reinterpret_cast<const char*>(&number), sizeof number);
 }
@@ -16,30 +15,13 @@ void Append(QByteArray& key, const QString& text) {
 }
 } // namespace
 
-NutrientAmounts StoredFood::Amounts(const Recordset& row) {
-    NutrientAmounts amounts;
-    int position = FirstAmount;
-    for (const Nutrient id : StoredOrder())
-        if (const Field field = row[position++]; !field.IsNull())
-            amounts.Set(id, field.NumberOr(0));
-    return amounts;
-}
-
-void StoredFood::SetAmounts(Recordset& row, const NutrientAmounts& amounts) {
-    int position = FirstAmount;
-    for (const Nutrient id : StoredOrder()) {
-        const auto amount = amounts[id];
-        row.Set(position++, amount ? QVariant(*amount) : QVariant());
-    }
-}
-
 ImportedFood StoredFood::Read(const Recordset& row) {
     return {row[QStringLiteral("FoodName")].Text(), row[QStringLiteral("Serving")].Text(),
-            row[QStringLiteral("QTY")].NumberOr(0), Amounts(row)};
+            row[QStringLiteral("QTY")].NumberOr(0), StoredAmounts::Of(row)};
 }
 
 void StoredFood::Set(Recordset& row, const ImportedFood& food) {
-    SetAmounts(row, food.amounts);
+    StoredAmounts::Set(row, food.amounts);
     row.Set(QStringLiteral("FoodName"), food.name);
     row.Set(QStringLiteral("Serving"), food.serving);
     row.Set(QStringLiteral("QTY"), food.quantity);

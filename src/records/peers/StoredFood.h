@@ -4,13 +4,9 @@
 
 class Recordset;
 
-/// The rows of a food's amounts: FOODS, USER_FOODS and Ingredients have them at the same positions.
-/// An unknown amount is null.
+/// A food in a row of USER_FOODS or Ingredients. An unknown amount is null.
 namespace StoredFood {
-NutrientAmounts Amounts(const Recordset& row);
-void SetAmounts(Recordset& row, const NutrientAmounts& amounts);
-
-ImportedFood Read(const Recordset& row); ///< of USER_FOODS or Ingredients
+ImportedFood Read(const Recordset& row);
 void Set(Recordset& row, const ImportedFood& food);
 
 /// Equal for foods that are equal to the last bit.

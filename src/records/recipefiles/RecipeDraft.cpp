@@ -1,5 +1,7 @@
 #include "records/recipefiles/RecipeDraft.h"
 
+#include "records/StoredAmounts.h"
+
 #include <algorithm>
 
 namespace {
@@ -34,7 +36,7 @@ bool RecipeDraft::IsFinished() const {
 }
 
 double RecipeDraft::InServing(Nutrient id) const {
-    const auto place = std::ranges::find(StoredOrder(), id) - StoredOrder().begin();
+    const qsizetype place = StoredAmounts::PlaceOf(id);
     double total = 0;
     for (const IngredientLine& line : ingredients)
         total += line.finished->amounts[place].toDouble();

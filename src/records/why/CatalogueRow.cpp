@@ -1,5 +1,6 @@
 #include "records/why/CatalogueRow.h"
 
+#include "records/KeyText.h"
 #include "store/Connection.h"
 
 Recordset CatalogueRow::Of(qint32 id) {
@@ -7,8 +8,8 @@ Recordset CatalogueRow::Of(qint32 id) {
 }
 
 QString CatalogueRow::Title(const Recordset& row) {
-    return row[QStringLiteral("FoodName")].Text() + u" (food:" + row[QStringLiteral("ID")].Text() +
-           u')';
+    return row[QStringLiteral("FoodName")].Text() + u" (" +
+           KeyText::Of(KeyText::Food, row[QStringLiteral("ID")].WholeOr(0)) + u')';
 }
 
 QJsonObject CatalogueRow::Facts(const Recordset& row) {

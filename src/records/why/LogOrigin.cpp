@@ -3,6 +3,7 @@
 #include "foods/FoodSearch.h"
 #include "foods/ScaledFood.h"
 #include "model/NutrientAmounts.h"
+#include "records/KeyText.h"
 #include "records/why/CatalogueRow.h"
 #include "runtime/Convert.h"
 #include "runtime/RuntimeError.h"
@@ -33,7 +34,7 @@ Recordset EntryOf(qint32 recID) {
                     QStringLiteral("SELECT * FROM USER_FOODS WHERE RecID = %1").arg(recID));
     if (entry.AtEnd())
         throw RuntimeError(ErrorNumber::NoCurrentRecord,
-                           QStringLiteral("There is no entry log:%1.").arg(recID));
+                           u"There is no entry " + KeyText::Of(KeyText::Entry, recID) + u'.');
     return entry;
 }
 
@@ -101,7 +102,7 @@ std::optional<Source> SourceOf(const Recordset& entry) {
 }
 
 QString KeyOf(const Source& source) {
-    return (source.food.isRecipe ? u"recipe:" : u"food:") + QString::number(source.food.ID);
+    return KeyText::OfFood(source.food.ID, source.food.isRecipe);
 }
 
 QString SourceText(const Recordset& entry, const std::optional<Source>& source) {
@@ -171,12 +172,13 @@ QJsonObject Facts(const Recordset& entry, const std::optional<Source>& source) {
 Explanation LogOrigin::Of(qint32 recID) {
     const Recordset entry = EntryOf(recID);
     const std::optional<Source> source = SourceOf(entry);
-    Explanation explanation{
-        entry[QStringLiteral("FoodName")].Text() + u", " + entry[QStringLiteral("Serving")].Text() +
-            u" (x " + DecimalText(QuantityOf(entry)) + u") (log:" + QString::number(recID) + u')',
-        {LoggedText(entry), SourceText(entry, source)},
-        Facts(entry, source),
-        {}};
+    Explanation explanation{entry[QStringLiteral("FoodName")].Text() + u", " +
+                                entry[QStringLiteral("Serving")].Text() + u" (x " +
+                                DecimalText(QuantityOf(entry)) + u") (" +
+                                KeyText::Of(KeyText::Entry, recID) + u')',
+                            {LoggedText(entry), SourceText(entry, source)},
+                            Facts(entry, source),
+                            {}};
     for (const Nutrient nutrient : PeriodOrder())
         explanation.rows.push_back(RowOf(entry, source, nutrient));
     return explanation;

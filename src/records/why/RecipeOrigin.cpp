@@ -1,6 +1,7 @@
 #include "records/why/RecipeOrigin.h"
 
 #include "foods/ScaledFood.h"
+#include "records/KeyText.h"
 #include "runtime/Convert.h"
 #include "store/Connection.h"
 #include "store/Recordset.h"
@@ -42,7 +43,7 @@ Explanation RecipeOrigin::Of(qint32 recipeID) {
     const QString name = whole.Text(QStringLiteral("FOODNAME"));
     Recordset ingredients = IngredientsOf(recipeID);
     Explanation explanation{
-        name + u" (recipe:" + QString::number(recipeID) + u')',
+        name + u" (" + KeyText::Of(KeyText::Recipe, recipeID) + u')',
         {QStringLiteral("A recipe of your own: row %1 of Recipes in users.mdb, and %2 rows of "
                         "Ingredients.")
              .arg(recipeID)

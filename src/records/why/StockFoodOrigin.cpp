@@ -4,6 +4,7 @@
 #include "foods/release/FoodColumns.h"
 #include "foods/release/FoodRelease.h"
 #include "foods/release/FoodSources.h"
+#include "records/StoredAmounts.h"
 #include "records/why/CatalogueRow.h"
 #include "runtime/Convert.h"
 #include "store/Recordset.h"
@@ -140,8 +141,7 @@ QStringList Servings(const StockRow& stock, Nutrient nutrient, std::optional<dou
 }
 
 Explanation::Row RowOf(const StockRow& stock, Nutrient nutrient) {
-    const auto place = std::ranges::find(StoredOrder(), nutrient) - StoredOrder().begin();
-    const FoodColumn& column = FoodColumns()[size_t(place)];
+    const FoodColumn& column = FoodColumns()[size_t(StoredAmounts::PlaceOf(nutrient))];
     const auto value = NumberIn(stock.row[QLatin1String(column.name)]);
     const Released released = ReleasedOf(stock, column, nutrient, value);
     QJsonObject facts = Explanation::FactsOf(nutrient);
