@@ -20,6 +20,14 @@ void RequireNone(const std::string& rows, const QString& sentence) {
         throw RuntimeError(ErrorNumber::TypeMismatch, sentence.arg(found.getColumn(0).getInt64()));
 }
 
+/// Of the rows of the document; 0 without any.
+std::int64_t HighestKey(const DocumentSection& section) {
+    return UserDB()
+        .Raw()
+        .execAndGet("SELECT ifnull(max(key), 0) FROM " + DocumentStage::Table(section))
+        .getInt64();
+}
+
 void RequireSoundKeys() {
     for (const DocumentSection* section : Sections::Lists())
         if (section->key != nullptr)
@@ -30,6 +38,22 @@ void RequireSoundKeys() {
                     " WHERE RecipeID IN (SELECT key FROM " +
                     DocumentStage::Table(Sections::Recipes) + ")",
                 QStringLiteral("The file holds an ingredient of recipe %1 outside of it."));
+}
+
+/// New rows get keys above the last one. If a row of the file has such a key, the last one is true.
+void RequireKeysLeft(const DocumentHead& head) {
+    constexpr std::int64_t highest = 2'000'000'000; // some millions below the last possible key
+    for (const DocumentSection* section : {&Sections::Profiles, &Sections::Recipes}) {
+        const auto last = head.lastKeys.find(section->name);
+        if (last != head.lastKeys.end() && last->second > highest &&
+            last->second > HighestKey(*section))
+            throw RuntimeError(ErrorNumber::TypeMismatch,
+                               QStringLiteral("The file says that the last key of %1 was %2, which "
+                                              "leaves none for new ones. Remove its member "
+                                              "\"lastKeys\".")
+                                   .arg(QLatin1String(section->name))
+                                   .arg(last->second));
+    }
 }
 
 /// A key that the records of the document have given is not given again here.
@@ -100,6 +124,7 @@ void FollowKeys(ImportReport& report) {
 
 void DocumentMerge::Run(const DocumentHead& head, ImportReport& report) {
     RequireSoundKeys();
+    RequireKeysLeft(head);
     DocumentKeys::Make();
     MergeProfiles(head, report);
     MergeFoods(report);

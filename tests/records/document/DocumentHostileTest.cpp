@@ -33,6 +33,9 @@ constexpr Case Cases[] = {
     {R"("recipes":[{"ingredients":{}}])", "the member \"ingredients\" is not a list."},
     {R"("recipes":[{"ingredients":[1]}])", "it is not an object."},
     {R"("lastKeys":{"profiles":1.5})", "the member \"profiles\" is not a whole number."},
+    {R"("lastKeys":{"profiles":2147483647},"profiles":[{"key":7,"name":"Anna"}])",
+     "The file says that the last key of profiles was 2147483647, which leaves none for new ones."},
+    {R"("lastKeys":{"recipes":9223372036854775807})", "the last key of recipes was"},
     {R"("settings":{"FAST":1})", "settings: the member \"FAST\" is not a text."},
     {R"("log":[{"food":[[[[[[[[1]]]]]]]]}])", "lists and objects stand too deep"},
 };

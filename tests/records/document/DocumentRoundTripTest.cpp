@@ -73,7 +73,8 @@ void FillAtRandom(SQLite::Database& database, QRandomGenerator& random) {
         }
     if (random.bounded(2) == 0)
         database.exec(
-            "DELETE FROM profiles WHERE UID > 20; DELETE FROM Recipes WHERE RecipeID > 9");
+            "DELETE FROM profiles WHERE UID > 20; DELETE FROM Recipes WHERE RecipeID > 9;"
+            "UPDATE sqlite_sequence SET seq = min(seq, 2000000000)"); // above, imports refuse it
 }
 } // namespace
 
