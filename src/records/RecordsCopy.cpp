@@ -3,6 +3,7 @@
 #include "records/RecordsFolder.h"
 #include "records/RecordsLock.h"
 #include "store/DatabaseCopy.h"
+#include "store/FileCheck.h"
 #include "store/LeftJournal.h"
 
 #include <QFileInfo>
@@ -20,4 +21,14 @@ void RecordsCopy::Make(const QString& from, const QString& to) {
     if (journal.ChangesTheFile())
         journal.RequireFit();
     DatabaseCopy::Make(journal.Result(), to, DatabaseCopy::Sync::No);
+}
+
+void RecordsCopy::MakeUpdated(const RecordsFolder& from, const RecordsFolder& to) {
+    const bool inUse = RecordsLock::IsHeld(from);
+    for (const RecordsFile& file : RecordsFiles) {
+        if (!inUse)
+            FileCheck::Untouched(from.File(file.name), file.kind);
+        Make(from.File(file.name), to.File(file.name));
+        Connection().Open(to.File(file.name), file.kind);
+    }
 }

@@ -19,7 +19,7 @@ public:
     RecordsReading& operator=(const RecordsReading&) = delete;
 
 private:
-    void OpenCopies(const RecordsFolder& folder, bool inUse);
+    void OpenCopies(const RecordsFolder& folder);
 
     std::optional<QTemporaryDir> copies_;
 };

@@ -2,6 +2,7 @@
 
 #include "commands/Session.h"
 #include "records/RecordsLock.h"
+#include "records/Snapshots.h"
 #include "store/Connection.h"
 
 #include <QDir>
@@ -127,6 +128,18 @@ TEST_F(ImportTest, ADryRunChangesNothing) {
     EXPECT_EQ(run.code, Done);
     EXPECT_TRUE(run.out.startsWith("1 profile would be added")) << run.out.toStdString();
     EXPECT_EQ(Weights(), 0);
+}
+
+TEST_F(ImportTest, ADryRunOnlyReadsSoItWorksWhileTheWindowIsOpen) {
+    Clear();
+    const RecordsFolder records(Folder());
+    const RecordsLock window{records};
+    const QStringList before = QDir(Folder()).entryList();
+    const Run run = Command({"import", "--dry-run", File()});
+    EXPECT_EQ(run.code, Done) << run.error.toStdString();
+    EXPECT_TRUE(run.out.startsWith("1 profile would be added")) << run.out.toStdString();
+    EXPECT_FALSE(QDir(Snapshots(records).Place()).exists()) << "no snapshot was made";
+    EXPECT_EQ(QDir(Folder()).entryList(), before);
 }
 
 TEST_F(ImportTest, EndsWithFoundWhereRowsDiffer) {

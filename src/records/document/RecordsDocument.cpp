@@ -3,6 +3,7 @@
 #include "records/RecordsChange.h"
 #include "records/RecordsFolder.h"
 #include "records/RecordsReading.h"
+#include "records/RecordsTrial.h"
 #include "records/document/DocumentMerge.h"
 #include "records/document/DocumentReader.h"
 #include "records/document/DocumentSettings.h"
@@ -17,6 +18,22 @@
 namespace {
 bool HaveProfiles() {
     return UserDB().Raw().execAndGet("SELECT EXISTS (SELECT 1 FROM profiles)").getInt() != 0;
+}
+
+struct Merged {
+    DocumentHead head;
+    ImportReport report;
+};
+
+/// Into the open records.
+Merged Merge(const QString& file, const RecordsDocument::ImportOptions& options,
+             const RecordsDocument::Progress& progress) {
+    Merged merged;
+    DocumentStage stage;
+    merged.head = DocumentReader::Read(file, stage, progress);
+    merged.report.settings = options.settings || !HaveProfiles();
+    DocumentMerge::Run(merged.head, merged.report);
+    return merged;
 }
 } // namespace
 
@@ -33,18 +50,17 @@ std::map<std::string, int> RecordsDocument::Export(const RecordsFolder& folder,
 
 ImportReport RecordsDocument::Import(const RecordsFolder& folder, const QString& file,
                                      const ImportOptions& options, const Progress& progress) {
+    if (options.dryRun) {
+        const RecordsTrial trial(folder);
+        return StoreError::Guarded(folder.Users(),
+                                   [&] { return Merge(file, options, progress).report; });
+    }
     RecordsChange change(folder, "import " + QFileInfo(file).fileName());
     return StoreError::Guarded(folder.Users(), [&] {
-        ImportReport report;
-        DocumentStage stage;
-        const DocumentHead head = DocumentReader::Read(file, stage, progress);
-        report.settings = options.settings || !HaveProfiles();
-        DocumentMerge::Run(head, report);
-        if (options.dryRun)
-            return report;
-        if (report.settings)
-            DocumentSettings::Take(head.settings, change);
+        const Merged merged = Merge(file, options, progress);
+        if (merged.report.settings)
+            DocumentSettings::Take(merged.head.settings, change);
         change.Commit();
-        return report;
+        return merged.report;
     });
 }
