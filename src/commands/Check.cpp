@@ -35,10 +35,12 @@ void PrintLines(const Session& session, const RecordsCheck& check, const QList<F
 int Check(const Session& session, bool repair) {
     const QDate today = Clock::Today();
     const Waiting waiting(session, QStringLiteral("Checking"));
+    RecordsCheck check(session.Records(), today);
     QList<Finding> repaired;
     if (repair)
-        repaired = RecordsCheck::Repair(session.Records(), today);
-    const RecordsCheck check(session.Records(), today);
+        repaired = check.Repair();
+    if (!repaired.isEmpty())
+        check = RecordsCheck(session.Records(), today);
     if (session.json)
         session.Print(QJsonObject{{"sound", check.Findings().isEmpty()},
                                   {"counts", check.Counts().ToJson()},
@@ -56,7 +58,7 @@ void Commands::AddCheck(CLI::App& program, Session& session) {
         "Checks both files, and prints a line for each fault: what is wrong, what it means "
         "and what to do. Ends with 1 if there is a fault");
     const auto repair = std::make_shared<bool>(false);
-    command->add_flag("--repair", *repair, "Put right what has one right answer");
+    command->add_flag("--repair", *repair, "Repair what has only one right answer");
     command->footer("Example: halvane-data check --repair");
     command->callback(
         [&session, repair] { session.Do([&session, repair] { return Check(session, *repair); }); });

@@ -72,14 +72,15 @@ template <class Check> std::future<QList<Finding>> Started(const QString& path, 
 }
 } // namespace
 
-RecordsCheck::RecordsCheck(const RecordsFolder& records, QDate today) {
+RecordsCheck::RecordsCheck(const RecordsFolder& records, QDate today)
+    : records_(records) {
     try {
-        const RecordsReading reading(records);
+        const RecordsReading reading(records_);
         CheckOpen(today);
     } catch (const RuntimeError& failure) {
-        if (!SoundRecords::MeansDamage(failure, records))
+        if (!SoundRecords::MeansDamage(failure, records_))
             throw;
-        AddDamage(records, failure.Description());
+        AddDamage(failure.Description());
     }
 }
 
@@ -105,10 +106,10 @@ void RecordsCheck::CheckOpen(QDate today) {
         counts_ = RecordsCounts::Of(RecordsFolder(QFileInfo(files[0].path).path()));
 }
 
-void RecordsCheck::AddDamage(const RecordsFolder& records, const QString& problem) {
-    const Snapshots snapshots(records);
+void RecordsCheck::AddDamage(const QString& problem) {
+    const Snapshots snapshots(records_);
     const auto sound = snapshots.NewestSound();
-    findings_ << Finding{records.Path(),
+    findings_ << Finding{records_.Path(),
                          problem,
                          0,
                          {},
@@ -120,12 +121,12 @@ void RecordsCheck::AddDamage(const RecordsFolder& records, const QString& proble
                                               "place.")};
 }
 
-QList<Finding> RecordsCheck::Repair(const RecordsFolder& records, QDate today) {
-    QList<Finding> repairs = RecordsCheck(records, today).Findings();
+QList<Finding> RecordsCheck::Repair() const {
+    QList<Finding> repairs = findings_;
     repairs.removeIf([](const Finding& finding) { return finding.repair.isEmpty(); });
     if (repairs.isEmpty())
         return repairs;
-    RecordsChange change(records, QStringLiteral("check --repair"));
+    RecordsChange change(records_, QStringLiteral("check --repair"));
     StoreError::Guarded(UserDB().Path(), [&] {
         for (const Finding& finding : std::as_const(repairs))
             UserDB().Raw().exec(finding.repair.toStdString());

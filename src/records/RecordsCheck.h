@@ -2,11 +2,10 @@
 
 #include "records/Finding.h"
 #include "records/RecordsCounts.h"
+#include "records/RecordsFolder.h"
 
 #include <QDate>
 #include <QList>
-
-class RecordsFolder;
 
 /// Looks through both files of a person's records: pages, indexes, tables, and each row. The
 /// records may be in use meanwhile.
@@ -18,12 +17,13 @@ public:
     const RecordsCounts& Counts() const { return counts_; } ///< zero where a file cannot be read
 
     /// Puts right what has one right answer, as one change. Gives those findings.
-    static QList<Finding> Repair(const RecordsFolder& records, QDate today);
+    QList<Finding> Repair() const;
 
 private:
     void CheckOpen(QDate today);
-    void AddDamage(const RecordsFolder& records, const QString& problem);
+    void AddDamage(const QString& problem);
 
+    RecordsFolder records_;
     QList<Finding> findings_;
     RecordsCounts counts_;
 };

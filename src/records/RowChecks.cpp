@@ -50,7 +50,7 @@ constexpr Check NoDate{"UDate IS NULL OR (date(UDate, '+0 days') IS NOT UDate AN
                        "(length(UDate) > 10 AND substr(UDate, 1, 10) IS "
                        "date(substr(UDate, 1, 10), '+0 days') AND "
                        "substr(UDate, 11, 1) IN (' ', 'T')))",
-                       "have a date that is none",
+                       "have an invalid date",
                        "No day shows them.",
                        Restore,
                        nullptr,
@@ -58,21 +58,22 @@ constexpr Check NoDate{"UDate IS NULL OR (date(UDate, '+0 days') IS NOT UDate AN
 constexpr Check TimeOfDay{
     "length(UDate) > 10 AND substr(UDate, 1, 10) IS date(substr(UDate, 1, 10), '+0 days') AND "
     "substr(UDate, 11, 1) IN (' ', 'T')",
-    "have a time beside their date",
+    "have a time after the date",
     "No day shows them.",
     "",
     "UPDATE {table} AS t SET UDate = substr(UDate, 1, 10) WHERE ",
     "UDate"};
 constexpr Check Future{"UDate > date({today}, '+1 year') AND date(UDate, '+0 days') IS UDate",
-                       "lie more than a year in the future",
-                       "They are most likely slips.",
+                       "have a date more than a year in the future",
+                       "Most likely it is a typing error.",
                        "Look at that day, and remove what is wrong.",
                        nullptr,
                        "UDate"};
 
 constexpr Check KeyTooLarge(const char* meaning) {
-    return {"{key} NOT BETWEEN -2147483648 AND 2147483647", "have a key that no screen can use",
-            meaning, "Change the key with a tool for SQLite."};
+    return {"{key} NOT BETWEEN -2147483648 AND 2147483647",
+            "have a key that the screens cannot use", meaning,
+            "Change the key with a tool for SQLite."};
 }
 /// Nearly every name begins with a character between the two, so it need not be trimmed.
 constexpr Check NoName(const char* meaning, const char* advice) {
@@ -83,7 +84,7 @@ constexpr Check NoQuantity(const char* problem, const char* meaning, const char*
     return {"{quantity} IS NULL OR {quantity} <= 0 OR {quantity} > 1e9", problem, meaning, advice};
 }
 constexpr Check StrangeAmounts(const char* meaning) {
-    return {"has_strange_amount({amounts})", "have amounts that no food has", meaning, Remove};
+    return {"has_strange_amount({amounts})", "have impossible amounts", meaning, Remove};
 }
 
 const std::vector<Table>& Tables() {
@@ -101,8 +102,7 @@ const std::vector<Table>& Tables() {
           {"typeof(age) = 'text' OR typeof(height) = 'text' OR typeof(current_weight) = 'text' OR "
            "typeof(desired_weight) = 'text' OR typeof(activity_level) = 'text' OR "
            "age < 0 OR height < 0 OR current_weight < 0 OR desired_weight < 0",
-           "have an age, a height or a weight that is none",
-           "It counts as 0, and so the targets are wrong.",
+           "have an invalid age, height or weight", "It counts as 0, and so the targets are wrong.",
            "Open Edit My Profile, enter it again and save."}}},
         {DatabaseKind::Users,
          "USER_FOODS",
@@ -117,8 +117,8 @@ const std::vector<Table>& Tables() {
           {"Meal NOT IN ('Breakfast', 'Lunch', 'Dinner', 'Snacks', '')",
            "belong to a meal that the program does not know",
            "They count in the sums of their day, but its list does not show them.", Restore},
-          NoName("Their line on the day is empty.", Remove),
-          NoQuantity("have a quantity that no food has", "The list of the day shows it.", Remove),
+          NoName("Their lines in the list of the day are empty.", Remove),
+          NoQuantity("have an impossible quantity", "The list of the day shows it.", Remove),
           StrangeAmounts("The sums of their day are wrong.")}},
         {DatabaseKind::Users,
          "USER_WEIGHTS",
@@ -129,12 +129,12 @@ const std::vector<Table>& Tables() {
           NoDate,
           TimeOfDay,
           Future,
-          {"Weight IS NULL OR Weight < 0 OR Weight > 1000000", "are no weights",
+          {"Weight IS NULL OR Weight < 0 OR Weight > 1000000", "have an invalid weight",
            "No chart shows them.", "Enter the weight of that day again."},
           {"EXISTS (SELECT 1 FROM USER_WEIGHTS w WHERE w.UID = t.UID AND w.UDate = t.UDate AND "
            "w.rowid < t.rowid)",
-           "are second weights of a day",
-           "The day shows and changes the first one only, but the line of weights has both.", "",
+           "are a second weight on the same day",
+           "The day shows and changes only the first, but the weight chart shows both.", "",
            "DELETE FROM {table} AS t WHERE "}}},
         {DatabaseKind::Users,
          "Recipes",
@@ -143,8 +143,8 @@ const std::vector<Table>& Tables() {
          "RecipeYield",
          {KeyTooLarge("The recipe cannot be opened."),
           NoName("No search finds the recipe.", "Open the recipe, enter a name and save."),
-          NoQuantity("have a number of servings that is none",
-                     "The amounts of a serving cannot be worked out.",
+          NoQuantity("have an invalid number of servings",
+                     "The amounts of a serving cannot be calculated.",
                      "Open the recipe, enter the number of servings and save.")}},
         {DatabaseKind::Users,
          "Ingredients",
@@ -152,7 +152,7 @@ const std::vector<Table>& Tables() {
          "FoodName",
          "QTY",
          {{"RecipeID IS NULL OR RecipeID NOT IN (SELECT RecipeID FROM Recipes)",
-           "belong to no recipe", "They are left of recipes that were deleted.", "",
+           "belong to no recipe", "They are left over from deleted recipes.", "",
            "DELETE FROM {table} AS t WHERE "},
           KeyTooLarge("The recipe does not list them."),
           StrangeAmounts("The sums of their recipe are wrong.")}},
@@ -166,11 +166,11 @@ const std::vector<Table>& Tables() {
                  "Open My Foods, enter a name and save, or delete the food."),
           {"has_strange_amount({amounts}) OR Calories > 1000 OR protein > 100.5 OR carbs > 100.5 "
            "OR TotalFat > 100.5",
-           "have amounts in 100 grams that no food has", "What is logged of it is wrong.",
+           "have impossible amounts in 100 grams", "What is logged from it is wrong.",
            "Open My Foods, enter the amounts again and save."},
           {"ID > 23508 AND FoodName IS NOT NULL AND "
            "({quantity} IS NULL OR {quantity} <= 0 OR {quantity} > 1e9)",
-           "have a serving without a weight", "What is logged of it counts as 0.",
+           "have a serving without a weight", "What is logged from it counts as 0.",
            "Open My Foods, enter the serving again and save."}}},
     };
     return tables;

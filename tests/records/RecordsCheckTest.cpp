@@ -20,7 +20,7 @@ protected:
             lines << finding.Line();
         return lines;
     }
-    QList<Finding> Repair() const { return RecordsCheck::Repair(Records(), Today); }
+    QList<Finding> Repair() const { return RecordsCheck(Records(), Today).Repair(); }
     void ChangeUsers(const char* sql) const { Change(Records().Users(), sql); }
     void ChangeFoods(const char* sql) const { Change(Records().Foods(), sql); }
     /// A logged food without fault.
