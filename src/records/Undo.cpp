@@ -2,6 +2,7 @@
 
 #include "records/Restoring.h"
 #include "records/Snapshots.h"
+#include "runtime/Attempt.h"
 #include "runtime/RuntimeError.h"
 #include "runtime/Settings.h"
 
@@ -57,8 +58,9 @@ Undo::Result Undo::Last(const RecordsFolder& records) {
         last.RequireSound();
     const Snapshot replaced =
         restoring.PutChecked(last, SettingsBefore(last), "before undo of " + last.reason);
+    // From here on the change is taken back: what fails must not look as if it were not.
     if (changes.size() > 1)
-        StandBehind(changes[1], last, records);
-    Snapshots::Remove(last);
+        Attempt([&] { StandBehind(changes[1], last, records); });
+    Attempt([&] { Snapshots::Remove(last); });
     return {last.reason, last.moment, replaced};
 }

@@ -22,6 +22,7 @@
 #include <csignal>
 
 #include <sys/resource.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 /// The commands backup, backups, restore and undo.
@@ -158,6 +159,23 @@ TEST_F(KeepTest, UndoTakesBackOneChangeAfterTheOther) {
     EXPECT_EQ(third.error, "halvane-data: There is no change of a command to take back.\n");
     EXPECT_EQ(Command({"restore", "2"}).code, Done);
     EXPECT_EQ(Weight(), 160);
+}
+
+TEST_F(KeepTest, AnUndoWhoseSnapshotCannotBeRemovedHasTakenTheChangeBack) {
+    Weigh(150);
+    const QString place = Snapshots(Records()).Place();
+    const Snapshot change = Snapshots(Records()).All().first();
+    for (const QString& name : QDir(change.path).entryList(QDir::Files))
+        QFile::setPermissions(change.path + '/' + name, QFile::Permissions(0x7444));
+    HandOver({Folder(), Records().Users(), Records().Foods(), place + "/folder.txt"});
+    ASSERT_EQ(chmod(QFile::encodeName(place), 01777), 0); // each removes only what is his
+    const auto prepare = [] {
+        if (geteuid() == 0 && (setgid(Nobody) != 0 || setuid(Nobody) != 0))
+            _exit(99);
+    };
+    QString said;
+    EXPECT_EQ(Process({"undo", "--folder", Folder()}, prepare, &said), Done) << said.toStdString();
+    EXPECT_EQ(Weight(), 0);
 }
 
 TEST_F(KeepTest, EachHelpShowsAnExample) {
