@@ -24,7 +24,7 @@ QDate DateOption::Of(const std::string& text) {
     if (!day.isValid())
         throw RuntimeError(ErrorNumber::TypeMismatch,
                            u'"' + word +
-                               u"\" is no day. Write it as 2026-03-02, today or yesterday.");
+                               u"\" is not a day. Write it as 2026-03-02, today or yesterday.");
     return day;
 }
 

@@ -4,6 +4,7 @@
 #include "commands/Session.h"
 #include "foods/FoodSearch.h"
 #include "foods/SearchTerms.h"
+#include "records/KeyText.h"
 #include "runtime/RuntimeError.h"
 
 #include <QRegularExpression>
@@ -13,18 +14,32 @@
 #include <algorithm>
 
 namespace {
-QString KindOf(const QString& written, bool recipe) {
-    return recipe || written.compare(u"recipe", Qt::CaseInsensitive) == 0 ? QStringLiteral("recipe")
-                                                                          : QStringLiteral("food");
+constexpr int MostListed = 20; ///< of those that match: `search` lists them all
+
+/// A key as a person writes it. Without a kind it is one of a food.
+struct WrittenKey {
+    QString kind; ///< in small letters; may be empty
+    QString number;
+};
+
+std::optional<WrittenKey> KeyIn(const QString& text) {
+    static const QRegularExpression form(QStringLiteral("^(?:(%1|%2|%3):)?(\\d+)$")
+                                             .arg(KeyText::Food, KeyText::Recipe, KeyText::Entry),
+                                         QRegularExpression::CaseInsensitiveOption);
+    const QRegularExpressionMatch match = form.match(text);
+    return match.hasMatch()
+               ? std::optional(WrittenKey{match.captured(1).toLower(), match.captured(2)})
+               : std::nullopt;
 }
 
-Food Keyed(const QString& kind, const QString& key) {
+Food Keyed(bool isRecipe, const QString& key) {
     bool fits = false;
     const qint32 number = key.toInt(&fits);
-    const auto food = fits ? FoodSearch::WithKey(number, kind == u"recipe") : std::nullopt;
+    const auto food = fits ? FoodSearch::WithKey(number, isRecipe) : std::nullopt;
     if (!food)
         throw RuntimeError(ErrorNumber::NoCurrentRecord,
-                           u"There is no " + kind + u" with the key " + key + u'.');
+                           u"There is no " + (isRecipe ? KeyText::Recipe : KeyText::Food) +
+                               u" with the key " + key + u'.');
     return *food;
 }
 
@@ -72,11 +87,10 @@ QString FoodArgument::Refusal() const {
 }
 
 std::optional<qint32> FoodArgument::LogKey() const {
-    const QString text = Text();
+    const auto key = KeyIn(Text());
     bool fits = false;
-    const qint32 key = QStringView(text).mid(4).toInt(&fits);
-    return fits && text.startsWith(u"log:", Qt::CaseInsensitive) ? std::optional(key)
-                                                                 : std::nullopt;
+    const qint32 number = key && key->kind == KeyText::Entry ? key->number.toInt(&fits) : 0;
+    return fits ? std::optional(number) : std::nullopt;
 }
 
 FoodList FoodArgument::Search() const {
@@ -85,15 +99,14 @@ FoodList FoodArgument::Search() const {
 }
 
 std::optional<Food> FoodArgument::Choose(const Session& session) const {
-    static const QRegularExpression form(QStringLiteral("^(?:(food|recipe):)?(\\d+)$"),
-                                         QRegularExpression::CaseInsensitiveOption);
-    if (const auto key = form.match(Text()); key.hasMatch())
-        return Keyed(KindOf(key.captured(1), recipe_), key.captured(2));
+    if (const auto key = KeyIn(Text()); key && key->kind != KeyText::Entry)
+        return Keyed(recipe_ || key->kind == KeyText::Recipe, key->number);
     const FoodList found = Search();
     if (const auto food = OnlyOne(found, Text()))
         return food;
     session.Tell(found.Count() == 0 ? FoodSearch::NoMatch()
-                                    : QStringLiteral("Several match. Name one by its key."));
-    FoundFoods::Print(session, found);
+                                    : QStringLiteral("Several match. Name one by its key, "
+                                                     "or add words of its name."));
+    FoundFoods::Print(session, found, MostListed);
     return {};
 }

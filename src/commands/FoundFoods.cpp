@@ -2,9 +2,12 @@
 
 #include "commands/Session.h"
 #include "foods/FoodList.h"
+#include "records/KeyText.h"
 
 #include <QJsonArray>
 #include <QJsonObject>
+
+#include <algorithm>
 
 namespace {
 constexpr int KeyWidth = 14;
@@ -12,27 +15,26 @@ constexpr int KeyWidth = 14;
 QString Line(const Food& food) {
     QStringList servings{food.ServA.toString(), food.ServB.toString()};
     servings.removeAll(QString());
-    const QString line = FoundFoods::KeyOf(food).leftJustified(KeyWidth) + food.FoodName;
+    const QString line =
+        KeyText::OfFood(food.ID, food.isRecipe).leftJustified(KeyWidth) + food.FoodName;
     return servings.isEmpty() ? line : QString(line + u" (" + servings.join(u" | ") + u')');
 }
 } // namespace
 
-QString FoundFoods::KeyOf(const Food& food) {
-    return (food.isRecipe ? u"recipe:" : u"food:") + QString::number(food.ID);
-}
-
 QJsonObject FoundFoods::Facts(const Food& food) {
     return {{"name", food.FoodName},
-            {"kind", QLatin1String(food.isRecipe ? "recipe" : "food")},
+            {"kind", food.isRecipe ? KeyText::Recipe : KeyText::Food},
             {"key", food.ID},
             {"servingA", QJsonValue::fromVariant(food.ServA)},
             {"servingB", QJsonValue::fromVariant(food.ServB)}};
 }
 
-void FoundFoods::Print(const Session& session, const FoodList& foods) {
+void FoundFoods::Print(const Session& session, const FoodList& foods, int most) {
+    if (foods.Count() > most)
+        session.Tell(QStringLiteral("%1 more match.").arg(foods.Count() - most));
     QJsonArray all;
-    for (const Food& food : foods)
-        session.json ? all.append(Facts(food)) : session.Print(Line(food));
+    for (int i = 1; i <= std::min(foods.Count(), most); ++i)
+        session.json ? all.append(Facts(foods.Item(i))) : session.Print(Line(foods.Item(i)));
     if (session.json)
         session.Print(QJsonObject{{"found", all}});
 }

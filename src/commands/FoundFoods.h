@@ -1,15 +1,13 @@
 #pragma once
 
-#include <QString>
-
 class FoodList;
 class QJsonObject;
 class Session;
 struct Food;
 
-/// How the commands name and print foods and recipes.
+/// How the commands print foods and recipes.
 namespace FoundFoods {
-QString KeyOf(const Food& food); ///< "food:16096" or "recipe:3": a command takes it as a FOOD
 QJsonObject Facts(const Food& food);
-void Print(const Session& session, const FoodList& foods);
+/// The first ones, and how many more there are.
+void Print(const Session& session, const FoodList& foods, int most);
 } // namespace FoundFoods

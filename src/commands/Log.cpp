@@ -11,6 +11,7 @@
 #include "intake/DayLog.h"
 #include "model/Nutrients.h"
 #include "records/RecordsChange.h"
+#include "records/RecordsReading.h"
 #include "runtime/Clock.h"
 #include "runtime/Convert.h"
 
@@ -51,6 +52,13 @@ bool HasServing(const Food& food, const QString& serving) {
     return serving == u"A" || !food.ServB.toString().isEmpty();
 }
 
+/// Only reads: as long as it is not known which food is meant, nothing changes.
+std::optional<Food> Choose(const Session& session, const Wanted& wanted) {
+    const RecordsReading records(session.Records());
+    session.ChooseProfile();
+    return wanted.food.Choose(session);
+}
+
 LoggedFood LogFood(const Food& food, const Wanted& wanted) {
     const ScaledFood item =
         ScaledFood::Of(food.ID, wanted.Serving(), wanted.Quantity(), food.isRecipe);
@@ -73,15 +81,13 @@ int Log(const Session& session, Wanted& wanted) {
     Complete(wanted);
     if (const QString refusal = Refusal(wanted); !refusal.isEmpty())
         return session.Refuse(refusal);
-    RecordsChange change(session.Records());
-    session.ChooseProfile();
-    const std::optional<Food> food = wanted.food.Choose(session);
+    const std::optional<Food> food = Choose(session, wanted);
     if (!food)
         return Found;
     if (!HasServing(*food, wanted.Serving()))
         return session.Refuse(food->FoodName + " has no serving B.");
+    RecordsChange change(session.Records(), "log " + food->FoodName);
     const LoggedFood logged = LogFood(*food, wanted);
-    change.SetTitle("log " + food->FoodName);
     change.Commit();
     Report(session, logged, wanted);
     return Done;

@@ -6,10 +6,6 @@
 
 #include <QJsonObject>
 
-QString LoggedLine::KeyOf(const LoggedFood& food) {
-    return "log:" + QString::number(food.RecID);
-}
-
 QString LoggedLine::Text(const LoggedFood& food) {
     return food.name + u", " + food.serving + u" (x " + DecimalText(food.quantity) + u"), " +
            DecimalText(NutrientFigure::numFix(food.calories)) + u" kcal";

@@ -7,7 +7,6 @@ struct LoggedFood;
 
 /// How the commands print one line of a day's list.
 namespace LoggedLine {
-QString KeyOf(const LoggedFood& food); ///< "log:5"
-QString Text(const LoggedFood& food);  ///< "Butter, salted, 1 tbsp (x 2), 203.63 kcal"
+QString Text(const LoggedFood& food); ///< "Butter, salted, 1 tbsp (x 2), 203.63 kcal"
 QJsonObject Facts(const LoggedFood& food);
 } // namespace LoggedLine

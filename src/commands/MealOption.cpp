@@ -16,7 +16,7 @@ CLI::Option* MealOption::Add(CLI::App& command, const std::string& name, int& me
         if (text.empty() || found == Meals::Names.end())
             throw CLI::ValidationError(
                 name.substr(0, name.find(',')),
-                '"' + text + "\" is no meal. Write Breakfast, Lunch, Dinner or Snacks.");
+                '"' + text + "\" is not a meal. Write Breakfast, Lunch, Dinner or Snacks.");
         meal = int(found - Meals::Names.begin());
     };
     return command.add_option_function<std::string>(name, read, help)->type_name("MEAL");

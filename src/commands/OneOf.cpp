@@ -10,7 +10,7 @@ CLI::Validator OneOf(const std::vector<std::string>& words) {
             std::ranges::find(words, CLI::detail::to_lower(text),
                               [](const auto& word) { return CLI::detail::to_lower(word); });
         if (same == words.end())
-            return '"' + text + "\" is none of " + CLI::detail::join(words, ", ") + '.';
+            return '"' + text + "\" is not one of " + CLI::detail::join(words, ", ") + '.';
         text = *same;
         return std::string();
     };

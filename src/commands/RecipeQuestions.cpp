@@ -44,7 +44,7 @@ std::optional<IngredientChoice> Choice(const Question& question, const QString& 
 /// Asks until there is an answer. Null: stop.
 std::optional<IngredientChoice> Answered(const Session& session, const Question& question) {
     for (auto answer = session.Ask(Text(question)); answer && *answer != QLatin1String(Stop);
-         answer = session.Ask(QStringLiteral("That is none of the answers. Again: ")))
+         answer = session.Ask(QStringLiteral("That is not one of the answers. Again: ")))
         if (const auto choice = Choice(question, *answer))
             return choice;
     return {};

@@ -29,9 +29,7 @@ bool IsCut(const FoodList& found) {
 }
 
 /// Nobody can see in the list itself that there is more.
-void TellIfCut(const Session& session, const FoodList& found, int limit) {
-    if (found.Count() > limit)
-        session.Tell(QStringLiteral("%1 more match.").arg(found.Count() - limit));
+void TellIfCut(const Session& session, const FoodList& found) {
     if (IsCut(found))
         session.Tell(QStringLiteral("There may be more: a search gives at most %1 recipes, %1 own "
                                     "foods and %1 standard foods.")
@@ -43,13 +41,11 @@ int Search(const Session& session, const Wanted& wanted) {
     if (const QString refusal = SearchTerms::Refusal(words); !refusal.isEmpty())
         return session.Refuse(refusal);
     const RecordsReading records(session.Records());
-    FoodList found = FoodSearch::Find(SearchTerms::Quoted(words), Everywhere);
-    TellIfCut(session, found, wanted.limit);
-    while (found.Count() > wanted.limit)
-        found.Remove(found.Count());
+    const FoodList found = FoodSearch::Find(SearchTerms::Quoted(words), Everywhere);
+    TellIfCut(session, found);
     if (found.Count() == 0)
         session.Tell(FoodSearch::NoMatch());
-    FoundFoods::Print(session, found);
+    FoundFoods::Print(session, found, wanted.limit);
     return found.Count() == 0 ? Found : Done;
 }
 
@@ -57,14 +53,14 @@ int Search(const Session& session, const Wanted& wanted) {
 std::string LimitProblem(const std::string& text) {
     bool isNumber = false;
     const int number = QString::fromStdString(text).toInt(&isNumber);
-    return isNumber && number > 0 ? "" : '"' + text + "\" is no number above 0.";
+    return isNumber && number > 0 ? "" : '"' + text + "\" is not a number above 0.";
 }
 } // namespace
 
 void Commands::AddSearch(CLI::App& program, Session& session) {
     CLI::App* command = program.add_subcommand("search", "Finds foods and recipes by words");
     const auto wanted = std::make_shared<Wanted>();
-    command->add_option("WORDS", wanted->words, "Words that all stand in the name")->required();
+    command->add_option("WORDS", wanted->words, "Words that the name must contain")->required();
     command->add_option("--limit", wanted->limit, "Print at most so many")
         ->type_name("NUMBER")
         ->check(CLI::Validator(LimitProblem, ""));

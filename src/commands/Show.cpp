@@ -7,6 +7,7 @@
 #include "foods/Meals.h"
 #include "intake/DayLog.h"
 #include "model/User.h"
+#include "records/KeyText.h"
 #include "records/RecordsReading.h"
 #include "runtime/AppState.h"
 #include "runtime/Clock.h"
@@ -39,10 +40,12 @@ Day Read(QDate date) {
 }
 
 void PrintMeal(const Session& session, size_t meal, const std::vector<LoggedFood>& foods) {
+    constexpr int keyWidth = 12;
     session.Print(QString());
     session.Print(Meals::NameOf(int(meal)));
     for (const LoggedFood& food : foods)
-        session.Print("  " + LoggedLine::KeyOf(food).leftJustified(12) + LoggedLine::Text(food));
+        session.Print("  " + KeyText::Of(KeyText::Entry, food.RecID).leftJustified(keyWidth) +
+                      LoggedLine::Text(food));
 }
 
 void PrintFigure(const Session& session, const NutrientFigure& row) {

@@ -27,7 +27,8 @@ QString Refusal(const Weighing& weighing) {
         return weighing.text.empty()
                    ? QString()
                    : QStringLiteral("Please give a weight, or --remove, and not both.");
-    return DayLog::WeightRefusal(weighing.Weight());
+    const QString refusal = DayLog::WeightRefusal(weighing.Weight());
+    return refusal.isEmpty() ? refusal : refusal + " Here `weigh --remove` does that.";
 }
 
 void Report(const Session& session, const Weighing& weighing) {
@@ -62,7 +63,7 @@ int Weigh(const Session& session, Weighing& weighing) {
 
 void Commands::AddWeigh(CLI::App& program, Session& session) {
     CLI::App* command = program.add_subcommand(
-        "weigh", "Keeps a weight for a day and adapts the targets, as the day screen does");
+        "weigh", "Records a weight for a day and adapts the targets, as the day screen does");
     const auto weighing = std::make_shared<Weighing>();
     command->add_option("WEIGHT", weighing->text, "In pounds");
     command->add_flag("--remove", weighing->remove, "Remove the weight of that day");

@@ -47,7 +47,7 @@ QString NoSuchNutrient(const std::string& text) {
     QStringList names;
     for (const Nutrient nutrient : PeriodOrder())
         names << QLatin1String(Info(nutrient).chartCaption);
-    return u'"' + QString::fromStdString(text) + u"\" is no nutrient. Write one of: " +
+    return u'"' + QString::fromStdString(text) + u"\" is not a nutrient. Write one of: " +
            names.join(u", ") + u'.';
 }
 

@@ -19,7 +19,6 @@ public:
     RecordsChange(const RecordsChange&) = delete;
     RecordsChange& operator=(const RecordsChange&) = delete;
 
-    void SetTitle(const QString& title) { before_.reason = title; }
     void Set(const QString& setting, const QString& value); ///< once the change is committed
     void Commit();
 

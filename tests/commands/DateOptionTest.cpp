@@ -46,6 +46,6 @@ TEST_F(DateOptionTest, ATextThatIsNoDayIsAUsageErrorThatNamesTheOption) {
     } catch (const CLI::ValidationError& wrong) {
         EXPECT_STREQ(
             wrong.what(),
-            "--date: \"2026-02-29\" is no day. Write it as 2026-03-02, today or yesterday.");
+            "--date: \"2026-02-29\" is not a day. Write it as 2026-03-02, today or yesterday.");
     }
 }

@@ -2,9 +2,11 @@
 
 #include "commands/Session.h"
 #include "records/RecordsLock.h"
+#include "records/Snapshots.h"
 #include "runtime/SettingTable.h"
 #include "runtime/Settings.h"
 
+#include <QDir>
 #include <QJsonArray>
 
 class LogTest : public UseTest {
@@ -62,8 +64,20 @@ TEST_F(LogTest, WordsOfSeveralFoodsListThemAndLogNothing) {
     const Run run = Command({"log", "butter", "-m", "b"});
     EXPECT_EQ(run.code, Found);
     EXPECT_TRUE(run.out.contains("food:16096")) << run.out.toStdString();
-    EXPECT_TRUE(run.error.contains("Several match. Name one by its key."));
+    EXPECT_TRUE(
+        run.error.contains("Several match. Name one by its key, or add words of its name."));
+    EXPECT_EQ(run.out.count('\n'), 20);
+    EXPECT_TRUE(run.error.contains(" more match.")) << run.error.toStdString();
     EXPECT_EQ(Logged(), 0);
+}
+
+TEST_F(LogTest, AFoodThatIsNotFoundTouchesNothing) {
+    const RecordsFolder records(Folder());
+    const RecordsLock window{records};
+    const Run run = Command({"log", "xyzzy", "-m", "b"});
+    EXPECT_EQ(run.code, Found);
+    EXPECT_TRUE(run.error.contains("No foods or recipes matched")) << run.error.toStdString();
+    EXPECT_FALSE(QDir(Snapshots(records).Place()).exists()) << "no snapshot was made";
 }
 
 TEST_F(LogTest, WordsOfNoFoodSaySo) {
@@ -121,8 +135,8 @@ TEST_F(LogTest, RefusesAServingThatTheFoodDoesNotHave) {
 
 TEST_F(LogTest, RefusesAnEmptyTermADayAndAMealThatAreNone) {
     ExpectRefused({"", "-m", "b"}, "Please enter a search term.");
-    ExpectRefused({Butter, "-m", "tea"}, "\"tea\" is no meal.");
-    ExpectRefused({Butter, "-m", "b", "-d", "2026-02-29"}, "is no day");
+    ExpectRefused({Butter, "-m", "tea"}, "\"tea\" is not a meal.");
+    ExpectRefused({Butter, "-m", "b", "-d", "2026-02-29"}, "is not a day");
 }
 
 TEST_F(LogTest, PrintsFactsAsJsonToTheLastBit) {

@@ -179,11 +179,11 @@ TEST_F(ProgramTextsTest, WhatIsWrittenWronglyIsNamed) {
         {{"show", "--folder", "a", "--folder", "b"},
          "--folder can be given only once. `halvane-data show --help` shows how it is used."},
         {{"log", "oats", "-m", "brunch"},
-         "--meal: \"brunch\" is no meal. Write Breakfast, Lunch, Dinner or Snacks. "
+         "--meal: \"brunch\" is not a meal. Write Breakfast, Lunch, Dinner or Snacks. "
          "`halvane-data log --help` shows how it is used."},
         {{"search"}, "WORDS is required. `halvane-data search --help` shows how it is used."},
         {{"table", "spoons"},
-         "TABLE: \"spoons\" is none of log, days, weights, foods, recipes, profile. "
+         "TABLE: \"spoons\" is not one of log, days, weights, foods, recipes, profile. "
          "`halvane-data table --help` shows how it is used."},
     };
     for (const auto& [arguments, message] : calls) {

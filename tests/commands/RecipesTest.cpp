@@ -69,7 +69,7 @@ TEST_F(RecipeCommandsTest, APersonNamesAnotherFoodByItsKey) {
 TEST_F(RecipeCommandsTest, AnAnswerThatIsNoneIsAskedForAgain) {
     const Run run = Command(ImportSoup, "99\n0\nlentils\n1\n\n");
     EXPECT_EQ(run.code, Done);
-    EXPECT_EQ(run.error.count("That is none of the answers."), 3);
+    EXPECT_EQ(run.error.count("That is not one of the answers."), 3);
 }
 
 TEST_F(RecipeCommandsTest, WhoStopsOrEndsTheInputChangesNothing) {

@@ -64,7 +64,7 @@ TEST_F(SearchTest, PrintsNoMoreThanTheLimit) {
     for (const QString limit : {"0", "-1", "x", "99999999999"}) {
         const Run wrong = Command({"search", "lentils", "--limit", limit});
         EXPECT_EQ(wrong.code, Usage);
-        EXPECT_TRUE(wrong.error.contains("--limit: \"" + limit + "\" is no number above 0."))
+        EXPECT_TRUE(wrong.error.contains("--limit: \"" + limit + "\" is not a number above 0."))
             << wrong.error.toStdString();
     }
 }

@@ -156,7 +156,7 @@ TEST_F(WhyTest, AnEntryWhoseFoodIsGoneKeepsItsAmounts) {
 TEST_F(WhyTest, RefusesWhatIsNoNutrientNoEntryAndNoFood) {
     const Run run = Command({"why", Butter, "joy"});
     EXPECT_EQ(run.code, Usage);
-    EXPECT_TRUE(run.error.contains("\"joy\" is no nutrient. Write one of: Calories, "));
+    EXPECT_TRUE(run.error.contains("\"joy\" is not a nutrient. Write one of: Calories, "));
     EXPECT_EQ(Command({"why"}).code, Usage);
     EXPECT_EQ(Command({"why", ""}).code, Usage);
     EXPECT_EQ(Command({"why", "xyzzy"}).code, Found);
