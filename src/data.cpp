@@ -14,12 +14,22 @@
 #endif
 
 namespace {
+QtMessageHandler usualWarnings = nullptr;
+
+/// A script or a service may have no session, and nothing here needs one.
+void WarnOfAllButTheSession(QtMsgType type, const QMessageLogContext& context,
+                            const QString& message) {
+    if (!message.contains(QLatin1String("XDG_RUNTIME_DIR")))
+        usualWarnings(type, context, message);
+}
+
 /// Only a report is drawn; what drawing needs would slow the start of the other commands.
 std::unique_ptr<QCoreApplication> MakeApplication(int& argc, char** argv) {
     const std::span<char*> arguments(argv, size_t(argc));
     if (!NeedsDrawing({arguments.begin(), arguments.end()}))
         return std::make_unique<QCoreApplication>(argc, argv);
     qputenv("QT_QPA_PLATFORM", "offscreen"); // there may be no display
+    usualWarnings = qInstallMessageHandler(WarnOfAllButTheSession);
     return std::make_unique<QGuiApplication>(argc, argv);
 }
 

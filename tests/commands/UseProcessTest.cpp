@@ -65,6 +65,13 @@ TEST_F(UseProcessTest, AReadOnlyFolderIsReadAndNotWritten) {
     ASSERT_TRUE(QFile::setPermissions(Folder(), readable | QFile::WriteOwner | QFile::ExeOwner));
 }
 
+TEST_F(UseProcessTest, AReportWithoutASessionWarnsOfNothing) {
+    qunsetenv("XDG_RUNTIME_DIR");
+    const Run run = Start({"report", Folder() + "/report.pdf"});
+    EXPECT_EQ(run.code, Done);
+    EXPECT_EQ(run.error, "");
+}
+
 TEST_F(UseProcessTest, AWrongCommandIsAUsageError) {
     EXPECT_EQ(Start({"eat"}).code, Usage);
     EXPECT_EQ(Start({}).code, Usage);
