@@ -4,12 +4,14 @@
 #include "Table.h"
 
 #include "core/Application.h"
+#include "store/StoreThreads.h"
 
 #include <vector>
 
 /// Measures each path that a person waits for, next to its limit, and prints a table of both.
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    StoreThreads::AllocateApart();
     Application application(argc, argv);
     std::vector<char*> arguments(argv, argv + argc);
     std::string flags[] = {"--benchmark_repetitions=5", "--benchmark_min_time=0.2"};

@@ -1,4 +1,5 @@
 #include "commands/Program.h"
+#include "store/StoreThreads.h"
 
 #include <QGuiApplication>
 
@@ -44,6 +45,7 @@ bool IsTerminal() {
 } // namespace
 
 int main(int argc, char** argv) {
+    StoreThreads::AllocateApart();
     const std::unique_ptr<QCoreApplication> application = MakeApplication(argc, argv);
     return RunCommand(QCoreApplication::arguments(), std::cout, std::cerr,
                       IsTerminal() ? &std::cin : nullptr);

@@ -2,8 +2,10 @@
 #include "core/Flow.h"
 #include "core/Navigation.h"
 #include "core/Screens.h"
+#include "store/StoreThreads.h"
 
 int main(int argc, char** argv) {
+    StoreThreads::AllocateApart();
     Application application(argc, argv);
     RegisterScreens(TheNavigation());
     TheNavigation().InstallSeams();

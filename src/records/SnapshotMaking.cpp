@@ -36,11 +36,10 @@ RuntimeError NoTurn(ProcessLock::Result result, const QString& place) {
     return {ErrorNumber::FileAccess, text.arg(QDir::toNativeSeparators(place))};
 }
 
-/// The files of a folder, and the names in it.
-void SyncAll(const QString& folder) {
+/// What is on the disk already costs nothing.
+void SyncFiles(const QString& folder) {
     for (const QString& name : QDir(folder).entryList(QDir::Files))
         Disk::Sync(folder + u'/' + name);
-    Disk::Sync(folder);
 }
 } // namespace
 
@@ -113,24 +112,36 @@ void SnapshotMaking::Take(Snapshot& snapshot, size_t file, Care care) const {
         snapshot.source.files[file] = state;
 }
 
+/// The catalogue reaches the disk while the diary, which grows, is copied.
 void SnapshotMaking::TakeFiles(Snapshot& snapshot, Care care) const {
-    auto foods = std::async(std::launch::async, [&] { Take(snapshot, 1, care); });
+    auto foods = std::async(std::launch::async, [&] {
+        Take(snapshot, 1, care);
+        if (care != Care::Quick)
+            Disk::Sync(snapshot.Files().Foods());
+    });
     Take(snapshot, 0, care);
     foods.get();
 }
 
-/// The copies are counted and written to the disk while they are checked.
+/// The disk writes the copies while they are checked. Counting comes after the disk has them, so
+/// that it does not delay the disk.
 void SnapshotMaking::Finish(Snapshot& snapshot, Care care) const {
-    const auto note = [&snapshot, care] {
+    const auto note = [&snapshot] {
         if (!snapshot.damaged)
             snapshot.counts = RecordsCounts::Of(snapshot.Files());
         snapshot.WriteNote();
-        if (care != Care::Quick)
-            SyncAll(snapshot.path);
     };
-    if (care != Care::Full)
+    if (care == Care::Quick)
         return note();
-    auto noted = std::async(std::launch::async, note);
+    const auto noteOnDisk = [&snapshot, note] {
+        SyncFiles(snapshot.path);
+        note();
+        SyncFiles(snapshot.path);
+        Disk::Sync(snapshot.path);
+    };
+    if (care == Care::Locked)
+        return noteOnDisk();
+    auto noted = std::async(std::launch::async, noteOnDisk);
     snapshot.RequireSound();
     noted.get();
 }

@@ -16,6 +16,8 @@ constexpr int BusyMilliseconds = 5000; ///< how long to wait for a commit of ano
 constexpr int AllPages = -1;
 constexpr int PagesAtOnce = 1024; ///< the source is free for a writer after each so many pages
 constexpr int MostRestarts = 10;
+/// Each page is read and written once: to keep many of them only takes time.
+constexpr auto FewPages = "PRAGMA cache_size = 50";
 
 /// A folder that does not allow writing holds nobody's journal, so its file does not change.
 SQLite::Database Source(const QString& path) {
@@ -25,13 +27,12 @@ SQLite::Database Source(const QString& path) {
     return {UnchangedFile::Address(path).toStdString(), SQLite::OPEN_READONLY | SQLite::OPEN_URI};
 }
 
-/// Each page is written only once, so a large cache only takes time. With syncs the cache stays
-/// large, because each page that leaves it early costs a sync.
+/// With syncs the cache stays large, because each page that leaves it early costs a sync.
 void Prepare(SQLite::Database& target, DatabaseCopy::Sync sync) {
     if (sync == DatabaseCopy::Sync::Fully)
-        RollbackJournal::SyncFully(target, "main");
-    else
-        target.exec("PRAGMA synchronous = OFF; PRAGMA journal_mode = OFF; PRAGMA cache_size = 50");
+        return RollbackJournal::SyncFully(target, "main");
+    target.exec("PRAGMA synchronous = OFF; PRAGMA journal_mode = OFF");
+    target.exec(FewPages);
 }
 
 /// If another connection writes between two steps, the copy begins again. If that happens too
@@ -52,6 +53,7 @@ int CopyAllPages(SQLite::Backup& backup) {
 void DatabaseCopy::Make(const QString& from, const QString& to, Sync sync) {
     StoreError::Guarded(from, [&] {
         SQLite::Database source = Source(from);
+        source.exec(FewPages);
         StoreError::Guarded(to, [&] {
             SQLite::Database target(to.toStdString(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE,
                                     BusyMilliseconds);

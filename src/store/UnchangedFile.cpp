@@ -30,8 +30,10 @@ qint64 UnchangedFile::Number(const QByteArray& select) {
 }
 
 void UnchangedFile::RequireSoundRows() {
-    const std::string first = StoreError::Guarded(
-        named_, [&] { return database_->execAndGet("PRAGMA quick_check(1)").getString(); });
+    const std::string first = StoreError::Guarded(named_, [&] {
+        database_->exec("PRAGMA cache_size = 50"); // a walk over all pages needs few of them again
+        return database_->execAndGet("PRAGMA quick_check(1)").getString();
+    });
     if (first != "ok")
         throw StoreError::Make(SQLITE_CORRUPT, named_, QString::fromStdString(first));
 }
