@@ -1,6 +1,7 @@
 #include "drawing/Style.h"
 
 #include "drawing/Fonts.h"
+#include "drawing/StyleOnPaper.h"
 
 namespace {
 
@@ -154,8 +155,20 @@ void SetFontFamily(const QString& family) {
 void UseStyleOnPaper() {
     Style& style = OneStyle();
     style.paper = Qt::white;
+    style.pieFat = QColor(200, 20, 20);
+    style.pieProtein = QColor(255, 150, 60);
+    style.pieCarbs = QColor(190, 245, 190);
     for (QFont* font :
          {&style.text, &style.small, &style.smallStrong, &style.strong, &style.screenTitle,
           &style.cardTitle, &style.control, &style.title, &style.reading, &style.chartNotice})
         font->setHintingPreference(QFont::PreferNoHinting);
+}
+
+StyleOnPaper::StyleOnPaper()
+    : onScreen_(TheStyle()) {
+    UseStyleOnPaper();
+}
+
+StyleOnPaper::~StyleOnPaper() {
+    OneStyle() = onScreen_;
 }

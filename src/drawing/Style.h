@@ -91,6 +91,6 @@ const Style& TheStyle();
 /// Applies to controls created afterwards. Only tests set another family than the delivered one.
 void SetFontFamily(const QString& family);
 
-/// For pages: on white, with letters that are not fitted to the pixels of a screen. A process that
-/// writes pages shows no windows.
+/// For pages: on white, letters not fitted to the pixels of a screen, sectors of a pie that differ
+/// in lightness. A process with windows uses StyleOnPaper.
 void UseStyleOnPaper();

@@ -56,6 +56,8 @@ QLineEdit:disabled, QPlainTextEdit:disabled {
 }
 ListBox { background: %paper; border: 2px solid %paper; outline: none; }
 ListBox:focus { border-color: %frame; }
+QPrintPreviewWidget QGraphicsView { border: 2px solid %rule; }
+QPrintPreviewWidget QGraphicsView:focus { border-color: %frame; }
 ListBox:disabled { background: %canvas; border-color: %canvas; }
 QToolTip { background: %paper; color: %ink; border: 1px solid %frame; padding: 3px 5px; }
 QCheckBox { color: %ink; spacing: 6px; background: transparent; }
@@ -74,6 +76,8 @@ QPushButton {
 }
 QPushButton:hover { background: %paper; border-color: %frame; }
 QPushButton:focus { border: 2px solid %frame; padding: 3px 13px; }
+QPrintDialog QPushButton { padding: 4px 6px; }
+QPrintDialog QPushButton:focus { padding: 3px 5px; }
 QLabel { background: transparent; }
 QCalendarWidget QWidget { alternate-background-color: %canvas; }
 QCalendarWidget QWidget#qt_calendar_navigationbar { background: %navigation; }

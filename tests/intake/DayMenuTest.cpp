@@ -82,8 +82,8 @@ TEST_F(DayMenuTest, ALineOffersWhatCanBeDoneWithIt) {
     Open();
     const QMenu* menu = OpenMenu("Oats");
     ASSERT_NE(menu, nullptr);
-    EXPECT_EQ(Offered(menu),
-              (QStringList{"changeQuantity", "copyToToday", "copyToDay", "moveToMeal", "remove"}));
+    EXPECT_EQ(Offered(menu), (QStringList{"changeQuantity", "copyToToday", "copyToDay",
+                                          "moveToMeal", "remove", "print"}));
     EXPECT_EQ(menu->accessibleName(), "Oats, 1 cup, (x 1)");
     EXPECT_EQ(Offered(menu->findChild<QMenu*>("moveToMeal")),
               (QStringList{"Breakfast", "Dinner", "Snacks"}));
@@ -95,17 +95,19 @@ TEST_F(DayMenuTest, ALineOffersWhatCanBeDoneWithIt) {
 TEST_F(DayMenuTest, AnEmptyMealOffersTheFoodsOfYesterday) {
     Log("Oats", "Lunch");
     Open();
-    EXPECT_EQ(Offered(OpenMenu("lblBreakfast")), (QStringList{"add", "copyFromYesterday"}));
+    EXPECT_EQ(Offered(OpenMenu("lblBreakfast")),
+              (QStringList{"add", "copyFromYesterday", "print"}));
     Key(Qt::Key_Escape);
     EXPECT_EQ(Offered(OpenMenu("lblLunch")),
-              (QStringList{"add", "copyToToday", "copyToDay", "moveToMeal"}));
+              (QStringList{"add", "copyToToday", "copyToDay", "moveToMeal", "print"}));
     Key(Qt::Key_Escape);
 }
 
 TEST_F(DayMenuTest, TheRestOfTheScreenOffersTheWholeDay) {
     Log("Oats", "Lunch");
     Open();
-    EXPECT_EQ(Offered(OpenMenu("cmdAddFoods")), (QStringList{"add", "copyToToday", "copyToDay"}));
+    EXPECT_EQ(Offered(OpenMenu("cmdAddFoods")),
+              (QStringList{"add", "copyToToday", "copyToDay", "print"}));
     Key(Qt::Key_Escape);
     Key(Qt::Key_Menu);
     ASSERT_NE(Menu(), nullptr);

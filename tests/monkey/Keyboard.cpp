@@ -36,6 +36,7 @@ const Pressed Sometimes[] = {
     {Qt::Key_6, Qt::ControlModifier},
     {Qt::Key_D, Qt::ControlModifier},
     {Qt::Key_F, Qt::ControlModifier},
+    {Qt::Key_P, Qt::ControlModifier},
     {Qt::Key_F10, Qt::ShiftModifier},
     {Qt::Key_Tab, Qt::ControlModifier},
     {Qt::Key_Home, Qt::ControlModifier},

@@ -12,6 +12,11 @@
 namespace {
 constexpr int Pause = 1;          ///< millisecond between two inputs: the program paints
 constexpr int MostClosings = 100; ///< then it is ended as by a kill
+
+/// Its dialog for printing is not ours, and would write files anywhere.
+bool IsOfThePlatform(const QWidget* window) {
+    return window->objectName() == u"printDialog";
+}
 } // namespace
 
 Monkey::Monkey(quint32 seed, int inputs, Trail& trail, RowWatch& rows)
@@ -45,6 +50,10 @@ void Monkey::Act() {
     QWidget* window = RandomInput::Window();
     if (!window || !window->windowHandle())
         return;
+    if (IsOfThePlatform(window)) {
+        window->windowHandle()->close();
+        return;
+    }
     LookAt(window);
     if (--left_ < 0)
         return Leave(window);

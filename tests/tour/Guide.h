@@ -39,6 +39,7 @@ public:
     void Picture(QWidget* window, const QString& name);
     /// The window with the menus, lists and tips that are open over it.
     void PictureWithPopups(QWidget* window, const QString& name);
+    void Save(const QPixmap& picture, const QString& name);
     void Settle(); ///< lets pending paints and events run
 
     void Check(bool holds, const QString& what);
@@ -57,7 +58,6 @@ private:
     };
     void Visit(QWidget* modal);
     static void KeepHoverLooks(QWidget* form);
-    void Save(const QPixmap& picture, const QString& name);
 
     QDir pictures_;
     QQueue<Stop> foreseen_;

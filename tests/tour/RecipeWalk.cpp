@@ -1,6 +1,7 @@
 #include "tour/RecipeWalk.h"
 
 #include "tour/Guide.h"
+#include "tour/PrintWalk.h"
 
 #include "store/Connection.h"
 #include "toolkit/ListBox.h"
@@ -47,6 +48,7 @@ void RecipeWalk::Go() {
     AddIngredients();
     SaveRecipe();
     LookAtCard();
+    PrintWalk(guide_).Recipe();
     CorrectRecipe();
     WriteLongRecipe();
     DeleteLongRecipe();

@@ -1,6 +1,7 @@
 #include "tour/ReportWalk.h"
 
 #include "tour/Guide.h"
+#include "tour/PrintWalk.h"
 
 #include "analysis/ui/ChartLabel.h"
 #include "analysis/ui/ucLineChart.h"
@@ -218,6 +219,7 @@ void ReportWalk::AYear() {
     Report(today.addDays(-364), today);
     CheckFigures(today.addDays(-364), today);
     LookAtViews(QStringLiteral("year"));
+    PrintWalk(guide_).Report();
 }
 
 void ReportWalk::ConstantWeight() {

@@ -4,6 +4,7 @@
 #include "tour/ExchangeWalk.h"
 #include "tour/Guide.h"
 #include "tour/KeyWalk.h"
+#include "tour/PrintWalk.h"
 #include "tour/RecipeWalk.h"
 #include "tour/ReportWalk.h"
 
@@ -73,6 +74,7 @@ void Walk::Go() {
     RemoveOneFood();
     KeepFoods();
     KeyWalk(guide_).Go();
+    PrintWalk(guide_).Day();
     ChangeDay();
     EditProfile();
     Preferences();
@@ -252,6 +254,7 @@ void Walk::RefusedQuantity(QWidget* search) {
 void Walk::ExamineFirst(QWidget* search) {
     guide_.ForeseeNext(QStringLiteral("frmNutInfo"), [this](QWidget* facts) {
         guide_.Picture(facts, QStringLiteral("facts"));
+        PrintWalk(guide_).Facts(facts);
         guide_.Press(facts, QStringLiteral("cmdDone"));
     });
     guide_.Press(guide_.Find(search, QStringLiteral("ucFood1")), QStringLiteral("imgInfo_W_A"));

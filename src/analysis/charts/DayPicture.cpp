@@ -22,6 +22,7 @@ constexpr int RowsMargin = 2; ///< below the last row
 constexpr int Frame = 2;      ///< of the panel, on both sides together
 
 constexpr int RightMargin = 30; ///< twips
+constexpr int PercentsADarkLine = 50;
 
 } // namespace
 
@@ -68,6 +69,16 @@ void DayPicture::PaintBars(QPainter& painter, const DayFigures& figures) const {
         return BarWidth(figure.value, figure.target);
     });
     painter.restore();
+}
+
+void DayPicture::PaintScale(QPainter& painter) const {
+    painter.setFont(TheStyle().small);
+    painter.setPen(TheStyle().barRowText);
+    const int step = Twips::ToPixels(PercentGrid::DarkStep);
+    int line = View().left() + Twips::ToPixels(PercentGrid::Origin);
+    for (int percent = 0; line < View().right(); percent += PercentsADarkLine, line += step)
+        painter.drawText(QRect(line - step / 2, -ScaleHeight, step, ScaleHeight), Qt::AlignCenter,
+                         QString::number(percent) + u'%');
 }
 
 void DayPicture::PaintValues(QPainter& painter, const DayFigures& figures) const {

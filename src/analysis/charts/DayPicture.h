@@ -24,6 +24,8 @@ public:
 
     void PaintBars(QPainter& painter, const DayFigures& figures) const;
     void PaintValues(QPainter& painter, const DayFigures& figures) const;
+    static constexpr int ScaleHeight = 14;
+    void PaintScale(QPainter& painter) const; ///< for a page: the percents, above the bars
 
     /// In twips: 100 % is as wide as the grid draws it. A bar is at most as long as the panel; its
     /// view cuts it off at the panel's right edge.

@@ -27,6 +27,9 @@ constexpr int MostPixels = 534;
 constexpr int LabelLeft = 8;
 constexpr int HeaderDrop = 1; ///< so far the header covers the first label
 constexpr int LeastPitch = 13;
+constexpr int ScaleWidth = 60; ///< of a percent
+
+constexpr int ScaleStep = 25; ///< percent
 
 /// In twips: the greatest number of whole pixels with which all rows fit.
 int LabelHeight(int chartHeight) {
@@ -83,6 +86,21 @@ void PeriodPicture::PaintGround(QPainter& painter) const {
     Grid.DrawGrid(painter, size_.height());
     painter.setPen(TheStyle().frame);
     painter.drawRect(QRectF(place).adjusted(.5, .5, -.5, -.5));
+}
+
+void PeriodPicture::ClearHead(QPainter& painter) const {
+    painter.fillRect(1, 1, size_.width() - 2, HeadHeight() - 1, TheStyle().paper);
+}
+
+void PeriodPicture::PaintScale(QPainter& painter) const {
+    ClearHead(painter);
+    painter.setFont(TheStyle().small);
+    painter.setPen(TheStyle().barRowText);
+    for (int percent = 0; percent * PixelsAtTarget / 100 < MostPixels; percent += ScaleStep) {
+        const int line = BarPlace(1).x() + percent * PixelsAtTarget / 100;
+        painter.drawText(QRect(line - ScaleWidth / 2, 0, ScaleWidth, HeadHeight()), Qt::AlignCenter,
+                         QString::number(percent) + u'%');
+    }
 }
 
 void PeriodPicture::PaintNames(QPainter& painter, const PeriodFigures& figures) const {

@@ -11,6 +11,8 @@ struct NutrientFigure;
 /// values. It knows the place of each part. Places are pixels; rows count from 1.
 class PeriodPicture {
 public:
+    static constexpr QSize UsualSize{738, 476};
+
     explicit PeriodPicture(QSize size);
 
     int HeadHeight() const; ///< that the header takes
@@ -23,6 +25,9 @@ public:
     void PaintGround(QPainter& painter) const; ///< grid and frame
     void PaintBars(QPainter& painter, const PeriodFigures& figures) const;
     void PaintValues(QPainter& painter, const PeriodFigures& figures) const;
+    // For a page, which has no header there.
+    void PaintScale(QPainter& painter) const; ///< the percents over the lines of the grid
+    void ClearHead(QPainter& painter) const;
 
     static double BarWidth(double partOfTarget); ///< in twips
     static QString ValueText(const NutrientFigure& figure);

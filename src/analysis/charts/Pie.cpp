@@ -6,7 +6,6 @@
 
 #include <QFontMetricsF>
 #include <QPainter>
-#include <QPainterPath>
 #include <QtMath>
 
 #include <cmath>
@@ -113,20 +112,24 @@ void Pie::PaintBackground() {
                     QStringLiteral("overlay"));
 }
 
-void Pie::AddPieSlice(const QColor& colour, const EnergyShares::Sector& sector) {
+QPainterPath Pie::SectorPath(const EnergyShares::Sector& sector) const {
     const auto [from, to] = sector;
     if (!std::isfinite(from) || !std::isfinite(to))
-        return;
+        return {};
     const QPointF reach(form_.radius, form_.radius);
     QPainterPath path(form_.centre);
     path.arcTo(QRectF(form_.centre - reach, form_.centre + reach), from * DegreesPerPercent,
                (to - from) * DegreesPerPercent);
     path.closeSubpath();
+    return path;
+}
+
+void Pie::AddPieSlice(const QColor& colour, const EnergyShares::Sector& sector) {
     QPainter painter(&temp_);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(colour, 1, Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin));
     painter.setBrush(colour);
-    painter.drawPath(path);
+    painter.drawPath(SectorPath(sector));
 }
 
 void Pie::PaintNoData() {

@@ -4,6 +4,7 @@
 
 #include <QColor>
 #include <QImage>
+#include <QPainterPath>
 #include <QPointF>
 #include <QString>
 
@@ -44,6 +45,7 @@ public:
     const std::array<double, 3>& Shares() const { return shares_.Percents(); }
     QString Summary() const { return shares_.Summary(); }
     const EnergyShares& EnergyParts() const { return shares_; }
+    QPainterPath SectorPath(const EnergyShares::Sector& sector) const; ///< empty if not finite
     /// The caption of the sector at that place of the picture; empty outside the pie.
     QString CaptionAt(QPointF place) const;
     QImage picPIE(double ratio = 1);

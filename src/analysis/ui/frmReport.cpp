@@ -1,11 +1,13 @@
 #include "analysis/ui/frmReport.h"
 
 #include "analysis/WeightLog.h"
+#include "analysis/charts/PeriodPages.h"
 #include "analysis/ui/ViewButtons.h"
 #include "analysis/ui/ucBarChart.h"
 #include "analysis/ui/ucLineChart.h"
 #include "analysis/ui/ucPieChart.h"
 #include "drawing/Style.h"
+#include "model/User.h"
 #include "runtime/Attempt.h"
 #include "runtime/Clock.h"
 #include "runtime/Convert.h"
@@ -18,6 +20,7 @@
 #include "runtime/Settings.h"
 #include "toolkit/LineField.h"
 #include "toolkit/MousePointer.h"
+#include "toolkit/print/Printing.h"
 #include "toolkit/ucAALBL.h"
 #include "toolkit/ucButton.h"
 
@@ -62,7 +65,17 @@ frmReport::frmReport(QWidget* parent)
     AddViewButtons();
     AddCharts();
     cmdDone_ = AddButton("cmdDone", "Done", &frmReport::GoHome, "cmddone");
+    Printing::AddTo(this, Title(), [this] { return Printed(); });
     ShowLastDays();
+}
+
+/// On a page the weight axis fits the weights, however long the period is.
+PrintJob frmReport::Printed() const {
+    const WeightCurve& shown = ucLine_->Curve();
+    const PeriodPages pages{shown_, ucBar_->AverageWeight(), ucBar_->Averages(), ucPie_->Energy(),
+                            shown.entries.empty() ? shown : WeightCurve::WithMean(shown.entries)};
+    return {"Report, " + pages.Days(), User::Current().UserName + u", " + pages.Days(),
+            [pages](Pages& paper) { pages.Paint(paper); }};
 }
 
 void frmReport::AddPeriod() {

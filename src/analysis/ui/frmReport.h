@@ -5,6 +5,7 @@
 
 class QLineEdit;
 class ViewButtons;
+struct PrintJob;
 class ucAALBL;
 class ucBarChart;
 class ucButton;
@@ -23,6 +24,7 @@ public:
     void DoWinInit() override;
     /// Names are compared exactly: "cmdRefresh", and the others in lower case.
     void AllOff(const QString& except) override;
+    PrintJob Printed() const; ///< all four views of the period that is shown
 
 protected:
     void resizeEvent(QResizeEvent*) override;

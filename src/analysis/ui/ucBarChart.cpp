@@ -29,10 +29,6 @@ struct ScaleMark {
 constexpr ScaleMark Scale[] = {
     {"25%", 3645}, {"50%", 5160}, {"75%", 6630}, {"100%", 8160}, {"125%", 9630}};
 
-// Pixels.
-constexpr int UsualWidth = 738;
-constexpr int UsualHeight = 476;
-
 } // namespace
 
 ucBarChart::ucBarChart(QWidget* parent)
@@ -84,7 +80,7 @@ void ucBarChart::AddRows() {
 }
 
 QSize ucBarChart::sizeHint() const {
-    return {UsualWidth, UsualHeight};
+    return PeriodPicture::UsualSize;
 }
 
 void ucBarChart::resizeEvent(QResizeEvent*) {
@@ -102,8 +98,8 @@ void ucBarChart::PlaceAll() {
 void ucBarChart::PlaceHead(int height) {
     header_->setGeometry(1, 1, width() - 2, height);
     for (size_t i = 0; i < scale_.size(); ++i)
-        scale_[i]->setGeometry(Twips::ToPixels(Scale[i].left), 1, scale_[i]->sizeHint().width(),
-                               height);
+        scale_[i]->setGeometry(Twips::ToPixels(Scale[i].left), 1,
+                               scale_[i]->sizeHint().width(), height);
 }
 
 void ucBarChart::PlaceRow(int i, const PeriodPicture& picture) {

@@ -35,6 +35,7 @@ public:
     QString Mode() const { return mode_; } ///< "BARS" or "VALS"
     void StoreMode() const;                ///< for a host that closes before its parts are deleted
     const Nuts& Sums() const { return sums_; }
+    const PeriodFigures& Averages() const { return figures_; }
     qint32 AverageWeight() const { return averageWeight_; } ///< 0 before the first one
 
     /// Both replace the sum that they are given by the average of a day.

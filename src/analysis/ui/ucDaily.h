@@ -38,6 +38,7 @@ public:
     QString Mode() const { return mode_; } ///< "RDI", "VALS" or "PIE"
     void StoreMode() const;                ///< for a host that closes before its parts are deleted
     const Nuts& Sums() const { return sums_; }
+    const DayFigures& Totals() const { return figures_; }
     void AddOverLay();
 
     static double numFix(double value) { return NutrientFigure::numFix(value); }

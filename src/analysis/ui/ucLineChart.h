@@ -26,6 +26,7 @@ public:
     void ClearLabels();                        ///< of both axes
 
     const std::vector<PlotPoint>& Points() const { return curve_.points; }
+    const WeightCurve& Curve() const { return curve_; }
     FigureTable Figures() const override { return FigureTable::Of(curve_); }
     QString TipAt(QPoint place) const override; ///< day and weight of the nearest point
     QSize sizeHint() const final;

@@ -40,7 +40,11 @@ void ucPieChart::updatePie(QDate start, QDate end) {
 }
 
 FigureTable ucPieChart::Figures() const {
-    return FigureTable::Of(pie_->picPIE()->pie().EnergyParts());
+    return FigureTable::Of(Energy());
+}
+
+const EnergyShares& ucPieChart::Energy() const {
+    return pie_->picPIE()->pie().EnergyParts();
 }
 
 void ucPieChart::AddOverLay() {

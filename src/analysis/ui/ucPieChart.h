@@ -4,6 +4,7 @@
 
 #include <QDate>
 
+class EnergyShares;
 class PieChart;
 class ucBox;
 
@@ -17,6 +18,7 @@ public:
     void updatePie(QDate start, QDate end);
     void AddOverLay();
     FigureTable Figures() const override;
+    const EnergyShares& Energy() const;
 
 protected:
     void resizeEvent(QResizeEvent*) override;

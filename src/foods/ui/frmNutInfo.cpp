@@ -4,10 +4,12 @@
 #include "drawing/Twips.h"
 #include "foods/FormatNutrient.h"
 #include "foods/ui/ElidedLabel.h"
+#include "foods/ui/FactsPage.h"
 #include "model/User.h"
 #include "runtime/Convert.h"
 #include "runtime/Format.h"
 #include "runtime/RuntimeError.h"
+#include "toolkit/print/Printing.h"
 #include "toolkit/ucButton.h"
 #include "toolkit/ucTitleFlat.h"
 
@@ -106,6 +108,7 @@ frmNutInfo::frmNutInfo(QWidget* owner)
     BuildHeadlines();
     BuildOthers();
     BuildDone();
+    Printing::AddTo(this, windowTitle(), [this] { return Printed(); });
 }
 
 void frmNutInfo::BuildName() {
@@ -227,6 +230,28 @@ void frmNutInfo::CapFatCalories() {
     const QString calories = amounts_[size_t(Nutrient::Calories)]->text();
     if (WholeNumber(lblFatCals_->text()) > WholeNumber(calories))
         lblFatCals_->setText(calories);
+}
+
+FactsPage frmNutInfo::Page() const {
+    const auto row = [this](Nutrient id) {
+        return FactsPage::Row{QLatin1String(Info(id).factsCaption), amounts_[size_t(id)]->text()};
+    };
+    FactsPage page{aaFoodName_->text(),
+                   aaServSize_->text(),
+                   {row(Nutrient::Calories), {"Calories from fat", lblFatCals_->text()}},
+                   {}};
+    for (size_t i = 0; i < percents_.size(); ++i) {
+        page.headlines.push_back(row(Headlines[i].id));
+        page.headlines.back().percent = percents_[i]->text();
+    }
+    for (const Nutrient id : Others)
+        page.others.push_back(row(id));
+    return page;
+}
+
+PrintJob frmNutInfo::Printed() const {
+    return {aaFoodName_->text(), QStringLiteral("Nutrition facts"),
+            [page = Page()](Pages& paper) { page.Paint(paper); }};
 }
 
 void frmNutInfo::paintEvent(QPaintEvent* event) {

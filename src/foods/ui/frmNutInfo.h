@@ -6,6 +6,8 @@
 #include "toolkit/Labels.h"
 
 class ElidedLabel;
+struct FactsPage;
+struct PrintJob;
 class ucButton;
 
 /// The nutrition facts of a chosen food, laid out like the label on a package: first seven amounts
@@ -18,6 +20,7 @@ public:
 
     /// Fills the labels and shows the panel modally. If an entry is missing, it shows nothing.
     void showFood(const ScaledFood& item);
+    PrintJob Printed() const; ///< what is shown
 
 protected:
     void paintEvent(QPaintEvent*) override;
@@ -37,6 +40,7 @@ private:
     void Fill(const ScaledFood& item);
     void FillPercents(const ScaledFood& item);
     void CapFatCalories();
+    FactsPage Page() const;
 
     ElidedLabel* aaFoodName_ = nullptr;
     ElidedLabel* aaServSize_ = nullptr;

@@ -7,8 +7,10 @@
 #include "intake/DayLog.h"
 #include "intake/ui/DayCalendar.h"
 #include "intake/ui/DayMenu.h"
+#include "intake/ui/DayPages.h"
 #include "intake/ui/WeightField.h"
 #include "intake/ui/ucMyFood.h"
+#include "model/User.h"
 #include "runtime/AppState.h"
 #include "runtime/Convert.h"
 #include "runtime/Format.h"
@@ -18,6 +20,7 @@
 #include "runtime/Val.h"
 #include "toolkit/ContextMenu.h"
 #include "toolkit/Labels.h"
+#include "toolkit/print/Printing.h"
 #include "toolkit/ucAALBL.h"
 #include "toolkit/ucBox.h"
 #include "toolkit/ucButton.h"
@@ -116,12 +119,30 @@ void frmDay::AddMenu() {
     connect(items, &DayMenu::AddAsked, this, &frmDay::ChooseFoods);
     connect(items, &DayMenu::CopyDayAsked, this, &frmDay::ChooseCopyDay);
     new ContextMenu(this, [this, items](QMenu& menu, QWidget* target) {
-        if (!picCal_->isAncestorOf(target))
-            items->Fill(menu, target);
+        if (picCal_->isAncestorOf(target))
+            return;
+        items->Fill(menu, target);
+        Printing::AddItem(menu, this, [this] { return ToPrint(); });
     });
+    Printing::AddKey(this, [this] { return ToPrint(); });
     auto* undo = new QShortcut(QKeySequence::Undo, this);
     undo->setContext(Qt::WidgetWithChildrenShortcut);
     connect(undo, &QShortcut::activated, myFood_, &ucMyFood::Undo);
+}
+
+/// A typed weight is saved first, so that the page holds what the person sees.
+PrintJob frmDay::ToPrint() {
+    if (txtWeight_->HoldsUnsaved())
+        txtWeight_->Leave();
+    return Printed();
+}
+
+PrintJob frmDay::Printed() const {
+    const QString day = FormatLongDate(App().CurrentDate);
+    return {"Daily Details, " + day, User::Current().UserName + u", " + day,
+            [pages = DayPages(App().CurrentDate, daily_->Totals())](Pages& paper) {
+                pages.Paint(paper);
+            }};
 }
 
 void frmDay::resizeEvent(QResizeEvent*) {

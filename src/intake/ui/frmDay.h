@@ -14,6 +14,7 @@ class ucDaily;
 class ucMyFood;
 class QLabel;
 class WeightField;
+struct PrintJob;
 
 /// The screen "Daily Details": the chosen day's foods, its totals against the targets, its weight,
 /// and a calendar to choose another day. It shows the process-wide chosen day, which stays when the
@@ -32,6 +33,7 @@ public:
 
     void EatFoods() { ChooseFoods(-1); } ///< opens the food search
     void OpenCalendar();
+    PrintJob Printed() const; ///< the day that is shown
 
 protected:
     void resizeEvent(QResizeEvent*) override;
@@ -58,6 +60,7 @@ private:
     void CloseCalendar();
     void ChooseFoods(int meal);
     void ClearFoods();
+    PrintJob ToPrint();
     void GoHome();
     void SaveWeight();
     void ShowTargets(bool weightTaken);

@@ -5,6 +5,7 @@
 #include "recipes/RecipeBook.h"
 #include "recipes/ui/InstructionText.h"
 #include "recipes/ui/RecipeCard.h"
+#include "recipes/ui/RecipePages.h"
 #include "recipes/ui/frmImport.h"
 #include "recipes/ui/frmRecSearch.h"
 #include "recipes/ui/frmSend.h"
@@ -13,6 +14,7 @@
 #include "runtime/ScreenTable.h"
 #include "runtime/Seams.h"
 #include "toolkit/ListBox.h"
+#include "toolkit/print/Printing.h"
 #include "toolkit/ucBox.h"
 #include "toolkit/ucButton.h"
 
@@ -34,6 +36,16 @@ frmRecipeManager::frmRecipeManager(QWidget* parent)
     AddCard();
     AddButtons();
     AllowAll({cmdEdit_, cmdDelete_, cmdSend_}, false);
+    Printing::AddTo(this, Title(), [this] { return Printed(); });
+}
+
+std::optional<PrintJob> frmRecipeManager::Printed() const {
+    if (current_ == NoRecipe)
+        return {};
+    RecipeTexts texts;
+    RecipeBook::ReadInto(texts, current_);
+    const QString& name = texts[RecipeField::Name];
+    return PrintJob{name, name, [id = current_](Pages& paper) { RecipePages::Paint(paper, id); }};
 }
 
 void frmRecipeManager::AddList() {

@@ -2,11 +2,14 @@
 
 #include "toolkit/ScreenForm.h"
 
+#include <optional>
+
 class ListBox;
 class RecipeCard;
 class ScaledFood;
 class ucBox;
 class ucButton;
+struct PrintJob;
 
 /// The screen "Recipe Manager": a list of the recipes, and the card of the current one. It is
 /// empty, shows a recipe, or edits one. Saving ends an edit; leaving the screen saves nothing.
@@ -26,6 +29,7 @@ public:
     bool SaveRecipe(); ///< false: nothing was saved, and a message has said why
     void AddRecipe();
     void AddFood(const ScaledFood& item); ///< to the ingredients of the current recipe
+    std::optional<PrintJob> Printed() const; ///< the current recipe, if any, as it is stored
 
 protected:
     void resizeEvent(QResizeEvent*) override;

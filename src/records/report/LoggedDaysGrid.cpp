@@ -1,7 +1,7 @@
 #include "records/report/LoggedDaysGrid.h"
 
+#include "drawing/Pages.h"
 #include "drawing/Style.h"
-#include "records/report/Pages.h"
 #include "records/report/ReportText.h"
 #include "runtime/Dates.h"
 

@@ -1,14 +1,15 @@
 #include "records/report/PdfReport.h"
 
+#include "drawing/Pages.h"
 #include "drawing/SmoothedPrint.h"
 #include "drawing/Style.h"
 #include "records/report/AverageTable.h"
 #include "records/report/LoggedDaysGrid.h"
 #include "records/report/MealColumns.h"
-#include "records/report/Pages.h"
 #include "records/report/ReportCharts.h"
 #include "records/report/ReportText.h"
 
+#include <QPdfWriter>
 #include <QtMath>
 
 namespace {
@@ -61,6 +62,13 @@ private:
     QPainter& painter_;
     int left_, right_, y_;
 };
+
+void SetUp(QPdfWriter& writer, QPageSize::PageSizeId paper) {
+    writer.setPageLayout({QPageSize(paper), QPageLayout::Portrait, QMarginsF()});
+    writer.setResolution(Pages::DotsAnInch);
+    writer.setTitle(QLatin1String(ReportText::Title));
+    writer.setCreator(QStringLiteral("Halvane"));
+}
 
 void WriteHead(Pages& pages, const ReportFigures& figures) {
     const Style& style = TheStyle();
@@ -153,7 +161,9 @@ void WriteMeals(Pages& pages, const ReportFigures& figures) {
 
 void PdfReport::Write(QIODevice& file, const ReportFigures& figures, QPageSize::PageSizeId paper) {
     const QString who = figures.person.UserName + u", " + ReportText::Days(figures.period);
-    Pages pages(file, paper, QLatin1String(ReportText::Title), who);
+    QPdfWriter writer(&file);
+    SetUp(writer, paper);
+    Pages pages(writer, who);
     WriteHead(pages, figures);
     WriteLoggedDays(pages, figures);
     if (!figures.days.empty())

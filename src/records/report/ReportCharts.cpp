@@ -10,7 +10,7 @@
 namespace {
 constexpr int PieEdge = 150;
 constexpr double PieRadius = 70;
-constexpr QSize WholeCurve(716, 400); ///< for which its places are made
+constexpr QSize WholeCurve = WeightCurvePainting::UsualSize;
 constexpr double SmallestScale = 0.56;
 constexpr double LargestScale = 0.72;
 constexpr double Sharpness = 4; ///< dots to a pixel
