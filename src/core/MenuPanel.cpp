@@ -1,6 +1,7 @@
 #include "core/MenuPanel.h"
 
 #include "core/MenuLabel.h"
+#include "drawing/DevicePixels.h"
 #include "drawing/Style.h"
 
 #include <QMouseEvent>
@@ -85,6 +86,5 @@ void MenuPanel::paintEvent(QPaintEvent*) {
     const Style& style = TheStyle();
     QPainter painter(this);
     painter.fillRect(rect(), style.paper);
-    painter.setPen(style.frame);
-    painter.drawRect(QRectF(rect()).adjusted(.5, .5, -.5, -.5));
+    PaintFrame(painter, rect(), style.frame);
 }

@@ -1,5 +1,6 @@
 #include "core/frmSplash.h"
 
+#include "drawing/DevicePixels.h"
 #include "drawing/Pictures.h"
 #include "drawing/Style.h"
 #include "toolkit/CentreWindow.h"
@@ -63,8 +64,7 @@ void frmSplash::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.fillRect(rect(), style.canvas);
     Pictures::Paint(painter, Picture, QStringLiteral("logo"));
-    painter.setPen(style.frame);
-    painter.drawRect(QRectF(rect()).adjusted(.5, .5, -.5, -.5));
+    PaintFrame(painter, rect(), style.frame);
 }
 
 void frmSplash::mousePressEvent(QMouseEvent*) {

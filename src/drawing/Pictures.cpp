@@ -1,5 +1,7 @@
 #include "drawing/Pictures.h"
 
+#include "drawing/DevicePixels.h"
+
 #include <QFile>
 #include <QPainter>
 #include <QPixmapCache>
@@ -31,6 +33,16 @@ QByteArray Tinted(const QString& name, const QColor& tint) {
     return source;
 }
 
+QPixmap Draw(QSize pixels, const QByteArray& source) {
+    QPixmap drawn(pixels);
+    drawn.fill(Qt::transparent);
+    QSvgRenderer renderer(source);
+    QPainter painter(&drawn);
+    if (renderer.isValid())
+        renderer.render(&painter, QRectF(QPointF(), QSizeF(pixels)));
+    return drawn;
+}
+
 QString KeyOf(const QString& name, QSize pixels, const QColor& tint) {
     return "halvane/" + name + u'/' + QString::number(pixels.width()) + u'x' +
            QString::number(pixels.height()) + u'/' +
@@ -45,25 +57,20 @@ bool Pictures::Exists(const QString& name) {
 
 void Pictures::Paint(QPainter& painter, const QRectF& place, const QString& name,
                      const QColor& tint) {
-    const qreal ratio = painter.device()->devicePixelRatioF();
-    const QSize size = place.size().toSize();
-    painter.drawPixmap(place.topLeft(), Get(name, size, tint, ratio));
+    const DevicePixels device(painter);
+    const QRect on = device.Of(place);
+    const QSize size = (QSizeF(place.size().toSize()) * device.Ratio()).toSize();
+    painter.drawPixmap(on.topLeft(), Get(name, size, tint));
 }
 
 QPixmap Pictures::Get(const QString& name, QSize size, const QColor& tint, qreal ratio) {
     const QSize pixels = (QSizeF(size) * ratio).toSize();
     const QString key = KeyOf(name, pixels, tint);
     QPixmap drawn;
-    if (pixels.isEmpty() || QPixmapCache::find(key, &drawn))
-        return drawn;
-    drawn = QPixmap(pixels);
-    drawn.fill(Qt::transparent);
-    QSvgRenderer renderer(Tinted(name, tint));
-    QPainter painter(&drawn);
-    if (renderer.isValid())
-        renderer.render(&painter, QRectF(QPointF(), QSizeF(pixels)));
-    painter.end();
+    if (!pixels.isEmpty() && !QPixmapCache::find(key, &drawn)) {
+        drawn = Draw(pixels, Tinted(name, tint));
+        QPixmapCache::insert(key, drawn);
+    }
     drawn.setDevicePixelRatio(ratio);
-    QPixmapCache::insert(key, drawn);
     return drawn;
 }

@@ -1,5 +1,6 @@
 #include "toolkit/Dialog.h"
 
+#include "drawing/DevicePixels.h"
 #include "drawing/Style.h"
 #include "toolkit/CentreWindow.h"
 #include "toolkit/CleanUp.h"
@@ -58,8 +59,7 @@ void Dialog::showEvent(QShowEvent* event) {
 void Dialog::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.fillRect(rect(), TheStyle().canvas);
-    painter.setPen(TheStyle().frame);
-    painter.drawRect(QRectF(rect()).adjusted(.5, .5, -.5, -.5));
+    PaintFrame(painter, rect(), TheStyle().frame);
 }
 
 void Dialog::mouseMoveEvent(QMouseEvent*) {

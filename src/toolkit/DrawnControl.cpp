@@ -1,5 +1,6 @@
 #include "toolkit/DrawnControl.h"
 
+#include "drawing/DevicePixels.h"
 #include "drawing/Style.h"
 #include "drawing/Twips.h"
 #include "toolkit/ControlInterface.h"
@@ -8,6 +9,12 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QtMath>
+
+namespace {
+
+constexpr int RingWidth = 2;
+
+} // namespace
 
 DrawnControl::DrawnControl(QWidget* parent)
     : SpokenControl(parent) {
@@ -61,12 +68,18 @@ bool DrawnControl::IsPressKey(const QKeyEvent* event) {
 }
 
 void PaintFocusRing(QPainter& painter, const QRectF& place, double radius) {
-    painter.save();
+    const DevicePixels device(painter);
+    const QRectF on = device.Of(place);
+    const double rounding = radius * device.Ratio();
+    const int outer = device.Line(RingWidth);
+    const int inner = device.Line();
+    const auto ring = [&](double inset, double radiusInside, const QPen& pen) {
+        painter.setPen(pen);
+        painter.drawRoundedRect(on.adjusted(inset, inset, -inset, -inset), radiusInside,
+                                radiusInside);
+    };
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(TheStyle().frame, 2));
-    painter.drawRoundedRect(place.adjusted(1, 1, -1, -1), radius, radius);
-    painter.setPen(QPen(TheStyle().paper, 1));
-    painter.drawRoundedRect(place.adjusted(2.5, 2.5, -2.5, -2.5), radius - 1, radius - 1);
-    painter.restore();
+    ring(outer / 2.0, rounding, QPen(TheStyle().frame, outer));
+    ring(outer + inner / 2.0, qMax(0.0, rounding - device.Ratio()), QPen(TheStyle().paper, inner));
 }

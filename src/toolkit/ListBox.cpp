@@ -1,5 +1,6 @@
 #include "toolkit/ListBox.h"
 
+#include "drawing/DevicePixels.h"
 #include "drawing/SmoothedPrint.h"
 #include "drawing/Style.h"
 #include "toolkit/ListLines.h"
@@ -38,7 +39,7 @@ public:
         const QRect row = option.rect;
         if (chosen)
             painter->fillRect(row, usable ? style.chosenRow : style.rule);
-        painter->fillRect(row.left(), row.bottom(), row.width(), 1, style.rule);
+        PaintEdge(*painter, row, Qt::BottomEdge, style.rule);
         painter->setPen(!usable ? style.disabledInk : chosen ? style.chosenRowText : style.ink);
         const double height = QFontMetricsF(SmoothedFont(style.text)).height();
         SmoothedPrint(

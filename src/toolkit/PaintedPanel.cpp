@@ -2,7 +2,7 @@
 
 #include "drawing/SmoothedPrint.h"
 #include "toolkit/Accessible.h"
-#include "toolkit/Slices.h"
+#include "toolkit/Face.h"
 
 #include <QFontMetricsF>
 #include <QMouseEvent>
@@ -26,9 +26,7 @@ double PaintedPanel::TextHeight() const {
 }
 
 void PaintedPanel::PaintGround(QPainter& painter, const QColor& from, const QColor& to) const {
-    const Style::ButtonFace face{{from, to}, Qt::transparent, QColor()};
-    StretchColumn(painter, rect(),
-                  Slices::OfFace(face, 1, 0, height(), devicePixelRatioF()).middle);
+    ::PaintGround(painter, rect(), {from, to});
 }
 
 void PaintedPanel::PrintCaption(QPainter& painter, const QColor& ink, double x) const {

@@ -1,5 +1,6 @@
 #include "toolkit/ucAte.h"
 
+#include "drawing/DevicePixels.h"
 #include "drawing/Pictures.h"
 #include "drawing/SmoothedPrint.h"
 #include "drawing/Style.h"
@@ -123,7 +124,7 @@ void ucAte::PaintGround(QPainter& painter) const {
     if (BackStyle() != 0)
         painter.fillRect(rect(), BackColor());
     if (BorderStyle() != 0)
-        painter.fillRect(QRect(0, height() - 1, width(), 1), TheStyle().rule);
+        PaintEdge(painter, rect(), Qt::BottomEdge, TheStyle().rule);
     if (!FoodIcon().isEmpty())
         Pictures::Paint(painter, layoutRects().imgFoodIcon, FoodIcon(), TheStyle().quietInk);
 }

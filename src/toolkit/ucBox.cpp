@@ -1,14 +1,17 @@
 #include "toolkit/ucBox.h"
 
+#include "drawing/DevicePixels.h"
 #include "drawing/Style.h"
 #include "toolkit/ucHeader.h"
 
 #include <QMouseEvent>
 #include <QPainter>
+#include <QtMath>
 
 namespace {
 
 constexpr int FrameWidth = 1;
+constexpr int RoundingRoom = 1; ///< at a fractional scale a child may cover a pixel beyond its end
 
 } // namespace
 
@@ -45,7 +48,9 @@ void ucBox::SetFont(const QFont& font) {
 
 QRect ucBox::Inner() const {
     const int top = Caption().isEmpty() ? FrameWidth : FrameWidth + header_->height();
-    return rect().adjusted(FrameWidth, top, -FrameWidth, -FrameWidth);
+    const qreal ratio = devicePixelRatioF();
+    const int end = FrameWidth + (ratio > qFloor(ratio) ? RoundingRoom : 0);
+    return rect().adjusted(FrameWidth, top, -end, -end);
 }
 
 void ucBox::resizeEvent(QResizeEvent*) {
@@ -55,15 +60,14 @@ void ucBox::resizeEvent(QResizeEvent*) {
 
 void ucBox::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.fillRect(rect(), TheStyle().paper);
+    PaintArea(painter, rect(), TheStyle().paper);
+    if (!Caption().isEmpty())
+        ucHeader::PaintBehind(painter, header_->geometry());
     DrawBorder(painter);
 }
 
 void ucBox::DrawBorder(QPainter& painter) const {
-    const Style& style = TheStyle();
-    painter.setPen(style.frame);
-    painter.drawRoundedRect(QRectF(rect()).adjusted(.5, .5, -.5, -.5), style.boxRadius,
-                            style.boxRadius);
+    PaintFrame(painter, rect(), TheStyle().frame, TheStyle().boxRadius);
 }
 
 void ucBox::mousePressEvent(QMouseEvent* event) {

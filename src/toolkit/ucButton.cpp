@@ -3,7 +3,7 @@
 #include "drawing/SmoothedPrint.h"
 #include "drawing/Twips.h"
 #include "toolkit/Accessible.h"
-#include "toolkit/Slices.h"
+#include "toolkit/Face.h"
 
 #include <QFontMetricsF>
 #include <QKeyEvent>
@@ -91,13 +91,8 @@ const Style::ButtonFace& ucButton::Face() const {
 
 void ucButton::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    const Layout at = layoutRects();
-    const Slices& slices =
-        Slices::OfFace(Face(), CapWidth, TheStyle().buttonRadius, height(), devicePixelRatioF());
-    painter.drawPixmap(at.picL, slices.left);
-    StretchColumn(painter, at.picM, slices.middle);
-    painter.drawPixmap(at.picR, slices.right);
-    PaintCaption(painter, at.picM);
+    PaintFace(painter, rect(), Face(), TheStyle().buttonRadius);
+    PaintCaption(painter, layoutRects().picM);
     if (FocusShown())
         PaintFocusRing(painter, rect(), TheStyle().buttonRadius);
 }

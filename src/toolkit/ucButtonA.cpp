@@ -4,7 +4,7 @@
 #include "drawing/SmoothedPrint.h"
 #include "toolkit/Accessible.h"
 #include "toolkit/ControlInterface.h"
-#include "toolkit/Slices.h"
+#include "toolkit/Face.h"
 
 #include <QFontMetricsF>
 #include <QKeyEvent>
@@ -185,12 +185,7 @@ void ucButtonA::PaintGround(QPainter& painter) const {
     Style::ButtonFace face = style.button[isEnabled() ? static_cast<int>(shown_) : 3];
     if (chosen_)
         face = {style.chosenDay, style.frame, style.heading};
-    const int cap = style.buttonRadius + 1;
-    const Slices& slices =
-        Slices::OfFace(face, cap, style.buttonRadius, height(), devicePixelRatioF());
-    painter.drawPixmap(0, 0, slices.left);
-    StretchColumn(painter, QRect(cap, 0, width() - 2 * cap, height()), slices.middle);
-    painter.drawPixmap(width() - cap, 0, slices.right);
+    PaintFace(painter, rect(), face, style.buttonRadius);
 }
 
 void ucButtonA::paintEvent(QPaintEvent*) {

@@ -3,7 +3,7 @@
 #include "drawing/SmoothedPrint.h"
 #include "drawing/Twips.h"
 #include "toolkit/Accessible.h"
-#include "toolkit/Slices.h"
+#include "toolkit/Face.h"
 
 #include <QFontMetricsF>
 #include <QKeyEvent>
@@ -65,10 +65,7 @@ QRect ucCalButton::picM() const {
 void ucCalButton::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     const Style::ButtonFace& face = TheStyle().dayButton[state_ - 1];
-    const QRect ground = rect().adjusted(FrameWidth, FrameWidth, -FrameWidth, -FrameWidth);
-    painter.fillRect(rect(), face.edge);
-    StretchColumn(painter, ground,
-                  Slices::OfFace(face, 1, 0, ground.height(), devicePixelRatioF()).middle);
+    PaintFace(painter, rect(), face, 0, FrameWidth);
     const QPointF corner = picM().topLeft();
     const double textHeight = QFontMetricsF(SmoothedFont(font())).height();
     painter.setPen(face.text);
@@ -77,7 +74,8 @@ void ucCalButton::paintEvent(QPaintEvent*) {
                       QPointF(Twips::ToPixels(CaptionLeft), picM().height() / 2.0 - textHeight / 2),
                   caption_, font());
     if (FocusShown())
-        PaintFocusRing(painter, ground, 0);
+        PaintFocusRing(painter, rect().adjusted(FrameWidth, FrameWidth, -FrameWidth, -FrameWidth),
+                       0);
 }
 
 /// One routine for press, move and release. A release still reports the left button, so the button

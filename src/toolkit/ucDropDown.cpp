@@ -1,5 +1,6 @@
 #include "toolkit/ucDropDown.h"
 
+#include "drawing/DevicePixels.h"
 #include "drawing/Pictures.h"
 #include "drawing/SmoothedPrint.h"
 #include "runtime/Convert.h"
@@ -7,7 +8,7 @@
 #include "toolkit/ControlInterface.h"
 #include "toolkit/DropItem.h"
 #include "toolkit/DropPanel.h"
-#include "toolkit/Slices.h"
+#include "toolkit/Face.h"
 
 #include <QApplication>
 #include <QFontMetricsF>
@@ -190,12 +191,10 @@ void ucDropDown::paintEvent(QPaintEvent*) {
 
 void ucDropDown::PaintStrip(QPainter& painter, const Layout& at) const {
     const Style& style = TheStyle();
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(IsOpen() ? style.frame : style.fieldEdge);
-    painter.setBrush(isEnabled() ? style.paper : style.canvas);
-    painter.drawRoundedRect(QRectF(at.picSelItem).adjusted(.5, .5, -.5, -.5), style.fieldRadius,
-                            style.fieldRadius);
-    painter.setRenderHint(QPainter::Antialiasing, false);
+    const QColor& ground = isEnabled() ? style.paper : style.canvas;
+    PaintFace(painter, at.picSelItem,
+              {{ground, ground}, IsOpen() ? style.frame : style.fieldEdge, style.ink},
+              style.fieldRadius);
 }
 
 /// The ground of the arrow shows only under the pointer.
@@ -204,10 +203,8 @@ void ucDropDown::PaintArrow(QPainter& painter, const Layout& at) const {
     const int picture = static_cast<int>(arrow_);
     if (arrow_ != Arrow::Normal) {
         const QRect ground = at.picArrow.adjusted(0, 1, -1, -1);
-        const Style::ButtonFace& face = style.button[picture];
-        StretchColumn(painter, ground,
-                      Slices::OfFace(face, 1, 0, ground.height(), devicePixelRatioF()).middle);
-        painter.fillRect(ground.left(), ground.top(), 1, ground.height(), style.rule);
+        PaintGround(painter, ground, style.button[picture].ground);
+        PaintEdge(painter, ground, Qt::LeftEdge, style.rule);
     }
     const QColor ink = isEnabled() ? style.*ArrowInks[picture] : style.disabledPicture;
     const int sunk = arrow_ == Arrow::Down ? 1 : 0;

@@ -1,7 +1,9 @@
 #include "toolkit/ucHeader.h"
 
+#include "drawing/DevicePixels.h"
+#include "drawing/Style.h"
 #include "drawing/Twips.h"
-#include "toolkit/Slices.h"
+#include "toolkit/Face.h"
 
 #include <QPainter>
 #include <QtMath>
@@ -34,17 +36,21 @@ QSize ucHeader::sizeHint() const {
             TheStyle().headerHeight};
 }
 
+void ucHeader::PaintBand(QPainter& painter, const QRect& place) {
+    const Style& style = TheStyle();
+    ::PaintGround(painter, place, style.header);
+    PaintEdge(painter, place, Qt::BottomEdge, style.headerEdge);
+}
+
+void ucHeader::PaintBehind(QPainter& painter, const QRect& header) {
+    PaintBand(painter, header.adjusted(-1, -1, 1, 0));
+}
+
 void ucHeader::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    const Style& style = TheStyle();
     const Layout at = layoutRects();
-    const Style::ButtonFace face{style.header, Qt::transparent, style.headerInk};
-    const Slices& slices = Slices::OfFace(face, CapWidth, 0, height(), devicePixelRatioF());
-    painter.drawPixmap(at.picL, slices.left);
-    StretchColumn(painter, at.picM, slices.middle);
-    painter.drawPixmap(at.picR, slices.right);
-    painter.fillRect(0, height() - 1, width(), 1, style.headerEdge);
+    PaintBand(painter, rect());
     const double left =
         centerAlignText_ ? (at.picM.width() - TextWidth()) / 2 : Twips::ToPixels(CaptionLeft);
-    PrintCaption(painter, face.text, at.picM.left() + left);
+    PrintCaption(painter, TheStyle().headerInk, at.picM.left() + left);
 }

@@ -17,6 +17,10 @@ public:
     };
     Layout layoutRects() const;
     QSize sizeHint() const final;
+    static void PaintBand(QPainter& painter, const QRect& place); ///< what a header looks like
+    /// For a parent with a frame: paints the band behind its header and up to the frame. At a
+    /// fractional scale a pixel of the parent shows between the two.
+    static void PaintBehind(QPainter& painter, const QRect& header);
 
 protected:
     void paintEvent(QPaintEvent*) override;

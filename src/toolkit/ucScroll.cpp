@@ -1,10 +1,11 @@
 #include "toolkit/ucScroll.h"
 
+#include "drawing/DevicePixels.h"
 #include "drawing/Pictures.h"
 #include "runtime/Round.h"
 #include "toolkit/Accessible.h"
 #include "toolkit/ControlInterface.h"
-#include "toolkit/Slices.h"
+#include "toolkit/Face.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -243,8 +244,7 @@ void ucScroll::paintEvent(QPaintEvent*) {
     PaintArrow(painter, at.imgUp, Part::Up);
     PaintArrow(painter, at.imgDown, Part::Down);
     PaintThumb(painter, at.picTB);
-    painter.setPen(TheStyle().rule);
-    painter.drawLine(0, 0, 0, height());
+    PaintEdge(painter, rect(), Qt::LeftEdge, TheStyle().rule);
     if (FocusShown())
         PaintFocusRing(painter, at.picTB.adjusted(1, 0, 0, 0), TheStyle().fieldRadius);
     Q_EMIT SlotPainted();
@@ -265,14 +265,8 @@ void ucScroll::PaintThumb(QPainter& painter, const QRect& place) const {
     const int state = pressed_ == Part::Thumb ? 2 : lit_ == Part::Thumb ? 1 : 0;
     const Style::ButtonFace& face = TheStyle().button[state];
     const QRect body = place.adjusted(2, 0, -1, 0);
-    const int cap = TheStyle().fieldRadius + 1;
-    const Slices& slices = Slices::OfFace(face, cap, TheStyle().fieldRadius, body.height(),
-                                          painter.device()->devicePixelRatioF());
-    painter.drawPixmap(body.topLeft(), slices.left);
-    StretchColumn(painter, body.adjusted(cap, 0, -cap, 0), slices.middle);
-    painter.drawPixmap(QPoint(body.right() + 1 - cap, body.top()), slices.right);
-    painter.setPen(face.edge);
+    PaintFace(painter, body, face, TheStyle().fieldRadius);
+    const QRect grip(body.left() + 4, body.center().y(), body.width() - 8, 1);
     for (int shift = -3; shift <= 3; shift += 3)
-        painter.drawLine(body.left() + 4, body.center().y() + shift, body.right() - 4,
-                         body.center().y() + shift);
+        PaintEdge(painter, grip.translated(0, shift), Qt::TopEdge, face.edge);
 }

@@ -2,6 +2,7 @@
 
 #include "drawing/Style.h"
 #include "drawing/Twips.h"
+#include "toolkit/ucHeader.h"
 
 #include <QPainter>
 #include <QtMath>
@@ -26,8 +27,6 @@ QSize ucStrip::sizeHint() const {
 
 void ucStrip::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    const Style& style = TheStyle();
-    PaintGround(painter, style.header.from, style.header.to);
-    painter.fillRect(0, height() - 1, width(), 1, style.headerEdge);
-    PrintCaption(painter, style.headerInk, SurfaceLeft + Twips::ToPixels(CaptionLeft));
+    ucHeader::PaintBand(painter, rect());
+    PrintCaption(painter, TheStyle().headerInk, SurfaceLeft + Twips::ToPixels(CaptionLeft));
 }

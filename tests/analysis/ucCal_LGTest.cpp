@@ -683,14 +683,28 @@ TEST_F(ucCal_LGTest, TheFocusFollowsAClickWithoutARing) {
     EXPECT_TRUE(Button()->FocusShown());
 }
 
-TEST_F(ucCal_LGTest, KeysInAListDoNothing) {
+TEST_F(ucCal_LGTest, KeysInAListTurnTheMonthAndKeepTheFocus) {
+    Open({2026, 11, 21});
+    QSignalSpy turned(calendar, &ucCal_LG::MonthChanged);
+    Month()->setFocus();
+    const std::pair<Qt::Key, const char*> steps[] = {{Qt::Key_Down, "December 2026"},
+                                                     {Qt::Key_Home, "January 2026"},
+                                                     {Qt::Key_End, "December 2026"}};
+    for (const auto& [key, title] : steps) {
+        Key(key);
+        EXPECT_EQ(Title(), title);
+    }
+    EXPECT_EQ(turned.count(), 3);
+    EXPECT_EQ(QApplication::focusWidget(), Month());
+}
+
+TEST_F(ucCal_LGTest, EscapeInAnOpenListKeepsTheMonth) {
     Open({2026, 11, 21});
     Month()->setFocus();
-    for (const Qt::Key key : {Qt::Key_Down, Qt::Key_PageDown, Qt::Key_Home, Qt::Key_Return})
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Up, Qt::Key_Escape})
         Key(key);
-    EXPECT_EQ(QApplication::focusWidget(), Month());
-    EXPECT_EQ(Title(), "November 2026");
     EXPECT_FALSE(Month()->IsOpen());
+    EXPECT_EQ(Title(), "November 2026");
 }
 
 TEST_F(ucCal_LGTest, AssistiveProgramsReadTheDayAndWhatIsLogged) {
@@ -733,4 +747,24 @@ TEST_F(ucCal_LGTest, AResizeLaysTheMonthOutAnew) {
     calendar->resize(0, 0);
     calendar->resize(498, 514);
     EXPECT_EQ(CellsShown(), 31);
+}
+
+TEST_F(ucCal_LGTest, AtEveryScaleTheWeekdaysAreOneBandAndTheCellsHaveOneGround) {
+    Open({2026, 11, 21});
+    const QWidget* head = Find(calendar, "ucDay0");
+    const QPoint corner = head->mapTo(form.get(), QPoint());
+    const QPoint inCell = Cell(12)->mapTo(form.get(), Cell(12)->rect().center());
+    for (int percent = 100; percent <= 300; percent += 5) {
+        const double ratio = percent / 100.0;
+        QImage image((QSizeF(form->size()) * ratio).toSize(), QImage::Format_RGB32);
+        image.setDevicePixelRatio(ratio);
+        form->render(&image);
+        const int row = int((corner.y() + 3) * ratio);
+        for (int x = int((corner.x() + 3) * ratio); x < int((corner.x() + 480) * ratio); ++x) {
+            const QColor found = image.pixelColor(x, row);
+            ASSERT_TRUE(found == TheStyle().navigation || found == TheStyle().frame)
+                << percent << " %, column " << x << ": " << found.name().toStdString();
+        }
+        EXPECT_EQ(image.pixelColor(inCell * ratio), TheStyle().paper) << percent << " %";
+    }
 }

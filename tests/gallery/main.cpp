@@ -10,6 +10,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QGridLayout>
+#include <QScreen>
 
 namespace {
 
@@ -90,7 +91,9 @@ QWidget* MakeCalendar() {
 /// With a folder as argument, the pages are saved there and the program ends.
 void SavePages(const QString& folder, const QList<QPair<QString, QWidget*>>& pages) {
     for (const auto& page : pages)
-        page.second->grab().save(folder + u'/' + page.first + ".png");
+        page.second->screen()
+            ->grabWindow(page.second->winId())
+            .save(folder + u'/' + page.first + ".png");
 }
 
 } // namespace
@@ -106,6 +109,7 @@ int main(int argc, char** argv) {
         page.second->show();
     QApplication::processEvents();
     BringIntoStates(pages.first().second);
+    QApplication::processEvents();
     if (argc > 1) {
         SavePages(QString::fromLocal8Bit(argv[1]), pages);
         return 0;

@@ -1,5 +1,6 @@
 #include "analysis/charts/GridLines.h"
 
+#include "drawing/DevicePixels.h"
 #include "drawing/Style.h"
 #include "drawing/Twips.h"
 
@@ -10,6 +11,6 @@ void GridLines::DrawGrid(QPainter& painter, int height) const {
     const int bottom = Twips::ToPixels(Twips::FromPixels(height) - Foot);
     for (int n = 0; origin + n <= end; n += step) {
         const QColor& colour = n % darkStep == 0 ? style.gridDark : style.gridLight;
-        painter.fillRect(Twips::ToPixels(origin + n), 0, 1, bottom, colour);
+        PaintEdge(painter, QRect(Twips::ToPixels(origin + n), 0, 1, bottom), Qt::LeftEdge, colour);
     }
 }

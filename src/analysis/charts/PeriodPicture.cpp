@@ -4,6 +4,7 @@
 #include "analysis/charts/FigureRows.h"
 #include "analysis/charts/GridLines.h"
 #include "analysis/charts/Leader.h"
+#include "drawing/DevicePixels.h"
 #include "drawing/Style.h"
 #include "drawing/Twips.h"
 
@@ -82,10 +83,9 @@ QRect PeriodPicture::ValuePlace(int row) const {
 
 void PeriodPicture::PaintGround(QPainter& painter) const {
     const QRect place(QPoint(), size_);
-    painter.fillRect(place, TheStyle().paper);
+    PaintArea(painter, place, TheStyle().paper);
     Grid.DrawGrid(painter, size_.height());
-    painter.setPen(TheStyle().frame);
-    painter.drawRect(QRectF(place).adjusted(.5, .5, -.5, -.5));
+    PaintFrame(painter, place, TheStyle().frame);
 }
 
 void PeriodPicture::ClearHead(QPainter& painter) const {

@@ -1,5 +1,6 @@
 #include "analysis/charts/TwipsSurface.h"
 
+#include "drawing/DevicePixels.h"
 #include "drawing/SmoothedPrint.h"
 #include "drawing/Style.h"
 #include "drawing/Twips.h"
@@ -31,11 +32,11 @@ QPointF TwipsSurface::Pixel(QPointF twips) const {
 }
 
 void TwipsSurface::VerticalLine(double x, double top, double bottom, const QColor& colour) {
-    painter_.fillRect(Spanning({x, top}, {x, bottom}), colour);
+    PaintEdge(painter_, Spanning({x, top}, {x, bottom}), Qt::LeftEdge, colour);
 }
 
 void TwipsSurface::HorizontalLine(double y, double left, double right, const QColor& colour) {
-    painter_.fillRect(Spanning({left, y}, {right, y}), colour);
+    PaintEdge(painter_, Spanning({left, y}, {right, y}), Qt::TopEdge, colour);
 }
 
 void TwipsSurface::ThickLine(QPointF from, QPointF to, const QColor& colour, int width) {

@@ -4,6 +4,7 @@
 #include "analysis/WeightCurve.h"
 #include "analysis/charts/ChartText.h"
 #include "analysis/charts/TwipsSurface.h"
+#include "drawing/DevicePixels.h"
 #include "drawing/Style.h"
 #include "drawing/Twips.h"
 #include "runtime/Dates.h"
@@ -114,8 +115,8 @@ QRectF WeightCurvePainting::DateLabelPlace(double left, int height) {
 void WeightCurvePainting::Paint(QPainter& painter, const WeightCurve& curve, QSize size) {
     const QRect place(QPoint(), size);
     const Style& style = TheStyle();
-    painter.fillRect(place, style.frame);
-    painter.fillRect(place.adjusted(1, 1, -1, -1), style.paper);
+    PaintArea(painter, place, style.paper);
+    PaintFrame(painter, place, style.frame);
     painter.save();
     TwipsSurface surface(painter);
     DrawAxes(surface, curve, size);

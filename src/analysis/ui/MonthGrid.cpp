@@ -1,5 +1,6 @@
 #include "analysis/ui/MonthGrid.h"
 
+#include "drawing/DevicePixels.h"
 #include "drawing/Style.h"
 #include "drawing/Twips.h"
 #include "runtime/Dates.h"
@@ -88,6 +89,7 @@ void MonthGrid::resizeEvent(QResizeEvent*) {
 void MonthGrid::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.fillRect(rect(), TheStyle().paper);
+    painter.fillRect(0, 0, width(), HeadHeight, TheStyle().navigation); // heads may lack a pixel
     PaintSlots(painter);
     PaintLines(painter);
 }
@@ -107,8 +109,8 @@ void MonthGrid::PaintLines(QPainter& painter) const {
     const QColor& line = TheStyle().frame;
     const int thick = Twips::ToPixels(LineWidth);
     for (int column = 0; column <= Columns; ++column)
-        painter.fillRect(ColumnLine(column), 0, thick, height(), line);
+        PaintEdge(painter, QRect(ColumnLine(column), 0, thick, height()), Qt::LeftEdge, line);
     for (int row = 0; row <= Rows; ++row)
-        painter.fillRect(0, RowLine(row), width(), thick, line);
-    painter.fillRect(0, 0, width(), thick, line);
+        PaintEdge(painter, QRect(0, RowLine(row), width(), thick), Qt::TopEdge, line);
+    PaintFrame(painter, rect(), line);
 }

@@ -7,6 +7,7 @@
 #include "analysis/ui/ChartBar.h"
 #include "analysis/ui/ChartLabel.h"
 #include "analysis/ui/LedLabel.h"
+#include "drawing/DevicePixels.h"
 #include "drawing/Style.h"
 #include "drawing/Twips.h"
 #include "model/User.h"
@@ -115,6 +116,8 @@ void ucBarChart::PlaceRow(int i, const PeriodPicture& picture) {
 void ucBarChart::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     PeriodPicture(size()).PaintGround(painter);
+    ucHeader::PaintBehind(painter, header_->geometry());
+    PaintFrame(painter, rect(), TheStyle().frame);
 }
 
 void ucBarChart::updateBars(QDate start, QDate end) {

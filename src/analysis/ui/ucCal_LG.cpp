@@ -3,6 +3,7 @@
 #include "analysis/LoggedDays.h"
 #include "analysis/ui/DayCell.h"
 #include "analysis/ui/MonthGrid.h"
+#include "drawing/DevicePixels.h"
 #include "drawing/SmoothedPrint.h"
 #include "drawing/Style.h"
 #include "drawing/Twips.h"
@@ -340,9 +341,9 @@ void ucCal_LG::PaintLabels() {
 void ucCal_LG::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     const Style& style = TheStyle();
-    painter.fillRect(rect(), style.paper);
-    painter.setPen(style.frame);
-    painter.drawRect(QRectF(rect()).adjusted(.5, .5, -.5, -.5));
+    PaintArea(painter, rect(), style.paper);
+    ucHeader::PaintBehind(painter, ucHead_->geometry());
+    PaintFrame(painter, rect(), style.frame);
     for (const ucAALBL* label : findChildren<ucAALBL*>(Qt::FindDirectChildrenOnly)) {
         if (!label->objectName().startsWith(QLatin1String("aa")))
             continue;

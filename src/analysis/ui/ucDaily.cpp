@@ -11,6 +11,7 @@
 #include "analysis/ui/ScaleCaption.h"
 #include "analysis/ui/SpokenTable.h"
 #include "analysis/ui/ViewButtons.h"
+#include "drawing/DevicePixels.h"
 #include "drawing/Style.h"
 #include "drawing/Twips.h"
 #include "model/User.h"
@@ -20,6 +21,7 @@
 #include "runtime/Settings.h"
 #include "toolkit/ControlInterface.h"
 #include "toolkit/ucAALBL.h"
+#include "toolkit/ucHeader.h"
 #include "toolkit/ucStrip.h"
 
 #include <QMouseEvent>
@@ -182,9 +184,11 @@ void ucDaily::PlaceScale(const Layout& layout) {
 void ucDaily::paintEvent(QPaintEvent*) {
     const Style& style = TheStyle();
     QPainter painter(this);
-    painter.fillRect(rect(), style.frame);
-    painter.fillRect(rect().adjusted(1, 1, -1, -1), style.paper);
-    painter.fillRect(1, layoutRects().buttons.bottom() + 1, width() - 2, 1, style.rule);
+    PaintArea(painter, rect(), style.paper);
+    PaintEdge(painter, QRect(1, layoutRects().buttons.bottom() + 1, width() - 2, 1), Qt::TopEdge,
+              style.rule);
+    ucHeader::PaintBehind(painter, strip_->geometry());
+    PaintFrame(painter, rect(), style.frame);
 }
 
 void ucDaily::showEvent(QShowEvent*) {

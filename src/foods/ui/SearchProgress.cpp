@@ -1,5 +1,6 @@
 #include "foods/ui/SearchProgress.h"
 
+#include "drawing/DevicePixels.h"
 #include "drawing/Style.h"
 #include "toolkit/Labels.h"
 
@@ -85,6 +86,5 @@ int SearchProgress::FilledPixels() const {
 void SearchProgress::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.fillRect(rect(), TheStyle().paper);
-    painter.setPen(TheStyle().frame);
-    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    PaintFrame(painter, rect(), TheStyle().frame);
 }

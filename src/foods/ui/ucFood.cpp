@@ -1,5 +1,6 @@
 #include "foods/ui/ucFood.h"
 
+#include "drawing/DevicePixels.h"
 #include "drawing/Pictures.h"
 #include "drawing/Style.h"
 #include "foods/ui/ElidedLabel.h"
@@ -83,14 +84,12 @@ void ucFood::paintEvent(QPaintEvent*) {
 }
 
 void ucFood::PaintGround(QPainter& painter) const {
-    const QRect edge = rect().adjusted(0, 0, -1, -1);
     if (BackStyle() == 1)
         painter.fillRect(rect(), BackColor());
-    painter.setPen(TheStyle().rule);
     if (BorderStyle() == 1)
-        painter.drawRect(edge);
+        PaintFrame(painter, rect(), TheStyle().rule);
     else
-        painter.drawLine(edge.bottomLeft(), edge.bottomRight());
+        PaintEdge(painter, rect(), Qt::BottomEdge, TheStyle().rule);
 }
 
 void ucFood::PaintTexts(QPainter& painter) const {

@@ -1,5 +1,6 @@
 #include "foods/ui/ucSearchResults.h"
 
+#include "drawing/DevicePixels.h"
 #include "drawing/Style.h"
 #include "drawing/Twips.h"
 #include "foods/FoodHabits.h"
@@ -282,8 +283,7 @@ void ucSearchResults::showEvent(QShowEvent* event) {
 
 void ucSearchResults::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.setPen(TheStyle().frame);
-    painter.drawRect(rows_->geometry().adjusted(-1, -1, 0, 0));
+    PaintFrame(painter, rows_->geometry().adjusted(-1, -1, 1, 1), TheStyle().frame);
 }
 
 /// After a refused quantity the pointer stays busy until another routine sets it.

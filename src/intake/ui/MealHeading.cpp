@@ -1,5 +1,6 @@
 #include "intake/ui/MealHeading.h"
 
+#include "drawing/DevicePixels.h"
 #include "drawing/Pictures.h"
 #include "drawing/SmoothedPrint.h"
 #include "drawing/Style.h"
@@ -54,9 +55,8 @@ void MealHeading::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     const Style& style = TheStyle();
     painter.fillRect(rect(), lit_ ? style.mealStripLit : style.mealStrip);
-    painter.setPen(style.rule);
-    painter.drawLine(0, 0, width(), 0);
-    painter.drawLine(0, height() - 1, width(), height() - 1);
+    for (const Qt::Edge edge : {Qt::TopEdge, Qt::BottomEdge})
+        PaintEdge(painter, rect(), edge, style.rule);
     painter.setPen(ForeColor());
     const double textHeight = QFontMetricsF(SmoothedFont(HeadingFont())).height();
     SmoothedPrint(painter, QPointF(CaptionLeft, (height() - textHeight) / 2), caption_,

@@ -1,5 +1,6 @@
 #include "model/ui/frmProfile.h"
 
+#include "drawing/DevicePixels.h"
 #include "drawing/Style.h"
 #include "drawing/Twips.h"
 #include "model/Profiles.h"
@@ -210,8 +211,7 @@ void frmProfile::paintEvent(QPaintEvent* event) {
     if (!isWindow())
         return;
     QPainter painter(this);
-    painter.setPen(TheStyle().frame);
-    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    PaintFrame(painter, rect(), TheStyle().frame);
 }
 
 /// Without a profile the program cannot go on: closing the window asks the question of Cancel.

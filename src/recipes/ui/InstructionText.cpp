@@ -1,7 +1,9 @@
 #include "recipes/ui/InstructionText.h"
 
+#include "drawing/DevicePixels.h"
 #include "drawing/Style.h"
 #include "toolkit/DrawnControl.h"
+#include "toolkit/Face.h"
 #include "toolkit/ucScroll.h"
 
 #include <QApplication>
@@ -172,15 +174,12 @@ void InstructionText::resizeEvent(QResizeEvent*) {
 void InstructionText::paintEvent(QPaintEvent*) {
     const Style& style = TheStyle();
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setBrush(style.paper);
-    painter.setPen(text_->isReadOnly() ? style.rule : style.fieldEdge);
-    painter.drawRoundedRect(QRectF(rect()).adjusted(.5, .5, -.5, -.5), style.fieldRadius,
-                            style.fieldRadius);
+    const QColor& edge = text_->isReadOnly() ? style.rule : style.fieldEdge;
+    PaintFace(painter, rect(), {{style.paper, style.paper}, edge, style.ink}, style.fieldRadius);
     const QRect text = text_->geometry();
     for (int line = 1; line <= LinesInSight; ++line)
-        painter.fillRect(text.left(), text.top() + line * LineHeight(), text.width(), 1,
-                         style.cardRuling);
+        PaintEdge(painter, QRect(text.left(), text.top() + line * LineHeight(), text.width(), 1),
+                  Qt::TopEdge, style.cardRuling);
     if (text_->hasFocus())
         PaintFocusRing(painter, rect(), style.fieldRadius);
 }

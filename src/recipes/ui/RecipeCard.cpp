@@ -1,5 +1,6 @@
 #include "recipes/ui/RecipeCard.h"
 
+#include "drawing/DevicePixels.h"
 #include "drawing/Style.h"
 #include "foods/ui/ElidedLabel.h"
 #include "recipes/ui/InstructionText.h"
@@ -213,14 +214,12 @@ void RecipeCard::PlaceIngredients() {
 void RecipeCard::paintEvent(QPaintEvent*) {
     const Style& style = TheStyle();
     QPainter painter(this);
-    painter.fillRect(rect(), style.paper);
-    painter.setPen(style.cardRuling);
+    PaintArea(painter, rect(), style.paper);
     for (const int y : {FactsTop + Ruling, FactsTop + 2 * Ruling})
-        painter.drawLine(Margin, y, width() - Margin - 1, y);
+        PaintEdge(painter, QRect(Margin, y, width() - 2 * Margin, 1), Qt::TopEdge,
+                  style.cardRuling);
     painter.fillRect(Margin, NameRule, width() - 2 * Margin, 2, style.cardLine);
-    painter.setPen(style.frame);
-    painter.drawRoundedRect(QRectF(rect()).adjusted(.5, .5, -.5, -.5), style.boxRadius,
-                            style.boxRadius);
+    PaintFrame(painter, rect(), style.frame, style.boxRadius);
 }
 
 void RecipeCard::mouseMoveEvent(QMouseEvent*) {

@@ -1,5 +1,6 @@
 #include "recipes/ui/ucIngredients.h"
 
+#include "drawing/DevicePixels.h"
 #include "drawing/Style.h"
 #include "recipes/RecipeBook.h"
 #include "toolkit/AtePane.h"
@@ -17,8 +18,7 @@ ucIngredients::ucIngredients(QWidget* parent)
 
 void ucIngredients::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.setPen(TheStyle().rule);
-    painter.drawRect(rect().adjusted(0, 0, -Edge, -Edge));
+    PaintFrame(painter, rect(), TheStyle().rule);
 }
 
 void ucIngredients::DisplayFoods(bool ResetPane) {
