@@ -2,11 +2,14 @@
 #include "core/Flow.h"
 #include "core/Navigation.h"
 #include "core/Screens.h"
+#include "core/WindowScale.h"
 #include "store/StoreThreads.h"
 
 int main(int argc, char** argv) {
     StoreThreads::AllocateApart();
+    WindowScale::TellPlatform();
     Application application(argc, argv);
+    WindowScale::ClearEnvironment();
     RegisterScreens(TheNavigation());
     TheNavigation().InstallSeams();
     const int exitCode = Flow::Main(application.Instance());

@@ -2,16 +2,20 @@
 
 #include "core/Community.h"
 #include "core/FramePlace.h"
+#include "core/ScaleKeys.h"
 #include "core/ScreenKeys.h"
 #include "core/frmPrefs.h"
 #include "core/ucMenu.h"
+#include "drawing/DevicePixels.h"
 #include "drawing/Style.h"
 #include "drawing/Twips.h"
 #include "model/User.h"
 #include "runtime/AppState.h"
 #include "runtime/ScreenTable.h"
 #include "runtime/Seams.h"
+#include "toolkit/Accessible.h"
 #include "toolkit/CleanUp.h"
+#include "toolkit/Labels.h"
 #include "toolkit/ucAALBL.h"
 #include "toolkit/ucButtonA.h"
 #include "toolkit/ucTitleBar.h"
@@ -19,6 +23,7 @@
 #include <QCloseEvent>
 #include <QPainter>
 #include <QShortcut>
+#include <QTimer>
 
 namespace {
 
@@ -29,6 +34,7 @@ constexpr int TilePitch = 68;
 constexpr int TitleButton = 32;
 constexpr int TitlePicture = 16;
 constexpr QSize LogoSize(22, 22);
+constexpr int NoteMilliseconds = 6000;
 constexpr QRect TitleInNest(14, 8, 182, 30); ///< the screens keep it free
 
 // These buttons open the community page, not a screen.
@@ -112,6 +118,26 @@ void frmHOME::LayCommands() {
     menu_ = new ucMenu(picFrameTop_);
     connect(menu_, &ucMenu::Chosen, this,
             [this](int index) { MenuItems::All()[index].act(*this); });
+    LayNote();
+}
+
+/// At the right end of the band, in the ink of headers.
+void frmHOME::LayNote() {
+    const int edge = TheStyle().nestEdge;
+    lblNote_ = MakeLabel(picFrameTop_, QStringLiteral("lblNote"), {});
+    lblNote_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    lblNote_->setGeometry(width() / 2, 0, width() / 2 - edge, BandHeight);
+    lblNote_->hide();
+    noteEnd_ = new QTimer(this);
+    noteEnd_->setSingleShot(true);
+    connect(noteEnd_, &QTimer::timeout, lblNote_, &QWidget::hide);
+}
+
+void frmHOME::Tell(const QString& note) {
+    lblNote_->setText(note);
+    lblNote_->show();
+    TellAloud(lblNote_);
+    noteEnd_->start(NoteMilliseconds);
 }
 
 void frmHOME::ResetMenu() {
@@ -172,6 +198,7 @@ void frmHOME::AddShortcuts() {
     add(QKeySequence(Qt::CTRL | Qt::Key_Q), &frmHOME::QuitRequested);
     add(QKeySequence(Qt::CTRL | Qt::Key_Comma), [this] { frmPrefs(this).ShowModal(); });
     ScreenKeys::AddTo(*this);
+    ScaleKeys::AddTo(*this);
 }
 
 void frmHOME::ShowFront(const QString& screen) {
@@ -213,8 +240,7 @@ void frmHOME::paintEvent(QPaintEvent*) {
     painter.fillRect(QRect(0, nest.top(), nest.left(), nest.height()), style.navigation);
     painter.fillRect(nest, style.canvas);
     painter.fillRect(band, style.header.from);
-    painter.setPen(style.header.to);
-    painter.drawLine(band.bottomLeft(), band.bottomRight());
+    PaintEdge(painter, band, Qt::BottomEdge, style.header.to);
 }
 
 void frmHOME::closeEvent(QCloseEvent* event) {

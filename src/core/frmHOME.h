@@ -3,6 +3,8 @@
 #include <QList>
 #include <QWidget>
 
+class QLabel;
+class QTimer;
 struct ScreenRow;
 class ucAALBL;
 class ucButtonA;
@@ -26,7 +28,8 @@ public:
     /// Resets all navigation buttons except the named one. An empty name also restores the title of
     /// the active screen.
     void AllOff(const QString& name);
-    void ResetMenu(); ///< closes the menus
+    void ResetMenu();               ///< closes the menus
+    void Tell(const QString& note); ///< shows it for a while in the band of the menu bar
 
 Q_SIGNALS:
     void QuitRequested();
@@ -47,6 +50,7 @@ private:
 
     void LayTop();
     void LayCommands();
+    void LayNote();
     void LayNavigation();
     void LayNest();
     void AddShortcuts();
@@ -59,5 +63,7 @@ private:
     ucTitleBar* ucTitle_ = nullptr;
     ucAALBL* aaWindow_ = nullptr;
     ucMenu* menu_ = nullptr;
+    QLabel* lblNote_ = nullptr;
+    QTimer* noteEnd_ = nullptr;
     QList<NavigationButton> buttons_;
 };

@@ -34,10 +34,12 @@ inline constexpr Setting Meal{"OPMEAL", "0", "Meals", "ucSearchResults"};
 inline constexpr Setting FromEmail{"FROMEMAIL", "", "frmSend", "frmSend"};
 inline constexpr Setting ToEmail{"TOEMAIL", "", "frmSend", "frmSend"};
 inline constexpr Setting Snapshots{"SNAPSHOTS", "", "OwnSnapshots", "OwnSnapshots"};
+inline constexpr Setting Scale{"UISCALE", "100", "WindowScale", "WindowScale"};
 
 inline constexpr const Setting* All[] = {&Fast,         &Agreement,     &DropShadows, &Left,
                                          &Top,          &AutoRDI,       &Limit50,     &TipNumber,
                                          &Installation, &ReportState,   &ReportMode,  &DailyMode,
                                          &SearchCustom, &SearchRecipes, &SearchStock, &SearchString,
-                                         &Meal,         &FromEmail,     &ToEmail,     &Snapshots};
+                                         &Meal,         &FromEmail,     &ToEmail,     &Snapshots,
+                                         &Scale};
 } // namespace Settings

@@ -31,3 +31,8 @@ void TellExpanded(QWidget* control) {
     QAccessibleStateChangeEvent event(control, changed);
     QAccessible::updateAccessibility(&event);
 }
+
+void TellAloud(QWidget* control) {
+    QAccessibleEvent event(control, QAccessible::Alert);
+    QAccessible::updateAccessibility(&event);
+}

@@ -9,3 +9,5 @@ void TellValueChanged(QWidget* control, int value);
 void TellTextChanged(QWidget* control, const QString& text);
 void TellChecked(QWidget* control);
 void TellExpanded(QWidget* control);
+/// A screen reader reads the control's text now.
+void TellAloud(QWidget* control);

@@ -8,10 +8,10 @@
 #include <vector>
 
 namespace {
-/// The place of the window, the identifier that the exchange knows this installation by, and what
-/// was said of the snapshots.
+/// The place and the size of the window, the identifier that the exchange knows this installation
+/// by, and what was said of the snapshots.
 constexpr const Setting* OfTheMachine[] = {&Settings::Left, &Settings::Top, &Settings::Installation,
-                                           &Settings::Snapshots};
+                                           &Settings::Snapshots, &Settings::Scale};
 
 std::vector<QString> Names() {
     std::vector<QString> names;
