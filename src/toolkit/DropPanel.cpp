@@ -1,5 +1,6 @@
 #include "toolkit/DropPanel.h"
 
+#include "drawing/DevicePixels.h"
 #include "drawing/Style.h"
 #include "drawing/Twips.h"
 #include "runtime/RuntimeError.h"
@@ -79,6 +80,22 @@ const DropItem& DropPanel::Item(int index) const {
     return *items_[size_t(index)];
 }
 
+int DropPanel::Lit() const {
+    for (int i = 1; i <= Count(); ++i)
+        if (Item(i).IsLit())
+            return i;
+    return 0;
+}
+
+int DropPanel::Find(const QString& word, int from) const {
+    for (int step = 0; step < Count(); ++step) {
+        const int index = (from - 1 + step) % Count() + 1;
+        if (Item(index).Caption().startsWith(word, Qt::CaseInsensitive))
+            return index;
+    }
+    return 0;
+}
+
 int DropPanel::LastBottom() const {
     const QRect last = items_.back()->geometry();
     return Twips::FromPixels(last.top() + last.height());
@@ -131,8 +148,7 @@ void DropPanel::resizeEvent(QResizeEvent*) {
 void DropPanel::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.fillRect(rect(), TheStyle().listItem);
-    painter.setPen(TheStyle().frame);
-    painter.drawRect(QRectF(rect()).adjusted(.5, .5, -.5, -.5));
+    PaintFrame(painter, rect(), TheStyle().frame);
 }
 
 void DropPanel::wheelEvent(QWheelEvent* event) {

@@ -20,6 +20,10 @@ public:
     void AddItem(const QString& caption, qint32 tag);
     /// The item at `index`, from 1. Fails with 340 if there is none.
     const DropItem& Item(int index) const;
+    int Count() const { return int(items_.size()) - 1; }
+    int Lit() const; ///< 0 if none is
+    /// The first item from `from` on, then from the top, that begins with `word`; 0 if none does.
+    int Find(const QString& word, int from) const;
     int PanelHeight() const { return panelHeight_; }
     void SetPanelHeight(int height); ///< reduced if the items end earlier
     void Bring(int index);           ///< scrolls the item into view

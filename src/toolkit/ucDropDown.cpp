@@ -12,6 +12,7 @@
 
 #include <QApplication>
 #include <QFontMetricsF>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 
@@ -60,11 +61,7 @@ ucDropDown::ucDropDown(QWidget* parent)
     setFont(TheStyle().text);
     picBox_->hide();
     connect(picBox_, &DropPanel::Hovered, picBox_, &DropPanel::Hilite);
-    connect(picBox_, &DropPanel::Picked, this, [this](int index) {
-        Take(index);
-        SetOpen(false);
-        Q_EMIT Click();
-    });
+    connect(picBox_, &DropPanel::Picked, this, &ucDropDown::Pick);
     resize(sizeHint());
 }
 
@@ -108,6 +105,12 @@ void ucDropDown::Take(int index) {
     index_ = index;
     selectedID_ = ToInteger(item.Tag());
     SetText(item.Caption());
+}
+
+void ucDropDown::Pick(int index) {
+    Take(index);
+    SetOpen(false);
+    Q_EMIT Click();
 }
 
 void ucDropDown::Reset() {
@@ -255,6 +258,64 @@ void ucDropDown::leaveEvent(QEvent*) {
 void ucDropDown::focusOutEvent(QFocusEvent* event) {
     DrawnControl::focusOutEvent(event);
     Reset();
+}
+
+void ucDropDown::keyPressEvent(QKeyEvent* event) {
+    if (OpensOrCloses(*event))
+        return;
+    const int asked = Asked(*event);
+    if (asked == 0)
+        return DrawnControl::keyPressEvent(event);
+    if (IsOpen()) {
+        picBox_->Hilite(asked);
+        picBox_->Bring(asked);
+    } else if (asked != index_) {
+        Pick(asked);
+    }
+}
+
+bool ucDropDown::OpensOrCloses(const QKeyEvent& key) {
+    const bool arrow = key.key() == Qt::Key_Down || key.key() == Qt::Key_Up;
+    const bool toggles = key.key() == Qt::Key_F4 || (arrow && key.modifiers() & Qt::AltModifier);
+    if (IsOpen() && IsPressKey(&key) && picBox_->Lit() > 0)
+        Pick(picBox_->Lit());
+    else if (IsOpen() && (toggles || IsPressKey(&key) || key.key() == Qt::Key_Escape))
+        SetOpen(false);
+    else if (toggles || IsPressKey(&key))
+        OpenByKey();
+    else
+        return false;
+    return true;
+}
+
+void ucDropDown::OpenByKey() {
+    SetOpen(true);
+    picBox_->Hilite(index_);
+}
+
+int ucDropDown::Asked(const QKeyEvent& key) {
+    switch (key.key()) {
+    case Qt::Key_Up:
+        return qMin(qMax(Current() - 1, 1), picBox_->Count());
+    case Qt::Key_Down:
+        return qMin(Current() + 1, picBox_->Count());
+    case Qt::Key_Home:
+        return qMin(1, picBox_->Count());
+    case Qt::Key_End:
+        return picBox_->Count();
+    default:
+        return AskedByWord(typed_.Add(key));
+    }
+}
+
+/// The same letter again goes on to the next item that begins with it.
+int ucDropDown::AskedByWord(const QString& word) const {
+    if (word.isEmpty())
+        return 0;
+    const bool oneLetter = word.count(word[0]) == word.size();
+    if (const int whole = picBox_->Find(word, qMax(1, Current())); whole > 0 && word.size() > 1)
+        return whole;
+    return oneLetter ? picBox_->Find(word.left(1), Current() + 1) : 0;
 }
 
 /// While the list is open, a press on something that takes no focus closes it too.

@@ -1,15 +1,17 @@
 #pragma once
 
 #include "toolkit/DrawnControl.h"
-
-class DropPanel;
+#include "toolkit/DropPanel.h"
+#include "toolkit/TypedWord.h"
 
 /// A drop-down list: the strip `picSelItem` with the selected text and an arrow, and a panel that
 /// opens below it. To show the panel the control itself grows downward over its neighbours, so its
 /// parent must be high enough. Items count from 1.
 ///
 /// Click is raised when the user picks an item. The list closes when it loses the focus or the
-/// mouse is pressed elsewhere. It ignores keys; assistive tools can open it and pick.
+/// mouse is pressed elsewhere. With the focus, arrow keys, Home, End and letters pick another item,
+/// or light it while the list is open. Enter, Space, F4 and Alt with an arrow open the list. Enter
+/// and Space then pick the lit item; Escape closes without picking.
 class ucDropDown : public DrawnControl {
     Q_OBJECT
     Q_PROPERTY(QString Text READ Text WRITE SetText)
@@ -53,6 +55,7 @@ protected:
     void mouseReleaseEvent(QMouseEvent*) override;
     void leaveEvent(QEvent*) override;
     void focusOutEvent(QFocusEvent*) override;
+    void keyPressEvent(QKeyEvent*) override;
     bool eventFilter(QObject*, QEvent*) override;
 
 private:
@@ -62,6 +65,12 @@ private:
     void ShowArrow(Arrow picture);
     void TrackArrow(bool leftHeld, QPoint place);
     void Take(int index);
+    void Pick(int index);
+    void OpenByKey();
+    bool OpensOrCloses(const QKeyEvent& key);
+    int Asked(const QKeyEvent& key); ///< the item that the key leads to, 0 for none
+    int AskedByWord(const QString& word) const;
+    int Current() const { return IsOpen() && picBox_->Lit() > 0 ? picBox_->Lit() : index_; }
     void PaintStrip(QPainter& painter, const Layout& at) const;
     void PaintArrow(QPainter& painter, const Layout& at) const;
 
@@ -69,6 +78,7 @@ private:
     QString myName_ = QStringLiteral("Label1");
     int selectedID_ = 0;
     int index_ = 0; ///< of the selected item, 0 before one is
+    TypedWord typed_;
     Arrow arrow_ = Arrow::Normal;
     bool arrowPressed_ = false;
 };

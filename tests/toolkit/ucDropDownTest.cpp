@@ -9,6 +9,7 @@
 
 #include <QAccessible>
 #include <QApplication>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScrollBar>
@@ -45,6 +46,24 @@ protected:
         SendMove(&list, Middle(part), held);
     }
 
+    void TakeFocusByTab() {
+        QLineEdit before(&form);
+        before.show();
+        before.setFocus();
+        QTest::keyClick(&before, Qt::Key_Tab);
+        ASSERT_TRUE(list.hasFocus());
+    }
+    void Press(Qt::Key key, Qt::KeyboardModifiers held = Qt::NoModifier) {
+        QTest::keyClick(&list, key, held);
+    }
+    /// One millisecond after the last letter.
+    void Type(Qt::Key key) {
+        QKeyEvent letter(QEvent::KeyPress, key, Qt::NoModifier, QString(QChar(key)));
+        letter.setTimestamp(++now);
+        QApplication::sendEvent(&list, &letter);
+    }
+
+    quint64 now = 100000; ///< milliseconds
     QWidget form;
     ucDropDown list{&form};
     QSignalSpy clicks{&list, &ucDropDown::Click};
@@ -419,28 +438,116 @@ TEST_F(ucDropDownTest, OpensWithTheSelectedItemInSight) {
     EXPECT_TRUE(Panel()->rect().contains(Item(3)->mapTo(Panel(), QPoint(0, 0))));
 }
 
-TEST_F(ucDropDownTest, TakesTabButKeysDoNothing) {
+TEST_F(ucDropDownTest, ArrowsHomeAndEndPickWhileItIsClosed) {
+    Fill(30);
+    TakeFocusByTab();
+    const std::pair<Qt::Key, int> steps[] = {{Qt::Key_Down, 100}, {Qt::Key_Down, 200},
+                                             {Qt::Key_Up, 100},   {Qt::Key_End, 3000},
+                                             {Qt::Key_Up, 2900},  {Qt::Key_Home, 100}};
+    int picked = 0;
+    for (const auto& [key, id] : steps) {
+        Press(key);
+        EXPECT_EQ(list.SelectedID(), id);
+        EXPECT_EQ(clicks.count(), ++picked);
+        EXPECT_FALSE(list.IsOpen());
+    }
+}
+
+TEST_F(ucDropDownTest, AKeyThatLeadsNowhereRaisesNoClick) {
+    TakeFocusByTab();
+    for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Up, Qt::Key_Home, Qt::Key_End, Qt::Key_I})
+        Press(key);
+    EXPECT_EQ(list.SelectedID(), 0) << "an empty list";
+    Fill(3);
+    list.SetIndex(3);
+    for (const Qt::Key key : {Qt::Key_Down, Qt::Key_End, Qt::Key_X, Qt::Key_Escape})
+        Press(key);
+    EXPECT_EQ(list.SelectedID(), 300);
+    EXPECT_EQ(clicks.count(), 0);
+}
+
+TEST_F(ucDropDownTest, LettersPickTheNextItemThatBeginsWithThem) {
+    for (const char* month : {"January", "May", "June", "July"})
+        list.AddItem(month, list.SelectedID() + 1);
+    list.SetIndex(1);
+    TakeFocusByTab();
+    const std::pair<Qt::Key, const char*> steps[] = {
+        {Qt::Key_J, "June  "}, {Qt::Key_J, "July  "}, {Qt::Key_J, "January  "}};
+    for (const auto& [key, text] : steps) {
+        Type(key);
+        EXPECT_EQ(list.Text(), text);
+    }
+}
+
+TEST_F(ucDropDownTest, LettersThatFollowEachOtherQuicklyAreOneWord) {
+    for (const int year : {1992, 1993, 2010, 2011, 2012})
+        list.AddItem(QString::number(year), year);
+    TakeFocusByTab();
+    for (const Qt::Key digit : {Qt::Key_2, Qt::Key_0, Qt::Key_1, Qt::Key_1})
+        Type(digit);
+    EXPECT_EQ(list.SelectedID(), 2011);
+    now += 10 * quint64(QApplication::keyboardInputInterval());
+    Type(Qt::Key_1);
+    EXPECT_EQ(list.SelectedID(), 1992) << "a word of its own";
+}
+
+TEST_F(ucDropDownTest, EnterSpaceAndF4OpenItWithTheSelectedItemLit) {
+    Fill(30);
+    list.Set_aHEIGHT(3000);
+    list.SetIndex(30);
+    TakeFocusByTab();
+    const std::pair<Qt::Key, Qt::KeyboardModifiers> keys[] = {{Qt::Key_Return, Qt::NoModifier},
+                                                              {Qt::Key_Enter, Qt::NoModifier},
+                                                              {Qt::Key_Space, Qt::NoModifier},
+                                                              {Qt::Key_F4, Qt::NoModifier},
+                                                              {Qt::Key_Down, Qt::AltModifier}};
+    for (const auto& [key, held] : keys) {
+        Press(key, held);
+        EXPECT_TRUE(list.IsOpen());
+        EXPECT_TRUE(Item(30)->IsLit());
+        EXPECT_EQ(Bar()->value(), Bar()->maximum());
+        Press(Qt::Key_Escape);
+        EXPECT_FALSE(list.IsOpen());
+    }
+    EXPECT_EQ(clicks.count(), 0);
+}
+
+TEST_F(ucDropDownTest, WhileItIsOpenKeysLightAndEnterPicks) {
     Fill(30);
     list.Set_aHEIGHT(3000);
     list.SetIndex(2);
-    QLineEdit before(&form);
-    before.show();
-    before.setFocus();
-    QTest::keyClick(&before, Qt::Key_Tab);
-    ASSERT_TRUE(list.hasFocus());
-    const auto pressAll = [&] {
-        for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Up, Qt::Key_Return, Qt::Key_Space,
-                                  Qt::Key_End, Qt::Key_F4, Qt::Key_I, Qt::Key_PageDown})
-            QTest::keyClick(&list, key);
-    };
-    pressAll();
+    TakeFocusByTab();
+    Press(Qt::Key_Return);
+    Press(Qt::Key_End);
+    EXPECT_TRUE(Item(30)->IsLit());
+    EXPECT_EQ(Bar()->value(), Bar()->maximum());
+    Press(Qt::Key_Up);
+    EXPECT_EQ(list.SelectedID(), 200);
+    Press(Qt::Key_Return);
+    EXPECT_EQ(list.SelectedID(), 2900);
     EXPECT_FALSE(list.IsOpen());
-    ClickOn(&Layout::picArrow);
-    pressAll();
-    EXPECT_TRUE(list.IsOpen());
-    EXPECT_EQ(Bar()->value(), 0);
+    EXPECT_EQ(clicks.count(), 1);
+}
+
+TEST_F(ucDropDownTest, EscapeClosesItWithoutPicking) {
+    Fill(5);
+    list.SetIndex(2);
+    TakeFocusByTab();
+    Press(Qt::Key_F4);
+    Press(Qt::Key_Down);
+    Press(Qt::Key_Escape);
+    EXPECT_FALSE(list.IsOpen());
     EXPECT_EQ(list.SelectedID(), 200);
     EXPECT_EQ(clicks.count(), 0);
+}
+
+TEST_F(ucDropDownTest, CommandsOfTheWindowAreNoLetters) {
+    Fill(5);
+    list.SetIndex(2);
+    TakeFocusByTab();
+    Press(Qt::Key_I, Qt::ControlModifier);
+    Press(Qt::Key_I, Qt::AltModifier);
+    EXPECT_EQ(list.SelectedID(), 200);
 }
 
 TEST_F(ucDropDownTest, AssistiveToolsReadItOpenItAndPick) {
