@@ -77,7 +77,7 @@ void SetButtons(Style& style) {
     const QColor white(255, 255, 255);
     const Style::ButtonFace disabled{
         {QColor(248, 244, 237), QColor(243, 238, 230)}, QColor(206, 198, 186), style.disabledInk};
-    style.button[0] = {{QColor(255, 250, 240), QColor(240, 223, 192)}, QColor(185, 140, 75), text};
+    style.button[0] = {{QColor(255, 250, 240), QColor(240, 223, 192)}, style.fieldEdge, text};
     style.button[1] = {{QColor(255, 254, 250), QColor(248, 235, 210)}, style.frame, text};
     style.button[2] = {{QColor(229, 208, 170), QColor(238, 221, 189)}, QColor(150, 86, 8), text};
     style.button[3] = disabled;

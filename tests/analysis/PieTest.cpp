@@ -87,6 +87,26 @@ TEST_F(PieTest, ThePieIsBlendedOverThePictureWithAlpha153) {
     EXPECT_EQ(shown.pixel(2, 2) | 0xff000000, paper);
 }
 
+TEST_F(PieTest, WhatIsPaintedHasALineBetweenTheSectorsAndAroundThem) {
+    Pie pie(Small());
+    pie.Show({0.25, 0.25, 0.5});
+    QImage page(Small().size, QImage::Format_RGB32);
+    QPainter painter(&page);
+    pie.Paint(painter);
+    painter.end();
+    EXPECT_EQ(At(page, Small(), 12), Laid(red, paper));
+    const auto darkestAround = [&](double percent, double part) {
+        int darkest = 255;
+        for (const double shift : {-0.4, 0.0, 0.4})
+            darkest = qMin(darkest, qGray(At(page, Small(), percent + shift, part)));
+        return darkest;
+    };
+    for (const double border : {25.0, 50.0})
+        EXPECT_LT(darkestAround(border, 0.6), 140) << border;
+    for (const double within : {12.0, 37.0, 75.0})
+        EXPECT_LT(darkestAround(within, 47.9 / 48), 170) << within;
+}
+
 TEST_F(PieTest, AFurtherOverlayBlendsAgain) {
     Pie pie(Small());
     pie.Show({0.25, 0.25, 0.5});
@@ -201,7 +221,11 @@ TEST_F(PieTest, AnyPainterGetsThePieAtItsOrigin) {
     painter.translate(50, 60);
     pie.Paint(painter);
     painter.end();
-    EXPECT_EQ(page.copy(50, 60, 108, 108), pie.picPIE());
+    const QImage painted = page.copy(50, 60, 108, 108);
+    for (const double percent : {12.0, 37.0, 75.0})
+        EXPECT_EQ(At(painted, Small(), percent), At(pie.picPIE(), Small(), percent));
+    EXPECT_EQ(painted.pixel(0, 0), pie.picPIE().pixel(0, 0));
+    EXPECT_EQ(painted.pixel(107, 107), pie.picPIE().pixel(107, 107));
     EXPECT_EQ(page.pixel(49, 100), qRgb(0, 0, 255));
 }
 

@@ -34,38 +34,98 @@ struct Pair {
     QColor ground;
 };
 
-QList<Pair> TextPairs() {
+void ExpectContrast(const QList<Pair>& pairs, double least) {
+    for (const Pair& pair : pairs)
+        EXPECT_GE(Contrast(pair.over, pair.ground), least) << pair.what;
+}
+
+/// `over` at both ends of a gradient.
+QList<Pair> On(const Style::Gradient& ground, const char* what, const QColor& over) {
+    return {{what, over, ground.from}, {what, over, ground.to}};
+}
+
+/// On the two grounds that most things stand on.
+QList<Pair> OnPaperAndCanvas(const char* what, const QColor& over) {
+    return {{what, over, TheStyle().paper}, {what, over, TheStyle().canvas}};
+}
+
+/// The texts of labels, fields, lists and menus, in every state.
+QList<Pair> PlainTexts() {
     const Style& style = TheStyle();
-    QList<Pair> pairs{{"text on paper", style.ink, style.paper},
-                      {"text on canvas", style.ink, style.canvas},
-                      {"quiet text on paper", style.quietInk, style.paper},
-                      {"quiet text on canvas", style.quietInk, style.canvas},
-                      {"disabled text on paper", style.disabledInk, style.paper},
-                      {"disabled text on canvas", style.disabledInk, style.canvas},
-                      {"heading on paper", style.heading, style.paper},
-                      {"heading on canvas", style.heading, style.canvas},
-                      {"error on paper", style.error, style.paper},
-                      {"error on canvas", style.error, style.canvas},
-                      {"box caption, top", style.headerInk, style.header.from},
-                      {"box caption, bottom", style.headerInk, style.header.to},
-                      {"lit meal", Qt::white, style.mealStripLit},
-                      {"window title, top", style.windowInk, style.window.from},
-                      {"window title, bottom", style.windowInk, style.window.to},
-                      {"navigation", style.navigationInk, style.navigation},
-                      {"lit navigation", style.windowInk, style.navigationLit},
-                      {"pressed navigation", style.windowInk, style.navigationPressed},
-                      {"disabled navigation", style.navigationDisabledInk, style.navigation},
-                      {"chosen row", style.chosenRowText, style.chosenRow},
-                      {"chosen day, top", style.ink, style.chosenDay.from},
-                      {"chosen day, bottom", style.ink, style.chosenDay.to},
+    QList<Pair> pairs{{"'Today' on the chosen day", style.ink, style.chosenDay.to},
                       {"chosen view", style.heading, style.chosenDay.to},
-                      {"bar row", style.barRowText, style.paper},
+                      {"chosen row", style.chosenRowText, style.chosenRow},
+                      {"item of a list", style.listItemText, style.listItem},
+                      {"meal under the pointer", style.chosenRowText, style.mealStripLit},
+                      {"name in a chart", style.barRowText, style.paper},
+                      {"menu title and note", style.ink, style.header.from},
                       {"raised text", style.raisedText, style.raisedShadow}};
-    for (int state = 0; state < 4; ++state)
-        for (const Style::ButtonFace& face : {style.button[state], style.mainAction[state]}) {
-            pairs << Pair{"button, top", face.text, face.ground.from}
-                  << Pair{"button, bottom", face.text, face.ground.to};
-        }
+    pairs += OnPaperAndCanvas("text", style.ink);
+    pairs += OnPaperAndCanvas("quiet text", style.quietInk);
+    pairs += OnPaperAndCanvas("disabled text", style.disabledInk);
+    pairs += OnPaperAndCanvas("heading", style.heading);
+    pairs += OnPaperAndCanvas("refusal", style.error);
+    pairs += On(style.header, "caption of a box", style.headerInk);
+    return pairs;
+}
+
+/// Title bars and the navigation column, in every state.
+QList<Pair> WindowTexts() {
+    const Style& style = TheStyle();
+    QList<Pair> pairs{{"navigation", style.navigationInk, style.navigation},
+                      {"navigation under the pointer", style.windowInk, style.navigationLit},
+                      {"navigation pressed", style.windowInk, style.navigationPressed},
+                      {"navigation disabled", style.navigationDisabledInk, style.navigation},
+                      {"navigation chosen", style.heading, style.canvas},
+                      {"weekday", style.windowInk, style.navigation}};
+    pairs += On(style.window, "title", style.windowInk);
+    pairs += On(style.window, "button of the title", style.navigationInk);
+    pairs += On(style.window, "button of the title, pressed", style.rule);
+    return pairs;
+}
+
+QList<Pair> ButtonTexts() {
+    QList<Pair> pairs;
+    for (const Style::ButtonFace& face : TheStyle().button)
+        pairs += On(face.ground, "button", face.text);
+    for (const Style::ButtonFace& face : TheStyle().mainAction)
+        pairs += On(face.ground, "main action", face.text);
+    for (const Style::ButtonFace& face : TheStyle().dayButton)
+        pairs += On(face.ground, "button of the chosen day", face.text);
+    return pairs;
+}
+
+/// What charts need to be read without their colours.
+QList<Pair> ChartLines() {
+    const Style& style = TheStyle();
+    return {{"100 percent, and the outline of a sector", style.gridDark, style.paper},
+            {"upper edge of a bar", style.barNormal[0], style.paper},
+            {"lower edge of a bar", style.barNormal[7], style.paper},
+            {"upper edge of a lit bar", style.barHover[0], style.paper},
+            {"lower edge of a lit bar", style.barHover[7], style.paper},
+            {"weight line", style.ln[3].colour, style.paper},
+            {"mean of the weights", style.lineMean.colour, style.paper},
+            {"axis of the weights", style.lineAxis, style.paper}};
+}
+
+/// Pictures by their tint, and edges without which a control would not be seen.
+QList<Pair> PicturesAndEdges() {
+    const Style& style = TheStyle();
+    QList<Pair> pairs{{"arrow of a scroll bar", style.quietInk, style.scrollSlot},
+                      {"its arrow under the pointer", style.heading, style.header.from},
+                      {"frame of the chosen day", style.frame, style.chosenDay.from},
+                      {"plus of a meal", style.mealText, style.mealStrip},
+                      {"arrow of a list", style.frame, style.paper},
+                      {"its arrow held", style.heading, style.button[2].ground.from}};
+    pairs += OnPaperAndCanvas("field edge", style.fieldEdge);
+    pairs += OnPaperAndCanvas("edge of a button", style.button[0].edge);
+    pairs += OnPaperAndCanvas("focus ring", style.frame);
+    const QColor tints[] = {style.quietInk, style.frame, style.heading};
+    for (int state = 0; state < 3; ++state) {
+        pairs += OnPaperAndCanvas("picture", tints[state]);
+        pairs += On(style.button[state].ground, "picture on a button", tints[state]);
+        pairs << Pair{"thumb", style.button[state].edge, style.scrollSlot};
+    }
     return pairs;
 }
 
@@ -76,9 +136,10 @@ TEST_F(StyleTest, ContrastIsMeasuredAsItShouldBe) {
     EXPECT_NEAR(Contrast(QColor(119, 119, 119), Qt::white), 4.48, 0.01);
 }
 
-TEST_F(StyleTest, TextHasAContrastOfFourAndAHalfToOne) {
-    for (const Pair& pair : TextPairs())
-        EXPECT_GE(Contrast(pair.over, pair.ground), 4.5) << pair.what;
+TEST_F(StyleTest, TextHasAContrastOfFourAndAHalfToOneInEveryState) {
+    ExpectContrast(PlainTexts(), 4.5);
+    ExpectContrast(WindowTexts(), 4.5);
+    ExpectContrast(ButtonTexts(), 4.5);
 }
 
 /// The brown of the meal headings is fixed and reaches 4.2 to 1 on pure white at best; bold on the
@@ -90,17 +151,31 @@ TEST_F(StyleTest, MealHeadingsComeNearTheBestTheirBrownAllows) {
     EXPECT_NE(style.mealStrip, style.paper);
 }
 
-TEST_F(StyleTest, EdgesAndPicturesThatCarryMeaningHaveThreeToOne) {
+TEST_F(StyleTest, EdgesAndPicturesThatCarryMeaningHaveThreeToOneInEveryState) {
+    ExpectContrast(PicturesAndEdges(), 3);
+    ExpectContrast(ChartLines(), 3);
+}
+
+/// On dark grounds the inner line of the ring is the one that is seen.
+TEST_F(StyleTest, OneOfTheTwoLinesOfTheFocusRingIsSeenOnEveryGround) {
     const Style& style = TheStyle();
-    const QList<Pair> pairs{{"field edge on paper", style.fieldEdge, style.paper},
-                            {"field edge on canvas", style.fieldEdge, style.canvas},
-                            {"focus ring on paper", style.frame, style.paper},
-                            {"focus ring on canvas", style.frame, style.canvas},
-                            {"picture at rest", style.quietInk, style.paper},
-                            {"picture under the pointer", style.frame, style.paper},
-                            {"dark grid", style.gridDark, style.paper}};
-    for (const Pair& pair : pairs)
-        EXPECT_GE(Contrast(pair.over, pair.ground), 3) << pair.what;
+    QList<QColor> grounds{style.paper,     style.canvas,       style.navigation,
+                          style.mealStrip, style.mealStripLit, style.chosenDay.to};
+    for (int state = 0; state < 3; ++state)
+        grounds << style.button[state].ground.to << style.mainAction[state].ground.from
+                << style.mainAction[state].ground.to;
+    for (const QColor& ground : grounds)
+        EXPECT_GE(qMax(Contrast(style.frame, ground), Contrast(style.paper, ground)), 3)
+            << ground.name().toStdString();
+}
+
+/// The first two show only while the pointer is there; before and after, the same text is black.
+TEST_F(StyleTest, TheFixedColoursOfTextsHaveThreeToOne) {
+    const Style& style = TheStyle();
+    ExpectContrast({{"item of a list under the pointer", style.listItemLitText, style.listItemLit},
+                    {"name in a chart under the pointer", style.barRowHover, style.paper},
+                    {"notice on a chart", style.chartNoticeInk, style.paper}},
+                   3);
 }
 
 TEST_F(StyleTest, TheFixedColoursStandUnderTheirNames) {

@@ -1,5 +1,6 @@
 #include "analysis/charts/Pie.h"
 
+#include "drawing/DevicePixels.h"
 #include "drawing/Pictures.h"
 #include "drawing/SmoothedPrint.h"
 #include "drawing/Style.h"
@@ -60,7 +61,24 @@ QString Pie::CaptionAt(QPointF place) const {
 }
 
 void Pie::Paint(QPainter& painter) {
-    painter.drawImage(0, 0, picPIE(painter.deviceTransform().m11()));
+    {
+        const DevicePixels device(painter);
+        QImage picture = picPIE(device.Ratio());
+        picture.setDevicePixelRatio(1);
+        painter.drawImage(device.Of(QRect(QPoint(), form_.size)).topLeft(), picture);
+    }
+    PaintOutlines(painter);
+}
+
+/// The colours of the sectors are light; the lines between them show without any colour.
+void Pie::PaintOutlines(QPainter& painter) const {
+    if (shares_.What() != EnergyShares::Content::Sectors)
+        return;
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(TheStyle().gridDark);
+    painter.setBrush(Qt::NoBrush);
+    for (const EnergyShares::Sector& sector : shares_.Sectors())
+        painter.drawPath(SectorPath(sector));
 }
 
 QImage Pie::picPIE(double ratio) {

@@ -65,6 +65,7 @@ private:
     void PaintBackground();
     void DrawPie(); ///< the sectors onto `temp`, then `temp` over `picPIE`
     void AddPieSlice(const QColor& colour, const EnergyShares::Sector& sector);
+    void PaintOutlines(QPainter& painter) const;
     void PaintNoData();
 
     PieForm form_;

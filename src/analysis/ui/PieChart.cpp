@@ -1,7 +1,10 @@
 #include "analysis/ui/PieChart.h"
 
+#include "drawing/DevicePixels.h"
 #include "drawing/Style.h"
 #include "toolkit/ucAALBL.h"
+
+#include <QPainter>
 
 namespace {
 constexpr int LegendGap = 20;
@@ -13,6 +16,18 @@ int LegendWidth() {
     const QString longest = QStringLiteral("Protein 100%");
     return SwatchSize + SwatchGap + QFontMetrics(TheStyle().text).horizontalAdvance(longest);
 }
+
+/// A square of the legend. Its edge shows where its colour is light.
+class Swatch : public QWidget {
+public:
+    using QWidget::QWidget;
+
+protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        PaintFrame(painter, rect(), TheStyle().gridDark);
+    }
+};
 
 } // namespace
 
@@ -31,7 +46,7 @@ PieChart::PieChart(PieForm form, QWidget* parent)
 void PieChart::AddSwatches() {
     const auto colours = picture_->pie().ShownColours();
     for (size_t i = 0; i < swatches_.size(); ++i) {
-        swatches_[i] = new QWidget(this);
+        swatches_[i] = new Swatch(this);
         swatches_[i]->setObjectName(QStringLiteral("Image%1").arg(i + 1));
         swatches_[i]->setPalette(colours[i]);
         swatches_[i]->setAutoFillBackground(true);
