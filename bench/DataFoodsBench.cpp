@@ -1,6 +1,7 @@
 #include "DataFoodsBench.h"
 
 #include "Ground.h"
+#include "SpeedFile.h"
 
 #include <QElapsedTimer>
 #include <QFile>
@@ -99,6 +100,9 @@ void MeasureFoodImport() {
     std::printf("\n%d branded foods: %s\n%-46s %12s %8s\n", foods,
                 process.readAllStandardOutput().constData(), "foods import", "ours", "aim");
     std::printf("%-46s %12.1f %8.0f\n", "time (s)", seconds, MostSeconds);
-    std::printf("%-46s %12.1f %8.0f\n", "memory at most (MB)", double(used.ru_maxrss) / 1024,
-                MostMegabytes);
+    const double megabytes = double(used.ru_maxrss) / 1024;
+    std::printf("%-46s %12.1f %8.0f\n", "memory at most (MB)", megabytes, MostMegabytes);
+    const QString work = QStringLiteral("import of %1 foods").arg(foods);
+    SpeedFile::Add(work, "s", seconds, {}, MostSeconds);
+    SpeedFile::Add(work + ", memory", "MB", megabytes, {}, MostMegabytes);
 }

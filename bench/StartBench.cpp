@@ -1,6 +1,7 @@
 #include "StartBench.h"
 
 #include "Ground.h"
+#include "SpeedFile.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -39,6 +40,13 @@ Medians Measure(const QString& probe, const QStringList& arguments) {
     }
     return {Median(times), Median(sizes)};
 }
+
+void Report(const char* work, const char* unit, double ours, double bare, double mostMore) {
+    const QString named = QStringLiteral("%1 (%2)").arg(QLatin1String(work), QLatin1String(unit));
+    std::printf("%-46s %12.1f %12.1f %8.1f %8.1f\n", qPrintable(named), ours, bare, ours - bare,
+                mostMore);
+    SpeedFile::Add(work, unit, ours, bare, mostMore);
+}
 } // namespace
 
 void MeasureStart() {
@@ -50,8 +58,6 @@ void MeasureStart() {
     const Medians ours = Measure(QStringLiteral("start_probe"), {settings.path()});
     std::printf("\n%-46s %12s %12s %8s %8s\n", "whole process, median of 11", "ours", "bare window",
                 "more", "aim");
-    std::printf("%-46s %12.1f %12.1f %8.1f %8.1f\n", "start to the painted frame (ms)",
-                ours.milliseconds, bare.milliseconds, ours.milliseconds - bare.milliseconds, 100.0);
-    std::printf("%-46s %12.1f %12.1f %8.1f %8.1f\n", "memory with the home screen open (MB)",
-                ours.megabytes, bare.megabytes, ours.megabytes - bare.megabytes, 30.0);
+    Report("start to the painted frame", "ms", ours.milliseconds, bare.milliseconds, 100);
+    Report("memory with the home screen open", "MB", ours.megabytes, bare.megabytes, 30);
 }

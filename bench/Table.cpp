@@ -1,5 +1,7 @@
 #include "Table.h"
 
+#include "SpeedFile.h"
+
 #include <cstdio>
 
 namespace {
@@ -35,5 +37,7 @@ void Table::Finalize() {
         const Pair& pair = pairs_[work];
         std::printf("%-46s %12.3f %12.3f %8.2f %8.2f\n", work.c_str(), pair.ours, pair.limit,
                     pair.ours / pair.limit, Aims()[work]);
+        SpeedFile::Add(QString::fromStdString(work), QStringLiteral("ms"), pair.ours, pair.limit,
+                       Aims()[work]);
     }
 }

@@ -1,5 +1,6 @@
 #include "DataFoodsBench.h"
 #include "DataUseBench.h"
+#include "SpeedFile.h"
 #include "StartBench.h"
 #include "Table.h"
 
@@ -8,8 +9,10 @@
 
 #include <vector>
 
-/// Measures each path that a person waits for, next to its limit, and prints a table of both.
+/// Measures each path that a person waits for, next to its limit, and prints a table of both. With
+/// `--json=FILE` the file gets them, too.
 int main(int argc, char** argv) {
+    SpeedFile::TakeArgument(argc, argv);
     qputenv("QT_QPA_PLATFORM", "offscreen");
     StoreThreads::AllocateApart();
     Application application(argc, argv);
@@ -24,5 +27,6 @@ int main(int argc, char** argv) {
     MeasureStart();
     MeasureUse();
     MeasureFoodImport();
+    SpeedFile::Write();
     return 0;
 }
