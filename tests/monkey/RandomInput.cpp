@@ -78,10 +78,15 @@ QWidget* FirstVisible() {
     return first == windows.end() ? nullptr : *first;
 }
 
-/// A press may close the window: then nobody waits for the release.
+/// An input before may have closed the window.
+bool TakesInput(const QPointer<QWindow>& window) {
+    return window && window->isVisible();
+}
+
 void PressAndRelease(const QPointer<QWindow>& window, Qt::MouseButton button, QPoint place) {
-    QTest::mousePress(window, button, {}, place);
-    if (window)
+    if (TakesInput(window))
+        QTest::mousePress(window, button, {}, place);
+    if (TakesInput(window))
         QTest::mouseRelease(window, button, {}, place);
 }
 
@@ -97,7 +102,7 @@ QList<Qt::Key> KeysOf(Qt::KeyboardModifiers modifiers) {
 
 void SendKey(const QPointer<QWindow>& window, bool press, Qt::Key key, Qt::KeyboardModifiers with) {
     const char text = QTest::keyToAscii(key);
-    if (window && window->isVisible())
+    if (TakesInput(window))
         QTest::simulateEvent(window, press, key, with,
                              text ? QString(QLatin1Char(text)) : QString(), false);
 }
@@ -195,7 +200,7 @@ RandomInput::Input RandomInput::PressAt(QWidget* window, QPoint place) {
     const auto perform = [window = QPointer(window->windowHandle()), place, left, twice] {
         const Qt::MouseButton button = left ? Qt::LeftButton : Qt::RightButton;
         QTest::mouseMove(window, place);
-        for (int i = 0; i < (twice ? 2 : 1) && window; ++i)
+        for (int i = 0; i < (twice ? 2 : 1); ++i)
             PressAndRelease(window, button, place);
     };
     const QString detail = Text(place) + (left ? "" : " right") + (twice ? " twice" : "");
