@@ -17,6 +17,7 @@
 #include <SQLiteCpp/SQLiteCpp.h>
 
 #include <algorithm>
+#include <optional>
 
 namespace {
 /// The first page, without the marks that a copy through the store makes anew.
@@ -66,7 +67,7 @@ Snapshot Restoring::Put(const Snapshot& snapshot, const Snapshot::Settings& sett
 
 Snapshot Restoring::PutChecked(const Snapshot& snapshot, const Snapshot::Settings& settings,
                                const QString& reason) {
-    Snapshot kept;
+    std::optional<Snapshot> kept;
     try {
         BringInOrder();
         kept = Keep(reason);
@@ -74,12 +75,13 @@ Snapshot Restoring::PutChecked(const Snapshot& snapshot, const Snapshot::Setting
     } catch (const RuntimeError& failure) {
         if (!SoundRecords::MeansDamage(failure, records_))
             throw;
-        kept = KeepDamaged(reason);
+        if (!kept)
+            kept = KeepDamaged(reason);
         ReplaceDamaged(snapshot);
     }
     PutSettings(settings);
     Snapshots(records_).Prune();
-    return kept;
+    return *kept;
 }
 
 /// Takes in what a killed program left in a journal, and proves that the folder can be written.
