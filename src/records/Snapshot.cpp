@@ -55,7 +55,7 @@ void ReadNote(Snapshot& snapshot, const QJsonObject& note) {
 }
 
 /// A power cut can take the note of a snapshot that was made without a sync, and damage its files.
-/// The name of its folder remains.
+/// A disk may fail to read the note. The name of the folder remains.
 void DescribeFiles(Snapshot& snapshot) {
     const QString name = QFileInfo(snapshot.path).fileName();
     snapshot.moment = QDateTime::fromString(name.section(u'-', 0, 0), QLatin1String(MomentInName));
@@ -79,15 +79,13 @@ std::optional<Snapshot> Snapshot::Read(const QString& path) {
     Snapshot snapshot;
     snapshot.path = path;
     QFile file(snapshot.Files().File(NoteName));
-    if (!file.open(QIODevice::ReadOnly)) {
-        if (!HasBothFiles(snapshot.Files()))
-            return {};
-        DescribeFiles(snapshot);
+    if (file.open(QIODevice::ReadOnly))
+        ReadNote(snapshot, QJsonDocument::fromJson(file.readAll()).object());
+    if (snapshot.moment.isValid())
         return snapshot;
-    }
-    ReadNote(snapshot, QJsonDocument::fromJson(file.readAll()).object());
-    if (!snapshot.moment.isValid())
+    if (!HasBothFiles(snapshot.Files()))
         return {};
+    DescribeFiles(snapshot);
     return snapshot;
 }
 

@@ -191,18 +191,23 @@ TEST_F(SnapshotsTest, OfEachKindOnlySoManyAreKept) {
     EXPECT_TRUE(All().HasDailyOf(now.toLocalTime().date()));
 }
 
-TEST_F(SnapshotsTest, ANoteThatIsDamagedIsNoSnapshot) {
-    const Snapshot made = Make();
-    Disk::Write(made.path + "/snapshot.json", "{\"moment\": 12");
-    EXPECT_TRUE(All().All().isEmpty());
-}
-
 TEST_F(SnapshotsTest, WithoutItsNoteASnapshotOfOursHasTheKindAndTheMomentOfItsName) {
     const Snapshot made = Make(SnapshotKind::Change);
     Disk::Remove(made.path + "/snapshot.json");
     ASSERT_EQ(All().All().size(), 1);
     EXPECT_EQ(All().All().first().kind, SnapshotKind::Change);
     EXPECT_EQ(All().All().first().moment, made.moment);
+}
+
+TEST_F(SnapshotsTest, ADamagedNoteCountsAsALostOne) {
+    const Snapshot made = Make(SnapshotKind::Change);
+    for (const char* note : {"", "{\"moment\": 12", "{\"moment\": \"some day\"}", "[]"}) {
+        Disk::Write(made.path + "/snapshot.json", note);
+        ASSERT_EQ(All().All().size(), 1) << note;
+        EXPECT_EQ(All().All().first().kind, SnapshotKind::Change) << note;
+        EXPECT_EQ(All().All().first().moment, made.moment) << note;
+        EXPECT_EQ(All().Find("latest").path, made.path) << note;
+    }
 }
 
 TEST_F(SnapshotsTest, DamagedFilesWithoutANoteDoNotHinderOtherSnapshots) {
