@@ -1,8 +1,8 @@
 #include "intake/ui/ListNotice.h"
 
 #include "drawing/Style.h"
+#include "toolkit/Accessible.h"
 
-#include <QAccessible>
 #include <QPainter>
 #include <QTimer>
 
@@ -33,8 +33,7 @@ void ListNotice::Say(const QString& text) {
     show();
     raise();
     tmrHider_->start();
-    QAccessibleEvent told(this, QAccessible::Alert);
-    QAccessible::updateAccessibility(&told);
+    TellAloud(this);
 }
 
 void ListNotice::paintEvent(QPaintEvent* event) {

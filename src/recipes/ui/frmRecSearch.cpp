@@ -1,9 +1,9 @@
 #include "recipes/ui/frmRecSearch.h"
 
 #include "foods/ui/ucSearchResults.h"
+#include "toolkit/Accessible.h"
 #include "toolkit/Labels.h"
 
-#include <QAccessible>
 #include <QTimer>
 
 static constexpr int NoticeTime = 2000; // milliseconds
@@ -35,8 +35,7 @@ void frmRecSearch::Choose(const QString& Meal, const ScaledFood& Item) {
 /// A timer that is running is not restarted.
 void frmRecSearch::ShowNotice() {
     lblInfo_->show();
-    QAccessibleEvent told(lblInfo_, QAccessible::Alert);
-    QAccessible::updateAccessibility(&told);
+    TellAloud(lblInfo_);
     if (!tmrHider_->isActive())
         tmrHider_->start();
 }

@@ -40,7 +40,7 @@ void RequireSoundKeys() {
                 QStringLiteral("The file holds an ingredient of recipe %1 outside of it."));
 }
 
-/// New rows get keys above the last one. If a row of the file has such a key, the last one is true.
+/// New rows get keys above the last one. A very high one is believed only if a row has such a key.
 void RequireKeysLeft(const DocumentHead& head) {
     constexpr std::int64_t highest = 2'000'000'000; // some millions below the last possible key
     for (const DocumentSection* section : {&Sections::Profiles, &Sections::Recipes}) {

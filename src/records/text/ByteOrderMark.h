@@ -2,7 +2,7 @@
 
 #include <QByteArray>
 
-/// Some programs write it at the start of a text in UTF-8. It is no part of the text.
+/// Some programs write it at the start of a text in UTF-8. It is not part of the text.
 namespace ByteOrderMark {
 inline constexpr QByteArrayView Bytes("\xEF\xBB\xBF");
 
