@@ -81,10 +81,13 @@ private:
         return block;
     }
 
+    /// The port is held at this address only; at another one a program could have taken it.
     std::string CaddyConfiguration() {
         auto site = BlockOf("caddy", "recipes.example.org");
         site.insert(0, "https://");
-        site.insert(site.find('{') + 1, "\ntls " + (folder_ / "pem") + " " + (folder_ / "key"));
+        const auto onlyHere =
+            "\nbind 127.0.0.1\ntls " + (folder_ / "pem") + " " + (folder_ / "key");
+        site.insert(site.find('{') + 1, onlyHere);
         return "{\nadmin off\nauto_https off\n}\n" + site;
     }
 
