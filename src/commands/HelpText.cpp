@@ -82,11 +82,12 @@ std::string Footer(const CommandOutline& command) {
     return footer.empty() ? footer : '\n' + footer;
 }
 
-/// Of a command, its own help stands for that of the program.
+/// A command has its own help, and the version is that of the program.
 CommandOutline Shared(const Outline& outline) {
     CommandOutline shared = outline.front();
-    std::erase_if(shared.options,
-                  [](const OptionOutline& option) { return option.name == "--help"; });
+    std::erase_if(shared.options, [](const OptionOutline& option) {
+        return option.name == "--help" || option.name == "--version";
+    });
     return shared;
 }
 } // namespace

@@ -30,6 +30,7 @@ void AddSharedOptions(CLI::App& program, Session& session) {
                     "The name or key of a person; otherwise the first one")
         ->type_name("NAME");
     program.add_flag("--json", session.json, "Print facts as JSON");
+    program.set_version_flag("--version", "halvane-data " HALVANE_VERSION, "Show the version");
 }
 
 /// Every command that is added later has the same.

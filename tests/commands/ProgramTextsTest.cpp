@@ -163,6 +163,13 @@ TEST_F(ProgramTextsTest, TheHelpSaysHowACommandIsCalled) {
     EXPECT_TRUE(Command({"recipes", "--help"}).out.contains("\nCommands:\n  export "));
 }
 
+TEST_F(ProgramTextsTest, TheVersionIsToldAndIsNoOptionOfACommand) {
+    const Run version = Command({"--version"});
+    EXPECT_EQ(version.code, Done);
+    EXPECT_EQ(version.out, "halvane-data " HALVANE_VERSION "\n");
+    EXPECT_FALSE(Command({"log", "--help"}).out.contains("--version"));
+}
+
 TEST_F(ProgramTextsTest, WhatIsWrittenWronglyIsNamed) {
     const std::pair<QStringList, const char*> calls[] = {
         {{"frobnicate"},
