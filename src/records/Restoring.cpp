@@ -7,6 +7,7 @@
 #include "runtime/RuntimeError.h"
 #include "runtime/Settings.h"
 #include "store/ContentReplacement.h"
+#include "store/FileBytes.h"
 #include "store/FileCheck.h"
 #include "store/RollbackJournal.h"
 #include "store/StoreError.h"
@@ -20,34 +21,6 @@
 #include <optional>
 
 namespace {
-/// The first page, without the marks that a copy through the store makes anew.
-QByteArray FirstPage(QFile& file) {
-    struct Mark {
-        qsizetype at;
-        qsizetype length;
-    };
-    constexpr Mark marks[] = {{24, 4}, {40, 4}, {92, 8}}; // change count, schema count, writer
-    constexpr qint64 smallestPage = 512;
-    QByteArray page = file.read(smallestPage);
-    for (const auto& [at, length] : marks)
-        if (at + length <= page.size())
-            std::fill_n(page.begin() + at, length, '\0');
-    return page;
-}
-
-bool HoldTheSame(const QString& one, const QString& other) {
-    QFile first(one);
-    QFile second(other);
-    if (!first.open(QIODevice::ReadOnly) || !second.open(QIODevice::ReadOnly) ||
-        first.size() != second.size() || FirstPage(first) != FirstPage(second))
-        return false;
-    constexpr qint64 piece = 1 << 20;
-    while (!first.atEnd())
-        if (first.read(piece) != second.read(piece))
-            return false;
-    return true;
-}
-
 void PutSettings(const Snapshot::Settings& settings) {
     for (auto setting = settings.begin(); setting != settings.end(); ++setting)
         if (GetRegValue(setting.key()) != setting.value())
@@ -109,7 +82,7 @@ Snapshot Restoring::KeepDamaged(const QString& reason) const {
 void Restoring::ReplaceSound(const Snapshot& snapshot) const {
     QList<RecordsFile> different;
     std::ranges::copy_if(RecordsFiles, std::back_inserter(different), [&](const RecordsFile& file) {
-        return !HoldTheSame(records_.File(file.name), snapshot.Files().File(file.name));
+        return !FileBytes::Same(records_.File(file.name), snapshot.Files().File(file.name));
     });
     if (different.size() == 1)
         return SwapIn(snapshot, different.first());

@@ -1,14 +1,9 @@
 #include "runtime/TextLines.h"
 
-#include "runtime/RuntimeError.h"
-
-#include <QFile>
+#include "runtime/WholeFile.h"
 
 QStringList ReadLines(const QString& path, TextCoding coding) {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        throw RuntimeError(ErrorNumber::FileNotFound, path + u": " + file.errorString());
-    const QByteArray bytes = file.readAll();
+    const QByteArray bytes = WholeFile(path);
     QString text =
         coding == TextCoding::Utf8 ? QString::fromUtf8(bytes) : QString::fromLatin1(bytes);
     text.remove(u'\r');

@@ -2,7 +2,12 @@
 #include "disk/DiskAtCut.h"
 #include "records/Disk.h"
 #include "records/Snapshots.h"
+#include "records/document/DocumentInput.h"
+#include "records/recipefiles/RecipeFiles.h"
+#include "runtime/RuntimeError.h"
+#include "runtime/WholeFile.h"
 #include "store/Connection.h"
+#include "store/FileBytes.h"
 #include "store/FileHeader.h"
 #include "store/Schema.h"
 #include "support/Failure.h"
@@ -188,6 +193,33 @@ TEST_F(DiskWatchTest, AFileThatTheDiskCannotReadIsNotCalledEmpty) {
     DiskWatch watch(Place());
     watch.Plan({FaultKind::InputOutput, 2, false}); // the first call opens the file
     EXPECT_EQ(FailureOf([&] { FileHeader::Of(users); }), -SQLITE_IOERR);
+}
+
+TEST_F(DiskWatchTest, AFileThatTheDiskCannotReadIsEqualToNone) {
+    for (const char* name : {"one", "other"})
+        Write(Place(name), QByteArray(3 << 20, 'a'));
+    EXPECT_TRUE(FileBytes::Same(Place("one"), Place("other")));
+    DiskWatch watch(Place());
+    for (int at = 1; at < 9; ++at) {
+        watch.Plan({FaultKind::InputOutput, at, true});
+        EXPECT_FALSE(FileBytes::Same(Place("one"), Place("other"))) << at;
+    }
+}
+
+TEST_F(DiskWatchTest, AFileThatIsReadInPartIsRefused) {
+    const QString path = Place("file");
+    Write(path, "[]\n");
+    const std::function<void()> readers[] = {[&] { WholeFile(path); },
+                                             [&] { RecipeFiles::Read(path); },
+                                             [&] {
+                                                 DocumentInput input(path);
+                                                 EXPECT_FALSE(input.begin() == input.end());
+                                             }};
+    DiskWatch watch(Place());
+    for (const auto& read : readers) {
+        watch.Plan({FaultKind::InputOutput, 2, true}); // the first call opens the file
+        EXPECT_EQ(FailureOf(read), ErrorNumber::FileAccess);
+    }
 }
 
 TEST_F(DiskWatchTest, ASnapshotWhoseFilesCannotBeRemovedIsNotListed) {

@@ -3,10 +3,10 @@
 #include "foods/release/FoodRelease.h"
 #include "runtime/Convert.h"
 #include "runtime/RuntimeError.h"
+#include "runtime/WholeFile.h"
 
 #include <QCryptographicHash>
 #include <QDir>
-#include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -15,13 +15,6 @@ namespace {
 constexpr const char* Files[] = {FoodRelease::ValuesFile, FoodRelease::NamesFile,
                                  FoodRelease::WeightsFile};
 constexpr int CheckLength = 8;
-
-QByteArray Content(const QString& path) {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        throw RuntimeError(ErrorNumber::FileNotFound, path + u": " + file.errorString());
-    return file.readAll();
-}
 
 QString Sha256(const QByteArray& bytes) {
     return QString::fromLatin1(QCryptographicHash::hash(bytes, QCryptographicHash::Sha256).toHex());
@@ -70,7 +63,7 @@ FoodSources FoodSources::Of(const FoodRelease& release, const QString& name,
     sources.fieldCount_ = release.FieldCount();
     for (const char* file : Files)
         sources.hashes_[QLatin1String(file)] =
-            Sha256(Content(QDir(folder).filePath(QLatin1String(file))));
+            Sha256(WholeFile(QDir(folder).filePath(QLatin1String(file))));
     for (const ReleaseFood& food : release.Foods())
         if (food.HasValue())
             sources.foods_[food.number] = SourceOf(food);
@@ -78,7 +71,7 @@ FoodSources FoodSources::Of(const FoodRelease& release, const QString& name,
 }
 
 FoodSources FoodSources::Read(const QString& path) {
-    const QJsonObject json = QJsonDocument::fromJson(Content(path)).object();
+    const QJsonObject json = QJsonDocument::fromJson(WholeFile(path)).object();
     FoodSources sources;
     sources.release_ = json["release"].toString();
     sources.fieldCount_ = json["fields"].toInt();

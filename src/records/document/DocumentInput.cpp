@@ -24,5 +24,7 @@ bool DocumentInput::ReadMore() {
     bufferBegin_ += buffer_.size();
     at_ = 0;
     buffer_ = file_.read(Chunk);
+    if (file_.error() != QFileDevice::NoError)
+        throw RuntimeError(ErrorNumber::FileAccess, file_.errorString());
     return !buffer_.isEmpty();
 }

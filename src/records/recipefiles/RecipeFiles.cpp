@@ -118,7 +118,10 @@ Drafts OfFile(const QString& path) {
     if (file.size() > MostBytes)
         throw RuntimeError(ErrorNumber::TypeMismatch,
                            QStringLiteral("A file of recipes has at most 64 megabytes."));
-    return OfPlain(file.readAll());
+    const QByteArray bytes = file.readAll();
+    if (file.error() != QFileDevice::NoError)
+        throw RuntimeError(ErrorNumber::FileAccess, file.errorString());
+    return OfPlain(bytes);
 }
 } // namespace
 

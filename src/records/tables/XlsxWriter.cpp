@@ -108,11 +108,10 @@ void XlsxWriter::End() {
 
 void XlsxWriter::HandOver() const {
     QFile file(QString::fromStdString(Path()));
-    if (!file.open(QIODevice::ReadOnly))
+    if (file.open(QIODevice::ReadOnly))
+        for (QByteArray part; !(part = file.read(PartSize)).isEmpty();)
+            sink_({part.constData(), size_t(part.size())});
+    if (!file.isOpen() || !file.atEnd())
         throw RuntimeError(ErrorNumber::FileAccess,
                            QStringLiteral("The workbook cannot be read back."));
-    while (!file.atEnd()) {
-        const QByteArray part = file.read(PartSize);
-        sink_({part.constData(), size_t(part.size())});
-    }
 }
