@@ -5,7 +5,6 @@
 
 #include <algorithm>
 #include <deque>
-#include <ranges>
 #include <unordered_map>
 
 KeyedMerge::KeyedMerge(const DocumentSection& section, ImportReport& report)
@@ -50,11 +49,12 @@ void KeyedMerge::PairEqual() {
 /// From the last one on: of equal profiles the first ones are added, and a second import finds them
 /// again by their values.
 void KeyedMerge::PairNamed() {
-    for (Row& staged : std::views::reverse(staged_)) {
+    for (auto row = staged_.rbegin(); row != staged_.rend(); ++row) {
+        Row& staged = *row;
         if (staged.paired || staged.name.empty())
             continue;
-        const auto same = std::ranges::find_if(there_, [&](const Row& row) {
-            return !row.paired && TextCompare::Compare(row.name, staged.name) == 0;
+        const auto same = std::ranges::find_if(there_, [&](const Row& old) {
+            return !old.paired && TextCompare::Compare(old.name, staged.name) == 0;
         });
         if (same == there_.end())
             continue;
