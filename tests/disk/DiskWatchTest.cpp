@@ -187,6 +187,19 @@ TEST_F(DiskWatchTest, ACopyThatADiskCutsShortIsAFailure) {
     }
 }
 
+TEST_F(DiskWatchTest, AShortWriteIsGoneOnWithAndChangesNoByte) {
+    QByteArray bytes;
+    for (int i = 0; i < 100'000; ++i)
+        bytes += char(i % 251);
+    Write(Place("file"), bytes);
+    DiskWatch watch(Place());
+    for (int at = 1; at < 30; ++at) {
+        watch.Plan({FaultKind::ShortWrite, at, false});
+        EXPECT_EQ(FailureOf([&] { Disk::Copy(Place("file"), Place("copy")); }), 0) << at;
+        EXPECT_TRUE(Files(Place())["copy"] == bytes) << at;
+    }
+}
+
 TEST_F(DiskWatchTest, AFileThatTheDiskCannotReadIsNotCalledEmpty) {
     const QString users = Place("users.mdb");
     Schema::Create(users, DatabaseKind::Users);

@@ -3,6 +3,7 @@
 
 #include "disk/DiskWatch.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdarg>
 #include <cstdio>
@@ -173,13 +174,16 @@ ssize_t write(int file, const void* bytes, size_t count) {
     return WriteOn(file, bytes, count, [&](size_t length) { return system(file, bytes, length); });
 }
 
-/// Callers go on with what was not written, so the first piece alone is a short write to them.
+/// Callers go on with what was not written, so the first piece that is not empty is a short write
+/// to them.
 ssize_t writev(int file, const iovec* pieces, int count) {
     static auto* const system = System<ssize_t(int, const iovec*, int)>("writev");
     const DiskWatch* watch = DiskWatch::Current();
-    if (watch == nullptr || !watch->Knows(file) || count < 1)
+    if (watch == nullptr || !watch->Knows(file))
         return system(file, pieces, count);
-    return write(file, pieces[0].iov_base, pieces[0].iov_len);
+    const auto* const first =
+        std::find_if(pieces, pieces + count, [](const iovec& piece) { return piece.iov_len > 0; });
+    return first == pieces + count ? 0 : write(file, first->iov_base, first->iov_len);
 }
 
 ssize_t pwrite(int file, const void* bytes, size_t count, off_t at) {
