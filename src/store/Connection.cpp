@@ -1,5 +1,6 @@
 #include "store/Connection.h"
 
+#include "store/AmountRows.h"
 #include "store/FileCheck.h"
 #include "store/RollbackJournal.h"
 #include "store/Schema.h"
@@ -67,6 +68,7 @@ struct Connection::Database {
         : raw(std::move(opened))
         , statements(raw->getHandle(), path) {
         TextFunctions::Register(raw->getHandle());
+        AmountRows::Register(raw->getHandle());
     }
 
     DatabasePtr raw;

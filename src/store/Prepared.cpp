@@ -57,6 +57,10 @@ void Prepared::Bind(int parameter, const QVariant& stored) {
     }
 }
 
+void Prepared::BindPointer(int parameter, void* pointer, const char* type) {
+    Check(sqlite3_bind_pointer(statement_, parameter, pointer, type, nullptr));
+}
+
 bool Prepared::Step() {
     const int result = sqlite3_step(statement_);
     if (result != SQLITE_ROW && result != SQLITE_DONE)

@@ -23,7 +23,9 @@ public:
     const std::shared_ptr<const Columns>& Shape() const { return columns_; }
 
     void Bind(int parameter, const QVariant& stored); ///< from 1
-    bool Step();                                      ///< true while there is a row
+    /// For a function that asks for a pointer of this type, which must be a literal.
+    void BindPointer(int parameter, void* pointer, const char* type);
+    bool Step();  ///< true while there is a row
     void Reset(); ///< ready for the next run, its parameters null
 
 private:
