@@ -1,6 +1,7 @@
 #include "analysis/LoggedSums.h"
 
 #include "analysis/LoggedDays.h"
+#include "analysis/LoggedPeriod.h"
 #include "model/User.h"
 #include "runtime/Dates.h"
 #include "store/Connection.h"
@@ -39,21 +40,23 @@ std::optional<Nuts> LoggedSums::OfDay(QDate day) {
 }
 
 std::optional<Nuts> LoggedSums::OfPeriod(const Period& period) {
-    return Sums(AllSumsSQL() + Uid() + " AND " + period.Condition(), CanonicalOrder());
+    return LoggedPeriod(period).Sums();
 }
 
 std::optional<Nuts> LoggedSums::AverageEnergy(const Period& period) {
-    std::optional<Nuts> energy =
+    const std::optional<Nuts> energy =
         Sums("SELECT Sum(USER_FOODS.Calories) AS [Calories], "
              "Sum(USER_FOODS.Protein) AS [Protein], Sum(USER_FOODS.TotalFat) AS [TotalFat],"
              "Sum(USER_FOODS.carbs) AS [carbs] FROM USER_FOODS "
              " WHERE UID=" +
                  Uid() + " AND " + period.Condition(),
              EnergyFields);
-    if (!energy)
-        return std::nullopt;
-    const int days = LoggedDays::CountWithFood(period);
+    return energy ? AverageEnergy(*energy, LoggedDays::CountWithFood(period)) : std::nullopt;
+}
+
+std::optional<Nuts> LoggedSums::AverageEnergy(const Nuts& sums, int days) {
+    Nuts energy;
     for (const Nutrient id : EnergyFields)
-        energy->Set(id, (*energy)[id] / days);
-    return energy->Calories() < 1 ? std::nullopt : energy;
+        energy.Set(id, sums[id] / days);
+    return energy.Calories() < 1 ? std::nullopt : std::optional(energy);
 }

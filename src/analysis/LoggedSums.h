@@ -13,4 +13,5 @@ std::optional<Nuts> OfPeriod(const Period& period);
 /// The calories (whole), fat, protein and carbohydrate of an average day, over the days with food.
 /// Empty, too, if it has less than one kilocalorie.
 std::optional<Nuts> AverageEnergy(const Period& period);
+std::optional<Nuts> AverageEnergy(const Nuts& sums, int days);
 } // namespace LoggedSums

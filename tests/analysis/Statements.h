@@ -7,20 +7,26 @@
 #include <SQLiteCpp/SQLiteCpp.h>
 #include <sqlite3.h>
 
-/// Records the statements that run on a connection, as long as it exists.
+#include <functional>
+
+/// Records the statements that run on a connection, as long as it exists, and tells each before it
+/// runs.
 class Statements {
 public:
-    explicit Statements(Connection& connection)
-        : database_(connection.Raw().getHandle()) {
+    explicit Statements(
+        Connection& connection,
+        std::function<void(const QString&)> starting = [](const QString&) {})
+        : starting_(std::move(starting))
+        , database_(connection.Raw().getHandle()) {
         sqlite3_trace_v2(
             database_, SQLITE_TRACE_STMT,
-            [](unsigned, void* heard, void* statement, void*) {
+            [](unsigned, void* self, void* statement, void*) {
                 char* text = sqlite3_expanded_sql(static_cast<sqlite3_stmt*>(statement));
-                static_cast<QStringList*>(heard)->append(QString::fromUtf8(text));
+                static_cast<Statements*>(self)->Note(QString::fromUtf8(text));
                 sqlite3_free(text);
                 return 0;
             },
-            &list);
+            this);
     }
     ~Statements() { sqlite3_trace_v2(database_, 0, nullptr, nullptr); }
     Statements(const Statements&) = delete;
@@ -29,5 +35,11 @@ public:
     QStringList list;
 
 private:
+    void Note(const QString& statement) {
+        list << statement;
+        starting_(statement);
+    }
+
+    std::function<void(const QString&)> starting_;
     sqlite3* database_;
 };

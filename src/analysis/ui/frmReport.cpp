@@ -1,5 +1,6 @@
 #include "analysis/ui/frmReport.h"
 
+#include "analysis/LoggedPeriod.h"
 #include "analysis/WeightLog.h"
 #include "analysis/charts/PeriodPages.h"
 #include "analysis/ui/ViewButtons.h"
@@ -166,9 +167,10 @@ void frmReport::UpdateCharts() {
     MousePointer::SetBusy();
     const MousePointer::NormalAtEnd normalAtEnd;
     shown_ = PeriodTyped();
-    hasWeight_ = UpdateBars();
+    LoggedPeriod logged(shown_);
+    hasWeight_ = UpdateBars(logged);
     untold_ = !hasWeight_;
-    ucPie_->updatePie(shown_.from, shown_.to);
+    ucPie_->updatePie(logged);
     ucLine_->updateLineChart(shown_.from, shown_.to);
     if (!hasWeight_)
         ucLine_->ClearLabels();
@@ -176,9 +178,9 @@ void frmReport::UpdateCharts() {
 
 /// Returns false if the period has no weight: the average is Null, so there is no weight to derive
 /// targets from. The other charts do not need it.
-bool frmReport::UpdateBars() {
+bool frmReport::UpdateBars(LoggedPeriod& logged) {
     try {
-        ucBar_->updateBars(shown_.from, shown_.to);
+        ucBar_->updateBars(logged);
         return true;
     } catch (const RuntimeError& failure) {
         const bool averageIsNull = failure.Number() == ErrorNumber::InvalidUseOfNull;

@@ -3,6 +3,7 @@
 #include "analysis/Period.h"
 #include "toolkit/ScreenForm.h"
 
+class LoggedPeriod;
 class QLineEdit;
 class ViewButtons;
 struct PrintJob;
@@ -45,7 +46,7 @@ private:
     bool HasPeriod() const; ///< both fields hold a date
     Period PeriodTyped() const;
     void UpdateCharts();
-    bool UpdateBars();
+    bool UpdateBars(LoggedPeriod& logged);
     void CatchUp();
     void TellFindings();
     void TellInvalidDate();

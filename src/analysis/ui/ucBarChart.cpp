@@ -1,7 +1,6 @@
 #include "analysis/ui/ucBarChart.h"
 
-#include "analysis/LoggedDays.h"
-#include "analysis/LoggedSums.h"
+#include "analysis/LoggedPeriod.h"
 #include "analysis/WeightLog.h"
 #include "analysis/charts/PeriodPicture.h"
 #include "analysis/ui/ChartBar.h"
@@ -99,8 +98,8 @@ void ucBarChart::PlaceAll() {
 void ucBarChart::PlaceHead(int height) {
     header_->setGeometry(1, 1, width() - 2, height);
     for (size_t i = 0; i < scale_.size(); ++i)
-        scale_[i]->setGeometry(Twips::ToPixels(Scale[i].left), 1,
-                               scale_[i]->sizeHint().width(), height);
+        scale_[i]->setGeometry(Twips::ToPixels(Scale[i].left), 1, scale_[i]->sizeHint().width(),
+                               height);
 }
 
 void ucBarChart::PlaceRow(int i, const PeriodPicture& picture) {
@@ -121,14 +120,17 @@ void ucBarChart::paintEvent(QPaintEvent*) {
 }
 
 void ucBarChart::updateBars(QDate start, QDate end) {
-    const Period period{start, end};
+    LoggedPeriod logged({start, end});
+    updateBars(logged);
+}
+
+void ucBarChart::updateBars(LoggedPeriod& logged) {
     const qint32 kept = User::Current().CurrentWeight;
-    AdjustToAverageWeight(period);
-    const std::optional<Nuts> sums = LoggedSums::OfPeriod(period);
-    if (!sums)
+    AdjustToAverageWeight(logged.Dates());
+    if (!logged.Sums())
         return ClearBars();
-    sums_ = *sums;
-    days_ = LoggedDays::CountWithFood(period);
+    sums_ = *logged.Sums();
+    days_ = logged.Days();
     figures_ = PeriodFigures(sums_, days_, User::Current().RDIs);
     ShowFigures();
     User::Current().CurrentWeight = kept;

@@ -10,6 +10,7 @@
 #include <memory>
 #include <vector>
 
+class LoggedPeriod;
 class PeriodPicture;
 class ucHeader;
 class ucStrip;
@@ -28,6 +29,7 @@ public:
     ~ucBarChart() override;
 
     /// If the period has no weight, it fails with an invalid use of Null and changes nothing.
+    void updateBars(LoggedPeriod& logged);
     void updateBars(QDate start, QDate end);
     void ClearBars();                      ///< the values stay
     void ClearFigures();                   ///< bars, values and the average weight

@@ -1,6 +1,6 @@
 #include "analysis/ui/ucPieChart.h"
 
-#include "analysis/LoggedSums.h"
+#include "analysis/LoggedPeriod.h"
 #include "analysis/ui/PieChart.h"
 #include "drawing/Style.h"
 #include "toolkit/ucBox.h"
@@ -35,7 +35,12 @@ ucPieChart::ucPieChart(QWidget* parent)
 }
 
 void ucPieChart::updatePie(QDate start, QDate end) {
-    pie_->Show(EnergyShares::Of(LoggedSums::AverageEnergy({start, end})));
+    LoggedPeriod logged({start, end});
+    updatePie(logged);
+}
+
+void ucPieChart::updatePie(LoggedPeriod& logged) {
+    pie_->Show(EnergyShares::Of(logged.AverageEnergy()));
     TellValueChanged();
 }
 

@@ -5,6 +5,7 @@
 #include <QDate>
 
 class EnergyShares;
+class LoggedPeriod;
 class PieChart;
 class ucBox;
 
@@ -15,6 +16,7 @@ class ucPieChart : public PeriodChart {
 public:
     explicit ucPieChart(QWidget* parent = nullptr); ///< with three equal sectors
 
+    void updatePie(LoggedPeriod& logged);
     void updatePie(QDate start, QDate end);
     void AddOverLay();
     FigureTable Figures() const override;
