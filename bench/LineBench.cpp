@@ -20,6 +20,7 @@ namespace {
 const QSize ChartSize(738, 476);
 constexpr int AWeek = 7;
 constexpr int AYear = 365;
+constexpr int Decades = 5;
 
 /// The ten-year log with a weight on each day.
 struct WeighedGround {
@@ -97,21 +98,50 @@ void LineLimit(benchmark::State& state, int count) {
         BareLine(Days(count, run++));
 }
 
-void RefreshOurs(benchmark::State& state) {
-    const WeighedGround ground;
+/// The ten years five times over, one after the other.
+void RepeatToFiftyYears() {
+    SQLite::Database& users = UserDB().Raw();
+    users.exec("CREATE TEMP TABLE foods AS SELECT * FROM USER_FOODS;"
+               "CREATE TEMP TABLE weights AS SELECT * FROM USER_WEIGHTS;"
+               "UPDATE temp.foods SET RecID = NULL");
+    SQLite::Transaction transaction(users);
+    const std::string later =
+        " SET UDate = date(UDate, '+" + std::to_string(Ground::Days) + " days')";
+    for (int decade = 1; decade < Decades; ++decade)
+        users.exec("UPDATE temp.foods" + later + "; UPDATE temp.weights" + later +
+                   "; INSERT INTO USER_FOODS SELECT * FROM temp.foods;"
+                   "INSERT INTO USER_WEIGHTS SELECT * FROM temp.weights");
+    transaction.commit();
+    users.exec("DROP TABLE temp.foods; DROP TABLE temp.weights");
+}
+
+/// A log of so many decades.
+struct LongGround {
+    WeighedGround ground;
+    Days days{Ground::Days, 0};
+
+    explicit LongGround(int decades) {
+        if (decades == Decades)
+            RepeatToFiftyYears();
+        days.to = days.from.addDays(decades * Ground::Days - 1);
+    }
+};
+
+void RefreshOurs(benchmark::State& state, int decades) {
+    const LongGround log(decades);
     frmReport screen;
-    const Days days(Ground::Days, 0);
-    screen.findChild<QLineEdit*>(QStringLiteral("txtStart"))->setText(FormatShortDate(days.from));
-    screen.findChild<QLineEdit*>(QStringLiteral("txtEnd"))->setText(FormatShortDate(days.to));
+    screen.findChild<QLineEdit*>(QStringLiteral("txtStart"))
+        ->setText(FormatShortDate(log.days.from));
+    screen.findChild<QLineEdit*>(QStringLiteral("txtEnd"))->setText(FormatShortDate(log.days.to));
     auto* cmdRefresh = screen.findChild<ucButton*>(QStringLiteral("cmdRefresh"));
     for (auto _ : state)
         cmdRefresh->Activate();
 }
 
-void RefreshLimit(benchmark::State& state) {
-    const WeighedGround ground;
+void RefreshLimit(benchmark::State& state, int decades) {
+    const LongGround log(decades);
     for (auto _ : state)
-        BareReport(Days(Ground::Days, 0));
+        BareReport(log.days);
 }
 
 void PaintOurs(benchmark::State& state) {
@@ -151,7 +181,8 @@ void PaintLimit(benchmark::State& state) {
 [[maybe_unused]] const bool aims = [] {
     for (const char* span : {"7 days", "a year", "ten years"})
         Table::Aim(std::string("report, line, ") + span, 2);
-    Table::Aim("report, refresh, ten years", 2);
+    Table::Aim("report, refresh, ten years", 1);
+    Table::Aim("report, refresh, fifty years", 1);
     Table::Aim("report, line painted, ten years", 2);
     return true;
 }();
@@ -163,7 +194,9 @@ BENCHMARK_CAPTURE(LineOurs, year, AYear)->Name("report, line, a year/ours");
 BENCHMARK_CAPTURE(LineLimit, year, AYear)->Name("report, line, a year/limit");
 BENCHMARK_CAPTURE(LineOurs, decade, Ground::Days)->Name("report, line, ten years/ours");
 BENCHMARK_CAPTURE(LineLimit, decade, Ground::Days)->Name("report, line, ten years/limit");
-BENCHMARK(RefreshOurs)->Name("report, refresh, ten years/ours");
-BENCHMARK(RefreshLimit)->Name("report, refresh, ten years/limit");
+BENCHMARK_CAPTURE(RefreshOurs, ten, 1)->Name("report, refresh, ten years/ours");
+BENCHMARK_CAPTURE(RefreshLimit, ten, 1)->Name("report, refresh, ten years/limit");
+BENCHMARK_CAPTURE(RefreshOurs, fifty, Decades)->Name("report, refresh, fifty years/ours");
+BENCHMARK_CAPTURE(RefreshLimit, fifty, Decades)->Name("report, refresh, fifty years/limit");
 BENCHMARK(PaintOurs)->Name("report, line painted, ten years/ours");
 BENCHMARK(PaintLimit)->Name("report, line painted, ten years/limit");
