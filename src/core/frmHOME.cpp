@@ -103,7 +103,7 @@ ucButtonA* frmHOME::AddTitleButton(const char* name, const char* picture, const 
     const Style& style = TheStyle();
     button->setObjectName(QLatin1String(name));
     button->SetPictures(QLatin1String(picture), QLatin1String(tip));
-    button->SetTints(style.navigationInk, style.windowInk, style.rule);
+    button->SetTints(style.navigationInk, style.windowInk, style.windowPressedInk);
     button->SetPictureSize(QSize(TitlePicture, TitlePicture));
     button->setGeometry(left, 0, TitleButton, style.titleHeight);
     return button;

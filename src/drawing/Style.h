@@ -5,8 +5,12 @@
 
 class QString;
 
+enum class StyleKind { Light, Dark, HighContrast };
+
 /// Every colour, font and measure of the program, by role. Controls hold no literals of their own.
 struct Style {
+    StyleKind kind;
+
     struct Gradient {
         QColor from;
         QColor to; ///< downward
@@ -28,18 +32,19 @@ struct Style {
     QColor ink;      ///< text
     QColor quietInk; ///< servings, notes, captions beside values
     QColor disabledInk;
-    QColor rule;          ///< grid lines and row separators
-    Gradient header;      ///< box headers
-    QColor headerInk;     ///< their captions
-    QColor headerEdge;    ///< the line below them
-    QColor mealStrip;     ///< meal headings of the day list, at rest
-    QColor mealText;      ///< their text at rest; white under the pointer
-    QColor mealStripLit;  ///< the strip under the pointer, dark enough for the white text
-    Gradient window;      ///< title bars
-    QColor navigation;    ///< navigation column, weekday heads
-    QColor navigationInk; ///< captions in the navigation column
-    QColor windowInk;     ///< captions and pictures on title bars
-    QColor navigationLit; ///< ground of a navigation button under the pointer
+    QColor rule;             ///< grid lines and row separators
+    Gradient header;         ///< box headers
+    QColor headerInk;        ///< their captions
+    QColor headerEdge;       ///< the line below them
+    QColor mealStrip;        ///< meal headings of the day list, at rest
+    QColor mealText;         ///< their text at rest; white under the pointer
+    QColor mealStripLit;     ///< the strip under the pointer, dark enough for the white text
+    Gradient window;         ///< title bars
+    QColor navigation;       ///< navigation column, weekday heads
+    QColor navigationInk;    ///< captions in the navigation column
+    QColor windowInk;        ///< captions and pictures on title bars
+    QColor windowPressedInk; ///< pictures of pressed buttons there
+    QColor navigationLit;    ///< ground of a navigation button under the pointer
     QColor navigationPressed;
     QColor navigationDisabledInk;
     QColor disabledPicture; ///< pictures of disabled buttons on canvas and paper
@@ -58,15 +63,23 @@ struct Style {
     // The chart colours.
     QColor gridLight, gridDark, barRowText, barRowHover;
     QColor pieFat, pieProtein, pieCarbs;
+    QColor pieEdge;                   ///< the lines between the sectors
     QColor barNormal[8], barHover[8]; ///< rows of the bar pictures, top to bottom
     LinePen ln[5];                    ///< pens of the weight line; it is drawn with the last two
-    LinePen lineMean;                 ///< pen of the mean over the weight line
+    QColor lineMean;                  ///< the mean over the weight line
     QColor lineAxis, lineDotEdge, lineDotCore;
     QColor chartNoticeInk; ///< the notice on a chart without data
 
     QColor cardLine;   ///< the line below a recipe's name
     QColor cardRuling; ///< the faint lines of the card
     QColor factsRule;  ///< thin lines of the nutrition facts
+
+    // Colours of pictures; a picture names them, as "@checkMark".
+    QColor checkLit, checkOn, checkOnEdge, checkMark, checkDisabledOn, checkDisabledEdge;
+    QColor cellFoot; ///< the lower end of a day in the calendar
+    QColor foodMark, foodMarkEdge, foodMarkStem;
+    QColor scaleMark, scaleMarkDial, scaleMarkNeedle;
+    QColor plate, plateEdge, plateRim, plateShine; ///< below the pie of the glance
 
     // Measures, in pixels.
     int boxGap = 8, nestEdge = 14, groupGap = 4, rowHeight = 26, tallRowHeight = 39,
@@ -88,9 +101,12 @@ struct Style {
 
 const Style& TheStyle();
 
+/// Colours of that style. Applies to controls created afterwards: call it before the first.
+void UseStyle(StyleKind kind);
+
 /// Applies to controls created afterwards. Only tests set another family than the delivered one.
 void SetFontFamily(const QString& family);
 
-/// For pages: on white, letters not fitted to the pixels of a screen, sectors of a pie that differ
-/// in lightness. A process with windows uses StyleOnPaper.
+/// For pages: the light style on white, letters not fitted to the pixels of a screen, sectors of a
+/// pie that differ in lightness. A process with windows uses StyleOnPaper.
 void UseStyleOnPaper();

@@ -1,6 +1,7 @@
 #include "toolkit/ApplyStyle.h"
 
 #include "drawing/Style.h"
+#include "toolkit/CheckBoxStyle.h"
 
 #include <QApplication>
 #include <QPalette>
@@ -63,13 +64,7 @@ QToolTip { background: %paper; color: %ink; border: 1px solid %frame; padding: 3
 QCheckBox { color: %ink; spacing: 6px; background: transparent; }
 QCheckBox:disabled { color: %disabledInk; }
 QCheckBox:focus { color: %heading; }
-QCheckBox::indicator { width: 16px; height: 16px; image: url(:/assets/check-off.svg); }
-QCheckBox::indicator:hover { image: url(:/assets/check-off-lit.svg); }
-QCheckBox::indicator:focus { image: url(:/assets/check-off-focus.svg); }
-QCheckBox::indicator:checked { image: url(:/assets/check-on.svg); }
-QCheckBox::indicator:checked:focus { image: url(:/assets/check-on-focus.svg); }
-QCheckBox::indicator:disabled { image: url(:/assets/check-off-disabled.svg); }
-QCheckBox::indicator:checked:disabled { image: url(:/assets/check-on-disabled.svg); }
+QCheckBox::indicator { width: 16px; height: 16px; }
 QPushButton {
   background: %buttonGround; color: %ink; border: 1px solid %buttonEdge;
   border-radius: %fieldRadius; padding: 4px 14px; min-width: 46px;
@@ -152,7 +147,7 @@ QString SheetOf(const Style& style) {
 
 void ApplyStyle(QApplication& application) {
     const Style& style = TheStyle();
-    QApplication::setStyle(QStringLiteral("Fusion"));
+    QApplication::setStyle(new CheckBoxStyle);
     QApplication::setPalette(PaletteOf(style));
     QApplication::setFont(style.text);
     application.setStyleSheet(SheetOf(style));

@@ -4,6 +4,7 @@
 #include "analysis/DayFigures.h"
 #include "analysis/LoggedSums.h"
 #include "analysis/ui/ucDaily.h"
+#include "drawing/Style.h"
 #include "model/User.h"
 
 #include <QPainter>
@@ -43,6 +44,16 @@ TEST_F(DayPictureTest, BarsOnAnyPainterEqualThoseOfThePanel) {
     Eat({{"Calories", 1500}, {"Iron", 800}, {"Zinc", 12.34}, {"VitaminA", 100}}, Day);
     ShowDay();
     EXPECT_EQ(Painted(&DayPicture::PaintBars), Rows());
+}
+
+TEST_F(DayPictureTest, APageHasLightBarsAfterADarkScreenHasShownDarkOnes) {
+    Eat({{"Calories", 1500}}, Day);
+    ShowDay();
+    const QImage light = Painted(&DayPicture::PaintBars);
+    UseStyle(StyleKind::Dark);
+    EXPECT_NE(Painted(&DayPicture::PaintBars), light);
+    UseStyle(StyleKind::Light);
+    EXPECT_EQ(Painted(&DayPicture::PaintBars), light);
 }
 
 TEST_F(DayPictureTest, ValuesOnAnyPainterEqualThoseOfThePanel) {

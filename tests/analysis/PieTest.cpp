@@ -1,5 +1,6 @@
 #include "analysis/charts/Pie.h"
 #include "analysis/ui/PieChart.h"
+#include "drawing/Contrast.h"
 #include "drawing/Style.h"
 #include "support/HalvaneTest.h"
 #include "toolkit/ucAALBL.h"
@@ -105,6 +106,18 @@ TEST_F(PieTest, WhatIsPaintedHasALineBetweenTheSectorsAndAroundThem) {
         EXPECT_LT(darkestAround(border, 0.6), 140) << border;
     for (const double within : {12.0, 37.0, 75.0})
         EXPECT_LT(darkestAround(within, 47.9 / 48), 170) << within;
+}
+
+/// In the light style the colours are fixed.
+TEST_F(PieTest, InDarkStylesSectorsAreSeenOnTheirGroundAndBesideEachOther) {
+    for (const StyleKind kind : {StyleKind::Dark, StyleKind::HighContrast}) {
+        UseStyle(kind);
+        for (const QColor& sector : Pie(Small()).ShownColours()) {
+            EXPECT_GE(Contrast(sector, TheStyle().paper), 3) << sector.name().toStdString();
+            EXPECT_GE(Contrast(sector, TheStyle().pieEdge), 3) << sector.name().toStdString();
+        }
+    }
+    UseStyle(StyleKind::Light);
 }
 
 TEST_F(PieTest, AFurtherOverlayBlendsAgain) {

@@ -1,4 +1,6 @@
 #include "drawing/Pictures.h"
+
+#include "drawing/Style.h"
 #include "runtime/ScreenTable.h"
 #include "support/HalvaneTest.h"
 #include "support/Places.h"
@@ -47,6 +49,26 @@ TEST_F(PicturesTest, EveryPictureOfTheFolderIsCompiledInAndDraws) {
         ASSERT_TRUE(Pictures::Exists(name)) << name.toStdString();
         EXPECT_GT(InkedPixels(Pictures::Get(name, {24, 24}, Qt::black)), 5) << name.toStdString();
     }
+}
+
+TEST_F(PicturesTest, EveryColourThatAPictureNamesIsOneOfTheStyle) {
+    const QStringList files =
+        QDir(Places::Source(QStringLiteral("/assets"))).entryList({QStringLiteral("*.svg")});
+    for (const QString& file : files)
+        EXPECT_FALSE(Pictures::Source(file.chopped(4), Qt::black).contains('@'))
+            << file.toStdString();
+}
+
+TEST_F(PicturesTest, APictureThatWasDrawnTakesTheColoursOfTheNextStyle) {
+    const auto inked = [] {
+        return InkedPixels(Pictures::Get(QStringLiteral("food-mark"), {48, 48}),
+                           TheStyle().foodMark);
+    };
+    EXPECT_GT(inked(), 50);
+    UseStyle(StyleKind::Dark);
+    EXPECT_GT(inked(), 50);
+    UseStyle(StyleKind::Light);
+    EXPECT_GT(inked(), 50);
 }
 
 TEST_F(PicturesTest, CurrentColorTakesTheTint) {

@@ -2,7 +2,11 @@
 
 #include "drawing/Style.h"
 
+#include <QImage>
 #include <QPainter>
+
+#include <map>
+#include <utility>
 
 namespace {
 
@@ -15,10 +19,18 @@ QImage BarPicture(const QColor (&rows)[BarPainting::Height]) {
     return picture;
 }
 
+/// Drawn once for each style: on a dark screen, pages are still light.
+const QImage& KeptPicture(bool hilited) {
+    static std::map<std::pair<StyleKind, bool>, QImage> kept;
+    const Style& style = TheStyle();
+    QImage& picture = kept[{style.kind, hilited}];
+    if (picture.isNull())
+        picture = BarPicture(hilited ? style.barHover : style.barNormal);
+    return picture;
+}
+
 } // namespace
 
 void BarPainting::Paint(QPainter& painter, const QRect& place, bool hilited) {
-    static const QImage picBarGraph_Bars_N = BarPicture(TheStyle().barNormal);
-    static const QImage picBarGraph_Bars_R = BarPicture(TheStyle().barHover);
-    painter.drawImage(place, hilited ? picBarGraph_Bars_R : picBarGraph_Bars_N);
+    painter.drawImage(place, KeptPicture(hilited));
 }

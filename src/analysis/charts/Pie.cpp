@@ -75,7 +75,7 @@ void Pie::PaintOutlines(QPainter& painter) const {
     if (shares_.What() != EnergyShares::Content::Sectors)
         return;
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(TheStyle().gridDark);
+    painter.setPen(TheStyle().pieEdge);
     painter.setBrush(Qt::NoBrush);
     for (const EnergyShares::Sector& sector : shares_.Sectors())
         painter.drawPath(SectorPath(sector));

@@ -29,6 +29,7 @@ constexpr int TextMargin = 2;  ///< beside a date, free of lines
 constexpr int PointGrowth = 4; ///< a point is so much wider than its line
 constexpr int DotEdgeWidth = 3;
 constexpr int DotCoreWidth = 2;
+constexpr int MeanWidth = 3;
 
 // Pens.
 constexpr int FirstPass = 3;
@@ -70,10 +71,9 @@ void PaintLine(TwipsSurface& surface, const std::vector<PlotPoint>& points) {
 }
 
 void PaintMean(TwipsSurface& surface, const std::vector<PlotPoint>& mean) {
-    const Style::LinePen& pen = TheStyle().lineMean;
     for (size_t i = 1; i < mean.size(); ++i)
         surface.ThickLine(QPoint(mean[i - 1].x, mean[i - 1].y), QPoint(mean[i].x, mean[i].y),
-                          pen.colour, pen.width);
+                          TheStyle().lineMean, MeanWidth);
 }
 
 /// Lines do not cross the text of a date.

@@ -171,7 +171,7 @@ QString Weight(const ReportFigures& figures) {
         return head + Text("p", ReportText::NoWeight);
     const QString legend =
         Element("p", Swatch(TheStyle().ln[3].colour) + QLatin1String(ReportText::WeightOfDay)) +
-        Element("p", Swatch(TheStyle().lineMean.colour) + QLatin1String(ReportText::MeanWeight));
+        Element("p", Swatch(TheStyle().lineMean) + QLatin1String(ReportText::MeanWeight));
     QString facts;
     for (const ReportText::Line& line : ReportText::WeightLines(figures.weights))
         facts += Fact(line);

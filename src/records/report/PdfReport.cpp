@@ -135,7 +135,7 @@ void WriteWeightChart(Pages& pages, const WeightCurve& weights) {
     const Style& style = TheStyle();
     SideLines lines(painter, chart.width() + SideGap, pages.Width(), pages.Y());
     lines.AddWithSwatch({ReportText::WeightOfDay, {}}, style.ln[3].colour);
-    lines.AddWithSwatch({ReportText::MeanWeight, {}}, style.lineMean.colour);
+    lines.AddWithSwatch({ReportText::MeanWeight, {}}, style.lineMean);
     lines.Space(NoteSpace);
     for (const ReportText::Line& line : ReportText::WeightLines(weights))
         lines.Add(line);
