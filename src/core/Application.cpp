@@ -2,6 +2,7 @@
 
 #include "core/FailureText.h"
 #include "core/HeldRecords.h"
+#include "core/StyleChoice.h"
 #include "drawing/Pictures.h"
 #include "runtime/Seams.h"
 #include "store/Connection.h"
@@ -27,6 +28,7 @@ Application::Application(int& argc, char** argv)
     setDesktopFileName(QStringLiteral("halvane"));
     setQuitOnLastWindowClosed(false); // closing the frame runs QuitApp, and that ends the process
     setWindowIcon(QIcon(Pictures::Get(QStringLiteral("logo"), IconSize)));
+    UseStyle(StyleChoice::Wanted(palette()));
     ApplyStyle(*this);
     TheSeams().EndProcess = [this](int exitCode) { EndNow(exitCode); };
 }

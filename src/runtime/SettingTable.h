@@ -35,11 +35,11 @@ inline constexpr Setting FromEmail{"FROMEMAIL", "", "frmSend", "frmSend"};
 inline constexpr Setting ToEmail{"TOEMAIL", "", "frmSend", "frmSend"};
 inline constexpr Setting Snapshots{"SNAPSHOTS", "", "OwnSnapshots", "OwnSnapshots"};
 inline constexpr Setting Scale{"UISCALE", "100", "WindowScale", "WindowScale"};
+inline constexpr Setting Look{"UISTYLE", "DESKTOP", "StyleChoice", "StyleChoice"};
 
-inline constexpr const Setting* All[] = {&Fast,         &Agreement,     &DropShadows, &Left,
-                                         &Top,          &AutoRDI,       &Limit50,     &TipNumber,
-                                         &Installation, &ReportState,   &ReportMode,  &DailyMode,
-                                         &SearchCustom, &SearchRecipes, &SearchStock, &SearchString,
-                                         &Meal,         &FromEmail,     &ToEmail,     &Snapshots,
-                                         &Scale};
+inline constexpr const Setting* All[] = {
+    &Fast,         &Agreement,     &DropShadows,  &Left,         &Top,        &AutoRDI,
+    &Limit50,      &TipNumber,     &Installation, &ReportState,  &ReportMode, &DailyMode,
+    &SearchCustom, &SearchRecipes, &SearchStock,  &SearchString, &Meal,       &FromEmail,
+    &ToEmail,      &Snapshots,     &Scale,        &Look};
 } // namespace Settings

@@ -166,7 +166,7 @@ TEST_F(TabStopsTest, Profile) {
 }
 
 TEST_F(TabStopsTest, Preferences) {
-    WalkThroughDialog(frmPrefs(TheNavigation().Frame()), 6);
+    WalkThroughDialog(frmPrefs(TheNavigation().Frame()), 10);
 }
 
 TEST_F(TabStopsTest, FoodSearch) {

@@ -3,6 +3,7 @@
 #include "core/frmPrefs.h"
 #include "runtime/AppState.h"
 #include "runtime/Settings.h"
+#include "toolkit/ucRadio.h"
 
 #include <QCheckBox>
 #include <QLabel>
@@ -12,6 +13,7 @@ class frmPrefsTest : public CoreTest {
 protected:
     QCheckBox* Box(const char* name) { return Find<QCheckBox>(&*dialog_, QLatin1String(name)); }
     void Open() { dialog_ = std::make_unique<frmPrefs>(); }
+    ucRadio* Style(int i) { return Find<ucRadio>(&*dialog_, QStringLiteral("opStyle%1").arg(i)); }
     void Press(const char* name) { Click(Find(&*dialog_, QLatin1String(name))); }
     QString Stored(const char* name) { return GetRegValue(QLatin1String(name)); }
 
@@ -98,6 +100,26 @@ TEST_F(frmPrefsTest, TheShadowBoxHasNoEffect) {
     EXPECT_FALSE(Box("ckDrop")->isChecked());
 }
 
+TEST_F(frmPrefsTest, TheChosenStyleIsKept) {
+    Open();
+    EXPECT_TRUE(Style(0)->Value());
+    Click(Style(2));
+    EXPECT_FALSE(Style(0)->Value());
+    Press("cmdSave");
+    EXPECT_EQ(Stored("UISTYLE"), QStringLiteral("DARK"));
+    Open();
+    EXPECT_TRUE(Style(2)->Value());
+    QTest::keyClick(Style(2), Qt::Key_Space);
+    Press("cmdCancel");
+    EXPECT_EQ(Stored("UISTYLE"), QStringLiteral("DARK"));
+}
+
+TEST_F(frmPrefsTest, AStyleThatIsNotKnownCountsAsThatOfTheDesktop) {
+    SetRegValue(QStringLiteral("UISTYLE"), QStringLiteral("dark"));
+    Open();
+    EXPECT_TRUE(Style(0)->Value());
+}
+
 TEST_F(frmPrefsTest, CancelAndEscapeChangeNothing) {
     Open();
     dialog_->show();
@@ -113,18 +135,20 @@ TEST_F(frmPrefsTest, CancelAndEscapeChangeNothing) {
     EXPECT_FALSE(App().AppInfo.FAST);
 }
 
-TEST_F(frmPrefsTest, TabWalksTheBoxesThenSaveThenCancel) {
+TEST_F(frmPrefsTest, TabWalksTheBoxesThenTheStylesThenSaveThenCancel) {
     Open();
     dialog_->show();
     Activate(&*dialog_);
     Box("ckFast")->setFocus();
     QStringList names;
-    for (int step = 0; step < 6; ++step) {
+    for (int step = 0; step < 10; ++step) {
         names << QApplication::focusWidget()->objectName();
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
     }
-    const QStringList wanted{QStringLiteral("ckFast"),  QStringLiteral("ckLimit"),
-                             QStringLiteral("ckAUTO"),  QStringLiteral("ckDrop"),
-                             QStringLiteral("cmdSave"), QStringLiteral("cmdCancel")};
+    const QStringList wanted{QStringLiteral("ckFast"),   QStringLiteral("ckLimit"),
+                             QStringLiteral("ckAUTO"),   QStringLiteral("ckDrop"),
+                             QStringLiteral("opStyle0"), QStringLiteral("opStyle1"),
+                             QStringLiteral("opStyle2"), QStringLiteral("opStyle3"),
+                             QStringLiteral("cmdSave"),  QStringLiteral("cmdCancel")};
     EXPECT_EQ(names, wanted);
 }

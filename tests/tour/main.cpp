@@ -39,6 +39,15 @@ void TakeFont(QApplication& application, const QString& family) {
     ApplyStyle(application);
 }
 
+/// The style of the person who walks it does not count.
+void TakeStyle(QApplication& application, const QString& name) {
+    static const QHash<QString, StyleKind> kinds{
+        {QStringLiteral("dark"), StyleKind::Dark},
+        {QStringLiteral("contrast"), StyleKind::HighContrast}};
+    UseStyle(kinds.value(name, StyleKind::Light));
+    ApplyStyle(application);
+}
+
 int WalkStage(const QStringList& arguments) {
     Guide guide(arguments[1]);
     Walk walk(guide, arguments[2]);
@@ -53,7 +62,8 @@ int WalkStage(const QStringList& arguments) {
 /// of logged foods. Then it starts the program again and finds everything there. A friend with a
 /// folder of her own imports the recipe that was sent. At last it starts where no snapshot can be
 /// made, and with a damaged file. Pictures go to the folder PICTURES.
-/// TOUR_FONT in the environment names another font than the delivered one.
+/// TOUR_FONT in the environment names another font than the delivered one. TOUR_STYLE is "dark" or
+/// "contrast" for the tour in that style; otherwise it is light.
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     std::setvbuf(stdout, nullptr, _IOLBF, 0);
@@ -64,6 +74,7 @@ int main(int argc, char** argv) {
             qputenv(folder, fresh.path().toLocal8Bit());
     Application application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
+    TakeStyle(application, qEnvironmentVariable("TOUR_STYLE"));
     TakeFont(application, qEnvironmentVariable("TOUR_FONT"));
     const QStringList arguments = QCoreApplication::arguments();
     if (isStage)

@@ -5,6 +5,7 @@
 #include "runtime/Val.h"
 #include "toolkit/Labels.h"
 #include "toolkit/LineField.h"
+#include "toolkit/RadioGroup.h"
 #include "toolkit/ucBox.h"
 #include "toolkit/ucRadio.h"
 
@@ -96,15 +97,6 @@ void AddNote(QGridLayout* grid) {
     grid->addWidget(note, foot, 0, 1, LastColumn + 1, Qt::AlignBottom);
 }
 
-void Group(std::span<ucRadio* const> radios) {
-    for (ucRadio* chosen : radios)
-        QObject::connect(chosen, &ucRadio::Click, chosen, [radios, chosen] {
-            for (ucRadio* radio : radios)
-                if (radio != chosen)
-                    radio->SetValue(false);
-        });
-}
-
 void AddRadios(ucBox* box, const QString& stem, std::span<const Choice> choices,
                std::span<ucRadio*> radios) {
     auto* column = LayOut<QVBoxLayout>(box);
@@ -123,19 +115,7 @@ void AddRadios(ucBox* box, const QString& stem, std::span<const Choice> choices,
         column->addSpacing(TheStyle().boxGap);
     }
     column->addStretch();
-    Group(radios);
-}
-
-/// Any other number selects none.
-void Select(std::span<ucRadio* const> radios, qint32 chosen) {
-    for (size_t i = 0; i < radios.size(); ++i)
-        radios[i]->SetValue(qint32(i) == chosen);
-}
-
-/// -1 where none is selected.
-qint32 Selected(std::span<ucRadio* const> radios) {
-    const auto chosen = std::ranges::find_if(radios, &ucRadio::Value);
-    return chosen == radios.end() ? -1 : qint32(chosen - radios.begin());
+    RadioGroup::Join(radios);
 }
 } // namespace
 
@@ -195,8 +175,8 @@ void ProfileBasics::Show(const Profile& profile) {
     txtInches_->setText(DecimalText(profile.inches));
     txtWeight_->setText(DecimalText(profile.currentWeight));
     txtDWeight_->setText(DecimalText(profile.desiredWeight));
-    Select(opGender_, profile.gender);
-    Select(opAct_, profile.activityLevel);
+    RadioGroup::Select(opGender_, profile.gender);
+    RadioGroup::Select(opAct_, profile.activityLevel);
 }
 
 Profile ProfileBasics::Entered() const {
@@ -207,8 +187,8 @@ Profile ProfileBasics::Entered() const {
     entered.inches = Val(txtInches_->text());
     entered.currentWeight = Val(txtWeight_->text());
     entered.desiredWeight = Val(txtDWeight_->text());
-    entered.gender = Selected(opGender_);
-    entered.activityLevel = Selected(opAct_);
+    entered.gender = RadioGroup::Selected(opGender_);
+    entered.activityLevel = RadioGroup::Selected(opAct_);
     return entered;
 }
 

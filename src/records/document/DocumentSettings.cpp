@@ -8,10 +8,11 @@
 #include <vector>
 
 namespace {
-/// The place and the size of the window, the identifier that the exchange knows this installation
-/// by, and what was said of the snapshots.
-constexpr const Setting* OfTheMachine[] = {&Settings::Left, &Settings::Top, &Settings::Installation,
-                                           &Settings::Snapshots, &Settings::Scale};
+/// The place, the size and the style of the window, the identifier that the exchange knows this
+/// installation by, and what was said of the snapshots.
+constexpr const Setting* OfTheMachine[] = {&Settings::Left,         &Settings::Top,
+                                           &Settings::Installation, &Settings::Snapshots,
+                                           &Settings::Scale,        &Settings::Look};
 
 std::vector<QString> Names() {
     std::vector<QString> names;
