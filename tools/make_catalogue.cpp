@@ -2,7 +2,7 @@
 // release.
 #include "catalogue/Catalogue.h"
 #include "catalogue/CatalogueReport.h"
-#include "common/TextFile.h"
+#include "foods/delivery/WriteText.h"
 #include "foods/release/FoodSources.h"
 
 #include <QFile>

@@ -1,5 +1,5 @@
 // Makes users.mdb and foods.mdb from the delivered tables, or updates a folder that has them.
-#include "delivery/DeliveredDatabases.h"
+#include "foods/delivery/DeliveredDatabases.h"
 
 #include <QFile>
 

@@ -23,7 +23,7 @@ std::vector<std::string> Reversed(const QStringList& arguments) {
 void AddSharedOptions(CLI::App& program, Session& session) {
     program
         .add_option("--folder", session.folder,
-                    "The folder of the records; otherwise that of the program")
+                    "The folder of the records; otherwise your own")
         ->type_name("FOLDER");
     program
         .add_option("--profile", session.profile,

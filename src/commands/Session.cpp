@@ -1,7 +1,7 @@
 #include "commands/Session.h"
 
 #include "model/Profiles.h"
-#include "runtime/AppPath.h"
+#include "records/OwnRecords.h"
 #include "runtime/RuntimeError.h"
 
 #include <QJsonDocument>
@@ -21,7 +21,7 @@ Session::Session(std::ostream& out, std::ostream& error, std::istream* keyboard)
     , keyboard_(keyboard) {}
 
 RecordsFolder Session::Records() const {
-    return RecordsFolder(folder.empty() ? ApplicationPath() : QString::fromStdString(folder));
+    return folder.empty() ? OwnRecords().Ready() : RecordsFolder(QString::fromStdString(folder));
 }
 
 void Session::ChooseProfile() const {

@@ -28,7 +28,7 @@ public:
     /// `keyboard` is where a person can answer questions; null where nobody can.
     Session(std::ostream& out, std::ostream& error, std::istream* keyboard = nullptr);
 
-    std::string folder;  ///< of the records; empty: the program's own
+    std::string folder;  ///< of the records; empty: those of the person who runs the program
     std::string profile; ///< name or key of a person; empty: the first one
     bool json = false;   ///< facts are printed as JSON
 

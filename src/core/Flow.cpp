@@ -12,6 +12,7 @@
 #include "core/frmWelcome.h"
 #include "drawing/Twips.h"
 #include "model/Profiles.h"
+#include "records/OwnRecords.h"
 #include "runtime/AppPath.h"
 #include "runtime/AppState.h"
 #include "runtime/RuntimeError.h"
@@ -33,18 +34,22 @@ struct Step {
 };
 
 bool TakeRecords() {
+    const OwnRecords records;
+    records.MakeFolder();
     HeldRecords::Take();
     OwnSnapshots::BeforeUpgrade();
+    if (HeldRecords::AreHeld())
+        records.Update();
     return true;
 }
 
 bool OpenUsers() {
-    UserDB().Open(FileBeside(QStringLiteral("users.mdb")), DatabaseKind::Users);
+    UserDB().Open(RecordsFolder(RecordsPath()).Users(), DatabaseKind::Users);
     return true;
 }
 
 bool OpenFoods() {
-    FoodDB().Open(FileBeside(QStringLiteral("foods.mdb")), DatabaseKind::Foods);
+    FoodDB().Open(RecordsFolder(RecordsPath()).Foods(), DatabaseKind::Foods);
     return true;
 }
 

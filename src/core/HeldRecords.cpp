@@ -25,7 +25,7 @@ bool IsHeldByAnotherWindow(const RecordsFolder& records) {
 } // namespace
 
 void HeldRecords::Take() {
-    const RecordsFolder records(ApplicationPath());
+    const RecordsFolder records(RecordsPath());
     const QDeadlineTimer patience(Patience);
     while (!Lock() && !IsHeldByAnotherWindow(records)) {
         try {
@@ -36,6 +36,10 @@ void HeldRecords::Take() {
             QThread::msleep(Pause);
         }
     }
+}
+
+bool HeldRecords::AreHeld() {
+    return Lock().has_value();
 }
 
 void HeldRecords::Release() {

@@ -55,7 +55,7 @@ OwnSnapshots::~OwnSnapshots() {
 
 void OwnSnapshots::BeforeUpgrade() {
     FailureBeforeUpgrade() =
-        FailureIn([] { UpgradeSnapshot::MakeIfNeeded(RecordsFolder(ApplicationPath())); });
+        FailureIn([] { UpgradeSnapshot::MakeIfNeeded(RecordsFolder(RecordsPath())); });
 }
 
 bool OwnSnapshots::eventFilter(QObject* watched, QEvent* event) {
@@ -68,7 +68,7 @@ bool OwnSnapshots::eventFilter(QObject* watched, QEvent* event) {
 
 void OwnSnapshots::Start() {
     const auto failure = std::make_shared<QString>(FailureBeforeUpgrade());
-    const RecordsFolder records(ApplicationPath());
+    const RecordsFolder records(RecordsPath());
     thread_.reset(QThread::create([failure, records] {
         const QString ofTheDay = FailureIn([&] { MakeOfTheDay(records); });
         if (failure->isEmpty())

@@ -48,7 +48,7 @@ bool IsForTheUser(int number) {
 /// How the user brings back a missing or damaged file. Empty for any other failure, or if there is
 /// no sound snapshot.
 QString Rescue(const RuntimeError* error) {
-    const RecordsFolder records(ApplicationPath());
+    const RecordsFolder records(RecordsPath());
     if (error == nullptr || IsForTheUser(error->Number()) ||
         !SoundRecords::MeansDamage(*error, records))
         return {};

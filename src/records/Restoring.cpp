@@ -41,6 +41,7 @@ Snapshot Restoring::Put(const Snapshot& snapshot, const Snapshot::Settings& sett
 Snapshot Restoring::PutChecked(const Snapshot& snapshot, const Snapshot::Settings& settings,
                                const QString& reason) {
     std::optional<Snapshot> kept;
+    ForgetDelivery();
     try {
         BringInOrder();
         kept = Keep(reason);
@@ -55,6 +56,12 @@ Snapshot Restoring::PutChecked(const Snapshot& snapshot, const Snapshot::Setting
     PutSettings(settings);
     Snapshots(records_).Prune();
     return *kept;
+}
+
+/// The stock foods of a snapshot may be older ones. The next start compares them.
+void Restoring::ForgetDelivery() const {
+    if (QFile::exists(records_.Delivery()))
+        Disk::Write(records_.Delivery(), {});
 }
 
 /// Takes in what a killed program left in a journal, and proves that the folder can be written.

@@ -20,6 +20,7 @@ public:
                         const QString& reason);
 
 private:
+    void ForgetDelivery() const;
     void BringInOrder() const;
     Snapshot Keep(const QString& reason) const;
     Snapshot KeepDamaged(const QString& reason) const;

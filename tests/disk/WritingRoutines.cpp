@@ -1,7 +1,7 @@
 #include "disk/WritingRoutines.h"
 
-#include "common/TsvTable.h"
-#include "delivery/DeliveredDatabases.h"
+#include "foods/delivery/TsvTable.h"
+#include "foods/delivery/DeliveredDatabases.h"
 #include "foods/CustomFoods.h"
 #include "foods/ScaledFood.h"
 #include "intake/DayLog.h"

@@ -3,7 +3,7 @@
 #include "durability/KilledWork.h"
 #include "durability/SmallRecords.h"
 
-#include "delivery/DeliveredDatabases.h"
+#include "foods/delivery/DeliveredDatabases.h"
 #include "records/RecordsFolder.h"
 #include "records/Restoring.h"
 #include "records/SnapshotMaking.h"

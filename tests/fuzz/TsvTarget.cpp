@@ -1,7 +1,7 @@
 #include "fuzz/Scratch.h"
 #include "fuzz/Target.h"
 
-#include "common/TsvTable.h"
+#include "foods/delivery/TsvTable.h"
 #include "runtime/Attempt.h"
 
 /// A table is refused, or it reads back the same after it was written.

@@ -1,5 +1,5 @@
-#include "delivery/DeliveredDatabases.h"
-#include "common/TsvTable.h"
+#include "foods/delivery/DeliveredDatabases.h"
+#include "foods/delivery/TsvTable.h"
 #include "runtime/RuntimeError.h"
 #include "store/Connection.h"
 #include "support/Places.h"
@@ -162,6 +162,28 @@ TEST_F(DeliveredDatabasesTest, UpdateReplacesStockFoodsAndLeavesCustomFoodsAlone
                   "SELECT FoodName || CAST(Calories AS INTEGER) FROM FOODS WHERE ID = 23509"),
               QStringLiteral("My soup77"));
     EXPECT_EQ(Ask(FoodsPath(), "SELECT COUNT(*) FROM FOODS"), QStringLiteral("7413"));
+}
+
+TEST_F(DeliveredDatabasesTest, UpdateLeavesAFileThatHoldsTheDeliveredFoodsAsItIs) {
+    CopyBuilt();
+    Change(FoodsPath(), "INSERT INTO FOODS (ID, FoodName, Calories) VALUES (23509, 'My soup', 77)");
+    const QByteArray before = Bytes(FoodsPath());
+    Update();
+    EXPECT_EQ(Bytes(FoodsPath()), before);
+}
+
+TEST_F(DeliveredDatabasesTest, UpdateSeesEveryChangeOfAStockFood) {
+    CopyBuilt();
+    for (const char* change :
+         {"UPDATE FOODS SET Zinc = NULL WHERE ID = 16096", "DELETE FROM FOODS WHERE ID = 16096",
+          "INSERT INTO FOODS (ID, FoodName) VALUES (5, 'Withdrawn')"}) {
+        Change(FoodsPath(), change);
+        Update();
+        EXPECT_EQ(Ask(FoodsPath(), "SELECT Zinc FROM FOODS WHERE ID = 16096"),
+                  Ask(Built("foods.mdb"), "SELECT Zinc FROM FOODS WHERE ID = 16096"))
+            << change;
+        EXPECT_EQ(Ask(FoodsPath(), "SELECT COUNT(*) FROM FOODS"), QStringLiteral("7412")) << change;
+    }
 }
 
 TEST_F(DeliveredDatabasesTest, UpdateNeverTouchesAnExistingUsersFile) {

@@ -1,7 +1,7 @@
 #include "foods/release/FoodSources.h"
 
 #include "Release.h"
-#include "common/TsvTable.h"
+#include "foods/delivery/TsvTable.h"
 #include "foods/release/FoodRelease.h"
 #include "support/Places.h"
 

@@ -1,5 +1,5 @@
 #include "Release.h"
-#include "common/TsvTable.h"
+#include "foods/delivery/TsvTable.h"
 #include "support/Places.h"
 
 #include <QFile>

@@ -61,6 +61,12 @@ TEST_F(InstallTest, EverythingStandsBesideTheProgram) {
         EXPECT_FALSE(file.contains(QStringLiteral(".mdb-"))) << file.toStdString();
 }
 
+TEST_F(InstallTest, WhatOnlyThePackagesHoldIsNotInTheFolder) {
+    Install();
+    for (const char* name : {"usr", "etc", "foods.tsv", "delivery.id"})
+        EXPECT_FALSE(QFileInfo::exists(folder_.filePath(QLatin1String(name)))) << name;
+}
+
 TEST_F(InstallTest, InstallingAgainLosesNothing) {
     Install();
     Change("users.mdb", "INSERT INTO profiles (UserName) VALUES ('Anna')");

@@ -1,4 +1,4 @@
-#include "common/TsvTable.h"
+#include "foods/delivery/TsvTable.h"
 #include "runtime/RuntimeError.h"
 
 #include <QFile>

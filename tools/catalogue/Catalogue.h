@@ -1,6 +1,6 @@
 #pragma once
 
-#include "common/TsvTable.h"
+#include "foods/delivery/TsvTable.h"
 #include "foods/release/FoodRelease.h"
 
 /// A stock food of the catalogue.

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "common/TsvTable.h"
+#include "foods/delivery/TsvTable.h"
 
 #include <QString>
 
@@ -14,8 +14,8 @@ public:
     void Build(const QString& folder) const;
 
     /// Updates a folder that is in use. A missing file is made. In an existing foods.mdb the stock
-    /// foods are replaced in one transaction, and custom foods stay. An existing users.mdb is not
-    /// touched.
+    /// foods are replaced in one transaction, and custom foods stay; if they are as delivered, the
+    /// file stays as it is. An existing users.mdb is not touched.
     void Update(const QString& folder) const;
 
 private:

@@ -1,4 +1,4 @@
-#include "common/TextFile.h"
+#include "foods/delivery/WriteText.h"
 
 #include "runtime/RuntimeError.h"
 

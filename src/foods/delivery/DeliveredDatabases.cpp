@@ -1,4 +1,4 @@
-#include "delivery/DeliveredDatabases.h"
+#include "foods/delivery/DeliveredDatabases.h"
 
 #include "runtime/RuntimeError.h"
 #include "store/Connection.h"
@@ -58,10 +58,31 @@ void MakeFile(const QString& path, DatabaseKind kind, const Fill& fill) {
         throw RuntimeError(ErrorNumber::FileNotFound, path + u" cannot be written");
 }
 
-void RemoveStockFoods(SQLite::Database& database) {
-    SQLite::Statement removal(database, "DELETE FROM FOODS WHERE ID <= ?");
-    removal.bind(1, Schema::LastStockFood);
-    removal.exec();
+/// The delivered foods in a table of this connection, with the column types of FOODS.
+void PutApart(SQLite::Database& database, const TsvTable& foods) {
+    database.exec("CREATE TEMP TABLE Delivered AS SELECT * FROM FOODS WHERE 0");
+    Insert(database, "Delivered", foods);
+}
+
+/// The stock foods of the file, or the delivered ones.
+std::string Rows(const TsvTable& foods, const std::string& table) {
+    return "SELECT " + foods.Columns().join(u',').toStdString() + " FROM " + table +
+           " WHERE ID <= " + std::to_string(Schema::LastStockFood);
+}
+
+bool HasOthers(SQLite::Database& database, const std::string& rows, const std::string& than) {
+    return database.execAndGet("SELECT EXISTS (" + rows + " EXCEPT " + than + ")").getInt() != 0;
+}
+
+/// Foods that are as delivered are not written again: the file stays as it is.
+void ReplaceStockFoods(SQLite::Database& database, const TsvTable& foods) {
+    PutApart(database, foods);
+    const std::string stock = Rows(foods, "FOODS");
+    const std::string delivered = Rows(foods, "Delivered");
+    if (!HasOthers(database, stock, delivered) && !HasOthers(database, delivered, stock))
+        return;
+    database.exec("DELETE FROM FOODS WHERE ID <= " + std::to_string(Schema::LastStockFood));
+    Insert(database, "FOODS", foods);
 }
 
 } // namespace
@@ -103,10 +124,8 @@ void DeliveredDatabases::MakeFoods(const QString& path) const {
 
 void DeliveredDatabases::UpdateFoods(const QString& path) const {
     const TsvTable foods = Table("foods.tsv");
-    InOneTransaction(path, DatabaseKind::Foods, [&](SQLite::Database& database) {
-        RemoveStockFoods(database);
-        Insert(database, "FOODS", foods);
-    });
+    InOneTransaction(path, DatabaseKind::Foods,
+                     [&](SQLite::Database& database) { ReplaceStockFoods(database, foods); });
 }
 
 TsvTable DeliveredDatabases::Table(const char* name) const {

@@ -1,6 +1,6 @@
-#include "common/TsvTable.h"
+#include "foods/delivery/TsvTable.h"
 
-#include "common/TextFile.h"
+#include "foods/delivery/WriteText.h"
 #include "runtime/RuntimeError.h"
 #include "runtime/TextLines.h"
 
