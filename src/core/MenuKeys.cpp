@@ -3,8 +3,8 @@
 #include "core/MenuLabel.h"
 #include "core/MenuPanel.h"
 #include "core/ucMenu.h"
+#include "toolkit/Accessible.h"
 
-#include <QAccessible>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QShortcut>
@@ -88,8 +88,7 @@ void MenuKeys::MoveHilite(int step) {
     MenuPanel* panel = bar_->Panel(bar_->Shown());
     MenuLabel* item = panel->Next(panel->Hilited(), step);
     panel->Hilite(item);
-    QAccessibleEvent told(item, QAccessible::Focus);
-    QAccessible::updateAccessibility(&told);
+    TellCurrent(item);
 }
 
 bool MenuKeys::OnOpenKey(int key) {

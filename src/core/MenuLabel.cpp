@@ -1,6 +1,8 @@
 #include "core/MenuLabel.h"
 
 #include "drawing/Style.h"
+#include "toolkit/Accessible.h"
+#include "toolkit/ControlInterface.h"
 
 #include <QMouseEvent>
 #include <QPainter>
@@ -12,6 +14,21 @@ constexpr int TitlePadding = 10;
 constexpr int TitleGap = 2;
 constexpr int ItemIndent = 16;
 constexpr int ItemRoom = 28; // right of the text
+
+/// A title says whether its panel is open.
+class LabelInterface : public ControlInterface {
+public:
+    using ControlInterface::ControlInterface;
+
+    QAccessible::State state() const override {
+        const auto* label = static_cast<MenuLabel*>(object());
+        QAccessible::State state = ControlInterface::state();
+        state.hasPopup = state.expandable = label->IsTitle();
+        state.expanded = label->IsTitle() && label->IsOpen();
+        state.collapsed = label->IsTitle() && !label->IsOpen();
+        return state;
+    }
+};
 
 } // namespace
 
@@ -32,8 +49,8 @@ QSize MenuLabel::sizeHint() const {
     return {ItemIndent + text + ItemRoom, TheStyle().rowHeight};
 }
 
-QAccessible::Role MenuLabel::AccessibleRole() const {
-    return kind_ == Kind::Title ? QAccessible::ButtonMenu : QAccessible::MenuItem;
+QAccessibleInterface* MenuLabel::MakeAccessible() {
+    return new LabelInterface(this);
 }
 
 void MenuLabel::SetHilited(bool hilited) {
@@ -48,6 +65,7 @@ void MenuLabel::SetOpen(bool open) {
         return;
     open_ = open;
     update();
+    TellExpanded(this);
 }
 
 void MenuLabel::mousePressEvent(QMouseEvent* event) {

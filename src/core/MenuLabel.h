@@ -20,7 +20,10 @@ public:
     void SetHilited(bool hilited);
     void SetOpen(bool open); ///< its panel is open
     QSize sizeHint() const final;
-    QAccessible::Role AccessibleRole() const override;
+    bool IsTitle() const { return kind_ == Kind::Title; }
+    bool IsOpen() const { return open_; }
+    QAccessible::Role AccessibleRole() const override { return QAccessible::MenuItem; }
+    QAccessibleInterface* MakeAccessible() override;
 
 protected:
     void paintEvent(QPaintEvent*) override;

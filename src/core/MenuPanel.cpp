@@ -3,6 +3,7 @@
 #include "core/MenuLabel.h"
 #include "drawing/DevicePixels.h"
 #include "drawing/Style.h"
+#include "toolkit/SpokenRole.h"
 
 #include <QMouseEvent>
 #include <QPainter>
@@ -16,6 +17,7 @@ constexpr int Padding = 4; // above the first and below the last item
 
 MenuPanel::MenuPanel(MenuItems::Menu menu, QWidget* parent)
     : QWidget(parent) {
+    SetSpokenRole(this, QAccessible::PopupMenu);
     setObjectName(QLatin1String(MenuItems::Titles()[menu].panel));
     setAccessibleName(QLatin1String(MenuItems::Titles()[menu].caption));
     setMouseTracking(true);

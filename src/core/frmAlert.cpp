@@ -9,6 +9,7 @@
 #include <QPainter>
 #include <QPointer>
 #include <QScrollArea>
+#include <QScrollBar>
 
 namespace {
 
@@ -47,13 +48,14 @@ void frmAlert::LayMessage(const QRect& place, const QString& message) {
     lblMSG->setContentsMargins(0, 0, place.width() - textWidth, 0);
     lblMSG->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     auto* area = new QScrollArea(this);
+    area->verticalScrollBar()->setAccessibleName(QStringLiteral("Scroll the message"));
     area->setFrameShape(QFrame::NoFrame);
     area->setWidgetResizable(true);
     area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     area->viewport()->setAutoFillBackground(false);
     area->setWidget(lblMSG);
     lblMSG->setAutoFillBackground(false);
-    area->setGeometry(place);
+    area->setGeometry(place.adjusted(-1, -1, 1, 1)); // its edge shows the focus
     const bool fits = lblMSG->heightForWidth(place.width()) <= place.height();
     area->setFocusPolicy(fits ? Qt::NoFocus : Qt::StrongFocus);
 }

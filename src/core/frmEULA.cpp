@@ -7,6 +7,7 @@
 #include "toolkit/ucButton.h"
 
 #include <QPlainTextEdit>
+#include <QScrollBar>
 
 namespace {
 
@@ -34,6 +35,7 @@ void frmEULA::LayText(const QRect& place) {
     auto* eu = new QPlainTextEdit(AgreementText(), this);
     eu->setObjectName(QStringLiteral("eu"));
     eu->setAccessibleName(QStringLiteral("License agreement"));
+    eu->verticalScrollBar()->setAccessibleName(QStringLiteral("Scroll the agreement"));
     eu->setReadOnly(true);
     eu->setTabChangesFocus(true);
     eu->setGeometry(place);

@@ -16,6 +16,7 @@
 #include "toolkit/Accessible.h"
 #include "toolkit/CleanUp.h"
 #include "toolkit/Labels.h"
+#include "toolkit/SpokenRole.h"
 #include "toolkit/ucAALBL.h"
 #include "toolkit/ucButtonA.h"
 #include "toolkit/ucTitleBar.h"
@@ -54,6 +55,7 @@ void Open(const ScreenRow& row) {
 frmHOME::frmHOME()
     : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint | Qt::WindowSystemMenuHint |
                            Qt::WindowMinimizeButtonHint) {
+    SetSpokenRole(this, QAccessible::Window);
     setObjectName(QStringLiteral("frmHOME"));
     setWindowTitle(QStringLiteral("Halvane"));
     setFixedSize(HomeSize);

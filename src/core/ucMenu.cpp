@@ -3,6 +3,7 @@
 #include "core/MenuKeys.h"
 #include "core/MenuLabel.h"
 #include "core/MenuPanel.h"
+#include "toolkit/SpokenRole.h"
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -16,7 +17,9 @@ constexpr int BarLeft = 8; // pixels
 
 ucMenu::ucMenu(QWidget* parent)
     : QWidget(parent) {
+    SetSpokenRole(this, QAccessible::MenuBar);
     setObjectName(QStringLiteral("ucMenu"));
+    setAccessibleName(QStringLiteral("Menus"));
     setMouseTracking(true);
     int left = BarLeft;
     for (int menu = 0; menu < MenuItems::MenuCount; ++menu) {

@@ -8,6 +8,11 @@ void TellNameChanged(QWidget* control) {
     QAccessible::updateAccessibility(&event);
 }
 
+void TellDescriptionChanged(QWidget* control) {
+    QAccessibleEvent event(control, QAccessible::DescriptionChanged);
+    QAccessible::updateAccessibility(&event);
+}
+
 void TellValueChanged(QWidget* control, int value) {
     QAccessibleValueChangeEvent event(control, value);
     QAccessible::updateAccessibility(&event);
@@ -29,6 +34,11 @@ void TellExpanded(QWidget* control) {
     QAccessible::State changed;
     changed.expanded = true;
     QAccessibleStateChangeEvent event(control, changed);
+    QAccessible::updateAccessibility(&event);
+}
+
+void TellCurrent(QWidget* part) {
+    QAccessibleEvent event(part, QAccessible::Focus);
     QAccessible::updateAccessibility(&event);
 }
 

@@ -57,6 +57,8 @@ QLineEdit:disabled, QPlainTextEdit:disabled {
 }
 ListBox { background: %paper; border: 2px solid %paper; outline: none; }
 ListBox:focus { border-color: %frame; }
+frmAlert QScrollArea { border: 1px solid %canvas; }
+frmAlert QScrollArea:focus { border-color: %frame; }
 QPrintPreviewWidget QGraphicsView { border: 2px solid %rule; }
 QPrintPreviewWidget QGraphicsView:focus { border-color: %frame; }
 ListBox:disabled { background: %canvas; border-color: %canvas; }

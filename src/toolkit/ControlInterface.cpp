@@ -1,5 +1,7 @@
 #include "toolkit/ControlInterface.h"
 
+#include <QApplication>
+
 #include <algorithm>
 #include <iterator>
 
@@ -7,8 +9,15 @@ ControlInterface::ControlInterface(SpokenControl* control)
     : QAccessibleWidget(control, control->AccessibleRole()) {}
 
 QString ControlInterface::text(QAccessible::Text kind) const {
-    QString own = QAccessibleWidget::text(kind);
-    if (kind != QAccessible::Name || !own.isEmpty())
+    if (kind == QAccessible::Name)
+        return Name();
+    const QString own = QAccessibleWidget::text(kind);
+    return kind == QAccessible::Description && own == Name() ? QString() : own;
+}
+
+QString ControlInterface::Name() const {
+    const QString own = QAccessibleWidget::text(QAccessible::Name);
+    if (!own.isEmpty())
         return own;
     const QString caption = object()->property("Caption").toString().trimmed();
     return caption.isEmpty() ? widget()->toolTip() : caption;
@@ -22,10 +31,20 @@ QStringList ControlInterface::actionNames() const {
 }
 
 void ControlInterface::doAction(const QString& name) {
-    if (name == pressAction() && widget()->isEnabled() && Presses())
-        static_cast<SpokenControl*>(object())->Activate();
-    else
-        QAccessibleWidget::doAction(name);
+    if (name != pressAction() || !Presses())
+        return QAccessibleWidget::doAction(name);
+    auto* control = static_cast<SpokenControl*>(object());
+    const auto press = [control] {
+        if (control->isEnabled())
+            control->Activate();
+    };
+    if (Reachable())
+        QMetaObject::invokeMethod(control, press, Qt::QueuedConnection);
+}
+
+bool ControlInterface::Reachable() const {
+    const QWidget* modal = QApplication::activeModalWidget();
+    return !modal || modal == widget()->window();
 }
 
 bool ControlInterface::Presses() const {

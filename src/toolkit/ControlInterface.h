@@ -5,8 +5,10 @@
 #include <QAccessibleWidget>
 
 /// What assistive tools see of a drawn control. Its name is `accessibleName`; if that is empty, the
-/// caption; if that is empty too, the tip. Its press action calls Activate. A control with a state
-/// or a value of its own derives from this class.
+/// caption; if that is empty too, the tip. Its description is the tip, unless that says the same.
+/// Its press action calls Activate, after the tool has got its answer: a press may open a dialog.
+/// A dialog keeps the windows below it from being pressed. A control with a state or a value of its
+/// own derives from this class.
 class ControlInterface : public QAccessibleWidget {
 public:
     explicit ControlInterface(SpokenControl* control);
@@ -16,5 +18,7 @@ public:
     void doAction(const QString& name) override;
 
 private:
+    QString Name() const;
     bool Presses() const;
+    bool Reachable() const;
 };

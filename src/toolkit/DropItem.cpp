@@ -2,12 +2,39 @@
 
 #include "drawing/SmoothedPrint.h"
 #include "drawing/Style.h"
+#include "toolkit/ControlInterface.h"
+#include "toolkit/DropPanel.h"
 
 #include <QFontMetricsF>
 #include <QMouseEvent>
 #include <QPainter>
 
-static constexpr int TextLeft = 7; // pixels
+namespace {
+
+constexpr int TextLeft = 7; // pixels
+
+/// It belongs to the list, whatever surfaces lie between.
+class ItemInterface : public ControlInterface {
+public:
+    using ControlInterface::ControlInterface;
+
+    QAccessibleInterface* parent() const override {
+        QWidget* above = widget()->parentWidget();
+        while (above && !qobject_cast<DropPanel*>(above))
+            above = above->parentWidget();
+        return QAccessible::queryAccessibleInterface(above);
+    }
+    QAccessible::State state() const override {
+        const auto* item = static_cast<DropItem*>(object());
+        QAccessible::State state = ControlInterface::state();
+        state.selectable = true;
+        state.selected = item->Chosen();
+        state.active = item->IsLit();
+        return state;
+    }
+};
+
+} // namespace
 
 DropItem::DropItem(const QString& caption, const QString& tag, QWidget* parent)
     : ListRow(parent)
@@ -21,6 +48,10 @@ void DropItem::SetLit(bool lit) {
     const Style& style = TheStyle();
     SetBackColor(lit ? style.listItemLit : style.listItem);
     SetForeColor(lit ? style.listItemLitText : style.listItemText);
+}
+
+QAccessibleInterface* DropItem::MakeAccessible() {
+    return new ItemInterface(this);
 }
 
 bool DropItem::IsLit() const {

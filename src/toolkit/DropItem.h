@@ -15,6 +15,9 @@ public:
     QString Tag() const { return tag_; } ///< the number in decimal
     void SetLit(bool lit);
     bool IsLit() const;
+    void SetChosen(bool chosen) { chosen_ = chosen; } ///< the closed list shows it
+    bool Chosen() const { return chosen_; }
+    QAccessibleInterface* MakeAccessible() override;
     QAccessible::Role AccessibleRole() const override { return QAccessible::ListItem; }
 
 protected:
@@ -26,4 +29,5 @@ protected:
 private:
     QString caption_;
     QString tag_;
+    bool chosen_ = false;
 };

@@ -4,6 +4,7 @@
 #include "drawing/Style.h"
 #include "drawing/Twips.h"
 #include "runtime/RuntimeError.h"
+#include "toolkit/ControlInterface.h"
 #include "toolkit/DropItem.h"
 
 #include <QApplication>
@@ -24,6 +25,32 @@ constexpr int SmallChange = 100;
 constexpr int GreatestMax = std::numeric_limits<qint16>::max();
 constexpr int FrameWidth = 1;
 
+/// Its children are the items, whatever surfaces lie between. It has the name of its drop-down.
+class ListInterface : public ControlInterface {
+public:
+    using ControlInterface::ControlInterface;
+
+    QString text(QAccessible::Text kind) const override {
+        return kind == QAccessible::Name ? parent()->text(kind) : QString();
+    }
+    int childCount() const override { return Panel()->Count(); }
+    QAccessibleInterface* child(int index) const override {
+        if (index < 0 || index >= childCount())
+            return nullptr;
+        return QAccessible::queryAccessibleInterface(
+            const_cast<DropItem*>(&Panel()->Item(index + 1)));
+    }
+    int indexOfChild(const QAccessibleInterface* child) const override {
+        for (int i = 0; i < childCount(); ++i)
+            if (&Panel()->Item(i + 1) == child->object())
+                return i;
+        return -1;
+    }
+
+private:
+    const DropPanel* Panel() const { return static_cast<const DropPanel*>(object()); }
+};
+
 QWidget* MakeSurface(QWidget* parent) {
     auto* surface = new QWidget(parent);
     surface->setMouseTracking(true);
@@ -33,7 +60,7 @@ QWidget* MakeSurface(QWidget* parent) {
 } // namespace
 
 DropPanel::DropPanel(QWidget* parent)
-    : QWidget(parent)
+    : DrawnControl(parent)
     , view_(MakeSurface(this))
     , picItemList_(MakeSurface(view_))
     , vsResults_(new QScrollBar(Qt::Vertical, this)) {
@@ -135,6 +162,15 @@ void DropPanel::Bring(int index) {
 void DropPanel::Hilite(int index) {
     for (int i = 1; i < int(items_.size()); ++i)
         items_[size_t(i)]->SetLit(i == index);
+}
+
+void DropPanel::Choose(int index) {
+    for (int i = 1; i < int(items_.size()); ++i)
+        items_[size_t(i)]->SetChosen(i == index);
+}
+
+QAccessibleInterface* DropPanel::MakeAccessible() {
+    return new ListInterface(this);
 }
 
 void DropPanel::resizeEvent(QResizeEvent*) {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QWidget>
+#include "toolkit/DrawnControl.h"
 
 #include <vector>
 
@@ -11,7 +11,7 @@ class QScrollBar;
 /// `lblItem1`, `lblItem2`, ... one below the other, and the scroll bar `vsResults`, shown if the
 /// list is longer than the panel. `lblItem0` stays hidden above the first item; new items take its
 /// size. Heights are in twips.
-class DropPanel : public QWidget {
+class DropPanel : public DrawnControl {
     Q_OBJECT
 
 public:
@@ -28,6 +28,9 @@ public:
     void SetPanelHeight(int height); ///< reduced if the items end earlier
     void Bring(int index);           ///< scrolls the item into view
     void Hilite(int index);          ///< lights only that item; 0 lights none
+    void Choose(int index);          ///< only that item; 0 chooses none
+    QAccessible::Role AccessibleRole() const override { return QAccessible::List; }
+    QAccessibleInterface* MakeAccessible() override;
 
 Q_SIGNALS:
     void Picked(int index);

@@ -60,6 +60,7 @@ ListBox::ListBox(QWidget* parent)
     setEditTriggers(NoEditTriggers);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollMode(ScrollPerPixel);
+    verticalScrollBar()->setAccessibleName(QStringLiteral("Scroll"));
     verticalScrollBar()->setSingleStep(TheStyle().rowHeight);
     setTabKeyNavigation(false);
     setMouseTracking(true);

@@ -2,6 +2,7 @@
 
 #include "drawing/Style.h"
 #include "toolkit/CleanUp.h"
+#include "toolkit/SpokenRole.h"
 #include "toolkit/ucBox.h"
 #include "toolkit/ucButton.h"
 
@@ -24,6 +25,7 @@ ScreenForm::ScreenForm(const ScreenRow& row, QWidget* parent)
 ScreenForm::ScreenForm(const QString& name, const QString& title, QWidget* parent)
     : QWidget(parent)
     , title_(title) {
+    SetSpokenRole(this, QAccessible::Pane);
     setObjectName(name);
     setWindowTitle(title);
     setAccessibleName(title);

@@ -19,7 +19,7 @@ public:
     explicit TitleControl(QWidget* parent = nullptr);
     ~TitleControl() override;
     bool Dragging() const { return dragging_; }
-    QAccessible::Role AccessibleRole() const override { return QAccessible::TitleBar; }
+    QAccessible::Role AccessibleRole() const override { return QAccessible::Heading; }
     QRect Outline() const { return outline_; } ///< the last one drawn; null before the first
 
 Q_SIGNALS:

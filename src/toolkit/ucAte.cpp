@@ -9,6 +9,8 @@
 #include "toolkit/PlainTip.h"
 #include "toolkit/ucButtonA.h"
 
+#include <QApplication>
+#include <QContextMenuEvent>
 #include <QFontMetrics>
 #include <QHelpEvent>
 #include <QKeyEvent>
@@ -76,7 +78,9 @@ void ucAte::SetID(const QString& id) {
 }
 
 QString ucAte::Caption() const {
-    return foodName_ + u", " + serv_ + u", " + qty_;
+    QStringList parts{foodName_, serv_, qty_};
+    parts.removeAll(QString());
+    return parts.join(QStringLiteral(", "));
 }
 
 QSize ucAte::sizeHint() const {
@@ -162,6 +166,14 @@ void ucAte::keyPressEvent(QKeyEvent* event) {
         Remove();
     else
         ListRow::keyPressEvent(event);
+}
+
+/// The context menu offers all that can be done with the food.
+void ucAte::Activate() {
+    imgTrash_->setFocus(Qt::OtherFocusReason);
+    QContextMenuEvent asked(QContextMenuEvent::Other, rect().center(),
+                            mapToGlobal(rect().center()));
+    QApplication::sendEvent(this, &asked);
 }
 
 void ucAte::Remove() {

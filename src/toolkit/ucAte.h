@@ -34,6 +34,7 @@ public:
     };
     Layout layoutRects() const;
     QSize sizeHint() const final;
+    void Activate() override; ///< opens its context menu
     QAccessible::Role AccessibleRole() const override { return QAccessible::ListItem; }
 
 Q_SIGNALS:

@@ -30,11 +30,18 @@ class ViewButtonInterface : public ControlInterface {
 public:
     using ControlInterface::ControlInterface;
 
+    QAccessible::Role role() const override {
+        return Button()->IsOneOfASet() ? QAccessible::RadioButton : QAccessible::Button;
+    }
     QAccessible::State state() const override {
         QAccessible::State state = ControlInterface::state();
-        state.pressed = static_cast<ucButtonA*>(object())->Chosen();
+        state.checkable = Button()->IsOneOfASet();
+        state.checked = Button()->Chosen();
         return state;
     }
+
+private:
+    ucButtonA* Button() const { return static_cast<ucButtonA*>(object()); }
 };
 
 } // namespace
@@ -85,6 +92,9 @@ QString ucButtonA::PictureShown() const {
 }
 
 void ucButtonA::SetChosen(bool chosen) {
+    oneOfASet_ = true;
+    if (chosen == chosen_)
+        return;
     chosen_ = chosen;
     update();
     TellChecked(this);

@@ -28,7 +28,8 @@ public:
     void Set_acToolTip(const QString& tip);
     QString Shown() const; ///< the picture that it shows now: "img_NORM", "img_ROLL" or "img_DOWN"
     bool Chosen() const { return chosen_; } ///< its view is the one that is shown; painted lit
-    void SetChosen(bool chosen);
+    void SetChosen(bool chosen);            ///< makes it one of a set, like a radio button
+    bool IsOneOfASet() const { return oneOfASet_; }
     void SetPictureSize(QSize size);
     void SetBordered(bool bordered);              ///< with a button's edge; off by default
     void SetCaptionBelow(const QString& caption); ///< navigation column: caption under the picture
@@ -67,5 +68,6 @@ private:
     QSize pictureSize_{24, 24};
     Image shown_ = Image::Normal;
     bool chosen_ = false;
+    bool oneOfASet_ = false;
     bool bordered_ = false;
 };

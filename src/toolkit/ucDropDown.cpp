@@ -9,6 +9,7 @@
 #include "toolkit/DropItem.h"
 #include "toolkit/DropPanel.h"
 #include "toolkit/Face.h"
+#include "toolkit/SpokenText.h"
 
 #include <QApplication>
 #include <QFontMetricsF>
@@ -32,11 +33,18 @@ QString WithoutLeadingBlanks(const QString& text) {
     return text.mid(first);
 }
 
-/// When the list is open, its items are children that can be pressed.
-class ListInterface : public ControlInterface {
+/// Its text is the selected item. Its child is the list of the items, which can be pressed while it
+/// is open.
+class DropDownInterface : public ControlInterface, public SpokenText {
 public:
     using ControlInterface::ControlInterface;
 
+    void* interface_cast(QAccessible::InterfaceType type) override {
+        if (type == QAccessible::TextInterface)
+            return static_cast<QAccessibleTextInterface*>(this);
+        return ControlInterface::interface_cast(type);
+    }
+    using SpokenText::text;
     QAccessible::State state() const override {
         QAccessible::State state = ControlInterface::state();
         state.expandable = true;
@@ -45,8 +53,11 @@ public:
         return state;
     }
     QString text(QAccessible::Text kind) const override {
-        return kind == QAccessible::Value ? List()->Text().trimmed() : ControlInterface::text(kind);
+        return kind == QAccessible::Value ? Spoken() : ControlInterface::text(kind);
     }
+
+protected:
+    QString Spoken() const override { return List()->Text().trimmed(); }
 
 private:
     ucDropDown* List() const { return static_cast<ucDropDown*>(object()); }
@@ -103,6 +114,7 @@ void ucDropDown::SetIndex(qint16 index) {
 void ucDropDown::Take(int index) {
     const DropItem& item = picBox_->Item(index);
     index_ = index;
+    picBox_->Choose(index);
     selectedID_ = ToInteger(item.Tag());
     SetText(item.Caption());
 }
@@ -169,7 +181,7 @@ ucDropDown::Layout ucDropDown::layoutRects() const {
 }
 
 QAccessibleInterface* ucDropDown::MakeAccessible() {
-    return new ListInterface(this);
+    return new DropDownInterface(this);
 }
 
 QSize ucDropDown::sizeHint() const {
@@ -267,7 +279,7 @@ void ucDropDown::keyPressEvent(QKeyEvent* event) {
     if (asked == 0)
         return DrawnControl::keyPressEvent(event);
     if (IsOpen()) {
-        picBox_->Hilite(asked);
+        Light(asked);
         picBox_->Bring(asked);
     } else if (asked != index_) {
         Pick(asked);
@@ -290,7 +302,13 @@ bool ucDropDown::OpensOrCloses(const QKeyEvent& key) {
 
 void ucDropDown::OpenByKey() {
     SetOpen(true);
-    picBox_->Hilite(index_);
+    Light(index_);
+}
+
+void ucDropDown::Light(int index) {
+    picBox_->Hilite(index);
+    if (index > 0)
+        TellCurrent(const_cast<DropItem*>(&picBox_->Item(index)));
 }
 
 int ucDropDown::Asked(const QKeyEvent& key) {

@@ -67,6 +67,7 @@ private:
     void Take(int index);
     void Pick(int index);
     void OpenByKey();
+    void Light(int index); ///< by key; 0 lights none
     bool OpensOrCloses(const QKeyEvent& key);
     int Asked(const QKeyEvent& key); ///< the item that the key leads to, 0 for none
     int AskedByWord(const QString& word) const;

@@ -716,7 +716,7 @@ TEST_F(ucCal_LGTest, AssistiveProgramsReadTheDayAndWhatIsLogged) {
         return QAccessible::queryAccessibleInterface(control)->text(QAccessible::Name);
     };
     EXPECT_EQ(name(Cell(5)), "March 5, food logged, weight logged");
-    EXPECT_EQ(name(Button()), "March 5, food logged, weight logged");
+    EXPECT_EQ(name(Button()), "March 5, food logged, weight logged, chosen");
     EXPECT_EQ(name(Cell(6)), "March 6, weight logged");
     EXPECT_EQ(name(Cell(7)), "March 7");
     EXPECT_EQ(name(Month()), "Month");
@@ -726,6 +726,7 @@ TEST_F(ucCal_LGTest, AssistiveProgramsReadTheDayAndWhatIsLogged) {
     QAccessibleInterface* day = QAccessible::queryAccessibleInterface(Cell(7));
     EXPECT_EQ(day->role(), QAccessible::Button);
     day->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    QCoreApplication::sendPostedEvents(Cell(7));
     EXPECT_EQ(calendar->Date(), QDate(2026, 3, 7));
 }
 

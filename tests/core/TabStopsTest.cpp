@@ -2,8 +2,12 @@
 
 #include "core/Navigation.h"
 #include "core/Screens.h"
+#include "core/frmAlert.h"
+#include "core/frmEULA.h"
 #include "core/frmHOME.h"
 #include "core/frmPrefs.h"
+#include "core/frmSplash.h"
+#include "core/frmWelcome.h"
 #include "foods/ui/frmFoodSearch.h"
 #include "foods/ui/frmNutInfo.h"
 #include "recipes/ui/frmImport.h"
@@ -13,8 +17,10 @@
 #include "runtime/Seams.h"
 #include "store/Connection.h"
 
+#include <QAbstractScrollArea>
 #include <QAccessible>
 #include <QApplication>
+#include <QScrollBar>
 #include <QTest>
 
 #include <SQLiteCpp/SQLiteCpp.h>
@@ -86,8 +92,12 @@ protected:
         actions.removeAll(QAccessibleActionInterface::setFocusAction());
         const bool usable = !actions.isEmpty() || spoken->valueInterface() ||
                             spoken->editableTextInterface() || spoken->tableInterface() ||
-                            spoken->state().editable;
+                            spoken->state().editable || Scrolls(stop);
         EXPECT_TRUE(usable) << NameOf(stop) << " does nothing";
+    }
+    static bool Scrolls(const QWidget* stop) {
+        const auto* area = qobject_cast<const QAbstractScrollArea*>(stop);
+        return area && area->verticalScrollBar()->maximum() > 0;
     }
     static void ExpectFocusShown(QWidget* stop) {
         const QImage with = stop->grab().toImage();
@@ -184,4 +194,33 @@ TEST_F(TabStopsTest, NutritionFacts) {
 TEST_F(TabStopsTest, ImportAndSend) {
     WalkThroughDialog(frmImport(TheNavigation().Frame()), 3);
     WalkThroughDialog(frmSend(1, TheNavigation().Frame()), 4);
+}
+
+TEST_F(TabStopsTest, Agreement) {
+    WriteFile("agreement.txt", "Please read this before you use Halvane.");
+    WalkThroughDialog(frmEULA(), 3);
+}
+
+TEST_F(TabStopsTest, Welcome) {
+    WalkThroughDialog(frmWelcome(), 1);
+}
+
+TEST_F(TabStopsTest, AMessageAndAQuestion) {
+    WalkThroughDialog(frmAlert("It is saved.", false, TheNavigation().Frame()), 1);
+    WalkThroughDialog(frmAlert("Are you sure?", true, TheNavigation().Frame()), 2);
+}
+
+TEST_F(TabStopsTest, AMessageThatMustBeScrolledIsAStopItself) {
+    WalkThroughDialog(frmAlert(QString("All of it. ").repeated(200), true, nullptr), 3);
+}
+
+/// Any key closes it, so nothing in it needs the focus.
+TEST_F(TabStopsTest, TheSplashHasNoStop) {
+    frmSplash splash;
+    splash.show();
+    Activate(&splash);
+    for (const QWidget* part : splash.findChildren<QWidget*>())
+        EXPECT_EQ(part->focusPolicy(), Qt::NoFocus) << NameOf(part);
+    QTest::keyClick(&splash, Qt::Key_Tab);
+    EXPECT_FALSE(splash.isVisible());
 }

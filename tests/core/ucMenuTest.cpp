@@ -496,14 +496,21 @@ TEST_F(ucMenuTest, TabClosesTheMenuAndGoesOn) {
 
 TEST_F(ucMenuTest, AssistiveToolsReadAndPressTitlesAndItems) {
     QAccessibleInterface* title = QAccessible::queryAccessibleInterface(Label("lblHelp"));
-    EXPECT_EQ(title->role(), QAccessible::ButtonMenu);
+    EXPECT_EQ(title->role(), QAccessible::MenuItem);
+    EXPECT_TRUE(title->state().hasPopup);
+    EXPECT_FALSE(title->state().expanded);
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(Label("lblHelp")->parentWidget())->role(),
+              QAccessible::MenuBar);
     EXPECT_EQ(title->text(QAccessible::Name), QStringLiteral("Help"));
     title->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    QCoreApplication::sendPostedEvents(Label("lblHelp"));
     EXPECT_EQ(Panels(), Names{"picHelp"});
+    EXPECT_TRUE(title->state().expanded);
     QAccessibleInterface* item = QAccessible::queryAccessibleInterface(Item(10));
     EXPECT_EQ(item->role(), QAccessible::MenuItem);
     EXPECT_EQ(item->text(QAccessible::Name), QStringLiteral("Contents"));
     item->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    QCoreApplication::sendPostedEvents(Item(10));
     EXPECT_EQ(opened.size(), 1);
     EXPECT_EQ(Panels(), none);
 }

@@ -2,6 +2,7 @@
 
 #include "foods/ui/ucFood.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QHelpEvent>
 #include <QKeyEvent>
@@ -128,6 +129,24 @@ TEST_F(UcFoodTest, QuantitiesStartAsOneAndTheTipsSayWhatToDo) {
     EXPECT_EQ(Field("txtQTY_A")->toolTip(), "Enter a quantity");
     EXPECT_EQ(Find(&row_, "cmdEAT_a")->toolTip(), "Click to add this food");
     EXPECT_EQ(Find(&row_, "imgInfo_W_B")->toolTip(), "Examine Food");
+}
+
+TEST_F(UcFoodTest, AssistiveToolsReadARowThatWasNeverSeenAndGoIntoIt) {
+    QWidget window;
+    auto* row = new ucFood(&window);
+    row->SetFoodName("Rye");
+    row->SetServA("1 slice");
+    row->SetServB(QString());
+    row->SetID("23509");
+    QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(row);
+    EXPECT_EQ(spoken->role(), QAccessible::ListItem);
+    EXPECT_EQ(spoken->text(QAccessible::Name), "Rye, custom food, 1 slice");
+    EXPECT_FALSE(row->Materialised());
+    window.show();
+    QApplication::setActiveWindow(&window);
+    spoken->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    QCoreApplication::sendPostedEvents(row);
+    EXPECT_EQ(QApplication::focusWidget()->accessibleName(), "Quantity of Rye, 1 slice");
 }
 
 TEST_F(UcFoodTest, EveryControlSaysWhatItIsFor) {

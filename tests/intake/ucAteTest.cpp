@@ -4,8 +4,10 @@
 #include "drawing/Style.h"
 #include "drawing/Twips.h"
 #include "runtime/RuntimeError.h"
+#include "toolkit/ContextMenu.h"
 #include "toolkit/ucButtonA.h"
 
+#include <QAccessible>
 #include <QFontMetricsF>
 #include <QSignalSpy>
 #include <QTest>
@@ -56,6 +58,22 @@ TEST_F(ucAteTest, NameIsTheTip) {
 TEST_F(ucAteTest, IsReadAsOneSentenceByAssistiveTools) {
     EXPECT_EQ(line.property("Caption"), "Oats, regular, 1 cup, (x 1.5)");
     EXPECT_EQ(line.imgTrash()->accessibleName(), "Remove Oats, regular");
+    line.SetServ(QString());
+    EXPECT_EQ(line.property("Caption"), "Oats, regular, (x 1.5)") << "nothing for what is missing";
+}
+
+TEST_F(ucAteTest, APressOfAnAssistiveToolAsksForTheMenuOfTheFood) {
+    QWidget owner;
+    auto* food = new ucAte(&owner);
+    QWidget* asked = nullptr;
+    const ContextMenu menu(&owner, [&asked](QMenu&, QWidget* target) { asked = target; });
+    owner.resize(400, 60);
+    food->resize(380, food->sizeHint().height());
+    owner.show();
+    QAccessible::queryAccessibleInterface(food)->actionInterface()->doAction(
+        QAccessibleActionInterface::pressAction());
+    QCoreApplication::sendPostedEvents(food);
+    EXPECT_EQ(asked, food);
 }
 
 TEST_F(ucAteTest, ClickOnTheTrashCanAsksForRemovalWithTheKeyAsANumber) {

@@ -458,6 +458,7 @@ TEST_F(ucMyFoodTest, HeadingIsAButtonToAssistiveTools) {
     EXPECT_EQ(heading->role(), QAccessible::Button);
     EXPECT_EQ(heading->text(QAccessible::Name), "Lunch");
     heading->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    QCoreApplication::sendPostedEvents(Heading("lblLunch"));
     ASSERT_EQ(asked.size(), 1);
     EXPECT_EQ(asked[0][0].toInt(), 1);
 }

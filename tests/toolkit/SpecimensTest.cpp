@@ -3,11 +3,14 @@
 #include "support/HalvaneTest.h"
 #include "toolkit/ApplyStyle.h"
 #include "toolkit/ucButton.h"
+#include "toolkit/ucButtonA.h"
 #include "toolkit/ucRadio.h"
 #include "toolkit/ucScroll.h"
 
 #include <QAccessible>
 #include <QApplication>
+#include <QDialog>
+#include <QSignalSpy>
 #include <QTest>
 #include <QWidget>
 
@@ -98,6 +101,7 @@ TEST_F(SpecimensTest, ControlsSayRoleStateAndValue) {
     EXPECT_EQ(spoken->role(), QAccessible::RadioButton);
     EXPECT_FALSE(spoken->state().checked);
     spoken->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    QCoreApplication::sendPostedEvents(&radio);
     EXPECT_TRUE(spoken->state().checked);
     ucScroll bar;
     bar.SetValue(7);
@@ -107,6 +111,38 @@ TEST_F(SpecimensTest, ControlsSayRoleStateAndValue) {
     EXPECT_EQ(spoken->valueInterface()->currentValue().toInt(), 7);
     spoken->valueInterface()->setCurrentValue(3);
     EXPECT_EQ(bar.Value(), 3);
+}
+
+TEST_F(SpecimensTest, AButtonOfASetSaysWhetherItIsChosenAndAnotherDoesNot) {
+    ucButtonA view;
+    view.SetPictures(QStringLiteral("view-bars"), QStringLiteral("Bars"));
+    QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(&view);
+    EXPECT_EQ(spoken->role(), QAccessible::Button);
+    EXPECT_FALSE(spoken->state().checkable);
+    EXPECT_EQ(spoken->text(QAccessible::Description), "") << "the tip says the same as the name";
+    view.SetChosen(false);
+    EXPECT_EQ(spoken->role(), QAccessible::RadioButton);
+    EXPECT_FALSE(spoken->state().checked);
+    view.SetChosen(true);
+    EXPECT_TRUE(spoken->state().checked);
+}
+
+TEST_F(SpecimensTest, AssistiveToolsPressNothingBelowADialog) {
+    const QString press = QAccessibleActionInterface::pressAction();
+    QWidget window;
+    ucButton button(QStringLiteral("Save"), &window);
+    QDialog dialog(&window);
+    dialog.setModal(true);
+    ucButton answer(QStringLiteral("OK"), &dialog);
+    QSignalSpy below(&button, &ucButton::Click);
+    QSignalSpy answered(&answer, &ucButton::Click);
+    window.show();
+    dialog.show();
+    for (ucButton* pressed : {&button, &answer})
+        QAccessible::queryAccessibleInterface(pressed)->actionInterface()->doAction(press);
+    QCoreApplication::sendPostedEvents();
+    EXPECT_EQ(below.count(), 0);
+    EXPECT_EQ(answered.count(), 1);
 }
 
 TEST_F(SpecimensTest, TheFocusRingShowsForTheKeyboardAndNotForTheMouse) {

@@ -562,15 +562,39 @@ TEST_F(ucDropDownTest, AssistiveToolsReadItOpenItAndPick) {
     EXPECT_TRUE(spoken->state().collapsed);
     const QString press = QAccessibleActionInterface::pressAction();
     spoken->actionInterface()->doAction(press);
+    EXPECT_FALSE(list.IsOpen()) << "the tool gets its answer first";
+    QCoreApplication::sendPostedEvents(&list);
     EXPECT_TRUE(list.IsOpen());
     EXPECT_TRUE(spoken->state().expanded);
     QAccessibleInterface* item = QAccessible::queryAccessibleInterface(Item(1));
     EXPECT_EQ(item->role(), QAccessible::ListItem);
     EXPECT_EQ(item->text(QAccessible::Name), "Item 1");
     item->actionInterface()->doAction(press);
+    QCoreApplication::sendPostedEvents(Item(1));
     EXPECT_EQ(list.SelectedID(), 100);
     EXPECT_FALSE(list.IsOpen());
     EXPECT_EQ(clicks.count(), 1);
+}
+
+TEST_F(ucDropDownTest, AssistiveToolsReadTheItemsAsAListWithTheChosenOne) {
+    Fill(3);
+    list.setAccessibleName("Month");
+    list.SetIndex(3);
+    QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(&list);
+    ASSERT_NE(spoken->textInterface(), nullptr);
+    EXPECT_EQ(spoken->textInterface()->text(0, spoken->textInterface()->characterCount()),
+              "Item 3");
+    ASSERT_EQ(spoken->childCount(), 1);
+    QAccessibleInterface* items = spoken->child(0);
+    EXPECT_EQ(items->role(), QAccessible::List);
+    EXPECT_EQ(items->text(QAccessible::Name), "Month");
+    ASSERT_EQ(items->childCount(), 3);
+    for (int i = 0; i < 3; ++i) {
+        EXPECT_EQ(items->child(i)->parent(), items);
+        EXPECT_EQ(items->indexOfChild(items->child(i)), i);
+        EXPECT_EQ(items->child(i)->state().selected, i == 2);
+    }
+    EXPECT_EQ(items->child(3), nullptr);
 }
 
 TEST_F(ucDropDownTest, CanBeReadAndDrivenThroughItsProperties) {

@@ -1,6 +1,7 @@
 #include "analysis/ui/ChartPiece.h"
 
 #include "analysis/ui/SpokenTable.h"
+#include "toolkit/Accessible.h"
 #include "toolkit/PlainTip.h"
 
 #include <QAccessibleWidget>
@@ -21,7 +22,7 @@ public:
         case QAccessible::Value:
             return piece->SpokenValue();
         case QAccessible::Description:
-            return role() == QAccessible::Chart ? piece->SpokenValue() : QString();
+            return piece->SpokenValue();
         default:
             return QAccessibleWidget::text(kind);
         }
@@ -44,10 +45,7 @@ ChartPiece::ChartPiece(QWidget* parent)
 }
 
 void ChartPiece::TellValueChanged() {
-    if (!QAccessible::isActive())
-        return;
-    QAccessibleValueChangeEvent change(this, SpokenValue());
-    QAccessible::updateAccessibility(&change);
+    TellDescriptionChanged(this);
 }
 
 bool ChartPiece::event(QEvent* event) {

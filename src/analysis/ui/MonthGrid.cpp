@@ -5,6 +5,7 @@
 #include "drawing/Twips.h"
 #include "runtime/Dates.h"
 #include "toolkit/PaintedPanel.h"
+#include "toolkit/SpokenRole.h"
 
 #include <QPainter>
 
@@ -30,6 +31,7 @@ protected:
 
 MonthGrid::MonthGrid(QWidget* parent)
     : QWidget(parent) {
+    SetSpokenRole(this, QAccessible::Grouping);
     setObjectName(QStringLiteral("picCalBG"));
     setMouseTracking(true);
     for (int column = 0; column < Columns; ++column) {

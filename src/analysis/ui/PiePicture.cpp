@@ -1,6 +1,7 @@
 #include "analysis/ui/PiePicture.h"
 
 #include "toolkit/PlainTip.h"
+#include "toolkit/SpokenRole.h"
 
 #include <QHelpEvent>
 #include <QPainter>
@@ -8,6 +9,7 @@
 PiePicture::PiePicture(PieForm form, QWidget* parent)
     : QWidget(parent)
     , pie_(form) {
+    SetSpokenRole(this, QAccessible::Graphic);
     setFixedSize(pie_.Form().size);
     setAttribute(Qt::WA_OpaquePaintEvent);
     setAccessibleName(QStringLiteral("Caloric breakdown"));

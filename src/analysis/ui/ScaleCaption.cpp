@@ -1,11 +1,13 @@
 #include "analysis/ui/ScaleCaption.h"
 
 #include "drawing/Style.h"
+#include "toolkit/SpokenRole.h"
 
 #include <QPainter>
 
 ScaleCaption::ScaleCaption(QWidget* parent)
     : QWidget(parent) {
+    SetSpokenRole(this, QAccessible::StaticText);
     setFont(TheStyle().small);
 }
 

@@ -209,7 +209,7 @@ void ucCal_LG::ShowIcons() {
         CellAt(day)->SetMarks(food[size_t(day)], weight[size_t(day)]);
         CellAt(day)->Name(Dates::MonthName(date_.month()));
     }
-    ucCalButton_->setAccessibleName(CellAt(date_.day())->accessibleName());
+    ucCalButton_->setAccessibleName(CellAt(date_.day())->accessibleName() + ", chosen");
     picCalBG_->setAccessibleName(aadate_->Caption());
 }
 

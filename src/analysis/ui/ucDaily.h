@@ -48,6 +48,7 @@ public:
     void AllOff(const QString& name); ///< resets every hover look except the named button's
     QSize sizeHint() const final;
     FigureTable Figures() const; ///< of the view that is shown
+    QAccessible::Role AccessibleRole() const override { return QAccessible::Grouping; }
     QAccessibleInterface* MakeAccessible() override;
 
 protected:

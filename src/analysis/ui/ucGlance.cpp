@@ -4,6 +4,7 @@
 #include "analysis/ui/PieChart.h"
 #include "drawing/Style.h"
 #include "runtime/Convert.h"
+#include "toolkit/SpokenRole.h"
 #include "toolkit/ucAALBL.h"
 
 namespace {
@@ -32,6 +33,7 @@ PieForm GlancePie() {
 
 ucGlance::ucGlance(QWidget* parent)
     : QWidget(parent) {
+    SetSpokenRole(this, QAccessible::Grouping);
     setAccessibleName(QStringLiteral("This month at a glance"));
     lblAvgCals_ = AddLine("lblAvgCals", QStringLiteral("Average daily calories:"), TheStyle().ink);
     Label1_ = AddLine("Label1", QStringLiteral("Caloric breakdown:"), TheStyle().quietInk);

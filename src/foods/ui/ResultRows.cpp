@@ -5,6 +5,7 @@
 #include "foods/FoodSearch.h"
 #include "foods/ui/ucFood.h"
 #include "toolkit/Labels.h"
+#include "toolkit/SpokenRole.h"
 #include "toolkit/ucScroll.h"
 
 #include <algorithm>
@@ -18,6 +19,8 @@ constexpr int BarAbove = 15; ///< the bar covers this much of the line around th
 ResultRows::ResultRows(QWidget* parent)
     : ScrollPane(parent)
     , predecessor_(this) {
+    SetSpokenRole(this, QAccessible::List);
+    setAccessibleName(QStringLiteral("Foods found"));
     BuildTemplate();
     BuildNoMatch();
     connect(this, &ScrollPane::Scrolled, this, &ResultRows::MaterialiseShown);

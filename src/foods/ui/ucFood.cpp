@@ -66,6 +66,19 @@ void ucFood::ShowSource() {
         SetFoodIcon(id_.toInt() > Schema::LastStockFood ? CustomPicture : FoodPicture);
 }
 
+QString ucFood::SourceName() const {
+    if (isRecipe_)
+        return QStringLiteral("recipe");
+    return FoodIcon() == CustomPicture ? QStringLiteral("custom food")
+                                       : QStringLiteral("standard food");
+}
+
+QString ucFood::Caption() const {
+    QStringList parts{foodName_, SourceName(), servA_, servB_};
+    parts.removeAll(QString());
+    return parts.join(QStringLiteral(", "));
+}
+
 void ucFood::SetRecipeMode(bool on) {
     recipeMode_ = on;
 }
@@ -170,6 +183,7 @@ void ucFood::RefreshHeading(const FoodRowLayout& layout) {
     aaFood_->SetLook({NameFont()}, ForeColor());
     lblQTY_->setGeometry(layout.lblQTY);
     imgFoodIcon_->setGeometry(layout.imgFoodIcon);
+    imgFoodIcon_->setAccessibleName(SourceName());
     imgFoodIcon_->setPixmap(Pictures::Get(FoodIcon(), layout.imgFoodIcon.size(), TheStyle().heading,
                                           devicePixelRatioF()));
     lblID_->setText(id_);

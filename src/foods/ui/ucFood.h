@@ -13,6 +13,7 @@ class ServingLine;
 /// texts. SetServB decides the height: without serving B the row ends at the top of txtQTY_B.
 class ucFood : public ListRow {
     Q_OBJECT
+    Q_PROPERTY(QString Caption READ Caption)
     Q_PROPERTY(QString FoodName READ FoodName WRITE SetFoodName)
     Q_PROPERTY(QString ServA READ ServA WRITE SetServA)
     Q_PROPERTY(QString ServB READ ServB WRITE SetServB)
@@ -37,8 +38,11 @@ public:
     void SetRecipeMode(bool on); ///< has no effect on the row
 
     FoodRowLayout layoutRects() const { return FoodRowLayout::Of(width()); }
-    void Materialise();   ///< makes the controls if they are missing
-    void FocusQuantity(); ///< of serving A
+    void Materialise();      ///< makes the controls if they are missing
+    void FocusQuantity();    ///< of serving A
+    QString Caption() const; ///< for assistive tools: the food, what it is, its servings
+    void Activate() override { FocusQuantity(); }
+    QAccessible::Role AccessibleRole() const override { return QAccessible::ListItem; }
     bool Materialised() const { return lines_[0]; }
     void Refresh() override; ///< updates the controls and repaints
 
@@ -61,6 +65,7 @@ protected:
 
 private:
     void ShowSource(); ///< sets the icon: stock food, custom food or recipe
+    QString SourceName() const;
     using Handler = void (ucFood::*)(qint32, const QString&, double, bool);
 
     QFont NameFont() const;

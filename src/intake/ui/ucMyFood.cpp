@@ -10,6 +10,7 @@
 #include "runtime/Format.h"
 #include "runtime/Seams.h"
 #include "toolkit/AtePane.h"
+#include "toolkit/SpokenRole.h"
 #include "toolkit/ucAte.h"
 #include "toolkit/ucButtonA.h"
 
@@ -31,6 +32,7 @@ constexpr int MostLinesLimited = 49; // with the template, 50 of the row array
 ucMyFood::ucMyFood(QWidget* parent)
     : AteList(0, parent)
     , lblStatus_(new ListNotice(this)) {
+    SetSpokenRole(this, QAccessible::List);
     setAccessibleName(QStringLiteral("Food intake"));
     for (size_t meal = 0; meal < headings_.size(); ++meal)
         headings_[meal] = AddHeading(static_cast<int>(meal));

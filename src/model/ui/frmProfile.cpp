@@ -10,6 +10,7 @@
 #include "runtime/Seams.h"
 #include "toolkit/CentreWindow.h"
 #include "toolkit/LeaveField.h"
+#include "toolkit/SpokenRole.h"
 #include "toolkit/ucButton.h"
 #include "toolkit/ucTitleFlat.h"
 
@@ -88,6 +89,7 @@ void frmProfile::CreateFirstUser() {
 void frmProfile::ShowModally() {
     setWindowFlags(Qt::Dialog | Qt::FramelessWindowHint);
     setWindowModality(Qt::ApplicationModal);
+    SetSpokenRole(this, QAccessible::Dialog);
     resize(FirstUserSize);
     CentreWindow(this);
     QEventLoop untilClosed;

@@ -4,6 +4,7 @@
 #include "drawing/Style.h"
 #include "recipes/RecipeBook.h"
 #include "toolkit/AtePane.h"
+#include "toolkit/SpokenRole.h"
 
 #include <QPainter>
 
@@ -11,6 +12,7 @@ static constexpr int Edge = 1;
 
 ucIngredients::ucIngredients(QWidget* parent)
     : AteList(Edge, parent) {
+    SetSpokenRole(this, QAccessible::List);
     setAccessibleName(QStringLiteral("Ingredients"));
     Pane()->SetFillsFrame(false);
     connect(Pane(), &AtePane::PaneMove, this, &ucIngredients::RaiseMouseMove);

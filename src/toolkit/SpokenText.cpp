@@ -1,0 +1,7 @@
+#include "toolkit/SpokenText.h"
+
+QString SpokenText::attributes(int, int* from, int* to) const {
+    *from = 0;
+    *to = characterCount();
+    return {};
+}
