@@ -15,6 +15,7 @@
 #include "toolkit/ucBox.h"
 
 #include <QLabel>
+#include <QTimer>
 
 namespace {
 
@@ -27,6 +28,8 @@ constexpr int HintLeft = 204; // right of the screen's title
 constexpr int HintTop = 11;
 constexpr int HintHeight = 24;
 constexpr int WeekLine = 22;
+
+constexpr int Minute = 60000; // milliseconds
 
 /// An earlier day counts as unset.
 constexpr int FirstYear = 1992, FirstMonth = 12, FirstDay = 1;
@@ -64,6 +67,7 @@ frmMain::frmMain(QWidget* parent)
     AddGlance();
     AddTip();
     AddWeekBox();
+    WatchTheDay();
     calendar_->getDate();
     AllOff(QString());
     tip_->SetTip(App().TipOfTheDay);
@@ -112,6 +116,14 @@ void frmMain::AddWeekBox() {
     }
 }
 
+void frmMain::WatchTheDay() {
+    auto* watch = new QTimer(this);
+    watch->setObjectName(QStringLiteral("tmrDay"));
+    watch->setTimerType(Qt::VeryCoarseTimer);
+    connect(watch, &QTimer::timeout, this, &frmMain::ShowToday);
+    watch->start(Minute);
+}
+
 void frmMain::resizeEvent(QResizeEvent*) {
     const Style& style = TheStyle();
     const int height = this->height() - BoxesTop - BoxesBottom;
@@ -128,11 +140,17 @@ void frmMain::resizeEvent(QResizeEvent*) {
 /// A new calendar opens on today, so the chosen day is printed beside it.
 void frmMain::DoWinInit() {
     calendar_->getDate();
+    ShowToday();
+    const QDate day = App().CurrentDate;
+    ShowMonth(QDate(day.year(), day.month(), 1), Dates::LastOfMonth(day));
+    tip_->SetTip(App().TipOfTheDay);
+}
+
+void frmMain::ShowToday() {
     const QDate day = App().CurrentDate;
     hint_->setText(day == Clock::Today() ? QStringLiteral("Click a day to add foods")
                                          : "Chosen day: " + FormatLongDate(day));
-    ShowMonth(QDate(day.year(), day.month(), 1), Dates::LastOfMonth(day));
-    tip_->SetTip(App().TipOfTheDay);
+    calendar_->PlaceToday();
 }
 
 /// The box names its month, because the chosen day may be in another month than the calendar shows.

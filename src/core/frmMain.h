@@ -31,6 +31,8 @@ private:
     void AddTip();
     void AddWeekBox();
 
+    void WatchTheDay();
+    void ShowToday(); ///< midnight may have passed while the screen is open
     void ShowMonth(QDate from, QDate to);
     void OpenDay(QDate day);
 

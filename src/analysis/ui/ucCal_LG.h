@@ -29,6 +29,7 @@ public:
 
     void getDate();      ///< shows the chosen day and its month anew
     void ShowDays();     ///< lays out the days of the month
+    void PlaceToday();   ///< marks today, if the month is shown
     void ShowIcons();    ///< reads what is logged in the month and shows its icons
     void ResetButtons(); ///< takes the hover look off the chosen day
     void picDay_Click(int index);
@@ -65,7 +66,6 @@ private:
     DayCell* CellAt(int day);
     void PlaceDays();
     void PlaceButton();
-    void PlaceToday();
     void PrintDay(DayCell* cell, const QString& text);
     void PaintLabels();
 
