@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 namespace {
 
@@ -48,6 +49,18 @@ MonthCalendar::MonthCalendar(QWidget* parent)
     setHeaderTextFormat(heads);
     for (const Qt::DayOfWeek weekend : {Qt::Saturday, Qt::Sunday})
         setWeekdayTextFormat(weekend, QTextCharFormat());
+    NameParts();
+}
+
+void MonthCalendar::NameParts() {
+    constexpr std::pair<const char*, const char*> names[] = {
+        {"qt_calendar_prevmonth", "Month before"},
+        {"qt_calendar_nextmonth", "Month after"},
+        {"qt_calendar_yearedit", "Year"},
+        {"qt_calendar_calendarview", "Days"}};
+    for (const auto& [part, name] : names)
+        if (auto* control = findChild<QWidget*>(QLatin1String(part)))
+            control->setAccessibleName(QLatin1String(name));
 }
 
 /// When the year's field closes, its focus must go to the days, or it would leave the calendar.

@@ -18,5 +18,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void NameParts(); ///< for assistive tools
+
     QSpinBox* yearField_;
 };
