@@ -8,7 +8,12 @@
 #include "model/Profiles.h"
 #include "recipes/RecipeBook.h"
 #include "runtime/AppState.h"
+#include "runtime/Clock.h"
+#include "runtime/Convert.h"
+#include "runtime/Dates.h"
+#include "runtime/Format.h"
 #include "runtime/Round.h"
+#include "runtime/RuntimeError.h"
 #include "store/Connection.h"
 #include "support/Places.h"
 
@@ -18,6 +23,8 @@
 #include <SQLiteCpp/SQLiteCpp.h>
 
 #include <gtest/gtest.h>
+
+#include <ctime>
 
 /// The delivered files and one person, without a window, a display or an application object.
 class KnowledgeTest : public ::testing::Test {
@@ -158,6 +165,61 @@ TEST_F(KnowledgeTest, AWeightOf0TakesTheEntryOfTheDayBack) {
     DayLog::SetWeight(day_, 0);
     EXPECT_EQ(DayLog::Weight(day_), 0);
     EXPECT_EQ(UserDB().Raw().execAndGet("SELECT count(*) FROM USER_WEIGHTS").getInt(), 1);
+}
+
+/// In some zones a day begins at one o'clock, because its first hour is left out.
+TEST_F(KnowledgeTest, AFoodBelongsToItsDayInEveryZoneAlsoWhereClocksChange) {
+    const ScaledFood food = ScaledFood::FromCatalogue(StockFood, "A", 1);
+    for (const QDate day :
+         {QDate(2026, 12, 31), QDate(2027, 1, 1), QDate(2028, 2, 29), QDate(2026, 3, 8),
+          QDate(2026, 3, 29), QDate(2026, 4, 5), QDate(2026, 4, 24), QDate(2026, 9, 6),
+          QDate(2026, 10, 25), QDate(2026, 11, 1), QDate(2018, 11, 4), QDate(2021, 3, 22)}) {
+        const QString text = day.toString(Qt::ISODate);
+        DayLog::AddFood(food, Meals::Names[Lunch], day);
+        DayLog::SetWeight(day, 150.5);
+        EXPECT_TRUE(LoggedSums::OfDay(day)) << text.toStdString();
+        EXPECT_FALSE(LoggedSums::OfDay(day.addDays(-1))) << text.toStdString();
+        EXPECT_FALSE(LoggedSums::OfDay(day.addDays(1))) << text.toStdString();
+        EXPECT_EQ(DayLog::Weight(day), 150.5) << text.toStdString();
+        EXPECT_EQ(UserDB().Raw().execAndGet("SELECT UDate FROM USER_FOODS").getString(),
+                  text.toStdString());
+        EXPECT_EQ(Dates::Parse(FormatShortDate(day)), day) << text.toStdString();
+        EXPECT_TRUE(FormatLongDate(day).startsWith(Dates::WeekdayName(Dates::Weekday(day))));
+        DayLog::RemoveFood(DayLog::FoodsOf(Lunch, day).at(0).RecID);
+    }
+}
+
+TEST_F(KnowledgeTest, AFoodIsFoundInEveryLocaleInCapitalsToo) {
+    for (const char* words : {"milk fluid", "MILK FLUID", "Milk FLUID"})
+        EXPECT_GT(FoodSearch::Find(SearchTerms(words), {false, false, true}).Count(), 5) << words;
+}
+
+TEST(Figures, AreReadAsTheyAreShownInEveryLocale) {
+    for (const double value : {0.0, 0.5, 1.25, 99.99, 999.0, 1234.0, 1234567.0, -42.0}) {
+        EXPECT_EQ(ToDouble(DecimalText(value)), value);
+        EXPECT_DOUBLE_EQ(PlainNumber(Format(value, NumberMask::UpToTwoDecimals)).toDouble(), value);
+    }
+    EXPECT_EQ(PlainNumber(Format(1234567, NumberMask::Thousands)), "1234567");
+}
+
+TEST(Figures, ACommaIsRefusedAndNeverSkipped) {
+    for (const QString& text : {QStringLiteral("1,5"), QStringLiteral("1.000,5")}) {
+        EXPECT_EQ(NumberOrZero(text), 0) << text.toStdString();
+        EXPECT_THROW(ToDouble(text), RuntimeError) << text.toStdString();
+    }
+}
+
+TEST(Today, IsTheDayOfTheZone) {
+    Clock::UseSystemClock();
+    const auto here = [] {
+        const std::time_t now = std::time(nullptr);
+        std::tm local{};
+        localtime_r(&now, &local);
+        return QDate(local.tm_year + 1900, local.tm_mon + 1, local.tm_mday);
+    };
+    const QDate before = here();
+    const QDate today = Clock::Today();
+    EXPECT_TRUE(today == before || today == here()) << "or midnight has just passed";
 }
 
 TEST(Quantities, AreLoggedUpTo99AndExaminedBeyond) {

@@ -102,7 +102,9 @@ void KeyWalk::LookAtMenus() {
 }
 
 void KeyWalk::CopyAFood() {
-    const QString tomorrow = FormatShortDate(Clock::Today().addDays(1));
+    const QDate next = Clock::Today().addDays(1);
+    const QString tomorrow = FormatShortDate(next);
+    const QString copied = Logged + " WHERE UDate = '" + next.toString(Qt::ISODate) + u'\'';
     const QString food =
         guide_.Find(Day(), QStringLiteral("ucAte1"))->property("FoodName").toString();
     FocusFood("ucAte1");
@@ -112,10 +114,10 @@ void KeyWalk::CopyAFood() {
     Press(Qt::Key_Right);
     Press(Qt::Key_Return);
     guide_.Picture(Frame(), QStringLiteral("copied"));
-    guide_.CheckValue(UserDB(), Logged + " WHERE UDate = '2026-11-22'", 1);
+    guide_.CheckValue(UserDB(), copied, 1);
     Press(Qt::Key_Z, Qt::ControlModifier);
     guide_.Picture(Frame(), QStringLiteral("copy-taken-back"));
-    guide_.CheckValue(UserDB(), Logged + " WHERE UDate = '2026-11-22'", 0);
+    guide_.CheckValue(UserDB(), copied, 0);
     const auto* status = guide_.Find<QLabel>(Day(), QStringLiteral("lblStatus"));
     guide_.Check(status->text().startsWith(QString("Took back the copy on " + tomorrow)) &&
                      status->text().contains(food.left(10)),

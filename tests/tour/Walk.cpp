@@ -16,6 +16,7 @@
 #include "runtime/AppPath.h"
 #include "runtime/AppState.h"
 #include "runtime/Clock.h"
+#include "runtime/Dates.h"
 #include "store/Connection.h"
 
 #include <QApplication>
@@ -50,7 +51,12 @@ const Walk::Bite Walk::Meals[] = {
 
 namespace {
 const QString Delivered = QStringLiteral(HALVANE_BUILD_DIR "/delivered/");
-const QDate ThatDay(2026, 11, 21);
+
+/// 11/21/2026, unless the environment names another day.
+QDate ThatDay() {
+    const QDate named = Dates::Parse(qEnvironmentVariable("TOUR_DAY"));
+    return named.isValid() ? named : QDate(2026, 11, 21);
+}
 
 } // namespace
 
@@ -91,7 +97,7 @@ void Walk::Go() {
 void Walk::UseFolder() {
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, folder_);
     SetApplicationPath(folder_);
-    Clock::SetToday(ThatDay);
+    Clock::SetToday(ThatDay());
 }
 
 void Walk::Start() {
@@ -176,7 +182,7 @@ void Walk::WeighIn() {
     QTest::keyClick(guide_.Find<QWidget>(Day(), QStringLiteral("txtWeight")), Qt::Key_Tab);
     guide_.Settle();
     guide_.CheckValue(UserDB(), QStringLiteral("SELECT UDate || ' ' || Weight FROM USER_WEIGHTS"),
-                      QStringLiteral("2026-11-21 198.5"));
+                      QString(ThatDay().toString(Qt::ISODate) + " 198.5"));
     guide_.CheckValue(UserDB(), QStringLiteral("SELECT current_weight FROM profiles"), 198);
 }
 
@@ -304,12 +310,12 @@ void Walk::ChangeDay() {
     guide_.Press(day, QStringLiteral("cmdCal"));
     guide_.Picture(frame, QStringLiteral("day-calendar"));
     auto* calendar = guide_.Find<QCalendarWidget>(day, QStringLiteral("smCal"));
-    Q_EMIT calendar->clicked(ThatDay.addDays(-1));
+    Q_EMIT calendar->clicked(ThatDay().addDays(-1));
     guide_.Settle();
     guide_.Picture(frame, QStringLiteral("day-before"));
-    guide_.Check(App().CurrentDate == ThatDay.addDays(-1),
+    guide_.Check(App().CurrentDate == ThatDay().addDays(-1),
                  QStringLiteral("the day before is chosen"));
-    Q_EMIT calendar->clicked(ThatDay);
+    Q_EMIT calendar->clicked(ThatDay());
     guide_.Settle();
 }
 

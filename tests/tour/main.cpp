@@ -62,8 +62,9 @@ int WalkStage(const QStringList& arguments) {
 /// of logged foods. Then it starts the program again and finds everything there. A friend with a
 /// folder of her own imports the recipe that was sent. At last it starts where no snapshot can be
 /// made, and with a damaged file. Pictures go to the folder PICTURES.
-/// TOUR_FONT in the environment names another font than the delivered one. TOUR_STYLE is "dark" or
-/// "contrast" for the tour in that style; otherwise it is light.
+/// In the environment, TOUR_FONT names another font than the delivered one and TOUR_DAY another
+/// day. TOUR_STYLE is "dark" or "contrast" for the tour in that style; otherwise it is light. Locale
+/// and time zone are those of the environment, too.
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     std::setvbuf(stdout, nullptr, _IOLBF, 0);
