@@ -5,9 +5,9 @@
 #include <SQLiteCpp/SQLiteCpp.h>
 
 namespace {
-void FillNames(SQLite::Database& database, const char* sql) {
+void FillNames(SQLite::Database& database, const char* sql, int rows) {
     SQLite::Statement insert(database, sql);
-    for (int i = 0; i < RecipeGround::ManyRows; ++i) {
+    for (int i = 0; i < rows; ++i) {
         insert.bind(1, (i % 3 ? "Bean stew " : "Lentil soup ") + std::to_string(i));
         insert.exec();
         insert.reset();
@@ -26,15 +26,18 @@ void FillIngredients() {
 }
 } // namespace
 
-RecipeGround::RecipeGround()
+RecipeGround::RecipeGround(int rows)
     : Ground(false) {
     SQLite::Transaction users(UserDB().Raw());
     SQLite::Transaction foods(FoodDB().Raw());
-    FillNames(UserDB().Raw(), "INSERT INTO Recipes (RecipeName, ServingName, RecipeYield, "
-                              "Instructions, PrepTime) VALUES (?1, '1 bowl', 4, ?1, 30)");
+    FillNames(UserDB().Raw(),
+              "INSERT INTO Recipes (RecipeName, ServingName, RecipeYield, "
+              "Instructions, PrepTime) VALUES (?1, '1 bowl', 4, ?1, 30)",
+              rows);
     FillNames(FoodDB().Raw(),
               "INSERT INTO FOODS (ID, FoodName, Serv_Desc_A, Serv_Desc_B, Serv_GM_WT_A) "
-              "SELECT max(ID) + 1, ?1, '1 cup', '', 100 FROM FOODS");
+              "SELECT max(ID) + 1, ?1, '1 cup', '', 100 FROM FOODS",
+              rows);
     FillIngredients();
     users.commit();
     foods.commit();

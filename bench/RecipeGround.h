@@ -9,5 +9,5 @@ public:
     static constexpr int ManyRows = 5000;
     static constexpr int ManyIngredients = 100;
 
-    RecipeGround();
+    explicit RecipeGround(int rows = ManyRows);
 };

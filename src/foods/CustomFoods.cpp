@@ -15,9 +15,9 @@ QString FoodSQL(qint32 id) {
 } // namespace
 
 QList<NamedKey> CustomFoods::Names() {
-    Recordset foods(FoodDB(),
-                    QStringLiteral("SELECT * FROM foods WHERE ID > 23508 ORDER BY FoodName"));
-    return NamedRows::Sorted(foods, QStringLiteral("FoodName"), QStringLiteral("ID"));
+    Recordset foods(FoodDB(), QStringLiteral("SELECT FoodName, ID FROM foods WHERE ID > 23508 "
+                                             "ORDER BY FoodName"));
+    return NamedRows::Sorted(foods);
 }
 
 qint32 CustomFoods::HighestKey() {

@@ -50,8 +50,9 @@ QVariantList ValuesOf(const Recordset& row) {
 } // namespace
 
 QList<NamedKey> RecipeBook::Names() {
-    Recordset rows(UserDB(), QStringLiteral("SELECT  * FROM Recipes"));
-    return NamedRows::Sorted(rows, QStringLiteral("RecipeName"), QStringLiteral("RecipeID"));
+    Recordset rows(UserDB(), QStringLiteral("SELECT RecipeName, RecipeID FROM Recipes "
+                                            "ORDER BY RecipeID"));
+    return NamedRows::Sorted(rows);
 }
 
 RecipeTexts RecipeBook::Read(qint32 RecipeID) {

@@ -7,8 +7,6 @@
 #include <vector>
 
 namespace {
-using Letters = QList<uint>;
-
 bool IsPlain(QChar letter) {
     return letter.unicode() < 0x80;
 }
@@ -17,33 +15,37 @@ uint WithoutCase(QChar plain) {
     return plain >= u'A' && plain <= u'Z' ? plain.unicode() + (u'a' - u'A') : plain.unicode();
 }
 
-/// A name's letters without case. Most names hold plain letters alone: those take a fast path.
-Letters LettersOf(const QString& name) {
-    if (!std::ranges::all_of(name, IsPlain))
-        return name.toCaseFolded().normalized(QString::NormalizationForm_C).toUcs4();
-    Letters letters(name.size());
-    std::ranges::transform(name, letters.begin(), WithoutCase);
-    return letters;
+/// Visits a name's letters without case. Most names hold plain letters alone: those take a fast
+/// path.
+template <class Visit> void ForEachLetter(const QString& name, Visit visit) {
+    if (std::ranges::all_of(name, IsPlain))
+        for (const QChar letter : name)
+            visit(WithoutCase(letter));
+    else
+        for (const uint letter :
+             name.toCaseFolded().normalized(QString::NormalizationForm_C).toUcs4())
+            visit(letter);
 }
 
 /// Ranks letters as a collator orders them. Names are then compared rank by rank: for whole names a
 /// collator ranks accents last, so "Äpfel" would come before "apple".
 class LetterRanks {
 public:
-    void Add(const Letters& letters);
+    void Add(const QString& name);
     void Settle();
-    std::string KeyOf(const Letters& letters) const;
+    std::string KeyOf(const QString& name) const;
 
 private:
     std::vector<uint> ranks_; ///< by code point; until settled, 1 for a letter that occurs
+    int highestByte_ = 0;     ///< of a rank: how far it is shifted
 };
 
-void LetterRanks::Add(const Letters& letters) {
-    for (const uint letter : letters) {
+void LetterRanks::Add(const QString& name) {
+    ForEachLetter(name, [this](uint letter) {
         if (letter >= ranks_.size())
             ranks_.resize(letter + 1);
         ranks_[letter] = 1;
-    }
+    });
 }
 
 /// Letters that the collator takes for the same have one rank.
@@ -63,15 +65,18 @@ void LetterRanks::Settle() {
             ++rank;
         ranks_[letters[i].second] = rank;
     }
+    while ((rank >> highestByte_) > 0xFF)
+        highestByte_ += 8;
 }
 
-/// Three bytes for each rank, the high one first: keys compare byte by byte as the ranks do.
-std::string LetterRanks::KeyOf(const Letters& letters) const {
+/// Each rank in as many bytes as the highest one needs, the high byte first: keys compare byte by
+/// byte as the ranks do.
+std::string LetterRanks::KeyOf(const QString& name) const {
     std::string key;
-    key.reserve(static_cast<size_t>(letters.size()) * 3);
-    for (const uint letter : letters)
-        for (const int shift : {16, 8, 0})
+    ForEachLetter(name, [&](uint letter) {
+        for (int shift = highestByte_; shift >= 0; shift -= 8)
             key += static_cast<char>(ranks_[letter] >> shift);
+    });
     return key;
 }
 
@@ -83,14 +88,17 @@ struct Keyed {
 
 void NameOrder::Sort(QList<NamedKey>& keys) {
     LetterRanks ranks;
-    std::vector<Letters> letters;
     for (const NamedKey& key : std::as_const(keys))
-        ranks.Add(letters.emplace_back(LettersOf(key.name)));
+        ranks.Add(key.name);
     ranks.Settle();
     std::vector<Keyed> sorted;
-    for (auto name = letters.cbegin(); NamedKey & key : keys)
-        sorted.push_back({ranks.KeyOf(*name++), std::move(key)});
-    std::ranges::stable_sort(sorted, {}, &Keyed::order);
+    sorted.reserve(static_cast<size_t>(keys.size()));
+    for (NamedKey& key : keys) {
+        std::string order = ranks.KeyOf(key.name);
+        sorted.push_back({std::move(order), std::move(key)});
+    }
+    if (!std::ranges::is_sorted(sorted, {}, &Keyed::order))
+        std::ranges::stable_sort(sorted, {}, &Keyed::order);
     std::ranges::transform(sorted, keys.begin(),
                            [](Keyed& entry) { return std::move(entry.name); });
 }

@@ -2,13 +2,12 @@
 
 #include "store/Recordset.h"
 
-QList<NamedKey> NamedRows::Sorted(Recordset& rows, const QString& nameColumn,
-                                  const QString& keyColumn) {
+QList<NamedKey> NamedRows::Sorted(Recordset& rows) {
     QList<NamedKey> named;
     named.reserve(rows.RecordCount());
     for (; !rows.AtEnd(); rows.MoveNext())
-        if (rows[keyColumn].IsKey())
-            named.append({rows[nameColumn].Text(), rows[keyColumn].Integer()});
+        if (const Field key = rows[1]; key.IsKey())
+            named.append({rows[0].Text(), key.Integer()});
     NameOrder::Sort(named);
     return named;
 }

@@ -67,7 +67,7 @@ ListBox::ListBox(QWidget* parent)
 }
 
 void ListBox::Clear() {
-    lines_->Clear();
+    lines_->Set({});
 }
 
 void ListBox::AddItem(const QString& text, qint32 itemData) {
@@ -75,9 +75,7 @@ void ListBox::AddItem(const QString& text, qint32 itemData) {
 }
 
 void ListBox::SetLines(const QList<NamedKey>& lines) {
-    Clear();
-    for (const NamedKey& line : lines)
-        AddItem(line.name, line.key);
+    lines_->Set(lines);
 }
 
 int ListBox::ListCount() const {
@@ -107,13 +105,13 @@ QStringList ListBox::List() const {
 }
 
 QString ListBox::Text(int index) const {
-    const ListLines::Line* line = lines_->At(index);
-    return line ? line->text : QString();
+    const NamedKey* line = lines_->At(index);
+    return line ? line->name : QString();
 }
 
 qint32 ListBox::ItemData(int index) const {
-    const ListLines::Line* line = lines_->At(index);
-    return line ? line->itemData : 0;
+    const NamedKey* line = lines_->At(index);
+    return line ? line->key : 0;
 }
 
 int ListBox::LineOf(qint32 itemData) const {

@@ -1,19 +1,19 @@
 #include "toolkit/ListLines.h"
 
-void ListLines::Clear() {
+void ListLines::Set(const QList<NamedKey>& lines) {
     beginResetModel();
-    lines_.clear();
+    lines_ = lines;
     endResetModel();
 }
 
 void ListLines::Add(const QString& text, qint32 itemData) {
     beginInsertRows({}, Count(), Count());
-    lines_.push_back({text, itemData});
+    lines_.append({text, itemData});
     endInsertRows();
 }
 
-const ListLines::Line* ListLines::At(int index) const {
-    return index >= 0 && index < Count() ? &lines_[static_cast<size_t>(index)] : nullptr;
+const NamedKey* ListLines::At(int index) const {
+    return index >= 0 && index < Count() ? &lines_[index] : nullptr;
 }
 
 int ListLines::rowCount(const QModelIndex& parent) const {
@@ -21,6 +21,6 @@ int ListLines::rowCount(const QModelIndex& parent) const {
 }
 
 QVariant ListLines::data(const QModelIndex& index, int role) const {
-    const Line* line = At(index.row());
-    return line && role == Qt::DisplayRole ? QVariant(line->text) : QVariant();
+    const NamedKey* line = At(index.row());
+    return line && role == Qt::DisplayRole ? QVariant(line->name) : QVariant();
 }

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <QAbstractListModel>
+#include "runtime/NameOrder.h"
 
-#include <vector>
+#include <QAbstractListModel>
 
 /// The lines of a list box, in the order in which they were added.
 class ListLines : public QAbstractListModel {
@@ -11,19 +11,14 @@ class ListLines : public QAbstractListModel {
 public:
     using QAbstractListModel::QAbstractListModel;
 
-    struct Line {
-        QString text;
-        qint32 itemData;
-    };
-
-    void Clear();
+    void Set(const QList<NamedKey>& lines); ///< in place of those that are there
     void Add(const QString& text, qint32 itemData);
     int Count() const { return static_cast<int>(lines_.size()); }
-    const Line* At(int index) const; ///< null if there is no such line
+    const NamedKey* At(int index) const; ///< null if there is no such line
 
     int rowCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;
 
 private:
-    std::vector<Line> lines_;
+    QList<NamedKey> lines_;
 };

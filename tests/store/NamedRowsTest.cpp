@@ -5,8 +5,8 @@
 class NamedRowsTest : public StoreTest {
 protected:
     QList<NamedKey> Recipes() {
-        Recordset rows(users_, QStringLiteral("SELECT * FROM Recipes"));
-        return NamedRows::Sorted(rows, QStringLiteral("RecipeName"), QStringLiteral("RecipeID"));
+        Recordset rows(users_, QStringLiteral("SELECT RecipeName, RecipeID FROM Recipes"));
+        return NamedRows::Sorted(rows);
     }
 };
 
