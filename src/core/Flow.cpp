@@ -6,6 +6,7 @@
 #include "core/SingleInstance.h"
 #include "core/StartFailure.h"
 #include "core/Tips.h"
+#include "core/UpdateNotice.h"
 #include "core/frmEULA.h"
 #include "core/frmHOME.h"
 #include "core/frmSplash.h"
@@ -13,6 +14,8 @@
 #include "drawing/Twips.h"
 #include "model/Profiles.h"
 #include "records/OwnRecords.h"
+#include "records/RecordsFolder.h"
+#include "records/UpgradeSnapshot.h"
 #include "runtime/AppPath.h"
 #include "runtime/AppState.h"
 #include "runtime/RuntimeError.h"
@@ -25,6 +28,8 @@
 #include <QApplication>
 #include <QScopedValueRollback>
 
+#include <memory>
+
 namespace {
 
 /// A step of the start. A step that returns false ends the start without an error.
@@ -33,10 +38,14 @@ struct Step {
     bool (*run)();
 };
 
+std::unique_ptr<UpdateNotice> updateNotice;
+
 bool TakeRecords() {
     const OwnRecords records;
     records.MakeFolder();
     HeldRecords::Take();
+    if (UpgradeSnapshot::IsNeeded(RecordsFolder(RecordsPath())))
+        updateNotice = std::make_unique<UpdateNotice>();
     OwnSnapshots::BeforeUpgrade();
     if (HeldRecords::AreHeld())
         records.Update();
@@ -50,6 +59,7 @@ bool OpenUsers() {
 
 bool OpenFoods() {
     FoodDB().Open(RecordsFolder(RecordsPath()).Foods(), DatabaseKind::Foods);
+    updateNotice.reset();
     return true;
 }
 
@@ -149,6 +159,7 @@ int Flow::Main(SingleInstance& instance) {
             if (!step.run())
                 return 0;
         } catch (const std::exception& error) {
+            updateNotice.reset();
             StartFailure::Report(error, QString::fromLatin1(step.name));
             return 1;
         }

@@ -24,9 +24,13 @@ bool IsOlder(const QString& path) {
 }
 } // namespace
 
-void UpgradeSnapshot::MakeIfNeeded(const RecordsFolder& records) {
+bool UpgradeSnapshot::IsNeeded(const RecordsFolder& records) {
     const auto isOlder = [&](const RecordsFile& file) { return IsOlder(records.File(file.name)); };
-    if (std::ranges::none_of(RecordsFiles, isOlder) || !CanBeOpened(records))
+    return std::ranges::any_of(RecordsFiles, isOlder) && CanBeOpened(records);
+}
+
+void UpgradeSnapshot::MakeIfNeeded(const RecordsFolder& records) {
+    if (!IsNeeded(records))
         return;
     SnapshotMaking(records, Snapshots(records).Place())
         .Make(SnapshotKind::Upgrade, QStringLiteral("before an update of the files"));

@@ -23,10 +23,26 @@
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QSet>
 #include <QTest>
 #include <QTimer>
 
 #include <SQLiteCpp/SQLiteCpp.h>
+
+/// The names of all windows that are painted as long as it lives.
+class PaintedWindows : public QObject {
+public:
+    PaintedWindows() { qApp->installEventFilter(this); }
+    QSet<QString> names;
+
+protected:
+    bool eventFilter(QObject* object, QEvent* event) override {
+        const auto* widget = qobject_cast<QWidget*>(object);
+        if (widget && widget->isWindow() && event->type() == QEvent::Paint)
+            names << widget->objectName();
+        return false;
+    }
+};
 
 class FlowTest : public CoreTest {
 protected:
@@ -91,6 +107,35 @@ TEST_F(FlowTest, ALaterStartShowsTheSplashThenTheFrameWithTheHomeScreen) {
     EXPECT_EQ(FoodDB().state(), Connection::Opened);
     EXPECT_EQ(App().AppInfo.HELPPATH, QString(Folder() + "/help/"));
     EXPECT_FALSE(App().TipOfTheDay.isEmpty());
+}
+
+TEST_F(FlowTest, AStartThatUpdatesTheFilesSaysSoUntilTheyAreOpen) {
+    Deliver();
+    Accept();
+    AddProfiles({QStringLiteral("Anna")});
+    SQLite::Database(FileBeside("users.mdb").toStdString(), SQLite::OPEN_READWRITE)
+        .exec("PRAGMA user_version = 1"); // the step to 2 keeps tables of either shape
+    const PaintedWindows painted;
+    ASSERT_EQ(RunMain(), 0);
+    EXPECT_TRUE(painted.names.contains("UpdateNotice"));
+    EXPECT_EQ(Window("UpdateNotice"), nullptr);
+    EXPECT_NE(Window("frmHOME"), nullptr);
+}
+
+TEST_F(FlowTest, AnUpdateThatFailsLeavesNoNoticeOpen) {
+    Deliver();
+    for (const char* change : {"PRAGMA user_version = 1", "DROP TABLE Ingredients"})
+        SQLite::Database(FileBeside("users.mdb").toStdString(), SQLite::OPEN_READWRITE)
+            .exec(change);
+    const PaintedWindows painted;
+    ExpectSilentEnd("users.mdb");
+    EXPECT_TRUE(painted.names.contains("UpdateNotice"));
+}
+
+TEST_F(FlowTest, AStartWithFilesOfThisVersionUpdatesNone) {
+    const PaintedWindows painted;
+    StartWithAnna();
+    EXPECT_FALSE(painted.names.contains("UpdateNotice"));
 }
 
 TEST_F(FlowTest, OfSeveralProfilesTheFirstRowsUserIsLoaded) {
