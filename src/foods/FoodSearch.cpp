@@ -1,6 +1,8 @@
 #include "foods/FoodSearch.h"
 
+#include "foods/NarrowedSearch.h"
 #include "foods/SearchTerms.h"
+#include "runtime/Attempt.h"
 #include "store/Connection.h"
 #include "store/Recordset.h"
 
@@ -17,16 +19,31 @@ void ReadSource(FoodList& foods, Connection& connection, const QString& source, 
             foods.Add(rows[0].Text(), recipes, rows[1].Integer(), rows[2].Value(),
                       recipes ? QVariant(QString()) : rows[3].Value());
 }
+/// Returns whether it has read them; if not, it has added nothing.
+bool ReadNarrowed(FoodList& foods, const std::optional<NarrowedSearch>& search,
+                  NarrowedSearch::Part part) {
+    QString statement;
+    return search && Attempt([&] { statement = search->Statement(part); }) &&
+           !statement.isEmpty() && Attempt([&] { ReadSource(foods, FoodDB(), statement, false); });
+}
+
+void ReadCatalogue(FoodList& foods, const SearchTerms& terms, FoodSearch::Sources sources) {
+    using enum NarrowedSearch::Part;
+    std::optional<NarrowedSearch> search;
+    Attempt([&] { search.emplace(terms); });
+    if (sources.custom && !ReadNarrowed(foods, search, Own))
+        ReadSource(foods, FoodDB(), terms.CustomSQL(), false);
+    if (sources.stock && !ReadNarrowed(foods, search, Stock))
+        ReadSource(foods, FoodDB(), terms.StockSQL(), false);
+}
 } // namespace
 
 FoodList FoodSearch::Find(const SearchTerms& terms, const Sources& sources) {
     FoodList foods;
     if (sources.recipes)
         ReadSource(foods, UserDB(), terms.RecipeSQL(), true);
-    if (sources.custom)
-        ReadSource(foods, FoodDB(), terms.CustomSQL(), false);
-    if (sources.stock)
-        ReadSource(foods, FoodDB(), terms.StockSQL(), false);
+    if (sources.custom || sources.stock)
+        ReadCatalogue(foods, terms, sources);
     return foods;
 }
 

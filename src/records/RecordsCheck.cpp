@@ -1,5 +1,6 @@
 #include "records/RecordsCheck.h"
 
+#include "records/NameIndexCheck.h"
 #include "records/RecordsChange.h"
 #include "records/RecordsReading.h"
 #include "records/RowChecks.h"
@@ -52,6 +53,11 @@ QList<Finding> Contents(const QString& path, DatabaseKind kind, const QString& t
     return schema.findings;
 }
 
+QList<Finding> Names(const QString& path) {
+    SQLite::Database database = ForReading(path);
+    return NameIndexCheck::Run(database);
+}
+
 /// An error of the store inside a file that could be opened is a finding, too.
 template <class Check> QList<Finding> Guarded(const QString& path, Check check) {
     try {
@@ -100,6 +106,7 @@ void RecordsCheck::CheckOpen(QDate today) {
         parts.push_back(Started(file.path, [&day, kind = file.kind](const QString& path) {
             return Contents(path, kind, day);
         }));
+    parts.push_back(Started(FoodDB().Path(), Names));
     for (std::future<QList<Finding>>& part : parts)
         findings_ << part.get();
     if (findings_.isEmpty())

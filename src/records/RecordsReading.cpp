@@ -9,7 +9,7 @@
 
 namespace {
 bool CanBeReadInPlace(const QString& path) {
-    return FileHeader::Of(path).SchemaVersion() == Schema::Version &&
+    return Schema::CanBeRead(FileHeader::Of(path).SchemaVersion()) &&
            !RecordsCopy::HasJournal(path);
 }
 

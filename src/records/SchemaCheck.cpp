@@ -1,6 +1,6 @@
 #include "records/SchemaCheck.h"
 
-#include "store/Schema.h"
+#include "store/SchemaSteps.h"
 
 #include <QStringList>
 
@@ -8,7 +8,8 @@
 
 namespace {
 constexpr auto Columns = "SELECT t.name || '.' || c.name FROM sqlite_schema AS t, "
-                         "pragma_table_info(t.name) AS c WHERE t.type = 'table'";
+                         "pragma_table_info(t.name) AS c WHERE t.type = 'table' AND "
+                         "t.name NOT LIKE 'FOODS^_Trigrams%' ESCAPE '^'";
 constexpr auto Indexes =
     "SELECT name, sql FROM sqlite_schema WHERE type = 'index' AND sql NOT NULL";
 
@@ -89,11 +90,17 @@ void AddMissingRows(SQLite::Database& database, DatabaseKind kind, SchemaCheck::
                 QLatin1String(needed.where),   QLatin1String(needed.problem), 0, {},
                 QLatin1String(needed.meaning), QLatin1String(Reinstall)};
 }
+/// A file that only reads may be older than the program.
+SQLite::Database OfTheSameVersion(SQLite::Database& database, DatabaseKind kind) {
+    const int version = database.execAndGet("PRAGMA user_version").getInt();
+    SQLite::Database wanted(":memory:", SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
+    Schema::Migrate(wanted, kind, SchemaSteps().first(static_cast<size_t>(version)));
+    return wanted;
+}
 } // namespace
 
 SchemaCheck::Result SchemaCheck::Run(SQLite::Database& database, DatabaseKind kind) {
-    SQLite::Database wanted(":memory:", SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
-    Schema::Migrate(wanted, kind);
+    SQLite::Database wanted = OfTheSameVersion(database, kind);
     Result result;
     AddMissingColumns(database, wanted, result);
     AddMissingIndexes(database, wanted, kind, result);

@@ -1,7 +1,9 @@
 #include "store/Connection.h"
 
+#include "runtime/Attempt.h"
 #include "store/AmountRows.h"
 #include "store/FileCheck.h"
+#include "store/NameIndex.h"
 #include "store/RollbackJournal.h"
 #include "store/Schema.h"
 #include "store/StatementCache.h"
@@ -36,12 +38,21 @@ DatabasePtr OpenForWriting(const QString& path) {
     return database;
 }
 
+/// A tool may have removed a part of the index: its triggers would then refuse every change of a
+/// food. If there is no room for it, the program works without it.
+void RequireNameIndex(SQLite::Database& foods, const QString& path) {
+    if (!NameIndex::Answers(foods))
+        Attempt([&] { StoreError::Guarded(path, [&] { NameIndex::MakeAnew(foods); }); });
+}
+
 /// A connection that writes, to a file that is sound and has this schema version.
 DatabasePtr OpenUpdated(const QString& path, DatabaseKind kind) {
     FileCheck::Untouched(path, kind);
     DatabasePtr database = OpenForWriting(path);
     RollbackJournal::Use(*database, path);
     Schema::Migrate(*database, kind);
+    if (kind == DatabaseKind::Foods)
+        RequireNameIndex(*database, path);
     return database;
 }
 
@@ -49,7 +60,7 @@ DatabasePtr OpenUnchanged(const QString& path, DatabaseKind kind) {
     FileCheck::Untouched(path, kind);
     auto database = std::make_unique<SQLite::Database>(
         path.toStdString(), SQLite::OPEN_READONLY | SQLite::OPEN_NOMUTEX, BusyMilliseconds);
-    if (database->execAndGet("PRAGMA user_version").getInt() != Schema::Version)
+    if (!Schema::CanBeRead(database->execAndGet("PRAGMA user_version").getInt()))
         throw StoreError::Make(SQLITE_SCHEMA, path,
                                QStringLiteral("it has another version, and is not updated here"));
     RefuseQuotedTexts(*database);

@@ -30,8 +30,8 @@ public:
     /// older one. An older schema is updated by numbered steps, each in a transaction. A refused
     /// file stays unchanged to the byte.
     void Open(const QString& path, DatabaseKind kind);
-    /// Opens a file, which must have this schema version, only for reading. Neither the file nor
-    /// its folder changes.
+    /// Opens a file, whose schema version must be one that can be read, only for reading. Neither
+    /// the file nor its folder changes.
     void OpenForReading(const QString& path, DatabaseKind kind);
     /// Adds a file to the database that `other` has open, at most one. If `other` only reads, so
     /// does this. A transaction then covers both files: a kill or a power cut leaves both old or

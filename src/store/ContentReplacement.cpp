@@ -16,31 +16,40 @@ constexpr int BusyMilliseconds = 5000;
 
 /// In the statements, L stands for the file that changes, and B for the one whose contents it gets.
 /// The store keeps the text of a table and of an index with one blank between its first words.
-/// Indexes are made before the rows are inserted: the store then copies both as they are.
+/// Indexes are made before the rows are inserted: the store then copies both as they are. The index
+/// of names is copied as the store itself does when it compacts a file: its tables like any others,
+/// and what makes them an index as rows of the schema. So a damaged one does no harm.
 constexpr const char* MadeStatements[] = {
+    R"(SELECT 'DELETE FROM L.sqlite_schema WHERE name = ''FOODS_Trigrams''')",
     R"(SELECT 'DROP VIEW L."' || replace(name, '"', '""') || '"' FROM L.sqlite_schema
        WHERE type = 'view')",
     R"(SELECT 'DROP TABLE L."' || replace(name, '"', '""') || '"' FROM L.sqlite_schema
        WHERE type = 'table' AND name NOT LIKE 'sqlite^_%' ESCAPE '^')",
     R"(SELECT 'CREATE TABLE L.' || substr(sql, 14) FROM B.sqlite_schema
-       WHERE type = 'table' AND name NOT LIKE 'sqlite^_%' ESCAPE '^' ORDER BY rowid)",
+       WHERE type = 'table' AND name NOT LIKE 'sqlite^_%' ESCAPE '^' AND name <> 'FOODS_Trigrams'
+       ORDER BY rowid)",
     R"(SELECT 'CREATE INDEX L.' || substr(sql, 14) FROM B.sqlite_schema
        WHERE type = 'index' AND sql LIKE 'CREATE INDEX %' ORDER BY rowid)",
     R"(SELECT 'CREATE UNIQUE INDEX L.' || substr(sql, 21) FROM B.sqlite_schema
        WHERE type = 'index' AND sql LIKE 'CREATE UNIQUE INDEX %' ORDER BY rowid)",
     R"(SELECT 'INSERT INTO L."' || replace(name, '"', '""') || '" SELECT * FROM B."' ||
               replace(name, '"', '""') || '"' FROM B.sqlite_schema
-       WHERE type = 'table' AND name NOT LIKE 'sqlite^_%' ESCAPE '^')",
+       WHERE type = 'table' AND name NOT LIKE 'sqlite^_%' ESCAPE '^' AND name <> 'FOODS_Trigrams')",
     R"(SELECT 'DELETE FROM L.sqlite_sequence' FROM L.sqlite_schema WHERE name = 'sqlite_sequence')",
     R"(SELECT 'INSERT INTO L.sqlite_sequence SELECT * FROM B.sqlite_sequence' FROM B.sqlite_schema
        WHERE name = 'sqlite_sequence')",
+    R"(SELECT 'INSERT INTO L.sqlite_schema SELECT * FROM B.sqlite_schema WHERE name = ' ||
+              quote(name) FROM B.sqlite_schema
+       WHERE name = 'FOODS_Trigrams'
+           OR (type = 'trigger' AND name LIKE 'FOODS^_Trigrams^_%' ESCAPE '^'))",
 };
 
 /// Each is true where both files have the same number of rows in a table.
 constexpr auto Counts =
     R"(SELECT 'SELECT (SELECT count(*) FROM L."' || replace(name, '"', '""') ||
               '") = (SELECT count(*) FROM B."' || replace(name, '"', '""') || '")'
-       FROM B.sqlite_schema WHERE type = 'table' AND name NOT LIKE 'sqlite^_%' ESCAPE '^')";
+       FROM B.sqlite_schema WHERE type = 'table' AND name NOT LIKE 'sqlite^_%' ESCAPE '^'
+           AND name <> 'FOODS_Trigrams')";
 
 constexpr auto Reindexing =
     R"(SELECT 'REINDEX L."' || replace(name, '"', '""') || '"' FROM L.sqlite_schema
@@ -128,6 +137,7 @@ void ContentReplacement::Run(const QList<File>& files) {
         SQLite::Database database(LiveAddress(files.first().path),
                                   SQLite::OPEN_READWRITE | SQLite::OPEN_URI, BusyMilliseconds);
         const std::vector<Names> all = AttachAll(database, files);
+        database.exec("PRAGMA writable_schema = ON"); // for the index of names
         SQLite::Transaction transaction(database, SQLite::TransactionBehavior::IMMEDIATE);
         for (const Names& names : all)
             Replace(database, names);

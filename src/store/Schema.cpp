@@ -19,6 +19,10 @@ void Run(SQLite::Database& database, const char* step, int version) {
 }
 } // namespace
 
+bool Schema::CanBeRead(int version) {
+    return version >= OldestReadable && version <= Version;
+}
+
 qint32 Schema::ApplicationId(DatabaseKind kind) {
     return kind == DatabaseKind::Users ? 0x48414C55 : 0x48414C46;
 }

@@ -12,10 +12,12 @@ class Database;
 
 /// The tables, indexes and versions of both files.
 namespace Schema {
-inline constexpr int Version = 2;
+inline constexpr int Version = 3;
 /// FOODS, USER_FOODS and Ingredients hold an amount at each position from 1 to this one. The next
 /// column is not an amount.
 inline constexpr int StoredAmounts = 31;
+/// Files of this version on hold all that is read; what came later is derived from it.
+inline constexpr int OldestReadable = 2;
 inline constexpr int LastStockFood = 23508; ///< foods above this key are the user's own
 
 /// The statements from one version to the next. The first step creates a new file. A step never
@@ -33,6 +35,9 @@ void Migrate(SQLite::Database& database, DatabaseKind kind);
 
 /// The same with other steps: step n (from 0) leads from version n to n + 1.
 void Migrate(SQLite::Database& database, DatabaseKind kind, std::span<const Step> steps);
+
+/// Whether a file of this version can be read without an update.
+bool CanBeRead(int version);
 
 /// The mark of a kind in the header of a file.
 qint32 ApplicationId(DatabaseKind kind);

@@ -128,7 +128,32 @@ CREATE INDEX FOODS_Name ON FOODS (FoodName, Serv_Desc_A, Serv_Desc_B);
 DROP TABLE temp.moved;
 )";
 
-constexpr Schema::Step Steps[] = {{UsersStep1, FoodsStep1}, {UsersStep2, FoodsStep2}};
+// The index of names (NameIndex.h). It holds each trigram of each name once, without its place, so
+// the delivered file grows by only a tenth. It is filled in the order of the keys: the store's own
+// command for this takes twice as long. A file whose version was set back has it already.
+constexpr auto FoodsStep3 = R"(
+DROP TABLE IF EXISTS FOODS_Trigrams;
+CREATE VIRTUAL TABLE FOODS_Trigrams USING fts5(
+    FoodName, content='FOODS', content_rowid='ID', tokenize='trigram', detail=none, columnsize=0);
+INSERT INTO FOODS_Trigrams (rowid, FoodName) SELECT ID, FoodName FROM FOODS ORDER BY ID;
+CREATE INDEX FOODS_Unindexed ON FOODS (ID) WHERE instr(FoodName, char(0)) > 0;
+CREATE TRIGGER FOODS_Trigrams_Added AFTER INSERT ON FOODS BEGIN
+    INSERT INTO FOODS_Trigrams (rowid, FoodName) VALUES (new.ID, new.FoodName);
+END;
+CREATE TRIGGER FOODS_Trigrams_Removed AFTER DELETE ON FOODS BEGIN
+    INSERT INTO FOODS_Trigrams (FOODS_Trigrams, rowid, FoodName)
+        VALUES ('delete', old.ID, old.FoodName);
+END;
+CREATE TRIGGER FOODS_Trigrams_Changed AFTER UPDATE OF ID, FoodName ON FOODS
+WHEN old.ID <> new.ID OR old.FoodName IS NOT new.FoodName BEGIN
+    INSERT INTO FOODS_Trigrams (FOODS_Trigrams, rowid, FoodName)
+        VALUES ('delete', old.ID, old.FoodName);
+    INSERT INTO FOODS_Trigrams (rowid, FoodName) VALUES (new.ID, new.FoodName);
+END;
+)";
+
+constexpr Schema::Step Steps[] = {
+    {UsersStep1, FoodsStep1}, {UsersStep2, FoodsStep2}, {"", FoodsStep3}};
 static_assert(std::size(Steps) == Schema::Version);
 } // namespace
 

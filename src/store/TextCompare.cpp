@@ -22,6 +22,12 @@ int FollowingBytes(unsigned char lead) {
     return -1;
 }
 
+/// A character in more bytes than it needs is not UTF-8.
+bool IsShortest(char32_t character, int following) {
+    constexpr char32_t smallest[] = {0, 0x80, 0x800, 0x10000};
+    return character >= smallest[following];
+}
+
 char32_t TakeMultibyte(std::string_view& text) {
     const auto lead = static_cast<unsigned char>(text.front());
     const int following = FollowingBytes(lead);
@@ -35,6 +41,8 @@ char32_t TakeMultibyte(std::string_view& text) {
             return Replacement;
         character = (character << 6U) | (static_cast<unsigned char>(byte) & 0x3FU);
     }
+    if (!IsShortest(character, following))
+        return Replacement;
     text.remove_prefix(static_cast<size_t>(following));
     return character;
 }

@@ -1,6 +1,7 @@
 #include "disk/RecordsContent.h"
 
 #include "records/Snapshots.h"
+#include "store/NameIndex.h"
 #include "store/StoreError.h"
 
 #include <SQLiteCpp/SQLiteCpp.h>
@@ -27,10 +28,16 @@ void RequireIntegrity(SQLite::Database& database, const QString& path) {
         throw StoreError::Make(SQLITE_CORRUPT, path, QString::fromStdString(first));
 }
 
+void RequireNameIndex(SQLite::Database& foods, const QString& path) {
+    if (!NameIndex::Answers(foods) || !NameIndex::Fits(foods))
+        throw StoreError::Make(SQLITE_CORRUPT, path, QStringLiteral("its index of names"));
+}
+
 QByteArray ContentOf(SQLite::Database& database) {
     QByteArray content;
     SQLite::Statement tables(database,
-                             "SELECT name FROM sqlite_schema WHERE type = 'table' ORDER BY name");
+                             "SELECT name FROM sqlite_schema WHERE type = 'table' AND name NOT "
+                             "LIKE 'FOODS_Trigrams%' ORDER BY name");
     while (tables.executeStep())
         AppendRows(content, database, tables.getColumn(0).getString());
     return content;
@@ -56,6 +63,8 @@ QByteArray RecordsContent::Of(const RecordsFolder& records) {
         connection.Open(path, file.kind);
         StoreError::Guarded(path, [&] {
             RequireIntegrity(connection.Raw(), path);
+            if (file.kind == DatabaseKind::Foods)
+                RequireNameIndex(connection.Raw(), path);
             content += ContentOf(connection.Raw());
         });
     }

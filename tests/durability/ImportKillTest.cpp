@@ -1,6 +1,7 @@
 #include "records/RecordsFolder.h"
 #include "records/document/RecordsDocument.h"
 #include "store/Connection.h"
+#include "store/NameIndex.h"
 #include "support/HalvaneTest.h"
 #include "support/Places.h"
 #include "support/RunSize.h"
@@ -122,6 +123,7 @@ protected:
         OpenDatabases();
         AddUser();
         FoodDB().Raw().exec("DELETE FROM FOODS WHERE ID < 23000");
+        FoodDB().Raw().exec(NameIndex::Compaction);
         FoodDB().Raw().exec("VACUUM");
         CloseDatabases();
     }

@@ -37,7 +37,7 @@ void AddRows(QCryptographicHash& all, SQLite::Database& database, const std::str
 void AddFile(QCryptographicHash& all, SQLite::Database& database) {
     AddRows(all, database, "PRAGMA integrity_check");
     SQLite::Statement tables(database, "SELECT name FROM sqlite_master WHERE type = 'table' "
-                                       "ORDER BY name");
+                                       "AND name NOT LIKE 'FOODS_Trigrams%' ORDER BY name");
     while (tables.executeStep())
         AddRows(all, database,
                 "SELECT * FROM \"" + tables.getColumn(0).getString() + "\" ORDER BY rowid");

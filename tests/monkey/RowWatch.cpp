@@ -5,6 +5,7 @@
 
 #include "core/Navigation.h"
 #include "store/Connection.h"
+#include "store/NameIndex.h"
 
 #include <SQLiteCpp/SQLiteCpp.h>
 
@@ -50,7 +51,8 @@ void RowWatch::Begin(SQLite::Database& database) {
 RowWatch::Keys RowWatch::KeysIn(SQLite::Database& database) {
     Keys keys;
     SQLite::Statement tables(database, "SELECT name FROM sqlite_master WHERE type = 'table' AND "
-                                       "name NOT LIKE 'sqlite_%'");
+                                       "name NOT LIKE 'sqlite_%' AND "
+                                       "name NOT LIKE 'FOODS_Trigrams%'");
     while (tables.executeStep()) {
         const std::string table = tables.getColumn(0).getString();
         QSet<qint64>& found = keys[QString::fromStdString(table)];
@@ -62,7 +64,9 @@ RowWatch::Keys RowWatch::KeysIn(SQLite::Database& database) {
 }
 
 void RowWatch::OnRow(void* self, int operation, const char*, const char* table, long long key) {
-    static_cast<RowWatch*>(self)->Note(operation, QString::fromUtf8(table), key);
+    const QString name = QString::fromUtf8(table);
+    if (!name.startsWith(QLatin1String(NameIndex::Table))) // the store keeps it itself
+        static_cast<RowWatch*>(self)->Note(operation, name, key);
 }
 
 void RowWatch::Note(int operation, const QString& table, qint64 key) {

@@ -1,5 +1,7 @@
-#include "RecordsTest.h"
+#include "SnapshotTest.h"
 
+#include "foods/FoodSearch.h"
+#include "foods/SearchTerms.h"
 #include "intake/DayLog.h"
 #include "records/RecordsChange.h"
 #include "records/RecordsLock.h"
@@ -13,15 +15,11 @@
 
 #include <SQLiteCpp/SQLiteCpp.h>
 
-class RecordsAccessTest : public RecordsTest {
+class RecordsAccessTest : public SnapshotTest {
 protected:
     static constexpr int ReadOnly = -8;
 
-    QByteArray Users() const {
-        QFile file(Records().Users());
-        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-        return file.readAll();
-    }
+    QByteArray Users() const { return Bytes(Records().Users()); }
     QStringList Files() const { return QDir(Folder()).entryList(QDir::Files); }
     static int Weights() {
         return Recordset(UserDB(), QStringLiteral("SELECT * FROM USER_WEIGHTS")).RecordCount();
@@ -59,6 +57,16 @@ TEST_F(RecordsAccessTest, ReadingAFileOfAnOlderVersionUpdatesACopyOnly) {
     const RecordsReading records(Records());
     EXPECT_EQ(Weights(), 0);
     EXPECT_EQ(Users(), before);
+}
+
+/// A folder may allow no update, and a large catalogue would take long to copy.
+TEST_F(RecordsAccessTest, AFileFromBeforeTheIndexOfNamesIsReadWhereItIsAndSearched) {
+    BecomeVersionTwo();
+    const QByteArray before = Bytes(Records().Foods());
+    const RecordsReading records(Records());
+    EXPECT_EQ(FoodDB().Path(), Records().Foods());
+    EXPECT_GT(FoodSearch::Find(SearchTerms("quinoa"), {true, true, true}).Count(), 0);
+    EXPECT_TRUE(Bytes(Records().Foods()) == before);
 }
 
 TEST_F(RecordsAccessTest, AChangeThatIsNotCommittedIsTakenBack) {

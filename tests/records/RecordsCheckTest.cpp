@@ -153,6 +153,40 @@ TEST_F(RecordsCheckTest, AnIndexThatDoesNotFitItsTableIsMadeAnew) {
     EXPECT_EQ(Lines(), QStringList());
 }
 
+TEST_F(RecordsCheckTest, APartOfTheIndexOfNamesThatIsMissingIsNamedAndMadeAnew) {
+    for (const char* damage :
+         {"DROP TABLE FOODS_Trigrams", "DROP TABLE FOODS_Trigrams_data",
+          "DROP TRIGGER FOODS_Trigrams_Added", "DELETE FROM FOODS_Trigrams_data"}) {
+        ChangeFoods(damage);
+        EXPECT_EQ(Lines(),
+                  QStringList("FOODS_Trigrams: a part of the index of names is missing or "
+                              "damaged. Searches are slow. `check --repair` puts it right."))
+            << damage;
+        EXPECT_EQ(Repair().size(), 1) << damage;
+        EXPECT_EQ(Lines(), QStringList()) << damage;
+    }
+}
+
+TEST_F(RecordsCheckTest, AnIndexOfNamesThatDoesNotFitTheNamesIsNamedAndMadeAnew) {
+    ChangeFoods("UPDATE FOODS_Trigrams_data SET block = (SELECT block FROM FOODS_Trigrams_data "
+                "WHERE id > 10 ORDER BY id DESC LIMIT 1) WHERE id = (SELECT max(id) - 40 FROM "
+                "FOODS_Trigrams_data)");
+    EXPECT_EQ(Lines(), QStringList("FOODS_Trigrams: the index of names does not fit the names. "
+                                   "Searches may miss foods. `check --repair` puts it right."));
+    EXPECT_EQ(Repair().size(), 1);
+    EXPECT_EQ(Lines(), QStringList());
+}
+
+TEST_F(RecordsCheckTest, AFileFromBeforeTheIndexOfNamesIsSound) {
+    BecomeVersionTwo();
+    const QByteArray before = Bytes(Records().Foods());
+    EXPECT_EQ(Lines(), QStringList());
+    EXPECT_TRUE(Bytes(Records().Foods()) == before);
+    ChangeFoods("DROP INDEX FOODS_Name");
+    EXPECT_EQ(Repair().size(), 1);
+    EXPECT_EQ(Lines(), QStringList());
+}
+
 TEST_F(RecordsCheckTest, DamageThatKeepsTheProgramFromStartingNamesTheSnapshot) {
     Make();
     Damage(Records().Users());

@@ -4,6 +4,7 @@
 #include "runtime/SettingTable.h"
 #include "runtime/Settings.h"
 #include "store/Connection.h"
+#include "store/NameIndex.h"
 #include "support/Failure.h"
 
 #include <QDir>
@@ -185,6 +186,40 @@ TEST_F(RestoringTest, NothingIsRestoredWhileTheWindowIsOpen) {
     const RecordsLock window(Records());
     EXPECT_EQ(FailureOf([&] { Restore(snapshot); }), ErrorNumber::RecordsInUse);
     EXPECT_EQ(Rows(Records()), before);
+}
+
+TEST_F(RestoringTest, TheIndexOfNamesComesBackWithBothFilesWhateverIsLeftOfIt) {
+    AddOwnFood("Pie");
+    const Snapshot snapshot = Make();
+    for (const char* damage :
+         {"DELETE FROM FOODS WHERE ID > 23508", "DROP TABLE FOODS_Trigrams",
+          "DROP TABLE FOODS_Trigrams_data", "DELETE FROM FOODS_Trigrams_config"}) {
+        SCOPED_TRACE(damage);
+        AddWeight("2002-03-05", 151);
+        Change(Records().Foods(), damage);
+        Restore(snapshot);
+        FoodDB().OpenForReading(Records().Foods(), DatabaseKind::Foods);
+        EXPECT_TRUE(NameIndex::Answers(FoodDB().Raw()));
+        EXPECT_TRUE(NameIndex::Fits(FoodDB().Raw()));
+        EXPECT_EQ(Foods("SELECT count(*) FROM FOODS WHERE FoodName = 'Pie'"), 1);
+        FoodDB().Close();
+    }
+}
+
+TEST_F(RestoringTest, BothFilesFromBeforeTheIndexOfNamesComeBack) {
+    AddOwnFood("Pie");
+    BecomeVersionTwo();
+    const QStringList before = Rows(Records());
+    const Snapshot snapshot = Make();
+    ExpectBothToOpen();
+    AddWeight("2002-03-05", 151);
+    AddOwnFood("Tart");
+    Restore(snapshot);
+    EXPECT_EQ(Rows(Records()), before);
+    ExpectBothToOpen();
+    FoodDB().OpenForReading(Records().Foods(), DatabaseKind::Foods);
+    EXPECT_TRUE(NameIndex::Answers(FoodDB().Raw()) && NameIndex::Fits(FoodDB().Raw()));
+    CloseDatabases();
 }
 
 TEST_F(RestoringTest, TablesOfAnotherToolAndOddNamesComeBackToo) {

@@ -57,6 +57,14 @@ protected:
                                   "replace(sql, '(UID, UDate)', '(UDate, UID)') "
                                   "WHERE name = 'USER_WEIGHTS_Day'");
     }
+    /// The files are as the version before the index of names left them.
+    void BecomeVersionTwo() const {
+        Change(Records().Users(), "PRAGMA user_version = 2");
+        Change(Records().Foods(), "DROP TRIGGER FOODS_Trigrams_Added; DROP TRIGGER "
+                                  "FOODS_Trigrams_Removed; DROP TRIGGER FOODS_Trigrams_Changed; "
+                                  "DROP TABLE FOODS_Trigrams; DROP INDEX FOODS_Unindexed; "
+                                  "PRAGMA user_version = 2");
+    }
     static QByteArray Bytes(const QString& path) {
         QFile file(path);
         EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();

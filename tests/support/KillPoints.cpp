@@ -1,6 +1,7 @@
 #include "support/KillPoints.h"
 
 #include "store/Connection.h"
+#include "store/NameIndex.h"
 
 #include <QFile>
 
@@ -19,8 +20,10 @@ KillPoints::KillPoints(Connection& watched, const std::function<void()>& work)
     Copy();
 }
 
-void KillPoints::OnRow(void* self, int, const char*, const char*, long long) {
-    static_cast<KillPoints*>(self)->Copy();
+/// The store writes rows of the index of names for itself, in the same transaction.
+void KillPoints::OnRow(void* self, int, const char*, const char* table, long long) {
+    if (!std::string_view(table).starts_with(NameIndex::Table))
+        static_cast<KillPoints*>(self)->Copy();
 }
 
 void KillPoints::Copy() {

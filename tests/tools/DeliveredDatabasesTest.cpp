@@ -2,6 +2,7 @@
 #include "foods/delivery/TsvTable.h"
 #include "runtime/RuntimeError.h"
 #include "store/Connection.h"
+#include "store/NameIndex.h"
 #include "support/Places.h"
 
 #include <QDir>
@@ -220,4 +221,17 @@ TEST_F(DeliveredDatabasesTest, FailedUpdateLeavesTheFoodsAsTheyWere) {
     EXPECT_THROW(DeliveredDatabases(Folder() + QStringLiteral("/data")).Update(Folder()),
                  RuntimeError);
     EXPECT_EQ(Ask(FoodsPath(), "SELECT COUNT(*) FROM FOODS"), QStringLiteral("7412"));
+}
+
+TEST_F(DeliveredDatabasesTest, TheIndexOfNamesFitsTheDeliveredAndTheUpdatedFoods) {
+    CopyBuilt();
+    for (const char* change : {"SELECT 1", "UPDATE FOODS SET FoodName = 'Turtle' WHERE ID = 23508",
+                               "DELETE FROM FOODS WHERE ID < 20000", "DROP TABLE FOODS_Trigrams"}) {
+        SCOPED_TRACE(change);
+        Change(FoodsPath(), change);
+        Update();
+        SQLite::Database foods(FoodsPath().toStdString(), SQLite::OPEN_READONLY);
+        EXPECT_TRUE(NameIndex::Answers(foods));
+        EXPECT_TRUE(NameIndex::Fits(foods));
+    }
 }

@@ -2,6 +2,7 @@
 
 #include "runtime/RuntimeError.h"
 #include "store/Connection.h"
+#include "store/NameIndex.h"
 #include "store/Schema.h"
 #include "store/StoreError.h"
 
@@ -47,15 +48,27 @@ void InOneTransaction(const QString& path, DatabaseKind kind, const Fill& fill) 
     });
 }
 
+void Compact(const QString& path, DatabaseKind kind) {
+    Connection connection;
+    connection.Open(path, kind);
+    StoreError::Guarded(path, [&] { connection.Raw().exec("VACUUM"); });
+}
+
 /// The file gets its name only when it is complete.
 void MakeFile(const QString& path, DatabaseKind kind, const Fill& fill) {
     const QString unfinished = path + u".new";
     RemoveWithJournals(unfinished);
     Schema::Create(unfinished, kind);
     InOneTransaction(unfinished, kind, fill);
+    Compact(unfinished, kind);
     RemoveWithJournals(path);
     if (!QFile::rename(unfinished, path))
         throw RuntimeError(ErrorNumber::FileNotFound, path + u" cannot be written");
+}
+
+void InsertFoods(SQLite::Database& database, const TsvTable& foods) {
+    Insert(database, "FOODS", foods);
+    database.exec(NameIndex::Compaction);
 }
 
 /// The delivered foods in a table of this connection, with the column types of FOODS.
@@ -82,7 +95,7 @@ void ReplaceStockFoods(SQLite::Database& database, const TsvTable& foods) {
     if (!HasOthers(database, stock, delivered) && !HasOthers(database, delivered, stock))
         return;
     database.exec("DELETE FROM FOODS WHERE ID <= " + std::to_string(Schema::LastStockFood));
-    Insert(database, "FOODS", foods);
+    InsertFoods(database, foods);
 }
 
 } // namespace
@@ -119,7 +132,7 @@ void DeliveredDatabases::MakeUsers(const QString& path) const {
 void DeliveredDatabases::MakeFoods(const QString& path) const {
     const TsvTable foods = Table("foods.tsv");
     MakeFile(path, DatabaseKind::Foods,
-             [&](SQLite::Database& database) { Insert(database, "FOODS", foods); });
+             [&](SQLite::Database& database) { InsertFoods(database, foods); });
 }
 
 void DeliveredDatabases::UpdateFoods(const QString& path) const {
