@@ -10,8 +10,8 @@ QString OfUser(const Period& period) {
     return QString::number(User::Current().UID) + " AND " + period.Condition();
 }
 
-size_t DayOf(const Recordset& row) {
-    return size_t(row[QStringLiteral("UDate")].Day().day());
+size_t DayOf(const Field& date) {
+    return size_t(date.Day().day());
 }
 
 } // namespace
@@ -27,7 +27,7 @@ LoggedDays::Days LoggedDays::WithFood(const Period& month) {
     Recordset foods(UserDB(), "SELECT DISTINCT UDate FROM USER_FOODS WHERE UID=" + OfUser(month));
     Days days;
     for (; !foods.AtEnd(); foods.MoveNext())
-        days.set(DayOf(foods));
+        days.set(DayOf(foods[0]));
     return days;
 }
 
@@ -36,6 +36,6 @@ LoggedDays::Days LoggedDays::WithWeight(const Period& month) {
     Days days;
     for (; !weights.AtEnd(); weights.MoveNext())
         if (weights[QStringLiteral("Weight")].NumberOr(0) != 0)
-            days.set(DayOf(weights));
+            days.set(DayOf(weights[QStringLiteral("UDate")]));
     return days;
 }

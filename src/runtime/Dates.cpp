@@ -81,7 +81,10 @@ QDate Dates::Parse(QStringView text) {
 }
 
 QString Dates::ShortText(QDate date) {
-    return date.toString(QStringLiteral("M/d/yyyy"));
+    if (date.year() < 1000 || date.year() > 9999)
+        return date.toString(QStringLiteral("M/d/yyyy"));
+    return QString::number(date.month()) + u'/' + QString::number(date.day()) + u'/' +
+           QString::number(date.year());
 }
 
 int Dates::DaysBetween(QDate from, QDate to) {

@@ -23,9 +23,9 @@ void ucAALBL::SetCaption(const QString& caption) {
     TellNameChanged(this);
 }
 
+/// The change of the font fits the label.
 void ucAALBL::SetFont(const QFont& font) {
     setFont(font);
-    Fit();
 }
 
 void ucAALBL::SetBackColor(const QColor& color) {
@@ -43,19 +43,20 @@ void ucAALBL::SetForeColor(const QColor& color) {
 }
 
 QSize ucAALBL::sizeHint() const {
-    const QFontMetricsF metrics(SmoothedFont(font()));
-    return {qCeil(metrics.horizontalAdvance(caption_)), qCeil(metrics.height())};
+    return textSize_;
 }
 
-/// The label keeps the size of its text, whatever size a screen sets.
 void ucAALBL::Fit() {
+    const QFontMetricsF metrics(SmoothedFont(font()));
+    textSize_ = {qCeil(metrics.horizontalAdvance(caption_)), qCeil(metrics.height())};
     updateGeometry();
-    resize(sizeHint());
+    resize(textSize_);
     update();
 }
 
+/// The label keeps the size of its text, whatever size a screen sets.
 void ucAALBL::resizeEvent(QResizeEvent*) {
-    Fit();
+    resize(textSize_);
 }
 
 void ucAALBL::changeEvent(QEvent* event) {

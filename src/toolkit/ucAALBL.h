@@ -41,6 +41,7 @@ private:
     void Fit();
 
     QString caption_;
+    QSize textSize_;
     QColor backColor_;
     QColor foreColor_;
 };

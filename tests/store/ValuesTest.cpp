@@ -125,6 +125,16 @@ TEST_F(ValuesTest, DatesOfEveryEraAreFoundAgain) {
     }
 }
 
+TEST_F(ValuesTest, ATextThatOnlyLooksLikeADateIsReadAsText) {
+    for (const char* text : {"abcd-01-01", "-200-01-01", "+200-01-01", "0000-01-01", "2002-1a-01",
+                             "2002-13-01", "2002-02-30", "2002-01- 1"}) {
+        Run(users_, QStringLiteral("DELETE FROM USER_WEIGHTS"));
+        Run(users_, QStringLiteral("INSERT INTO USER_WEIGHTS VALUES (1, '%1', 150)")
+                        .arg(QLatin1String(text)));
+        EXPECT_EQ(Recordset(users_, "SELECT * FROM USER_WEIGHTS")["UDate"].Text(), text);
+    }
+}
+
 TEST_F(ValuesTest, ADateOfAnotherToolThatIsNoneIsReadAsText) {
     Run(users_, "INSERT INTO USER_WEIGHTS VALUES (1, 'soon', 150)");
     const Recordset set(users_, "SELECT * FROM USER_WEIGHTS");

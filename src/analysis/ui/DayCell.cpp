@@ -54,12 +54,9 @@ void DayCell::SetMarks(bool food, bool scale) {
 }
 
 void DayCell::Name(const QString& month) {
-    QString name = month + u' ' + Caption();
-    if (!imgFood_->isHidden())
-        name += QStringLiteral(", food logged");
-    if (!imgScale_->isHidden())
-        name += QStringLiteral(", weight logged");
-    setAccessibleName(name);
+    const QLatin1String food(imgFood_->isHidden() ? "" : ", food logged");
+    const QLatin1String weight(imgScale_->isHidden() ? "" : ", weight logged");
+    setAccessibleName(month + u' ' + Caption() + food + weight);
 }
 
 void DayCell::resizeEvent(QResizeEvent*) {

@@ -205,9 +205,10 @@ void ucCal_LG::ShowIcons() {
         food = LoggedDays::WithFood(month);
         weight = LoggedDays::WithWeight(month);
     }
+    const QString month = Dates::MonthName(date_.month());
     for (int day = 1; day <= date_.daysInMonth(); ++day) {
         CellAt(day)->SetMarks(food[size_t(day)], weight[size_t(day)]);
-        CellAt(day)->Name(Dates::MonthName(date_.month()));
+        CellAt(day)->Name(month);
     }
     ucCalButton_->setAccessibleName(CellAt(date_.day())->accessibleName() + ", chosen");
     picCalBG_->setAccessibleName(aadate_->Caption());

@@ -1,6 +1,7 @@
 #include "analysis/ui/ucPieChart.h"
 
 #include "analysis/LoggedPeriod.h"
+#include "analysis/LoggedSums.h"
 #include "analysis/ui/PieChart.h"
 #include "drawing/Style.h"
 #include "toolkit/ucBox.h"
@@ -35,12 +36,15 @@ ucPieChart::ucPieChart(QWidget* parent)
 }
 
 void ucPieChart::updatePie(QDate start, QDate end) {
-    LoggedPeriod logged({start, end});
-    updatePie(logged);
+    Show(LoggedSums::AverageEnergy({start, end}));
 }
 
 void ucPieChart::updatePie(LoggedPeriod& logged) {
-    pie_->Show(EnergyShares::Of(logged.AverageEnergy()));
+    Show(logged.AverageEnergy());
+}
+
+void ucPieChart::Show(const std::optional<Nuts>& average) {
+    pie_->Show(EnergyShares::Of(average));
     TellValueChanged();
 }
 

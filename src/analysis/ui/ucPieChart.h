@@ -4,8 +4,11 @@
 
 #include <QDate>
 
+#include <optional>
+
 class EnergyShares;
 class LoggedPeriod;
+class Nuts;
 class PieChart;
 class ucBox;
 
@@ -17,7 +20,7 @@ public:
     explicit ucPieChart(QWidget* parent = nullptr); ///< with three equal sectors
 
     void updatePie(LoggedPeriod& logged);
-    void updatePie(QDate start, QDate end);
+    void updatePie(QDate start, QDate end); ///< alone: reads only the four sums that it needs
     void AddOverLay();
     FigureTable Figures() const override;
     const EnergyShares& Energy() const;
@@ -26,6 +29,8 @@ protected:
     void resizeEvent(QResizeEvent*) override;
 
 private:
+    void Show(const std::optional<Nuts>& average);
+
     ucBox* box_;
     PieChart* pie_;
 };
