@@ -7,6 +7,7 @@
 
 namespace {
 constexpr double Unknown = -0.0;
+constexpr size_t UsualRows = 500; ///< of a piece of a log
 
 /// As SUM takes a value: a text counts as the number that it begins with.
 double NumberOf(sqlite3_value* value) {
@@ -41,7 +42,9 @@ void AmountRows::Register(sqlite3* database) {
 }
 
 AmountRows::AmountRows(size_t columns)
-    : known_(columns) {}
+    : known_(columns) {
+    amounts_.reserve(columns * UsualRows);
+}
 
 void AmountRows::Append(std::span<sqlite3_value*> row) {
     NoteDay(row.front());

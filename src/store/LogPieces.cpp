@@ -4,7 +4,7 @@
 
 namespace {
 constexpr qint64 LeastDays = 30;
-constexpr qint64 MostPieces = 128;
+constexpr qint64 MostPieces = 1024;
 
 QString Text(QDate day) {
     return day.toString(Qt::ISODate);
