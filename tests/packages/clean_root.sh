@@ -29,7 +29,7 @@ archive() {
 make_root() {
     apt-config dump --no-empty Acquire >"$work/acquire.conf"
     # shellcheck disable=SC2046
-    mmdebstrap --quiet --variant=apt --include=systemd,xvfb,xauth --aptopt="$work/acquire.conf" \
+    mmdebstrap --quiet --variant=apt --skip=cleanup/apt --include=systemd,xvfb,xauth --aptopt="$work/acquire.conf" \
         "$(. /etc/os-release && echo "$VERSION_CODENAME")" "$root" $(archive)
     cp /etc/resolv.conf "$root/etc/"
     mount -t proc proc "$root/proc"
@@ -56,7 +56,7 @@ make_before() {
 }
 
 install_all() {
-    inside apt-get -qq install -y --no-install-recommends -o Dpkg::Options::=--force-confold "$@" >"$work/apt" 2>&1 ||
+    inside apt-get -q install -y --no-install-recommends -o Dpkg::Options::=--force-confold "$@" >"$work/apt" 2>&1 ||
         { cat "$work/apt"; return 1; }
 }
 
@@ -128,11 +128,11 @@ grep -q 'workers = 4' "$root/etc/halvane-exchange.conf"
 exchange_starts_and_ends
 say "the upgraded exchange keeps its settings"
 
-inside apt-get -qq remove -y halvane halvane-exchange >/dev/null
+inside apt-get -qq remove -y halvane halvane-exchange >/dev/null 2>&1
 [ -z "$(inside find /usr -name '*halvane*' -print)" ]
 [ "$(answer anna users.mdb 'SELECT UserName FROM profiles')" = Anna ]
 [ -f "$root/etc/halvane-exchange.conf" ] && [ -f "$root/var/lib/halvane-exchange/exchange.db" ]
 say "a removal takes the programs, and leaves records, settings and recipes"
-inside apt-get -qq purge -y halvane halvane-exchange >/dev/null
+inside apt-get -qq purge -y halvane-exchange >/dev/null 2>&1
 [ -z "$(inside find /etc /usr /var/lib -name '*halvane*' -not -path '/var/lib/apt/*' -print)" ]
 say "a purge leaves nothing of the exchange"
