@@ -29,6 +29,12 @@ const MaskParts& PartsOf(NumberMask mask) {
     return table[static_cast<int>(mask)];
 }
 
+/// The digits are always 0 to 9. The separators of a locale with other digits do not fit them.
+QLocale Separators() {
+    const QLocale locale;
+    return locale.zeroDigit() == QStringLiteral("0") ? locale : QLocale::c();
+}
+
 QString Grouped(QString whole, const QString& separator) {
     for (qsizetype place = whole.size() - 3; place > 0; place -= 3)
         whole.insert(place, separator);
@@ -47,7 +53,7 @@ QString Format(double value, NumberMask mask) {
     if (!std::isfinite(value))
         return QString::number(value);
     const MaskParts& parts = PartsOf(mask);
-    const QLocale locale;
+    const QLocale locale = Separators();
     Decimal decimal = Decimal::Of(value);
     decimal.Shift(parts.shift);
     decimal.RoundTo(parts.decimals);
@@ -59,7 +65,7 @@ QString Format(double value, NumberMask mask) {
 }
 
 QString PlainNumber(QString formatted) {
-    const QLocale locale;
+    const QLocale locale = Separators();
     formatted.remove(locale.groupSeparator());
     return formatted.replace(locale.decimalPoint(), QStringLiteral("."));
 }

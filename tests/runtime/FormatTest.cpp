@@ -109,6 +109,15 @@ TEST(Format, SeparatorsAreThoseOfTheLocale) {
     EXPECT_EQ(Text(123.45, NumberMask::Percent), "12.345%");
 }
 
+TEST(Format, SeparatorsFitTheDigitsWhereTheLocaleHasOthers) {
+    for (const char* name : {"ar_EG", "fa_IR"}) {
+        const InLocale locale(name);
+        EXPECT_EQ(Format(3.56, NumberMask::UpToTwoDecimals), "3.56") << name;
+        EXPECT_EQ(Format(1234, NumberMask::Thousands), "1,234") << name;
+        EXPECT_EQ(PlainNumber(Format(1234, NumberMask::Thousands)), "1234") << name;
+    }
+}
+
 TEST(PlainNumber, KeepsAPointAtMostInEveryLocale) {
     EXPECT_EQ(PlainNumber("1,234,567").toStdString(), "1234567");
     EXPECT_EQ(PlainNumber("-12.5").toStdString(), "-12.5");
