@@ -116,8 +116,13 @@ constexpr Step Steps[] = {
     {"first window", ShowFirstWindow},
 };
 
+/// A Wayland compositor keeps to itself where a window is.
+bool PlatformTellsPlaces() {
+    return !QGuiApplication::platformName().startsWith(u"wayland");
+}
+
 void StorePosition() {
-    if (!TheNavigation().HasFrame())
+    if (!TheNavigation().HasFrame() || !PlatformTellsPlaces())
         return;
     const QPoint place = TheNavigation().Frame()->Place();
     SetRegValue(Settings::Left, QString::number(Twips::FromPixels(place.x())));

@@ -5,6 +5,7 @@
 
 #include <QMouseEvent>
 #include <QPainter>
+#include <QWindow>
 
 #include <utility>
 
@@ -18,15 +19,22 @@ TitleControl::~TitleControl() = default;
 void TitleControl::mousePressEvent(QMouseEvent* event) {
     PaintedPanel::mousePressEvent(event);
     pressed_ = event->position().toPoint();
+    platformMoves_ = false;
 }
 
 void TitleControl::mouseMoveEvent(QMouseEvent* event) {
     const bool held = event->buttons().testFlag(Qt::LeftButton);
-    if (held && !dragging_ && event->position().toPoint().x() != pressed_.x())
-        dragging_ = true;
+    if (held && !dragging_ && !platformMoves_ && event->position().toPoint().x() != pressed_.x())
+        BeginDrag();
     if (held && dragging_)
         DrawOutline(event->globalPosition().toPoint());
     PaintedPanel::mouseMoveEvent(event);
+}
+
+void TitleControl::BeginDrag() {
+    QWindow* moved = window()->windowHandle();
+    platformMoves_ = moved && moved->startSystemMove();
+    dragging_ = !platformMoves_;
 }
 
 void TitleControl::DrawOutline(QPoint cursor) {
