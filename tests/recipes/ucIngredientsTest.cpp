@@ -104,7 +104,7 @@ TEST_F(ucIngredientsTest, ANullServingIsAnEmptyText) {
     AddLine("Salt", QVariant(), 1);
     list.DisplayFoods(true);
     EXPECT_EQ(Line(1)->Serv(), "");
-    EXPECT_EQ(Line(1)->Caption(), "Salt, , (x 1)");
+    EXPECT_EQ(Line(1)->Caption(), "Salt, (x 1)");
 }
 
 TEST_F(ucIngredientsTest, LinesStandInTheOrderOfAddingOneBelowTheOther) {
