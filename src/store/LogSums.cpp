@@ -1,8 +1,8 @@
 #include "store/LogSums.h"
 
 #include "store/Connection.h"
+#include "store/LogPass.h"
 #include "store/LogPieceReader.h"
-#include "store/LogReading.h"
 #include "store/StatementCache.h"
 #include "store/StoreError.h"
 
@@ -57,13 +57,13 @@ std::unique_ptr<SQLite::Transaction> Hold(SQLite::Database& database) {
 AmountSums InPieces(Connection& connection, const LogRange& range) {
     const QString file = SharedFile(connection);
     const auto held = Hold(connection.Raw());
-    LogReading reading(range, PiecesOf(connection.Raw(), range));
-    return reading.Run(connection.Statements().Command(LogPieceReader::SQL(range)), file);
+    LogPass pass(range, PiecesOf(connection.Raw(), range));
+    return pass.Run(connection.Statements().Command(LogPieceReader::SQL(range)), file);
 }
 
 AmountSums AtOnce(Connection& connection, const LogRange& range) {
-    LogReading reading(range, {{Text(range.from), Text(range.to), {}}});
-    return reading.Run(connection.Statements().Command(LogPieceReader::SQL(range)), {});
+    LogPass pass(range, {{Text(range.from), Text(range.to), {}}});
+    return pass.Run(connection.Statements().Command(LogPieceReader::SQL(range)), {});
 }
 } // namespace
 

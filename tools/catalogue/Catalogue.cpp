@@ -24,7 +24,7 @@ void Catalogue::Number() {
         throw RuntimeError(ErrorNumber::Overflow, QStringLiteral("more foods than stock keys"));
     int id = Schema::LastStockFood - int(count);
     for (const ReleaseFood& food : release_.Foods())
-        foods_ << CatalogueFood{food, ++id};
+        foods_ << CatalogueRow{food, ++id};
 }
 
 void Catalogue::SetValuelessAside() {
@@ -45,7 +45,7 @@ TsvTable Catalogue::Table() const {
             << QStringLiteral("Serv_Desc_B") << QStringLiteral("Serv_GM_WT_A")
             << QStringLiteral("Serv_GM_WT_B") << QStringLiteral("NDB_No");
     TsvTable table(columns);
-    for (const CatalogueFood& food : foods_)
+    for (const CatalogueRow& food : foods_)
         table.Append(QStringList{QString::number(food.id)} + food.nutrients +
                      QStringList{food.name, food.servings.a.text, food.servings.b.text,
                                  food.servings.a.grams, food.servings.b.grams, food.number});

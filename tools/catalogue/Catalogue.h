@@ -4,7 +4,7 @@
 #include "foods/release/FoodRelease.h"
 
 /// A stock food of the catalogue.
-struct CatalogueFood : ReleaseFood {
+struct CatalogueRow : ReleaseFood {
     int id = 0;
 };
 
@@ -17,9 +17,9 @@ public:
     static Catalogue FromRelease(const QString& folder);
 
     const FoodRelease& Release() const { return release_; }
-    const QList<CatalogueFood>& Foods() const { return foods_; }
+    const QList<CatalogueRow>& Foods() const { return foods_; }
     /// Foods that are left out because they have no value at all.
-    const QList<CatalogueFood>& Valueless() const { return valueless_; }
+    const QList<CatalogueRow>& Valueless() const { return valueless_; }
 
     TsvTable Table() const;
 
@@ -29,6 +29,6 @@ private:
     void SetValuelessAside();
 
     FoodRelease release_;
-    QList<CatalogueFood> foods_;
-    QList<CatalogueFood> valueless_;
+    QList<CatalogueRow> foods_;
+    QList<CatalogueRow> valueless_;
 };

@@ -8,7 +8,7 @@
 
 namespace {
 
-using Foods = QList<CatalogueFood>;
+using Foods = QList<CatalogueRow>;
 
 QString Count(auto count) {
     return QLocale::c().toString(qlonglong(count));
@@ -36,7 +36,7 @@ QString Introduction() {
 
 int FilledMeasures(const Catalogue& catalogue) {
     int filled = 0;
-    for (const CatalogueFood& food : catalogue.Foods())
+    for (const CatalogueRow& food : catalogue.Foods())
         filled += food.servings.filledMeasures;
     return filled;
 }
@@ -51,7 +51,7 @@ QString ListOrNone(const QStringList& list) {
 
 QString Valueless(const Catalogue& catalogue) {
     QStringList list;
-    for (const CatalogueFood& food : catalogue.Valueless())
+    for (const CatalogueRow& food : catalogue.Valueless())
         list << food.number + u" (key " + QString::number(food.id) + u", \"" + food.name + u"\")";
     return list.isEmpty() ? ListOrNone(list)
                           : ListOrNone(list) +
@@ -88,7 +88,7 @@ QString Nutrients(const Catalogue& catalogue) {
         "## Nutrients\n\nFields are those of `ABBREV.txt` in the 51-field layout; amounts are for "
         "100 grams.\n\n| column | field | known | null |\n|---|---|---:|---:|\n");
     for (qsizetype i = 0; const FoodColumn& column : FoodColumns()) {
-        const int nulls = CountIf(catalogue.Foods(), [i](const CatalogueFood& food) {
+        const int nulls = CountIf(catalogue.Foods(), [i](const CatalogueRow& food) {
             return food.nutrients[i].isEmpty();
         });
         text += Row({QLatin1String(column.name), Source(column),
@@ -96,7 +96,7 @@ QString Nutrients(const Catalogue& catalogue) {
         ++i;
     }
     const int plain =
-        CountIf(catalogue.Foods(), [](const CatalogueFood& food) { return food.plainFolate; });
+        CountIf(catalogue.Foods(), [](const CatalogueRow& food) { return food.plainFolate; });
     text += u"\nFolate is in dietary equivalents; for " + Count(plain) +
             u" foods only the total (field 27) is known and stands in.\n\n"
             "Fields not mapped: 2 (short description), 10 (sugars), 28 (folic acid), 29 (food "
@@ -107,7 +107,7 @@ QString Nutrients(const Catalogue& catalogue) {
 
 QString Filled(const Catalogue& catalogue) {
     QString text = QStringLiteral("| food | name | A | B |\n|---|---|---|---|\n");
-    for (const CatalogueFood& food : catalogue.Foods())
+    for (const CatalogueRow& food : catalogue.Foods())
         if (food.servings.filledMeasures)
             text += Row({food.number, food.name, food.servings.a.text, food.servings.b.text});
     return text;
@@ -117,10 +117,10 @@ QString ServingCounts(const Catalogue& catalogue) {
     QString text = QStringLiteral(
         "| measures | in `ABBREV.txt` | with those of `WEIGHT.txt` |\n|---|---:|---:|\n");
     for (const int wanted : {2, 1, 0}) {
-        const int own = CountIf(catalogue.Foods(), [wanted](const CatalogueFood& food) {
+        const int own = CountIf(catalogue.Foods(), [wanted](const CatalogueRow& food) {
             return food.servings.ownMeasures == wanted;
         });
-        const int after = CountIf(catalogue.Foods(), [wanted](const CatalogueFood& food) {
+        const int after = CountIf(catalogue.Foods(), [wanted](const CatalogueRow& food) {
             return food.servings.ownMeasures + food.servings.filledMeasures == wanted;
         });
         text += Row({QString::number(wanted), Count(own), Count(after)});
@@ -130,7 +130,7 @@ QString ServingCounts(const Catalogue& catalogue) {
 
 QString ServingSection(const Catalogue& catalogue) {
     const int secondOnly = CountIf(
-        catalogue.Foods(), [](const CatalogueFood& food) { return food.servings.secondOnly; });
+        catalogue.Foods(), [](const CatalogueRow& food) { return food.servings.secondOnly; });
     return u"## Servings\n\nServing A is a food's first household measure, serving B its second. "
            "Where `ABBREV.txt` has fewer than two, further ones are taken from `WEIGHT.txt` in "
            "its sequence (amount, blank, measure). A food with one measure gets \"100 grams\" as "

@@ -1,4 +1,4 @@
-#include "store/LogReading.h"
+#include "store/LogPass.h"
 
 #include "store/LogPieceReader.h"
 #include "store/Prepared.h"
@@ -8,14 +8,14 @@
 #include <future>
 #include <utility>
 
-LogReading::LogReading(const LogRange& range, std::vector<LogPiece> pieces)
+LogPass::LogPass(const LogRange& range, std::vector<LogPiece> pieces)
     : range_(range)
     , pieces_(std::move(pieces))
     , sums_(static_cast<size_t>(range.columns.size()))
     , kept_(pieces_.size()) {}
 
 /// Where no thread can be started, the help comes when there is nothing left to read.
-AmountSums LogReading::Run(Prepared& statement, const QString& file) {
+AmountSums LogPass::Run(Prepared& statement, const QString& file) {
     std::future<void> help;
     if (!file.isEmpty() && pieces_.size() > 1)
         help = std::async([this, &file] { Help(file); });
@@ -28,7 +28,7 @@ AmountSums LogReading::Run(Prepared& statement, const QString& file) {
 }
 
 /// Nothing is lost if this fails: it reads no longer.
-void LogReading::Help(const QString& file) {
+void LogPass::Help(const QString& file) {
     try {
         SQLite::Database database(file.toStdString(), SQLite::OPEN_READONLY | SQLite::OPEN_NOMUTEX);
         AmountRows::Register(database.getHandle());
@@ -41,7 +41,7 @@ void LogReading::Help(const QString& file) {
     }
 }
 
-void LogReading::ReadAndAdd(LogPieceReader& reader) {
+void LogPass::ReadAndAdd(LogPieceReader& reader) {
     while (const std::optional<size_t> piece = Take()) {
         Keep(*piece, reader.Read(pieces_[*piece]));
         AddKept();
@@ -49,27 +49,27 @@ void LogReading::ReadAndAdd(LogPieceReader& reader) {
 }
 
 /// What the second thread has read last, and what it has failed to read.
-void LogReading::AddRest(LogPieceReader& reader) {
+void LogPass::AddRest(LogPieceReader& reader) {
     for (AddKept(); added_ < pieces_.size(); AddKept())
         Keep(added_, reader.Read(pieces_[added_]));
 }
 
-std::optional<size_t> LogReading::Take() {
+std::optional<size_t> LogPass::Take() {
     const std::lock_guard lock(mutex_);
     return taken_ < pieces_.size() ? std::optional(taken_++) : std::nullopt;
 }
 
-void LogReading::Keep(size_t piece, AmountRows rows) {
+void LogPass::Keep(size_t piece, AmountRows rows) {
     const std::lock_guard lock(mutex_);
     kept_[piece] = std::move(rows);
 }
 
-std::optional<AmountRows> LogReading::NextKept() {
+std::optional<AmountRows> LogPass::NextKept() {
     const std::lock_guard lock(mutex_);
     return added_ < kept_.size() ? std::exchange(kept_[added_], std::nullopt) : std::nullopt;
 }
 
-void LogReading::AddKept() {
+void LogPass::AddKept() {
     while (const std::optional<AmountRows> rows = NextKept()) {
         sums_.Add(*rows);
         ++added_;

@@ -11,12 +11,12 @@
 class LogPieceReader;
 class Prepared;
 
-/// One reading of a log in pieces: two threads take turns, and the one that asked adds the pieces
+/// One pass over a log in pieces: two threads take turns, and the one that asked adds the pieces
 /// up in their order. What the other one cannot read, it reads itself, so only its own failures
 /// count.
-class LogReading {
+class LogPass {
 public:
-    LogReading(const LogRange& range, std::vector<LogPiece> pieces);
+    LogPass(const LogRange& range, std::vector<LogPiece> pieces);
 
     /// With this statement; `file` is what the second thread opens, or empty if there is none.
     AmountSums Run(Prepared& statement, const QString& file);
