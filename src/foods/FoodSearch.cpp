@@ -19,6 +19,7 @@ void ReadSource(FoodList& foods, Connection& connection, const QString& source, 
             foods.Add(rows[0].Text(), recipes, rows[1].Integer(), rows[2].Value(),
                       recipes ? QVariant(QString()) : rows[3].Value());
 }
+
 /// Returns whether it has read them; if not, it has added nothing.
 bool ReadNarrowed(FoodList& foods, const std::optional<NarrowedSearch>& search,
                   NarrowedSearch::Part part) {
