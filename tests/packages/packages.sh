@@ -81,8 +81,9 @@ release_is_that_of_the_version() {
         "$work/halvane/usr/share/metainfo/halvane.metainfo.xml"
 }
 
+# Files may hold relative paths: the source folder `/src` is not that of `../../src/runtime`.
 no_file_names_this_machine() {
-    ! grep -rlaF -e "$source" -e "$build" "$work/halvane" "$work/halvane-exchange"
+    ! LC_ALL=C grep -rlaP "(?<![\\w.])(\\Q$source\\E|\\Q$build\\E)(?!\\w)" "$work/halvane" "$work/halvane-exchange"
 }
 
 no_file_names_a_host() {
