@@ -133,7 +133,6 @@ void DiskWatch::Synced(int descriptor) {
     Record({.kind = DiskStep::Sync, .file = NumberOf(descriptor)});
 }
 
-/// The system gives the number of a deleted file again.
 void DiskWatch::Created(const char* path) {
     struct stat file;
     if (stat(path, &file) != 0)
@@ -163,4 +162,8 @@ void DiskWatch::Moved(const char* from, const char* to) {
                 .from = NameOf(from),
                 .to = NameOf(to),
                 .isFolder = S_ISDIR(file.st_mode)});
+}
+
+void DiskWatch::Ended(ino_t number) {
+    numbers_.erase(number);
 }

@@ -43,6 +43,8 @@ public:
     void Linked(const char* path);
     void Left(const char* path);
     void Moved(const char* from, const char* to);
+    /// The system gives its number to another file, perhaps to one outside the folder.
+    void Ended(ino_t number);
 
 private:
     int NumberOf(const struct stat& file) const; ///< -1 if it is not watched

@@ -150,6 +150,19 @@ TEST_F(DiskWatchTest, WhatIsNotSyncedCanBeLostOrTornAndWhatIsSyncedStays) {
         EXPECT_EQ(files["file"], QByteArray(1024, 'b'));
 }
 
+TEST_F(DiskWatchTest, AFileWithoutANameIsWatchedNoMore) {
+    const DiskTrace trace = TraceOf([&] {
+        for (const bool isReplaced : {false, true}) {
+            QFile file(Place("file"));
+            ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
+            Write(Place("other"), "other");
+            isReplaced ? Disk::Move(Place("other"), Place("file")) : Disk::Remove(Place("file"));
+            file.write("as another file does that gets its number");
+        }
+    });
+    EXPECT_EQ(std::ranges::count(trace.steps, DiskStep::Write, &DiskStep::kind), 2);
+}
+
 TEST_F(DiskWatchTest, ANameIsSafeOnceItsFolderIsSynced) {
     Write(Place("old"), "bytes");
     const auto move = [&] { Disk::Move(Place("old"), Place("new")); };

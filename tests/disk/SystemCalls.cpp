@@ -130,13 +130,27 @@ template <class Call> int SyncWith(int file, Call call) {
     return Watched(DiskCall::Sync, file, call, [&](DiskWatch& watch, int) { watch.Synced(file); });
 }
 
+/// What ends if the path loses its name: a file may have another one.
+ino_t EndingWith(const char* path) {
+    struct stat file;
+    const bool isThere = lstat(path, &file) == 0;
+    return isThere && (file.st_nlink == 1 || S_ISDIR(file.st_mode)) ? file.st_ino : 0;
+}
+
 template <class Call> int LeaveWith(const char* path, Call call) {
-    return Watched(DiskCall::Leave, path, call, [&](DiskWatch& watch, int) { watch.Left(path); });
+    const ino_t ended = EndingWith(path);
+    return Watched(DiskCall::Leave, path, call, [&](DiskWatch& watch, int) {
+        watch.Left(path);
+        watch.Ended(ended);
+    });
 }
 
 template <class Call> int MoveWith(const char* from, const char* to, Call call) {
-    return Watched(DiskCall::Enter, to, call,
-                   [&](DiskWatch& watch, int) { watch.Moved(from, to); });
+    const ino_t replaced = EndingWith(to);
+    return Watched(DiskCall::Enter, to, call, [&](DiskWatch& watch, int) {
+        watch.Moved(from, to);
+        watch.Ended(replaced);
+    });
 }
 
 template <class Call> int LinkWith(const char* to, Call call) {

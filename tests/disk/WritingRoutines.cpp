@@ -1,9 +1,9 @@
 #include "disk/WritingRoutines.h"
 
-#include "foods/delivery/TsvTable.h"
-#include "foods/delivery/DeliveredDatabases.h"
 #include "foods/CustomFoods.h"
 #include "foods/ScaledFood.h"
+#include "foods/delivery/DeliveredDatabases.h"
+#include "foods/delivery/TsvTable.h"
 #include "intake/DayLog.h"
 #include "intake/LoggedEntries.h"
 #include "model/Profiles.h"
