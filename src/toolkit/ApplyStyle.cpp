@@ -1,7 +1,7 @@
 #include "toolkit/ApplyStyle.h"
 
 #include "drawing/Style.h"
-#include "toolkit/CheckBoxStyle.h"
+#include "toolkit/StockStyle.h"
 
 #include <QApplication>
 #include <QPalette>
@@ -59,8 +59,8 @@ ListBox { background: %paper; border: 2px solid %paper; outline: none; }
 ListBox:focus { border-color: %frame; }
 frmAlert QScrollArea { border: 1px solid %canvas; }
 frmAlert QScrollArea:focus { border-color: %frame; }
-QPrintPreviewWidget QGraphicsView { border: 2px solid %rule; }
-QPrintPreviewWidget QGraphicsView:focus { border-color: %frame; }
+QPrintPreviewWidget QGraphicsView { border: 1px solid %frame; padding: 1px; }
+QPrintPreviewWidget QGraphicsView:focus { border-width: 2px; padding: 0; }
 ListBox:disabled { background: %canvas; border-color: %canvas; }
 QToolTip { background: %paper; color: %ink; border: 1px solid %frame; padding: 3px 5px; }
 QCheckBox { color: %ink; spacing: 6px; background: transparent; }
@@ -149,7 +149,7 @@ QString SheetOf(const Style& style) {
 
 void ApplyStyle(QApplication& application) {
     const Style& style = TheStyle();
-    QApplication::setStyle(new CheckBoxStyle);
+    QApplication::setStyle(new StockStyle);
     QApplication::setPalette(PaletteOf(style));
     QApplication::setFont(style.text);
     application.setStyleSheet(SheetOf(style));

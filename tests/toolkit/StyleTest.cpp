@@ -1,4 +1,5 @@
 #include "drawing/Style.h"
+#include "drawing/Contrast.h"
 #include "drawing/StyleOnPaper.h"
 #include "drawing/Twips.h"
 #include "support/HalvaneTest.h"
@@ -8,6 +9,8 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QLineEdit>
+#include <QMenu>
+#include <QStyle>
 
 namespace {
 
@@ -29,6 +32,27 @@ constexpr StyleKind EveryKind[] = {StyleKind::Light, StyleKind::Dark, StyleKind:
 QColor InsideOf(QCheckBox& box) {
     constexpr QPoint besideTheMark(4, 4);
     return Grab(&box).pixelColor(QPoint(0, (box.height() - 16) / 2) + besideTheMark);
+}
+
+int PixelsOf(const QImage& image, const QRect& place, const QColor& colour) {
+    int found = 0;
+    for (int y = place.top(); y <= place.bottom(); ++y)
+        for (int x = place.left(); x <= place.right(); ++x)
+            found += image.pixelColor(x, y) == colour;
+    return found;
+}
+
+/// The strongest contrast to the ground at the right end of the first item, where its arrow is.
+double ContrastOfArrow(QMenu& menu) {
+    constexpr int arrowRoom = 18;
+    const QImage drawn = Grab(&menu);
+    const QRect item = menu.actionGeometry(menu.actions().first());
+    const QColor ground = drawn.pixelColor(item.right() - arrowRoom, item.top() + 2);
+    double strongest = 1;
+    for (int y = item.top(); y <= item.bottom(); ++y)
+        for (int x = item.right() - arrowRoom; x < item.right(); ++x)
+            strongest = qMax(strongest, Contrast(drawn.pixelColor(x, y), ground));
+    return strongest;
 }
 
 } // namespace
@@ -116,6 +140,31 @@ TEST_F(StyleTest, CheckBoxesHaveTheColoursOfEveryStyle) {
         EXPECT_EQ(InsideOf(box), TheStyle().checkDisabledOn);
         box.setChecked(false);
         EXPECT_EQ(InsideOf(box), TheStyle().canvas);
+    }
+}
+
+TEST_F(StyleTest, TheArrowOfASubmenuIsSeenAtRestAndUnderThePointer) {
+    for (const StyleKind kind : EveryKind) {
+        Use(kind);
+        QMenu menu;
+        QAction* item = menu.addMenu(QStringLiteral("Move"))->menuAction();
+        menu.resize(menu.sizeHint());
+        EXPECT_GE(ContrastOfArrow(menu), 4.5) << int(kind);
+        menu.setActiveAction(item);
+        EXPECT_GE(ContrastOfArrow(menu), 4.5) << int(kind);
+    }
+}
+
+TEST_F(StyleTest, MessageBoxesHavePicturesInTheInkOfHeadings) {
+    for (const StyleKind kind : EveryKind) {
+        Use(kind);
+        for (const QStyle::StandardPixmap picture :
+             {QStyle::SP_MessageBoxInformation, QStyle::SP_MessageBoxQuestion,
+              QStyle::SP_MessageBoxWarning, QStyle::SP_MessageBoxCritical}) {
+            const QImage drawn =
+                QApplication::style()->standardIcon(picture).pixmap(QSize(128, 128)).toImage();
+            EXPECT_GT(PixelsOf(drawn, drawn.rect(), TheStyle().heading), 100) << picture;
+        }
     }
 }
 
