@@ -112,8 +112,21 @@ void Pages::Heading(const QString& text) {
     painter_.setFont(TheStyle().title);
     painter_.setPen(TheStyle().heading);
     painter_.drawText(place, Qt::AlignLeft | Qt::AlignVCenter, text);
-    painter_.fillRect(0, place.bottom(), Width(), 1, TheStyle().headerEdge);
+    PaintRule(QRect(0, place.bottom(), Width(), 1), TheStyle().headerEdge);
     Advance(HeadingHeight + HeadingFoot);
+}
+
+void Pages::Rule(int width, int height, const QColor& colour) {
+    PaintRule(QRect(0, y_, width, height), colour);
+    Advance(height);
+}
+
+/// Smoothed: in a preview that is smaller than the page, a thin rule could fall between the pixels.
+void Pages::PaintRule(const QRect& place, const QColor& colour) {
+    painter_.save();
+    painter_.setRenderHint(QPainter::Antialiasing);
+    painter_.fillRect(place, colour);
+    painter_.restore();
 }
 
 void Pages::Paragraph(const QString& text, const QFont& font, const QColor& ink) {

@@ -31,7 +31,8 @@ public:
 
     // Each of these advances.
     void Line(const QString& text, const QFont& font, const QColor& ink); ///< one line of text
-    void Heading(const QString& text); ///< of a part, with a rule
+    void Heading(const QString& text);                      ///< of a part, with a rule
+    void Rule(int width, int height, const QColor& colour); ///< seen in a preview of any size
     /// A paragraph as wide as the page, whole on one page.
     void Paragraph(const QString& text, const QFont& font, const QColor& ink);
     /// A text of any length. It goes on over the pages.
@@ -52,6 +53,7 @@ private:
         int width = 0;
     };
     void Lines(const QString& text, const Side& side, const QFont& font, const QColor& ink);
+    void PaintRule(const QRect& place, const QColor& colour);
     void BeginPage();
     void PaintFoot();
 

@@ -18,6 +18,7 @@
 #include "toolkit/print/PrintJob.h"
 
 #include <QApplication>
+#include <QGraphicsView>
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
@@ -123,6 +124,25 @@ protected:
                 confirm();
             },
             [] { Key(Qt::Key_Return); });
+    }
+
+    /// The rules of a table that is whole in the preview, counted between its captions and figures.
+    static int InkedRuns(const QImage& drawn) {
+        const int column = LeftOfPaper(drawn) + drawn.height() / 5;
+        const auto inked = [&](int y) {
+            const QColor at = drawn.pixelColor(column, y); // the ground is light, and no grey
+            return qGray(at.rgb()) < 230 || (at.red() == at.blue() && at != QColor(Qt::white));
+        };
+        int runs = 0;
+        for (int y = 1; y < drawn.height(); ++y)
+            runs += inked(y) && !inked(y - 1);
+        return runs;
+    }
+    static int LeftOfPaper(const QImage& drawn) {
+        int x = 0;
+        while (drawn.pixelColor(x, drawn.height() / 2) == TheStyle().scrollSlot)
+            ++x;
+        return x;
     }
 
     const QDate today_{2026, 11, 21};
@@ -242,6 +262,35 @@ TEST_F(PrintingTest, TheContextMenuOffersThePreview) {
         Activate(TheNavigation().Frame());
         InPreview([](QWidget*) {}); // the key works as before
     }
+}
+
+TEST_F(PrintingTest, InThePreviewThePaperLiesFlatOnTheGround) {
+    Weigh();
+    Open<frmReport>(Screens::Report);
+    InPreview([](QWidget* preview) {
+        const QImage drawn = Grab(preview->findChild<QGraphicsView*>()->viewport());
+        const int row = drawn.height() / 2;
+        int x = drawn.width() - 1;
+        while (x > 0 && drawn.pixelColor(x, row) == TheStyle().scrollSlot)
+            --x;
+        EXPECT_LT(x, drawn.width() - 3);
+        EXPECT_EQ(drawn.pixelColor(x - 1, row), QColor(Qt::white));
+    });
+}
+
+TEST_F(PrintingTest, EveryRuleOfTheFactsIsSeenInASmallPreview) {
+    frmNutInfo facts;
+    WithModal(
+        [&](QWidget* details) {
+            Activate(details);
+            InPreview([](QWidget* preview) {
+                auto* view = preview->findChild<QGraphicsView*>();
+                QMetaObject::invokeMethod(Find(preview, QStringLiteral("pages")), "fitInView");
+                EXPECT_EQ(InkedRuns(Grab(view->viewport())),
+                          NutrientCount + 2); // with the calories from fat and a heavy rule
+            });
+        },
+        [&] { facts.showFood(Oats()); });
 }
 
 TEST_F(PrintingTest, APdfIsMadeWithTheKeyboardAlone) {

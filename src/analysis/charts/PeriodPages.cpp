@@ -11,6 +11,9 @@ namespace {
 
 constexpr auto BarsHeading = "Average day in percent of the targets";
 constexpr auto ValuesHeading = "Average nutrient values";
+/// As wide as the other pictures with a frame.
+constexpr QSize WeightsSize(PeriodPicture::UsualSize.width(),
+                            WeightCurvePainting::UsualSize.height());
 
 } // namespace
 
@@ -69,7 +72,7 @@ void PeriodPages::PaintWeights(Pages& pages) const {
     pages.Figure(weights.mean.size() < 2
                      ? QStringLiteral("Weight (lbs)")
                      : QStringLiteral("Weight (lbs); the thin dark line is its seven-day mean"),
-                 WeightCurvePainting::UsualSize, [this](QPainter& painter) {
-                     WeightCurvePainting::Paint(painter, weights, WeightCurvePainting::UsualSize);
+                 WeightsSize, [this](QPainter& painter) {
+                     WeightCurvePainting::Paint(painter, weights, WeightsSize);
                  });
 }

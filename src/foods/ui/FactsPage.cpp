@@ -14,11 +14,6 @@ int TableWidth(const Pages& pages) {
     return qMin(WidestTable, pages.Width());
 }
 
-void Rule(Pages& pages, int height, const QColor& colour) {
-    pages.Painter().fillRect(0, pages.Y(), TableWidth(pages), height, colour);
-    pages.Advance(height);
-}
-
 void PaintCells(Pages& pages, const FactsPage::Row& row, const QFont& captionFont,
                 const QFont& figureFont) {
     QPainter& painter = pages.Painter();
@@ -36,7 +31,7 @@ void PaintCells(Pages& pages, const FactsPage::Row& row, const QFont& captionFon
 void PaintRow(Pages& pages, const FactsPage::Row& row) {
     pages.MakeRoom(RowHeight + 1);
     PaintCells(pages, row, TheStyle().text, TheStyle().strong);
-    Rule(pages, 1, TheStyle().factsRule);
+    pages.Rule(TableWidth(pages), 1, TheStyle().factsRule);
 }
 
 } // namespace
@@ -46,12 +41,12 @@ void FactsPage::Paint(Pages& pages) const {
     pages.Flow(food, style.cardTitle, style.heading);
     pages.Flow("Serving Size  " + serving, style.text, style.ink);
     pages.Advance(Space);
-    Rule(pages, HeavyRule, style.ink);
+    pages.Rule(TableWidth(pages), HeavyRule, style.ink);
     PaintCells(pages, {QString(), QStringLiteral("Amount Per Serving"), "% Daily Value"},
                style.small, style.small);
     for (const Row& row : headlines)
         PaintRow(pages, row);
-    Rule(pages, HeavyRule, style.ink);
+    pages.Rule(TableWidth(pages), HeavyRule, style.ink);
     for (const Row& row : others)
         PaintRow(pages, row);
 }

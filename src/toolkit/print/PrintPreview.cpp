@@ -11,6 +11,7 @@
 #include "toolkit/ucRadio.h"
 
 #include <QFile>
+#include <QGraphicsPathItem>
 #include <QGraphicsView>
 #include <QLocale>
 #include <QPrintDialog>
@@ -39,6 +40,17 @@ bool IsWhole(const QString& pdf) {
     QFile file(pdf);
     return file.open(QIODevice::ReadOnly) && file.seek(file.size() - Ending) &&
            file.readAll().contains("%%EOF");
+}
+
+/// The preview paints a black shadow at two sides of a page. An area in the colour of the ground
+/// covers it; its inner edge is the edge of the paper.
+void CoverShadow(QGraphicsItem* page, QSizeF paper) {
+    QPainterPath around;
+    around.addRect(page->boundingRect());
+    around.addRect(QRectF(QPointF(), paper));
+    auto* cover = new QGraphicsPathItem(around, page);
+    cover->setBrush(TheStyle().scrollSlot);
+    cover->setPen(Qt::NoPen);
 }
 
 /// The platform may make a file name of it.
@@ -111,12 +123,20 @@ void PrintPreview::AddPages(const QRect& place) {
     view->setBackgroundBrush(TheStyle().scrollSlot);
     connect(pages_, &QPrintPreviewWidget::paintRequested, this,
             [this](QPrinter* device) { PaintOn(*device); });
-    connect(pages_, &QPrintPreviewWidget::previewChanged, this,
-            [this] { lblPages_->setText(Counted(pages_->pageCount(), "page", "pages")); });
+    connect(pages_, &QPrintPreviewWidget::previewChanged, this, [this] { ShowMadePages(); });
     connect(new QShortcut(QKeySequence::ZoomIn, this), &QShortcut::activated, pages_,
             [this] { pages_->zoomIn(); });
     connect(new QShortcut(QKeySequence::ZoomOut, this), &QShortcut::activated, pages_,
             [this] { pages_->zoomOut(); });
+}
+
+/// The preview makes its pages anew each time.
+void PrintPreview::ShowMadePages() {
+    lblPages_->setText(Counted(pages_->pageCount(), "page", "pages"));
+    const QSizeF paper = printer_.pageLayout().fullRectPixels(printer_.resolution()).size();
+    for (QGraphicsItem* item : pages_->findChild<QGraphicsView*>()->items())
+        if (!item->parentItem() && item->childItems().isEmpty())
+            CoverShadow(item, paper);
 }
 
 void PrintPreview::UsePaper(size_t paper) {

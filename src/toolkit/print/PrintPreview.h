@@ -25,6 +25,7 @@ private:
     QRect AddButtons(); ///< gives the place above them
     void PlacePapers(QPoint place, int height);
     void AddPages(const QRect& place);
+    void ShowMadePages(); ///< their number, and each without its shadow
     void UsePaper(size_t paper);
     void Print();
     bool PaintOn(QPrinter& device) const; ///< false if it cannot be written
