@@ -22,7 +22,8 @@ int RoomForText(const QRect& row) {
     return row.width() - 2 * TextMargin;
 }
 
-/// A line: text on paper with a rule below, or white on slate if it is chosen.
+/// A line: text on paper with a rule below, or white on slate if it is chosen. The chosen line of a
+/// disabled list has only a frame, so that its grey text stays on the ground that it is made for.
 class LinePainter : public QStyledItemDelegate {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
@@ -37,9 +38,11 @@ public:
         const bool usable = option.state.testFlag(QStyle::State_Enabled);
         const bool chosen = option.state.testFlag(QStyle::State_Selected);
         const QRect row = option.rect;
-        if (chosen)
-            painter->fillRect(row, usable ? style.chosenRow : style.rule);
+        if (chosen && usable)
+            painter->fillRect(row, style.chosenRow);
         PaintEdge(*painter, row, Qt::BottomEdge, style.rule);
+        if (chosen && !usable)
+            PaintFrame(*painter, row, style.disabledInk);
         painter->setPen(!usable ? style.disabledInk : chosen ? style.chosenRowText : style.ink);
         const double height = QFontMetricsF(SmoothedFont(style.text)).height();
         SmoothedPrint(

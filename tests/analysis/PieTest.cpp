@@ -120,6 +120,15 @@ TEST_F(PieTest, InDarkStylesSectorsAreSeenOnTheirGroundAndBesideEachOther) {
     UseStyle(StyleKind::Light);
 }
 
+TEST_F(PieTest, InHighContrastEachSectorIsLighterThanTheOneBeforeAndHasALightOutline) {
+    UseStyle(StyleKind::HighContrast);
+    const auto [fat, protein, carbs] = Pie(Small()).ShownColours();
+    EXPECT_GE(Contrast(protein, fat), 1.4);
+    EXPECT_GE(Contrast(carbs, protein), 1.4);
+    EXPECT_GE(Contrast(TheStyle().pieEdge, TheStyle().paper), 4.5);
+    UseStyle(StyleKind::Light);
+}
+
 TEST_F(PieTest, AFurtherOverlayBlendsAgain) {
     Pie pie(Small());
     pie.Show({0.25, 0.25, 0.5});

@@ -182,6 +182,55 @@ TEST_P(ContrastTest, OneOfTheTwoLinesOfTheFocusRingIsSeenOnEveryGround) {
             << ground.name().toStdString();
 }
 
+namespace {
+
+/// Colours as a person sees them who sees only lightness.
+void ExpectSteps(const char* what, const QList<QColor>& states) {
+    constexpr double leastStep = 1.4;
+    for (qsizetype i = 0; i < states.size(); ++i)
+        for (qsizetype j = 0; j < i; ++j)
+            EXPECT_GE(Contrast(states[i], states[j]), leastStep)
+                << what << ", states " << j << " and " << i;
+}
+
+/// A disabled face differs by its text.
+template <size_t States> QList<QColor> GroundsOf(const Style::ButtonFace (&faces)[States]) {
+    QList<QColor> grounds;
+    for (size_t state = 0; state < 3; ++state)
+        grounds << faces[state].ground.to;
+    return grounds;
+}
+
+} // namespace
+
+TEST(HighContrastTest, RestHoverAndPressedDifferInLightness) {
+    UseStyle(StyleKind::HighContrast);
+    const Style& style = TheStyle();
+    ExpectSteps("button", GroundsOf(style.button));
+    ExpectSteps("main action", GroundsOf(style.mainAction));
+    ExpectSteps("chosen day", GroundsOf(style.dayButton));
+    ExpectSteps("navigation", {style.navigation, style.navigationLit, style.navigationPressed});
+    UseStyle(StyleKind::Light);
+}
+
+TEST(HighContrastTest, AChosenViewDiffersInLightnessFromOneAtRestAndOneUnderThePointer) {
+    UseStyle(StyleKind::HighContrast);
+    const Style& style = TheStyle();
+    ExpectSteps("view button",
+                {style.button[0].ground.to, style.button[1].ground.to, style.chosenDay.to});
+    UseStyle(StyleKind::Light);
+}
+
+TEST(HighContrastTest, ALitBarHasAnotherPatternThanABarAtRest) {
+    UseStyle(StyleKind::HighContrast);
+    const Style& style = TheStyle();
+    int unlike = 0;
+    for (size_t row = 0; row < std::size(style.barNormal); ++row)
+        unlike += Contrast(style.barNormal[row], style.barHover[row]) >= 3;
+    EXPECT_GE(unlike, 2);
+    UseStyle(StyleKind::Light);
+}
+
 /// The first two show only while the pointer is there; before and after, the same text is black.
 TEST_P(ContrastTest, TextsWhoseColoursAreFixedInTheLightStyleHaveThreeToOneThere) {
     const Style& style = TheStyle();

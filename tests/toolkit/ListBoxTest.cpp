@@ -246,7 +246,10 @@ TEST_F(ListBoxTest, ADisabledListShowsItsChoiceQuietlyAndTakesNoClick) {
     list.SetListIndex(1);
     clicks.clear();
     list.setProperty("Enabled", false);
-    EXPECT_EQ(GroundOf(1), TheStyle().rule);
+    EXPECT_EQ(GroundOf(1), TheStyle().canvas); // on which grey text can be read
+    const QPoint corner =
+        list.viewport()->mapToParent(list.visualRect(list.currentIndex()).topLeft());
+    EXPECT_EQ(Grab(&list).pixelColor(corner + QPoint(20, 0)), TheStyle().disabledInk);
     ClickLine(0);
     EXPECT_EQ(list.ListIndex(), 1);
     EXPECT_EQ(clicks.count(), 0);
