@@ -77,6 +77,11 @@ void ucAte::SetID(const QString& id) {
     id_ = id;
 }
 
+void ucAte::KeepClear(int room) {
+    clear_ = room;
+    update();
+}
+
 QString ucAte::Caption() const {
     QStringList parts{foodName_, serv_, qty_};
     parts.removeAll(QString());
@@ -93,7 +98,7 @@ QRect ucAte::TrashPlace() const {
 
 QRect ucAte::TextPlace() const {
     const int left = TextLeft + (FoodIcon().isEmpty() ? 0 : IconSide + TheStyle().groupGap);
-    const int right = width() - TrashRight - TrashSide - TextRight;
+    const int right = width() - TrashRight - TrashSide - TextRight - clear_;
     return {left, 0, qMax(0, right - left), height()};
 }
 

@@ -24,8 +24,9 @@ public:
     void SetQTY(const QString& quantity); ///< the user cannot edit it
     QString ID() const { return id_; }
     void SetID(const QString& id);
-    QString Caption() const; ///< the line in words, for assistive tools
-    void Remove();           ///< raises RemoveFood, as a click on the trash can does
+    void KeepClear(int room); ///< no text at its right end, so many pixels wide; 0 at first
+    QString Caption() const;  ///< the line in words, for assistive tools
+    void Remove();            ///< raises RemoveFood, as a click on the trash can does
 
     ucButtonA* imgTrash() const { return imgTrash_; }
 
@@ -57,4 +58,5 @@ private:
 
     QString foodName_, serv_, qty_, id_;
     ucButtonA* imgTrash_;
+    int clear_ = 0;
 };

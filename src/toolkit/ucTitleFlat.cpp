@@ -1,9 +1,11 @@
 #include "toolkit/ucTitleFlat.h"
 
+#include "drawing/DevicePixels.h"
 #include "drawing/Style.h"
 #include "drawing/Twips.h"
 
 #include <QEvent>
+#include <QPainter>
 #include <QtMath>
 
 namespace {
@@ -40,7 +42,11 @@ bool ucTitleFlat::eventFilter(QObject* watched, QEvent* event) {
     return TitleControl::eventFilter(watched, event);
 }
 
+/// The frame of the window goes round its title, too.
 void ucTitleFlat::paintEvent(QPaintEvent*) {
     PaintTitle(Surface,
                QPointF(Twips::ToPixels(CaptionPlace.x()), Twips::ToPixels(CaptionPlace.y())));
+    QPainter painter(this);
+    for (const Qt::Edge edge : {Qt::TopEdge, Qt::LeftEdge, Qt::RightEdge})
+        PaintEdge(painter, rect(), edge, TheStyle().frame);
 }

@@ -136,6 +136,15 @@ TEST_F(ucCal_LGTest, TheHeadsNameTheWeekFromSunday) {
     }
 }
 
+TEST_F(ucCal_LGTest, TheFrameGoesOnBesideTheHeads) {
+    Open({2026, 11, 21});
+    const int row = Find(calendar, "ucDay0")->mapTo(calendar, QPoint(0, 10)).y();
+    const QImage drawn = Grab(calendar);
+    EXPECT_EQ(drawn.pixelColor(0, row), TheStyle().frame);
+    EXPECT_EQ(drawn.pixelColor(1, row), TheStyle().navigation);
+    EXPECT_EQ(drawn.pixelColor(calendar->width() - 1, row), TheStyle().frame);
+}
+
 TEST_F(ucCal_LGTest, LeapYearsAreThoseOfTheCalendar) {
     EXPECT_FALSE(Dates::IsDate(u"2/29/1900"));
     EXPECT_TRUE(Dates::IsDate(u"2/29/2000"));

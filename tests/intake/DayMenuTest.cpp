@@ -6,6 +6,7 @@
 #include "runtime/AppState.h"
 #include "runtime/Clock.h"
 #include "store/Connection.h"
+#include "toolkit/ucAte.h"
 #include "toolkit/ucBox.h"
 #include "toolkit/ucButton.h"
 #include "toolkit/ucButtonA.h"
@@ -338,6 +339,19 @@ TEST_F(DayMenuTest, AQuantityIsChangedInPlace) {
     Undo();
     EXPECT_EQ(LogCount("QTY = 2 AND Calories = 250"), 1);
     EXPECT_EQ(Status(), "Back to quantity 2: Oats.");
+}
+
+TEST_F(DayMenuTest, ALongNameEndsBeforeTheFieldOfTheQuantity) {
+    Log(QString("Milk ").repeated(30), "Breakfast");
+    Open();
+    const ucAte* line = Lines(screen.get()).first();
+    const int whole = line->layoutRects().lblFood.width();
+    line->imgTrash()->setFocus();
+    Key(Qt::Key_F2);
+    ASSERT_NE(Field(), nullptr);
+    EXPECT_LT(line->layoutRects().lblFood.right(), Field()->x());
+    Key(Qt::Key_Escape);
+    EXPECT_EQ(line->layoutRects().lblFood.width(), whole);
 }
 
 TEST_F(DayMenuTest, ARefusedQuantityHasTheMessageOfTheSearchAndStaysInTheField) {

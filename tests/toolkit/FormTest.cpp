@@ -200,7 +200,8 @@ TEST_F(FormTest, ADialogHasAFlatTitleAndAFrame) {
     EXPECT_EQ(dialog.Title()->geometry(), QRect(0, 0, 300, 34));
     EXPECT_TRUE(dialog.windowFlags().testFlag(Qt::FramelessWindowHint));
     const QImage drawn = Grab(&dialog);
-    EXPECT_EQ(drawn.pixelColor(0, 100), TheStyle().frame);
-    EXPECT_EQ(drawn.pixelColor(150, 199), TheStyle().frame);
+    for (const QPoint place :
+         {QPoint(0, 100), QPoint(150, 199), QPoint(0, 17), QPoint(299, 17), QPoint(150, 0)})
+        EXPECT_EQ(drawn.pixelColor(place), TheStyle().frame) << place.x() << '/' << place.y();
     EXPECT_EQ(drawn.pixelColor(150, 100), TheStyle().canvas);
 }

@@ -204,20 +204,32 @@ TEST_P(ScaleTest, ListsHaveTheirEdgeAndPaper) {
     }
 }
 
-TEST_P(ScaleTest, HeadersStripsAndTitlesReachTheirEnds) {
+TEST_P(ScaleTest, HeadersAndStripsReachTheirEnds) {
     ucHeader header(&window);
     ucStrip strip(&window);
-    ucTitleFlat title(&window);
-    const std::pair<PaintedPanel*, Style::Gradient> rows[] = {
-        {&header, TheStyle().header}, {&strip, TheStyle().header}, {&title, TheStyle().window}};
-    for (const auto& [panel, ground] : rows) {
+    for (PaintedPanel* panel :
+         {static_cast<PaintedPanel*>(&header), static_cast<PaintedPanel*>(&strip)}) {
         header.hide();
         strip.hide();
-        title.hide();
         panel->SetCaption(QString());
         for (const int offset : Offsets) {
             Place(panel, {offset, offset}, {201 + offset, 24});
-            ExpectGround(ground, 0, 0, 1);
+            ExpectGround(TheStyle().header, 0, 0, 1);
+        }
+    }
+}
+
+TEST_P(ScaleTest, ATitleHasTheFrameOfItsWindowAtThreeSides) {
+    ucTitleFlat title(&window);
+    title.SetCaption(QString());
+    for (const int offset : Offsets) {
+        Place(&title, {offset, offset}, {201 + offset, 24});
+        ExpectGround(TheStyle().window, Line(), Line(), Line());
+        const QRect at = OnDevice();
+        for (int i = 0; i < Line(); ++i) {
+            ExpectColour(at.center().x(), at.top() + i, TheStyle().frame, "the upper edge");
+            ExpectColour(at.left() + i, at.center().y(), TheStyle().frame, "the left edge");
+            ExpectColour(at.right() - i, at.center().y(), TheStyle().frame, "the right edge");
         }
     }
 }

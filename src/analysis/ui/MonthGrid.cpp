@@ -16,7 +16,7 @@ constexpr double LineWidth = 15; // twips
 
 } // namespace
 
-/// The weekday over a column of days.
+/// The weekday over a column of days. The frame of the grid goes on beside the first and the last.
 class WeekdayHead : public PaintedPanel {
 public:
     using PaintedPanel::PaintedPanel;
@@ -26,6 +26,10 @@ protected:
         QPainter painter(this);
         painter.fillRect(rect(), TheStyle().navigation);
         PrintCaption(painter, TheStyle().windowInk, (width() - TextWidth()) / 2);
+        if (x() == 0)
+            PaintEdge(painter, rect(), Qt::LeftEdge, TheStyle().frame);
+        if (x() + width() >= parentWidget()->width())
+            PaintEdge(painter, rect(), Qt::RightEdge, TheStyle().frame);
     }
 };
 

@@ -14,15 +14,16 @@ QuantityField::QuantityField(ucAte* line, double quantity)
     , line_(line)
     , recID_(ToInteger(line->ID()))
     , old_(quantity) {
-    const ucAte::Layout at = line->layoutRects();
     const int height = TheStyle().fieldHeight;
-    const int left = at.imgTrash.left() - FieldWidth - TheStyle().groupGap;
+    const int room = FieldWidth + TheStyle().groupGap;
+    const int left = line->layoutRects().imgTrash.left() - room;
     setObjectName(QStringLiteral("txtQTY"));
     setAccessibleName("Quantity of " + line->FoodName() + u", " + line->Serv());
     setToolTip(QStringLiteral("Enter a quantity"));
     setGeometry(left, (line->height() - height) / 2, FieldWidth, height);
     connect(this, &QLineEdit::returnPressed, this, &QuantityField::Entered);
     selectAll();
+    line->KeepClear(room);
     show();
     setFocus(Qt::OtherFocusReason);
 }
@@ -36,6 +37,7 @@ void QuantityField::Close() {
     if (hasFocus())
         line_->imgTrash()->setFocus(Qt::TabFocusReason);
     hide();
+    line_->KeepClear(0);
     deleteLater();
 }
 
