@@ -1,3 +1,4 @@
+#include "commands/Command.h"
 #include "commands/Commands.h"
 #include "commands/Session.h"
 #include "commands/SnapshotFacts.h"
@@ -6,8 +7,6 @@
 #include "records/Snapshots.h"
 
 #include <QDir>
-
-#include <CLI/CLI.hpp>
 
 namespace {
 int Backup(const Session& session, const std::string& to) {
@@ -26,14 +25,13 @@ int Backup(const Session& session, const std::string& to) {
 }
 } // namespace
 
-void Commands::AddBackup(CLI::App& program, Session& session) {
-    CLI::App* command = program.add_subcommand(
+void Commands::AddBackup(const Command& program, Session& session) {
+    const Command command = program.Add(
         "backup", "Makes a snapshot of both files and the settings, also while the window is open, "
                   "and checks it");
     const auto to = std::make_shared<std::string>();
-    command->add_option("TO", *to,
-                        "The folder in which to make it; otherwise that of the other snapshots");
-    command->footer("Example: halvane-data backup /media/stick");
-    command->callback(
-        [&session, to] { session.Do([&session, to] { return Backup(session, *to); }); });
+    command.Take("TO", *to,
+                 "The folder in which to make it; otherwise that of the other snapshots");
+    command.Footer("Example: halvane-data backup /media/stick");
+    command.Does([&session, to] { return Backup(session, *to); });
 }

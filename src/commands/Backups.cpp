@@ -1,3 +1,4 @@
+#include "commands/Command.h"
 #include "commands/Commands.h"
 #include "commands/Session.h"
 #include "commands/SnapshotFacts.h"
@@ -5,8 +6,6 @@
 
 #include <QDir>
 #include <QJsonArray>
-
-#include <CLI/CLI.hpp>
 
 namespace {
 QJsonObject Facts(const Snapshots& snapshots) {
@@ -37,9 +36,9 @@ int Backups(const Session& session) {
 }
 } // namespace
 
-void Commands::AddBackups(CLI::App& program, Session& session) {
-    CLI::App* command = program.add_subcommand(
+void Commands::AddBackups(const Command& program, Session& session) {
+    const Command command = program.Add(
         "backups", "Lists the snapshots, newest first: number, time, kind, size and contents");
-    command->footer("Example: halvane-data backups");
-    command->callback([&session] { session.Do([&session] { return Backups(session); }); });
+    command.Footer("Example: halvane-data backups");
+    command.Does([&session] { return Backups(session); });
 }

@@ -1,3 +1,4 @@
+#include "commands/Command.h"
 #include "commands/Commands.h"
 #include "commands/Session.h"
 #include "commands/Waiting.h"
@@ -6,8 +7,6 @@
 
 #include <QJsonArray>
 #include <QJsonObject>
-
-#include <CLI/CLI.hpp>
 
 namespace {
 QJsonArray Facts(const QList<Finding>& findings) {
@@ -52,14 +51,13 @@ int Check(const Session& session, bool repair) {
 }
 } // namespace
 
-void Commands::AddCheck(CLI::App& program, Session& session) {
-    CLI::App* command = program.add_subcommand(
+void Commands::AddCheck(const Command& program, Session& session) {
+    const Command command = program.Add(
         "check",
         "Checks both files, and prints a line for each fault: what is wrong, what it means "
         "and what to do. Ends with 1 if there is a fault");
     const auto repair = std::make_shared<bool>(false);
-    command->add_flag("--repair", *repair, "Repair what has only one right answer");
-    command->footer("Example: halvane-data check --repair");
-    command->callback(
-        [&session, repair] { session.Do([&session, repair] { return Check(session, *repair); }); });
+    command.Flag("--repair", *repair, "Repair what has only one right answer");
+    command.Footer("Example: halvane-data check --repair");
+    command.Does([&session, repair] { return Check(session, *repair); });
 }

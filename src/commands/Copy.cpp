@@ -9,8 +9,6 @@
 
 #include <QJsonObject>
 
-#include <CLI/CLI.hpp>
-
 namespace {
 struct Copying {
     QDate from;
@@ -46,28 +44,25 @@ int Copy(const Session& session, Copying& copying) {
     return count == 0 ? Found : Done;
 }
 
-void AddDays(CLI::App& command, Session& session, const std::shared_ptr<Copying>& copying) {
-    DateOption::Add(command, "FROM", copying->from, "The day to copy")->required();
+void AddDays(const Command& command, Session& session, const std::shared_ptr<Copying>& copying) {
+    DateOption::Add(command, "FROM", copying->from, "The day to copy").Required();
     DateOption::Add(command, "TO", copying->to, "The day that gets the copies; otherwise today");
-    command.callback([&session, copying] {
-        session.Do([&session, copying] { return Copy(session, *copying); });
-    });
+    command.Does([&session, copying] { return Copy(session, *copying); });
 }
 } // namespace
 
-void Commands::AddCopyDay(CLI::App& program, Session& session) {
-    CLI::App* command =
-        program.add_subcommand("copy-day", "Logs all foods of a day for another day, too");
-    AddDays(*command, session, std::make_shared<Copying>());
-    command->footer("Example: halvane-data copy-day yesterday");
+void Commands::AddCopyDay(const Command& program, Session& session) {
+    const Command command = program.Add("copy-day", "Logs all foods of a day for another day, too");
+    AddDays(command, session, std::make_shared<Copying>());
+    command.Footer("Example: halvane-data copy-day yesterday");
 }
 
-void Commands::AddCopyMeal(CLI::App& program, Session& session) {
-    CLI::App* command =
-        program.add_subcommand("copy-meal", "Logs the foods of a meal for another day, too");
+void Commands::AddCopyMeal(const Command& program, Session& session) {
+    const Command command =
+        program.Add("copy-meal", "Logs the foods of a meal for another day, too");
     const auto copying = std::make_shared<Copying>();
-    MealOption::Add(*command, "MEAL", copying->meal, "Breakfast, Lunch, Dinner or Snacks")
-        ->required();
-    AddDays(*command, session, copying);
-    command->footer("Example: halvane-data copy-meal Breakfast yesterday today");
+    MealOption::Add(command, "MEAL", copying->meal, "Breakfast, Lunch, Dinner or Snacks")
+        .Required();
+    AddDays(command, session, copying);
+    command.Footer("Example: halvane-data copy-meal Breakfast yesterday today");
 }

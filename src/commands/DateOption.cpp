@@ -1,10 +1,10 @@
 #include "commands/DateOption.h"
 
+#include "commands/UsageError.h"
+
 #include "runtime/Clock.h"
 #include "runtime/Dates.h"
 #include "runtime/RuntimeError.h"
-
-#include <CLI/CLI.hpp>
 
 namespace {
 /// Of the ISO forms only the one with dashes: "20260302" is a number.
@@ -28,15 +28,14 @@ QDate DateOption::Of(const std::string& text) {
     return day;
 }
 
-CLI::Option* DateOption::Add(CLI::App& command, const std::string& name, QDate& day,
-                             const std::string& help) {
+CommandOption DateOption::Add(const Command& command, const std::string& name, QDate& day,
+                              const std::string& help) {
     const auto read = [name, &day](const std::string& text) {
         try {
             day = Of(text);
         } catch (const RuntimeError& wrong) {
-            throw CLI::ValidationError(name.substr(0, name.find(',')),
-                                       wrong.Description().toStdString());
+            throw UsageError(name, wrong.Description().toStdString());
         }
     };
-    return command.add_option_function<std::string>(name, read, help)->type_name("DAY");
+    return command.Take(name, read, help).Value("DAY");
 }

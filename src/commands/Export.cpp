@@ -1,3 +1,4 @@
+#include "commands/Command.h"
 #include "commands/Commands.h"
 #include "commands/Progress.h"
 #include "commands/SectionNames.h"
@@ -11,8 +12,6 @@
 #include <QDir>
 #include <QFile>
 #include <QJsonObject>
-
-#include <CLI/CLI.hpp>
 
 namespace {
 /// A mistyped name must not cost a file that is something else.
@@ -64,16 +63,13 @@ int ExportToOutput(const Session& session) {
 }
 } // namespace
 
-void Commands::AddExport(CLI::App& program, Session& session) {
-    CLI::App* command = program.add_subcommand("export", "Writes all records to one file");
-    const auto file = std::make_shared<std::string>();
-    command->add_option("FILE", *file, "The file to make; - for standard output")->required();
-    command->footer("The file holds profiles, own foods, recipes, log, weights and settings.\n"
-                    "Example: halvane-data export my-records.json");
-    command->callback([&session, file] {
-        session.Do([&session, file] {
-            return *file == "-" ? ExportToOutput(session)
-                                : ExportToFile(session, QString::fromStdString(*file));
-        });
+void Commands::AddExport(const Command& program, Session& session) {
+    const Command command = program.Add("export", "Writes all records to one file");
+    const auto file = std::make_shared<QString>();
+    command.Take("FILE", *file, "The file to make; - for standard output").Required();
+    command.Footer("The file holds profiles, own foods, recipes, log, weights and settings.\n"
+                   "Example: halvane-data export my-records.json");
+    command.Does([&session, file] {
+        return *file == u"-" ? ExportToOutput(session) : ExportToFile(session, *file);
     });
 }

@@ -1,5 +1,6 @@
 #include "commands/FoodArgument.h"
 
+#include "commands/Command.h"
 #include "commands/FoundFoods.h"
 #include "commands/Session.h"
 #include "foods/FoodSearch.h"
@@ -8,8 +9,6 @@
 #include "runtime/RuntimeError.h"
 
 #include <QRegularExpression>
-
-#include <CLI/CLI.hpp>
 
 #include <algorithm>
 
@@ -55,31 +54,30 @@ std::optional<Food> OnlyOne(const FoodList& foods, const QString& name) {
 }
 } // namespace
 
-void FoodArgument::AddTo(CLI::App& command) {
+void FoodArgument::AddTo(const Command& command) {
     command
-        .add_option("FOOD", words_,
-                    "A key (food:16096, recipe:3, or 16096 for a food), or words of the name")
-        ->required();
+        .Take("FOOD", words_,
+              "A key (food:16096, recipe:3, or 16096 for a food), or words of the name")
+        .Required();
     AddRecipeFlag(command);
 }
 
-void FoodArgument::AddRecipeFlag(CLI::App& command) {
-    command.add_flag("--recipe", recipe_, "FOOD is a recipe");
+void FoodArgument::AddRecipeFlag(const Command& command) {
+    command.Flag("--recipe", recipe_, "FOOD is a recipe");
 }
 
-void FoodArgument::AddOneTo(CLI::App& command) {
-    const auto take = [this](const std::string& text) { words_ = {text}; };
+void FoodArgument::AddOneTo(const Command& command) {
+    const auto take = [this](const std::string& text) { words_ = {QString::fromStdString(text)}; };
     command
-        .add_option_function<std::string>(
-            "FOOD", take,
-            "A key (food:16096, recipe:3, log:5 for an entry, or 16096 for a food), or words of "
-            "the name in one argument")
-        ->required();
+        .Take("FOOD", take,
+              "A key (food:16096, recipe:3, log:5 for an entry, or 16096 for a food), or words of "
+              "the name in one argument")
+        .Required();
     AddRecipeFlag(command);
 }
 
 QString FoodArgument::Text() const {
-    return QString::fromStdString(CLI::detail::join(words_, " "));
+    return words_.join(u' ');
 }
 
 QString FoodArgument::Refusal() const {

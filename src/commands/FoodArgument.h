@@ -3,22 +3,18 @@
 #include "foods/FoodList.h"
 
 #include <optional>
-#include <string>
-#include <vector>
 
 class Session;
 
-namespace CLI {
-class App;
-}
+class Command;
 
 /// The food or the recipe that a command is about. A person names it by its key ("food:16096",
 /// "recipe:3", "16096") or by words of its name.
 class FoodArgument {
 public:
     // This must live as long as the command.
-    void AddTo(CLI::App& command);
-    void AddOneTo(CLI::App& command); ///< in one argument; it can be the key of an entry, too
+    void AddTo(const Command& command);
+    void AddOneTo(const Command& command); ///< in one argument; it can be the key of an entry, too
 
     /// The message that refuses the text; empty if it can be looked for.
     QString Refusal() const;
@@ -28,10 +24,10 @@ public:
     std::optional<Food> Choose(const Session& session) const;
 
 private:
-    void AddRecipeFlag(CLI::App& command);
+    void AddRecipeFlag(const Command& command);
     QString Text() const;
     FoodList Search() const;
 
-    std::vector<std::string> words_;
+    QStringList words_;
     bool recipe_ = false;
 };

@@ -1,3 +1,4 @@
+#include "commands/Command.h"
 #include "commands/Commands.h"
 #include "commands/Progress.h"
 #include "commands/Session.h"
@@ -7,14 +8,12 @@
 #include <QJsonArray>
 #include <QJsonObject>
 
-#include <CLI/CLI.hpp>
-
 #include <optional>
 
 namespace {
 struct Wanted {
     std::string folder;
-    std::vector<std::string> only;
+    QStringList only;
     std::string rejects;
     bool dryRun = false;
 };
@@ -68,8 +67,8 @@ void WriteRejects(OutputFile& file, const FoodTally& tally) {
 
 int Import(const Session& session, const Wanted& wanted) {
     FoodImport::Options options{QString::fromStdString(wanted.folder), {}, wanted.dryRun, {}};
-    for (const std::string& one : wanted.only)
-        options.filter.Add(QString::fromStdString(one));
+    for (const QString& one : wanted.only)
+        options.filter.Add(one);
     std::optional<OutputFile> rejects; // nothing changes if it cannot be opened
     if (!wanted.rejects.empty())
         rejects.emplace(QString::fromStdString(wanted.rejects));
@@ -93,36 +92,30 @@ std::string RestrictionProblem(const std::string& text) {
                      ", category=NAME or words=WORDS";
 }
 
-void AddFoodImport(CLI::App& foods, Session& session) {
-    CLI::App* command = foods.add_subcommand(
+void AddFoodImport(const Command& foods, Session& session) {
+    const Command command = foods.Add(
         "import", "Brings the foods of a FoodData Central download or a USDA release into your own "
                   "foods. A newer download updates them.");
     const auto wanted = std::make_shared<Wanted>();
-    command->add_option("FOLDER", wanted->folder, "The folder of the unpacked download")
-        ->required();
+    command.Take("FOLDER", wanted->folder, "The folder of the unpacked download").Required();
     command
-        ->add_option("--only", wanted->only,
-                     "Only foods of a type (type=sr, foundation, survey or branded), of a category "
-                     "(category=Snacks) or with words in their name (words=\"rye bread\"); several "
-                     "are possible")
-        ->check(CLI::Validator(RestrictionProblem, "SORT=VALUE"))
-        ->expected(1)
-        ->take_all();
-    command->add_option("--rejects", wanted->rejects, "Write the foods that were refused to a file")
-        ->type_name("FILE");
-    command->add_flag("--dry-run", wanted->dryRun, "Tell what would happen, and change nothing");
-    command->footer("Example: halvane-data foods import FoodData_Central_branded_food_csv "
-                    "--only category=Snacks");
-    command->callback([&session, wanted] {
-        session.Do([&session, wanted] { return Import(session, *wanted); });
-    });
+        .TakeEach("--only", wanted->only,
+                  "Only foods of a type (type=sr, foundation, survey or branded), of a category "
+                  "(category=Snacks) or with words in their name (words=\"rye bread\"); several "
+                  "are possible")
+        .Check(RestrictionProblem);
+    command.Take("--rejects", wanted->rejects, "Write the foods that were refused to a file")
+        .Value("FILE");
+    command.Flag("--dry-run", wanted->dryRun, "Tell what would happen, and change nothing");
+    command.Footer("Example: halvane-data foods import FoodData_Central_branded_food_csv "
+                   "--only category=Snacks");
+    command.Does([&session, wanted] { return Import(session, *wanted); });
 }
 } // namespace
 
-void Commands::AddFoods(CLI::App& program, Session& session) {
-    CLI::App* foods = program.add_subcommand("foods", "Brings in foods of other sources");
-    foods->require_subcommand(1);
-    foods->fallthrough();
-    foods->footer("Example: halvane-data foods import FOLDER --dry-run");
-    AddFoodImport(*foods, session);
+void Commands::AddFoods(const Command& program, Session& session) {
+    const Command foods = program.Add("foods", "Brings in foods of other sources");
+    foods.NeedsOneOfItsCommands();
+    foods.Footer("Example: halvane-data foods import FOLDER --dry-run");
+    AddFoodImport(foods, session);
 }

@@ -1,3 +1,4 @@
+#include "commands/Command.h"
 #include "commands/Commands.h"
 #include "commands/ImportFrom.h"
 #include "commands/Progress.h"
@@ -9,11 +10,9 @@
 #include <QJsonArray>
 #include <QJsonObject>
 
-#include <CLI/CLI.hpp>
-
 namespace {
 struct Options {
-    std::vector<std::string> files;
+    QStringList files;
     RecordsDocument::ImportOptions document;
 };
 
@@ -58,9 +57,9 @@ void Print(const Session& session, const ImportReport& report, bool dryRun) {
 
 int ImportDocument(const Session& session, const Options& options) {
     Progress progress(session, QStringLiteral("Importing"));
-    const ImportReport report = RecordsDocument::Import(
-        session.Records(), QString::fromStdString(options.files.front()), options.document,
-        [&](qint64 done, qint64 total) { progress.Step(done, total); });
+    const ImportReport report =
+        RecordsDocument::Import(session.Records(), options.files.front(), options.document,
+                                [&](qint64 done, qint64 total) { progress.Step(done, total); });
     const bool dryRun = options.document.dryRun;
     session.json ? session.Print(Facts(report, dryRun)) : Print(session, report, dryRun);
     return report.kept.empty() && report.refused.empty() ? Done : Found;
@@ -75,24 +74,22 @@ int Import(const Session& session, const Options& options, const PeerImport::Opt
 }
 } // namespace
 
-void Commands::AddImport(CLI::App& program, Session& session) {
-    CLI::App* command = program.add_subcommand("import", "Brings in records from a file");
+void Commands::AddImport(const Command& program, Session& session) {
+    const Command command = program.Add("import", "Brings in records from a file");
     const auto options = std::make_shared<Options>();
     command
-        ->add_option("FILE", options->files,
-                     "A file that export has made; with --from, files "
-                     "of another program")
-        ->required();
-    command->add_flag("--settings", options->document.settings,
-                      "Take the settings of the file, too; without profiles here they are taken "
-                      "in any case");
-    command->add_flag("--dry-run", options->document.dryRun,
-                      "Tell what would happen, and change nothing");
-    const auto foreign = ImportFrom::AddOptions(*command);
-    command->footer("What is there already is not added again, and never changes.\n"
-                    "Example: halvane-data import my-records.json\n"
-                    "Example: halvane-data import --from cronometer --dry-run export.zip");
-    command->callback([&session, options, foreign] {
-        session.Do([&session, options, foreign] { return Import(session, *options, *foreign); });
-    });
+        .Take("FILE", options->files,
+              "A file that export has made; with --from, files "
+              "of another program")
+        .Required();
+    command.Flag("--settings", options->document.settings,
+                 "Take the settings of the file, too; without profiles here they are taken "
+                 "in any case");
+    command.Flag("--dry-run", options->document.dryRun,
+                 "Tell what would happen, and change nothing");
+    const auto foreign = ImportFrom::AddOptions(command);
+    command.Footer("What is there already is not added again, and never changes.\n"
+                   "Example: halvane-data import my-records.json\n"
+                   "Example: halvane-data import --from cronometer --dry-run export.zip");
+    command.Does([&session, options, foreign] { return Import(session, *options, *foreign); });
 }

@@ -1,7 +1,8 @@
 #include "commands/ImportFrom.h"
 
-#include "commands/OneOf.h"
+#include "commands/Command.h"
 #include "commands/Session.h"
+#include "commands/UsageError.h"
 #include "commands/Waiting.h"
 #include "foods/Meals.h"
 #include "records/peers/RejectsFile.h"
@@ -10,8 +11,6 @@
 
 #include <QJsonArray>
 #include <QJsonObject>
-
-#include <CLI/CLI.hpp>
 
 #include <map>
 
@@ -22,16 +21,16 @@ using Kind = Reject::Kind;
 
 /// What a person says, and what it means.
 template <class Value>
-void AddChoice(CLI::App& command, const std::string& name,
+void AddChoice(const Command& command, const std::string& name,
                const std::map<std::string, Value>& words, const std::string& help,
                std::function<void(Value)> take) {
     std::vector<std::string> known;
     for (const auto& [word, value] : words)
         known.push_back(word);
     command
-        .add_option_function<std::string>(
+        .Take(
             name, [words, take](const std::string& word) { take(words.at(word)); }, help)
-        ->transform(OneOf(known));
+        .OneOf(known);
 }
 
 /// "Second breakfast=Lunch"
@@ -40,33 +39,29 @@ void TakeMeal(Options& options, const std::string& text) {
     const qsizetype equals = said.lastIndexOf(u'=');
     const auto meal = Meals::Find(QStringView(said).mid(equals + 1).trimmed());
     if (equals < 0 || !meal)
-        throw CLI::ValidationError("--meal",
-                                   "Write the name in the file, = and Breakfast, Lunch, Dinner or "
+        throw UsageError("--meal", "Write the name in the file, = and Breakfast, Lunch, Dinner or "
                                    "Snacks.");
     options.choices.meals[CsvHeader::Key(said.left(equals))] = *meal;
 }
 
-void AddPaths(CLI::App& command, Options& options) {
-    const auto path = [&command](const std::string& name, QString& into, const std::string& help) {
-        return command.add_option_function<std::string>(
-            name, [&into](const std::string& text) { into = QString::fromStdString(text); }, help);
-    };
+void AddPaths(const Command& command, Options& options) {
     std::vector<std::string> names;
     for (const QString& name : PeerImport::Names())
         names.push_back(name.toStdString());
-    CLI::Option* const from =
-        path("--from", options.from, "The program that has exported the files, or table")
-            ->transform(OneOf(names));
-    path("--map", options.map, "With --from table: a file that tells what its columns mean")
-        ->type_name("FILE")
-        ->needs(from);
-    path("--rejects", options.rejects,
-         "Where rows that are not taken are listed; otherwise beside the first file")
-        ->type_name("FILE")
-        ->needs(from);
+    const CommandOption from =
+        command.Take("--from", options.from, "The program that has exported the files, or table")
+            .OneOf(names);
+    command.Take("--map", options.map, "With --from table: a file that tells what its columns mean")
+        .Value("FILE")
+        .Needs(from);
+    command
+        .Take("--rejects", options.rejects,
+              "Where rows that are not taken are listed; otherwise beside the first file")
+        .Value("FILE")
+        .Needs(from);
 }
 
-void AddChoices(CLI::App& command, PeerChoices& choices) {
+void AddChoices(const Command& command, PeerChoices& choices) {
     using enum PeerChoices::DateOrder;
     using enum PeerChoices::Micronutrients;
     AddChoice<WeightUnit>(command, "--weight-unit",
@@ -197,30 +192,24 @@ QString Problem(const Options& options) {
 }
 } // namespace
 
-std::shared_ptr<Options> ImportFrom::AddOptions(CLI::App& command) {
+std::shared_ptr<Options> ImportFrom::AddOptions(const Command& command) {
     const auto options = std::make_shared<Options>();
     AddPaths(command, *options);
     command
-        .add_option_function<std::vector<std::string>>(
-            "--meal",
-            [options](const std::vector<std::string>& all) {
-                for (const std::string& text : all)
-                    TakeMeal(*options, text);
-            },
+        .TakeEach(
+            "--meal", [options](const std::string& text) { TakeMeal(*options, text); },
             "With --from: put a meal of the file under one of ours, as in \"Brunch=Lunch\"")
-        ->type_name("NAME=MEAL")
-        ->allow_extra_args(false);
+        .Value("NAME=MEAL");
     AddChoices(command, options->choices);
     return options;
 }
 
-int ImportFrom::Run(const Session& session, Options options, const std::vector<std::string>& files,
+int ImportFrom::Run(const Session& session, Options options, const QStringList& files,
                     bool dryRun) {
     if (const QString problem = Problem(options); !problem.isEmpty())
         return session.Refuse(problem);
     options.dryRun = dryRun;
-    for (const std::string& file : files)
-        options.files << QString::fromStdString(file);
+    options.files << files;
     options.choosePerson = [&session] { session.ChooseProfile(); };
     const Waiting waiting(session, QStringLiteral("Importing"));
     const Result result = PeerImport::Run(session.Records(), options);

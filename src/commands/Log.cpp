@@ -3,7 +3,6 @@
 #include "commands/FoodArgument.h"
 #include "commands/LoggedLine.h"
 #include "commands/MealOption.h"
-#include "commands/OneOf.h"
 #include "commands/Session.h"
 #include "foods/Meals.h"
 #include "foods/Quantity.h"
@@ -16,8 +15,6 @@
 #include "runtime/Convert.h"
 
 #include <QJsonObject>
-
-#include <CLI/CLI.hpp>
 
 namespace {
 struct Wanted {
@@ -94,18 +91,17 @@ int Log(const Session& session, Wanted& wanted) {
 }
 } // namespace
 
-void Commands::AddLog(CLI::App& program, Session& session) {
-    CLI::App* command = program.add_subcommand("log", "Logs a food or a recipe");
+void Commands::AddLog(const Command& program, Session& session) {
+    const Command command = program.Add("log", "Logs a food or a recipe");
     const auto wanted = std::make_shared<Wanted>();
-    wanted->food.AddTo(*command);
-    command->add_option("--quantity,-q", wanted->quantity, "How many servings; otherwise 1");
-    command->add_option("--serving,-s", wanted->serving, "Serving A or B of the food; otherwise A")
-        ->transform(OneOf({"A", "B"}));
-    MealOption::Add(*command, "--meal,-m", wanted->meal,
+    wanted->food.AddTo(command);
+    command.Take("--quantity,-q", wanted->quantity, "How many servings; otherwise 1");
+    command.Take("--serving,-s", wanted->serving, "Serving A or B of the food; otherwise A")
+        .OneOf({"A", "B"});
+    MealOption::Add(command, "--meal,-m", wanted->meal,
                     "Breakfast, Lunch, Dinner or Snacks; otherwise the meal that the window had "
                     "ticked last");
-    DateOption::Add(*command, "--date,-d", wanted->day, "The day; otherwise today");
-    command->footer("Example: halvane-data log \"Butter, salted\" --serving B --meal Lunch");
-    command->callback(
-        [&session, wanted] { session.Do([&session, wanted] { return Log(session, *wanted); }); });
+    DateOption::Add(command, "--date,-d", wanted->day, "The day; otherwise today");
+    command.Footer("Example: halvane-data log \"Butter, salted\" --serving B --meal Lunch");
+    command.Does([&session, wanted] { return Log(session, *wanted); });
 }

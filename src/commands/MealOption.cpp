@@ -1,23 +1,22 @@
 #include "commands/MealOption.h"
 
-#include "foods/Meals.h"
+#include "commands/UsageError.h"
 
-#include <CLI/CLI.hpp>
+#include "foods/Meals.h"
 
 #include <algorithm>
 
-CLI::Option* MealOption::Add(CLI::App& command, const std::string& name, int& meal,
-                             const std::string& help) {
+CommandOption MealOption::Add(const Command& command, const std::string& name, int& meal,
+                              const std::string& help) {
     const auto read = [name, &meal](const std::string& text) {
         const auto begins = [beginning = QString::fromStdString(text)](const char* one) {
             return QLatin1String(one).startsWith(beginning, Qt::CaseInsensitive);
         };
         const auto* const found = std::ranges::find_if(Meals::Names, begins);
         if (text.empty() || found == Meals::Names.end())
-            throw CLI::ValidationError(
-                name.substr(0, name.find(',')),
-                '"' + text + "\" is not a meal. Write Breakfast, Lunch, Dinner or Snacks.");
+            throw UsageError(
+                name, '"' + text + "\" is not a meal. Write Breakfast, Lunch, Dinner or Snacks.");
         meal = int(found - Meals::Names.begin());
     };
-    return command.add_option_function<std::string>(name, read, help)->type_name("MEAL");
+    return command.Take(name, read, help).Value("MEAL");
 }

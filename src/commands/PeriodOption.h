@@ -2,15 +2,13 @@
 
 #include "analysis/Period.h"
 
-namespace CLI {
-class App;
-}
+class Command;
 
 /// The options `--from` and `--to` of a command.
 class PeriodOption {
 public:
     /// Adds both; this must live as long as the command.
-    void AddTo(CLI::App& command, const std::string& of); ///< "entries"
+    void AddTo(const Command& command, const std::string& of); ///< "entries"
 
     bool IsGiven() const { return given_.from.isValid() || given_.to.isValid(); }
     /// What is not given is taken from `otherwise`. A last day before the first is a usage error.

@@ -1,10 +1,12 @@
 #include "commands/Program.h"
 
+#include "commands/Command.h"
 #include "commands/Commands.h"
 #include "commands/Completion.h"
 #include "commands/HelpText.h"
 #include "commands/ManPage.h"
 #include "commands/Session.h"
+#include "commands/UsageError.h"
 #include "commands/WrongUse.h"
 
 #include <CLI/CLI.hpp>
@@ -21,9 +23,7 @@ std::vector<std::string> Reversed(const QStringList& arguments) {
 }
 
 void AddSharedOptions(CLI::App& program, Session& session) {
-    program
-        .add_option("--folder", session.folder,
-                    "The folder of the records; otherwise your own")
+    program.add_option("--folder", session.folder, "The folder of the records; otherwise your own")
         ->type_name("FOLDER");
     program
         .add_option("--profile", session.profile,
@@ -77,13 +77,15 @@ int RunCommand(const QStringList& arguments, std::ostream& out, std::ostream& er
     UseOurHelp(program);
     AddSharedOptions(program, session);
     for (const auto add : Commands::All)
-        add(program, session);
+        add(Command(program, session), session);
     AddHiddenOptions(program, out);
     try {
         program.parse(Reversed(arguments));
+        return session.Run();
     } catch (const CLI::ParseError& wrong) {
         return wrong.get_exit_code() == 0 ? program.exit(wrong, out, error)
                                           : session.Refuse(WrongUse::Message(program, wrong));
+    } catch (const UsageError& wrong) {
+        return session.Refuse(WrongUse::Message(program, wrong));
     }
-    return session.Run();
 }

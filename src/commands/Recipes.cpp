@@ -1,5 +1,5 @@
+#include "commands/Command.h"
 #include "commands/Commands.h"
-#include "commands/OneOf.h"
 #include "commands/RecipeQuestions.h"
 #include "commands/Session.h"
 #include "commands/Waiting.h"
@@ -13,26 +13,17 @@
 #include <QJsonArray>
 #include <QJsonObject>
 
-#include <CLI/CLI.hpp>
-
 namespace {
 using RecipeFiles::Format;
 using Imported = RecipeImport::Imported;
 using Proposal = RecipeImport::Proposal;
-
-QStringList Texts(const std::vector<std::string>& texts) {
-    QStringList list;
-    for (const std::string& text : texts)
-        list << QString::fromStdString(text);
-    return list;
-}
 
 // ---- export ----
 
 struct ExportWanted {
     std::string file;
     std::string format;
-    std::vector<std::string> names;
+    QStringList names;
 };
 
 Format FormatOf(const ExportWanted& wanted) {
@@ -46,7 +37,7 @@ Format FormatOf(const ExportWanted& wanted) {
 int Export(const Session& session, const ExportWanted& wanted) {
     const RecordsReading records(session.Records());
     const QList<RecipeDraft> recipes =
-        wanted.names.empty() ? RecipeStore::All() : RecipeStore::Named(Texts(wanted.names));
+        wanted.names.isEmpty() ? RecipeStore::All() : RecipeStore::Named(wanted.names);
     const QByteArray bytes = RecipeFiles::Write(recipes, FormatOf(wanted));
     if (wanted.file == "-") {
         session.Write(bytes.toStdString());
@@ -63,27 +54,24 @@ int Export(const Session& session, const ExportWanted& wanted) {
     return Done;
 }
 
-void AddRecipeExport(CLI::App& recipes, Session& session) {
-    CLI::App* command =
-        recipes.add_subcommand("export", "Writes recipes to a file for other programs");
+void AddRecipeExport(const Command& recipes, Session& session) {
+    const Command command = recipes.Add("export", "Writes recipes to a file for other programs");
     const auto wanted = std::make_shared<ExportWanted>();
-    command->add_option("FILE", wanted->file, "The file, or - for standard output")->required();
-    command->add_option("NAME", wanted->names, "Only the recipes of these names");
+    command.Take("FILE", wanted->file, "The file, or - for standard output").Required();
+    command.Take("NAME", wanted->names, "Only the recipes of these names");
     command
-        ->add_option("--format", wanted->format,
-                     "jsonld (schema.org) or markdown; otherwise by the name of the file")
-        ->transform(OneOf({"jsonld", "markdown"}));
-    command->footer("Example: halvane-data recipes export soups.md \"Lentil soup\"");
-    command->callback([&session, wanted] {
-        session.Do([&session, wanted] { return Export(session, *wanted); });
-    });
+        .Take("--format", wanted->format,
+              "jsonld (schema.org) or markdown; otherwise by the name of the file")
+        .OneOf({"jsonld", "markdown"});
+    command.Footer("Example: halvane-data recipes export soups.md \"Lentil soup\"");
+    command.Does([&session, wanted] { return Export(session, *wanted); });
 }
 
 // ---- import ----
 
 struct ImportWanted {
-    std::vector<std::string> files;
-    std::vector<std::string> choices;
+    QStringList files;
+    QStringList choices;
     bool accept = false;
     bool keepText = false;
     bool dryRun = false;
@@ -168,8 +156,8 @@ void TellAll(const Session& session, const RecipeImport::Result& result, bool dr
 }
 
 int Import(const Session& session, const ImportWanted& wanted) {
-    RecipeImport::Options options{Texts(wanted.files), wanted.accept, wanted.keepText};
-    for (const QString& choice : Texts(wanted.choices))
+    RecipeImport::Options options{wanted.files, wanted.accept, wanted.keepText};
+    for (const QString& choice : wanted.choices)
         options.choices << *IngredientChoice::Of(choice);
     options.dryRun = wanted.dryRun;
     if (session.CanAsk() && !options.dryRun) {
@@ -195,38 +183,31 @@ std::string ChoiceProblem(const std::string& text) {
                : '"' + text + "\" is not like 1.2=16329:B:1.5 or 1.2=text";
 }
 
-void AddRecipeImport(CLI::App& recipes, Session& session) {
-    CLI::App* command = recipes.add_subcommand(
+void AddRecipeImport(const Command& recipes, Session& session) {
+    const Command command = recipes.Add(
         "import",
         "Brings in recipes of files: JSON-LD of schema.org (also in a web page), Markdown, "
         "Mealie, Tandoor and MealMaster");
     const auto wanted = std::make_shared<ImportWanted>();
-    command->add_option("FILE", wanted->files, "The files")->required();
-    command->add_flag("--accept", wanted->accept, "Take every food that is found with a quantity");
+    command.Take("FILE", wanted->files, "The files").Required();
+    command.Flag("--accept", wanted->accept, "Take every food that is found with a quantity");
     command
-        ->add_option(
-            "--choose", wanted->choices,
-            "Take a food for a line (recipe 1, line 2: 1.2=KEY:SERVING:QUANTITY), or leave "
-            "the line as text (1.2=text); several are possible")
-        ->check(CLI::Validator(ChoiceProblem, "CHOICE"))
-        ->expected(1)
-        ->take_all();
-    command->add_flag("--text", wanted->keepText, "Leave all lines as text in the instructions");
-    command->add_flag("--dry-run", wanted->dryRun, "Tell what would happen, and change nothing");
-    command->footer(
+        .TakeEach("--choose", wanted->choices,
+                  "Take a food for a line (recipe 1, line 2: 1.2=KEY:SERVING:QUANTITY), or leave "
+                  "the line as text (1.2=text); several are possible")
+        .Check(ChoiceProblem);
+    command.Flag("--text", wanted->keepText, "Leave all lines as text in the instructions");
+    command.Flag("--dry-run", wanted->dryRun, "Tell what would happen, and change nothing");
+    command.Footer(
         "Example: halvane-data recipes import soup.json --accept --choose 1.3=16329:B:0.5");
-    command->callback([&session, wanted] {
-        session.Do([&session, wanted] { return Import(session, *wanted); });
-    });
+    command.Does([&session, wanted] { return Import(session, *wanted); });
 }
 } // namespace
 
-void Commands::AddRecipes(CLI::App& program, Session& session) {
-    CLI::App* recipes =
-        program.add_subcommand("recipes", "Writes recipes to a file, and brings them in");
-    recipes->require_subcommand(1);
-    recipes->fallthrough();
-    recipes->footer("Example: halvane-data recipes import soup.json");
-    AddRecipeExport(*recipes, session);
-    AddRecipeImport(*recipes, session);
+void Commands::AddRecipes(const Command& program, Session& session) {
+    const Command recipes = program.Add("recipes", "Writes recipes to a file, and brings them in");
+    recipes.NeedsOneOfItsCommands();
+    recipes.Footer("Example: halvane-data recipes import soup.json");
+    AddRecipeExport(recipes, session);
+    AddRecipeImport(recipes, session);
 }

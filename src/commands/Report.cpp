@@ -1,5 +1,5 @@
+#include "commands/Command.h"
 #include "commands/Commands.h"
-#include "commands/OneOf.h"
 #include "commands/PeriodOption.h"
 #include "commands/Session.h"
 #include "commands/Waiting.h"
@@ -12,8 +12,6 @@
 #include "runtime/Clock.h"
 
 #include <QBuffer>
-
-#include <CLI/CLI.hpp>
 
 namespace {
 constexpr int UsualDays = 30;
@@ -59,22 +57,17 @@ std::string NameProblem(const std::string& name) {
 }
 } // namespace
 
-void Commands::AddReport(CLI::App& program, Session& session) {
-    CLI::App* command =
-        program.add_subcommand("report", "Writes a report for a doctor: PDF or HTML");
+void Commands::AddReport(const Command& program, Session& session) {
+    const Command command = program.Add("report", "Writes a report for a doctor: PDF or HTML");
     const auto choice = std::make_shared<Choice>();
-    command->add_option("OUT", choice->out, "The file: its name ends with .pdf or .html")
-        ->required()
-        ->check(CLI::Validator(NameProblem, ""));
-    choice->days.AddTo(*command, "report");
-    command->add_option("--paper", choice->paper, "The paper of a PDF file")
-        ->transform(OneOf({"a4", "letter"}))
-        ->capture_default_str();
-    command->footer("Without --from and --to it covers the last 30 days.\n\n"
-                    "Example: halvane-data report --from 2026-03-01 --to 2026-03-31 march.pdf");
-    command->callback([&session, choice] {
-        session.Do([&session, choice, period = choice->days.Chosen(UsualPeriod())] {
-            return WriteReport(session, *choice, period);
-        });
+    command.Take("OUT", choice->out, "The file: its name ends with .pdf or .html")
+        .Required()
+        .Check(NameProblem);
+    choice->days.AddTo(command, "report");
+    command.Take("--paper", choice->paper, "The paper of a PDF file").OneOf({"a4", "letter"});
+    command.Footer("Without --from and --to it covers the last 30 days.\n\n"
+                   "Example: halvane-data report --from 2026-03-01 --to 2026-03-31 march.pdf");
+    command.Does([&session, choice] {
+        return WriteReport(session, *choice, choice->days.Chosen(UsualPeriod()));
     });
 }

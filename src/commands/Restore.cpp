@@ -1,11 +1,10 @@
+#include "commands/Command.h"
 #include "commands/Commands.h"
 #include "commands/Session.h"
 #include "commands/SnapshotFacts.h"
 #include "commands/Waiting.h"
 #include "records/Restoring.h"
 #include "records/Snapshots.h"
-
-#include <CLI/CLI.hpp>
 
 namespace {
 int Restore(const Session& session, const std::string& which) {
@@ -26,15 +25,12 @@ int Restore(const Session& session, const std::string& which) {
 }
 } // namespace
 
-void Commands::AddRestore(CLI::App& program, Session& session) {
-    CLI::App* command = program.add_subcommand(
+void Commands::AddRestore(const Command& program, Session& session) {
+    const Command command = program.Add(
         "restore", "Brings a snapshot back, and keeps what it replaces as another snapshot");
     const auto which = std::make_shared<std::string>();
-    command
-        ->add_option("WHICH", *which,
-                     "A number of the list that `backups` prints, a path, or `latest`")
-        ->required();
-    command->footer("Example: halvane-data restore 2");
-    command->callback(
-        [&session, which] { session.Do([&session, which] { return Restore(session, *which); }); });
+    command.Take("WHICH", *which, "A number of the list that `backups` prints, a path, or `latest`")
+        .Required();
+    command.Footer("Example: halvane-data restore 2");
+    command.Does([&session, which] { return Restore(session, *which); });
 }

@@ -1,3 +1,4 @@
+#include "commands/Command.h"
 #include "commands/Commands.h"
 #include "commands/FoundFoods.h"
 #include "commands/Session.h"
@@ -6,15 +7,13 @@
 #include "records/RecordsReading.h"
 #include "store/Schema.h"
 
-#include <CLI/CLI.hpp>
-
 #include <algorithm>
 
 namespace {
 constexpr FoodSearch::Sources Everywhere{.recipes = true, .custom = true, .stock = true};
 
 struct Wanted {
-    std::vector<std::string> words;
+    QStringList words;
     int limit = 3 * FoodSearch::MostOfASource;
 };
 
@@ -37,7 +36,7 @@ void TellIfCut(const Session& session, const FoodList& found) {
 }
 
 int Search(const Session& session, const Wanted& wanted) {
-    const QString words = QString::fromStdString(CLI::detail::join(wanted.words, " "));
+    const QString words = wanted.words.join(u' ');
     if (const QString refusal = SearchTerms::Refusal(words); !refusal.isEmpty())
         return session.Refuse(refusal);
     const RecordsReading records(session.Records());
@@ -57,15 +56,13 @@ std::string LimitProblem(const std::string& text) {
 }
 } // namespace
 
-void Commands::AddSearch(CLI::App& program, Session& session) {
-    CLI::App* command = program.add_subcommand("search", "Finds foods and recipes by words");
+void Commands::AddSearch(const Command& program, Session& session) {
+    const Command command = program.Add("search", "Finds foods and recipes by words");
     const auto wanted = std::make_shared<Wanted>();
-    command->add_option("WORDS", wanted->words, "Words that the name must contain")->required();
-    command->add_option("--limit", wanted->limit, "Print at most so many")
-        ->type_name("NUMBER")
-        ->check(CLI::Validator(LimitProblem, ""));
-    command->footer("Example: halvane-data search rye bread");
-    command->callback([&session, wanted] {
-        session.Do([&session, wanted] { return Search(session, *wanted); });
-    });
+    command.Take("WORDS", wanted->words, "Words that the name must contain").Required();
+    command.Take("--limit", wanted->limit, "Print at most so many")
+        .Value("NUMBER")
+        .Check(LimitProblem);
+    command.Footer("Example: halvane-data search rye bread");
+    command.Does([&session, wanted] { return Search(session, *wanted); });
 }

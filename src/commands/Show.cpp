@@ -18,8 +18,6 @@
 #include <QJsonArray>
 #include <QJsonObject>
 
-#include <CLI/CLI.hpp>
-
 namespace {
 /// All that the day screen shows.
 struct Day {
@@ -111,12 +109,11 @@ int Show(const Session& session, QDate date) {
 }
 } // namespace
 
-void Commands::AddShow(CLI::App& program, Session& session) {
-    CLI::App* command = program.add_subcommand(
+void Commands::AddShow(const Command& program, Session& session) {
+    const Command command = program.Add(
         "show", "Shows a day: its weight, its meals, and its totals against the targets");
     const auto date = std::make_shared<QDate>();
-    DateOption::Add(*command, "DAY", *date, "The day; otherwise today");
-    command->footer("Example: halvane-data show 2026-03-02");
-    command->callback(
-        [&session, date] { session.Do([&session, date] { return Show(session, *date); }); });
+    DateOption::Add(command, "DAY", *date, "The day; otherwise today");
+    command.Footer("Example: halvane-data show 2026-03-02");
+    command.Does([&session, date] { return Show(session, *date); });
 }

@@ -1,15 +1,14 @@
+#include "commands/Command.h"
 #include "commands/Commands.h"
-#include "commands/OneOf.h"
 #include "commands/PeriodOption.h"
 #include "commands/Session.h"
+#include "commands/UsageError.h"
 #include "records/OutputFile.h"
 #include "records/RecordsReading.h"
 #include "records/tables/TableKinds.h"
 #include "records/tables/TableWriter.h"
 
 #include <QFileInfo>
-
-#include <CLI/CLI.hpp>
 
 #include <set>
 
@@ -44,10 +43,9 @@ const TableFormat& FormatOf(const Choice& choice, const Session& session) {
 
 void RequireSense(const Choice& choice, const Session& session) {
     if (!FormatOf(choice, session).isText && choice.out.empty())
-        throw CLI::ValidationError("--format", "A workbook needs a file: add --out FILE.xlsx.");
+        throw UsageError("--format", "A workbook needs a file: add --out FILE.xlsx.");
     if (!TableKind::Named(choice.table).hasDays && choice.days.IsGiven())
-        throw CLI::ValidationError("--from",
-                                   "The rows of this table have no days: leave out --from and "
+        throw UsageError("--from", "The rows of this table have no days: leave out --from and "
                                    "--to.");
 }
 
@@ -74,27 +72,22 @@ int WriteTable(const Session& session, const Choice& choice, const Period& perio
 }
 } // namespace
 
-void Commands::AddTable(CLI::App& program, Session& session) {
-    CLI::App* command = program.add_subcommand("table", "Writes records as a table: CSV, workbook "
-                                                        "or JSON");
+void Commands::AddTable(const Command& program, Session& session) {
+    const Command command = program.Add("table", "Writes records as a table: CSV, workbook "
+                                                 "or JSON");
     const auto choice = std::make_shared<Choice>();
-    command->add_option("TABLE", choice->table, "Which records")
-        ->required()
-        ->transform(OneOf(Names(TableKind::All())));
-    choice->days.AddTo(*command, "rows");
-    command->add_option("--format", choice->format, "The format; otherwise that of FILE, or csv")
-        ->transform(OneOf(Names(TableFormat::All())));
-    command->add_option("--out", choice->out, "The file; otherwise standard output")
-        ->type_name("FILE");
-    command->footer("Amounts that are not known are left empty. The coverage of a total is the "
-                    "share of the logged grams whose amount is known; own foods, recipes and "
-                    "foods that are gone count as 100 grams a serving.\n\n"
-                    "Example: halvane-data table days --from 2026-03-01 --to 2026-03-31 --out "
-                    "march.xlsx");
-    command->callback([&session, choice] {
+    command.Take("TABLE", choice->table, "Which records").Required().OneOf(Names(TableKind::All()));
+    choice->days.AddTo(command, "rows");
+    command.Take("--format", choice->format, "The format; otherwise that of FILE, or csv")
+        .OneOf(Names(TableFormat::All()));
+    command.Take("--out", choice->out, "The file; otherwise standard output").Value("FILE");
+    command.Footer("Amounts that are not known are left empty. The coverage of a total is the "
+                   "share of the logged grams whose amount is known; own foods, recipes and "
+                   "foods that are gone count as 100 grams a serving.\n\n"
+                   "Example: halvane-data table days --from 2026-03-01 --to 2026-03-31 --out "
+                   "march.xlsx");
+    command.Does([&session, choice] {
         RequireSense(*choice, session);
-        session.Do([&session, choice, period = choice->days.Chosen(TableKind::Always())] {
-            return WriteTable(session, *choice, period);
-        });
+        return WriteTable(session, *choice, choice->days.Chosen(TableKind::Always()));
     });
 }

@@ -1,12 +1,11 @@
 #include "records/Undo.h"
 
+#include "commands/Command.h"
 #include "commands/Commands.h"
 #include "commands/Session.h"
 #include "commands/SnapshotFacts.h"
 #include "commands/Waiting.h"
 #include "records/Snapshots.h"
-
-#include <CLI/CLI.hpp>
 
 namespace {
 int TakeBack(const Session& session) {
@@ -24,9 +23,9 @@ int TakeBack(const Session& session) {
 }
 } // namespace
 
-void Commands::AddUndo(CLI::App& program, Session& session) {
-    CLI::App* command = program.add_subcommand(
+void Commands::AddUndo(const Command& program, Session& session) {
+    const Command command = program.Add(
         "undo", "Takes the last change of a command back. Repeat it for the change before");
-    command->footer("Example: halvane-data undo");
-    command->callback([&session] { session.Do([&session] { return TakeBack(session); }); });
+    command.Footer("Example: halvane-data undo");
+    command.Does([&session] { return TakeBack(session); });
 }

@@ -11,8 +11,6 @@
 
 #include <QJsonObject>
 
-#include <CLI/CLI.hpp>
-
 namespace {
 struct Weighing {
     std::string text;
@@ -61,15 +59,13 @@ int Weigh(const Session& session, Weighing& weighing) {
 }
 } // namespace
 
-void Commands::AddWeigh(CLI::App& program, Session& session) {
-    CLI::App* command = program.add_subcommand(
+void Commands::AddWeigh(const Command& program, Session& session) {
+    const Command command = program.Add(
         "weigh", "Records a weight for a day and adapts the targets, as the day screen does");
     const auto weighing = std::make_shared<Weighing>();
-    command->add_option("WEIGHT", weighing->text, "In pounds");
-    command->add_flag("--remove", weighing->remove, "Remove the weight of that day");
-    DateOption::Add(*command, "--date,-d", weighing->day, "The day; otherwise today");
-    command->footer("Example: halvane-data weigh 150.5 --date yesterday");
-    command->callback([&session, weighing] {
-        session.Do([&session, weighing] { return Weigh(session, *weighing); });
-    });
+    command.Take("WEIGHT", weighing->text, "In pounds");
+    command.Flag("--remove", weighing->remove, "Remove the weight of that day");
+    DateOption::Add(command, "--date,-d", weighing->day, "The day; otherwise today");
+    command.Footer("Example: halvane-data weigh 150.5 --date yesterday");
+    command.Does([&session, weighing] { return Weigh(session, *weighing); });
 }

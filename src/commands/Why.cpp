@@ -1,3 +1,4 @@
+#include "commands/Command.h"
 #include "commands/Commands.h"
 #include "commands/FoodArgument.h"
 #include "commands/Session.h"
@@ -13,8 +14,6 @@
 #include <QDir>
 #include <QFile>
 #include <QJsonArray>
-
-#include <CLI/CLI.hpp>
 
 #include <algorithm>
 
@@ -118,14 +117,12 @@ int Why(const Session& session, const Question& question) {
 }
 } // namespace
 
-void Commands::AddWhy(CLI::App& program, Session& session) {
-    CLI::App* command = program.add_subcommand(
-        "why", "Tells where the amounts of a food, a recipe or an entry come from");
+void Commands::AddWhy(const Command& program, Session& session) {
+    const Command command =
+        program.Add("why", "Tells where the amounts of a food, a recipe or an entry come from");
     const auto question = std::make_shared<Question>();
-    question->food.AddOneTo(*command);
-    command->add_option("NUTRIENT", question->nutrient, "One nutrient; otherwise all");
-    command->footer("Example: halvane-data why 16096 Selenium");
-    command->callback([&session, question] {
-        session.Do([&session, question] { return Why(session, *question); });
-    });
+    question->food.AddOneTo(command);
+    command.Take("NUTRIENT", question->nutrient, "One nutrient; otherwise all");
+    command.Footer("Example: halvane-data why 16096 Selenium");
+    command.Does([&session, question] { return Why(session, *question); });
 }

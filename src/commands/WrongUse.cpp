@@ -1,5 +1,7 @@
 #include "commands/WrongUse.h"
 
+#include "commands/UsageError.h"
+
 #include <CLI/CLI.hpp>
 
 namespace {
@@ -27,6 +29,10 @@ std::string Unexpected(const CLI::App& program, const CLI::ParseError& wrong) {
     return left.empty() || !isAbout ? std::string() : left.front();
 }
 
+std::string WithStop(const std::string& sentence) {
+    return sentence + (sentence.ends_with('.') ? "" : ".");
+}
+
 /// What the parser says, where its words are not plain.
 std::string InPlainWords(const CLI::ParseError& wrong) {
     const std::string what = wrong.what();
@@ -34,7 +40,7 @@ std::string InPlainWords(const CLI::ParseError& wrong) {
     if (static_cast<CLI::ExitCodes>(wrong.get_exit_code()) == CLI::ExitCodes::ArgumentMismatch)
         return option +
                (what.ends_with("missing") ? " needs a value." : " can be given only once.");
-    return what + (what.ends_with('.') ? "" : ".");
+    return WithStop(what);
 }
 
 std::string Problem(const CLI::App& chosen, const CLI::ParseError& wrong,
@@ -48,12 +54,19 @@ std::string Problem(const CLI::App& chosen, const CLI::ParseError& wrong,
         return "Please name a command.";
     return InPlainWords(wrong);
 }
+
+QString WithHelp(const CLI::App& chosen, const std::string& problem) {
+    return QString::fromStdString(
+        problem + " `" + NameOf(chosen) + " --help` " +
+        (NeedsCommand(chosen) ? "lists the commands." : "shows how it is used."));
+}
 } // namespace
 
 QString WrongUse::Message(const CLI::App& program, const CLI::ParseError& wrong) {
     const CLI::App& chosen = Chosen(program);
-    const std::string help =
-        " `" + NameOf(chosen) + " --help` " +
-        (NeedsCommand(chosen) ? "lists the commands." : "shows how it is used.");
-    return QString::fromStdString(Problem(chosen, wrong, Unexpected(program, wrong)) + help);
+    return WithHelp(chosen, Problem(chosen, wrong, Unexpected(program, wrong)));
+}
+
+QString WrongUse::Message(const CLI::App& program, const UsageError& wrong) {
+    return WithHelp(Chosen(program), WithStop(wrong.what()));
 }

@@ -1,9 +1,13 @@
 #include "commands/DateOption.h"
 
+#include "commands/Session.h"
+#include "commands/UsageError.h"
 #include "runtime/Clock.h"
 #include "runtime/RuntimeError.h"
 #include "support/Failure.h"
 #include "support/HalvaneTest.h"
+
+#include <sstream>
 
 #include <CLI/CLI.hpp>
 
@@ -15,10 +19,12 @@ protected:
     }
     /// What a command with the option `--date` makes of the text.
     static QDate Parsed(const std::string& text) {
-        CLI::App command;
+        std::ostringstream none;
+        Session session(none, none);
+        CLI::App program;
         QDate day;
-        DateOption::Add(command, "--date", day, "The day");
-        command.parse("--date " + text);
+        DateOption::Add(Command(program, session), "--date,-d", day, "The day");
+        program.parse("--date " + text);
         return day;
     }
 };
@@ -43,7 +49,7 @@ TEST_F(DateOptionTest, ATextThatIsNoDayIsAUsageErrorThatNamesTheOption) {
     try {
         Parsed("2026-02-29");
         FAIL() << "the day was taken";
-    } catch (const CLI::ValidationError& wrong) {
+    } catch (const UsageError& wrong) {
         EXPECT_STREQ(
             wrong.what(),
             "--date: \"2026-02-29\" is not a day. Write it as 2026-03-02, today or yesterday.");

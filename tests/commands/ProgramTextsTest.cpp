@@ -1,5 +1,6 @@
 #include "CommandTest.h"
 
+#include "commands/Command.h"
 #include "commands/CommandOutline.h"
 #include "commands/Commands.h"
 #include "commands/Progress.h"
@@ -53,7 +54,7 @@ protected:
         Session session(none, none);
         CLI::App program("Records", "halvane-data");
         for (const auto add : Commands::All)
-            add(program, session);
+            add(::Command(program, session), session);
         return CommandOutline::Of(program);
     }
     static QByteArray Output(const QString& program, const QStringList& arguments, int code = 0) {
