@@ -18,8 +18,6 @@ void StyleChoice::Keep(int choice) {
 }
 
 StyleKind StyleChoice::Wanted(const QPalette& platform) {
-    static constexpr StyleKind chosen[] = {StyleKind::Light, StyleKind::Dark,
-                                           StyleKind::HighContrast};
-    const int choice = Stored();
-    return choice == 0 ? DesktopStyle::Wanted(platform) : chosen[choice - 1];
+    const std::optional<StyleKind> chosen = All[Stored()].kind;
+    return chosen ? *chosen : DesktopStyle::Wanted(platform);
 }

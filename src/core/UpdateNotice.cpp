@@ -1,5 +1,6 @@
 #include "core/UpdateNotice.h"
 
+#include "core/CentredLine.h"
 #include "drawing/DevicePixels.h"
 #include "drawing/Style.h"
 #include "toolkit/CentreWindow.h"
@@ -14,11 +15,6 @@ constexpr QSize NoticeSize(420, 110);
 constexpr int TitleTop = 28;
 constexpr int LineTop = 66;
 constexpr int LongestWait = 500; ///< milliseconds, for a screen that paints nothing
-
-void LayLine(QLabel* label, int top) {
-    label->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
-    label->setGeometry(0, top, NoticeSize.width(), label->sizeHint().height());
-}
 } // namespace
 
 UpdateNotice::UpdateNotice()
@@ -35,10 +31,10 @@ UpdateNotice::UpdateNotice()
 void UpdateNotice::LayTexts() {
     const QString title = QStringLiteral("Halvane updates your files");
     setAccessibleName(title);
-    LayLine(MakeLabel(this, QStringLiteral("lblTitle"), title, TextRole::CardTitle), TitleTop);
-    LayLine(MakeLabel(this, QStringLiteral("lblOnce"),
-                      QStringLiteral("This is needed once and can take some seconds.")),
-            LineTop);
+    LayCentred(MakeLabel(this, QStringLiteral("lblTitle"), title, TextRole::CardTitle), TitleTop);
+    LayCentred(MakeLabel(this, QStringLiteral("lblOnce"),
+                         QStringLiteral("This is needed once and can take some seconds.")),
+               LineTop);
 }
 
 void UpdateNotice::WaitUntilPainted() {

@@ -1,5 +1,6 @@
 #include "core/frmSplash.h"
 
+#include "core/CentredLine.h"
 #include "drawing/DevicePixels.h"
 #include "drawing/Pictures.h"
 #include "drawing/Style.h"
@@ -18,12 +19,6 @@ constexpr QRect Picture(150, 36, 120, 120);
 constexpr int NameTop = 172;
 constexpr int LineTop = 208;
 constexpr int VersionTop = 260;
-
-void LayLine(QLabel* label, int top) {
-    label->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
-    label->setGeometry(0, top, SplashSize.width(), label->sizeHint().height());
-}
-
 } // namespace
 
 frmSplash::frmSplash(QWidget* owner)
@@ -43,13 +38,13 @@ frmSplash::frmSplash(QWidget* owner)
 void frmSplash::LayTexts() {
     QLabel* name =
         MakeLabel(this, QStringLiteral("lblName"), QStringLiteral("Halvane"), TextRole::CardTitle);
-    LayLine(name, NameTop);
-    LayLine(MakeLabel(this, QStringLiteral("lblWhat"),
-                      QStringLiteral("What you eat, day by day, beside what you need")),
-            LineTop);
-    LayLine(MakeLabel(this, QStringLiteral("lblVersion"),
-                      QStringLiteral("Version " HALVANE_VERSION), TextRole::Quiet),
-            VersionTop);
+    LayCentred(name, NameTop);
+    LayCentred(MakeLabel(this, QStringLiteral("lblWhat"),
+                         QStringLiteral("What you eat, day by day, beside what you need")),
+               LineTop);
+    LayCentred(MakeLabel(this, QStringLiteral("lblVersion"),
+                         QStringLiteral("Version " HALVANE_VERSION), TextRole::Quiet),
+               VersionTop);
 }
 
 /// The default position leaves room for a title bar, which this window does not have.
