@@ -3,10 +3,6 @@
 #include <string>
 #include <vector>
 
-namespace CLI {
-class App;
-}
-
 /// An option, or an argument without a name.
 struct OptionOutline {
     std::string name;  ///< "--folder", or "FILE" of an argument
@@ -32,8 +28,6 @@ struct CommandOutline {
     std::string Sentence() const; ///< the description with its full stop
     std::string LastWord() const; ///< of the name
 
-    /// The program first, then each command, in the order of the help. Hidden options are left out.
-    static std::vector<CommandOutline> Of(const CLI::App& program);
     /// The commands that follow a command: "import" after "foods".
     static std::vector<const CommandOutline*> Below(const std::vector<CommandOutline>& outline,
                                                     const std::string& name);

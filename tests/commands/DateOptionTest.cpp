@@ -1,7 +1,7 @@
 #include "commands/DateOption.h"
 
+#include "commands/CommandLine.h"
 #include "commands/Session.h"
-#include "commands/UsageError.h"
 #include "runtime/Clock.h"
 #include "runtime/RuntimeError.h"
 #include "support/Failure.h"
@@ -9,23 +9,28 @@
 
 #include <sstream>
 
-#include <CLI/CLI.hpp>
-
 class DateOptionTest : public HalvaneTest {
 protected:
     void SetUp() override {
         HalvaneTest::SetUp();
         Clock::SetToday(QDate(2026, 3, 1));
     }
-    /// What a command with the option `--date` makes of the text.
-    static QDate Parsed(const std::string& text) {
-        std::ostringstream none;
-        Session session(none, none);
-        CLI::App program;
+    struct Outcome {
+        int code;
         QDate day;
-        DateOption::Add(Command(program, session), "--date,-d", day, "The day");
-        program.parse("--date " + text);
-        return day;
+        std::string errors;
+    };
+    /// What a program with the option `--date` makes of the text.
+    static Outcome Parsed(const QString& text) {
+        std::ostringstream out;
+        std::ostringstream errors;
+        Session session(out, errors);
+        CommandLine line("program", "Takes a day", session);
+        QDate day;
+        DateOption::Add(line.Program(), "--date,-d", day, "The day");
+        line.Program().Does([] { return Done; });
+        const int code = line.Run({"program", "--date", text}, out, errors);
+        return {code, day, errors.str()};
     }
 };
 
@@ -42,16 +47,15 @@ TEST_F(DateOptionTest, RefusesEveryOtherTextAndSaysHowToWriteADay) {
 }
 
 TEST_F(DateOptionTest, AnOptionSetsItsDay) {
-    EXPECT_EQ(Parsed("2024-02-29"), QDate(2024, 2, 29));
+    const Outcome outcome = Parsed("2024-02-29");
+    EXPECT_EQ(outcome.code, Done);
+    EXPECT_EQ(outcome.day, QDate(2024, 2, 29));
 }
 
 TEST_F(DateOptionTest, ATextThatIsNoDayIsAUsageErrorThatNamesTheOption) {
-    try {
-        Parsed("2026-02-29");
-        FAIL() << "the day was taken";
-    } catch (const UsageError& wrong) {
-        EXPECT_STREQ(
-            wrong.what(),
-            "--date: \"2026-02-29\" is not a day. Write it as 2026-03-02, today or yesterday.");
-    }
+    const Outcome outcome = Parsed("2026-02-29");
+    EXPECT_EQ(outcome.code, Usage);
+    EXPECT_EQ(outcome.errors,
+              "halvane-data: --date: \"2026-02-29\" is not a day. Write it as 2026-03-02, today or "
+              "yesterday. `program --help` shows how it is used.\n");
 }

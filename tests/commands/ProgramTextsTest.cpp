@@ -1,7 +1,6 @@
 #include "CommandTest.h"
 
-#include "commands/Command.h"
-#include "commands/CommandOutline.h"
+#include "commands/CommandLine.h"
 #include "commands/Commands.h"
 #include "commands/Progress.h"
 #include "commands/Session.h"
@@ -13,8 +12,6 @@
 
 #include <atomic>
 #include <sstream>
-
-#include <CLI/CLI.hpp>
 
 namespace {
 /// Another thread writes; it is read when that thread has ended.
@@ -52,10 +49,10 @@ protected:
     static std::vector<CommandOutline> Outline() {
         std::ostringstream none;
         Session session(none, none);
-        CLI::App program("Records", "halvane-data");
+        const CommandLine line("halvane-data", "Records", session);
         for (const auto add : Commands::All)
-            add(::Command(program, session), session);
-        return CommandOutline::Of(program);
+            add(line.Program(), session);
+        return line.Outline();
     }
     static QByteArray Output(const QString& program, const QStringList& arguments, int code = 0) {
         QProcess process;
