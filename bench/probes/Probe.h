@@ -8,10 +8,13 @@
 
 #include <cstdio>
 
-/// When the window is painted and no events are left, prints the resident memory in KiB and ends.
+/// When the window is painted and no events are left, prints the resident memory in KiB and quits.
 class ReportFirstPaint : public QObject {
 public:
-    explicit ReportFirstPaint(QWidget* window) { window->installEventFilter(this); }
+    ReportFirstPaint(QWidget* window, void (*quit)())
+        : quit_(quit) {
+        window->installEventFilter(this);
+    }
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override {
@@ -36,8 +39,9 @@ private:
     void End() {
         std::printf("%ld\n", ResidentKiB());
         std::fflush(stdout);
-        QApplication::exit(0);
+        quit_();
     }
 
+    void (*quit_)();
     bool painted_ = false;
 };

@@ -7,7 +7,7 @@ int main(int argc, char** argv) {
     QApplication application(argc, argv);
     QWidget window;
     window.resize(850, 620);
-    ReportFirstPaint report(&window);
+    ReportFirstPaint report(&window, &QApplication::quit);
     window.show();
     return QApplication::exec();
 }

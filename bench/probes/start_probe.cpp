@@ -7,7 +7,7 @@
 #include "runtime/AppPath.h"
 
 /// start_probe FOLDER: a complete start in that folder, with the agreement accepted and the splash
-/// closed at once, until the frame is painted.
+/// closed at once, until the frame is painted. Then it quits, as a person does.
 int main(int argc, char** argv) {
     Application application(argc, argv);
     SetApplicationPath(QString::fromLocal8Bit(argv[1]));
@@ -23,6 +23,6 @@ int main(int argc, char** argv) {
     splash.stop();
     for (QWidget* window : QApplication::topLevelWidgets())
         if (window->objectName() == QStringLiteral("frmHOME"))
-            new ReportFirstPaint(window);
+            new ReportFirstPaint(window, &Flow::QuitApp);
     return QApplication::exec();
 }
