@@ -65,6 +65,7 @@ void Ground::LayOut(const QString& folder) {
     SetApplicationPath(folder);
     for (const char* name : {"users.mdb", "foods.mdb", "tips.txt", "agreement.txt"})
         QFile::copy(QStringLiteral(HALVANE_BUILD_DIR "/delivered/") + name, FileBeside(name));
+    QFile::link(QStringLiteral(HALVANE_BUILD_DIR "/delivered/fonts"), FileBeside("fonts"));
     OpenBoth();
     AddUser();
     UserDB().Close();

@@ -4,6 +4,7 @@
 #include "StartBench.h"
 #include "Table.h"
 
+#include "core/Appearance.h"
 #include "core/Application.h"
 #include "store/StoreThreads.h"
 
@@ -16,6 +17,7 @@ int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     StoreThreads::AllocateApart();
     Application application(argc, argv);
+    Appearance::Take();
     std::vector<char*> arguments(argv, argv + argc);
     std::string flags[] = {"--benchmark_repetitions=5", "--benchmark_min_time=0.2"};
     for (std::string& flag : flags)

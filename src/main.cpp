@@ -1,3 +1,4 @@
+#include "core/Appearance.h"
 #include "core/Application.h"
 #include "core/Flow.h"
 #include "core/Navigation.h"
@@ -10,6 +11,7 @@ int main(int argc, char** argv) {
     WindowScale::TellPlatform();
     Application application(argc, argv);
     WindowScale::ClearEnvironment();
+    Appearance::ReadAhead();
     RegisterScreens(TheNavigation());
     TheNavigation().InstallSeams();
     const int exitCode = Flow::Main(application.Instance());

@@ -1,5 +1,6 @@
 #include "probes/Probe.h"
 
+#include "core/Appearance.h"
 #include "core/Application.h"
 #include "core/Flow.h"
 #include "core/Navigation.h"
@@ -10,6 +11,7 @@
 /// closed at once, until the frame is painted. Then it quits, as a person does.
 int main(int argc, char** argv) {
     Application application(argc, argv);
+    Appearance::ReadAhead();
     SetApplicationPath(QString::fromLocal8Bit(argv[1]));
     QTimer splash;
     splash.callOnTimeout([] {

@@ -2,24 +2,14 @@
 
 #include "core/FailureText.h"
 #include "core/HeldRecords.h"
-#include "core/StyleChoice.h"
-#include "drawing/Pictures.h"
 #include "runtime/Seams.h"
 #include "store/Connection.h"
-#include "toolkit/ApplyStyle.h"
 #include "toolkit/MousePointer.h"
 
-#include <QIcon>
 #include <QMessageBox>
 
 #include <cstdio>
 #include <cstdlib>
-
-namespace {
-
-constexpr QSize IconSize(64, 64);
-
-} // namespace
 
 Application::Application(int& argc, char** argv)
     : QApplication(argc, argv) {
@@ -27,9 +17,6 @@ Application::Application(int& argc, char** argv)
     setApplicationVersion(QStringLiteral(HALVANE_VERSION));
     setDesktopFileName(QStringLiteral("halvane"));
     setQuitOnLastWindowClosed(false); // closing the frame runs QuitApp, and that ends the process
-    setWindowIcon(QIcon(Pictures::Get(QStringLiteral("logo"), IconSize)));
-    UseStyle(StyleChoice::Wanted(palette()));
-    ApplyStyle(*this);
     TheSeams().EndProcess = [this](int exitCode) { EndNow(exitCode); };
 }
 

@@ -1,5 +1,6 @@
 #include "core/Flow.h"
 
+#include "core/Appearance.h"
 #include "core/HeldRecords.h"
 #include "core/Navigation.h"
 #include "core/OwnSnapshots.h"
@@ -28,6 +29,7 @@
 #include <QApplication>
 #include <QScopedValueRollback>
 
+#include <future>
 #include <memory>
 
 namespace {
@@ -39,13 +41,24 @@ struct Step {
 };
 
 std::unique_ptr<UpdateNotice> updateNotice;
+std::future<QString> nextTip;
+
+bool TakeAppearance() {
+    Appearance::Take();
+    return true;
+}
+
+void ShowUpdateNotice() {
+    Appearance::Take();
+    updateNotice = std::make_unique<UpdateNotice>();
+}
 
 bool TakeRecords() {
     const OwnRecords records;
     records.MakeFolder();
     HeldRecords::Take();
     if (UpgradeSnapshot::IsNeeded(RecordsFolder(RecordsPath())))
-        updateNotice = std::make_unique<UpdateNotice>();
+        ShowUpdateNotice();
     OwnSnapshots::BeforeUpgrade();
     if (HeldRecords::AreHeld())
         records.Update();
@@ -75,7 +88,9 @@ bool AskAgreement() {
     return false;
 }
 
+/// Meanwhile a thread remembers the tip: that waits for the disk.
 bool ShowSplash() {
+    nextTip = std::async(std::launch::async, &Tips::Next);
     frmSplash().exec();
     return true;
 }
@@ -86,7 +101,7 @@ bool ReadSettings() {
 }
 
 bool ChooseTip() {
-    App().TipOfTheDay = Tips::Next();
+    App().TipOfTheDay = nextTip.get();
     return true;
 }
 
@@ -110,10 +125,10 @@ bool ShowFirstWindow() {
 }
 
 constexpr Step Steps[] = {
-    {"records", TakeRecords},          {"users.mdb", OpenUsers},    {"foods.mdb", OpenFoods},
-    {"settings", ReadFirstSettings},   {"agreement", AskAgreement}, {"splash", ShowSplash},
-    {"settings", ReadSettings},        {"tips.txt", ChooseTip},     {"users.mdb", LoadFirstUser},
-    {"first window", ShowFirstWindow},
+    {"records", TakeRecords},        {"users.mdb", OpenUsers},          {"foods.mdb", OpenFoods},
+    {"settings", ReadFirstSettings}, {"appearance", TakeAppearance},    {"agreement", AskAgreement},
+    {"splash", ShowSplash},          {"settings", ReadSettings},        {"tips.txt", ChooseTip},
+    {"users.mdb", LoadFirstUser},    {"first window", ShowFirstWindow},
 };
 
 /// A Wayland compositor keeps to itself where a window is.

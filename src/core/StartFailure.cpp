@@ -1,5 +1,6 @@
 #include "core/StartFailure.h"
 
+#include "core/Appearance.h"
 #include "core/FailureText.h"
 #include "records/Snapshots.h"
 #include "records/SoundRecords.h"
@@ -90,6 +91,7 @@ void StartFailure::Report(const std::exception& error, const QString& step) {
     const auto* known = dynamic_cast<const RuntimeError*>(&error);
     const QString rescue = Rescue(known);
     PrintLine(step + ": " + FailureText::Short(error) + u' ' + rescue);
+    Appearance::Take();
     if (!rescue.isEmpty())
         return ShowChoice(known->Description() + "\n\n" + rescue);
     if (FailureText::Number(error) <= LastSilentNumber)

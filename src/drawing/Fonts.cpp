@@ -6,7 +6,15 @@
 #include <QFontDatabase>
 #include <QGuiApplication>
 
+#include <future>
+
+#ifdef HALVANE_FONTCONFIG
+#include <fontconfig/fontconfig.h>
+#endif
+
 namespace {
+
+std::future<void> readAhead;
 
 QString FamilyAtHand() {
     for (const char* family : {"Inter", "Segoe UI", "Noto Sans", "DejaVu Sans"})
@@ -17,7 +25,16 @@ QString FamilyAtHand() {
 
 } // namespace
 
+/// Elsewhere the platform has read its fonts before any program starts.
+void Fonts::ReadAhead() {
+#ifdef HALVANE_FONTCONFIG
+    readAhead = std::async(std::launch::async, [] { FcInit(); });
+#endif
+}
+
 QString Fonts::Load(const QString& folder) {
+    if (readAhead.valid())
+        readAhead.get();
     QString family;
     for (const QFileInfo& file :
          QDir(folder).entryInfoList({QStringLiteral("*.otf")}, QDir::Files)) {

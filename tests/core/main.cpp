@@ -1,3 +1,4 @@
+#include "core/Appearance.h"
 #include "core/Application.h"
 
 #include <gtest/gtest.h>
@@ -6,6 +7,7 @@
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     Application application(argc, argv);
+    Appearance::Take();
     ::testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();
 }

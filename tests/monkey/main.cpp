@@ -1,6 +1,7 @@
 #include "monkey/Life.h"
 #include "monkey/Session.h"
 
+#include "core/Appearance.h"
 #include "core/Application.h"
 
 #include <QElapsedTimer>
@@ -33,6 +34,7 @@ int RunSessions(const QStringList& arguments) {
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     Application application(argc, argv);
+    Appearance::Take();
     const QStringList arguments = QCoreApplication::arguments();
     if (arguments.value(1) == u"--live")
         return Life(application, arguments[2]).Run(arguments[3].toUInt(), arguments[4].toInt());

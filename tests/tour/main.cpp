@@ -1,6 +1,7 @@
 #include "tour/Guide.h"
 #include "tour/Walk.h"
 
+#include "core/Appearance.h"
 #include "core/Application.h"
 #include "drawing/Style.h"
 #include "toolkit/ApplyStyle.h"
@@ -74,6 +75,7 @@ int main(int argc, char** argv) {
         if (!isStage)
             qputenv(folder, fresh.path().toLocal8Bit());
     Application application(argc, argv);
+    Appearance::Take();
     QApplication::setQuitOnLastWindowClosed(false);
     TakeStyle(application, qEnvironmentVariable("TOUR_STYLE"));
     TakeFont(application, qEnvironmentVariable("TOUR_FONT"));
