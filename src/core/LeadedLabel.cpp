@@ -36,8 +36,11 @@ int LeadedLabel::LayOut(QTextLayout& text, int width) const {
 }
 
 int LeadedLabel::heightForWidth(int width) const {
-    QTextLayout layout(text(), font());
-    return LayOut(layout, qMax(1, width));
+    if (width != measured_.width || text() != measured_.text || font() != measured_.font) {
+        QTextLayout layout(text(), font());
+        measured_ = {text(), font(), width, LayOut(layout, qMax(1, width))};
+    }
+    return measured_.height;
 }
 
 void LeadedLabel::resizeEvent(QResizeEvent* event) {

@@ -22,5 +22,14 @@ protected:
     void resizeEvent(QResizeEvent*) override;
 
 private:
+    struct Measured {
+        QString text;
+        QFont font;
+        int width = 0;
+        int height = 0;
+    };
+
     int LayOut(QTextLayout& text, int width) const; ///< returns the height
+
+    mutable Measured measured_; ///< the scroll area asks for the same height many times
 };

@@ -10,6 +10,7 @@ QFont FontAt(const QString& family, double points, QFont::Weight weight) {
     QFont font(family);
     font.setPointSizeF(points);
     font.setWeight(weight);
+    font.setStyleStrategy(QFont::PreferAntialias); // as printed text has it: both share one face
 #if QT_VERSION >= QT_VERSION_CHECK(6, 7, 0)
     font.setFeature("tnum", 1);
 #endif
