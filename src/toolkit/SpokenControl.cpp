@@ -1,5 +1,7 @@
 #include "toolkit/SpokenControl.h"
 
+#include <QEvent>
+
 namespace {
 
 QAccessibleInterface* MakeInterface(const QString&, QObject* object) {
@@ -13,4 +15,9 @@ SpokenControl::SpokenControl(QWidget* parent)
     : QWidget(parent) {
     static const bool installed = (QAccessible::installFactory(MakeInterface), true);
     Q_UNUSED(installed)
+}
+
+/// To match a control with a style sheet costs more than to make it, and 6 KB are kept for each.
+bool SpokenControl::event(QEvent* event) {
+    return event->type() == QEvent::Polish || QWidget::event(event);
 }

@@ -3,7 +3,8 @@
 #include <QAccessible>
 #include <QWidget>
 
-/// A control that tells assistive tools itself what it is and what it holds.
+/// A control that draws itself and tells assistive tools itself what it is and what it holds. The
+/// style sheet of the application says nothing about it and is not asked.
 class SpokenControl : public QWidget {
     Q_OBJECT
 
@@ -16,4 +17,7 @@ public:
     virtual QAccessible::Role AccessibleRole() const = 0;
     /// Called once, when a tool first asks; the caller owns the interface.
     virtual QAccessibleInterface* MakeAccessible() = 0;
+
+protected:
+    bool event(QEvent* event) override;
 };
