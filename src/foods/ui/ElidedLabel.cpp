@@ -10,6 +10,8 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include <algorithm>
+
 ElidedLabel::ElidedLabel(QWidget* parent, const QString& name)
     : QLabel(parent)
     , fonts_{TheStyle().text}
@@ -43,10 +45,10 @@ bool ElidedLabel::Fits(const QFont& font) const {
 }
 
 QFont ElidedLabel::FittingFont() const {
-    for (const QFont& font : fonts_)
-        if (Fits(font))
-            return font;
-    return fonts_.last();
+    const auto others = fonts_.first(fonts_.size() - 1);
+    const auto fitting =
+        std::ranges::find_if(others, [this](const QFont& font) { return Fits(font); });
+    return fitting == others.end() ? fonts_.last() : *fitting;
 }
 
 bool ElidedLabel::event(QEvent* event) {
