@@ -60,7 +60,7 @@ std::vector<LoggedFood> DayLog::FoodsOf(int meal, QDate day) {
 }
 
 qint32 DayLog::AddFood(const ScaledFood& item, const QString& meal, QDate day) {
-    Recordset rows(UserDB(), LoggedEntries::Of(day).Statement(), CursorType::Dynamic,
+    Recordset rows(UserDB(), LoggedEntries::NoneOf(day).Statement(), CursorType::Dynamic,
                    LockType::Optimistic);
     rows.AddNew();
     for (int i = 1; i <= NutrientCount; ++i)
@@ -82,7 +82,7 @@ QString DayLog::CopyRefusal(QDate from, QDate to) {
 
 std::vector<qint32> DayLog::CopyFoods(const LoggedEntries& foods, QDate to) {
     const std::vector<LoggedRow> rows = LoggedRow::AllOf(foods);
-    Recordset copies(UserDB(), LoggedEntries::Of(to).Statement(), CursorType::Dynamic,
+    Recordset copies(UserDB(), LoggedEntries::NoneOf(to).Statement(), CursorType::Dynamic,
                      LockType::Optimistic);
     std::vector<qint32> keys;
     for (const LoggedRow& row : rows) {

@@ -27,3 +27,7 @@ LoggedEntries LoggedEntries::Of(QDate day, std::optional<int> meal) {
 LoggedEntries LoggedEntries::One(qint32 RecID) {
     return LoggedEntries("SELECT * FROM USER_FOODS WHERE RecID = " + QString::number(RecID));
 }
+
+LoggedEntries LoggedEntries::NoneOf(QDate day) {
+    return LoggedEntries(RowsOfDay("USER_FOODS", day) + " AND 1 = 0");
+}

@@ -5,11 +5,13 @@
 
 #include <optional>
 
-/// Entries of the current user's log: all of a day, those of one of its meals, or a single one.
+/// Entries of the current user's log: all of a day, those of one of its meals, a single one, or
+/// none.
 class LoggedEntries {
 public:
     static LoggedEntries Of(QDate day, std::optional<int> meal = {});
     static LoggedEntries One(qint32 RecID);
+    static LoggedEntries NoneOf(QDate day); ///< to append to the day without reading its rows
 
     const QString& Statement() const { return statement_; } ///< reads their rows
 

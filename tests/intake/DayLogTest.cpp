@@ -7,6 +7,7 @@
 #include "model/User.h"
 #include "runtime/AppState.h"
 #include "store/Connection.h"
+#include "store/Recordset.h"
 #include "support/HostileRows.h"
 
 #include <SQLiteCpp/SQLiteCpp.h>
@@ -174,4 +175,11 @@ TEST_F(DayLogTest, WithoutAWeightOrWithTheSettingOffTheTargetsOfADayAreThePerson
     DayLog::SetWeight(day, 150);
     EXPECT_EQ(DayLog::UserOn(day).RDIs.Calories(), 2000);
     EXPECT_EQ(DayLog::UserOn(day).CurrentWeight, 150);
+}
+
+TEST_F(DayLogTest, RowsAreAppendedWithoutReadingAny) {
+    Log("Soup", "Lunch");
+    EXPECT_TRUE(Recordset(UserDB(), LoggedEntries::NoneOf(day).Statement()).AtEnd());
+    DayLog::AddFood(Scaled("Bread"), "Lunch", day);
+    EXPECT_EQ(LogCount(), 2);
 }
