@@ -1,6 +1,8 @@
 #include "drawing/Fonts.h"
 
+#include "drawing/SmoothedPrint.h"
 #include "drawing/Style.h"
+#include "runtime/AppState.h"
 #include "support/HalvaneTest.h"
 #include "support/Places.h"
 
@@ -64,4 +66,15 @@ TEST_F(FontsTest, ADamagedFileIsPassedOver) {
     ASSERT_TRUE(QFile::copy(delivered, Folder() + "/Inter-Regular.otf"));
     Write("Inter-Black.otf", "no font");
     EXPECT_EQ(Fonts::Load(Folder()), "Inter");
+}
+
+TEST_F(FontsTest, AFontCanBeLoadedWhileTheConfigurationIsRead) {
+    Fonts::ReadAhead();
+    EXPECT_EQ(Fonts::Load(Places::Build("/delivered/fonts")), "Inter");
+}
+
+TEST_F(FontsTest, PrintedTextSharesTheFaceOfALabel) {
+    App().AppInfo.OSVERSION = 2;
+    for (const QFont& font : {TheStyle().text, TheStyle().smallStrong, TheStyle().control})
+        EXPECT_EQ(SmoothedFont(font), font);
 }

@@ -5,9 +5,11 @@
 #include "support/HalvaneTest.h"
 #include "toolkit/ApplyStyle.h"
 #include "toolkit/Labels.h"
+#include "toolkit/ucHeader.h"
 
 #include <QApplication>
 #include <QCheckBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QStyle>
@@ -187,4 +189,14 @@ TEST_F(StyleTest, FifteenTwipsMakeAPixelAtTheStandardDensity) {
     EXPECT_EQ(Twips::ToPixels(22), 1);
     EXPECT_EQ(Twips::ToPixels(-100), -7);
     EXPECT_EQ(Twips::FromPixels(24), 360);
+}
+
+TEST_F(StyleTest, OnlyWidgetsThatTheSheetCanNameAreMatchedWithIt) {
+    Use(StyleKind::Dark);
+    QWidget window;
+    QLabel plain(&window);
+    ucHeader drawn(&window);
+    window.show();
+    EXPECT_TRUE(plain.testAttribute(Qt::WA_StyleSheet));
+    EXPECT_FALSE(drawn.testAttribute(Qt::WA_StyleSheet));
 }
