@@ -4,5 +4,5 @@
 
 ListRow::ListRow(QWidget* parent)
     : DrawnControl(parent)
-    , backColor_(Qt::white)
+    , backColor_(TheStyle().listItem)
     , foreColor_(TheStyle().ink) {}

@@ -13,7 +13,7 @@
 ucAALBL::ucAALBL(QWidget* parent)
     : DrawnControl(parent)
     , caption_(QStringLiteral("AntiAlias"))
-    , backColor_(Qt::white) {
+    , backColor_(TheStyle().listItem) {
     Fit();
 }
 

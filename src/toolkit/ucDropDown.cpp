@@ -207,9 +207,9 @@ void ucDropDown::paintEvent(QPaintEvent*) {
 void ucDropDown::PaintStrip(QPainter& painter, const Layout& at) const {
     const Style& style = TheStyle();
     const QColor& ground = isEnabled() ? style.paper : style.canvas;
+    const QColor& usable = IsOpen() ? style.frame : style.fieldEdge;
     PaintFace(painter, at.picSelItem,
-              {{ground, ground}, IsOpen() ? style.frame : style.fieldEdge, style.ink},
-              style.fieldRadius);
+              {{ground, ground}, isEnabled() ? usable : style.rule, style.ink}, style.fieldRadius);
 }
 
 /// The ground of the arrow shows only under the pointer.

@@ -254,7 +254,7 @@ void ucScroll::PaintArrow(QPainter& painter, const QRect& place, Part part) cons
     const Style& style = TheStyle();
     const bool down = pressed_ == part;
     if (down || lit_ == part)
-        painter.fillRect(place, down ? style.rule : style.header.from);
+        painter.fillRect(place, down ? style.button[2].ground.from : style.header.from);
     const QRect picture = place.adjusted(2, 2, -2, -2).translated(0, down ? 1 : 0);
     const QString name =
         part == Part::Up ? QStringLiteral("arrow-up") : QStringLiteral("arrow-down");

@@ -1,5 +1,6 @@
 #include "toolkit/Input.h"
 
+#include "drawing/Contrast.h"
 #include "drawing/SmoothedPrint.h"
 #include "drawing/Style.h"
 #include "runtime/AppState.h"
@@ -37,6 +38,13 @@ TEST_F(ucAALBLTest, StartsWithItsDefaults) {
     EXPECT_EQ(label.BackColor(), QColor(Qt::white));
     EXPECT_EQ(label.ForeColor(), label.palette().color(QPalette::ButtonText));
     EXPECT_TRUE(label.property("Enabled").toBool());
+}
+
+TEST_F(ucAALBLTest, InEveryStyleItsDefaultInkCanBeReadOnItsDefaultGround) {
+    for (const StyleKind kind : {StyleKind::Dark, StyleKind::HighContrast, StyleKind::Light}) {
+        UseStyle(kind);
+        EXPECT_GE(Contrast(TheStyle().ink, ucAALBL().BackColor()), 4.5) << int(kind);
+    }
 }
 
 TEST_F(ucAALBLTest, AnEmptyCaptionHasNoWidth) {

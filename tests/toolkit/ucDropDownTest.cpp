@@ -74,6 +74,14 @@ using Layout = ucDropDown::Layout;
 
 } // namespace
 
+TEST_F(ucDropDownTest, ADisabledListHasTheQuietEdgeOfADisabledField) {
+    const auto edge = [this] { return Grab(&list).pixelColor(list.width() / 2, 0); };
+    list.clearFocus();
+    EXPECT_EQ(edge(), TheStyle().fieldEdge);
+    list.setEnabled(false);
+    EXPECT_EQ(edge(), TheStyle().rule);
+}
+
 TEST_F(ucDropDownTest, BeginsWithALabelAndWithoutASelection) {
     EXPECT_EQ(list.Text(), "Label1");
     EXPECT_EQ(list.aHEIGHT(), 300);

@@ -1,5 +1,6 @@
 #include "toolkit/Input.h"
 
+#include "drawing/Style.h"
 #include "support/HalvaneTest.h"
 #include "toolkit/ucScroll.h"
 
@@ -134,6 +135,14 @@ TEST_F(ucScrollTest, AVeryShortBarStillWorks) {
     SendRelease(&bar, QPointF(8, 2));
     EXPECT_EQ(bar.Value(), 95);
     EXPECT_FALSE(Grab(&bar).isNull());
+}
+
+TEST_F(ucScrollTest, AHeldArrowHasTheGroundOfAPressedButton) {
+    SendPress(&bar, Down());
+    const QPoint corner = bar.layoutRects().imgDown.topLeft() + QPoint(2, 0);
+    EXPECT_EQ(Grab(&bar).pixelColor(corner), TheStyle().button[2].ground.from);
+    SendRelease(&bar, Down());
+    EXPECT_NE(Grab(&bar).pixelColor(corner), TheStyle().button[2].ground.from);
 }
 
 TEST_F(ucScrollTest, AClickOnAnArrowMovesOneSmallChangeWithoutRepeat) {
