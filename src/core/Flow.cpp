@@ -41,7 +41,7 @@ struct Step {
 };
 
 std::unique_ptr<UpdateNotice> updateNotice;
-std::future<QString> nextTip;
+std::future<void> tipRemembered;
 
 bool TakeAppearance() {
     Appearance::Take();
@@ -88,9 +88,7 @@ bool AskAgreement() {
     return false;
 }
 
-/// Meanwhile a thread remembers the tip: that waits for the disk.
 bool ShowSplash() {
-    nextTip = std::async(std::launch::async, &Tips::Next);
     frmSplash().exec();
     return true;
 }
@@ -100,8 +98,11 @@ bool ReadSettings() {
     return true;
 }
 
+/// A thread remembers the tip while the first window is made: that waits for the disk.
 bool ChooseTip() {
-    App().TipOfTheDay = nextTip.get();
+    const Tips::Tip tip = Tips::Next();
+    App().TipOfTheDay = tip.text;
+    tipRemembered = std::async(std::launch::async, &Tips::Remember, tip);
     return true;
 }
 
@@ -112,15 +113,20 @@ bool LoadFirstUser() {
     return true;
 }
 
-bool ShowFirstWindow() {
+void OpenFirstWindow() {
     frmHOME* frame = TheNavigation().Frame();
     QObject::connect(frame, &frmHOME::QuitRequested, frame, &Flow::QuitApp);
     if (User::Current().UID == -1) {
         frmWelcome::Open();
-        return true;
+        return;
     }
     new OwnSnapshots(frame);
     ShowHome();
+}
+
+bool ShowFirstWindow() {
+    OpenFirstWindow();
+    tipRemembered.get();
     return true;
 }
 

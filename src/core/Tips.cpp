@@ -34,12 +34,15 @@ QList<QByteArrayView> Tips::Lines(QByteArrayView text) {
     return lines;
 }
 
-QString Tips::Next() {
+Tips::Tip Tips::Next() {
     const QByteArray text = TextFile::ReadBeside(QStringLiteral("tips.txt"));
     const QList<QByteArrayView> lines = Lines(text);
     const qint32 number = NextNumber(lines.size());
     if (number > lines.size())
         throw RuntimeError(ErrorNumber::NoSuchPosition, QStringLiteral("the file holds no tip"));
-    SetRegValue(Settings::TipNumber, QString::number(number));
-    return QString::fromUtf8(lines[number - 1]);
+    return {number, QString::fromUtf8(lines[number - 1])};
+}
+
+void Tips::Remember(const Tip& tip) {
+    SetRegValue(Settings::TipNumber, QString::number(tip.number));
 }

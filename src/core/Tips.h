@@ -10,7 +10,14 @@ namespace Tips {
 /// is any.
 QList<QByteArrayView> Lines(QByteArrayView text);
 
-/// The next tip; the first one follows the last. Remembers its number. Fails with 53 without a file
-/// and with 9 if the file is empty.
-QString Next();
+struct Tip {
+    qint32 number = 0;
+    QString text;
+};
+
+/// The one after the tip that was remembered last; the first one follows the last. Fails with 53
+/// without a file and with 9 if the file is empty.
+Tip Next();
+/// Waits for the disk. Any thread may do so.
+void Remember(const Tip& tip);
 } // namespace Tips
