@@ -8,7 +8,8 @@
 
 #include <future>
 
-#ifdef HALVANE_FONTCONFIG
+#if __has_include(<fontconfig/fontconfig.h>)
+#define READS_FONTCONFIG
 #include <fontconfig/fontconfig.h>
 #endif
 
@@ -27,7 +28,7 @@ QString FamilyAtHand() {
 
 /// Elsewhere the platform has read its fonts before any program starts.
 void Fonts::ReadAhead() {
-#ifdef HALVANE_FONTCONFIG
+#ifdef READS_FONTCONFIG
     readAhead = std::async(std::launch::async, [] { FcInit(); });
 #endif
 }
