@@ -171,6 +171,21 @@ QWidget* AnyWindow() {
     return nullptr;
 }
 
+/// Under Wayland a program neither knows that its window is minimised nor can it undo that. A window
+/// that is shown anew is seen. A dialog would end.
+bool MustBeShownAnew() {
+    return !PlatformTellsPlaces() && QGuiApplication::applicationState() != Qt::ApplicationActive &&
+           !QApplication::activeModalWidget();
+}
+
+void Restore(QWidget* window) {
+    window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
+    if (!MustBeShownAnew())
+        return;
+    window->hide();
+    window->show();
+}
+
 bool quitting = false;
 
 } // namespace
@@ -216,7 +231,7 @@ void Flow::BringForward() {
     for (QWidget* window : {AnyWindow(), QApplication::activeModalWidget()}) {
         if (!window)
             continue;
-        window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
+        Restore(window);
         window->raise();
         window->activateWindow();
     }
