@@ -1,7 +1,10 @@
+#include "desktops/FrameDrag.h"
+#include "desktops/Patience.h"
 #include "desktops/Program.h"
 #include "desktops/TestDisplay.h"
 #include "support/HalvaneTest.h"
 
+#include <QDeadlineTimer>
 #include <QTest>
 
 #include <memory>
@@ -10,13 +13,11 @@ namespace {
 
 using Manager = TestDisplay::Manager;
 
-constexpr int LongestWait = 90'000; ///< milliseconds; a loaded machine is slow
-constexpr QPoint Grip(300, 28);     ///< of the title, in the frame
-constexpr int MovesOfADrag = 30;
-constexpr QPoint Nowhere(2, 798);
-constexpr QPoint Minimise(798, 17);
+constexpr int ClickAgain = 10'000;  ///< milliseconds
+constexpr QPoint Minimise(798, 17); ///< in the frame
 constexpr QPoint Close(830, 17);
 constexpr QSize Usual(1280, 800);
+constexpr QSize FrameSize(850, 620);
 
 class DesktopTest : public HalvaneTest, public ::testing::WithParamInterface<Manager> {
 protected:
@@ -27,118 +28,110 @@ protected:
         CloseDatabases();
         program_ = std::make_unique<Program>(Folder());
     }
-    void TearDown() override {
-        if (program_->Runs() && !Frame().isNull())
-            CloseFrame();
-        HalvaneTest::TearDown();
-    }
     /// Starts the program with its frame there and waits for it.
-    void Show(QSize screen, QPoint place) {
+    void Show(QPoint place, QSize screen = Usual, QSize frame = FrameSize) {
+        frameSize_ = frame;
         display_ = std::make_unique<TestDisplay>(screen, GetParam());
         program_->SetPlace(place);
         program_->Start(display_->Environment());
-        ASSERT_TRUE(Comes([this] { return Frame().size() == QSize(850, 620); }));
+        Comes("the frame", [this] { return !Frame().isNull(); });
     }
-    QRect Frame() const { return display_->Frame(); }
-    void CloseFrame() {
-        ClickUntilItIsGone(Close);
-        EXPECT_TRUE(program_->Ended());
-    }
-    /// A manager that still places the window may miss a click.
-    void ClickUntilItIsGone(QPoint button) {
-        EXPECT_TRUE(Comes([&] {
-            const QRect frame = Frame();
-            if (!frame.isNull())
-                display_->Click(frame.topLeft() + button);
-            return frame.isNull();
-        }));
-    }
-    /// Openbox moves the window from where the pointer is when the drag begins; the others, from
-    /// where it was pressed.
-    static QPoint Slip() { return GetParam() == Manager::Openbox ? QPoint(1, 0) : QPoint(); }
-    /// Without a manager the window follows the release.
-    void DragTo(QPoint place) const {
-        const auto isThere = [&] { return Frame().topLeft() == place; };
-        if (GetParam() == Manager::None) {
-            Drag(place, 1);
-            EXPECT_TRUE(Comes(isThere));
+    QRect Frame() const { return display_->Frame(frameSize_); }
+    /// Waits for it as long as the program runs. After a failure nothing is waited for.
+    template <class Condition> void Comes(const char* what, Condition condition) const {
+        if (HasFailure())
             return;
-        }
-        EXPECT_TRUE(Comes([&] {
-            Drag(place, MovesOfADrag);
-            return isThere();
-        })) << Frame().x()
-            << ' ' << Frame().y();
+        bool came = false;
+        const auto isOver = [&] { return (came = condition()) || !program_->Runs(); };
+        EXPECT_TRUE(QTest::qWaitFor(isOver, LongestWait) && came) << what << " does not come";
     }
-    /// A manager takes the pointer a while after the drag has begun, so the pointer moves until the
-    /// window has followed.
-    void Drag(QPoint place, int moves) const {
-        const QRect frame = Frame();
-        if (frame.isNull()) // the pointer covers a part of its upper edge
-            return display_->MoveTo(Nowhere);
-        const QPoint begin = frame.topLeft() + Grip;
-        const QPoint end = place + Grip + Slip();
-        display_->Press(begin);
-        display_->MoveTo(begin + QPoint(1, 0));
-        for (int move = 0; move < moves && Frame().topLeft() != place; ++move) {
-            display_->MoveTo(end + QPoint(1, 0));
-            display_->MoveTo(end);
-        }
-        display_->Release();
+    /// A click may be missed while the window is still being placed.
+    template <class Condition>
+    void Click(QPoint button, const char* what, Condition condition) const {
+        QDeadlineTimer next(0);
+        Comes(what, [&] {
+            const QRect frame = Frame();
+            if (next.hasExpired() && !frame.isNull()) {
+                display_->Click(frame.topLeft() + button);
+                next.setRemainingTime(ClickAgain);
+            }
+            return condition();
+        });
     }
-    template <class Condition> static bool Comes(Condition condition) {
-        return QTest::qWaitFor(condition, LongestWait);
+    void MinimiseFrame() const {
+        Click(Minimise, "a screen without the frame", [this] { return Frame().isNull(); });
+    }
+    void CloseFrame() const {
+        Click(Close, "the end", [this] { return !program_->Runs(); });
+        EXPECT_TRUE(program_->EndedWell());
+    }
+    void DragTo(QPoint place) const {
+        const QPoint start = Frame().topLeft();
+        FrameDrag drag(*display_, start, place);
+        if (GetParam() == Manager::None) { // the window follows the release
+            display_->MoveTo(FrameDrag::Hand(place));
+            drag.End();
+        }
+        Comes("the frame that is dragged", [&] { return drag.Follow(Frame()); });
+        drag.End();
     }
 
+    QSize frameSize_;
     std::unique_ptr<TestDisplay> display_;
     std::unique_ptr<Program> program_;
 };
-
-/// Where a program may take the pointer, and the platform tells a window its place and brings it to
-/// the front.
-class PlaceTest : public DesktopTest {};
 
 std::string NameOf(const ::testing::TestParamInfo<Manager>& manager) {
     static constexpr const char* names[] = {"None", "Openbox", "Weston"};
     return names[static_cast<size_t>(manager.param)];
 }
 
+INSTANTIATE_TEST_SUITE_P(Managers, DesktopTest,
+                         ::testing::Values(Manager::None, Manager::Openbox, Manager::Weston),
+                         NameOf);
+
+/// Where the platform tells a window its place.
+class PlaceTest : public DesktopTest {};
 INSTANTIATE_TEST_SUITE_P(Managers, PlaceTest, ::testing::Values(Manager::None, Manager::Openbox),
                          NameOf);
 
+class WaylandTest : public DesktopTest {};
+INSTANTIATE_TEST_SUITE_P(Managers, WaylandTest, ::testing::Values(Manager::Weston), NameOf);
+
 } // namespace
 
-TEST_P(PlaceTest, TheFrameIsDraggedByItsTitleAndClosed) {
-    Show(Usual, {60, 50});
+TEST_P(DesktopTest, TheFrameIsDraggedByItsTitleAndClosed) {
+    Show({60, 50});
     DragTo({210, 110});
+    DragTo({150, 90});
     CloseFrame();
 }
 
 /// Without a manager nothing can be minimised: the frame stays, and works.
-TEST_P(PlaceTest, AMinimisedFrameComesBackWithASecondStart) {
-    Show(Usual, {60, 50});
-    if (GetParam() == Manager::None)
-        display_->Click(Frame().topLeft() + Minimise);
-    else
-        ClickUntilItIsGone(Minimise);
-    EXPECT_TRUE(program_->StartAgain(display_->Environment()));
-    EXPECT_TRUE(Comes([this] { return !Frame().isNull(); }));
+TEST_P(DesktopTest, AMinimisedFrameComesBackWithASecondStart) {
+    Show({60, 50});
+    for (int time = 0; time < 2; ++time) {
+        if (GetParam() == Manager::None)
+            display_->Click(Frame().topLeft() + Minimise);
+        else
+            MinimiseFrame();
+        EXPECT_TRUE(program_->StartAgain(display_->Environment()));
+        Comes("the frame", [this] { return !Frame().isNull(); });
+    }
+    CloseFrame();
 }
 
 TEST_P(PlaceTest, TheFrameIsWhereItWasLeftAndIsKeptWhereItWasDragged) {
-    Show(Usual, {60, 50});
-    EXPECT_TRUE(Comes([this] { return Frame().topLeft() == QPoint(60, 50); }));
+    Show({60, 50});
+    Comes("the frame at its place", [this] { return Frame().topLeft() == QPoint(60, 50); });
     DragTo({210, 110});
     CloseFrame();
     EXPECT_EQ(program_->Place(), QPoint(210, 110));
 }
 
-class WaylandTest : public DesktopTest {};
-INSTANTIATE_TEST_SUITE_P(Managers, WaylandTest, ::testing::Values(Manager::Weston), NameOf);
-
 /// The compositor decides about places; a later session under X11 finds its own again.
 TEST_P(WaylandTest, ThePlaceOfASessionUnderX11IsKept) {
-    Show(Usual, {60, 50});
+    Show({60, 50});
     CloseFrame();
     EXPECT_EQ(program_->Place(), QPoint(60, 50));
 }

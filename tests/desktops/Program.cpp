@@ -1,5 +1,6 @@
 #include "desktops/Program.h"
 
+#include "desktops/Patience.h"
 #include "drawing/Twips.h"
 #include "support/Places.h"
 
@@ -41,7 +42,8 @@ QProcessEnvironment Program::Environment(QProcessEnvironment platform) const {
     platform.insert(QStringLiteral("XDG_DATA_HOME"), Path("data"));
     platform.insert(QStringLiteral("HOME"), folder_);
     platform.insert(QStringLiteral("XDG_RUNTIME_DIR"), Path("run"));
-    platform.remove(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"));
+    // Without an address each program could start a bus of its own, which would stay.
+    platform.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"), QStringLiteral("disabled:"));
     return platform;
 }
 
@@ -51,15 +53,13 @@ void Program::Start(const QProcessEnvironment& platform) {
     process_.start(Path("halvane"), QStringList());
 }
 
-bool Program::Ended() {
-    if (Runs())
-        process_.waitForFinished(-1);
-    return process_.exitStatus() == QProcess::NormalExit && process_.exitCode() == 0;
+bool Program::EndedWell() const {
+    return !Runs() && process_.exitStatus() == QProcess::NormalExit && process_.exitCode() == 0;
 }
 
 bool Program::StartAgain(const QProcessEnvironment& platform) const {
     QProcess second;
     second.setProcessEnvironment(Environment(platform));
     second.start(Path("halvane"), QStringList());
-    return second.waitForFinished(-1) && second.exitCode() == 0;
+    return second.waitForFinished(LongestWait) && second.exitCode() == 0;
 }

@@ -18,8 +18,8 @@ public:
     void Start(const QProcessEnvironment& platform);
     /// A second start, which brings the first one to the front.
     bool StartAgain(const QProcessEnvironment& platform) const;
-    bool Runs() const { return process_.state() == QProcess::Running; }
-    bool Ended(); ///< waits for it; true if it ended well
+    bool Runs() const { return process_.state() != QProcess::NotRunning; }
+    bool EndedWell() const;
 
 private:
     QString Path(const char* name) const;

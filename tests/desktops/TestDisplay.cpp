@@ -1,42 +1,50 @@
 #include "desktops/TestDisplay.h"
 
-#include "desktops/ScreenPicture.h"
+#include "desktops/FramePicture.h"
+#include "desktops/Patience.h"
 
-#include <QFile>
-#include <QRegularExpression>
+#include <QLocalSocket>
 #include <QTest>
 
+#include <csignal>
+
 #include <gtest/gtest.h>
+#include <sys/prctl.h>
 
 namespace {
 
-QStringList To(QPoint place) {
-    return {QStringLiteral("mousemove"), QString::number(place.x()), QString::number(place.y())};
+void EndWithTheTest(QProcess& process) {
+    process.setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGTERM); });
 }
 
 void End(QProcess& process) {
-    if (process.state() != QProcess::Running)
+    if (process.state() == QProcess::NotRunning)
         return;
     process.terminate();
-    process.waitForFinished(-1);
+    EXPECT_TRUE(process.waitForFinished(LongestWait))
+        << process.program().toStdString() << " does not end";
 }
 
-int NumberAfter(const char* name, const QString& text) {
-    const QRegularExpression line(QLatin1String(name) + QStringLiteral(": +(-?\\d+)"));
-    return line.match(text).captured(1).toInt();
+bool TakesCalls(const QString& socket) {
+    QLocalSocket caller;
+    caller.connectToServer(socket);
+    return caller.waitForConnected();
 }
 
 } // namespace
 
 TestDisplay::TestDisplay(QSize screen, Manager manager)
     : kind_(manager)
+    , screenSize_(screen)
     , environment_(QProcessEnvironment::systemEnvironment()) {
     environment_.remove(QStringLiteral("WAYLAND_DISPLAY"));
-    StartServer(screen);
+    EndWithTheTest(server_);
+    EndWithTheTest(manager_);
+    StartServer();
     if (manager == Manager::Openbox)
         StartOpenbox();
     if (manager == Manager::Weston)
-        StartWeston(screen);
+        StartWeston();
 }
 
 TestDisplay::~TestDisplay() {
@@ -44,17 +52,22 @@ TestDisplay::~TestDisplay() {
     End(server_);
 }
 
-/// The server writes its number when it is ready, and keeps its picture in a file.
-void TestDisplay::StartServer(QSize screen) {
+QByteArray TestDisplay::ReadyLine(QProcess& program) {
+    EXPECT_TRUE(program.waitForReadyRead(LongestWait))
+        << program.program().toStdString() << " is not ready";
+    return program.readLine().trimmed();
+}
+
+/// The server writes its number when it is ready.
+void TestDisplay::StartServer() {
     server_.start(QStringLiteral("Xvfb"),
                   {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
                    QStringLiteral("0"),
-                   QStringLiteral("%1x%2x24").arg(screen.width()).arg(screen.height()),
-                   QStringLiteral("-nolisten"), QStringLiteral("tcp"), QStringLiteral("-noreset"),
-                   QStringLiteral("-fbdir"), folder_.path()});
-    EXPECT_TRUE(server_.waitForReadyRead(-1));
-    const QString number = QString::fromLatin1(server_.readLine().trimmed());
-    environment_.insert(QStringLiteral("DISPLAY"), u':' + number);
+                   QStringLiteral("%1x%2x24").arg(screenSize_.width()).arg(screenSize_.height()),
+                   QStringLiteral("-nolisten"), QStringLiteral("tcp"), QStringLiteral("-noreset")});
+    const QByteArray display = ':' + ReadyLine(server_);
+    screen_ = std::make_unique<XScreen>(display);
+    environment_.insert(QStringLiteral("DISPLAY"), QString::fromLatin1(display));
     environment_.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("xcb"));
 }
 
@@ -63,10 +76,11 @@ void TestDisplay::StartOpenbox() {
     manager_.setProcessEnvironment(environment_);
     manager_.start(QStringLiteral("openbox"),
                    {QStringLiteral("--startup"), QStringLiteral("echo ready")});
-    EXPECT_TRUE(manager_.waitForReadyRead(-1));
+    ReadyLine(manager_);
 }
 
-void TestDisplay::StartWeston(QSize screen) {
+/// It is ready when its socket takes calls, which is later than when the file is there.
+void TestDisplay::StartWeston() {
     environment_.insert(QStringLiteral("XDG_RUNTIME_DIR"), folder_.path());
     manager_.setProcessEnvironment(environment_);
     manager_.setStandardErrorFile(QProcess::nullDevice());
@@ -75,55 +89,33 @@ void TestDisplay::StartWeston(QSize screen) {
                    {QStringLiteral("--backend=x11-backend.so"), QStringLiteral("--use-pixman"),
                     QStringLiteral("--no-config"), QStringLiteral("--idle-time=0"),
                     QStringLiteral("--socket=screen"),
-                    QStringLiteral("--width=%1").arg(screen.width()),
-                    QStringLiteral("--height=%1").arg(screen.height())});
+                    QStringLiteral("--width=%1").arg(screenSize_.width()),
+                    QStringLiteral("--height=%1").arg(screenSize_.height())});
     const QString socket = folder_.filePath(QStringLiteral("screen"));
     EXPECT_TRUE(QTest::qWaitFor(
-        [&] { return QFile::exists(socket) || manager_.state() == QProcess::NotRunning; }, 90'000));
+        [&] { return TakesCalls(socket) || manager_.state() == QProcess::NotRunning; },
+        LongestWait))
+        << "weston is not ready";
     environment_.insert(QStringLiteral("WAYLAND_DISPLAY"), socket);
     environment_.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("wayland"));
 }
 
-QString TestDisplay::Run(const char* program, const QStringList& command) const {
-    QProcess tool;
-    tool.setProcessEnvironment(environment_);
-    tool.start(QLatin1String(program), command);
-    EXPECT_TRUE(tool.waitForFinished(-1));
-    return QString::fromLatin1(tool.readAllStandardOutput());
+QRect TestDisplay::Frame(QSize size) const {
+    return kind_ == Manager::Weston ? FramePicture::Find(screen_->Picture(), size)
+                                    : screen_->Window("Halvane", size);
 }
 
-QRect TestDisplay::Frame() const {
-    return kind_ == Manager::Weston ? FrameInThePicture() : FrameOfX11();
-}
-
-QRect TestDisplay::FrameOfX11() const {
-    const QString windows =
-        Run("xdotool", {QStringLiteral("search"), QStringLiteral("--onlyvisible"),
-                        QStringLiteral("--name"), QStringLiteral("^Halvane$")});
-    if (windows.isEmpty())
-        return {};
-    const QString told = Run("xwininfo", {QStringLiteral("-id"), windows.section(u'\n', 0, 0)});
-    return {NumberAfter("Absolute upper-left X", told), NumberAfter("Absolute upper-left Y", told),
-            NumberAfter("Width", told), NumberAfter("Height", told)};
-}
-
-/// A compositor tells nobody where a window is.
-QRect TestDisplay::FrameInThePicture() const {
-    return ScreenPicture(folder_.filePath(QStringLiteral("Xvfb_screen0"))).Frame();
+/// The compositor adds the steps of the pointer to the place where it thinks the pointer was. In
+/// the corners both places become the same.
+void TestDisplay::Reach(QPoint place) const {
+    for (const QPoint corner :
+         {QPoint(screenSize_.width() - 1, screenSize_.height() - 1), QPoint()})
+        MoveTo(corner);
+    MoveTo(place);
 }
 
 void TestDisplay::Click(QPoint place) const {
-    Run("xdotool", To(place) + QStringList{QStringLiteral("click"), QStringLiteral("1")});
-}
-
-void TestDisplay::Press(QPoint place) const {
-    Run("xdotool", To(place) + QStringList{QStringLiteral("mousedown"), QStringLiteral("1")});
-}
-
-void TestDisplay::MoveTo(QPoint place) const {
-    Run("xdotool", To(place));
-}
-
-void TestDisplay::Release() const {
-    Run("xdotool", {QStringLiteral("mouseup"), QStringLiteral("1")});
+    Reach(place);
+    Press();
+    Release();
 }
