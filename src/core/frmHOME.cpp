@@ -1,6 +1,7 @@
 #include "core/frmHOME.h"
 
 #include "core/Community.h"
+#include "core/FocusInSight.h"
 #include "core/FramePlace.h"
 #include "core/ScaleKeys.h"
 #include "core/ScreenKeys.h"
@@ -66,6 +67,7 @@ frmHOME::frmHOME()
     LayNavigation();
     LayNest();
     AddShortcuts();
+    FocusInSight::AddTo(*this);
     AddCleanUp(this, [this] { AllOff(QString()); });
 }
 

@@ -3,21 +3,16 @@
 #include <QScreen>
 #include <QWidget>
 
-namespace {
-
-/// The upper left corner, with the title, counts most.
-QPoint OnScreen(const QRect& place, const QRect& screen) {
+QPoint WholeOnScreen(const QRect& place, const QRect& screen) {
     const QPoint last = screen.bottomRight() - QPoint(place.width() - 1, place.height() - 1);
     return {qMax(qMin(place.left(), last.x()), screen.left()),
             qMax(qMin(place.top(), last.y()), screen.top())};
 }
-
-} // namespace
 
 void CentreWindow(QWidget* window) {
     const QWidget* owner = window->parentWidget() ? window->parentWidget()->window() : nullptr;
     const QRect screen = (owner ? owner : window)->screen()->availableGeometry();
     QRect place = window->rect();
     place.moveCenter(owner ? owner->geometry().center() : screen.center());
-    window->move(OnScreen(place, screen));
+    window->move(WholeOnScreen(place, screen));
 }

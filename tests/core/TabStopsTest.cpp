@@ -20,6 +20,7 @@
 #include <QAbstractScrollArea>
 #include <QAccessible>
 #include <QApplication>
+#include <QScreen>
 #include <QScrollBar>
 #include <QTest>
 
@@ -83,6 +84,7 @@ protected:
         const QRect seen = stop->visibleRegion().boundingRect();
         EXPECT_GE(seen.width(), qMin(8, stop->width())) << NameOf(stop) << " is out of sight";
         EXPECT_GE(seen.height(), qMin(8, stop->height())) << NameOf(stop) << " is out of sight";
+        ExpectOnScreen(QRect(stop->mapToGlobal(seen.topLeft()), seen.size()), stop);
         ExpectFocusShown(stop);
         QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(stop);
         ASSERT_NE(spoken, nullptr) << NameOf(stop);
@@ -94,6 +96,11 @@ protected:
                             spoken->editableTextInterface() || spoken->tableInterface() ||
                             spoken->state().editable || Scrolls(stop);
         EXPECT_TRUE(usable) << NameOf(stop) << " does nothing";
+    }
+    /// The screen of these tests is smaller than the frame.
+    static void ExpectOnScreen(const QRect& place, const QWidget* stop) {
+        EXPECT_TRUE(stop->screen()->availableGeometry().contains(place))
+            << NameOf(stop) << " is beyond the edge of the screen";
     }
     static bool Scrolls(const QWidget* stop) {
         const auto* area = qobject_cast<const QAbstractScrollArea*>(stop);
