@@ -171,8 +171,8 @@ QWidget* AnyWindow() {
     return nullptr;
 }
 
-/// Under Wayland a program neither knows that its window is minimised nor can it undo that. A window
-/// that is shown anew is seen. A dialog would end.
+/// Under Wayland a program does not know that its window is minimised, and cannot undo it. A window
+/// that is hidden and shown anew is seen. A dialog that is hidden would end.
 bool MustBeShownAnew() {
     return !PlatformTellsPlaces() && QGuiApplication::applicationState() != Qt::ApplicationActive &&
            !QApplication::activeModalWidget();

@@ -104,7 +104,7 @@ void XScreen::Release() const {
     Input(XCB_BUTTON_RELEASE, LeftButton, {});
 }
 
-/// The question at the end is answered after the input.
+/// The server works in order: when it has answered the question at the end, the input is done.
 void XScreen::Input(quint8 kind, quint8 detail, QPoint place) const {
     if (!screen_)
         return;
