@@ -19,6 +19,7 @@ import shutil
 import subprocess
 import sys
 import time
+from multiprocessing.pool import ThreadPool
 from pathlib import Path
 
 ROOT = Path(__file__).resolve().parents[2]
@@ -185,22 +186,24 @@ def killer(mutant, programs):
     return None
 
 
-def try_all(tree, results):
+def try_all(tree, results, jobs):
     programs = {name: Program(tree, name) for name in tree.programs}
     for program in programs.values():
         program.measure()
     known = {result['id'] for result in read(results)}
     mutants = tree.mutants()
     random.Random(SEED).shuffle(mutants)  # so that a run that is stopped has seen a fair share
-    for mutant in mutants:
-        if mutant['id'] in known:
-            continue
-        started = time.monotonic()
-        mutant['killer'] = killer(mutant, programs)
-        mutant['reached'] = any(mutant['id'] in program.reached for program in programs.values())
-        mutant['seconds'] = round(time.monotonic() - started, 1)
-        with results.open('a') as file:
-            file.write(json.dumps(mutant) + '\n')
+    left = [mutant for mutant in mutants if mutant['id'] not in known]
+    with ThreadPool(jobs) as pool, results.open('a') as file:
+        for mutant in pool.imap_unordered(lambda one: tried(one, programs), left):
+            print(json.dumps(mutant), file=file, flush=True)
+
+
+def tried(mutant, programs):
+    started = time.monotonic()
+    return mutant | {'killer': killer(mutant, programs),
+                     'reached': any(mutant['id'] in program.reached for program in programs.values()),
+                     'seconds': round(time.monotonic() - started, 1)}
 
 
 def read(results):
@@ -227,6 +230,7 @@ def main():
     options.add_argument('--report', action='store_true', help='list what is known so far')
     options.add_argument('--make', action='store_true', help='only make and build the copy')
     options.add_argument('--builder', default='', help='a command that is put before each build')
+    options.add_argument('--jobs', type=int, default=1, help='how many mutants are tried at the same time')
     chosen = options.parse_args()
     chosen.folder.mkdir(parents=True, exist_ok=True)
     tree = Tree(chosen.folder.resolve(), shlex.split(chosen.builder), chosen.only)
@@ -234,7 +238,7 @@ def main():
     if not chosen.report:
         tree.make()
         if not chosen.make:
-            try_all(tree, results)
+            try_all(tree, results, chosen.jobs)
     report(tree, results)
 
 
