@@ -12,7 +12,8 @@
 #include <SQLiteCpp/SQLiteCpp.h>
 
 /// A search gives the rows of the laid-down statements in their order. HALVANE_SEARCH_TERMS and
-/// HALVANE_SEARCH_FOODS set how many terms are tried, and over how many own foods.
+/// HALVANE_SEARCH_FOODS set how many terms are tried, and over how many own foods;
+/// HALVANE_SEARCH_SEED gives others.
 class NarrowedSearchTest : public FoodsTest {
 protected:
     void SetUp() override {
@@ -104,17 +105,21 @@ protected:
         return found;
     }
     static void ExpectSame(const QString& term) {
-        for (const SearchTerms& terms : {SearchTerms(term), SearchTerms::Quoted(term)})
-            ASSERT_EQ(OrFailure([&] { return Searched(terms); }),
-                      OrFailure([&] { return LaidDown(terms); }))
-                << term.toStdString();
+        ExpectSame(SearchTerms(term));
+        if (term.contains(u'\'')) // else it makes the same statement
+            ExpectSame(SearchTerms::Quoted(term));
+    }
+    static void ExpectSame(const SearchTerms& terms) {
+        ASSERT_EQ(OrFailure([&] { return Searched(terms); }),
+                  OrFailure([&] { return LaidDown(terms); }))
+            << terms.Words().join(u' ').toStdString();
     }
     static bool IsNarrowed(const QString& term) {
         const SearchTerms terms(term);
         return !NarrowedSearch(terms).Statement(NarrowedSearch::Part::Stock).isEmpty();
     }
 
-    QRandomGenerator random_{20021204};
+    QRandomGenerator random_{quint32(Setting("HALVANE_SEARCH_SEED", 20021204))};
     QStringList names_;
 };
 
