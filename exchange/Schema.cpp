@@ -28,6 +28,18 @@ void EnsureSalt(Connection& connection) {
 void EnsureStepTable(Connection& connection) {
     connection.Once("CREATE TABLE IF NOT EXISTS schema_steps (Step INTEGER NOT NULL PRIMARY KEY)");
 }
+
+int LastStep(Connection& connection) {
+    int step = 0;
+    soci::indicator indicator = soci::i_ok;
+    try {
+        connection.First("SELECT MAX(Step) FROM schema_steps", soci::into(step, indicator));
+    } catch (const soci::soci_error&) {
+        connection.Once("SELECT 1"); // only a new database, which has no tables, answers this
+        return 0;
+    }
+    return indicator == soci::i_null ? 0 : step;
+}
 } // namespace
 
 void BringUpToDate(Connection& connection) {
@@ -39,10 +51,7 @@ void BringUpToDate(Connection& connection) {
 }
 
 void Check(Connection& connection) {
-    int step = 0;
-    soci::indicator indicator = soci::i_ok;
-    connection.First("SELECT MAX(Step) FROM schema_steps", soci::into(step, indicator));
-    if (indicator == soci::i_null || step < static_cast<int>(SchemaSteps::All().size()))
+    if (LastStep(connection) < static_cast<int>(SchemaSteps::All().size()))
         throw std::runtime_error(
             "the tables are not up to date; start the server, which updates them");
 }

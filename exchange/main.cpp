@@ -164,10 +164,9 @@ int EndMails(Connection& connection, const Config& config, const std::string& ad
 
 /// Runs a command of the operator.
 int Do(const CommandLine::Command& command, Connection& connection) {
-    if (command.action == "--check") {
-        Schema::Check(connection);
+    Schema::Check(connection);
+    if (command.action == "--check")
         return 0;
-    }
     if (command.action == "--nomail")
         return EndMails(connection, command.config, command.object);
     Moderation moderation(connection);

@@ -171,6 +171,16 @@ TEST_P(ModerationTest, OfOneRecipeTwentyReportsAreKept) {
     EXPECT_EQ(Count("SELECT COUNT(*) FROM reports"), 20);
 }
 
+TEST_P(ModerationTest, BeforeTheFirstStartACommandSaysThatTheTablesAreMissing) {
+    for (const std::vector<std::string>& command :
+         std::vector<std::vector<std::string>>{{"--check"}, {"--reported"}, {"--hide", "123456"}}) {
+        const auto said = Operate(command);
+        EXPECT_EQ(said.code, 3);
+        EXPECT_EQ(said.text, "halvane-exchange: the tables are not up to date; start the server, "
+                             "which updates them\n");
+    }
+}
+
 TEST_P(ModerationTest, ACommandWithAWrongArgumentIsRefused) {
     StartWith();
     for (const auto* command : {"--hide", "--show", "--remove", "--dismiss"}) {
