@@ -1,6 +1,6 @@
 #include "toolkit/ControlInterface.h"
 
-#include <QApplication>
+#include "toolkit/PressLater.h"
 
 #include <algorithm>
 #include <iterator>
@@ -34,17 +34,10 @@ void ControlInterface::doAction(const QString& name) {
     if (name != pressAction() || !Presses())
         return QAccessibleWidget::doAction(name);
     auto* control = static_cast<SpokenControl*>(object());
-    const auto press = [control] {
+    PressLater(control, [control] {
         if (control->isEnabled())
             control->Activate();
-    };
-    if (Reachable())
-        QMetaObject::invokeMethod(control, press, Qt::QueuedConnection);
-}
-
-bool ControlInterface::Reachable() const {
-    const QWidget* modal = QApplication::activeModalWidget();
-    return !modal || modal == widget()->window();
+    });
 }
 
 bool ControlInterface::Presses() const {

@@ -6,9 +6,8 @@
 
 /// What assistive tools see of a drawn control. Its name is `accessibleName`; if that is empty, the
 /// caption; if that is empty too, the tip. Its description is the tip, unless that says the same.
-/// Its press action calls Activate, after the tool has got its answer: a press may open a dialog.
-/// A dialog keeps the windows below it from being pressed. A control with a state or a value of its
-/// own derives from this class.
+/// Its press action calls Activate, by PressLater. A control with a state or a value of its own
+/// derives from this class.
 class ControlInterface : public QAccessibleWidget {
 public:
     explicit ControlInterface(SpokenControl* control);
@@ -20,5 +19,4 @@ public:
 private:
     QString Name() const;
     bool Presses() const;
-    bool Reachable() const;
 };

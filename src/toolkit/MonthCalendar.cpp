@@ -3,6 +3,7 @@
 #include "drawing/Style.h"
 #include "runtime/Clock.h"
 #include "runtime/Dates.h"
+#include "toolkit/SpokenDays.h"
 
 #include <QKeyEvent>
 #include <QPainter>
@@ -16,6 +17,7 @@
 namespace {
 
 constexpr int ChosenFrame = 2;
+constexpr int DaysInWeek = 7;
 
 /// The keys that end typing a year.
 constexpr int LeavingKeys[] = {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Tab, Qt::Key_Backtab,
@@ -33,7 +35,7 @@ void PaintChosen(QPainter* painter, const QRect& place) {
 } // namespace
 
 MonthCalendar::MonthCalendar(QWidget* parent)
-    : QCalendarWidget(parent)
+    : QCalendarWidget((SpokenDays::Install(), parent))
     , yearField_(findChild<QSpinBox*>(QStringLiteral("qt_calendar_yearedit"))) {
     const Style& style = TheStyle();
     setLocale(QLocale(QLocale::English, QLocale::UnitedStates));
@@ -61,6 +63,24 @@ void MonthCalendar::NameParts() {
     for (const auto& [part, name] : names)
         if (auto* control = findChild<QWidget*>(QLatin1String(part)))
             control->setAccessibleName(QLatin1String(name));
+}
+
+/// A month that begins on Sunday stands below a week of the month before.
+QDate MonthCalendar::DateAt(int week, int column) const {
+    const QDate first(yearShown(), monthShown(), 1);
+    const int before = Dates::Weekday(first) - 1;
+    return first.addDays(week * DaysInWeek + column - (before == 0 ? DaysInWeek : before));
+}
+
+bool MonthCalendar::Offers(QDate day) const {
+    return isEnabled() && day >= minimumDate() && day <= maximumDate();
+}
+
+void MonthCalendar::Choose(QDate day) {
+    if (!Offers(day))
+        return;
+    setSelectedDate(day);
+    Q_EMIT activated(day);
 }
 
 /// When the year's field closes, its focus must go to the days, or it would leave the calendar.

@@ -13,6 +13,10 @@ class MonthCalendar : public QCalendarWidget {
 public:
     explicit MonthCalendar(QWidget* parent = nullptr);
 
+    QDate DateAt(int week, int column) const; ///< of the six weeks that are shown
+    bool Offers(QDate day) const;             ///< it can be chosen
+    void Choose(QDate day);                   ///< as a click does, if it can be chosen
+
 protected:
     void paintCell(QPainter* painter, const QRect& place, QDate date) const override;
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -15,6 +15,7 @@
 #include "toolkit/ucRadio.h"
 
 #include <QAbstractItemView>
+#include <QAccessible>
 #include <QApplication>
 #include <QCalendarWidget>
 #include <QLineEdit>
@@ -379,6 +380,19 @@ TEST_F(frmDayTest, CalendarOpensOnTheChosenDayWithTheFocus) {
     EXPECT_EQ(Calendar()->monthShown(), 3);
     EXPECT_EQ(Calendar()->yearShown(), 2002);
     EXPECT_TRUE(Calendar()->isAncestorOf(QApplication::focusWidget()));
+}
+
+TEST_F(frmDayTest, APressOfAnAssistiveToolOnADayChoosesItAndClosesTheCalendar) {
+    Open();
+    Click(CalendarButton());
+    auto* view = Find<QAbstractItemView>(Calendar(), "qt_calendar_calendarview");
+    QAccessibleInterface* cell =
+        QAccessible::queryAccessibleInterface(view)->tableInterface()->cellAt(1, 2);
+    EXPECT_EQ(cell->text(QAccessible::Name), "Tuesday, March 05, 2002");
+    cell->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    QCoreApplication::sendPostedEvents(Calendar());
+    EXPECT_EQ(App().CurrentDate, QDate(2002, 3, 5));
+    EXPECT_FALSE(Find(screen.get(), "picCal")->isVisible());
 }
 
 TEST_F(frmDayTest, CalendarHidesWithoutAChangeWhenItLosesTheFocus) {

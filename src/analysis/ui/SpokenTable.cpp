@@ -1,78 +1,51 @@
 #include "analysis/ui/SpokenTable.h"
 
-#include <QRect>
+#include "toolkit/SpokenGrid.h"
+#include "toolkit/SpokenPart.h"
 
 #include <map>
 
 namespace {
 
-/// What the table and its cells have in common: they belong to no widget and lie where the chart
-/// does.
-class Unseen : public QAccessibleInterface {
-public:
-    explicit Unseen(QAccessibleInterface* parent)
-        : parent_(parent) {}
-
-    bool isValid() const override { return parent_->isValid(); }
-    QObject* object() const override { return nullptr; }
-    QWindow* window() const override { return parent_->window(); }
-    QAccessibleInterface* parent() const override { return parent_; }
-    QAccessibleInterface* childAt(int, int) const override { return nullptr; }
-    void setText(QAccessible::Text, const QString&) override {}
-    QRect rect() const override { return parent_->rect(); }
-    QAccessible::State state() const override {
-        QAccessible::State state;
-        state.readOnly = true;
-        return state;
-    }
-
-private:
-    QAccessibleInterface* parent_;
-};
+QAccessible::State ReadOnly() {
+    QAccessible::State state;
+    state.readOnly = true;
+    return state;
+}
 
 class Cells;
 
 /// Row -1 holds the heads.
-class Cell : public Unseen, public QAccessibleTableCellInterface {
+class Cell : public SpokenPart, public SpokenGridCell {
 public:
     Cell(QAccessibleInterface* table, int row, int column)
-        : Unseen(table)
-        , row_(row)
-        , column_(column) {}
+        : SpokenPart(table)
+        , SpokenGridCell(row, column) {}
 
     QString text(QAccessible::Text kind) const override;
     QAccessible::Role role() const override {
-        return row_ < 0 ? QAccessible::ColumnHeader : QAccessible::Cell;
+        return rowIndex() < 0 ? QAccessible::ColumnHeader : QAccessible::Cell;
     }
-    QAccessibleInterface* child(int) const override { return nullptr; }
-    int childCount() const override { return 0; }
-    int indexOfChild(const QAccessibleInterface*) const override { return -1; }
+    QAccessible::State state() const override { return ReadOnly(); }
     void* interface_cast(QAccessible::InterfaceType type) override {
         return type == QAccessible::TableCellInterface
                    ? static_cast<QAccessibleTableCellInterface*>(this)
                    : nullptr;
     }
 
-    int rowIndex() const override { return row_; }
-    int columnIndex() const override { return column_; }
-    int rowExtent() const override { return 1; }
-    int columnExtent() const override { return 1; }
-    bool isSelected() const override { return false; }
     QAccessibleInterface* table() const override { return parent(); }
     QList<QAccessibleInterface*> columnHeaderCells() const override;
     QList<QAccessibleInterface*> rowHeaderCells() const override;
 
 private:
     Cells* Table() const;
-
-    int row_, column_;
 };
 
-/// The table with its cells. Nothing in it can be selected.
-class Cells : public Unseen, public QAccessibleTableInterface {
+/// The table with its cells.
+class Cells : public SpokenPart, public SpokenGrid {
 public:
     Cells(QAccessibleInterface* chart, const SpokenTable::Source& source)
-        : Unseen(chart)
+        : SpokenPart(chart)
         , source_(source) {}
     ~Cells() override {
         for (const auto& [place, id] : ids_)
@@ -95,6 +68,7 @@ public:
         return kind == QAccessible::Name ? parent()->text(kind) : QString();
     }
     QAccessible::Role role() const override { return QAccessible::Table; }
+    QAccessible::State state() const override { return ReadOnly(); }
     int childCount() const override { return rowCount() * columnCount(); }
     QAccessibleInterface* child(int index) const override {
         return index < 0 || index >= childCount()
@@ -112,8 +86,6 @@ public:
                                                    : nullptr;
     }
 
-    QAccessibleInterface* caption() const override { return nullptr; }
-    QAccessibleInterface* summary() const override { return nullptr; }
     QAccessibleInterface* cellAt(int row, int column) const override {
         const bool is = row >= 0 && row < rowCount() && column >= 0 && column < columnCount();
         return is ? At(row, column) : nullptr;
@@ -122,20 +94,6 @@ public:
     int columnCount() const override { return int(source_().heads.size()); }
     QString columnDescription(int column) const override { return source_().heads.value(column); }
     QString rowDescription(int row) const override { return TextAt(row, 0); }
-    void modelChange(QAccessibleTableModelChangeEvent*) override {}
-
-    int selectedCellCount() const override { return 0; }
-    int selectedColumnCount() const override { return 0; }
-    int selectedRowCount() const override { return 0; }
-    QList<QAccessibleInterface*> selectedCells() const override { return {}; }
-    QList<int> selectedColumns() const override { return {}; }
-    QList<int> selectedRows() const override { return {}; }
-    bool isColumnSelected(int) const override { return false; }
-    bool isRowSelected(int) const override { return false; }
-    bool selectRow(int) override { return false; }
-    bool selectColumn(int) override { return false; }
-    bool unselectRow(int) override { return false; }
-    bool unselectColumn(int) override { return false; }
 
 private:
     SpokenTable::Source source_;
@@ -149,15 +107,16 @@ Cells* Cell::Table() const {
 QString Cell::text(QAccessible::Text kind) const {
     if (kind != QAccessible::Name)
         return {};
-    return row_ < 0 ? Table()->columnDescription(column_) : Table()->TextAt(row_, column_);
+    return rowIndex() < 0 ? Table()->columnDescription(columnIndex())
+                          : Table()->TextAt(rowIndex(), columnIndex());
 }
 
 QList<QAccessibleInterface*> Cell::columnHeaderCells() const {
-    return {Table()->At(-1, column_)};
+    return {Table()->At(-1, columnIndex())};
 }
 
 QList<QAccessibleInterface*> Cell::rowHeaderCells() const {
-    return {Table()->At(row_, 0)};
+    return {Table()->At(rowIndex(), 0)};
 }
 
 } // namespace
