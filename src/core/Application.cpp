@@ -5,6 +5,7 @@
 #include "runtime/Seams.h"
 #include "store/Connection.h"
 #include "toolkit/MousePointer.h"
+#include "toolkit/SpokenMenu.h"
 
 #include <QMessageBox>
 
@@ -17,6 +18,7 @@ Application::Application(int& argc, char** argv)
     setApplicationVersion(QStringLiteral(HALVANE_VERSION));
     setDesktopFileName(QStringLiteral("halvane"));
     setQuitOnLastWindowClosed(false); // closing the frame runs QuitApp, and that ends the process
+    SpokenMenu::Install();
     TheSeams().EndProcess = [this](int exitCode) { EndNow(exitCode); };
 }
 

@@ -14,6 +14,7 @@ ACTIONS = {"push button": {"Press", "ShowMenu"}, "radio button": {"Press"}, "com
 HOLDERS = {"panel", "list", "table", "table cell", "frame", "dialog", "window", "scroll pane"}
 WORKED = set(ACTIONS) | {"text", "scroll bar", "spin button"}
 NAMED = {"image", "table", "popup menu", "dialog", "heading"}
+DAYS_SHOWN = 42
 NEVER = {"unknown", "invalid", ""}
 
 
@@ -60,6 +61,13 @@ class Inspection:
               if self.reader.find("radio button", name + "$").has(State.CHECKED)]
         if len(on) != 1:
             self.faults.append(f"{place}: of {names} are on: {on}")
+
+    def check_days(self, chosen):
+        """Each day of the calendar can be pressed, and one is chosen."""
+        days = [node for node in self.reader.seen() if node.role == "table cell" and "Press" in node.actions]
+        selected = [day.name for day in days if day.has(State.SELECTED)]
+        if len(days) != DAYS_SHOWN or selected != [chosen]:
+            self.faults.append(f"calendar: {len(days)} days can be pressed, chosen are {selected}")
 
     def report(self):
         for fault in dict.fromkeys(self.faults):
@@ -154,6 +162,49 @@ def look_at_screens(reader, inspection):
         inspection.look(screen)
 
 
+def choose_a_day(reader, inspection):
+    """The first day of the month that is shown, after that it is chosen."""
+    def open_it():
+        reader.press("push button", "Select a new date")
+        return reader.wait("the chosen day", lambda: next(
+            (node for node in reader.seen() if node.role == "table cell" and node.has(State.SELECTED)), None))
+
+    today = open_it().name
+    inspection.look("calendar")
+    inspection.check_days(today)
+    weekday, day, year = today.split(", ")
+    other = "02" if day.endswith(" 01") else "01"
+    cell = reader.wait("another day", lambda: next(
+        (node for node in reader.seen() if node.role == "table cell" and f"{day[:-2]}{other}, {year}" in node.name),
+        None))
+    name = cell.name
+    cell.act("Press")
+    reader.gone("table cell", name)
+    reader.find("label", name)
+    if open_it().name != name:
+        inspection.faults.append(f"calendar: {name} was pressed and is not chosen")
+    reader.press("table cell", today)
+    reader.gone("table cell", today)
+    reader.find("label", today)
+
+
+def look_at_the_preview(reader, inspection):
+    """The pages of the day, from the menu of a food."""
+    def within():
+        reader.find("label", "1 page")
+        for paper in PAPERS:
+            reader.press("radio button", paper + "$")
+            reader.wait(f"{paper} is on", lambda: reader.find("radio button", paper + "$").has(State.CHECKED))
+            inspection.check_one_of("print preview", PAPERS)
+            inspection.look(f"print preview on {paper}")
+
+    def open_it():
+        reader.press("list item", "Butter, salted")
+        reader.press("menu item", "Print...")
+
+    in_dialog(reader, open_it, "Print", within, "Done")
+
+
 def look_at_views(reader, inspection, views):
     for view in views:
         reader.press("radio button", view + "$")
@@ -162,6 +213,7 @@ def look_at_views(reader, inspection, views):
         inspection.look(f"view {view}")
 
 
+PAPERS = ["Letter", "A4"]
 DAY_VIEWS = ["Numeric daily totals", "Pie chart of caloric breakdown", "Bar chart of percent RDI"]
 REPORT_VIEWS = ["Pie chart breakdown of caloric intake", "Line chart of daily weights", "Numeric values of averages",
                 "Bar chart of Percent RDI"]
@@ -190,9 +242,8 @@ def inspect(reader, inspection):
     reader.press("menu item", "Change quantity")
     reader.find("text", "Quantity of Butter, salted")
     look("quantity")
-    reader.press("push button", "Select a new date")
-    reader.find("table", "Select a date")
-    look("calendar")
+    choose_a_day(reader, inspection)
+    look_at_the_preview(reader, inspection)
     reader.press("radio button", "Reports$")
     answer(reader, "There is no weight entry")
     look_at_views(reader, inspection, REPORT_VIEWS)

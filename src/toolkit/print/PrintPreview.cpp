@@ -7,6 +7,7 @@
 #include "runtime/Seams.h"
 #include "toolkit/ButtonRow.h"
 #include "toolkit/Labels.h"
+#include "toolkit/SpokenRole.h"
 #include "toolkit/ucButton.h"
 #include "toolkit/ucRadio.h"
 
@@ -16,6 +17,7 @@
 #include <QLocale>
 #include <QPrintDialog>
 #include <QPrintPreviewWidget>
+#include <QScrollBar>
 #include <QShortcut>
 
 namespace {
@@ -51,6 +53,15 @@ void CoverShadow(QGraphicsItem* page, QSizeF paper) {
     auto* cover = new QGraphicsPathItem(around, page);
     cover->setBrush(TheStyle().scrollSlot);
     cover->setPen(Qt::NoPen);
+}
+
+/// The view takes the keyboard for what it shows. Tools are told a name, so the role comes first.
+void TellView(QGraphicsView& view) {
+    view.viewport()->setFocusPolicy(Qt::NoFocus);
+    SetSpokenRole(&view, QAccessible::Pane);
+    view.setAccessibleName(QStringLiteral("Preview of the pages"));
+    for (QScrollBar* bar : {view.verticalScrollBar(), view.horizontalScrollBar()})
+        bar->setAccessibleName(QStringLiteral("Scroll the pages"));
 }
 
 /// The platform may make a file name of it.
@@ -119,7 +130,7 @@ void PrintPreview::AddPages(const QRect& place) {
     pages_->setGeometry(place);
     pages_->fitToWidth();
     auto* view = pages_->findChild<QGraphicsView*>();
-    view->setAccessibleName(QStringLiteral("Preview of the pages"));
+    TellView(*view);
     view->setBackgroundBrush(TheStyle().scrollSlot);
     connect(pages_, &QPrintPreviewWidget::paintRequested, this,
             [this](QPrinter* device) { PaintOn(*device); });
