@@ -5,6 +5,7 @@
 #include "core/FramePlace.h"
 #include "core/ScaleKeys.h"
 #include "core/ScreenKeys.h"
+#include "core/WindowEdge.h"
 #include "core/frmPrefs.h"
 #include "core/ucMenu.h"
 #include "drawing/DevicePixels.h"
@@ -67,6 +68,7 @@ frmHOME::frmHOME()
     LayNavigation();
     LayNest();
     AddShortcuts();
+    edge_ = new WindowEdge(this);
     FocusInSight::AddTo(*this);
     AddCleanUp(this, [this] { AllOff(QString()); });
 }
@@ -210,6 +212,7 @@ void frmHOME::ShowFront(const QString& screen) {
         row.button->SetChosen(!screen.isEmpty() && screen == row.screen);
     aaWindow_->SetCaption(App().WindowTitle);
     aaWindow_->raise();
+    edge_->raise();
 }
 
 void frmHOME::OnHover(ucButtonA* button, const QString& text) {

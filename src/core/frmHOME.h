@@ -6,6 +6,7 @@
 class QLabel;
 class QTimer;
 struct ScreenRow;
+class WindowEdge;
 class ucAALBL;
 class ucButtonA;
 class ucMenu;
@@ -62,6 +63,7 @@ private:
     QWidget* picNest_ = nullptr;
     ucTitleBar* ucTitle_ = nullptr;
     ucAALBL* aaWindow_ = nullptr;
+    WindowEdge* edge_ = nullptr;
     ucMenu* menu_ = nullptr;
     QLabel* lblNote_ = nullptr;
     QTimer* noteEnd_ = nullptr;

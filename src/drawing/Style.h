@@ -86,6 +86,9 @@ struct Style {
         buttonHeight = 26, buttonRadius = 4, fieldHeight = 24, headerHeight = 24, titleHeight = 34,
         fieldRadius = 3, boxRadius = 1, navigationWidth = 84, navigationTile = 66, scrollWidth = 16;
 
+    bool framesWindow;     ///< the main window has an edge
+    bool facesLitPictures; ///< a picture button without an edge has a face while it is lit
+
     QFont text;        ///< 9 points, tabular figures
     QFont small;       ///< 8 points, dense charts
     QFont smallStrong; ///< 8 points semi-bold, the chosen navigation button

@@ -83,6 +83,17 @@ constexpr ColourRow Colours[] = {
     {&Style::plateShine, {0xffffff, 0x4a4138, 0x1a1a1a}},
 };
 
+struct SignRow {
+    bool Style::*role;
+    bool of[Kinds];
+};
+
+/// In high contrast an edge tells what a shadow or a hue tells in the others.
+constexpr SignRow Signs[] = {
+    {&Style::framesWindow, {false, false, true}},
+    {&Style::facesLitPictures, {false, false, true}},
+};
+
 struct Ends {
     QRgb from, to;
 };
@@ -190,6 +201,8 @@ void StyleTable::Colour(Style& style, StyleKind kind) {
     style.kind = kind;
     for (const ColourRow& row : Colours)
         style.*row.role = QColor(row.of[at]);
+    for (const SignRow& row : Signs)
+        style.*row.role = row.of[at];
     for (const GradientRow& row : Gradients)
         style.*row.role = {QColor(row.of[at].from), QColor(row.of[at].to)};
     SetFaces(style.button, Buttons[at]);

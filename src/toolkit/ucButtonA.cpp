@@ -190,7 +190,8 @@ void ucButtonA::PaintGround(QPainter& painter) const {
     const Style& style = TheStyle();
     if (!captionBelow_.isEmpty())
         return PaintNavigationGround(painter);
-    if (!bordered_)
+    const bool lit = isEnabled() && shown_ != Image::Normal;
+    if (!bordered_ && !(lit && style.facesLitPictures))
         return;
     Style::ButtonFace face = style.button[isEnabled() ? static_cast<int>(shown_) : 3];
     if (chosen_)

@@ -5,6 +5,7 @@
 #include "core/Navigation.h"
 #include "core/OpenURL.h"
 #include "core/frmHOME.h"
+#include "drawing/Style.h"
 #include "drawing/Twips.h"
 #include "model/User.h"
 #include "runtime/AppState.h"
@@ -46,6 +47,13 @@ protected:
     }
     frmHOME* Frame() { return TheNavigation().Frame(); }
     ucButtonA* Button(const char* name) { return Find<ucButtonA>(Frame(), QLatin1String(name)); }
+    /// In the middle of its upper, left, lower and right end.
+    QList<QColor> ColoursAtTheEnds() {
+        const QImage drawn = Grab(Frame());
+        const QPoint middle = drawn.rect().center(), last = drawn.rect().bottomRight();
+        return {drawn.pixelColor(middle.x(), 0), drawn.pixelColor(0, middle.y()),
+                drawn.pixelColor(middle.x(), last.y()), drawn.pixelColor(last.x(), middle.y())};
+    }
     QString Title() {
         return Find(Frame(), QStringLiteral("aaWindow"))->property("Caption").toString();
     }
@@ -58,6 +66,23 @@ TEST_F(frmHOMETest, TheFrameIsBorderlessAndOfItsFixedSize) {
     EXPECT_EQ(Frame()->windowTitle(), QStringLiteral("Halvane"));
     EXPECT_EQ(Frame()->picNest()->geometry(), QRect(84, 58, 850 - 84, 620 - 58));
     EXPECT_FALSE(Frame()->windowIcon().isNull());
+}
+
+TEST_F(frmHOMETest, InHighContrastTheWindowHasAnEdgeAllAroundAboveEachScreen) {
+    UseStyle(StyleKind::HighContrast);
+    RegisterAll();
+    Open();
+    ::ShowScreen(QStringLiteral("frmDay"));
+    EXPECT_EQ(ColoursAtTheEnds(), QList<QColor>(4, TheStyle().frame));
+    UseStyle(StyleKind::Light);
+}
+
+TEST_F(frmHOMETest, InTheOtherStylesTheWindowHasNoEdge) {
+    RegisterAll();
+    Open();
+    ::ShowScreen(QStringLiteral("frmDay"));
+    EXPECT_FALSE(ColoursAtTheEnds().contains(TheStyle().frame));
+    EXPECT_TRUE(Find(Frame(), QStringLiteral("windowEdge"))->isHidden());
 }
 
 TEST_F(frmHOMETest, EachButtonBringsItsScreenAndIsThenChosen) {

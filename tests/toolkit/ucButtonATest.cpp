@@ -1,5 +1,7 @@
 #include "toolkit/Input.h"
 
+#include "drawing/Contrast.h"
+#include "drawing/Style.h"
 #include "support/HalvaneTest.h"
 #include "toolkit/ucButtonA.h"
 
@@ -118,6 +120,38 @@ TEST_F(ucButtonATest, DisabledItCannotBeClickedLooksGreyAndStillShowsItsTip) {
     QHelpEvent help(QEvent::ToolTip, {12, 12}, button.mapToGlobal(QPoint(12, 12)));
     EXPECT_TRUE(QApplication::sendEvent(&button, &help));
     EXPECT_TRUE(help.isAccepted());
+}
+
+TEST_F(ucButtonATest, InHighContrastAnEdgeTellsTheButtonUnderThePointerAndNotOnlyItsHue) {
+    UseStyle(StyleKind::HighContrast);
+    const Style& style = TheStyle();
+    const auto edge = [this] { return Grab(&button).pixelColor(12, 0); };
+    EXPECT_NE(edge(), style.button[1].edge);
+    SendMove(&button, inside);
+    const QImage lit = Grab(&button);
+    EXPECT_EQ(edge(), style.button[1].edge);
+    for (const QColor& ground : {style.canvas, style.window.from, style.chosenRow})
+        EXPECT_GE(qMax(Contrast(edge(), ground), Contrast(style.button[1].ground.from, ground)), 3);
+    SendPress(&button, inside);
+    EXPECT_EQ(edge(), style.button[2].edge);
+    SendLeave(&button);
+    button.Reset();
+    button.setFocus(Qt::TabFocusReason);
+    const QImage focused = Grab(&button);
+    EXPECT_NE(focused, lit);
+    SendMove(&button, inside);
+    EXPECT_NE(Grab(&button), focused);
+    UseStyle(StyleKind::Light);
+}
+
+TEST_F(ucButtonATest, InTheOtherStylesOnlyThePictureOfAButtonWithoutAnEdgeChanges) {
+    for (const StyleKind kind : {StyleKind::Dark, StyleKind::Light}) {
+        UseStyle(kind);
+        button.Reset();
+        const QColor rest = Grab(&button).pixelColor(12, 0);
+        SendMove(&button, inside);
+        EXPECT_EQ(Grab(&button).pixelColor(12, 0), rest);
+    }
 }
 
 TEST_F(ucButtonATest, ANavigationButtonIsATileWithItsCaption) {
