@@ -1,5 +1,6 @@
 #include "core/FocusInSight.h"
 
+#include "drawing/Style.h"
 #include "toolkit/CentreWindow.h"
 
 #include <QApplication>
@@ -18,9 +19,17 @@ bool IsStopIn(const QWidget& frame, const QWidget* control) {
     return control && control->window() == &frame && control->focusPolicy() & Qt::TabFocus;
 }
 
-void Show(QWidget& frame, const QWidget& control) {
+/// What is seen of the control, with the ground around it: a control at the edge of the screen
+/// looks cut.
+QRect PlaceOf(const QWidget& control, const QWidget& frame) {
+    const int edge = TheStyle().nestEdge;
     const QRect seen = control.visibleRegion().boundingRect();
     const QRect place(control.mapToGlobal(seen.topLeft()), seen.size());
+    return place.adjusted(-edge, -edge, edge, edge) & frame.geometry();
+}
+
+void Show(QWidget& frame, const QWidget& control) {
+    const QRect place = PlaceOf(control, frame);
     const QPoint wanted = WholeOnScreen(place, frame.screen()->availableGeometry());
     if (wanted != place.topLeft())
         frame.move(frame.pos() + wanted - place.topLeft());

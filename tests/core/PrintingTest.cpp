@@ -264,6 +264,15 @@ TEST_F(PrintingTest, TheContextMenuOffersThePreview) {
     }
 }
 
+TEST_F(PrintingTest, ThePreviewFitsBesideTheBarOfASmallDesktop) {
+    constexpr int bar = 32;
+    Open<frmDay>(Screens::Day);
+    InPreview([](QWidget* preview) {
+        EXPECT_LE(preview->width(), 800);
+        EXPECT_LE(preview->height(), 600 - bar);
+    });
+}
+
 TEST_F(PrintingTest, InThePreviewThePaperLiesFlatOnTheGround) {
     Weigh();
     Open<frmReport>(Screens::Report);

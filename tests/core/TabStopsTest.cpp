@@ -8,6 +8,7 @@
 #include "core/frmPrefs.h"
 #include "core/frmSplash.h"
 #include "core/frmWelcome.h"
+#include "drawing/Style.h"
 #include "foods/ui/frmFoodSearch.h"
 #include "foods/ui/frmNutInfo.h"
 #include "recipes/ui/frmImport.h"
@@ -97,10 +98,12 @@ protected:
                             spoken->state().editable || Scrolls(stop);
         EXPECT_TRUE(usable) << NameOf(stop) << " does nothing";
     }
-    /// The screen of these tests is smaller than the frame.
+    /// The screen of these tests is smaller than the frame. Some ground is seen around the stop.
     static void ExpectOnScreen(const QRect& place, const QWidget* stop) {
-        EXPECT_TRUE(stop->screen()->availableGeometry().contains(place))
-            << NameOf(stop) << " is beyond the edge of the screen";
+        const int edge = TheStyle().nestEdge;
+        const QRect around = place.adjusted(-edge, -edge, edge, edge) & stop->window()->geometry();
+        EXPECT_TRUE(stop->screen()->availableGeometry().contains(around))
+            << NameOf(stop) << " is at or beyond the edge of the screen";
     }
     static bool Scrolls(const QWidget* stop) {
         const auto* area = qobject_cast<const QAbstractScrollArea*>(stop);

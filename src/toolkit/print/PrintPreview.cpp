@@ -22,8 +22,8 @@
 
 namespace {
 
-constexpr QSize PreviewSize(800, 600);
-constexpr int CountWidth = 90; ///< of the number of pages
+constexpr QSize PreviewSize(800, 560); ///< leaves room for the bar of a desktop of 800 by 600
+constexpr int CountWidth = 90;         ///< of the number of pages
 
 struct Paper {
     const char* caption;
