@@ -15,9 +15,8 @@ QString FoodSQL(qint32 id) {
 } // namespace
 
 QList<NamedKey> CustomFoods::Names() {
-    Recordset foods(FoodDB(), QStringLiteral("SELECT FoodName, ID FROM foods WHERE ID > 23508 "
-                                             "ORDER BY FoodName"));
-    return NamedRows::Sorted(foods);
+    return NamedRows::Sorted(FoodDB(), QStringLiteral("SELECT FoodName, ID FROM foods "
+                                                      "WHERE ID > 23508 ORDER BY FoodName"));
 }
 
 qint32 CustomFoods::HighestKey() {

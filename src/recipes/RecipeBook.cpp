@@ -50,9 +50,7 @@ QVariantList ValuesOf(const Recordset& row) {
 } // namespace
 
 QList<NamedKey> RecipeBook::Names() {
-    Recordset rows(UserDB(), QStringLiteral("SELECT RecipeName, RecipeID FROM Recipes "
-                                            "ORDER BY RecipeID"));
-    return NamedRows::Sorted(rows);
+    return NamedRows::Sorted(UserDB(), QStringLiteral("SELECT RecipeName, RecipeID FROM Recipes"));
 }
 
 RecipeTexts RecipeBook::Read(qint32 RecipeID) {

@@ -15,10 +15,14 @@ uint WithoutCase(QChar plain) {
     return plain >= u'A' && plain <= u'Z' ? plain.unicode() + (u'a' - u'A') : plain.unicode();
 }
 
+bool IsPlain(const QString& name) {
+    return std::ranges::all_of(name, [](QChar letter) { return IsPlain(letter); });
+}
+
 /// Visits a name's letters without case. Most names hold plain letters alone: those take a fast
 /// path.
 template <class Visit> void ForEachLetter(const QString& name, Visit visit) {
-    if (std::ranges::all_of(name, IsPlain))
+    if (IsPlain(name))
         for (const QChar letter : name)
             visit(WithoutCase(letter));
     else
@@ -34,8 +38,12 @@ public:
     void Add(const QString& name);
     void Settle();
     std::string KeyOf(const QString& name) const;
+    bool InOrder(const NamedKey& one, const NamedKey& next) const;
 
 private:
+    int Compare(const QString& one, const QString& other) const; ///< as their keys compare
+    int ComparePlain(const QString& one, const QString& other) const;
+
     std::vector<uint> ranks_; ///< by code point; until settled, 1 for a letter that occurs
     int highestByte_ = 0;     ///< of a rank: how far it is shifted
 };
@@ -73,6 +81,7 @@ void LetterRanks::Settle() {
 /// byte as the ranks do.
 std::string LetterRanks::KeyOf(const QString& name) const {
     std::string key;
+    key.reserve(static_cast<size_t>(name.size()));
     ForEachLetter(name, [&](uint letter) {
         for (int shift = highestByte_; shift >= 0; shift -= 8)
             key += static_cast<char>(ranks_[letter] >> shift);
@@ -80,25 +89,62 @@ std::string LetterRanks::KeyOf(const QString& name) const {
     return key;
 }
 
+bool LetterRanks::InOrder(const NamedKey& one, const NamedKey& next) const {
+    const int order = Compare(one.name, next.name);
+    return order < 0 || (order == 0 && one.key <= next.key);
+}
+
+int LetterRanks::Compare(const QString& one, const QString& other) const {
+    if (IsPlain(one) && IsPlain(other))
+        return ComparePlain(one, other);
+    return KeyOf(one).compare(KeyOf(other));
+}
+
+int LetterRanks::ComparePlain(const QString& one, const QString& other) const {
+    const qsizetype shorter = std::min(one.size(), other.size());
+    for (qsizetype i = 0; i < shorter; ++i) {
+        if (one[i] == other[i])
+            continue;
+        const uint left = ranks_[WithoutCase(one[i])];
+        const uint right = ranks_[WithoutCase(other[i])];
+        if (left != right)
+            return left < right ? -1 : 1;
+    }
+    return one.size() == other.size() ? 0 : one.size() < other.size() ? -1 : 1;
+}
+
 struct Keyed {
     std::string order;
     NamedKey name;
 };
+
+bool IsBefore(const Keyed& one, const Keyed& other) {
+    const int order = one.order.compare(other.order);
+    return order < 0 || (order == 0 && one.name.key < other.name.key);
+}
+
+void SortByKeys(QList<NamedKey>& names, const LetterRanks& ranks) {
+    std::vector<Keyed> sorted;
+    sorted.reserve(static_cast<size_t>(names.size()));
+    for (NamedKey& name : names) {
+        std::string order = ranks.KeyOf(name.name);
+        sorted.push_back({std::move(order), std::move(name)});
+    }
+    std::ranges::stable_sort(sorted, IsBefore);
+    std::ranges::transform(sorted, names.begin(),
+                           [](Keyed& entry) { return std::move(entry.name); });
+}
 } // namespace
 
+/// Names that are in order already, which an index of the store gives, are only compared.
 void NameOrder::Sort(QList<NamedKey>& keys) {
     LetterRanks ranks;
     for (const NamedKey& key : std::as_const(keys))
         ranks.Add(key.name);
     ranks.Settle();
-    std::vector<Keyed> sorted;
-    sorted.reserve(static_cast<size_t>(keys.size()));
-    for (NamedKey& key : keys) {
-        std::string order = ranks.KeyOf(key.name);
-        sorted.push_back({std::move(order), std::move(key)});
-    }
-    if (!std::ranges::is_sorted(sorted, {}, &Keyed::order))
-        std::ranges::stable_sort(sorted, {}, &Keyed::order);
-    std::ranges::transform(sorted, keys.begin(),
-                           [](Keyed& entry) { return std::move(entry.name); });
+    const auto outOfOrder = [&](const NamedKey& one, const NamedKey& next) {
+        return !ranks.InOrder(one, next);
+    };
+    if (std::ranges::adjacent_find(std::as_const(keys), outOfOrder) != keys.cend())
+        SortByKeys(keys, ranks);
 }

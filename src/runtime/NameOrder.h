@@ -10,7 +10,7 @@ struct NamedKey {
 
 /// Sorts names as a person looks them up: case does not matter, and an accented letter follows
 /// directly after the plain one: apple, azuki, Äpfel, bean. The order is the same in every locale.
-/// Equal names keep their order.
+/// Equal names are in the order of their keys.
 namespace NameOrder {
 void Sort(QList<NamedKey>& keys);
 } // namespace NameOrder

@@ -1,13 +1,12 @@
 #include "store/NamedRows.h"
 
-#include "store/Recordset.h"
+#include "store/RowReader.h"
 
-QList<NamedKey> NamedRows::Sorted(Recordset& rows) {
+QList<NamedKey> NamedRows::Sorted(Connection& connection, const QString& source) {
     QList<NamedKey> named;
-    named.reserve(rows.RecordCount());
-    for (; !rows.AtEnd(); rows.MoveNext())
-        if (const Field key = rows[1]; key.IsKey())
-            named.append({rows[0].Text(), key.Integer()});
+    for (RowReader rows(connection, source); rows.Next();)
+        if (const std::optional<qint32> key = rows.Key(1))
+            named.append({rows.Name(0), *key});
     NameOrder::Sort(named);
     return named;
 }

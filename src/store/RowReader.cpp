@@ -59,6 +59,19 @@ std::string RowReader::Text(int column) const {
     return QString::fromUtf8(bytes.data(), qsizetype(bytes.size())).toStdString();
 }
 
+QString RowReader::Name(int column) const {
+    const std::string_view bytes = Bytes(statement_->Handle(), column);
+    return QString::fromUtf8(bytes.data(), qsizetype(bytes.size()));
+}
+
+std::optional<qint32> RowReader::Key(int column) const {
+    if (sqlite3_column_type(statement_->Handle(), column) != SQLITE_INTEGER)
+        return {};
+    const auto stored = sqlite3_column_int64(statement_->Handle(), column);
+    const auto key = static_cast<qint32>(stored);
+    return key == stored ? std::optional(key) : std::nullopt;
+}
+
 QDate RowReader::Day(int column) const {
     const std::string_view bytes = Bytes(statement_->Handle(), column);
     return QDate::fromString(QString::fromLatin1(bytes.data(), qsizetype(bytes.size())),

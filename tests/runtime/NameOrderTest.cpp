@@ -31,6 +31,28 @@ TEST(NameOrder, ALetterAndItsAccentMayBeTwoCharacters) {
               QString::fromUtf8("apple|e\u0301clair|fig|zebra"));
 }
 
+TEST(NameOrder, NamesThatAreInOrderAlreadyStayAndOthersGetTheSameOrder) {
+    const QStringList ordered{"",         " a",   "a",   "A-b",        "a.b",  "a b",   "a (b)",
+                              "abc",      "abcd", "abd", "abe\u0301a", "abéb", "abf",   "abz",
+                              "e\u0301b", "éc",   "ée",  "Straße",     "zoo",  "яблоко"};
+    const QString once = Sorted(ordered);
+    const QStringList settled = once.split(u'|');
+    EXPECT_EQ(Sorted(settled), once);
+    for (qsizetype i = 1; i < settled.size(); ++i)
+        EXPECT_EQ(Sorted({settled[i], settled[i - 1]}), Sorted({settled[i - 1], settled[i]}));
+    EXPECT_EQ(Sorted({settled.crbegin(), settled.crend()}), once);
+}
+
+TEST(NameOrder, EqualNamesAreInTheOrderOfTheirKeys) {
+    for (QList<NamedKey> keys : {QList<NamedKey>{{"soup", 9}, {"Soup", 2}, {"SOUP", 5}},
+                                 QList<NamedKey>{{"Éclair", 9}, {"éclair", 2}, {"éCLAIR", 5}}}) {
+        NameOrder::Sort(keys);
+        EXPECT_EQ(keys[0].key, 2);
+        EXPECT_EQ(keys[1].key, 5);
+        EXPECT_EQ(keys[2].key, 9);
+    }
+}
+
 TEST(NameOrder, CapitalsMakeNoDifferenceAndEqualNamesKeepTheirOrder) {
     EXPECT_EQ(Sorted({"b", "Soup", "soup", "SOUP", "A"}), QStringLiteral("A|b|Soup|soup|SOUP"));
 }
