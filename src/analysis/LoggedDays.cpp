@@ -32,10 +32,11 @@ LoggedDays::Days LoggedDays::WithFood(const Period& month) {
 }
 
 LoggedDays::Days LoggedDays::WithWeight(const Period& month) {
-    Recordset weights(UserDB(), "SELECT * FROM USER_WEIGHTS WHERE UID=" + OfUser(month));
+    Recordset weights(UserDB(),
+                      "SELECT UDate, Weight FROM USER_WEIGHTS WHERE UID=" + OfUser(month));
     Days days;
     for (; !weights.AtEnd(); weights.MoveNext())
-        if (weights[QStringLiteral("Weight")].NumberOr(0) != 0)
-            days.set(DayOf(weights[QStringLiteral("UDate")]));
+        if (weights[1].NumberOr(0) != 0)
+            days.set(DayOf(weights[0]));
     return days;
 }

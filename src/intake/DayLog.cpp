@@ -17,6 +17,9 @@
 
 namespace {
 
+/// In the order of LoggedFood.
+constexpr auto ListedColumns = "RecID, FoodName, Serving, QTY, Calories";
+
 /// A set of these rows that can be changed.
 Recordset Changing(const LoggedEntries& foods) {
     return {UserDB(), foods.Statement(), CursorType::Keyset, LockType::Optimistic};
@@ -49,13 +52,11 @@ bool CanScale(const Recordset& row, double quantity) {
 
 std::vector<LoggedFood> DayLog::FoodsOf(int meal, QDate day) {
     std::vector<LoggedFood> foods;
-    for (Recordset rows(UserDB(), LoggedEntries::Of(day, meal).Statement()); !rows.AtEnd();
-         rows.MoveNext())
-        if (rows[QStringLiteral("RecID")].IsKey())
-            foods.push_back(
-                {rows[QStringLiteral("RecID")].Integer(), rows[QStringLiteral("FoodName")].Text(),
-                 rows[QStringLiteral("Serving")].Text(), rows[QStringLiteral("QTY")].NumberOr(0),
-                 rows[QStringLiteral("Calories")].NumberOr(0)});
+    for (Recordset rows(UserDB(), LoggedEntries::Of(day, meal).Statement(ListedColumns));
+         !rows.AtEnd(); rows.MoveNext())
+        if (const Field key = rows[0]; key.IsKey())
+            foods.push_back({key.Integer(), rows[1].Text(), rows[2].Text(), rows[3].NumberOr(0),
+                             rows[4].NumberOr(0)});
     return foods;
 }
 

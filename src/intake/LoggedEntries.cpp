@@ -6,28 +6,38 @@
 
 namespace {
 
-QString RowsOfMeal(int meal, QDate day) {
-    return "SELECT * FROM USER_FOODS WHERE UID =" + QString::number(User::Current().UID) +
-           " AND MEAL = '" + Meals::NameOf(meal).toUpper() + "' AND UDate = #" +
+QString OfUser() {
+    return "UID =" + QString::number(User::Current().UID);
+}
+
+QString OfDay(QDate day) {
+    return OfUser() + " AND UDATE = #" + Dates::ShortText(day) + u'#';
+}
+
+QString OfMeal(int meal, QDate day) {
+    return OfUser() + " AND MEAL = '" + Meals::NameOf(meal).toUpper() + "' AND UDate = #" +
            Dates::ShortText(day) + u'#';
 }
 
 } // namespace
 
 QString RowsOfDay(const char* table, QDate day) {
-    return QLatin1String("SELECT * FROM ") + QLatin1String(table) +
-           " WHERE UID =" + QString::number(User::Current().UID) + " AND UDATE = #" +
-           Dates::ShortText(day) + u'#';
+    return QLatin1String("SELECT * FROM ") + QLatin1String(table) + " WHERE " + OfDay(day);
 }
 
 LoggedEntries LoggedEntries::Of(QDate day, std::optional<int> meal) {
-    return LoggedEntries(meal ? RowsOfMeal(*meal, day) : RowsOfDay("USER_FOODS", day));
+    return LoggedEntries(meal ? OfMeal(*meal, day) : OfDay(day));
 }
 
 LoggedEntries LoggedEntries::One(qint32 RecID) {
-    return LoggedEntries("SELECT * FROM USER_FOODS WHERE RecID = " + QString::number(RecID));
+    return LoggedEntries("RecID = " + QString::number(RecID));
 }
 
 LoggedEntries LoggedEntries::NoneOf(QDate day) {
-    return LoggedEntries(RowsOfDay("USER_FOODS", day) + " AND 1 = 0");
+    return LoggedEntries(OfDay(day) + " AND 1 = 0");
+}
+
+QString LoggedEntries::Statement(const char* columns) const {
+    return QLatin1String("SELECT ") + QLatin1String(columns) + " FROM USER_FOODS WHERE " +
+           condition_;
 }

@@ -13,13 +13,13 @@ public:
     static LoggedEntries One(qint32 RecID);
     static LoggedEntries NoneOf(QDate day); ///< to append to the day without reading its rows
 
-    const QString& Statement() const { return statement_; } ///< reads their rows
+    QString Statement(const char* columns = "*") const; ///< reads their rows
 
 private:
-    explicit LoggedEntries(QString statement)
-        : statement_(std::move(statement)) {}
+    explicit LoggedEntries(QString condition)
+        : condition_(std::move(condition)) {}
 
-    QString statement_;
+    QString condition_;
 };
 
 /// The statement that reads a day's rows of USER_FOODS or USER_WEIGHTS.

@@ -5,8 +5,6 @@
 #include "store/StatementCache.h"
 #include "store/StoreError.h"
 
-#include <QStringList>
-
 #include <algorithm>
 #include <map>
 
@@ -17,8 +15,16 @@ namespace {
                                       "before its first or behind its last row."));
 }
 
-QString QuotedName(QString name) {
-    return u'"' + name.replace(u'"', QLatin1String("\"\"")) + u'"';
+void AppendQuoted(QString& sql, const QString& name) {
+    sql += u'"';
+    sql += name.contains(u'"') ? QString(name).replace(u'"', QLatin1String("\"\"")) : name;
+    sql += u'"';
+}
+
+QString QuotedName(const QString& name) {
+    QString quoted;
+    AppendQuoted(quoted, name);
+    return quoted;
 }
 } // namespace
 
@@ -43,7 +49,7 @@ struct Recordset::Impl {
     void RequireTable() const;
     void MoveTo(int target);
     void SetColumn(int column, const QVariant& value);
-    QStringList PendingNames() const;
+    QString PendingNames(QLatin1String separator) const;
     void BindPending(Prepared& statement) const;
     RowBuffer Write(Prepared& statement) const;
     void Insert();
@@ -109,10 +115,14 @@ void Recordset::Impl::SetColumn(int column, const QVariant& value) {
     pending[column] = columns->Stored(column, value);
 }
 
-QStringList Recordset::Impl::PendingNames() const {
-    QStringList names;
-    for (const auto& [column, value] : pending)
-        names << QuotedName(columns->Name(column));
+/// Each name with the separator behind it, but for the last.
+QString Recordset::Impl::PendingNames(QLatin1String separator) const {
+    QString names;
+    for (const auto& [column, value] : pending) {
+        if (!names.isEmpty())
+            names += separator;
+        AppendQuoted(names, columns->Name(column));
+    }
     return names;
 }
 
@@ -132,11 +142,11 @@ RowBuffer Recordset::Impl::Write(Prepared& statement) const {
 }
 
 void Recordset::Impl::Insert() {
-    const QStringList names = PendingNames();
-    const QString values = names.isEmpty()
+    const auto others = qsizetype(pending.size()) - 1;
+    const QString values = pending.empty()
                                ? QStringLiteral(" DEFAULT VALUES")
-                               : u" (" + names.join(u',') + u") VALUES (?" +
-                                     QStringLiteral(",?").repeated(names.size() - 1) + u')';
+                               : u" (" + PendingNames(QLatin1String(",")) + u") VALUES (?" +
+                                     QStringLiteral(",?").repeated(others) + u')';
     Prepared& statement = connection->Statements().Command(u"INSERT INTO " + QuotedName(table) +
                                                            values + u" RETURNING rowid, *");
     BindPending(statement);
@@ -148,7 +158,7 @@ void Recordset::Impl::Change() {
     if (pending.empty())
         return;
     Prepared& statement = connection->Statements().Command(
-        u"UPDATE " + QuotedName(table) + u" SET " + PendingNames().join(QLatin1String("=?, ")) +
+        u"UPDATE " + QuotedName(table) + u" SET " + PendingNames(QLatin1String("=?, ")) +
         u"=? WHERE rowid=? RETURNING rowid, *");
     BindPending(statement);
     statement.Bind(static_cast<int>(pending.size()) + 1, rows.Value(row, 0));
