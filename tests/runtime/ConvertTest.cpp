@@ -59,6 +59,19 @@ TEST(ToInteger, FailsForTextAndOutOfRange) {
     EXPECT_EQ(FailureOf([] { ToInteger(u"2147483648"); }), ErrorNumber::Overflow);
 }
 
+TEST(ToDouble, QuotesNoMoreThan40CharactersInItsFailure) {
+    const auto failure = [](int length) {
+        try {
+            ToDouble(QString(length, u'x'));
+            return QString();
+        } catch (const RuntimeError& error) {
+            return error.Description();
+        }
+    };
+    EXPECT_TRUE(failure(40).startsWith(u'"' + QString(40, u'x') + u'"'));
+    EXPECT_EQ(failure(41), failure(40));
+}
+
 TEST(ToDate, ReadsMonthFirst) {
     EXPECT_EQ(ToDate(u"3/4/2002"), QDate(2002, 3, 4));
 }

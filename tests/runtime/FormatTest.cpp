@@ -49,6 +49,13 @@ TEST(Format, HalvesGoAwayFromZeroOnTheShortestDecimalText) {
     EXPECT_EQ(Text(100.5, NumberMask::Thousands), "101");
 }
 
+TEST(Format, RoundingDownLeavesTheDigitsBefore) {
+    EXPECT_EQ(Text(10.1, NumberMask::Thousands), "10");
+    EXPECT_EQ(Text(110.4, NumberMask::WholeNumber), "110");
+    EXPECT_EQ(Text(1.101, NumberMask::UpToTwoDecimals), "1.1");
+    EXPECT_EQ(Text(1.001, NumberMask::UpToTwoDecimals), "1.");
+}
+
 TEST(Format, CarriesThroughNines) {
     EXPECT_EQ(Text(0.995, NumberMask::UpToTwoDecimals), "1.");
     EXPECT_EQ(Text(9.999, NumberMask::UpToTwoDecimals), "10.");

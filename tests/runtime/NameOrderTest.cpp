@@ -1,6 +1,9 @@
 #include "runtime/NameOrder.h"
 
+#include <QCollator>
 #include <QStringList>
+
+#include <algorithm>
 
 #include <gtest/gtest.h>
 
@@ -69,6 +72,20 @@ TEST(NameOrder, OtherAlphabetsStandBehindTheLatinOne) {
 TEST(NameOrder, AccentsAndCapitalsTogetherFollowBothRules) {
     EXPECT_EQ(Sorted({"ZÜRI", "zuri", "ZUG", "Zürcher", "zucchini"}),
               QStringLiteral("zucchini|ZUG|zuri|Zürcher|ZÜRI"));
+}
+
+TEST(NameOrder, MoreLettersThanAByteCanRankKeepTheirOrder) {
+    const QCollator collator{QLocale(QLocale::English)};
+    for (const int count : {255, 256, 257, 258}) {
+        QStringList letters;
+        for (int i = 0; i < count; ++i)
+            letters << QString(QChar(0x4E00 + i));
+        QStringList reversed(letters.rbegin(), letters.rend());
+        std::ranges::sort(letters, [&](const QString& one, const QString& other) {
+            return collator.compare(one, other) < 0;
+        });
+        EXPECT_EQ(Sorted(reversed), letters.join(u'|')) << count;
+    }
 }
 
 TEST(NameOrder, ALetterBeyondTheFirst65536IsRankedToo) {

@@ -25,6 +25,8 @@ TEST_F(ServerTest, AnotherAddressCountsUntilItIsTakenBack) {
 }
 
 TEST_F(ServerTest, TheAddressHasNoSlashAtItsEnd) {
-    Server::SetAddress("http://exchange.example//");
-    EXPECT_EQ(Server::Address(), "http://exchange.example");
+    for (const char* address : {"http://exchange.example/", "http://exchange.example//"}) {
+        Server::SetAddress(address);
+        EXPECT_EQ(Server::Address(), "http://exchange.example");
+    }
 }

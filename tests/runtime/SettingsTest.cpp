@@ -5,6 +5,7 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
+#include <QLockFile>
 #include <QSettings>
 #include <QTemporaryDir>
 
@@ -77,8 +78,13 @@ TEST_F(Settings, ALongTextIsCutAt255) {
 }
 
 TEST_F(Settings, TheCutNeverSplitsACharacter) {
-    SetRegValue("SEARCH_STRING", QString(254, u'a') + QStringLiteral("\U0001F600") + u'b');
-    EXPECT_EQ(GetRegValue("SEARCH_STRING"), QString(254, u'a'));
+    const QString apple = QStringLiteral("\U0001F34E");
+    for (const QString& end : QStringList{apple, apple + u'b'}) {
+        SetRegValue("SEARCH_STRING", QString(254, u'a') + end);
+        EXPECT_EQ(GetRegValue("SEARCH_STRING"), QString(254, u'a'));
+    }
+    SetRegValue("SEARCH_STRING", QString(253, u'a') + apple + u'b');
+    EXPECT_EQ(GetRegValue("SEARCH_STRING"), QString(253, u'a') + apple);
 }
 
 TEST_F(Settings, ATextEndsAtItsFirstNul) {
@@ -144,6 +150,19 @@ TEST_F(Settings, ALockThatAKilledProcessDidNotSignDelaysNobody) {
     SetRegValue("FAST", "True");
     EXPECT_EQ(Value("FAST"), "True");
     EXPECT_LT(clock.elapsed(), 20'000); // the library waits for 30 seconds
+}
+
+TEST_F(Settings, AnOldLockThatIsSignedIsLeftToItsProcess) {
+    SetRegValue("FAST", "False");
+    QLockFile lock(FileName() + ".lock");
+    lock.setStaleLockTime(0);
+    ASSERT_TRUE(lock.tryLock(0));
+    QFile file(lock.fileName());
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+    file.setFileTime(QDateTime::currentDateTime().addSecs(-3), QFile::FileModificationTime);
+    file.close();
+    Value("FAST");
+    EXPECT_TRUE(file.exists());
 }
 
 TEST_F(Settings, ALockThatWasJustMadeIsLeftToItsProcess) {
