@@ -551,3 +551,13 @@ TEST_F(ConnectionTest, EveryWordingNamesTheFile) {
     EXPECT_EQ(StoreError::Make(14 | (3 << 8), "x", "why").Number(), -14);
     EXPECT_TRUE(StoreError::Make(14, "x%2", "why").Description().contains("x%2"));
 }
+
+TEST_F(ConnectionTest, AFailureTellsNoMoreThan80CharactersOfItsDetail) {
+    const auto text = [](int length) {
+        return StoreError::Make(1, "x", QString(length, u'a')).Description();
+    };
+    EXPECT_TRUE(text(80).contains(QString(80, u'a')));
+    EXPECT_FALSE(text(80).contains("..."));
+    EXPECT_TRUE(text(81).contains(QString(80, u'a') + "..."));
+    EXPECT_FALSE(text(81).contains(QString(81, u'a')));
+}

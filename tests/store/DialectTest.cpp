@@ -35,6 +35,11 @@ TEST(DialectTest, TopBecomesALimitAtTheEnd) {
     EXPECT_EQ(Squeezed("SELECT ALL TOP 5 a FROM t"), "SELECT ALL a FROM t LIMIT 5");
 }
 
+TEST(DialectTest, EveryDigitMayStandInTheNumberOfATop) {
+    EXPECT_EQ(Squeezed("SELECT TOP 9 a FROM t"), "SELECT a FROM t LIMIT 9");
+    EXPECT_EQ(Squeezed("SELECT TOP 1234567890 a FROM t"), "SELECT a FROM t LIMIT 1234567890");
+}
+
 TEST(DialectTest, OnlyATopWithANumberIsOne) {
     for (const char* source :
          {"SELECT TOP FROM t", "SELECT Top, a FROM t", "SELECT TOP x a FROM t",

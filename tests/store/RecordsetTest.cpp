@@ -524,6 +524,12 @@ TEST_F(RecordsetTest, TheErrorQuotesNoMoreThanTheBeginningOfALongText) {
     EXPECT_LT(text.size(), 300);
 }
 
+TEST_F(RecordsetTest, AnUnknownNameInDoubleQuotesIsNotATextAnywhere) {
+    for (const char* statement : {"SELECT count(*) FROM profiles WHERE \"NoSuch\" = 'NoSuch'",
+                                  "CREATE INDEX Odd ON profiles (\"NoSuch\" || 'a')"})
+        EXPECT_THROW(users_.Raw().exec(statement), SQLite::Exception) << statement;
+}
+
 TEST_F(RecordsetTest, ASecondStatementIsRefusedBeforeTheFirstRuns) {
     ThreeWeights();
     for (const char* sql : {"SELECT * FROM USER_WEIGHTS; DELETE FROM USER_WEIGHTS",
@@ -539,6 +545,7 @@ TEST_F(RecordsetTest, ASemicolonAtTheEndIsAllowed) {
     ThreeWeights();
     EXPECT_EQ(Read("SELECT * FROM USER_WEIGHTS;").RecordCount(), 3);
     EXPECT_EQ(Read("SELECT TOP 2 * FROM USER_WEIGHTS ; \n").RecordCount(), 2);
+    EXPECT_EQ(Read("SELECT * FROM USER_WEIGHTS;\t\v\r\n").RecordCount(), 3);
 }
 
 TEST_F(RecordsetTest, AStatementThatWritesIsRefusedUnderEveryLock) {

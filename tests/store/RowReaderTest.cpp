@@ -52,6 +52,14 @@ TEST_F(RowReaderTest, OnlyNullIsNull) {
     EXPECT_FALSE(row.IsNull(2));
 }
 
+TEST_F(RowReaderTest, LettersBeyondAsciiAreReadAlsoWhereThereAreNoOthers) {
+    RowReader row(users_, u"SELECT 'Öl', 'é', '日本'"_qs);
+    ASSERT_TRUE(row.Next());
+    EXPECT_EQ(row.Text(0), "Öl");
+    EXPECT_EQ(row.Text(1), "é");
+    EXPECT_EQ(row.Text(2), "日本");
+}
+
 TEST_F(RowReaderTest, ATextIsValidUtf8WhateverTheColumnHolds) {
     RowReader row(users_, "SELECT 'rye', 'cr\u00E8me', CAST(x'61C362' AS TEXT), NULL, 1.5");
     ASSERT_TRUE(row.Next());

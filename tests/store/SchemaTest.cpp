@@ -90,6 +90,11 @@ TEST_F(SchemaTest, FilesAreReadByAPlainTool) {
     EXPECT_EQ(plain.execAndGet("SELECT count(*) FROM profiles WHERE UserName = 'x'").getInt(), 0);
 }
 
+TEST_F(SchemaTest, FilesFromTheOldestReadableVersionToThisOneCanBeRead) {
+    for (int version = 0; version <= Schema::Version + 1; ++version)
+        EXPECT_EQ(Schema::CanBeRead(version), version == 2 || version == 3) << version;
+}
+
 TEST_F(SchemaTest, TheMarkInTheHeaderTellsTheKind) {
     EXPECT_EQ(First(users_, "PRAGMA application_id"), Schema::ApplicationId(DatabaseKind::Users));
     EXPECT_EQ(First(foods_, "PRAGMA application_id"), Schema::ApplicationId(DatabaseKind::Foods));

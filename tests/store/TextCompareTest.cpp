@@ -88,6 +88,7 @@ TEST(TextCompareTest, TheEmptyPatternMatchesTheEmptyTextAlone) {
 TEST(TextCompareTest, LettersBeyondAsciiThatFoldIntoItAreFound) {
     EXPECT_TRUE(Like("%skin%", "\u017F\u212A\u0130n \u017F\u212Ain"));
     EXPECT_TRUE(Like("%k%", "\u212A"));
+    EXPECT_TRUE(Like("%s%", "\u017F"));
     EXPECT_EQ(Compare("\u212A", "k"), 0);
     EXPECT_FALSE(Like("%k%", "ž"));
 }
@@ -109,6 +110,49 @@ TEST(TextCompareTest, ManyWildcardsEndInTime) {
     EXPECT_TRUE(Like(pattern, std::string(10000, 'a')));
 }
 
+TEST(TextCompareTest, EveryCharacterIsTakenWholeAndFolded) {
+    for (char32_t character = 1; character <= QChar::LastValidCodePoint; ++character) {
+        if (QChar::isSurrogate(character))
+            continue;
+        const std::string bytes =
+            QStringView(QChar::fromUcs4(character)).toString().toStdString() + 'x';
+        std::string_view rest = bytes;
+        ASSERT_EQ(TextCompare::TakeFolded(rest), QChar::toCaseFolded(character)) << +character;
+        ASSERT_EQ(rest, "x") << +character;
+    }
+}
+
+TEST(TextCompareTest, EveryLetterOfAWordIsFoundInEitherCase) {
+    for (char letter = 'a'; letter <= 'z'; ++letter) {
+        const std::string lower(3, letter);
+        const std::string upper(3, char(letter - 'a' + 'A'));
+        EXPECT_TRUE(Like('%' + lower + '%', '-' + upper)) << letter;
+        EXPECT_TRUE(Like('%' + upper + '%', '-' + lower)) << letter;
+    }
+}
+
+TEST(TextCompareTest, AWordIsFoundBehindARunOfItsRarestLetter) {
+    EXPECT_TRUE(Like("%xo%", "xxo"));
+    EXPECT_TRUE(Like("%oxo%", "oxxoxo"));
+    EXPECT_FALSE(Like("%xoo%", "xxxo"));
+}
+
+TEST(TextCompareTest, NothingBehindTheEndOfATextIsCompared) {
+    EXPECT_FALSE(Like("%ka%", std::string_view("xkax").substr(0, 2)));
+    EXPECT_FALSE(Like("a", std::string_view("a\0", 2)));
+    EXPECT_TRUE(Like("a_", std::string_view("a\0", 2)));
+    EXPECT_TRUE(Like("%\u0080%", "a\u0080b"));
+}
+
+TEST(TextCompareTest, ACharacterThatIsCutOffIsNotReadBeyondTheEnd) {
+    for (const std::string_view whole : {"é", "€", "🍞"}) {
+        std::string_view cut = whole.substr(0, whole.size() - 1);
+        const size_t length = cut.size();
+        EXPECT_EQ(TextCompare::TakeFolded(cut), U'\uFFFD');
+        EXPECT_EQ(cut.size(), length - 1);
+    }
+}
+
 TEST(TextCompareTest, BytesThatAreNoTextAreCharactersOfTheirOwn) {
     const char* broken[] = {"\xFF",         "\xC3",  "\xE2\x82", "\x80",
                             "\xF0\x9F\x8D", "\xC3(", "\xC0\x80"};
@@ -117,6 +161,7 @@ TEST(TextCompareTest, BytesThatAreNoTextAreCharactersOfTheirOwn) {
         EXPECT_TRUE(Like("%_%", text));
         EXPECT_FALSE(Like("%brot%", text));
     }
+    EXPECT_TRUE(Like("____", "\xF5\x80\x80\x80"));
     EXPECT_TRUE(Like("_a", "\xFF"
                            "a"));
 }

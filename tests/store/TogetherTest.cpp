@@ -56,6 +56,22 @@ TEST_F(TogetherTest, ATransactionThatIsNotCommittedTakesTheRowsOfBothFilesBack) 
     EXPECT_EQ(Count(FoodsFile(), "FOODS"), 1);
 }
 
+TEST_F(TogetherTest, AnOlderFileIsUpdatedOnlyWhereTheFirstIsOpenForWriting) {
+    foods_.Close();
+    SQLite::Database(FoodsFile().toStdString(), SQLite::OPEN_READWRITE)
+        .exec("DROP TRIGGER FOODS_Trigrams_Added; DROP TRIGGER FOODS_Trigrams_Removed;"
+              "DROP TRIGGER FOODS_Trigrams_Changed; DROP TABLE FOODS_Trigrams;"
+              "DROP INDEX FOODS_Unindexed; PRAGMA user_version = 2");
+    const QByteArray older = Contents(FoodsFile());
+    users_.OpenForReading(UsersFile(), DatabaseKind::Users);
+    foods_.OpenTogether(FoodsFile(), DatabaseKind::Foods, users_);
+    EXPECT_EQ(Contents(FoodsFile()), older);
+    foods_.Close();
+    users_.Open(UsersFile(), DatabaseKind::Users);
+    foods_.OpenTogether(FoodsFile(), DatabaseKind::Foods, users_);
+    EXPECT_NE(Contents(FoodsFile()), older);
+}
+
 TEST_F(TogetherTest, BothFilesAreSyncedFully) {
     for (const char* schema : {"main", "together"}) {
         const std::string pragma = std::string("PRAGMA ") + schema;

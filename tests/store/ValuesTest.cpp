@@ -125,14 +125,33 @@ TEST_F(ValuesTest, DatesOfEveryEraAreFoundAgain) {
     }
 }
 
+TEST_F(ValuesTest, EveryDayOfALeapYearIsReadAsItself) {
+    Run(users_,
+        "INSERT INTO USER_WEIGHTS WITH n(i) AS (SELECT 0 UNION ALL SELECT i + 1 FROM n WHERE "
+        "i < 365) SELECT 1, date('2028-01-01', i || ' days'), 150 FROM n");
+    QDate day(2028, 1, 1);
+    for (Recordset rows(users_, "SELECT UDate FROM USER_WEIGHTS"); !rows.AtEnd(); rows.MoveNext()) {
+        EXPECT_EQ(rows[0].Date(), day);
+        day = day.addDays(1);
+    }
+    EXPECT_EQ(day, QDate(2029, 1, 1));
+}
+
 TEST_F(ValuesTest, ATextThatOnlyLooksLikeADateIsReadAsText) {
-    for (const char* text : {"abcd-01-01", "-200-01-01", "+200-01-01", "0000-01-01", "2002-1a-01",
-                             "2002-13-01", "2002-02-30", "2002-01- 1"}) {
+    for (const char* text :
+         {"2002-04x03", "2002x04-03", "2002-04-0:", "abcd-01-01", "-200-01-01", "+200-01-01",
+          "0000-01-01", "2002-1a-01", "2002-13-01", "2002-02-30", "2002-01- 1"}) {
         Run(users_, QStringLiteral("DELETE FROM USER_WEIGHTS"));
         Run(users_, QStringLiteral("INSERT INTO USER_WEIGHTS VALUES (1, '%1', 150)")
                         .arg(QLatin1String(text)));
         EXPECT_EQ(Recordset(users_, "SELECT * FROM USER_WEIGHTS")["UDate"].Text(), text);
     }
+}
+
+TEST_F(ValuesTest, ADateInAColumnOfTextsIsReadAsText) {
+    AddFood(30001, "2002-03-04");
+    EXPECT_EQ(Recordset(foods_, "SELECT FoodName FROM FOODS WHERE ID = 30001")[0].Value().typeId(),
+              QMetaType::QString);
 }
 
 TEST_F(ValuesTest, ADateOfAnotherToolThatIsNoneIsReadAsText) {
