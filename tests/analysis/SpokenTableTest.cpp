@@ -116,6 +116,7 @@ TEST_F(SpokenTableTest, ThePieIsATableOfItsParts) {
     ucPieChart chart;
     QAccessibleInterface* table = TableOf(&chart);
     ASSERT_NE(table, nullptr);
+    EXPECT_EQ(table->tableInterface()->rowCount(), 3);
     EXPECT_EQ(Row(table, 0), (QStringList{"Fat", "33%"}));
     EXPECT_EQ(Row(table, 2), (QStringList{"Carbs.", "33%"}));
     chart.updatePie(day_, day_);

@@ -89,6 +89,17 @@ TEST(WeightCurveTest, OnAPageEveryWeightStandsBetweenTheLabels) {
         }
 }
 
+TEST(WeightCurveTest, OnAPageTheLabelsAreWholePoundsAndAsCloseAsTheWeightsAllow) {
+    const auto highest = [](double range) {
+        return WeightCurve::WithMean({{150, First}, {150 + range, First.addDays(9)}})
+            .weights.front();
+    };
+    EXPECT_EQ(highest(7), 157);
+    EXPECT_EQ(highest(7.5), 164);
+    EXPECT_EQ(highest(14), 164);
+    EXPECT_EQ(highest(15), 171);
+}
+
 class WeightCurvePaintingTest : public HalvaneTest {
 protected:
     static QImage Painted(const WeightCurve& curve, QPoint origin = {}) {

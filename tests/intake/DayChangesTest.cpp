@@ -213,3 +213,13 @@ TEST_F(DayChangesTest, ALongNameIsShortenedInTheReport) {
     changes_.Remove(Users("SELECT max(RecID) FROM USER_FOODS").toInt());
     EXPECT_EQ(changes_.Undo().foods, QString(59, u'x') + u'…');
 }
+
+TEST_F(DayChangesTest, ANameOfSixtyCharactersIsReportedWhole) {
+    const auto reported = [this](const QString& name) {
+        Log(name, "Lunch");
+        changes_.Remove(Users("SELECT max(RecID) FROM USER_FOODS").toInt());
+        return changes_.Undo().foods;
+    };
+    EXPECT_EQ(reported(QString(60, u'x')), QString(60, u'x'));
+    EXPECT_EQ(reported(QString(61, u'y')), QString(59, u'y') + u'…');
+}

@@ -4,6 +4,7 @@
 
 #include "foods/Meals.h"
 #include "foods/Quantity.h"
+#include "intake/LoggedRow.h"
 #include "model/User.h"
 #include "runtime/AppState.h"
 #include "store/Connection.h"
@@ -19,6 +20,14 @@ protected:
     static constexpr int Lunch = 1;
     const QDate next_ = day.addDays(1);
 
+    QStringList NutrientColumns() {
+        QStringList names;
+        for (const QVariantList& row :
+             Rows(UserDB(),
+                  "SELECT name FROM pragma_table_info('USER_FOODS') WHERE cid BETWEEN 1 AND 31"))
+            names << row[0].toString();
+        return names;
+    }
     /// All columns of a day's rows but key and day, with numbers as the store holds their bits.
     QList<QVariantList> Content(QDate on) {
         QList<QVariantList> rows =
@@ -111,6 +120,19 @@ TEST_F(DayLogTest, ANewQuantityScalesTheStoredAmountsWithOneRounding) {
     EXPECT_EQ(LogCount("QTY = 99 AND Protein = 99"), 6);
 }
 
+TEST_F(DayLogTest, ANewQuantityScalesEveryNutrient) {
+    const qint32 key = DayLog::AddFood(Scaled("Soup", 100, 2), "Lunch", day);
+    QStringList known;
+    QStringList doubled;
+    for (const QString& nutrient : NutrientColumns()) {
+        known << nutrient + QStringLiteral(" = %1").arg(known.size() + 10);
+        doubled << nutrient + QStringLiteral(" = %1").arg(doubled.size() * 2 + 20);
+    }
+    UserDB().Raw().exec("UPDATE USER_FOODS SET " + known.join(u',').toStdString());
+    DayLog::SetQuantity(key, 4);
+    EXPECT_EQ(LogCount(doubled.join(QStringLiteral(" AND "))), 1);
+}
+
 TEST_F(DayLogTest, AnUnknownAmountStaysUnknownInAnotherQuantity) {
     Log("Only calories", "Lunch", day, 100, 2);
     DayLog::SetQuantity(Users("SELECT RecID FROM USER_FOODS").toInt(), 3);
@@ -130,13 +152,45 @@ TEST_F(DayLogTest, AnEntryThatCannotBeScaledKeepsItsQuantity) {
     Log("Infinite", "Lunch", day, INFINITY);
     Log("Huge", "Lunch", day, 1e300, 1e-300);
     Log("Text", "Lunch");
+    Log("Unknown quantity", "Lunch");
     UserDB().Raw().exec("UPDATE USER_FOODS SET Protein = '12 grams' WHERE FoodName = 'Text'");
+    UserDB().Raw().exec("UPDATE USER_FOODS SET QTY = NULL WHERE FoodName = 'Unknown quantity'");
     for (const LoggedFood& food : DayLog::FoodsOf(Lunch, day))
         EXPECT_EQ(DayLog::QuantityRefusal(food.RecID, 2),
                   "The quantity of this entry cannot be changed. Please remove it and add the food "
                   "again.")
             << food.name.toStdString();
     EXPECT_NE(DayLog::QuantityRefusal(4711, 2), "") << "an entry that is gone";
+}
+
+TEST_F(DayLogTest, ATextInAnyNutrientKeepsTheQuantity) {
+    const qint32 key = DayLog::AddFood(Scaled("Soup"), "Lunch", day);
+    for (const QString& nutrient : NutrientColumns()) {
+        UserDB().Raw().exec("UPDATE USER_FOODS SET " + nutrient.toStdString() + " = '12 grams'");
+        EXPECT_NE(DayLog::QuantityRefusal(key, 2), "") << nutrient.toStdString();
+        UserDB().Raw().exec("UPDATE USER_FOODS SET " + nutrient.toStdString() + " = 12");
+        EXPECT_EQ(DayLog::QuantityRefusal(key, 2), "") << nutrient.toStdString();
+    }
+}
+
+TEST_F(DayLogTest, AFoodWhoseAmountsAreUnknownIsListedWithZero) {
+    Log("Only a name", "Lunch");
+    UserDB().Raw().exec("UPDATE USER_FOODS SET Calories = NULL, QTY = NULL");
+    EXPECT_EQ(DayLog::FoodsOf(Lunch, day).front().calories, 0);
+    EXPECT_EQ(DayLog::FoodsOf(Lunch, day).front().quantity, 0);
+    EXPECT_EQ(LoggedRow::AllOf(LoggedEntries::Of(day)).front().quantity, 0);
+}
+
+TEST_F(DayLogTest, ClearingADayWithoutFoodsChangesNothing) {
+    Log("Soup", "Lunch", next_);
+    DayLog::ClearFoods(day);
+    EXPECT_EQ(LogCount(), 1);
+}
+
+TEST_F(DayLogTest, ARowWhoseKeyIsTooLargeHasNone) {
+    Log("Far away", "Lunch");
+    UserDB().Raw().exec("UPDATE USER_FOODS SET RecID = 5000000000");
+    EXPECT_FALSE(LoggedRow::AllOf(LoggedEntries::Of(day)).front().HasKey());
 }
 
 TEST_F(DayLogTest, RowsOfAnotherToolNeverKeepADayFromBeingCopied) {
@@ -147,6 +201,13 @@ TEST_F(DayLogTest, RowsOfAnotherToolNeverKeepADayFromBeingCopied) {
     const int count = LogCount();
     EXPECT_EQ(DayLog::CopyFoods(LoggedEntries::Of(day), next_).size(), count);
     EXPECT_EQ(LogCount("UDate = '2002-03-05'"), count);
+}
+
+TEST_F(DayLogTest, AWeightThatARowDoesNotKnowIsZero) {
+    DayLog::SetWeight(day, 150);
+    EXPECT_EQ(DayLog::Weight(day), 150);
+    UserDB().Raw().exec("UPDATE USER_WEIGHTS SET Weight = NULL");
+    EXPECT_EQ(DayLog::Weight(day), 0);
 }
 
 TEST_F(DayLogTest, AnEnteredWeightIsKeptAndTaken) {

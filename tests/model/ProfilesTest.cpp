@@ -4,6 +4,8 @@
 #include "support/Failure.h"
 #include "support/HalvaneTest.h"
 
+#include <SQLiteCpp/SQLiteCpp.h>
+
 namespace {
 const QString TakenNew = "A user with this name already exists in the database. Please select a "
                          "different User Name.";
@@ -70,6 +72,26 @@ TEST(Profile, NamesTheFirstRuleThatIsBroken) {
                   "Please select your Activity Level.");
 }
 
+TEST(Profile, TheLeastOfEachEntryIsAllowed) {
+    for (const double least : {0.5, 1.0}) {
+        EXPECT_EQ(ProblemAfter(&Profile::age, least), "");
+        EXPECT_EQ(ProblemAfter(&Profile::currentWeight, least), "");
+        EXPECT_EQ(ProblemAfter(&Profile::desiredWeight, least), "");
+    }
+    Profile profile = Berta();
+    profile.feet = "";
+    profile.inches = 1;
+    EXPECT_EQ(profile.FirstProblem(), "");
+    profile.feet = "1";
+    profile.inches = 0;
+    EXPECT_EQ(profile.FirstProblem(), "");
+}
+
+TEST(Profile, TheHeaviestWeightsAreAllowed) {
+    EXPECT_EQ(ProblemAfter(&Profile::currentWeight, 1000000), "");
+    EXPECT_EQ(ProblemAfter(&Profile::desiredWeight, 1000000), "");
+}
+
 TEST(Profile, FeetOrInchesAloneAreAHeight) {
     EXPECT_EQ(ProblemAfter(&Profile::inches, 0), "");
     EXPECT_EQ(ProblemAfter(&Profile::feet, ""), "");
@@ -77,6 +99,18 @@ TEST(Profile, FeetOrInchesAloneAreAHeight) {
     profile.feet = "abc";
     profile.inches = 0;
     EXPECT_EQ(profile.FirstProblem(), "Please enter your Height.");
+}
+
+TEST(Profile, AHeightOfWholeFeetHasNoInches) {
+    Profile profile;
+    for (const int feet : {0, 1, 5, 8}) {
+        profile.SetHeight(feet * 12);
+        EXPECT_EQ(profile.feet, QString::number(feet));
+        EXPECT_EQ(profile.inches, 0);
+        profile.SetHeight(feet * 12 + 11);
+        EXPECT_EQ(profile.feet, QString::number(feet));
+        EXPECT_EQ(profile.inches, 11);
+    }
 }
 
 TEST(Profile, AHeightIsFeetAndInches) {
@@ -110,6 +144,15 @@ TEST_F(ProfilesTest, TheFirstUserIsTheOneOfTheFirstRow) {
     EXPECT_EQ(first->UID, anna);
     EXPECT_EQ(first->UserName, "Anna");
     EXPECT_EQ(first->RDIs.Calories(), 2000);
+}
+
+TEST_F(ProfilesTest, AUserIsFoundByNameOrByKey) {
+    UserDB().Raw().exec("INSERT INTO profiles (UID, UserName) VALUES (7, 'Anna'), (8, '7')");
+    EXPECT_EQ(Profiles::Find("ANNA")->UID, 7);
+    EXPECT_EQ(Profiles::Find("8")->UID, 8);
+    EXPECT_EQ(Profiles::Find("7")->UID, 8) << "a name comes before a key";
+    EXPECT_FALSE(Profiles::Find("Berta"));
+    EXPECT_FALSE(Profiles::Find("9"));
 }
 
 TEST_F(ProfilesTest, ANewProfileDerivesItsTargets) {
@@ -168,6 +211,12 @@ TEST_F(ProfilesTest, AChangeDerivesNothing) {
     EXPECT_EQ(Users("SELECT Calories FROM profiles"), 2000);
 }
 
+TEST_F(ProfilesTest, ATargetThatIsATextIsZero) {
+    const qint32 uid = AddUser("Anna");
+    Users("UPDATE profiles SET Iron = 'much'");
+    EXPECT_EQ(Profiles::Read(uid).targets[Nutrient::Iron], 0);
+}
+
 TEST_F(ProfilesTest, TargetsThatAreNotSetAreMissingAndSavedAsZero) {
     const qint32 uid = AddUser("Anna");
     Users("UPDATE profiles SET Iron = NULL, Calcium = NULL");
@@ -177,6 +226,17 @@ TEST_F(ProfilesTest, TargetsThatAreNotSetAreMissingAndSavedAsZero) {
     Profiles::Change(uid, read);
     EXPECT_EQ(Users("SELECT Iron FROM profiles"), 0);
     EXPECT_EQ(Users("SELECT Calcium FROM profiles"), 0);
+}
+
+TEST_F(ProfilesTest, WhatARowDoesNotKnowIsZero) {
+    UserDB().Raw().exec("INSERT INTO profiles (UID, UserName) VALUES (7, 'Nil')");
+    const Profile profile = Profiles::Read(7);
+    EXPECT_EQ(profile.age, 0);
+    EXPECT_EQ(profile.Height(), 0);
+    EXPECT_EQ(profile.currentWeight, 0);
+    EXPECT_EQ(profile.desiredWeight, 0);
+    EXPECT_EQ(profile.gender, 0);
+    EXPECT_EQ(profile.activityLevel, 0);
 }
 
 TEST_F(ProfilesTest, AKeyWithoutARowFails) {

@@ -386,6 +386,24 @@ TEST_F(UserTest, ProfileIsReadFromItsRow) {
     EXPECT_EQ(user.cholesterolMAX, 12);
 }
 
+TEST_F(UserTest, WhatAProfileDoesNotKnowIsZero) {
+    Users("INSERT INTO profiles (UID, UserName) VALUES (7, 'Nil')");
+    User user;
+    user.GetUserProfile(7);
+    EXPECT_EQ(user.Age, 0);
+    EXPECT_EQ(user.Gender, 0);
+    EXPECT_EQ(user.Height, 0);
+    EXPECT_EQ(user.CurrentWeight, 0);
+    EXPECT_EQ(user.DesiredWeight, 0);
+    EXPECT_EQ(user.ActivityLevel, 0);
+    EXPECT_FALSE(user.FlagSodium);
+    EXPECT_FALSE(user.FlagCholesterol);
+    EXPECT_EQ(user.sodiumMAX, 0);
+    EXPECT_EQ(user.cholesterolMAX, 0);
+    for (const NutrientInfo& info : Nutrients())
+        EXPECT_EQ(user.RDIs[info.id], 0) << info.property;
+}
+
 TEST_F(UserTest, EachTargetIsReadFromItsOwnColumn) {
     const qint32 uid = AddUser();
     double value = 100;
