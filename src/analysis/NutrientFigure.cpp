@@ -27,7 +27,7 @@ double NutrientFigure::numFix(double value) {
     if (value == 0)
         return 0;
     const auto mask = value < 100 ? NumberMask::UpToTwoDecimals : NumberMask::Thousands;
-    return PlainNumber(Format(value, mask)).toDouble() + 0.0; // no sign on zero
+    return PlainNumber(Format(value, mask)).toDouble();
 }
 
 double NutrientFigure::PartOfTarget(double value, double target) {

@@ -33,8 +33,7 @@ QString TakeTop(Tokens& tokens) {
         return {};
     const size_t top =
         tokens[1].Is(QLatin1String("DISTINCT")) || tokens[1].Is(QLatin1String("ALL")) ? 2 : 1;
-    if (top + 1 >= tokens.size() || !tokens[top].Is(QLatin1String("TOP")) ||
-        !IsWholeNumber(tokens[top + 1]))
+    if (!tokens[top].Is(QLatin1String("TOP")) || !IsWholeNumber(tokens[top + 1]))
         return {};
     QString count = tokens[top + 1].text.toString();
     const auto first = tokens.begin() + static_cast<std::ptrdiff_t>(top);
