@@ -26,7 +26,7 @@ ROOT = Path(__file__).resolve().parents[2]
 # The folders that are changed, and the test programs that are to notice it, the quick ones first.
 PROGRAMS = {
     'runtime': ['runtime', 'knowledge', 'model', 'store'],
-    'store': ['store', 'knowledge', 'model'],
+    'store': ['store', 'knowledge', 'model', 'records'],
     'model': ['model', 'knowledge'],
     'foods': ['knowledge', 'foods'],
     'analysis': ['knowledge', 'analysis'],
