@@ -35,7 +35,7 @@ int LastStep(Connection& connection) {
     try {
         connection.First("SELECT MAX(Step) FROM schema_steps", soci::into(step, indicator));
     } catch (const soci::soci_error&) {
-        connection.Once("SELECT 1"); // only a new database, which has no tables, answers this
+        connection.Once("SELECT 1"); // fails, too, unless only the tables are missing
         return 0;
     }
     return indicator == soci::i_null ? 0 : step;

@@ -25,7 +25,7 @@ public:
     bool IsNull(int column) const;
     std::optional<double> Number(int column) const; ///< nothing for what is no finite number
     std::string Text(int column) const;             ///< valid UTF-8; empty for null
-    QString Name(int column) const;                 ///< the same, for a screen
+    QString Name(int column) const;                 ///< the same as a text of Qt
     /// Nothing for what is no whole number of 32 bits, as every key of ours is.
     std::optional<qint32> Key(int column) const;
     QDate Day(int column) const; ///< invalid for all but a date as the store writes it
