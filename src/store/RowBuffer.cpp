@@ -1,5 +1,7 @@
 #include "store/RowBuffer.h"
 
+#include "runtime/Utf8.h"
+
 #include <sqlite3.h>
 
 QVariant RowBuffer::Value(int row, int column) const {
@@ -10,7 +12,7 @@ QVariant RowBuffer::Value(int row, int column) const {
     case Kind::Real:
         return cell.real;
     case Kind::Text:
-        return QString::fromUtf8(texts_.data() + cell.offset, cell.bytes);
+        return Utf8::Text({texts_.data() + cell.offset, cell.bytes});
     default:
         return {};
     }

@@ -1,5 +1,6 @@
 #include "store/RowReader.h"
 
+#include "runtime/Utf8.h"
 #include "store/Connection.h"
 #include "store/Dialect.h"
 #include "store/Prepared.h"
@@ -56,12 +57,12 @@ std::string RowReader::Text(int column) const {
     const std::string_view bytes = Bytes(statement_->Handle(), column);
     if (IsASCII(bytes))
         return std::string(bytes);
-    return QString::fromUtf8(bytes.data(), qsizetype(bytes.size())).toStdString();
+    return Utf8::Text(bytes).toStdString();
 }
 
 QString RowReader::Name(int column) const {
     const std::string_view bytes = Bytes(statement_->Handle(), column);
-    return QString::fromUtf8(bytes.data(), qsizetype(bytes.size()));
+    return Utf8::Text(bytes);
 }
 
 std::optional<qint32> RowReader::Key(int column) const {

@@ -70,6 +70,13 @@ TEST_F(RowReaderTest, ATextIsValidUtf8WhateverTheColumnHolds) {
     EXPECT_EQ(row.Text(4), "1.5");
 }
 
+TEST_F(RowReaderTest, AByteOrderMarkBelongsToTheTextThatItBegins) {
+    RowReader row(users_, u"SELECT '\uFEFFrye'"_qs);
+    ASSERT_TRUE(row.Next());
+    EXPECT_EQ(row.Text(0), "\uFEFFrye");
+    EXPECT_EQ(row.Name(0), u"\uFEFFrye"_qs);
+}
+
 TEST_F(RowReaderTest, ADayIsADateAsTheStoreWritesIt) {
     RowReader row(users_, "SELECT '2002-03-04', '3/4/2002', '2002-02-30', NULL");
     ASSERT_TRUE(row.Next());

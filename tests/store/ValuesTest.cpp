@@ -194,6 +194,7 @@ TEST_F(ValuesTest, TextsComeBackWhole) {
         QStringLiteral("'; DROP TABLE profiles; --"),
         QStringLiteral(" blanks kept "),
         QStringLiteral("007"),
+        QStringLiteral("\uFEFFbehind a byte order mark"),
     };
     for (const QString& text : texts) {
         EXPECT_EQ(Written("profiles", "UserName", text).Text(), text);

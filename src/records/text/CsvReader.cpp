@@ -21,7 +21,9 @@ CsvReader::CsvReader(QIODevice& device, char separator, Limits limits)
     : device_(device)
     , separator_(separator)
     , limits_(limits) {
-    if (Peek() != AtEnd && buffer_.startsWith(ByteOrderMark::Bytes))
+    while (buffer_.size() < ByteOrderMark::Bytes.size() && ReadMore()) {
+    }
+    if (buffer_.startsWith(ByteOrderMark::Bytes))
         start_ = ByteOrderMark::Bytes.size();
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "runtime/Utf8.h"
+
 #include <QByteArray>
 #include <QString>
 
@@ -30,7 +32,7 @@ public:
     int Count() const { return static_cast<int>(fields_.size()); }
     /// Valid until the next record; empty where the record is shorter.
     QByteArrayView operator[](int field) const;
-    QString Text(int field) const { return QString::fromUtf8((*this)[field]); }
+    QString Text(int field) const { return Utf8::Text((*this)[field]); }
     QString Source() const; ///< the fields, written as a record again
 
 private:

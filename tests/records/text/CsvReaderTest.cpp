@@ -81,6 +81,11 @@ TEST_F(CsvReaderTest, AByteOrderMarkAndEmptyLinesArePassedOver) {
     EXPECT_EQ(All("\xEF\xBB\xBF"), Records());
 }
 
+TEST_F(CsvReaderTest, AByteOrderMarkWithinTheFileBelongsToItsField) {
+    EXPECT_EQ(All("\xEF\xBB\xBF\xEF\xBB\xBFx,\"\xEF\xBB\xBFy\"\n"),
+              Records({{u"\uFEFFx"_qs, u"\uFEFFy"_qs}}));
+}
+
 TEST_F(CsvReaderTest, AQuoteWithinABareFieldIsACharacter) {
     EXPECT_EQ(All("3\" dia,b\n"), Records({{"3\" dia", "b"}}));
 }
@@ -153,7 +158,7 @@ TEST_F(CsvReaderTest, TooManyFieldsAreRefused) {
 
 TEST_F(CsvReaderTest, TheSizeOfThePiecesThatArriveDoesNotMatter) {
     const QByteArray text = "\xEF\xBB\xBF"
-                            "a,\"b\r\n\"\"c\",d\r\n\n\"\",\xC2\xB5g,x\r\n";
+                            "\"a\",\"b\r\n\"\"c\",d\r\n\n\"\",\xC2\xB5g,x\r\n";
     Dripping device;
     device.setData(text);
     device.open(QIODevice::ReadOnly | QIODevice::Unbuffered);
