@@ -24,17 +24,14 @@ struct Day {
     QDate date;
     QString person;
     double weight; ///< 0: none
-    std::array<std::vector<LoggedFood>, Meals::Names.size()> meals;
+    LoggedMeals meals;
     DayFigures figures;
 };
 
 Day Read(QDate date) {
     const User user = DayLog::UserOn(date);
-    Day day{date, user.UserName, DayLog::Weight(date), {}, {}};
-    for (size_t meal = 0; meal < day.meals.size(); ++meal)
-        day.meals[meal] = DayLog::FoodsOf(int(meal), date);
-    day.figures = DayFigures(LoggedSums::OfDay(date).value_or(Nuts()), user.RDIs);
-    return day;
+    return {date, user.UserName, DayLog::Weight(date), DayLog::FoodsOf(date),
+            DayFigures(LoggedSums::OfDay(date).value_or(Nuts()), user.RDIs)};
 }
 
 void PrintMeal(const Session& session, size_t meal, const std::vector<LoggedFood>& foods) {

@@ -1,6 +1,5 @@
 #include "intake/DayLog.h"
 
-#include "foods/Meals.h"
 #include "foods/Quantity.h"
 #include "foods/ScaledFood.h"
 #include "intake/LoggedRow.h"
@@ -11,6 +10,7 @@
 #include "runtime/Attempt.h"
 #include "runtime/Round.h"
 #include "store/Connection.h"
+#include "store/ReadTransaction.h"
 #include "store/Recordset.h"
 
 #include <cmath>
@@ -48,9 +48,7 @@ bool CanScale(const Recordset& row, double quantity) {
     return old != 0;
 }
 
-} // namespace
-
-std::vector<LoggedFood> DayLog::FoodsOf(int meal, QDate day) {
+std::vector<LoggedFood> FoodsOfMeal(int meal, QDate day) {
     std::vector<LoggedFood> foods;
     for (Recordset rows(UserDB(), LoggedEntries::Of(day, meal).Statement(ListedColumns));
          !rows.AtEnd(); rows.MoveNext())
@@ -58,6 +56,16 @@ std::vector<LoggedFood> DayLog::FoodsOf(int meal, QDate day) {
             foods.push_back({key.Integer(), rows[1].Text(), rows[2].Text(), rows[3].NumberOr(0),
                              rows[4].NumberOr(0)});
     return foods;
+}
+
+} // namespace
+
+LoggedMeals DayLog::FoodsOf(QDate day) {
+    const ReadTransaction oneMoment(UserDB());
+    LoggedMeals meals;
+    for (size_t meal = 0; meal < meals.size(); ++meal)
+        meals[meal] = FoodsOfMeal(int(meal), day);
+    return meals;
 }
 
 qint32 DayLog::AddFood(const ScaledFood& item, const QString& meal, QDate day) {

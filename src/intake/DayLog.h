@@ -1,7 +1,9 @@
 #pragma once
 
+#include "foods/Meals.h"
 #include "intake/LoggedEntries.h"
 
+#include <array>
 #include <vector>
 
 class ScaledFood;
@@ -16,11 +18,14 @@ struct LoggedFood {
     double calories = 0; ///< likewise
 };
 
+/// The foods of a day, by the place of their meal in Meals::Names.
+using LoggedMeals = std::array<std::vector<LoggedFood>, Meals::Names.size()>;
+
 /// What the current user has logged on one day: foods by meal, and a weight in pounds.
 namespace DayLog {
-/// The foods of a meal, by its place in Meals::Names, in the order of entry. Foods with a key that
-/// is too large for ours are not listed.
-std::vector<LoggedFood> FoodsOf(int meal, QDate day);
+/// The foods of each meal in the order of entry. Foods with a key that is too large for ours are
+/// not listed.
+LoggedMeals FoodsOf(QDate day);
 /// Appends one food, whole or not at all. The row holds finished amounts. Gives its key.
 qint32 AddFood(const ScaledFood& item, const QString& meal, QDate day);
 /// The message that refuses a copy to the day that the foods are on; empty if it is another day.

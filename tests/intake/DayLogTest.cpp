@@ -155,7 +155,8 @@ TEST_F(DayLogTest, AnEntryThatCannotBeScaledKeepsItsQuantity) {
     Log("Unknown quantity", "Lunch");
     UserDB().Raw().exec("UPDATE USER_FOODS SET Protein = '12 grams' WHERE FoodName = 'Text'");
     UserDB().Raw().exec("UPDATE USER_FOODS SET QTY = NULL WHERE FoodName = 'Unknown quantity'");
-    for (const LoggedFood& food : DayLog::FoodsOf(Lunch, day))
+    const LoggedMeals meals = DayLog::FoodsOf(day);
+    for (const LoggedFood& food : meals[Lunch])
         EXPECT_EQ(DayLog::QuantityRefusal(food.RecID, 2),
                   "The quantity of this entry cannot be changed. Please remove it and add the food "
                   "again.")
@@ -176,8 +177,8 @@ TEST_F(DayLogTest, ATextInAnyNutrientKeepsTheQuantity) {
 TEST_F(DayLogTest, AFoodWhoseAmountsAreUnknownIsListedWithZero) {
     Log("Only a name", "Lunch");
     UserDB().Raw().exec("UPDATE USER_FOODS SET Calories = NULL, QTY = NULL");
-    EXPECT_EQ(DayLog::FoodsOf(Lunch, day).front().calories, 0);
-    EXPECT_EQ(DayLog::FoodsOf(Lunch, day).front().quantity, 0);
+    EXPECT_EQ(DayLog::FoodsOf(day)[Lunch].front().calories, 0);
+    EXPECT_EQ(DayLog::FoodsOf(day)[Lunch].front().quantity, 0);
     EXPECT_EQ(LoggedRow::AllOf(LoggedEntries::Of(day)).front().quantity, 0);
 }
 

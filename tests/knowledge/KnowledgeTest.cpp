@@ -90,7 +90,7 @@ TEST_F(KnowledgeTest, AFoodIsFoundLoggedSummedAndRemoved) {
     const ScaledFood lentils = ScaledFood::FromCatalogue(found.Item(1).ID, "A", 2);
     ASSERT_GT(lentils.Amount("Calories"), 0);
     DayLog::AddFood(lentils, Meals::Names[Lunch], day_);
-    const std::vector<LoggedFood> logged = DayLog::FoodsOf(Lunch, day_);
+    const std::vector<LoggedFood> logged = DayLog::FoodsOf(day_)[Lunch];
     ASSERT_EQ(logged.size(), 1U);
     EXPECT_EQ(logged[0].name, found.Item(1).FoodName);
     EXPECT_EQ(logged[0].serving, lentils.Text("SERVING"));
@@ -100,7 +100,7 @@ TEST_F(KnowledgeTest, AFoodIsFoundLoggedSummedAndRemoved) {
     EXPECT_EQ(totals->Calories(), Round(lentils.Amount("Calories")));
     EXPECT_DOUBLE_EQ(totals->Protein(), lentils.Amount("Protein"));
     DayLog::RemoveFood(logged[0].RecID);
-    EXPECT_TRUE(DayLog::FoodsOf(Lunch, day_).empty());
+    EXPECT_TRUE(DayLog::FoodsOf(day_)[Lunch].empty());
     EXPECT_FALSE(LoggedSums::OfDay(day_));
 }
 
@@ -113,7 +113,7 @@ TEST_F(KnowledgeTest, ARecipeIsMadeOfIngredientsAndLoggedAsTheirSum) {
     EXPECT_EQ(RecipeBook::CaloriesPerServing(soup, "4"),
               QString("Calories: %1 per serving").arg(Round(calories / 4)));
     DayLog::AddFood(ScaledFood::FromRecipe(soup, 2), Meals::Names[Lunch], day_);
-    EXPECT_EQ(DayLog::FoodsOf(Lunch, day_).at(0).name, "Soup");
+    EXPECT_EQ(DayLog::FoodsOf(day_)[Lunch].at(0).name, "Soup");
     EXPECT_EQ(LoggedSums::OfDay(day_)->Calories(), Round(2 * calories));
 }
 
@@ -185,7 +185,7 @@ TEST_F(KnowledgeTest, AFoodBelongsToItsDayInEveryZoneAlsoWhereClocksChange) {
                   text.toStdString());
         EXPECT_EQ(Dates::Parse(FormatShortDate(day)), day) << text.toStdString();
         EXPECT_TRUE(FormatLongDate(day).startsWith(Dates::WeekdayName(Dates::Weekday(day))));
-        DayLog::RemoveFood(DayLog::FoodsOf(Lunch, day).at(0).RecID);
+        DayLog::RemoveFood(DayLog::FoodsOf(day)[Lunch].at(0).RecID);
     }
 }
 

@@ -23,8 +23,9 @@ QString Described(const LoggedFood& food) {
 
 void DayPages::Paint(Pages& pages) const {
     PaintHead(pages);
-    for (int meal = 0; meal < int(Meals::Names.size()); ++meal)
-        PaintMeal(pages, meal);
+    const LoggedMeals meals = DayLog::FoodsOf(day_);
+    for (size_t meal = 0; meal < meals.size(); ++meal)
+        PaintMeal(pages, Meals::NameOf(int(meal)), meals[meal]);
     PaintTotals(pages);
 }
 
@@ -36,10 +37,9 @@ void DayPages::PaintHead(Pages& pages) const {
         pages.Line("Weight: " + DecimalText(weight) + " lbs", style.text, style.ink);
 }
 
-void DayPages::PaintMeal(Pages& pages, int meal) const {
+void DayPages::PaintMeal(Pages& pages, const QString& name, const std::vector<LoggedFood>& foods) {
     const Style& style = TheStyle();
-    const std::vector<LoggedFood> foods = DayLog::FoodsOf(meal, day_);
-    pages.HeadingOfLines(Meals::NameOf(meal));
+    pages.HeadingOfLines(name);
     if (foods.empty())
         pages.Line(QStringLiteral("Nothing is logged."), style.text, style.quietInk);
     for (const LoggedFood& food : foods)

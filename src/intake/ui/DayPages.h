@@ -4,7 +4,10 @@
 
 #include <QDate>
 
+#include <vector>
+
 class Pages;
+struct LoggedFood;
 
 /// A day on paper: all its foods by meal, its weight, and its totals as bars, values and pie.
 class DayPages {
@@ -17,7 +20,7 @@ public:
 
 private:
     void PaintHead(Pages& pages) const;
-    void PaintMeal(Pages& pages, int meal) const;
+    static void PaintMeal(Pages& pages, const QString& name, const std::vector<LoggedFood>& foods);
     void PaintTotals(Pages& pages) const;
 
     QDate day_;

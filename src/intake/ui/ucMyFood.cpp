@@ -64,12 +64,12 @@ void ucMyFood::DisplayFoods(bool resetPane) {
     const AtePane::Redraw redraw(*Pane(), resetPane);
     lblStatus_->hide();
     meals_.clear();
-    for (size_t meal = 0; meal < headings_.size(); ++meal)
-        DisplayMeal(static_cast<int>(meal));
+    const LoggedMeals meals = DayLog::FoodsOf(date_);
+    for (size_t meal = 0; meal < meals.size(); ++meal)
+        DisplayMeal(static_cast<int>(meal), meals[meal]);
 }
 
-void ucMyFood::DisplayMeal(int meal) {
-    const std::vector<LoggedFood> foods = DayLog::FoodsOf(meal, date_);
+void ucMyFood::DisplayMeal(int meal, const std::vector<LoggedFood>& foods) {
     Pane()->PlaceHeading(headings_[static_cast<size_t>(meal)]);
     if (foods.empty())
         Pane()->AddBlankLine();

@@ -13,6 +13,7 @@ class MealHeading;
 class QuantityField;
 class ScaledFood;
 class ucAte;
+struct LoggedFood;
 
 /// What the current user ate on one day, under the four meals. Foods are added and changed here,
 /// and each change can be taken back until the visit ends. Every change draws the whole list anew
@@ -60,7 +61,7 @@ protected:
 
 private:
     MealHeading* AddHeading(int meal);
-    void DisplayMeal(int meal);
+    void DisplayMeal(int meal, const std::vector<LoggedFood>& foods);
     void OnHeadingMove(MealHeading* heading);
     void OnPaneMove(const QMouseEvent* move);
     void EnterQuantity(QuantityField* field);
