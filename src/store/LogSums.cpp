@@ -3,6 +3,7 @@
 #include "store/Connection.h"
 #include "store/LogPass.h"
 #include "store/LogPieceReader.h"
+#include "store/ReadTransaction.h"
 #include "store/StatementCache.h"
 #include "store/StoreError.h"
 
@@ -47,16 +48,9 @@ QString SharedFile(Connection& connection) {
     return shared ? connection.Path() : QString();
 }
 
-/// Keeps writers out until the end, unless a transaction does so already.
-std::unique_ptr<SQLite::Transaction> Hold(SQLite::Database& database) {
-    if (sqlite3_get_autocommit(database.getHandle()) == 0)
-        return nullptr;
-    return std::make_unique<SQLite::Transaction>(database);
-}
-
 AmountSums InPieces(Connection& connection, const LogRange& range) {
     const QString file = SharedFile(connection);
-    const auto held = Hold(connection.Raw());
+    const ReadTransaction keepsWritersOut(connection);
     LogPass pass(range, PiecesOf(connection.Raw(), range));
     return pass.Run(connection.Statements().Command(LogPieceReader::SQL(range)), file);
 }
