@@ -64,6 +64,8 @@ TEST(DialectTest, AComparisonWithATextIgnoresCase) {
                   QStringLiteral("a %1('x' COLLATE HALVANE_TEXT)").arg(sign));
     EXPECT_EQ(Adapted("'x' = a"), "('x' COLLATE HALVANE_TEXT) = a");
     EXPECT_EQ(Adapted("a='x'AND b=1"), "a=('x' COLLATE HALVANE_TEXT)AND b=1");
+    EXPECT_EQ(Adapted("a = '' AND b = 'x'"),
+              "a = ('' COLLATE HALVANE_TEXT) AND b = ('x' COLLATE HALVANE_TEXT)");
     EXPECT_EQ(Adapted("a LIKE '%x%'"), "a LIKE '%x%'");
     EXPECT_EQ(Adapted("UDATE = #4/3/2002#"), "UDATE = '2002-04-03'");
     EXPECT_EQ(Adapted("a IN ('x')"), "a IN ('x')");
@@ -90,6 +92,7 @@ TEST(DialectTest, AnUpdatableSetGetsItsRowHandle) {
     EXPECT_EQ(adapt("select  *  from [User Foods] where UID=1").table, "User Foods");
     EXPECT_EQ(adapt("SELECT * FROM USER_WEIGHTS  WHERE Weight > 0 ORDER BY UDate").table,
               "USER_WEIGHTS");
+    EXPECT_EQ(adapt("SELECT * FROM t\u0080\u00E9").table, "t\u0080\u00E9");
     EXPECT_EQ(adapt("SELECT * FROM t ORDER BY a;").table, "t");
     EXPECT_EQ(adapt("SELECT * FROM t;").table, "t");
     EXPECT_EQ(adapt("SELECT TOP 2 * FROM t").sql.simplified(),

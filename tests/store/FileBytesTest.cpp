@@ -48,10 +48,19 @@ TEST_F(FileBytesTest, FilesTooShortForAMarkAreCompared) {
     EXPECT_FALSE(FileBytes::Same(Write("one", almost), Write("other", QByteArray(42, 'a') + 'b')));
 }
 
+TEST_F(FileBytesTest, AMarkMayEndWithTheFile) {
+    for (const qsizetype size : {28, 44, 100})
+        EXPECT_TRUE(FileBytes::Same(Write("one", QByteArray(size, 'a')),
+                                    Write("other", QByteArray(size - 1, 'a') + 'b')))
+            << size;
+}
+
 TEST_F(FileBytesTest, AFileThatIsMissingIsTheSameAsNone) {
     const QString one = Write("one", bytes_);
     EXPECT_FALSE(FileBytes::Same(one, folder_.filePath(QStringLiteral("none"))));
     EXPECT_FALSE(FileBytes::Same(folder_.filePath(QStringLiteral("none")), one));
+    EXPECT_FALSE(FileBytes::Same(folder_.filePath(QStringLiteral("none")), Write("one", "")));
+    EXPECT_FALSE(FileBytes::Same(Write("one", ""), folder_.filePath(QStringLiteral("none"))));
 }
 
 TEST_F(FileBytesTest, TheFirstBytesAreReadOrAllOfThem) {

@@ -629,6 +629,12 @@ TEST_F(RecordsetTest, ManyDifferentStatementsAreForgottenInTurn) {
     EXPECT_EQ(first.FieldName(2), "Weight");
 }
 
+TEST_F(RecordsetTest, ColumnsWhoseNamesDifferInOneSignAreToldApart) {
+    const Recordset set = Read("SELECT 1 AS \"a@\", 2 AS \"a`\"");
+    EXPECT_EQ(set["a@"].Integer(), 1);
+    EXPECT_EQ(set["a`"].Integer(), 2);
+}
+
 TEST_F(RecordsetTest, TwoColumnsOfOneNameGiveTheFirst) {
     Recordset set = Read("SELECT 1 AS a, 2 AS A");
     EXPECT_EQ(set["a"].Integer(), 1);

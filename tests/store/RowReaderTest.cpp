@@ -28,6 +28,13 @@ TEST_F(RowReaderTest, TakesStatementsInTheDialect) {
     EXPECT_FALSE(rows.Next());
 }
 
+TEST_F(RowReaderTest, GivesTheColumnsOfTheStatementAlone) {
+    Run(users_, "INSERT INTO USER_WEIGHTS VALUES (1, '2002-04-03', 150)");
+    RowReader rows(users_, "SELECT * FROM USER_WEIGHTS");
+    ASSERT_TRUE(rows.Next());
+    EXPECT_EQ(rows.Number(2), 150);
+}
+
 TEST_F(RowReaderTest, RefusesAStatementThatWritesBeforeAnythingRuns) {
     AddFood(30001, "Rye");
     for (const char* writes : {"DELETE FROM FOODS", "UPDATE FOODS SET FoodName = 'x'"})
@@ -61,13 +68,15 @@ TEST_F(RowReaderTest, LettersBeyondAsciiAreReadAlsoWhereThereAreNoOthers) {
 }
 
 TEST_F(RowReaderTest, ATextIsValidUtf8WhateverTheColumnHolds) {
-    RowReader row(users_, "SELECT 'rye', 'cr\u00E8me', CAST(x'61C362' AS TEXT), NULL, 1.5");
+    RowReader row(users_, "SELECT 'rye', 'cr\u00E8me', CAST(x'61C362' AS TEXT), NULL, 1.5, "
+                          "CAST(x'C3' AS TEXT)");
     ASSERT_TRUE(row.Next());
     EXPECT_EQ(row.Text(0), "rye");
     EXPECT_EQ(row.Text(1), "cr\u00E8me");
     EXPECT_EQ(row.Text(2), "a\uFFFDb");
     EXPECT_EQ(row.Text(3), "");
     EXPECT_EQ(row.Text(4), "1.5");
+    EXPECT_EQ(row.Text(5), "\uFFFD");
 }
 
 TEST_F(RowReaderTest, AByteOrderMarkBelongsToTheTextThatItBegins) {

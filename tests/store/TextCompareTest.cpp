@@ -122,6 +122,16 @@ TEST(TextCompareTest, EveryCharacterIsTakenWholeAndFolded) {
     }
 }
 
+TEST(TextCompareTest, ControlCharactersBeyondAsciiAreFoundInAWord) {
+    EXPECT_TRUE(Like("%a\u0080%", "xa\u0080y"));
+    EXPECT_FALSE(Like("%a\u0080%", "xa\u0081y"));
+}
+
+TEST(TextCompareTest, AByteThatStartsNoCharacterIsTheReplacementCharacter) {
+    for (const char* broken : {"\x80", "\xBF", "\xC1", "\xF5", "\xFF"})
+        EXPECT_EQ(Compare(broken, "\uFFFD"), 0);
+}
+
 TEST(TextCompareTest, EveryLetterOfAWordIsFoundInEitherCase) {
     for (char letter = 'a'; letter <= 'z'; ++letter) {
         const std::string lower(3, letter);

@@ -148,6 +148,16 @@ TEST_F(ValuesTest, ATextThatOnlyLooksLikeADateIsReadAsText) {
     }
 }
 
+TEST_F(ValuesTest, ADateWithATimeBehindItIsReadAsItsDay) {
+    for (const char* text : {"2002-04-03T", "2002-04-03T10:15:00", "2002-04-03 10:15"}) {
+        Run(users_, QStringLiteral("DELETE FROM USER_WEIGHTS"));
+        Run(users_, QStringLiteral("INSERT INTO USER_WEIGHTS VALUES (1, '%1', 150)")
+                        .arg(QLatin1String(text)));
+        EXPECT_EQ(Recordset(users_, "SELECT * FROM USER_WEIGHTS")["UDate"].Day(), QDate(2002, 4, 3))
+            << text;
+    }
+}
+
 TEST_F(ValuesTest, ADateInAColumnOfTextsIsReadAsText) {
     AddFood(30001, "2002-03-04");
     EXPECT_EQ(Recordset(foods_, "SELECT FoodName FROM FOODS WHERE ID = 30001")[0].Value().typeId(),
