@@ -44,6 +44,5 @@ QString RecordsPath() {
 
 QString FileBeside(const QString& name) {
     const QString path = ApplicationPath();
-    const bool separated = path.endsWith(u'/') || path.endsWith(QDir::separator());
-    return path + QLatin1String(separated ? "" : "/") + name;
+    return path + QLatin1String(path.endsWith(u'/') ? "" : "/") + name;
 }

@@ -81,7 +81,7 @@ QDate Dates::Parse(QStringView text) {
 }
 
 QString Dates::ShortText(QDate date) {
-    if (date.year() < 1000 || date.year() > 9999)
+    if (date.year() < 1000)
         return date.toString(QStringLiteral("M/d/yyyy"));
     return QString::number(date.month()) + u'/' + QString::number(date.day()) + u'/' +
            QString::number(date.year());

@@ -3,7 +3,9 @@
 #include <QCollator>
 
 #include <algorithm>
+#include <compare>
 #include <string>
+#include <tuple>
 #include <vector>
 
 namespace {
@@ -41,8 +43,8 @@ public:
     bool InOrder(const NamedKey& one, const NamedKey& next) const;
 
 private:
-    int Compare(const QString& one, const QString& other) const; ///< as their keys compare
-    int ComparePlain(const QString& one, const QString& other) const;
+    std::strong_ordering Compare(const QString& one, const QString& other) const; ///< as their keys
+    std::strong_ordering ComparePlain(const QString& one, const QString& other) const;
 
     std::vector<uint> ranks_; ///< by code point; until settled, 1 for a letter that occurs
     int highestByte_ = 0;     ///< of a rank: how far it is shifted
@@ -90,17 +92,17 @@ std::string LetterRanks::KeyOf(const QString& name) const {
 }
 
 bool LetterRanks::InOrder(const NamedKey& one, const NamedKey& next) const {
-    const int order = Compare(one.name, next.name);
-    return order < 0 || (order == 0 && one.key <= next.key);
+    const auto order = Compare(one.name, next.name);
+    return std::is_lt(order) || (std::is_eq(order) && one.key <= next.key);
 }
 
-int LetterRanks::Compare(const QString& one, const QString& other) const {
+std::strong_ordering LetterRanks::Compare(const QString& one, const QString& other) const {
     if (IsPlain(one) && IsPlain(other))
         return ComparePlain(one, other);
-    return KeyOf(one).compare(KeyOf(other));
+    return KeyOf(one) <=> KeyOf(other);
 }
 
-int LetterRanks::ComparePlain(const QString& one, const QString& other) const {
+std::strong_ordering LetterRanks::ComparePlain(const QString& one, const QString& other) const {
     const qsizetype shorter = std::min(one.size(), other.size());
     for (qsizetype i = 0; i < shorter; ++i) {
         if (one[i] == other[i])
@@ -108,9 +110,9 @@ int LetterRanks::ComparePlain(const QString& one, const QString& other) const {
         const uint left = ranks_[WithoutCase(one[i])];
         const uint right = ranks_[WithoutCase(other[i])];
         if (left != right)
-            return left < right ? -1 : 1;
+            return left <=> right;
     }
-    return one.size() == other.size() ? 0 : one.size() < other.size() ? -1 : 1;
+    return one.size() <=> other.size();
 }
 
 struct Keyed {
@@ -119,8 +121,7 @@ struct Keyed {
 };
 
 bool IsBefore(const Keyed& one, const Keyed& other) {
-    const int order = one.order.compare(other.order);
-    return order < 0 || (order == 0 && one.name.key < other.name.key);
+    return std::tie(one.order, one.name.key) < std::tie(other.order, other.name.key);
 }
 
 void SortByKeys(QList<NamedKey>& names, const LetterRanks& ranks) {

@@ -76,6 +76,14 @@ TEST(Dates, MonthNamesAreRead) {
     ExpectDate("dec  31  1999", QDate(1999, 12, 31));
 }
 
+TEST(Dates, EachMonthHasAWholeAndAShortName) {
+    for (int month = 1; month <= 12; ++month) {
+        const QString name = Dates::MonthName(month);
+        EXPECT_EQ(Dates::Parse(QString(name + " 4, 2002")), QDate(2002, month, 4));
+        EXPECT_EQ(Dates::Parse(QString(name.left(3) + " 4, 2002")), QDate(2002, month, 4));
+    }
+}
+
 TEST(Dates, OtherWordsAreNoMonths) {
     for (const char* text : {"Marc 4, 2002", "Ma 4, 2002", "Foo 4, 2002", "Monday 4 2002",
                              "März 4, 2002", "0 4 2002", "March 2002", "March 4", "March4,2002"})
@@ -120,6 +128,8 @@ TEST(Dates, ShortTextReadsBackAsTheSameDay) {
 TEST(Dates, ShortTextHasFourDigitsOfTheYear) {
     EXPECT_EQ(Dates::ShortText(QDate(100, 1, 1)), "1/1/0100");
     EXPECT_EQ(Dates::ShortText(QDate(202, 3, 4)), "3/4/0202");
+    EXPECT_EQ(Dates::ShortText(QDate(999, 3, 4)), "3/4/0999");
+    EXPECT_EQ(Dates::ShortText(QDate(1000, 3, 4)), "3/4/1000");
     EXPECT_EQ(Dates::ShortText(QDate(9999, 12, 31)), "12/31/9999");
     for (const QDate day : {Dates::First(), QDate(202, 3, 4), QDate(500, 12, 31), Dates::Last()})
         EXPECT_EQ(Dates::Parse(Dates::ShortText(day)), day);

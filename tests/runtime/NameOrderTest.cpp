@@ -48,7 +48,9 @@ TEST(NameOrder, NamesThatAreInOrderAlreadyStayAndOthersGetTheSameOrder) {
 
 TEST(NameOrder, EqualNamesAreInTheOrderOfTheirKeys) {
     for (QList<NamedKey> keys : {QList<NamedKey>{{"soup", 9}, {"Soup", 2}, {"SOUP", 5}},
-                                 QList<NamedKey>{{"Éclair", 9}, {"éclair", 2}, {"éCLAIR", 5}}}) {
+                                 QList<NamedKey>{{"SOUP", 9}, {"Soup", 5}, {"soup", 2}},
+                                 QList<NamedKey>{{"Éclair", 9}, {"éclair", 2}, {"éCLAIR", 5}},
+                                 QList<NamedKey>{{"щи", 9}, {"ЩИ", 2}, {"Щи", 5}}}) {
         NameOrder::Sort(keys);
         EXPECT_EQ(keys[0].key, 2);
         EXPECT_EQ(keys[1].key, 5);
@@ -58,6 +60,20 @@ TEST(NameOrder, EqualNamesAreInTheOrderOfTheirKeys) {
 
 TEST(NameOrder, CapitalsMakeNoDifferenceAndEqualNamesKeepTheirOrder) {
     EXPECT_EQ(Sorted({"b", "Soup", "soup", "SOUP", "A"}), QStringLiteral("A|b|Soup|soup|SOUP"));
+}
+
+TEST(NameOrder, CharactersThatCannotBeSeenMakeNoDifferenceBetweenNames) {
+    const QString one(QChar(1));
+    const QString two(QChar(2));
+    for (QList<NamedKey> keys :
+         {QList<NamedKey>{{one, 9}, {two, 5}}, QList<NamedKey>{{two, 9}, {one, 5}}}) {
+        NameOrder::Sort(keys);
+        EXPECT_EQ(keys[0].key, 5);
+    }
+}
+
+TEST(NameOrder, ANulStandsBeforeEveryLetter) {
+    EXPECT_EQ(Sorted({"b", "a", QString(QChar::Null)}), QString(QChar::Null) + "|a|b");
 }
 
 TEST(NameOrder, AnEmptyNameStandsFirstAndNoNameIsLost) {

@@ -1,6 +1,9 @@
 #include "runtime/ProcessLock.h"
 
+#include <QCoreApplication>
+#include <QDateTime>
 #include <QFile>
+#include <QFileInfo>
 #include <QSysInfo>
 #include <QTemporaryDir>
 
@@ -41,6 +44,18 @@ TEST_F(ProcessLockTest, OfAProcessThatIsGoneIsTaken) {
     Write("2147483646\nhalvane\n" + QSysInfo::machineHostName().toLocal8Bit() + "\n\n\n");
     ProcessLock lock(Path());
     EXPECT_EQ(lock.TryLock(), ProcessLock::Result::Held);
+}
+
+TEST_F(ProcessLockTest, OfALivingProcessIsNotTakenHoweverOldItIs) {
+    const QString program = QFileInfo(QCoreApplication::applicationFilePath()).fileName();
+    Write(QByteArray::number(QCoreApplication::applicationPid()) + '\n' + program.toLocal8Bit() +
+          '\n' + QSysInfo::machineHostName().toLocal8Bit() + "\n\n\n");
+    QFile file(Path());
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+    file.setFileTime(QDateTime::currentDateTime().addYears(-1), QFile::FileModificationTime);
+    file.close();
+    ProcessLock lock(Path());
+    EXPECT_EQ(lock.TryLock(), ProcessLock::Result::HeldByAnother);
 }
 
 TEST_F(ProcessLockTest, OfAProcessThatWasKilledBeforeItSignedIsTaken) {

@@ -1,10 +1,7 @@
-#include "runtime/AppPath.h"
 #include "runtime/AppState.h"
 #include "runtime/Clock.h"
 #include "runtime/RuntimeError.h"
 #include "runtime/Seams.h"
-
-#include <QCoreApplication>
 
 #include <cstdio>
 
@@ -56,21 +53,6 @@ TEST(Clock, KeepsTheDayThatItWasSetTo) {
     }
     Clock::UseSystemClock();
     EXPECT_NE(Clock::Today(), QDate(2106, 2, 7));
-}
-
-TEST(AppPath, IsTheFolderOfTheProgramUntilItIsSet) {
-    SetApplicationPath({});
-    EXPECT_EQ(ApplicationPath(), QCoreApplication::applicationDirPath());
-}
-
-TEST(AppPath, AFileStandsBesideTheProgramWithOrWithoutATrailingSeparator) {
-    for (const char* path : {"/opt/halvane", "/opt/halvane/"}) {
-        SetApplicationPath(QString::fromLatin1(path));
-        EXPECT_EQ(FileBeside("users.mdb").toStdString(), "/opt/halvane/users.mdb");
-    }
-    SetApplicationPath("/");
-    EXPECT_EQ(FileBeside("tips.txt").toStdString(), "/tips.txt");
-    SetApplicationPath({});
 }
 
 TEST_F(SeamsTest, DoNothingWhereNothingIsInstalled) {

@@ -32,6 +32,14 @@ TEST(Round, ReachesBothEndsOfTheRange) {
     EXPECT_EQ(Round(-2147483648.5), std::numeric_limits<qint32>::min());
 }
 
+TEST(RoundForDisplay, TakesTheBoundForWhatIsBeyondItAndZeroForNoNumber) {
+    const double inf = std::numeric_limits<double>::infinity();
+    EXPECT_EQ(RoundForDisplay(2.5), 2);
+    EXPECT_EQ(RoundForDisplay(inf), std::numeric_limits<qint32>::max());
+    EXPECT_EQ(RoundForDisplay(-1e308), std::numeric_limits<qint32>::min());
+    EXPECT_EQ(RoundForDisplay(std::nan("")), 0);
+}
+
 TEST(Round, OverflowsBeyondTheRange) {
     const double inf = std::numeric_limits<double>::infinity();
     for (double value : {2147483647.5, 2147483648.0, -2147483648.6, 1e308, inf, -inf, std::nan("")})

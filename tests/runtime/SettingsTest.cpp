@@ -54,6 +54,12 @@ TEST_F(Settings, AMissingValueIsEmpty) {
     EXPECT_EQ(Value("FAST"), "");
 }
 
+TEST_F(Settings, AValueOfAnotherProgramIsNotTaken) {
+    SetRegValue("FAST", "True");
+    ASSERT_TRUE(QFile::rename(FileName(), folder_.filePath("Brindlewick.ini")));
+    EXPECT_EQ(Value("FAST"), "");
+}
+
 TEST_F(Settings, AWriteByAnotherProcessIsSeen) {
     SetRegValue("FAST", "True");
     WriteFile("[General]\nFAST=changed elsewhere\n");

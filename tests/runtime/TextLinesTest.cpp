@@ -41,13 +41,16 @@ TEST_F(TextLinesTest, BytesAreReadInTheirCoding) {
     EXPECT_EQ(Lines("cr\xE8me", TextCoding::Latin1), QStringList(QStringLiteral("cr\u00E8me")));
 }
 
-TEST_F(TextLinesTest, AFileThatIsMissingIsAFailureThatNamesIt) {
-    const QString missing = folder_.filePath(QStringLiteral("none.txt"));
-    try {
-        WholeFile(missing);
-        FAIL();
-    } catch (const RuntimeError& error) {
-        EXPECT_EQ(error.Number(), ErrorNumber::FileNotFound);
-        EXPECT_TRUE(error.Description().startsWith(missing));
-    }
+TEST_F(TextLinesTest, AFileThatIsMissingOrCannotBeReadIsAFailureThatNamesIt) {
+    const std::pair<QString, int> failures[] = {
+        {folder_.filePath(QStringLiteral("none.txt")), ErrorNumber::FileNotFound},
+        {QStringLiteral("/proc/self/mem"), ErrorNumber::FileAccess}};
+    for (const auto& [path, number] : failures)
+        try {
+            WholeFile(path);
+            FAIL() << path.toStdString();
+        } catch (const RuntimeError& error) {
+            EXPECT_EQ(error.Number(), number);
+            EXPECT_TRUE(error.Description().startsWith(path));
+        }
 }
