@@ -4,6 +4,8 @@
 #include "runtime/Round.h"
 #include "runtime/Seams.h"
 
+#include <array>
+
 namespace {
 constexpr double PoundsPerKilogram = 2.2;
 constexpr double CentimetresPerInch = 2.54;
@@ -30,8 +32,8 @@ double BasalEnergy(const User& user) {
 }
 
 double ActivityFactor(int level) {
-    constexpr double factors[] = {0.2, 0.6, 0.72, 0.9};
-    return level >= 0 && level < int(std::size(factors)) ? factors[level] : 0;
+    constexpr std::array factors{0.2, 0.6, 0.72, 0.9};
+    return level >= 0 && level < int(factors.size()) ? factors[size_t(level)] : 0;
 }
 
 qint32 TotalEnergy(const User& user) {

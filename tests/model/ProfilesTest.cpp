@@ -170,6 +170,15 @@ TEST_F(ProfilesTest, ANewProfileDerivesItsTargets) {
     }
 }
 
+TEST_F(ProfilesTest, ANewProfileHasNoLimitsOfItsOwn) {
+    User user;
+    user.GetUserProfile(Profiles::Append(Berta()).UID);
+    EXPECT_FALSE(user.FlagSodium);
+    EXPECT_FALSE(user.FlagCholesterol);
+    EXPECT_EQ(user.sodiumMAX, 0);
+    EXPECT_EQ(user.cholesterolMAX, 0);
+}
+
 TEST_F(ProfilesTest, ANewProfileWithoutTargetsToDeriveIsNotWritten) {
     Profile entered = Berta();
     entered.age = 13.5;

@@ -387,7 +387,8 @@ TEST_F(UserTest, ProfileIsReadFromItsRow) {
 }
 
 TEST_F(UserTest, WhatAProfileDoesNotKnowIsZero) {
-    Users("INSERT INTO profiles (UID, UserName) VALUES (7, 'Nil')");
+    Users("INSERT INTO profiles (UID, UserName, flagsodium, flagcholesterol) "
+          "VALUES (7, 'Nil', NULL, NULL)");
     User user;
     user.GetUserProfile(7);
     EXPECT_EQ(user.Age, 0);
