@@ -24,7 +24,7 @@ std::vector<Habit> HabitsOf(int meal) {
                                  "' GROUP BY FoodName ORDER BY Max(RecID) DESC");
     for (; !rows.AtEnd(); rows.MoveNext())
         if (const QString name = rows[0].Text(); !name.simplified().isEmpty())
-            habits.push_back({name, rows[2].NumberOr(0)});
+            habits.push_back({name, rows[2].Number()});
     return habits;
 }
 

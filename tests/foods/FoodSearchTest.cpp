@@ -1,6 +1,7 @@
 #include "foods/FoodSearch.h"
 #include "foods/FoodsTest.h"
 #include "foods/SearchTerms.h"
+#include "store/Connection.h"
 
 class FoodSearchTest : public FoodsTest {};
 
@@ -16,6 +17,25 @@ TEST_F(FoodSearchTest, AKeyFindsTheFoodOrTheRecipeWithIt) {
 TEST_F(FoodSearchTest, AKeyThatNothingHasFindsNothing) {
     EXPECT_FALSE(FoodSearch::WithKey(1, false));
     EXPECT_FALSE(FoodSearch::WithKey(-1, true));
+}
+
+TEST_F(FoodSearchTest, AFoodOfTheCatalogueIsNoRecipeAndHasItsSecondServing) {
+    AddFood({.id = 1, .name = "Bread"});
+    AddFood({.id = 23509, .name = "Bread of mine"});
+    for (const char* term : {"bread", "br"}) {
+        const FoodList found = FoodSearch::Find(SearchTerms(term), {false, true, true});
+        EXPECT_EQ(found.Count(), 2);
+        for (const Food& food : found) {
+            EXPECT_FALSE(food.isRecipe) << term;
+            EXPECT_EQ(food.ServB, "1 oz") << term;
+        }
+    }
+}
+
+TEST_F(FoodSearchTest, ACatalogueThatIsClosedIsAFailure) {
+    FoodDB().Close();
+    EXPECT_NE(FailureOf([] { FoodSearch::Find(SearchTerms("bread"), {false, true, false}); }), 0);
+    EXPECT_NE(FailureOf([] { FoodSearch::Find(SearchTerms("bread"), {false, false, true}); }), 0);
 }
 
 TEST_F(FoodSearchTest, AQuotedTermFindsANameWithAnApostrophe) {

@@ -16,6 +16,10 @@ TEST(NameTrigramsTest, ShortWordsAskForNothing) {
     EXPECT_EQ(NameTrigrams::Question({"a", "egg"}), "'\"egg\"'");
 }
 
+TEST(NameTrigramsTest, EveryOtherCharacterOfASCIIIsInTrigrams) {
+    EXPECT_EQ(NameTrigrams::Question({" ~!"}), "'\" ~!\"'");
+}
+
 TEST(NameTrigramsTest, AWildcardIsInNoTrigram) {
     EXPECT_EQ(NameTrigrams::Question({"mil%raw"}), "'\"mil\" AND \"raw\"'");
     EXPECT_EQ(NameTrigrams::Question({"a_b_c%"}), "");

@@ -265,3 +265,10 @@ TEST_F(NarrowedSearchTest, AMissingOrDamagedIndexChangesNoResult) {
         EXPECT_EQ(Searched(SearchTerms("zwieback mine")).size(), 1) << damage;
     }
 }
+
+TEST_F(NarrowedSearchTest, WithoutTheIndexOfOrderedNamesEqualNamesComeAsInTheStatementAlone) {
+    FoodDB().Raw().exec("DROP INDEX FOODS_Name");
+    AddFood({.id = 23600, .name = "Zwieback", .servA = "2 slices"});
+    AddFood({.id = 23601, .name = "Zwieback", .servA = "1 slice"});
+    ExpectSame("zwieback");
+}

@@ -7,6 +7,7 @@
 #include "store/Recordset.h"
 
 #include <bit>
+#include <limits>
 
 class ScaledFoodTest : public FoodsTest {};
 
@@ -90,6 +91,13 @@ TEST_F(ScaledFoodTest, ANullNutrientCountsAsZero) {
     const QVariant zinc = ScaledFood::FromCatalogue(7, "A", 2).Item("Zinc");
     EXPECT_FALSE(zinc.isNull());
     EXPECT_EQ(zinc.toDouble(), 0);
+}
+
+TEST_F(ScaledFoodTest, AnAmountThatOverflowsIsTheGreatestAndNoneOfItIsZero) {
+    AddFood({.id = 1, .name = "Star", .gramsA = 1e300, .nutrients = {{"Calories", 1e300}}});
+    EXPECT_EQ(ScaledFood::Of(1, "A", 1, false).Amount("Calories"),
+              std::numeric_limits<double>::max());
+    EXPECT_EQ(ScaledFood::Of(1, "A", 0, false).Amount("Calories"), 0);
 }
 
 TEST_F(ScaledFoodTest, AnyLetterButATakesTheSecondServing) {
