@@ -13,10 +13,9 @@ constexpr int MostParts = 4; ///< five labels divide the width into four parts
 const std::vector<int> LabelsAt[MostParts + 1] = {
     {0}, {0, 4}, {0, 2, 4}, {0, 1, 3, 4}, {0, 1, 2, 3, 4}};
 
-/// The rounded quarter, raised until four parts cover all days.
+/// So many that four parts cover all days.
 int DaysInPart(int days) {
-    const int needed = (days + MostParts - 1) / MostParts;
-    return std::max(Round(double(days) / MostParts), needed);
+    return (days + MostParts - 1) / MostParts;
 }
 
 } // namespace
@@ -29,7 +28,7 @@ DateAxis::DateAxis(QDate first, QDate last)
         return;
     }
     const int parts = std::min(days_, MostParts);
-    const int step = days_ < MostParts ? 1 : DaysInPart(days_);
+    const int step = DaysInPart(days_);
     for (int part = 0; part <= parts; ++part)
         labels_.push_back({LabelsAt[parts][size_t(part)], Dates::AddDays(first, part * step),
                            Left + double(part) * Width / parts});

@@ -26,7 +26,7 @@ std::vector<WeightLog::Entry> WeightLog::Entries(const Period& period) {
     entries.reserve(static_cast<size_t>(rows.RecordCount()));
     for (; !rows.AtEnd(); rows.MoveNext())
         if (const QDate day = rows[QStringLiteral("UDate")].Day(); day.isValid())
-            entries.push_back({rows[QStringLiteral("Weight")].NumberOr(0), day});
+            entries.push_back({rows[QStringLiteral("Weight")].Number(), day});
     return entries;
 }
 

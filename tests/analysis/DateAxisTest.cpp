@@ -71,7 +71,7 @@ TEST(DateAxisTest, TenDaysTakeStepsOfThreeAndTheLastLabelLiesPastTheLastDay) {
     EXPECT_LT(axis.X(First.addDays(10), 1440), 1440 + 8200);
 }
 
-TEST(DateAxisTest, TheStepIsARoundedQuarterRaisedUntilFourStepsCoverAllDays) {
+TEST(DateAxisTest, TheStepIsAQuarterOfTheDaysRoundedUp) {
     const std::pair<int, int> steps[] = {{4, 1},    {5, 2},    {6, 2},      {7, 2},     {8, 2},
                                          {9, 3},    {13, 4},   {14, 4},     {15, 4},    {17, 5},
                                          {29, 8},   {30, 8},   {364, 91},   {365, 92},  {366, 92},

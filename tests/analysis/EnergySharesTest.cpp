@@ -81,6 +81,7 @@ TEST(EnergySharesTest, NoneOfTheThreeIsNothing) {
 }
 
 TEST(EnergySharesTest, ASumJustAboveNothingIsDrawn) {
+    EXPECT_EQ(EnergyShares(0.00031, 1e-300, 1e-300), EnergyShares());
     EXPECT_EQ(EnergyShares(0.0002, 0.0001, 0.0001).Captions(),
               Captions("Fat 50%", "Protein 25%", "Carbs. 25%"));
 }

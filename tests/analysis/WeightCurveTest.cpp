@@ -98,6 +98,7 @@ TEST(WeightCurveTest, OnAPageTheLabelsAreWholePoundsAndAsCloseAsTheWeightsAllow)
     EXPECT_EQ(highest(7.5), 164);
     EXPECT_EQ(highest(14), 164);
     EXPECT_EQ(highest(15), 171);
+    EXPECT_EQ(highest(28), 178);
 }
 
 class WeightCurvePaintingTest : public HalvaneTest {
