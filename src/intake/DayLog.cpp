@@ -141,8 +141,7 @@ void DayLog::RemoveFood(qint32 RecID) {
 void DayLog::ClearFoods(QDate day) {
     Recordset rows = Changing(LoggedEntries::Of(day));
     const int count = rows.RecordCount();
-    if (count > 0)
-        rows.MoveLast();
+    rows.MoveLast();
     for (int i = 0; i < count; ++i) {
         rows.Delete();
         rows.MovePrevious();

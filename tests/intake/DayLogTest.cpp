@@ -191,7 +191,9 @@ TEST_F(DayLogTest, ClearingADayWithoutFoodsChangesNothing) {
 TEST_F(DayLogTest, ARowWhoseKeyIsTooLargeHasNone) {
     Log("Far away", "Lunch");
     UserDB().Raw().exec("UPDATE USER_FOODS SET RecID = 5000000000");
-    EXPECT_FALSE(LoggedRow::AllOf(LoggedEntries::Of(day)).front().HasKey());
+    const LoggedRow row = LoggedRow::AllOf(LoggedEntries::Of(day)).front();
+    EXPECT_EQ(row.RecID, 0);
+    EXPECT_FALSE(row.HasKey());
 }
 
 TEST_F(DayLogTest, RowsOfAnotherToolNeverKeepADayFromBeingCopied) {
@@ -202,6 +204,13 @@ TEST_F(DayLogTest, RowsOfAnotherToolNeverKeepADayFromBeingCopied) {
     const int count = LogCount();
     EXPECT_EQ(DayLog::CopyFoods(LoggedEntries::Of(day), next_).size(), count);
     EXPECT_EQ(LogCount("UDate = '2002-03-05'"), count);
+}
+
+TEST_F(DayLogTest, AWeightIsAboveZeroAndAtMostAMillionPounds) {
+    for (const double accepted : {0.1, 1.0, 1e6})
+        EXPECT_EQ(DayLog::WeightRefusal(accepted), "") << accepted;
+    for (const double refused : {-1.0, 0.0, 1e6 + 0.1})
+        EXPECT_NE(DayLog::WeightRefusal(refused), "") << refused;
 }
 
 TEST_F(DayLogTest, AWeightThatARowDoesNotKnowIsZero) {
