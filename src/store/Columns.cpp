@@ -14,7 +14,7 @@ namespace {
 size_t NameHash(QStringView name) {
     size_t hash = static_cast<size_t>(name.size());
     for (const QChar character : name)
-        hash = hash * 31 + (character.unicode() | 0x20U);
+        hash = hash * 31 + character.toCaseFolded().unicode();
     return hash;
 }
 

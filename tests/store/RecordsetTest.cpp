@@ -635,6 +635,13 @@ TEST_F(RecordsetTest, ColumnsWhoseNamesDifferInOneSignAreToldApart) {
     EXPECT_EQ(set["a`"].Integer(), 2);
 }
 
+TEST_F(RecordsetTest, TheCaseOfAColumnsNameDoesNotMatterForAnyLetter) {
+    const Recordset set = Read(u"SELECT 1 AS \"\u0100\", 2 AS \"\u0420\", 3 AS \"\u03A9\""_qs);
+    EXPECT_EQ(set[u"\u0101"_qs].Integer(), 1);
+    EXPECT_EQ(set[u"\u0440"_qs].Integer(), 2);
+    EXPECT_EQ(set[u"\u03C9"_qs].Integer(), 3);
+}
+
 TEST_F(RecordsetTest, TwoColumnsOfOneNameGiveTheFirst) {
     Recordset set = Read("SELECT 1 AS a, 2 AS A");
     EXPECT_EQ(set["a"].Integer(), 1);
