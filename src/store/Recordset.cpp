@@ -17,7 +17,7 @@ namespace {
 
 void AppendQuoted(QString& sql, const QString& name) {
     sql += u'"';
-    sql += name.contains(u'"') ? QString(name).replace(u'"', QLatin1String("\"\"")) : name;
+    sql += QString(name).replace(u'"', QLatin1String("\"\""));
     sql += u'"';
 }
 

@@ -7,8 +7,11 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QtEndian>
 
 #include <SQLiteCpp/SQLiteCpp.h>
+
+#include <map>
 
 #include <unistd.h>
 
@@ -97,10 +100,12 @@ protected:
 
     /// Leaves killed.mdb with changes of its last write in it, and the journal that takes them
     /// back.
-    void KillInTheMiddleOfAWrite(const QString& rows = "ID > 0") {
+    void KillInTheMiddleOfAWrite(const QString& rows = "ID > 0",
+                                 const QString& first = "SELECT 1") {
         foods_.Open(FoodsFile(), DatabaseKind::Foods);
         Run(foods_, "UPDATE FOODS SET Calories = 1 WHERE ID = 1");
         Run(foods_, "BEGIN");
+        Run(foods_, first);
         Run(foods_, "PRAGMA cache_spill = 1");
         Run(foods_, "PRAGMA cache_size = 1");
         Run(foods_, "UPDATE FOODS SET FoodName = FoodName || ' changed' WHERE " + rows);
@@ -117,6 +122,16 @@ protected:
         earlier.exec(change);
         CopyAsKilled("killed.mdb", "-wal");
         earlier.exec("PRAGMA journal_mode = DELETE");
+    }
+
+    /// The last content of each page in the log beside killed.mdb, by its number.
+    std::map<quint32, QByteArray> PagesOfLog() {
+        constexpr qsizetype header = 32, frameHeader = 24, page = 4096;
+        const QByteArray log = Contents(File("killed.mdb-wal"));
+        std::map<quint32, QByteArray> pages;
+        for (qsizetype at = header; at + frameHeader + page <= log.size(); at += frameHeader + page)
+            pages[qFromBigEndian<quint32>(log.constData() + at)] = log.mid(at + frameHeader, page);
+        return pages;
     }
 
     /// A copied or restored file gets its own time, later than the journal's.
@@ -388,6 +403,21 @@ TEST_F(ConnectionTest, WhatAKilledProcessDidNotCommitIsNotThere) {
     EXPECT_FALSE(QFile::exists(File("killed.mdb-journal")));
 }
 
+TEST_F(ConnectionTest, ACommitWhoseJournalIsStillThereIsTakenBack) {
+    foods_.Open(FoodsFile(), DatabaseKind::Foods);
+    Run(foods_, "BEGIN");
+    Run(foods_, "UPDATE FOODS SET Calories = 1");
+    const QString journal = File("killed.mdb-journal");
+    ASSERT_EQ(link(QFile::encodeName(FoodsFile() + "-journal"), QFile::encodeName(journal)), 0);
+    Run(foods_, "COMMIT");
+    ASSERT_TRUE(QFile::copy(FoodsFile(), File("killed.mdb")));
+    foods_.Close();
+    Connection killed;
+    killed.Open(File("killed.mdb"), DatabaseKind::Foods);
+    EXPECT_EQ(First(killed, "SELECT count(*) FROM FOODS WHERE Calories = 1"), 0);
+    EXPECT_EQ(First(killed, "PRAGMA integrity_check"), "ok");
+}
+
 TEST_F(ConnectionTest, AWriteAheadLogOfAnEarlierVersionIsTakenInOnce) {
     KillTheEarlierVersion("UPDATE FOODS SET FoodName = 'Mine' WHERE ID = 300");
     Connection killed;
@@ -511,6 +541,44 @@ TEST_F(ConnectionTest, AFileOfThisVersionNeverTakesALogIn) {
     Write(File("killed.mdb"), sound_);
     MoveLater(File("killed.mdb-wal"), File("killed.mdb"));
     ExpectSetAside("-wal");
+}
+
+TEST_F(ConnectionTest, TheLowestPageOfALogTellsWhetherItWasHalfTakenIn) {
+    KillTheEarlierVersion("UPDATE FOODS SET Calories = 1 WHERE ID = 300;"
+                          "UPDATE FOODS SET Calories = 1 WHERE ID = 1");
+    const std::map<quint32, QByteArray> pages = PagesOfLog();
+    ASSERT_GT(pages.size(), 1U);
+    QByteArray half = Contents(File("killed.mdb"));
+    const auto& [lowest, page] = *pages.begin();
+    half.replace(qsizetype(lowest - 1) * page.size(), page.size(), page);
+    PutInPlaceOfKilled(half, "-wal");
+    Connection killed;
+    killed.Open(File("killed.mdb"), DatabaseKind::Foods);
+    EXPECT_EQ(First(killed, "SELECT count(*) FROM FOODS WHERE Calories = 1"), 2);
+}
+
+TEST_F(ConnectionTest, ALogWhoseFirstPageWasTakenInIsTakenInAgain) {
+    KillTheEarlierVersion("BEGIN; PRAGMA schema_version = 4711;"
+                          "UPDATE FOODS SET Calories = 1 WHERE ID = 300; COMMIT");
+    QByteArray half = Contents(File("killed.mdb"));
+    const QByteArray first = PagesOfLog().at(1);
+    half.replace(0, first.size(), first);
+    PutInPlaceOfKilled(half, "-wal");
+    Connection killed;
+    killed.Open(File("killed.mdb"), DatabaseKind::Foods);
+    EXPECT_EQ(First(killed, "SELECT count(*) FROM FOODS WHERE Calories = 1"), 1);
+}
+
+TEST_F(ConnectionTest, AJournalThatWouldDamageTheFileIsLeftAlone) {
+    KillInTheMiddleOfAWrite("ID > 0", "PRAGMA application_id = 1");
+    QByteArray journal = Contents(File("killed.mdb-journal"));
+    constexpr qsizetype header = 512, number = 4, page = 4096, sum = 4, kindOfPage = 100;
+    qsizetype record = header;
+    while (qFromBigEndian<quint32>(journal.constData() + record) != 1)
+        record += number + page + sum;
+    journal[record + number + kindOfPage] = 0; // its sum looks at every 200th byte only
+    Write(File("killed.mdb-journal"), journal);
+    ExpectSetAside("-journal");
 }
 
 TEST_F(ConnectionTest, AFileCutShortBesideAJournalIsRefused) {

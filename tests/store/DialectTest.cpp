@@ -103,7 +103,8 @@ TEST(DialectTest, OtherStatementsHaveNoRowHandle) {
     for (const char* source :
          {"SELECT a FROM t", "SELECT *, a FROM t", "SELECT DISTINCT * FROM t", "SELECT * FROM a, b",
           "SELECT * FROM a INNER JOIN b ON a.x = b.x", "SELECT * FROM (SELECT 1)", "SELECT *",
-          "SELECT Sum(a) FROM t", "DELETE FROM t", "SELECT * FROM t GROUP BY a", "", " "}) {
+          "SELECT Sum(a) FROM t", "DELETE FROM t", "DELETE * FROM t", "SELECT * FROM t GROUP BY a",
+          "", " "}) {
         const Dialect::Statement statement = Dialect::Adapt(source, true);
         EXPECT_EQ(statement.sql, source);
         EXPECT_TRUE(statement.table.isEmpty()) << source;
