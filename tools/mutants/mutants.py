@@ -2,7 +2,8 @@
 """Shows what the tests notice: makes small mistakes in the calculations, one at a time, and runs the tests.
 
 All mutants are compiled at once, into a copy of the tree; HALVANE_MUTANT chooses one while a test program runs.
-A mutant is killed if a test fails, crashes or needs far more time than without it.
+A mutant is killed if a test fails, crashes or needs far more time than without it. explained.txt says of the others why
+no test notices them.
 
     tools/mutants/mutants.py build/mutants            # makes the copy, builds it, tries each mutant; goes on after a stop
     tools/mutants/mutants.py build/mutants --report   # lists what is known so far
@@ -60,8 +61,13 @@ class Tree:
         self.rewrite(found)
         self.drop_what_fails(found)
         self.list.write_text(json.dumps([
-            {'id': number, 'file': file, 'line': mutant.line, 'text': mutant.text, 'change': mutant.change}
-            for file, mutants in found.items() for number, mutant in mutants]))
+            self.described(file, *one) for file, mutants in found.items() for one in mutants]))
+
+    @staticmethod
+    def described(file, number, mutant):
+        code = (ROOT / file).read_text().splitlines()[mutant.line - 1].strip()
+        return {'id': number, 'file': file, 'line': mutant.line, 'code': code,
+                'text': mutant.text, 'change': mutant.change}
 
     def copy(self):
         files = subprocess.run(['git', 'ls-files'], cwd=ROOT, capture_output=True, text=True, check=True).stdout
@@ -210,17 +216,36 @@ def read(results):
     return [json.loads(line) for line in results.read_text().splitlines()] if results.exists() else []
 
 
+def explained():
+    """The reason of each mutant that explained.txt lists, by its file and line of code: numbers change."""
+    reasons, reason, file = {}, '', ''
+    for line in Path(__file__).with_name('explained.txt').read_text().splitlines():
+        if line.startswith('# '):
+            reason = line[2:]
+        elif line.startswith('src/'):
+            file = line
+        elif line.strip():
+            reasons[file, line.strip()] = reason
+    return reasons
+
+
 def report(tree, results):
-    tried = read(results)
-    killed = [one for one in tried if one['killer']]
+    tried, reasons = read(results), explained()
+    for one in tried:
+        place = one['file'], ' | '.join((one['code'], one['text'], one['change']))
+        one['reason'] = None if one['killer'] else reasons.get(place)
     for one in sorted(tried, key=lambda one: (one['file'], one['line'])):
-        if not one['killer']:
+        if not one['killer'] and not one['reason']:
             how = '' if one['reached'] else ' (no test comes by)'
             print(f"{one['file']}:{one['line']}: {one['text']}: {one['change']}{how}")
     for folder in tree.subjects:
-        own = [one for one in tried if one['file'].startswith(f'src/{folder}/')]
-        print(f"{folder}: {sum(bool(one['killer']) for one in own)} of {len(own)} killed")
-    print(f'{len(killed)} of {len(tried)} killed, {len(tree.mutants())} mutants in all')
+        print(f'{folder}: ' + counted([one for one in tried if one['file'].startswith(f'src/{folder}/')]))
+    print(f'{counted(tried)}, {len(tree.mutants())} mutants in all')
+
+
+def counted(tried):
+    killed, known = (sum(bool(one[what]) for one in tried) for what in ('killer', 'reason'))
+    return f'{killed} of {len(tried)} killed, {known} explained'
 
 
 def main():
