@@ -8,8 +8,8 @@ namespace SQLite {
 class Transaction;
 }
 
-/// Statements that read one state of the file, which is locked once for all of them. Within a
-/// Transaction they are a part of that one.
+/// While it lives, all statements read one state of the file, which is locked only once. Within a
+/// Transaction it does nothing, because that one holds the lock.
 class ReadTransaction {
 public:
     explicit ReadTransaction(Connection& connection);

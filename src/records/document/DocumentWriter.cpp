@@ -5,6 +5,7 @@
 #include "records/document/DocumentSettings.h"
 #include "records/document/KeyGiver.h"
 #include "store/Connection.h"
+#include "store/ReadTransaction.h"
 
 #include <SQLiteCpp/SQLiteCpp.h>
 
@@ -29,7 +30,7 @@ DocumentWriter::DocumentWriter(Sink sink, Progress progress)
     , progress_(std::move(progress)) {}
 
 void DocumentWriter::Write() {
-    const SQLite::Transaction oneMoment(UserDB().Raw());
+    const ReadTransaction oneMoment(UserDB());
     total_ = AllRows();
     AddHead();
     for (const DocumentSection* section : DocumentSections::Lists())
