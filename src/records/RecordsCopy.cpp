@@ -16,11 +16,11 @@ bool RecordsCopy::HasJournal(const QString& path) {
 /// A journal beside a file that is in use belongs to the program that writes.
 void RecordsCopy::Make(const QString& from, const QString& to) {
     if (!HasJournal(from) || RecordsLock::IsHeld(RecordsFolder(QFileInfo(from).path())))
-        return DatabaseCopy::Make(from, to, DatabaseCopy::Sync::No);
+        return DatabaseCopy::Make(from, to);
     const LeftJournal journal(from);
     if (journal.ChangesTheFile())
         journal.RequireFit();
-    DatabaseCopy::Make(journal.Result(), to, DatabaseCopy::Sync::No);
+    DatabaseCopy::Make(journal.Result(), to);
 }
 
 void RecordsCopy::MakeUpdated(const RecordsFolder& from, const RecordsFolder& to) {

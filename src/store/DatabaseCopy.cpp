@@ -1,6 +1,5 @@
 #include "store/DatabaseCopy.h"
 
-#include "store/RollbackJournal.h"
 #include "store/StoreError.h"
 #include "store/UnchangedFile.h"
 
@@ -18,6 +17,7 @@ constexpr int PagesAtOnce = 1024; ///< the source is free for a writer after eac
 constexpr int MostRestarts = 10;
 /// Each page is read and written once: to keep many of them only takes time.
 constexpr auto FewPages = "PRAGMA cache_size = 50";
+constexpr auto NoSafety = "PRAGMA synchronous = OFF; PRAGMA journal_mode = OFF";
 
 /// A folder that does not allow writing holds nobody's journal, so its file does not change.
 SQLite::Database Source(const QString& path) {
@@ -25,14 +25,6 @@ SQLite::Database Source(const QString& path) {
     if (file.isWritable() && QFileInfo(file.path()).isWritable())
         return {path.toStdString(), SQLite::OPEN_READWRITE, BusyMilliseconds};
     return {UnchangedFile::Address(path).toStdString(), SQLite::OPEN_READONLY | SQLite::OPEN_URI};
-}
-
-/// With syncs the cache stays large, because each page that leaves it early costs a sync.
-void Prepare(SQLite::Database& target, DatabaseCopy::Sync sync) {
-    if (sync == DatabaseCopy::Sync::Fully)
-        return RollbackJournal::SyncFully(target, "main");
-    target.exec("PRAGMA synchronous = OFF; PRAGMA journal_mode = OFF");
-    target.exec(FewPages);
 }
 
 /// If another connection writes between two steps, the copy begins again. If that happens too
@@ -50,14 +42,15 @@ int CopyAllPages(SQLite::Backup& backup) {
 }
 } // namespace
 
-void DatabaseCopy::Make(const QString& from, const QString& to, Sync sync) {
+void DatabaseCopy::Make(const QString& from, const QString& to) {
     StoreError::Guarded(from, [&] {
         SQLite::Database source = Source(from);
         source.exec(FewPages);
         StoreError::Guarded(to, [&] {
             SQLite::Database target(to.toStdString(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE,
                                     BusyMilliseconds);
-            Prepare(target, sync);
+            target.exec(NoSafety);
+            target.exec(FewPages);
             SQLite::Backup backup(target, source);
             const int result = CopyAllPages(backup);
             if (result != SQLITE_DONE)

@@ -4,12 +4,9 @@
 
 /// Copies of a database file.
 namespace DatabaseCopy {
-/// Whether the copy must survive a power cut once it is made. A private copy in a new file need
-/// not: if it fails, it is thrown away.
-enum class Sync { Fully, No };
-
-/// Copies the state of the last commit, also while another process has the file open and writes. A
-/// file at `to` is replaced page by page, in one transaction. Fails (negative number) if one of the
-/// two cannot be opened or does not become free within seconds.
-void Make(const QString& from, const QString& to, Sync sync = Sync::Fully);
+/// Copies the state of the last commit into a new file, also while another process has `from` open
+/// and writes. The copy is not synced: who keeps it must do that. Fails (negative number) if one of
+/// the two cannot be opened or `from` does not become free within seconds; what is at `to` must
+/// then be thrown away.
+void Make(const QString& from, const QString& to);
 } // namespace DatabaseCopy

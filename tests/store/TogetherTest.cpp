@@ -126,15 +126,6 @@ TEST_F(TogetherTest, ACopyIsTheStateOfTheLastCommit) {
     EXPECT_EQ(other.execAndGet("PRAGMA integrity_check").getString(), "ok");
 }
 
-TEST_F(TogetherTest, ACopyReplacesAFileThatIsThere) {
-    AddOneEach();
-    const QString copy = File("copy.mdb");
-    DatabaseCopy::Make(FoodsFile(), copy, DatabaseCopy::Sync::No);
-    Add(foods_, "FOODS", "FoodName", "Tart");
-    DatabaseCopy::Make(FoodsFile(), copy);
-    EXPECT_EQ(Count(copy, "FOODS"), 2);
-}
-
 TEST_F(TogetherTest, ACopyOfWhatIsMissingFails) {
     EXPECT_EQ(ErrorOf([&] { DatabaseCopy::Make(File("missing.mdb"), File("copy.mdb")); }), -14);
 }
