@@ -54,10 +54,11 @@ qint64 LowestPage(const QByteArray& log, qint64 pageSize) {
     constexpr qsizetype logHeader = 32, salts = 16, frameHeader = 24, frameSalts = 8,
                         saltLength = 8;
     qint64 lowest = 0;
-    for (qsizetype at = logHeader; at + frameHeader <= log.size(); at += frameHeader + pageSize) {
+    const qsizetype frame = frameHeader + pageSize;
+    for (qsizetype at = logHeader; at + frame <= log.size(); at += frame) {
         const qint64 page = qFromBigEndian<quint32>(log.constData() + at);
-        const auto frame = QByteArrayView(log).sliced(at + frameSalts, saltLength);
-        if (frame == QByteArrayView(log).sliced(salts, saltLength) &&
+        const auto ofFrame = QByteArrayView(log).sliced(at + frameSalts, saltLength);
+        if (ofFrame == QByteArrayView(log).sliced(salts, saltLength) &&
             (lowest == 0 || page < lowest))
             lowest = page;
     }

@@ -1,5 +1,6 @@
 #include "StoreTest.h"
 
+#include "store/LeftJournal.h"
 #include "store/Schema.h"
 #include "store/StoreError.h"
 
@@ -132,6 +133,19 @@ protected:
         for (qsizetype at = header; at + frameHeader + page <= log.size(); at += frameHeader + page)
             pages[qFromBigEndian<quint32>(log.constData() + at)] = log.mid(at + frameHeader, page);
         return pages;
+    }
+
+    /// Leaves a log of one page, which is in killed.mdb already. Returns the header of its frame.
+    QByteArray KillAfterTheOnlyFrameWasTakenIn() {
+        KillTheEarlierVersion("UPDATE FOODS SET Calories = 1 WHERE ID = 300");
+        const std::map<quint32, QByteArray> pages = PagesOfLog();
+        EXPECT_EQ(pages.size(), 1U);
+        const auto& [number, page] = *pages.begin();
+        QByteArray file = Contents(File("killed.mdb"));
+        PutInPlaceOfKilled(file.replace(qsizetype(number - 1) * page.size(), page.size(), page),
+                           "-wal");
+        constexpr qsizetype header = 32, frameHeader = 24;
+        return Contents(File("killed.mdb-wal")).mid(header, frameHeader);
     }
 
     /// A copied or restored file gets its own time, later than the journal's.
@@ -567,6 +581,35 @@ TEST_F(ConnectionTest, ALogWhoseFirstPageWasTakenInIsTakenInAgain) {
     Connection killed;
     killed.Open(File("killed.mdb"), DatabaseKind::Foods);
     EXPECT_EQ(First(killed, "SELECT count(*) FROM FOODS WHERE Calories = 1"), 1);
+}
+
+TEST_F(ConnectionTest, ALogOfOneFrameWasTakenInIfItsPageIsInTheFile) {
+    KillAfterTheOnlyFrameWasTakenIn();
+    Connection killed;
+    killed.Open(File("killed.mdb"), DatabaseKind::Foods);
+    EXPECT_EQ(First(killed, "SELECT count(*) FROM FOODS WHERE Calories = 1"), 1);
+}
+
+TEST_F(ConnectionTest, AFrameThatIsCutBehindItsHeaderDoesNotCount) {
+    QByteArray header = KillAfterTheOnlyFrameWasTakenIn();
+    qToBigEndian<quint32>(1, header.data()); // would be the lowest page
+    QFile log(File("killed.mdb-wal"));
+    ASSERT_TRUE(log.open(QIODevice::Append));
+    ASSERT_EQ(log.write(header), header.size());
+    log.close();
+    MoveLater(File("killed.mdb"), File("killed.mdb-wal"));
+    Connection killed;
+    killed.Open(File("killed.mdb"), DatabaseKind::Foods);
+    EXPECT_EQ(First(killed, "SELECT count(*) FROM FOODS WHERE Calories = 1"), 1);
+}
+
+TEST_F(ConnectionTest, AJournalThatMayOnlyBeReadIsTriedOnACopy) {
+    KillInTheMiddleOfAWrite();
+    for (const char* ending : {"", "-journal"})
+        ASSERT_TRUE(QFile::setPermissions(File("killed.mdb") + ending, NoWriting));
+    ASSERT_TRUE(QFile::setPermissions(folder_.path(), All));
+    const OrdinaryUser user;
+    EXPECT_TRUE(LeftJournal(File("killed.mdb")).ChangesTheFile());
 }
 
 TEST_F(ConnectionTest, AJournalThatWouldDamageTheFileIsLeftAlone) {
