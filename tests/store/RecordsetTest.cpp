@@ -635,6 +635,12 @@ TEST_F(RecordsetTest, ColumnsWhoseNamesDifferInOneSignAreToldApart) {
     EXPECT_EQ(set["a`"].Integer(), 2);
 }
 
+TEST_F(RecordsetTest, ColumnsWhoseNamesHaveOneHashAreToldApart) {
+    const Recordset set = Read("SELECT 1 AS \"b[\", 2 AS az");
+    EXPECT_EQ(set["b["].Integer(), 1);
+    EXPECT_EQ(set["az"].Integer(), 2);
+}
+
 TEST_F(RecordsetTest, TheCaseOfAColumnsNameDoesNotMatterForAnyLetter) {
     const Recordset set = Read(u"SELECT 1 AS \"\u0100\", 2 AS \"\u0420\", 3 AS \"\u03A9\""_qs);
     EXPECT_EQ(set[u"\u0101"_qs].Integer(), 1);
