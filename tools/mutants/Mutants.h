@@ -50,10 +50,10 @@ inline bool Is(int id) {
 }
 
 // clang-format off
-template <class L, class R> bool Less(int id, const L& l, const R& r) { if constexpr (requires { l <= r; }) return Is(id) ? l <= r : l < r; }
-template <class L, class R> bool Greater(int id, const L& l, const R& r) { if constexpr (requires { l >= r; }) return Is(id) ? l >= r : l > r; }
-template <class L, class R> bool NotGreater(int id, const L& l, const R& r) { if constexpr (requires { l < r; }) return Is(id) ? l < r : l <= r; }
-template <class L, class R> bool NotLess(int id, const L& l, const R& r) { if constexpr (requires { l > r; }) return Is(id) ? l > r : l >= r; }
+template <class L, class R> bool Less(int id, const L& l, const R& r) { return Is(id) ? l <= r : l < r; }
+template <class L, class R> bool Greater(int id, const L& l, const R& r) { return Is(id) ? l >= r : l > r; }
+template <class L, class R> bool NotGreater(int id, const L& l, const R& r) { return Is(id) ? l < r : l <= r; }
+template <class L, class R> bool NotLess(int id, const L& l, const R& r) { return Is(id) ? l > r : l >= r; }
 template <class L, class R> auto Sum(int id, L l, R r) { return Is(id) ? l - r : l + r; }
 template <class L, class R> auto Difference(int id, L l, R r) { return Is(id) ? l + r : l - r; }
 template <class L, class R> auto Product(int id, L l, R r) { return Is(id) ? l / r : l * r; }

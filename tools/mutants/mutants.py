@@ -2,8 +2,8 @@
 """Shows what the tests notice: makes small mistakes in the calculations, one at a time, and runs the tests.
 
 All mutants are compiled at once, into a copy of the tree; HALVANE_MUTANT chooses one while a test program runs.
-A mutant is killed if a test fails, crashes or needs far more time than without it. explained.txt says of the others why
-no test notices them.
+A mutant is killed if a test fails, crashes or needs far more time than without it. explained.txt names mutants that no
+test can notice and says why; they are not tried.
 
     tools/mutants/mutants.py build/mutants            # makes the copy, builds it, tries each mutant; goes on after a stop
     tools/mutants/mutants.py build/mutants --report   # lists what is known so far
@@ -35,6 +35,7 @@ PROGRAMS = {
     'recipes': ['knowledge', 'recipes'],
 }
 SEED = 1
+QUICK = 0.5  # seconds of processor time
 
 
 class Tree:
@@ -57,6 +58,7 @@ class Tree:
     def make_sources(self):
         self.copy()
         subprocess.run(['cmake', '--preset', 'dev'], cwd=self.source, check=True, stdout=subprocess.DEVNULL)
+        self.run(['ninja', '-C', str(self.build), *self.headers()], check=True)
         found = self.find()
         self.rewrite(found)
         self.drop_what_fails(found)
@@ -96,6 +98,11 @@ class Tree:
             parts = Path(entry['file']).relative_to(self.source).parts
             if parts[0] == 'src' and len(parts) == 3 and parts[1] in self.subjects:
                 yield entry
+
+    def headers(self):
+        """The precompiled headers of the sources: with them the compiler refuses a mutant far sooner."""
+        return {f'{Path(word).relative_to(self.build)}.gch' for entry in self.entries()
+                for word in shlex.split(entry['command']) if word.endswith('/cmake_pch.hxx')}
 
     @staticmethod
     def with_system(command):
@@ -143,63 +150,89 @@ class Tree:
 
 
 class Program:
-    """A test program, how long it takes and which mutants it comes by."""
+    """A test program: of each of its suites, how long it takes and which mutants it comes by."""
 
     def __init__(self, tree, name):
         self.path = tree.build / 'tests' / f'test_{name}'
         self.reached_file = tree.folder / f'{name}.reached'
-        self.time_file = tree.folder / f'{name}.seconds'
+        self.suites_file = tree.folder / f'{name}.suites.json'
 
     def measure(self):
-        if not self.time_file.exists():
-            self.reached_file.unlink(missing_ok=True)
-            before = resource.getrusage(resource.RUSAGE_CHILDREN)
-            if not self.passes(None, '*', 3600):
-                sys.exit(f'{self.path.name} fails without a mutant')
-            after = resource.getrusage(resource.RUSAGE_CHILDREN)
-            self.time_file.write_text(str(after.ru_utime - before.ru_utime + after.ru_stime - before.ru_stime))
-        self.seconds = float(self.time_file.read_text())
-        self.reached = set(map(int, self.reached_file.read_text().split()))
+        if not self.suites_file.exists():
+            self.suites_file.write_text(json.dumps({suite: self.measured(suite) for suite in self.names()}))
+        self.suites = json.loads(self.suites_file.read_text())
+        self.reached = {suite: set(one['reached']) for suite, one in self.suites.items()}
 
-    def kills(self, mutant, which):
-        return not self.passes(mutant, which, int(5 * self.seconds) + 5)
+    def names(self):
+        listed = self.run(None, 3600, '--gtest_list_tests', stdout=subprocess.PIPE).stdout
+        return [line.split()[0].rstrip('.') for line in listed.splitlines() if line[:1].strip() and '.' in line]
 
-    def passes(self, mutant, which, most_seconds):
+    def measured(self, suite):
+        self.reached_file.unlink(missing_ok=True)
+        before = resource.getrusage(resource.RUSAGE_CHILDREN)
+        if not self.passes(None, [suite], 3600):
+            sys.exit(f'{self.path.name} fails without a mutant: {suite}')
+        after = resource.getrusage(resource.RUSAGE_CHILDREN)
+        reached = self.reached_file.read_text().split() if self.reached_file.exists() else []
+        return {'seconds': after.ru_utime - before.ru_utime + after.ru_stime - before.ru_stime,
+                'reached': sorted(set(map(int, reached)))}
+
+    def that_reach(self, mutant):
+        return [suite for suite, reached in self.reached.items() if mutant in reached]
+
+    def is_quick(self, suite):
+        return self.suites[suite]['seconds'] < QUICK
+
+    def kills(self, mutant, suites):
+        return not self.passes(mutant, suites, 5 + int(5 * sum(self.suites[suite]['seconds'] for suite in suites)))
+
+    def passes(self, mutant, suites, most_seconds):
+        which = '--gtest_filter=' + ':'.join(f'{suite}.*' for suite in suites)
+        try:
+            return self.run(mutant, most_seconds, '--gtest_brief=1', '--gtest_fail_fast', which).returncode == 0
+        except subprocess.TimeoutExpired:
+            return False
+
+    def run(self, mutant, most_seconds, *options, stdout=subprocess.DEVNULL):
         """The limit is processor time, so that a busy machine does not matter; a test that waits for ever is ended."""
         environment = os.environ | {'QT_QPA_PLATFORM': 'offscreen', 'LC_ALL': 'C.UTF-8'}
         if mutant is None:
             environment['HALVANE_MUTANTS_REACHED'] = str(self.reached_file)
         else:
             environment['HALVANE_MUTANT'] = str(mutant)
-        command = [self.path, '--gtest_brief=1', '--gtest_fail_fast', '--gtest_filter=' + which]
         limit = lambda: resource.setrlimit(resource.RLIMIT_CPU, (most_seconds, most_seconds))
-        try:
-            return subprocess.run(command, env=environment, preexec_fn=limit, stdout=subprocess.DEVNULL,
-                                  stderr=subprocess.DEVNULL, timeout=20 * most_seconds + 60).returncode == 0
-        except subprocess.TimeoutExpired:
-            return False
+        return subprocess.run([self.path, *options], env=environment, preexec_fn=limit, stdout=stdout,
+                              stderr=subprocess.DEVNULL, text=True, timeout=20 * most_seconds + 60)
+
+
+def batches(mutant, programs):
+    """The suites that come by the mutant: those of its own file, then the quick ones, then the others."""
+    stem = Path(mutant['file']).stem
+    able = [(programs[name], suite) for name in PROGRAMS[mutant['file'].split('/')[1]]
+            for suite in programs[name].that_reach(mutant['id'])]
+    place = [0 if stem in suite else 1 if program.is_quick(suite) else 2 for program, suite in able]
+    for which in range(3):
+        batch = {}
+        for (program, suite), at in zip(able, place):
+            if at == which:
+                batch.setdefault(program, []).append(suite)
+        yield from batch.items()
 
 
 def killer(mutant, programs):
-    """The test program that notices the mutant; None if no test does. The tests of its own file come first."""
-    stem = Path(mutant['file']).stem
-    able = [programs[name] for name in PROGRAMS[mutant['file'].split('/')[1]]]
-    able = [program for program in able if mutant['id'] in program.reached]
-    for which in (f'*{stem}*', '*'):
-        for program in able:
-            if program.kills(mutant['id'], which):
-                return program.path.name
-    return None
+    """The test program that notices the mutant; None if no test does."""
+    return next((program.path.name for program, suites in batches(mutant, programs)
+                 if program.kills(mutant['id'], suites)), None)
 
 
 def try_all(tree, results, jobs):
     programs = {name: Program(tree, name) for name in tree.programs}
     for program in programs.values():
         program.measure()
-    known = {result['id'] for result in read(results)}
+    known, reasons = {result['id'] for result in read(results)}, explained()
     mutants = tree.mutants()
     random.Random(SEED).shuffle(mutants)  # so that a run that is stopped has seen a fair share
-    left = [mutant for mutant in mutants if mutant['id'] not in known]
+    left = [mutant for mutant in mutants if mutant['id'] not in known and key(mutant) not in reasons]
     with ThreadPool(jobs) as pool, results.open('a') as file:
         for mutant in pool.imap_unordered(lambda one: tried(one, programs), left):
             print(json.dumps(mutant), file=file, flush=True)
@@ -208,7 +241,7 @@ def try_all(tree, results, jobs):
 def tried(mutant, programs):
     started = time.monotonic()
     return mutant | {'killer': killer(mutant, programs),
-                     'reached': any(mutant['id'] in program.reached for program in programs.values()),
+                     'reached': any(program.that_reach(mutant['id']) for program in programs.values()),
                      'seconds': round(time.monotonic() - started, 1)}
 
 
@@ -229,23 +262,26 @@ def explained():
     return reasons
 
 
+def key(mutant):
+    return mutant['file'], ' | '.join((mutant['code'], mutant['text'], mutant['change']))
+
+
 def report(tree, results):
-    tried, reasons = read(results), explained()
-    for one in tried:
-        place = one['file'], ' | '.join((one['code'], one['text'], one['change']))
-        one['reason'] = None if one['killer'] else reasons.get(place)
-    for one in sorted(tried, key=lambda one: (one['file'], one['line'])):
-        if not one['killer'] and not one['reason']:
+    tried, reasons = {result['id']: result for result in read(results)}, explained()
+    mutants = [tried.get(mutant['id'], mutant) | {'reason': reasons.get(key(mutant))} for mutant in tree.mutants()]
+    for one in sorted(mutants, key=lambda one: (one['file'], one['line'])):
+        if 'killer' in one and not one['killer'] and not one['reason']:
             how = '' if one['reached'] else ' (no test comes by)'
             print(f"{one['file']}:{one['line']}: {one['text']}: {one['change']}{how}")
     for folder in tree.subjects:
-        print(f'{folder}: ' + counted([one for one in tried if one['file'].startswith(f'src/{folder}/')]))
-    print(f'{counted(tried)}, {len(tree.mutants())} mutants in all')
+        print(f'{folder}: ' + counted([one for one in mutants if one['file'].startswith(f'src/{folder}/')]))
+    print(f'all: {counted(mutants)}')
 
 
-def counted(tried):
-    killed, known = (sum(bool(one[what]) for one in tried) for what in ('killer', 'reason'))
-    return f'{killed} of {len(tried)} killed, {known} explained'
+def counted(mutants):
+    killed, known = (sum(bool(one.get(what)) for one in mutants) for what in ('killer', 'reason'))
+    tried = sum('killer' in one for one in mutants)
+    return f'{len(mutants)} mutants, {tried} tried, {killed} killed, {known} explained'
 
 
 def main():
