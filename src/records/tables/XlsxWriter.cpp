@@ -2,6 +2,7 @@
 
 #include "records/tables/CellText.h"
 #include "runtime/RuntimeError.h"
+#include "runtime/Utf8.h"
 
 #include <QFile>
 
@@ -27,7 +28,7 @@ void Require(lxw_error result) {
 std::string Storable(const std::string& text) {
     if (qsizetype(text.size()) <= LongestText && text.find('\0') == text.npos)
         return text;
-    return QString::fromStdString(text).remove(QChar::Null).left(LongestText).toStdString();
+    return Utf8::Text(text).remove(QChar::Null).left(LongestText).toStdString();
 }
 } // namespace
 

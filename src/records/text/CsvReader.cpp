@@ -52,7 +52,7 @@ QString CsvReader::Source() const {
     for (int i = 0; i < Count(); ++i)
         record += (i == 0 ? "" : std::string(1, separator_)) +
                   CsvText::Cell((*this)[i].toByteArray().toStdString(), separator_);
-    return QString::fromStdString(record);
+    return Utf8::Text(record);
 }
 
 void CsvReader::StartRecord() {
