@@ -12,4 +12,8 @@ export QT_QPA_PLATFORM=offscreen
 cmake --preset asan
 cmake --build --preset asan --target sanitized
 ctest --test-dir build/asan -L sanitized -j2 --output-on-failure
+# The exchange under the thread sanitizer, which cannot bear every layout of the memory.
+cmake --preset tsan
+cmake --build --preset tsan --target test_exchange
+setarch --addr-no-randomize ctest --preset tsan -L threads -j2
 exec ctest --test-dir build/dev -j2 --output-on-failure

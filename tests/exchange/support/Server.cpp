@@ -33,6 +33,11 @@ Server::Server(Settings settings) {
     EXPECT_TRUE(Until(started) && port_ != 0) << Log();
 }
 
+Server::~Server() {
+    process_.reset();
+    EXPECT_EQ(Log().find("Sanitizer: "), std::string::npos) << Log();
+}
+
 httplib::Client Server::Client() const {
     httplib::Client client("127.0.0.1", port_);
     client.set_keep_alive(true);

@@ -9,13 +9,17 @@
 #include <memory>
 #include <string>
 
-/// The real server as a process of its own, on a free port of the loopback.
+/// The real server as a process of its own, on a free port of the loopback. A finding of a
+/// sanitizer in its log is a failure of the test.
 class Server {
 public:
     using Settings = std::map<std::string, std::string>;
 
     /// The settings are those of the configuration file; `database` is among them.
     explicit Server(Settings settings);
+    ~Server();
+    Server(const Server&) = delete;
+    Server& operator=(const Server&) = delete;
 
     int Port() const { return port_; }
     std::string Address() const { return "http://127.0.0.1:" + std::to_string(port_); }
