@@ -1,5 +1,6 @@
 #include "store/DatabaseCopy.h"
 
+#include "OrdinaryUser.h"
 #include "StoreTest.h"
 
 #include <QFile>
@@ -28,6 +29,22 @@ TEST_F(DatabaseCopyTest, HoldsTheLastCommitWhileTheFileIsOpen) {
     AddFood(30001, "Rye");
     DatabaseCopy::Make(FoodsFile(), File("copy.mdb"));
     EXPECT_EQ(NameIn(File("copy.mdb")), "Rye");
+}
+
+TEST_F(DatabaseCopyTest, AFileInAFolderThatMayOnlyBeReadIsCopied) {
+    AddFood(30001, "Rye");
+    foods_.Close();
+    users_.Close();
+    const QTemporaryDir open;
+    ASSERT_TRUE(QFile::setPermissions(open.path(), All));
+    ASSERT_TRUE(QFile::setPermissions(FoodsFile(), All));
+    ASSERT_TRUE(QFile::setPermissions(folder_.path(), NoWriting));
+    {
+        const OrdinaryUser user;
+        DatabaseCopy::Make(FoodsFile(), open.filePath("copy.mdb"));
+        EXPECT_EQ(NameIn(open.filePath("copy.mdb")), "Rye");
+    }
+    ASSERT_TRUE(QFile::setPermissions(folder_.path(), All));
 }
 
 TEST_F(DatabaseCopyTest, AFileThatIsNotThereIsNamed) {
