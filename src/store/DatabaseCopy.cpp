@@ -53,6 +53,8 @@ void DatabaseCopy::Make(const QString& from, const QString& to) {
             target.exec(FewPages);
             SQLite::Backup backup(target, source);
             const int result = CopyAllPages(backup);
+            if (result == SQLITE_BUSY) // nobody else knows the copy
+                throw StoreError::Make(result, from, {});
             if (result != SQLITE_DONE)
                 throw SQLite::Exception(target.getHandle(), result);
         });
