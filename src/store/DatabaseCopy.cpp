@@ -53,7 +53,7 @@ void DatabaseCopy::Make(const QString& from, const QString& to) {
             target.exec(FewPages);
             SQLite::Backup backup(target, source);
             const int result = CopyAllPages(backup);
-            if (result == SQLITE_BUSY) // nobody else knows the copy
+            if (result == SQLITE_BUSY) // only the source can be in use elsewhere
                 throw StoreError::Make(result, from, {});
             if (result != SQLITE_DONE)
                 throw SQLite::Exception(target.getHandle(), result);

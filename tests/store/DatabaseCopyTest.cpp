@@ -13,18 +13,20 @@
 namespace {
 constexpr int FirstFood = 30001;
 constexpr int LastFood = 33000;
-constexpr int Patience = 60000; ///< milliseconds
+constexpr int LongestWait = 60000; ///< milliseconds
 
 /// Adds one to the first and to the last food, again and again, each time in one change.
 class Writer {
 public:
     explicit Writer(const QString& path)
-        : database_(path.toStdString(), SQLite::OPEN_READWRITE, Patience) {
+        : database_(path.toStdString(), SQLite::OPEN_READWRITE, LongestWait) {
         database_.exec("PRAGMA synchronous = OFF");
     }
 
     void Run(const std::stop_token& end, std::latch& begun) {
-        for (Write(), begun.count_down(); !end.stop_requested();)
+        Write();
+        begun.count_down();
+        while (!end.stop_requested())
             Write();
     }
 
@@ -81,7 +83,7 @@ TEST_F(DatabaseCopyTest, HoldsTheLastCommitWhileTheFileIsOpen) {
 
 TEST_F(DatabaseCopyTest, AFileInAFolderThatMayOnlyBeReadIsCopied) {
     AddFood(30001, "Rye");
-    foods_.Raw().exec("PRAGMA journal_mode = WAL"); // which needs two more files for reading
+    foods_.Raw().exec("PRAGMA journal_mode = WAL"); // a reader, too, makes two more files
     foods_.Close();
     users_.Close();
     const QTemporaryDir open;
@@ -106,7 +108,7 @@ TEST_F(DatabaseCopyTest, AFileOfManyPagesIsCopiedWhole) {
     EXPECT_EQ(Ask(copy, "PRAGMA integrity_check"), "ok");
 }
 
-TEST_F(DatabaseCopyTest, ACopyHoldsNoHalfOfAChangeThatCameWhileItWasMade) {
+TEST_F(DatabaseCopyTest, WhatIsWrittenDuringTheCopyIsInItWhollyOrNotAtAll) {
     AddManyFoods();
     std::latch begun(1);
     const std::jthread thread(
